@@ -1,0 +1,33 @@
+#ifndef KELIFC_PLATFORM_GUID_H_
+#define KELIFC_PLATFORM_GUID_H_
+
+#include <cstdint>
+#include <cstring>
+
+#ifdef _WIN32
+#include <guiddef.h>
+#else
+/// A 128-bit identifier. The three numeric fields hold host byte order.
+struct _GUID {
+  std::uint32_t Data1;
+  std::uint16_t Data2;
+  std::uint16_t Data3;
+  std::uint8_t Data4[8];
+};
+using GUID = _GUID;
+
+inline bool operator==(const _GUID& a, const _GUID& b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+inline bool operator!=(const _GUID& a, const _GUID& b) { return !(a == b); }
+#endif
+
+namespace KelIFC {
+
+/// True if all 16 bytes are 0: the mark for "no identifier".
+inline bool IsNullGuid(const _GUID& guid) {
+  const _GUID null = {};
+  return std::memcmp(&guid, &null, sizeof guid) == 0;
+}
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_PLATFORM_GUID_H_
