@@ -12,6 +12,7 @@ set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
 add_library(kelifc_settings INTERFACE)
+target_compile_definitions(kelifc_settings INTERFACE KELIFC_BUILDING)
 target_include_directories(kelifc_settings INTERFACE
   "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}/generated")
 target_compile_options(kelifc_settings INTERFACE -Wall -Wextra -Wpedantic
