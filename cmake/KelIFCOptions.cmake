@@ -1,8 +1,13 @@
-# Switches of the build, and the compile settings that every target of the project shares.
+# Switches of the build, and the compile settings that the targets of the project share.
 option(KELIFC_BUILD_COMMAND "Build the kelifc command" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_BUILD_BENCHMARKS "Build the benchmarks" OFF)
-option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ON)
+option(KELIFC_INSTALL "Make the install rules" ${PROJECT_IS_TOP_LEVEL})
+option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
+
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
+  set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)
+endif()
 
 set(CMAKE_CXX_STANDARD 20)
 set(CMAKE_CXX_STANDARD_REQUIRED ON)
@@ -11,9 +16,22 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
+# A compiler cache speeds up repeated builds; nothing depends on it.
+find_program(KELIFC_CCACHE ccache)
+mark_as_advanced(KELIFC_CCACHE)
+if(KELIFC_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${KELIFC_CCACHE}")
+endif()
+
+# What every program and library here is compiled with.
+add_library(kelifc_warnings INTERFACE)
+target_compile_options(kelifc_warnings INTERFACE -Wall -Wextra -Wpedantic
+  $<$<BOOL:${KELIFC_WARNINGS_AS_ERRORS}>:-Werror>)
+
+# What the library's own sources, its generator and its tests need on top: they include by path
+# from the root of the tree, and they stand on the exporting side of KELIFC_API.
 add_library(kelifc_settings INTERFACE)
+target_link_libraries(kelifc_settings INTERFACE kelifc_warnings)
 target_compile_definitions(kelifc_settings INTERFACE KELIFC_BUILDING)
 target_include_directories(kelifc_settings INTERFACE
   "${PROJECT_SOURCE_DIR}" "${PROJECT_BINARY_DIR}/generated")
-target_compile_options(kelifc_settings INTERFACE -Wall -Wextra -Wpedantic
-  $<$<BOOL:${KELIFC_WARNINGS_AS_ERRORS}>:-Werror>)

@@ -1,0 +1,35 @@
+# What `cmake --install` lays out: the shared library, its headers in the folders that the includes
+# name, the command, and the two ways a build system finds them: CMake package and pkg-config.
+include(CMakePackageConfigHelpers)
+
+install(TARGETS kelifc EXPORT KelIFCTargets
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/kelifc" "${PROJECT_BINARY_DIR}/generated/kelifc"
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+  FILES_MATCHING PATTERN "*.h"
+  PATTERN "import" EXCLUDE)
+
+set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/KelIFC")
+install(EXPORT KelIFCTargets NAMESPACE KelIFC:: DESTINATION "${package_dir}")
+configure_package_config_file(
+  "${CMAKE_CURRENT_LIST_DIR}/KelIFCConfig.cmake.in" "${PROJECT_BINARY_DIR}/KelIFCConfig.cmake"
+  INSTALL_DESTINATION "${package_dir}")
+write_basic_package_version_file("${PROJECT_BINARY_DIR}/KelIFCConfigVersion.cmake"
+  COMPATIBILITY SameMajorVersion)
+install(FILES "${PROJECT_BINARY_DIR}/KelIFCConfig.cmake"
+  "${PROJECT_BINARY_DIR}/KelIFCConfigVersion.cmake" DESTINATION "${package_dir}")
+
+# kelifc.pc names its folders relative to itself, so an installed tree can be moved as a whole.
+set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
+file(RELATIVE_PATH pc_prefix "/prefix/${pc_dir}" "/prefix")
+configure_file("${CMAKE_CURRENT_LIST_DIR}/kelifc.pc.in" "${PROJECT_BINARY_DIR}/kelifc.pc" @ONLY)
+install(FILES "${PROJECT_BINARY_DIR}/kelifc.pc" DESTINATION "${pc_dir}")
+
+if(TARGET kelifc_command)
+  file(RELATIVE_PATH bin_to_lib "/prefix/${CMAKE_INSTALL_BINDIR}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
+  set_target_properties(kelifc_command PROPERTIES INSTALL_RPATH "$ORIGIN/${bin_to_lib}")
+  install(TARGETS kelifc_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+endif()

@@ -1,0 +1,38 @@
+# Sourced by demo, check and .ci/run: where the tree is, what it needs, how it is built.
+set -euo pipefail
+
+root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+jobs=$(nproc)
+cd "$root"
+
+build_packages=(g++ cmake ninja-build pkg-config libgtest-dev libgmock-dev libbenchmark-dev
+  libcli11-dev nlohmann-json3-dev)
+
+# Installs those of the named Debian packages that are missing.
+install_missing() {
+  command -v dpkg-query >/dev/null || return 0
+  local package missing=() sudo=()
+  for package; do
+    dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q 'ok installed' ||
+      missing+=("$package")
+  done
+  [ ${#missing[@]} -gt 0 ] || return 0
+  echo "Installing ${missing[*]}" >&2
+  [ "$(id -u)" -eq 0 ] || sudo=(sudo)
+  "${sudo[@]}" apt-get update -qq >&2
+  "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
+    --no-install-recommends "${missing[@]}" </dev/null >&2
+}
+
+# build PRESET [TARGET...]: configures and builds, all targets where none is named.
+build() {
+  local preset=$1
+  shift
+  cmake --preset "$preset" --log-level=WARNING
+  cmake --build --preset "$preset" --parallel "$jobs" ${1:+--target "$@"}
+}
+
+# run_tests PRESET: the whole suite; ctest's closing lines come last.
+run_tests() {
+  ctest --preset "$1" --parallel "$jobs" --no-tests=error
+}
