@@ -1,0 +1,180 @@
+#ifndef KELIFC_TOOLS_SCHEMAC_DESCRIPTION_H_
+#define KELIFC_TOOLS_SCHEMAC_DESCRIPTION_H_
+
+#include <cstdint>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "tools/schemac/diagnostics.h"
+#include "tools/schemac/release_set.h"
+
+namespace schemac {
+
+/// What an attribute holds, or what a position of a record is read as.
+enum class Kind {
+  kString,
+  kLabel,       ///< IfcLabel where the release has it, else STRING
+  kIdentifier,  ///< IfcIdentifier where the release has it, else STRING
+  kReal,
+  kInteger,
+  kBoolean,
+  kLogical,
+  kMeasure,  ///< IfcLengthMeasure, also for measures other than length
+  kCoordinates,
+  kEnumText,    ///< an enumeration kept as its text
+  kLabels,      ///< a list of labels
+  kReference,   ///< one reference
+  kSet,         ///< a set of references
+  kList,        ///< a list of references
+  kEnum,        ///< an enumeration with a table
+  kValue,       ///< a typed value in place
+  kGlobalId64,  ///< the identifier of 22 characters, checked when read, made when missing
+  kGlobalId85,  ///< the identifier of 20 characters, made when missing
+  kInstance,    ///< an instance held by value, a cache
+};
+
+/// An attribute that a class stores.
+struct Attribute {
+  Place place;
+  std::string name;
+  Kind kind = Kind::kString;
+  std::string type;          ///< target class, enumeration or cached class; empty for none
+  std::string initial;       ///< row of the enumeration or text that a new instance holds
+  std::string absent;        ///< number that the getter gives while the attribute is unset
+  std::string writtenAs;     ///< literal that is written whatever was read; empty: the value
+  std::string reason;        ///< why it departs from the regular form
+  bool inFile = true;        ///< false: kept in memory only
+  bool isInverse = false;    ///< filled by relationships
+  bool isOwnerless = false;  ///< a reference that cannot resolve by itself
+  ReleaseSet releases = ReleaseSet::All();
+};
+
+/// One act of reading or writing a record, in the order of the file.
+struct Step {
+  enum class Act {
+    kAttribute,  ///< read into and written from an attribute
+    kDrop,       ///< read into a temporary, written as a literal
+    kLiteral,    ///< not read, written as a literal
+    kStar,       ///< the mark of a redeclared attribute: passed by, written as `*`
+    kLink,       ///< fills the inverse side of a relationship; nothing is written
+  };
+  Place place;
+  Act act = Act::kAttribute;
+  std::string name;           ///< the attribute, for kAttribute and kLink
+  Kind kind = Kind::kString;  ///< what a dropped position is read as
+  std::string literal;        ///< what is written for kDrop and kLiteral
+  std::string target;         ///< class of the instances that kLink reaches
+  std::string operation;      ///< the operation that kLink calls on them
+  std::string reason;
+  ReleaseSet releases = ReleaseSet::All();
+};
+
+/// An explicit order of the record, which replaces the order of the body's lines.
+struct RecordOrder {
+  bool forReading = true;
+  bool forWriting = true;
+  std::vector<Step> steps;
+  ReleaseSet releases = ReleaseSet::All();
+};
+
+/// An operation of a class, as described.
+struct Operation {
+  Place place;
+  std::string name;
+  std::string attribute;      ///< the attribute it is about, where the name does not tell
+  std::string parameters;     ///< in parentheses, for an operation with a signature
+  std::string result;         ///< as described; empty: void
+  bool bothForms = false;     ///< a writable and a const form
+  bool hasSignature = false;  ///< its body is written by hand
+  bool isConst = false;
+  bool isOverride = false;
+  bool isVirtual = true;
+  ReleaseSet releases = ReleaseSet::All();
+};
+
+/// A piece of text that holds for some releases: a base list, a class to go on with.
+struct Marked {
+  std::string text;
+  ReleaseSet releases = ReleaseSet::None();
+};
+
+/// A class with attributes, or a select.
+struct Entity {
+  Place place;
+  std::string family;
+  std::string name;
+  std::string doc;
+  std::vector<Marked> bases;  ///< later ones replace earlier ones for their releases
+  ReleaseSet releases = ReleaseSet::None();
+  ReleaseSet file = ReleaseSet::None();  ///< where a file can name it
+  ReleaseSet made = ReleaseSet::None();  ///< where a host can make it
+  bool isAbstract = false;
+  std::vector<Attribute> attributes;  ///< in stored order
+  std::vector<Step> steps;            ///< in file order
+  std::vector<RecordOrder> orders;
+  std::vector<Operation> operations;  ///< in slot order
+  std::vector<Marked> constructors;   ///< parameter lists; bodies are written by hand
+  std::vector<Marked> chains;         ///< class whose Parse and Write go ahead of its own
+  ReleaseSet customParse = ReleaseSet::None();
+  ReleaseSet customWrite = ReleaseSet::None();
+  ReleaseSet noParse = ReleaseSet::None();
+  ReleaseSet noWrite = ReleaseSet::None();
+  std::vector<Marked> departures;  ///< reasons that belong to no attribute
+};
+
+/// A defined type that can stand in a select: a class with a value as second base.
+struct DefinedType {
+  Place place;
+  std::string family;
+  std::string name;
+  std::string doc;
+  std::string base;
+  Kind kind = Kind::kString;
+  ReleaseSet releases = ReleaseSet::None();
+  ReleaseSet file = ReleaseSet::None();
+};
+
+/// The rows of an enumeration, in table order.
+struct EnumTable {
+  std::vector<std::pair<std::string, std::int32_t>> rows;
+  ReleaseSet releases = ReleaseSet::None();
+};
+
+struct Enumeration {
+  Place place;
+  std::string family;
+  std::string name;
+  std::string doc;
+  bool isCore = false;  ///< one for all releases, in the core namespace
+  std::vector<EnumTable> tables;
+};
+
+/// A free function of the release namespaces, with its body written by hand.
+struct Function {
+  Place place;
+  std::string family;
+  std::string name;
+  std::string parameters;
+  std::string result;
+  std::string doc;
+  ReleaseSet releases = ReleaseSet::None();
+};
+
+struct Family {
+  std::string name;
+  std::string title;
+};
+
+/// Everything that the description files say, in their order.
+struct Description {
+  std::vector<Family> families;
+  std::vector<Entity> entities;
+  std::vector<DefinedType> definedTypes;
+  std::vector<Enumeration> enumerations;
+  std::vector<Function> functions;
+};
+
+}  // namespace schemac
+
+#endif  // KELIFC_TOOLS_SCHEMAC_DESCRIPTION_H_

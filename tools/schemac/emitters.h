@@ -1,0 +1,28 @@
+#ifndef KELIFC_TOOLS_SCHEMAC_EMITTERS_H_
+#define KELIFC_TOOLS_SCHEMAC_EMITTERS_H_
+
+#include "tools/schemac/emit_common.h"
+
+namespace schemac {
+
+/// The header of one family in one release.
+void EmitHeader(const ReleaseModel& model, const Family& family, Files& files);
+
+/// The source of one family in one release.
+void EmitSource(const ReleaseModel& model, const Family& family, Files& files);
+
+/// The name table of one release: what a file can name.
+void EmitNames(const ReleaseModel& model, Files& files);
+
+/// Forward declarations, the list of classes for templates and the umbrella header of one release.
+void EmitRelease(const Description& description, const ReleaseModel& model, Files& files);
+
+/// The enumerations of the core namespace, one header per family.
+void EmitCoreEnumerations(const Description& description, Files& files);
+
+/// A test source that compares the order of the virtual operations with the compiler's layout.
+void EmitSlots(const std::vector<ReleaseModel>& models, Files& files);
+
+}  // namespace schemac
+
+#endif  // KELIFC_TOOLS_SCHEMAC_EMITTERS_H_

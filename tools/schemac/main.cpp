@@ -1,0 +1,69 @@
+// Makes the entity classes from their descriptions:
+//
+//   schemac OUTPUT-FOLDER DESCRIPTION...
+//
+// Every file that would be the same keeps its time, so that what depends on it is not built again.
+
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <iterator>
+
+#include "tools/schemac/emitters.h"
+#include "tools/schemac/parser.h"
+
+namespace {
+
+std::string ReadFile(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  if (!in) throw std::runtime_error(path + ": error: cannot be read");
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
+void WriteIfChanged(const std::filesystem::path& path, const std::string& text) {
+  if (std::filesystem::exists(path) && ReadFile(path.string()) == text) return;
+  std::filesystem::create_directories(path.parent_path());
+  std::ofstream out(path, std::ios::binary);
+  out << text;
+  if (!out.flush()) throw std::runtime_error(path.string() + ": error: cannot be written");
+}
+
+schemac::Files Emit(const schemac::Description& description) {
+  schemac::Files files;
+  std::vector<schemac::ReleaseModel> models;
+  for (std::size_t release = 0; release < schemac::kReleaseCount; ++release) {
+    models.push_back(schemac::Resolve(description, release));
+    for (const auto& family : description.families) {
+      schemac::EmitHeader(models.back(), family, files);
+      schemac::EmitSource(models.back(), family, files);
+    }
+    schemac::EmitNames(models.back(), files);
+    schemac::EmitRelease(description, models.back(), files);
+  }
+  schemac::EmitCoreEnumerations(description, files);
+  schemac::EmitSlots(models, files);
+  return files;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  if (argc < 3) {
+    std::cerr << "usage: schemac OUTPUT-FOLDER DESCRIPTION...\n";
+    return 64;
+  }
+  try {
+    schemac::Description description;
+    for (int i = 2; i < argc; ++i) {
+      schemac::ParseDescription(argv[i], ReadFile(argv[i]), description);
+    }
+    for (const auto& [path, text] : Emit(description)) {
+      WriteIfChanged(std::filesystem::path(argv[1]) / path, text);
+    }
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << "\n";
+    return 1;
+  }
+  return 0;
+}

@@ -1,0 +1,259 @@
+#include "tools/schemac/resolver.h"
+
+#include <algorithm>
+#include <array>
+#include <cctype>
+#include <sstream>
+
+#include "tools/schemac/operations.h"
+
+namespace schemac {
+
+namespace {
+
+constexpr std::string_view kRoot = "IfcUnknown";
+
+constexpr std::array kCoreClasses = {
+    CoreClass{"IfcUnknown", "kelifc/core/unknown.h", true, true},
+    CoreClass{"IfcValue", "kelifc/core/value.h", true, false},
+    CoreClass{"IfcMaterialSelect", "kelifc/core/selects.h", true, false},
+    CoreClass{"IfcActorSelect", "kelifc/core/selects.h", true, false},
+    CoreClass{"IfcTrimmingSelect", "kelifc/core/selects.h", false, false},
+    CoreClass{"IfcBooleanOperand", "kelifc/core/selects.h", false, false},
+    CoreClass{"IfcGeometricSetSelect", "kelifc/core/selects.h", false, false},
+    CoreClass{"IfcUnit", "kelifc/core/selects.h", false, false},
+    CoreClass{"IfcRepresentationItem", "kelifc/core/representation_item.h", true, false},
+    CoreClass{"IfcGeometricRepresentationItem", "kelifc/core/representation_item.h", true, false},
+    CoreClass{"IfcSurface", "kelifc/core/representation_item.h", true, false},
+    CoreClass{"IfcSolidModel", "kelifc/core/representation_item.h", true, false},
+    CoreClass{"IfcPoint", "kelifc/core/representation_item.h", true, false},
+    CoreClass{"IfcCartesianPoint", "kelifc/core/cartesian_point.h", true, true},
+    CoreClass{"IfcBoundingBox", "kelifc/core/bounding_box.h", true, true},
+    CoreClass{"IfcUnitAssignment", "kelifc/core/unit_assignment.h", true, true},
+    CoreClass{"IfcLengthMeasure", "kelifc/core/length_measure.h", true, true},
+    CoreClass{"IfcParameterValue", "kelifc/core/parameter_value.h", true, true},
+};
+
+std::vector<std::string> Words(const std::string& text) {
+  std::istringstream in(text);
+  std::vector<std::string> words;
+  for (std::string word; in >> word;) {
+    if (word.back() == ',') word.pop_back();
+    if (!word.empty()) words.push_back(word);
+  }
+  return words;
+}
+
+/// The last piece of text that holds for the release; null if none does.
+const Marked* LastFor(const std::vector<Marked>& pieces, std::size_t release) {
+  const auto last = std::find_if(pieces.rbegin(), pieces.rend(),
+                                 [&](const Marked& piece) { return piece.releases.Has(release); });
+  return last == pieces.rend() ? nullptr : &*last;
+}
+
+std::string ToLower(std::string text) {
+  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+  return text;
+}
+
+/// Builds the model of one release from the description.
+class Resolver {
+ public:
+  Resolver(const Description& description, std::size_t release)
+      : description(description), release(release) {
+    model.release = release;
+  }
+
+  ReleaseModel Run() {
+    CollectNames();
+    for (auto& type : model.classes) ResolveShape(type);
+    for (auto& type : model.classes) ResolveRecord(type);
+    for (auto& type : model.classes) {
+      CheckTypes(type);
+      ResolveOperations(type, model);
+      CollectBodies(type);
+    }
+    return std::move(model);
+  }
+
+ private:
+  void CollectNames() {
+    for (const auto& enumeration : description.enumerations) {
+      if (enumeration.isCore || FindTable(enumeration, release) != nullptr) {
+        AddUnique(model.enumerations, enumeration);
+      }
+    }
+    for (const auto& type : description.definedTypes) {
+      if (type.releases.Has(release)) AddUnique(model.definedTypes, type);
+    }
+    for (const auto& entity : description.entities) {
+      if (!entity.releases.Has(release)) continue;
+      const bool isNew = model.indexOf.emplace(entity.name, model.classes.size()).second;
+      if (!isNew || FindCoreClass(entity.name) != nullptr) {
+        throw DescriptionError(entity.place, entity.name + " is described twice");
+      }
+      ResolvedClass type;
+      type.entity = &entity;
+      model.classes.push_back(std::move(type));
+    }
+    for (const auto& function : description.functions) {
+      if (function.releases.Has(release)) model.functions.push_back(&function);
+    }
+  }
+
+  template <class Entry>
+  static void AddUnique(std::map<std::string, const Entry*, std::less<>>& map, const Entry& entry) {
+    if (!map.emplace(entry.name, &entry).second) {
+      throw DescriptionError(entry.place, entry.name + " is described twice");
+    }
+  }
+
+  void ResolveShape(ResolvedClass& type) {
+    const Entity& entity = *type.entity;
+    if (entity.doc.empty()) throw DescriptionError(entity.place, entity.name + " has no doc line");
+    if (const Marked* bases = LastFor(entity.bases, release)) type.bases = Words(bases->text);
+    for (const auto& base : type.bases) {
+      if (!model.KnowsClass(base)) {
+        throw DescriptionError(entity.place, "the base " + base + " is not described");
+      }
+      const auto at = model.indexOf.find(base);
+      const bool isLater = at != model.indexOf.end() && at->second >= model.indexOf[entity.name];
+      if (isLater) throw DescriptionError(entity.place, "the base " + base + " stands behind it");
+      if (const CoreClass* core = FindCoreClass(base)) type.isUnknown |= core->isUnknown;
+      if (const ResolvedClass* other = model.Find(base)) type.isUnknown |= other->isUnknown;
+    }
+    for (const auto& attribute : entity.attributes) {
+      if (attribute.releases.Has(release)) type.attributes.push_back(&attribute);
+    }
+    for (const auto& piece : entity.constructors) {
+      if (piece.releases.Has(release)) type.constructors.push_back(piece.text);
+    }
+    for (const auto& piece : entity.departures) {
+      if (piece.releases.Has(release)) type.departures.push_back(piece.text);
+    }
+  }
+
+  /// Classes come in an order in which bases stand first, so the chain above is resolved.
+  void ResolveRecord(ResolvedClass& type) {
+    const Entity& entity = *type.entity;
+    for (const auto& step : entity.steps) {
+      if (!step.releases.Has(release)) continue;
+      if (step.act != Step::Act::kLiteral) type.reads.push_back(step);
+      if (step.act != Step::Act::kLink) type.writes.push_back(step);
+    }
+    for (const auto& order : entity.orders) {
+      if (!order.releases.Has(release)) continue;
+      if (order.forReading) ReplaceOrder(type.reads, order, true);
+      if (order.forWriting) ReplaceOrder(type.writes, order, false);
+    }
+    for (const auto& step : type.reads) CheckStep(type, step);
+    for (const auto& step : type.writes) CheckStep(type, step);
+    type.customParse = entity.customParse.Has(release);
+    type.customWrite = entity.customWrite.Has(release);
+    type.hasParse = type.customParse || (!type.reads.empty() && !entity.noParse.Has(release));
+    type.hasWrite = type.customWrite || (!type.writes.empty() && !entity.noWrite.Has(release));
+    type.readBase = Ancestor(type, &ResolvedClass::hasParse);
+    type.writeBase = Ancestor(type, &ResolvedClass::hasWrite);
+    if (const Marked* chain = LastFor(entity.chains, release)) {
+      type.readBase = type.writeBase = chain->text;
+    }
+    const bool isReachable = entity.file.Has(release) || entity.made.Has(release);
+    if (isReachable && !type.hasParse && type.readBase == kRoot) ForwardToRoot(type);
+  }
+
+  /// A class that can be made must read and write, if only its name.
+  static void ForwardToRoot(ResolvedClass& type) {
+    type.hasParse = true;
+    type.reads.clear();
+  }
+
+  /// An explicit order gives the positions; what fills inverse sides stays behind them.
+  static void ReplaceOrder(std::vector<Step>& steps, const RecordOrder& order, bool forReading) {
+    std::vector<Step> replaced;
+    for (const auto& step : order.steps) {
+      const bool isRead = step.act != Step::Act::kLiteral;
+      if (!forReading || isRead) replaced.push_back(step);
+    }
+    for (const auto& step : steps) {
+      if (step.act == Step::Act::kLink && forReading) replaced.push_back(step);
+    }
+    steps = std::move(replaced);
+  }
+
+  void CheckStep(const ResolvedClass& type, const Step& step) const {
+    if (step.act == Step::Act::kLink && !model.KnowsClass(step.target)) {
+      throw DescriptionError(step.place, "the class " + step.target + " is not described");
+    }
+    const bool namesAttribute = step.act == Step::Act::kAttribute || step.act == Step::Act::kLink;
+    if (namesAttribute && FindAttribute(model, type, step.name) == nullptr) {
+      throw DescriptionError(step.place, "no attribute " + step.name + " in this release");
+    }
+  }
+
+  std::string Ancestor(const ResolvedClass& type, bool ResolvedClass::*has) const {
+    for (const auto& base : type.bases) {
+      if (const CoreClass* core = FindCoreClass(base)) {
+        if (core->hasParse) return base;
+        continue;
+      }
+      const ResolvedClass* other = model.Find(base);
+      if (other == nullptr || !other->isUnknown) continue;
+      return other->*has ? base : Ancestor(*other, has);
+    }
+    return std::string(kRoot);
+  }
+
+  void CheckTypes(const ResolvedClass& type) const {
+    for (const Attribute* attribute : type.attributes) {
+      if (attribute->type.empty()) continue;
+      const bool known = attribute->kind == Kind::kEnum
+                             ? model.enumerations.count(attribute->type) != 0
+                             : model.KnowsClass(attribute->type);
+      if (!known) {
+        throw DescriptionError(attribute->place, attribute->type + " is not described in release " +
+                                                     std::string(kReleases[release].mark));
+      }
+    }
+  }
+
+  static void CollectBodies(ResolvedClass& type) {
+    bool byHand = type.customParse || type.customWrite || !type.constructors.empty();
+    for (const auto& operation : type.operations) byHand |= operation.body.empty();
+    if (byHand) type.bodies.push_back(ToLower(type.entity->name) + ".inl");
+  }
+
+  const Description& description;
+  std::size_t release;
+  ReleaseModel model;
+};
+
+}  // namespace
+
+const CoreClass* FindCoreClass(std::string_view name) {
+  for (const auto& row : kCoreClasses) {
+    if (row.name == name) return &row;
+  }
+  return nullptr;
+}
+
+const EnumTable* FindTable(const Enumeration& enumeration, std::size_t release) {
+  for (const auto& table : enumeration.tables) {
+    if (table.releases.Has(release)) return &table;
+  }
+  return nullptr;
+}
+
+const ResolvedClass* ReleaseModel::Find(std::string_view name) const {
+  const auto at = indexOf.find(name);
+  return at == indexOf.end() ? nullptr : &classes[at->second];
+}
+
+bool ReleaseModel::KnowsClass(std::string_view name) const {
+  return Find(name) != nullptr || FindCoreClass(name) != nullptr || definedTypes.count(name) != 0;
+}
+
+ReleaseModel Resolve(const Description& description, std::size_t release) {
+  return Resolver(description, release).Run();
+}
+
+}  // namespace schemac
