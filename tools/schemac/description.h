@@ -2,6 +2,7 @@
 #define KELIFC_TOOLS_SCHEMAC_DESCRIPTION_H_
 
 #include <cstdint>
+#include <map>
 #include <string>
 #include <utility>
 #include <vector>
@@ -115,12 +116,14 @@ struct Entity {
   std::vector<RecordOrder> orders;
   std::vector<Operation> operations;  ///< in slot order
   std::vector<Marked> constructors;   ///< parameter lists; bodies are written by hand
+  std::vector<Marked> bodies;         ///< files with the code written by hand
   std::vector<Marked> chains;         ///< class whose Parse and Write go ahead of its own
   ReleaseSet customParse = ReleaseSet::None();
   ReleaseSet customWrite = ReleaseSet::None();
   ReleaseSet noParse = ReleaseSet::None();
   ReleaseSet noWrite = ReleaseSet::None();
-  std::vector<Marked> departures;  ///< reasons that belong to no attribute
+  std::vector<Marked> departures;               ///< reasons that belong to no attribute
+  std::map<std::string, std::string> comments;  ///< of the operations that are written by hand
 };
 
 /// A defined type that can stand in a select: a class with a value as second base.

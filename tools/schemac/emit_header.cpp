@@ -69,7 +69,7 @@ class HeaderEmitter {
         "kelifc/core/logical.h",     "kelifc/core/length_measure.h",
         "kelifc/core/string.h",      "kelifc/core/unknown.h",
         "kelifc/platform/export.h",  "kelifc/platform/guid.h",
-        "kelifc/schema/values.h",    "kelifc/schema/" + std::string(info.folder) + "/fwd.h"};
+        "kelifc/schema/common.h",    "kelifc/schema/" + std::string(info.folder) + "/fwd.h"};
     for (const auto& type : model.classes) {
       if (type.entity->family != family.name) continue;
       for (const auto& base : type.bases) AddHeader(headers, base);
@@ -220,7 +220,7 @@ class HeaderEmitter {
       } else {
         out.Line();
       }
-      out.Doc("  ", operation.doc);
+      if (!operation.doc.empty()) out.Doc("  ", operation.doc);
       std::string line = operation.isVirtual ? "  virtual " : "  ";
       line += operation.result + " " + operation.name + "(" + operation.parameters + ")";
       if (operation.isConst) line += " const";

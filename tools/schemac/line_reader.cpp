@@ -50,7 +50,7 @@ std::vector<Line> ReadLines(const std::string& file, std::string_view text) {
       reason = raw.substr(mark + kReasonMark.size());
       raw = TrimRight(raw.substr(0, mark));
     }
-    if (indent > kContinuationIndent && !lines.empty()) {
+    if (indent >= kContinuationIndent && !lines.empty()) {
       Append(lines.back().text, raw);
       Append(lines.back().reason, reason);
       continue;

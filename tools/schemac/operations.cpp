@@ -112,7 +112,11 @@ class OperationWriter {
     const bool givesWritable =
         resolved.result.back() == '*' && !StartsWith(resolved.result, "const ");
     resolved.isConst = operation.isConst || (resolved.result != "void" && !givesWritable);
-    resolved.doc = "Written by hand, see the comment at its body.";
+    const auto comment = type.entity->comments.find(operation.name);
+    if (comment == type.entity->comments.end() && !operation.isOverride) {
+      throw DescriptionError(operation.place, "no line tells what " + operation.name + " does");
+    }
+    if (comment != type.entity->comments.end()) resolved.doc = comment->second;
     type.operations.push_back(std::move(resolved));
   }
 

@@ -314,6 +314,11 @@ class Parser {
       entity.chains.push_back({in.Name("a class"), releases});
     } else if (in.Take("make")) {
       entity.constructors.push_back({in.Rest(), releases});
+    } else if (in.Take("bodies")) {
+      entity.bodies.push_back({in.Rest(), releases});
+    } else if (in.Take("tell")) {
+      const std::string operation = in.Name("an operation");
+      entity.comments[operation] = in.Rest();
     } else if (in.Take("drop")) {
       addStep(ReadDropped(in));
     } else if (in.Take("literal")) {

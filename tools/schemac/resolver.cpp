@@ -216,10 +216,15 @@ class Resolver {
     }
   }
 
-  static void CollectBodies(ResolvedClass& type) {
+  void CollectBodies(ResolvedClass& type) const {
     bool byHand = type.customParse || type.customWrite || !type.constructors.empty();
     for (const auto& operation : type.operations) byHand |= operation.body.empty();
-    if (byHand) type.bodies.push_back(ToLower(type.entity->name) + ".inl");
+    const Marked* named = LastFor(type.entity->bodies, release);
+    if (named != nullptr) {
+      for (const auto& file : Words(named->text)) type.bodies.push_back(file + ".inl");
+    } else if (byHand) {
+      type.bodies.push_back(ToLower(type.entity->name) + ".inl");
+    }
   }
 
   const Description& description;

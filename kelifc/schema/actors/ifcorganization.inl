@@ -1,0 +1,3 @@
+void IfcOrganization::SetAddresses(const std::vector<IfcUnknown*>& items) { addresses = items; }
+
+void IfcOrganization::SetRoles(const std::vector<IfcUnknown*>& items) { roles = items; }

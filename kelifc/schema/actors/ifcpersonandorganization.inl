@@ -1,0 +1,1 @@
+void IfcPersonAndOrganization::SetRoles(const std::vector<IfcUnknown*>& items) { roles = items; }

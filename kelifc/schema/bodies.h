@@ -1,0 +1,21 @@
+#ifndef KELIFC_SCHEMA_BODIES_H_
+#define KELIFC_SCHEMA_BODIES_H_
+
+// What the sources of entity classes include ahead of their namespace. The operations that are
+// written by hand stand in files of their own, <family>/<entity>.inl: each is compiled once in the
+// namespace of every release that has the entity, so that its text names classes plainly.
+
+#include <array>
+#include <cmath>
+#include <cstddef>
+#include <memory>
+
+#include "kelifc/core/cartesian_point.h"
+#include "kelifc/core/global_id.h"
+#include "kelifc/core/number_text.h"
+#include "kelifc/core/unit_assignment.h"
+#include "kelifc/schema/record.h"
+#include "kelifc/schema/references.h"
+#include "kelifc/server/ifc_server.h"
+
+#endif  // KELIFC_SCHEMA_BODIES_H_

@@ -1,0 +1,18 @@
+#ifndef KELIFC_SCHEMA_COMMON_H_
+#define KELIFC_SCHEMA_COMMON_H_
+
+// What the header of every family of entities needs besides the value classes.
+
+#include <cstddef>
+#include <cstdint>
+#include <iosfwd>
+#include <string>
+#include <vector>
+
+#include "kelifc/schema/dimensional_exponents.h"
+
+namespace KelIFC {
+class IfcServer;
+}
+
+#endif  // KELIFC_SCHEMA_COMMON_H_

@@ -1,0 +1,30 @@
+#ifndef KELIFC_SCHEMA_DIMENSIONAL_EXPONENTS_H_
+#define KELIFC_SCHEMA_DIMENSIONAL_EXPONENTS_H_
+
+#include <cstdint>
+
+#include "kelifc/platform/export.h"
+
+namespace KelIFC {
+
+/// The exponents of the seven base units in a unit; all 0 for a plain number.
+struct IfcDimensionalExponents {
+  std::int32_t LengthExponent = 0;
+  std::int32_t MassExponent = 0;
+  std::int32_t TimeExponent = 0;
+  std::int32_t ElectricCurrentExponent = 0;
+  std::int32_t ThermodynamicTemperatureExponent = 0;
+  std::int32_t AmountOfSubstanceExponent = 0;
+  std::int32_t LuminousIntensityExponent = 0;
+};
+
+/// The exponents that the name of an SI unit stands for; all 0 for a number that is no
+/// IfcSiUnitName.
+KELIFC_API IfcDimensionalExponents DimensionsForSiUnit(std::int32_t name);
+
+/// The factor of an SI prefix; 1.0 for 0 and for a number that is no IfcSiPrefix.
+KELIFC_API double CoefficientOfPrefix(std::int32_t prefix);
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_SCHEMA_DIMENSIONAL_EXPONENTS_H_

@@ -1,0 +1,3 @@
+void IfcLocalPlacement::SetRelativePlacement(const IfcAxis2Placement* item) {
+  relativePlacement.SetReference(item);
+}

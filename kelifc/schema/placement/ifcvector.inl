@@ -1,0 +1,22 @@
+IfcVector::IfcVector(IfcServer* server, IfcDirection* direction, IfcLengthMeasure magnitude) {
+  SetServer(server);
+  SetOrientation(direction);
+  SetMagnitude(magnitude);
+}
+
+IfcVector::IfcVector(IfcDirection* direction, IfcLengthMeasure magnitude) {
+  SetOrientation(direction);
+  SetMagnitude(magnitude);
+}
+
+INTEGER IfcVector::GetDim() const {
+  const IfcDirection* direction = GetOrientation();
+  return direction == nullptr ? INTEGER(0) : direction->GetDim();
+}
+
+void IfcVector::SetOrientation(IfcDirection* item) {
+  if (item != nullptr) item->SetServer(GetServer());
+  // A vector owns its direction: the one it held so far goes with the reset of the reference.
+  orientation = std::size_t{0};
+  orientation = item;
+}

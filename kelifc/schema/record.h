@@ -1,0 +1,137 @@
+#ifndef KELIFC_SCHEMA_RECORD_H_
+#define KELIFC_SCHEMA_RECORD_H_
+
+#include <cstddef>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "kelifc/core/enum_text.h"
+#include "kelifc/core/member.h"
+#include "kelifc/core/string.h"
+#include "kelifc/core/text_out.h"
+#include "kelifc/core/unknown.h"
+#include "kelifc/core/value_member.h"
+
+// How the record of an entity is read and written: as a row of parts. A part is an attribute, or
+// one of the classes below for a position that is not simply an attribute.
+
+namespace KelIFC {
+
+/// Reads the parts one behind the other and gives the cursor behind the last.
+template <class... Parts>
+const char* ParseRecord(const char* cursor, Parts&&... parts) {
+  ((cursor = parts.Parse(cursor)), ...);
+  return cursor;
+}
+
+/// Writes a comma and a part for each part: a class whose base has written attributes.
+template <class... Parts>
+std::ostream& WriteNext(std::ostream& out, const Parts&... parts) {
+  ((PutChar(out, ','), parts.Write(out)), ...);
+  return out;
+}
+
+/// Writes the parts with commas between them: the first attributes of a record.
+template <class... Parts>
+std::ostream& WriteFirst(std::ostream& out) {
+  return out;
+}
+template <class First, class... Parts>
+std::ostream& WriteFirst(std::ostream& out, const First& first, const Parts&... parts) {
+  first.Write(out);
+  return WriteNext(out, parts...);
+}
+
+/// A position that is read as a `Value` and forgotten.
+template <class Value>
+struct Dropped {
+  const char* Parse(const char* cursor) const { return Value().Parse(cursor); }
+};
+
+/// A position that is written as a fixed text.
+struct Literal {
+  explicit constexpr Literal(std::string_view text) : text(text) {}
+  void Write(std::ostream& out) const { PutText(out, text); }
+  std::string_view text;
+};
+
+/// A position in which a subtype has redeclared an attribute as derived: a `*` is passed by, and
+/// anything else stays for the next part.
+struct Redeclared {
+  explicit Redeclared(IfcUnknown& owner) : owner(owner) {}
+  const char* Parse(const char* cursor) const { return owner.ParseDef(cursor); }
+  IfcUnknown& owner;
+};
+
+/// An enumeration with its table. A text that the table does not know gives `missing`.
+template <class Enum, std::size_t N>
+struct EnumeratedPart {
+  const char* Parse(const char* cursor) const {
+    return ParseEnumValue(value, cursor, missing, table);
+  }
+  void Write(std::ostream& out) const { WriteEnumValue(out, value, table); }
+  Enum& value;
+  const EnumTextRow (&table)[N];
+  Enum missing;
+};
+template <class Enum, std::size_t N>
+EnumeratedPart<Enum, N> Enumerated(Enum& value, const EnumTextRow (&table)[N],
+                                   Enum missing = Enum()) {
+  return {value, table, missing};
+}
+template <class Enum, std::size_t N>
+EnumeratedPart<const Enum, N> Enumerated(const Enum& value, const EnumTextRow (&table)[N],
+                                         Enum missing = Enum()) {
+  return {value, table, missing};
+}
+
+/// A typed value that stands in place; written with the name of its type, `$` if there is none.
+struct ValueInPlaceReader {
+  const char* Parse(const char* cursor) const {
+    return ParseValueMember(owner.GetServer(), cursor, member);
+  }
+  MEMBER& member;
+  IfcUnknown& owner;
+};
+struct ValueInPlaceWriter {
+  void Write(std::ostream& out) const { WriteValueMember(out, member); }
+  const MEMBER& member;
+};
+inline ValueInPlaceReader ValueInPlace(MEMBER& member, IfcUnknown& owner) {
+  return {member, owner};
+}
+inline ValueInPlaceWriter ValueInPlace(const MEMBER& member, const IfcUnknown&) { return {member}; }
+
+/// The identifier of 22 characters: one that does not decode is replaced when it is read, and an
+/// empty one by a new one, which is not kept, when it is written.
+struct GlobalId64Reader {
+  const char* Parse(const char* cursor) const;
+  STRING& text;
+};
+struct GlobalId64Writer {
+  void Write(std::ostream& out) const;
+  const STRING& text;
+};
+inline GlobalId64Reader GlobalId64(STRING& text) { return {text}; }
+inline GlobalId64Writer GlobalId64(const STRING& text) { return {text}; }
+
+/// The identifier of 20 characters: an empty one is written as a new one, which is not kept.
+struct GlobalId85 {
+  explicit GlobalId85(const STRING& text) : text(text) {}
+  void Write(std::ostream& out) const;
+  const STRING& text;
+};
+
+/// Writes a defined type with the name of its type around the value.
+template <class Value, class Type>
+std::ostream& WriteNamedValue(const Type& type, std::ostream& out) {
+  type.IfcUnknown::Write(out);
+  type.Value::Write(out);
+  PutChar(out, ')');
+  return out;
+}
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_SCHEMA_RECORD_H_

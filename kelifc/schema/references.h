@@ -1,0 +1,98 @@
+#ifndef KELIFC_SCHEMA_REFERENCES_H_
+#define KELIFC_SCHEMA_REFERENCES_H_
+
+#include <cstddef>
+#include <new>
+#include <type_traits>
+
+#include "kelifc/core/list_of_members.h"
+#include "kelifc/core/member.h"
+#include "kelifc/core/model.h"
+#include "kelifc/core/resolve.h"
+#include "kelifc/core/set_of_members.h"
+#include "kelifc/core/unknown.h"
+
+// What the accessors of entities do with references.
+
+namespace KelIFC {
+
+/// The instance side of a class or select; null for null and for a select that is no instance.
+template <class Type>
+const IfcUnknown* UnknownOf(const Type* item) {
+  if constexpr (std::is_base_of_v<IfcUnknown, Type>) {
+    return item;
+  } else {
+    return dynamic_cast<const IfcUnknown*>(item);
+  }
+}
+
+/// What a reference leads to; null if it is unset, leads nowhere or to another class.
+template <class Type>
+Type* InstanceOf(MEMBER& member) {
+  return dynamic_cast<Type*>(member.GetInstance());
+}
+template <class Type>
+const Type* InstanceOf(const MEMBER& member) {
+  return dynamic_cast<const Type*>(member.GetInstance());
+}
+
+/// The typed view of an aggregate of `owner`: as long as the aggregate, null where a reference
+/// leads nowhere or to another class; empty without a server.
+template <class View, class Members>
+View ViewOf(const Members& members, const IfcUnknown& owner) {
+  View view;
+  ResolveMemberSet(view, members, const_cast<IfcUnknown&>(owner).GetServer());
+  return view;
+}
+
+/// Adds a reference to `item`; nothing if the model of `owner` does not hold it.
+template <class Type, class Members>
+void AddMember(Members& members, const Type* item, const IfcUnknown& owner) {
+  const std::size_t number = FindNumber(owner.GetServer(), UnknownOf(item));
+  if (number != 0) members.Add(MEMBER(number));
+}
+
+/// Replaces the members by references to `items`, leaving out what the model does not hold.
+template <class Members, class Items>
+void ReplaceMembers(Members& members, const Items& items, const IfcUnknown& owner) {
+  members.Clear();
+  members.SetExists(true);
+  for (std::size_t i = 1; i <= items.GetSize(); ++i) AddMember(members, items[i], owner);
+}
+
+/// Calls `add` of the instance that a reference of the relationship `source` leads to, if it is of
+/// the class that has that operation.
+template <class Source, class Target, class Item>
+void LinkBack(Source& source, const MEMBER& reference, void (Target::*add)(Item*)) {
+  auto* target =
+      dynamic_cast<Target*>(FindInstance(source.GetServer(), static_cast<std::size_t>(reference)));
+  if (target != nullptr) (target->*add)(&source);
+}
+
+/// The same for each member of an aggregate.
+template <class Source, class Members, class Target, class Item>
+void LinkBack(Source& source, const Members& members, void (Target::*add)(Item*)) {
+  for (std::size_t i = 1; i <= members.GetSize(); ++i) LinkBack(source, members[i], add);
+}
+
+/// A new instance, null if there is no memory for it.
+template <class Type>
+Type* MakeOrNull() {
+  try {
+    return new (std::nothrow) Type;
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
+/// A new instance that is registered with the server; without one the caller owns it.
+template <class Type>
+Type* MakeItem(IfcServer* server) {
+  Type* item = MakeOrNull<Type>();
+  if (item != nullptr && server != nullptr) AddInstance(server, item);
+  return item;
+}
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_SCHEMA_REFERENCES_H_

@@ -1,0 +1,3 @@
+IfcDimensionalExponents IfcSiUnit::GetDimensions() const { return DimensionsForSiUnit(name); }
+
+double IfcSiUnit::GetPrefixCoefficient() const { return CoefficientOfPrefix(prefix); }
