@@ -1,5 +1,7 @@
 #include "kelifc/schema/record.h"
 
+#include <charconv>
+
 #include "kelifc/core/global_id.h"
 #include "kelifc/server/ifc_server.h"
 
@@ -26,6 +28,17 @@ void GlobalId85::Write(std::ostream& out) const {
   } else {
     text.Write(out);
   }
+}
+
+void Scientific::Write(std::ostream& out) const {
+  char text[32];
+  const double number = value;
+  const auto end =
+      std::to_chars(text, text + sizeof text, number, std::chars_format::scientific, 1);
+  for (char* c = text; c != end.ptr; ++c) {
+    if (*c >= 'a' && *c <= 'z') *c = static_cast<char>(*c - 'a' + 'A');
+  }
+  PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
 }
 
 }  // namespace KelIFC

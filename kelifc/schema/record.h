@@ -8,6 +8,7 @@
 
 #include "kelifc/core/enum_text.h"
 #include "kelifc/core/member.h"
+#include "kelifc/core/real.h"
 #include "kelifc/core/string.h"
 #include "kelifc/core/text_out.h"
 #include "kelifc/core/unknown.h"
@@ -121,6 +122,13 @@ struct GlobalId85 {
   explicit GlobalId85(const STRING& text) : text(text) {}
   void Write(std::ostream& out) const;
   const STRING& text;
+};
+
+/// A number with one digit behind the point and an upper-case exponent; never unset.
+struct Scientific {
+  explicit Scientific(const REAL& value) : value(value) {}
+  void Write(std::ostream& out) const;
+  const REAL& value;
 };
 
 /// Writes a defined type with the name of its type around the value.

@@ -4,4 +4,49 @@
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/release_tables.h"
 
+// What the server asks of the releases' classes besides their names.
+
 namespace KelIFC {
+
+namespace {
+
+/// The identifier of an instance if it is a `Root`. The walks over a whole model ask for the class
+/// of every instance, which the cache answers without a search per instance.
+template <class Root>
+bool ReadGuidOf(const IfcUnknown* instance, _GUID& guid) {
+  thread_local CastCache<const Root> roots;
+  const Root* root = roots.Cast(instance);
+  if (root == nullptr) return false;
+  guid = root->GetGlobalGUID();
+  return true;
+}
+
+template <class Project>
+const Project* AsProject(const IfcUnknown* instance) {
+  thread_local CastCache<const Project> projects;
+  return projects.Cast(instance);
+}
+
+}  // namespace
+
+bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid) {
+  return ReadGuidOf<KelIFC2x::IfcRoot>(instance, guid) ||
+         ReadGuidOf<KelIFC2x2::IfcRoot>(instance, guid) ||
+         ReadGuidOf<KelIFC2x3::IfcRoot>(instance, guid);
+}
+
+// The two oldest releases have no project class: no instance can be one.
+const KelIFC151::IfcProject* AsProject151(const IfcUnknown*) { return nullptr; }
+const KelIFC20::IfcProject* AsProject20(const IfcUnknown*) { return nullptr; }
+
+const KelIFC2x::IfcProject* AsProject2x(const IfcUnknown* instance) {
+  return AsProject<KelIFC2x::IfcProject>(instance);
+}
+const KelIFC2x2::IfcProject* AsProject2x2(const IfcUnknown* instance) {
+  return AsProject<KelIFC2x2::IfcProject>(instance);
+}
+const KelIFC2x3::IfcProject* AsProject2x3(const IfcUnknown* instance) {
+  return AsProject<KelIFC2x3::IfcProject>(instance);
+}
+
+}  // namespace KelIFC

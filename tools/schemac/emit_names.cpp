@@ -46,7 +46,7 @@ void EmitNames(const ReleaseModel& model, Files& files) {
     out.Line();
     out.Line("constexpr NameRow kRows[] = {");
     for (const auto& name : names) {
-      out.Line("    {\"" + ToUpper(name) + "\", &MakeInstance<" + std::string(info.nameSpace) +
+      out.Line("    {\"" + ToUpper(name) + "\", MakeNew<" + std::string(info.nameSpace) +
                "::" + name + ">},");
     }
     out.Line("};");

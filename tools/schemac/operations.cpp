@@ -223,6 +223,7 @@ class OperationWriter {
       resolved.body = {"return ViewOf<" + resolved.result + ">(" + member + ", *this);"};
     } else {
       resolved.result = StoredType(*attribute, model.release);
+      if (operation.isConst) resolved.result = "const " + resolved.result + "&";
       resolved.doc =
           attribute->name + (attribute->kind == Kind::kEnum ? "." : ", unset if absent.");
       resolved.body = {"return " + member + ";"};
@@ -241,7 +242,7 @@ class OperationWriter {
     const std::string member = Member();
     resolved.doc = "Sets " + attribute->name + ".";
     if (attribute->kind == Kind::kReference) {
-      resolved.parameters = Target(operation) + "* item";
+      resolved.parameters = (operation.isConst ? "const " : "") + Target(operation) + "* item";
       resolved.doc = "Refers " + attribute->name +
                      " to an instance of the model; null or one that the model does not hold "
                      "makes it unset.";

@@ -32,7 +32,7 @@ LIST<const IfcDirection*> IfcAxis2Placement2D::GetP() const {
   }
   auto* second =
       dynamic_cast<IfcDirection*>(FindInstance(server, static_cast<std::size_t>(secondAxis)));
-  DeriveSecondAxis(second, GetRefDirection());
+  DeriveSecondAxis(second, GetRefDirection(), server);
   axes.Add(GetRefDirection());
   axes.Add(second);
   return axes;

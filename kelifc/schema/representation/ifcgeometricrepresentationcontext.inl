@@ -1,7 +1,4 @@
 std::ostream& IfcGeometricRepresentationContext::Write(std::ostream& out) const {
-  IfcRepresentationContext::Write(out);
-  WriteNext(out, coordinateSpaceDimension);
-  PutChar(out, ',');
-  PutText(out, FormatPrecision(precision).View());
-  return WriteNext(out, worldCoordinateSystem, trueNorth);
+  return WriteNext(IfcRepresentationContext::Write(out), coordinateSpaceDimension,
+                   Scientific(precision), worldCoordinateSystem, trueNorth);
 }

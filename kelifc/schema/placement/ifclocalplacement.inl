@@ -1,3 +1,0 @@
-void IfcLocalPlacement::SetRelativePlacement(const IfcAxis2Placement* item) {
-  relativePlacement.SetReference(item);
-}
