@@ -86,9 +86,9 @@ Step ReadDropped(TokenReader& in) {
   step.act = Step::Act::kDrop;
   const std::string word = in.Word("a kind");
   const KindName* kind = FindKind(word);
-  const bool readable = kind != nullptr && (!kind->hasType || kind->kind == Kind::kReference ||
-                                            kind->kind == Kind::kEnum || kind->kind == Kind::kSet ||
-                                            kind->kind == Kind::kList);
+  const bool readable = kind != nullptr && kind->kind != Kind::kValue &&
+                        kind->kind != Kind::kInstance && kind->kind != Kind::kLabels &&
+                        kind->kind != Kind::kGlobalId64 && kind->kind != Kind::kGlobalId85;
   if (!readable) throw DescriptionError(step.place, "'" + word + "' cannot be read and dropped");
   step.kind = kind->kind;
   step.literal = in.Word("the literal that is written");

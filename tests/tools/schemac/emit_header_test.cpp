@@ -1,0 +1,51 @@
+#include "tests/tools/schemac/describe.h"
+
+namespace schemac {
+namespace {
+
+TEST(EmitHeader, ShowsAConcreteClassWithItsMembers) {
+  const std::string header = Resolved(
+                                 "entity IfcA : IfcUnknown all file new\n  doc What it is.\n"
+                                 "  Name string\n  Next ref IfcA\n  ops GetName, SetNext\n")
+                                 .Header();
+  EXPECT_TRUE(Holds(header, "/// What it is.\nclass KELIFC_API IfcA : public IfcUnknown {\n"));
+  EXPECT_TRUE(Holds(header, "static IfcA* NewItem(IfcServer* server);"));
+  EXPECT_TRUE(Holds(header, "  virtual STRING GetName() const;"));
+  EXPECT_TRUE(Holds(header, "  MEMBER next{this};"));
+  EXPECT_TRUE(Holds(header, "namespace KelIFC2x3 {"));
+}
+
+TEST(EmitHeader, ProtectsTheConstructionOfAbstractClasses) {
+  const std::string header = Resolved("entity IfcA : IfcUnknown all abstract\n  doc A.\n").Header();
+  EXPECT_TRUE(Holds(header, " protected:\n  IfcA();\n  ~IfcA() override;\n"));
+}
+
+TEST(EmitHeader, MakesAnEntityWithoutBasesAMarker) {
+  const std::string header = Resolved("entity IfcShell all abstract\n  doc A.\n").Header();
+  EXPECT_TRUE(Holds(header, "class KELIFC_API IfcShell {"));
+  EXPECT_FALSE(Holds(header, "GetItemName"));
+}
+
+TEST(EmitHeader, TellsDepartures) {
+  const std::string header =
+      Resolved(
+          "entity IfcA : IfcUnknown all file\n  doc A.\n  drop enum .X.   -- never kept\n"
+          "  Name string   -- cut short\n  without Write   -- not written\n")
+          .Header();
+  EXPECT_TRUE(Holds(header, "/// Departs: never kept."));
+  EXPECT_TRUE(Holds(header, "/// cut short"));
+  EXPECT_TRUE(Holds(header, "/// Departs: not written."));
+}
+
+TEST(EmitHeader, ShowsDefinedTypesBehindTheirBase) {
+  const std::string header = Resolved(
+                                 "entity IfcSimpleValue : IfcValue 2x2.. abstract\n  doc V.\n"
+                                 "type IfcReal : IfcSimpleValue real 2x3 file\n  doc R.\n")
+                                 .Header();
+  EXPECT_LT(header.find("class KELIFC_API IfcSimpleValue"),
+            header.find("class KELIFC_API IfcReal"));
+  EXPECT_TRUE(Holds(header, "  IfcReal(double value);"));
+}
+
+}  // namespace
+}  // namespace schemac

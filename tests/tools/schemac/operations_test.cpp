@@ -1,0 +1,88 @@
+#include "tools/schemac/operations.h"
+
+#include "tests/tools/schemac/describe.h"
+
+namespace schemac {
+namespace {
+
+/// The operations of IfcA with these lines, as "result name(parameters) const".
+std::vector<std::string> OperationsOf(const std::string& lines, std::size_t release = k2x3) {
+  const Resolved resolved(
+      "entity IfcT : IfcUnknown all abstract\n  doc T.\n"
+      "entity IfcSimpleValue : IfcValue 2x2.. abstract\n  doc V.\n"
+      "type IfcLabel : IfcSimpleValue string 2x2..\n  doc L.\n"
+      "entity IfcA : IfcUnknown all\n  doc A.\n" +
+          lines,
+      release);
+  std::vector<std::string> operations;
+  for (const auto& operation : resolved.model.Find("IfcA")->operations) {
+    operations.push_back(operation.result + " " + operation.name + "(" + operation.parameters +
+                         ")" + (operation.isConst ? " const" : ""));
+  }
+  return operations;
+}
+
+using Texts = std::vector<std::string>;
+
+TEST(ResolveOperations, GivesReferencesAsPointersOfTheirClass) {
+  EXPECT_EQ(OperationsOf("  X ref IfcT\n  ops _GetX, GetX, SetX\n"),
+            (Texts{"IfcT* _GetX()", "const IfcT* GetX() const", "void SetX(IfcT* item)"}));
+}
+
+TEST(ResolveOperations, GivesBothFormsInTheTwoNewestReleasesOnly) {
+  EXPECT_EQ(OperationsOf("  X ref IfcT\n  ops GetX~\n", k2x2),
+            (Texts{"IfcT* GetX()", "const IfcT* GetX() const"}));
+  EXPECT_EQ(OperationsOf("  X ref IfcT\n  ops GetX~\n", k2x), (Texts{"const IfcT* GetX() const"}));
+}
+
+TEST(ResolveOperations, GivesAggregatesAsTypedViews) {
+  EXPECT_EQ(OperationsOf("  HasXs set IfcT\n  ops GetHasXs, AddX, SetHasXs\n"),
+            (Texts{"SET<const IfcT*> GetHasXs() const", "void AddX(IfcT* item)",
+                   "void SetHasXs(const SET<IfcT*>& items)"}));
+}
+
+TEST(ResolveOperations, GivesTextsAsLabelsWhereTheReleaseHasThem) {
+  EXPECT_EQ(OperationsOf("  X label\n  ops GetX, SetX\n", k2x3),
+            (Texts{"IfcLabel GetX() const", "void SetX(const char* text)"}));
+  EXPECT_EQ(OperationsOf("  X label\n  ops GetX, SetX\n", k2x),
+            (Texts{"STRING GetX() const", "void SetX(const char* text)"}));
+}
+
+TEST(ResolveOperations, LeavesOutOperationsOnAttributesOfOtherReleases) {
+  EXPECT_EQ(OperationsOf("  [2x] X real\n  ops GetX, SetX\n", k2x3), Texts{});
+}
+
+TEST(ResolveOperations, TranslatesSignatures) {
+  EXPECT_EQ(OperationsOf("  ops Turn(index, real), GetP: list IfcT, Find(const IfcT&): IfcT*\n"
+                         "  tell Turn T.\n  tell GetP P.\n  tell Find F.\n"),
+            (Texts{"void Turn(std::size_t index, REAL value)", "LIST<const IfcT*> GetP() const",
+                   "IfcT* Find(const IfcT& item)"}));
+}
+
+TEST(ResolveOperations, WantsASignatureOrAnAttribute) {
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetX\n"),
+            "f.schema:4:7: error: GetX of IfcA names no attribute and has no signature");
+}
+
+TEST(ResolveOperations, WantsALineThatTellsWhatAHandWrittenOneDoes) {
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetX: real\n"),
+            "f.schema:4:7: error: no line tells what GetX does");
+}
+
+TEST(ResolveOperations, WantsAClassForAReferenceThatIsShown) {
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  X ref any\n  ops GetX\n"),
+            "f.schema:5:7: error: X is not narrowed to a class");
+}
+
+TEST(ResolveOperations, AddsToAggregatesOnly) {
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  X real\n  ops AddX\n"),
+            "f.schema:5:7: error: X is no aggregate");
+}
+
+TEST(MemberName, StartsInLowerCaseAndIsNoWordOfTheLanguage) {
+  EXPECT_EQ(MemberName("XDim"), "xDim");
+  EXPECT_EQ(MemberName("Operator"), "operatorValue");
+}
+
+}  // namespace
+}  // namespace schemac

@@ -1,0 +1,115 @@
+#include "tools/schemac/parser.h"
+
+#include "tests/tools/schemac/describe.h"
+
+namespace schemac {
+namespace {
+
+TEST(ParseDescription, ReadsAnEntityWithItsReleases) {
+  const auto description = Describe(
+      "entity IfcA : IfcUnknown   20..   abstract   file 2x..   new 2x3\n  doc What it is.\n");
+  const Entity& entity = description.entities.front();
+  EXPECT_EQ(entity.name, "IfcA");
+  EXPECT_EQ(entity.doc, "What it is.");
+  EXPECT_TRUE(entity.isAbstract);
+  EXPECT_EQ(entity.releases, *ReleaseSet::Read("20.."));
+  EXPECT_EQ(entity.file, *ReleaseSet::Read("2x.."));
+  EXPECT_EQ(entity.made, *ReleaseSet::Read("2x3"));
+}
+
+TEST(ParseDescription, ReadsAttributesWithModifiersAndReasons) {
+  const auto description = Describe(
+      "entity IfcA : IfcUnknown all\n"
+      "  [2x..] Depth measure absent 0.1\n"
+      "  Links set IfcA inverse\n"
+      "  Kind enum IfcKind = FIRST as .X.   -- never kept\n"
+      "  Held cache IfcB\n");
+  const auto& attributes = description.entities.front().attributes;
+  ASSERT_EQ(attributes.size(), 4u);
+  EXPECT_EQ(attributes[0].absent, "0.1");
+  EXPECT_EQ(attributes[0].releases, *ReleaseSet::Read("2x.."));
+  EXPECT_FALSE(attributes[1].inFile);
+  EXPECT_TRUE(attributes[1].isInverse);
+  EXPECT_EQ(attributes[2].initial, "FIRST");
+  EXPECT_EQ(attributes[2].writtenAs, ".X.");
+  EXPECT_EQ(attributes[2].reason, "never kept");
+  EXPECT_FALSE(attributes[3].inFile);
+  EXPECT_EQ(description.entities.front().steps.size(), 2u);
+}
+
+TEST(ParseDescription, ReadsOperationsInOrder) {
+  const auto description = Describe(
+      "entity IfcA : IfcUnknown all\n"
+      "  ops GetX~, AddY=HasYs, [2x] Turn(index, real) const: list IfcA, SetZ const\n");
+  const auto& operations = description.entities.front().operations;
+  ASSERT_EQ(operations.size(), 4u);
+  EXPECT_TRUE(operations[0].bothForms);
+  EXPECT_EQ(operations[1].attribute, "HasYs");
+  EXPECT_EQ(operations[2].parameters, "index, real");
+  EXPECT_EQ(operations[2].result, "list IfcA");
+  EXPECT_TRUE(operations[2].isConst);
+  EXPECT_EQ(operations[2].releases, *ReleaseSet::Read("2x"));
+  EXPECT_FALSE(operations[3].hasSignature);
+}
+
+TEST(ParseDescription, ReadsEnumerationsFunctionsAndDefinedTypes) {
+  const auto description = Describe(
+      "enum IfcKind core\n  doc Kinds.\n  all FIRST 1 SECOND -2\n"
+      "type IfcText : IfcValue string 2x2.. file\n  doc A text.\n"
+      "function IfcTurn(const IfcA& a): IfcB*   [..20]\n  doc Turns.\n");
+  EXPECT_TRUE(description.enumerations.front().isCore);
+  EXPECT_EQ(description.enumerations.front().tables.front().rows[1].second, -2);
+  EXPECT_EQ(description.definedTypes.front().file, *ReleaseSet::Read("2x2.."));
+  EXPECT_EQ(description.functions.front().parameters, "(const IfcA& a)");
+  EXPECT_EQ(description.functions.front().result, "IfcB*");
+  EXPECT_EQ(description.functions.front().releases, *ReleaseSet::Read("..20"));
+}
+
+struct Fault {
+  const char* body;
+  const char* message;
+};
+
+class RefusedDescription : public testing::TestWithParam<Fault> {};
+
+TEST_P(RefusedDescription, IsToldWithItsPlace) {
+  EXPECT_EQ(Refusal(GetParam().body), std::string("f.schema:") + GetParam().message);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Parser, RefusedDescription,
+    testing::Values(
+        Fault{"thing A\n", "2:1: error: expected 'entity', 'type', 'enum' or 'function'"},
+        Fault{"family g : G\n", "2:8: error: a file describes one family"},
+        Fault{"entity : IfcUnknown all\n", "2:8: error: expected the name of the entity"},
+        Fault{"entity IfcA : IfcUnknown 3x\n", "2:26: error: '3x' names no releases"},
+        Fault{"entity IfcA : IfcUnknown all odd\n",
+              "2:30: error: expected 'abstract', 'file' or 'new'"},
+        Fault{"entity IfcA : IfcUnknown 2x file 151\n",
+              "2:34: error: a release that the entry does not have"},
+        Fault{"entity IfcA : IfcUnknown 2x\n  [151] Name string\n",
+              "3:3: error: a release that the entity does not have"},
+        Fault{"entity IfcA : IfcUnknown all\n  Name word\n", "3:8: error: 'word' is no kind"},
+        Fault{"entity IfcA : IfcUnknown all\n  Name ref\n",
+              "3:11: error: expected the class or enumeration"},
+        Fault{"entity IfcA : IfcUnknown all\n  Name string odd\n",
+              "3:15: error: expected '=', 'inverse', 'memory', 'ownerless', 'absent' or 'as'"},
+        Fault{"entity IfcA : IfcUnknown all\n  drop value $\n",
+              "3:8: error: 'value' cannot be read and dropped"},
+        Fault{"entity IfcA : IfcUnknown all\n  custom Read\n",
+              "3:10: error: expected 'Parse' or 'Write'"},
+        Fault{"entity IfcA : IfcUnknown all\n  link X IfcA AddX\n", "3:10: error: expected 'as'"},
+        Fault{"entity IfcA : IfcUnknown all\n  chain IfcA IfcB\n",
+              "3:14: error: expected the end of the line"},
+        Fault{"enum IfcKind\n  all FIRST one\n", "3:13: error: 'one' is no whole number"},
+        Fault{"  Name string\n", "2:3: error: this line belongs to no entry"},
+        Fault{"type IfcA : IfcValue word all\n", "2:22: error: no such kind"}));
+
+TEST(ParseDescription, RefusesAFileWithoutItsFamily) {
+  Description description;
+  EXPECT_THROW(ParseDescription("f", "entity IfcA : IfcUnknown all\n", description),
+               DescriptionError);
+}
+
+}  // namespace
+}  // namespace schemac

@@ -1,0 +1,46 @@
+#include "tools/schemac/token_reader.h"
+
+#include <gtest/gtest.h>
+
+namespace schemac {
+namespace {
+
+Line MakeLine(const std::string& text) { return {{"f", 1, 1}, false, text, ""}; }
+
+TEST(TokenReader, ReadsWordsAndNames) {
+  const Line line = MakeLine("IfcWall: $ .X.");
+  TokenReader in(line);
+  EXPECT_EQ(in.Name("a name"), "IfcWall");
+  EXPECT_TRUE(in.Take(":"));
+  EXPECT_EQ(in.Word("a word"), "$");
+  EXPECT_EQ(in.Rest(), ".X.");
+  EXPECT_TRUE(in.AtEnd());
+}
+
+TEST(TokenReader, TakesAWordOnlyWhole) {
+  const Line line = MakeLine("filename");
+  TokenReader in(line);
+  EXPECT_FALSE(in.Take("file"));
+  EXPECT_TRUE(in.Take("filename"));
+}
+
+TEST(TokenReader, StopsOutsideParenthesesOnly) {
+  const Line line = MakeLine("(A a, B b), C");
+  TokenReader in(line);
+  EXPECT_EQ(in.Until(","), "(A a, B b)");
+}
+
+TEST(TokenReader, NamesTheColumnOfWhatItRefuses) {
+  const Line line = MakeLine("ab ;");
+  TokenReader in(line);
+  in.Word("a word");
+  try {
+    in.Name("a name");
+    FAIL();
+  } catch (const DescriptionError& error) {
+    EXPECT_STREQ(error.what(), "f:1:4: error: expected a name");
+  }
+}
+
+}  // namespace
+}  // namespace schemac
