@@ -1,0 +1,42 @@
+#include "kelifc/platform/path.h"
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+#ifdef _WIN32
+#include <windows.h>
+#endif
+
+namespace KelIFC {
+
+std::string_view GetFileName(std::string_view path) {
+  const std::size_t separator = path.find_last_of("/\\");
+  return separator == std::string_view::npos ? path : path.substr(separator + 1);
+}
+
+std::string GetStreamName(const char* path) {
+#ifdef _WIN32
+  char name[MAX_PATH];
+  const DWORD length = GetShortPathNameA(path, name, MAX_PATH);
+  if (length > 0 && length < MAX_PATH) return std::string(name, length);
+#endif
+  return path;
+}
+
+bool IsRegularFile(const char* path) {
+  std::error_code error;
+  return std::filesystem::is_regular_file(path, error);
+}
+
+std::uint64_t GetFileSize(const char* path) {
+  std::error_code error;
+  const std::uintmax_t size = std::filesystem::file_size(path, error);
+  return error ? 0 : size;
+}
+
+std::string GetLastSystemError() {
+  return errno == 0 ? std::string() : std::generic_category().message(errno);
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,36 @@
+#include "kelifc/platform/path.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace KelIFC {
+namespace {
+
+TEST(Path, GivesTheLastComponentAsTheFileName) {
+  EXPECT_EQ(GetFileName("house.ifc"), "house.ifc");
+  EXPECT_EQ(GetFileName("a/b/house.ifc"), "house.ifc");
+  EXPECT_EQ(GetFileName("c:\\a\\house.ifc"), "house.ifc");
+  EXPECT_EQ(GetFileName("a\\b/house.ifc"), "house.ifc");
+  EXPECT_EQ(GetFileName("a/b\\house.ifc"), "house.ifc");
+  EXPECT_EQ(GetFileName("a/"), "");
+  EXPECT_EQ(GetFileName(""), "");
+}
+
+TEST(Path, TellsAnOrdinaryFileFromAllElse) {
+  const std::string folder = testing::TempDir();
+  const std::string file = folder + "/kelifc_path_test.txt";
+  std::ofstream(file) << "four";
+  EXPECT_TRUE(IsRegularFile(file.c_str()));
+  EXPECT_EQ(GetFileSize(file.c_str()), 4u);
+  EXPECT_EQ(std::filesystem::exists(GetStreamName(file.c_str())), true);
+  std::filesystem::remove(file);
+  EXPECT_FALSE(IsRegularFile(file.c_str()));
+  EXPECT_EQ(GetFileSize(file.c_str()), 0u);
+  EXPECT_FALSE(IsRegularFile(folder.c_str()));
+  EXPECT_FALSE(IsRegularFile(""));
+}
+
+}  // namespace
+}  // namespace KelIFC
