@@ -263,6 +263,8 @@ class HeaderEmitter {
         return "{this}";
       case Kind::kEnum:
         return " = " + InitialEnumerator(model, attribute);
+      case Kind::kInstance:
+        return "{}";
       default:
         return attribute.initial.empty() ? "" : "{\"" + attribute.initial + "\"}";
     }

@@ -182,14 +182,23 @@ class OperationWriter {
   std::string Member() const { return MemberName(attribute->name); }
 
   void AddInnerGetter(const Operation& operation) {
-    const std::string target = Target(operation);
     ResolvedOperation resolved = Begin(operation);
-    resolved.result = target + "*";
-    resolved.doc =
-        attribute->name + " in its writable form; null as told at Get" + attribute->name + ".";
-    resolved.body = {"return InstanceOf<" + target + ">(" + Member() + ");"};
+    resolved.doc = attribute->name + " for derived classes, told at Get" + attribute->name + ".";
+    if (IsAggregate(attribute->kind)) {
+      resolved.result = Aggregate() + Target(operation) + "*>";
+      resolved.body = {"return ViewOf<" + resolved.result + ">(" + Member() + ", *this);"};
+    } else if (attribute->kind == Kind::kReference) {
+      resolved.result = Target(operation) + "*";
+      resolved.body = {"return InstanceOf<" + Target(operation) + ">(" + Member() + ");"};
+    } else {
+      resolved.result = StoredType(*attribute, model.release);
+      resolved.isConst = true;
+      resolved.body = {"return " + Member() + ";"};
+    }
     type.operations.push_back(std::move(resolved));
   }
+
+  std::string Aggregate() const { return attribute->kind == Kind::kSet ? "SET<" : "LIST<"; }
 
   void AddGetter(const Operation& operation) {
     if (operation.bothForms && model.release >= kFirstWithLabels) {
@@ -216,8 +225,7 @@ class OperationWriter {
     } else if (IsAggregate(attribute->kind)) {
       const std::string target = Target(operation);
       const std::string element = constant + target + "*";
-      const std::string aggregate = attribute->kind == Kind::kSet ? "SET<" : "LIST<";
-      resolved.result = aggregate + element + ">";
+      resolved.result = Aggregate() + element + ">";
       resolved.doc = "The instances of " + attribute->name +
                      ", as many as it has members; null for one that is no " + target + ".";
       resolved.body = {"return ViewOf<" + resolved.result + ">(" + member + ", *this);"};
@@ -253,8 +261,7 @@ class OperationWriter {
           "Sets " + attribute->name + " to a value in place, which is owned from now on.";
       resolved.body = {member + " = item;"};
     } else if (IsAggregate(attribute->kind)) {
-      const std::string aggregate = attribute->kind == Kind::kSet ? "SET<" : "LIST<";
-      resolved.parameters = "const " + aggregate + Target(operation) + "*>& items";
+      resolved.parameters = "const " + Aggregate() + Target(operation) + "*>& items";
       resolved.doc = "Replaces " + attribute->name + "; what the model does not hold is left out.";
       resolved.body = {"ReplaceMembers(" + member + ", items, *this);"};
     } else if (IsText(attribute->kind)) {

@@ -346,6 +346,8 @@ class Parser {
       ReadParseOrWrite(in, entity.customParse, entity.customWrite, releases);
     } else if (in.Take("without")) {
       ReadParseOrWrite(in, entity.noParse, entity.noWrite, releases);
+    } else if (in.Take("accessors")) {
+      AddAccessors(entity);
     } else if (in.Take("ops")) {
       ReadOperations(in, entity, releases, {});
     } else if (in.Take("plain")) {
@@ -360,6 +362,19 @@ class Parser {
       return false;
     }
     return true;
+  }
+
+  /// Getters, then setters, of all attributes told so far.
+  static void AddAccessors(Entity& entity) {
+    for (const std::string verb : {"Get", "Set"}) {
+      for (const auto& attribute : entity.attributes) {
+        Operation operation;
+        operation.place = attribute.place;
+        operation.name = verb + attribute.name;
+        operation.releases = attribute.releases;
+        entity.operations.push_back(std::move(operation));
+      }
+    }
   }
 
   static Step ReadLink(TokenReader& in) {

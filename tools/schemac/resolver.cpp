@@ -30,6 +30,7 @@ constexpr std::array kCoreClasses = {
     CoreClass{"IfcCartesianPoint", "kelifc/core/cartesian_point.h", true, true},
     CoreClass{"IfcBoundingBox", "kelifc/core/bounding_box.h", true, true},
     CoreClass{"IfcUnitAssignment", "kelifc/core/unit_assignment.h", true, true},
+    CoreClass{"IfcTrimmingPreference", "kelifc/core/trimming_preference.h", false, false},
     CoreClass{"IfcLengthMeasure", "kelifc/core/length_measure.h", true, true},
     CoreClass{"IfcParameterValue", "kelifc/core/parameter_value.h", true, true},
 };

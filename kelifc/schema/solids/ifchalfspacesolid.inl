@@ -1,0 +1,1 @@
+INTEGER IfcHalfSpaceSolid::GetDim() const { return INTEGER(3); }

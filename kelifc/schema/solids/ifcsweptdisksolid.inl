@@ -1,0 +1,16 @@
+namespace {
+
+/// What a reference to the value would be numbered: a value in place has no number.
+double NumberInPlace(IfcReal* value, IfcUnknown& owner) {
+  if (value == nullptr) return 0.0;
+  value->SetServer(owner.GetServer());
+  MEMBER member(&owner);
+  member = value;
+  return static_cast<double>(static_cast<std::size_t>(member));
+}
+
+}  // namespace
+
+void IfcSweptDiskSolid::SetStartParam(IfcReal* item) { startParam = NumberInPlace(item, *this); }
+
+void IfcSweptDiskSolid::SetEndParam(IfcReal* item) { endParam = NumberInPlace(item, *this); }
