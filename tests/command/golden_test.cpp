@@ -1,0 +1,35 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+#include "tests/command/process.h"
+
+namespace command_test {
+namespace {
+
+/// What the command prints of the shipped models, kept as files. `scripts/renew-goldens` writes
+/// them anew after a wanted change; read the difference before you commit it.
+class Golden : public testing::TestWithParam<std::tuple<std::string, std::string>> {};
+
+TEST_P(Golden, OutputIsAsKept) {
+  const auto& [command, model] = GetParam();
+  const Run run = Kelifc({command, "--json", model + ".ifc"});
+  ASSERT_EQ(run.status, 0) << run.err;
+  const std::string path =
+      std::string(KELIFC_SOURCE_DIR) + "/tests/command/golden/" + model + "." + command + ".json";
+  if (std::getenv("KELIFC_RENEW_GOLDENS") != nullptr) {
+    WriteFile(path, run.out);
+    GTEST_SKIP() << "renewed " << path;
+  }
+  EXPECT_EQ(run.out, ReadFile(path));
+}
+
+INSTANTIATE_TEST_SUITE_P(Examples, Golden,
+                         testing::Combine(testing::Values("structure", "info"),
+                                          testing::Values("house", "office", "barn")),
+                         [](const auto& info) {
+                           return std::get<0>(info.param) + "_" + std::get<1>(info.param);
+                         });
+
+}  // namespace
+}  // namespace command_test

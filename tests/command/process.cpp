@@ -1,0 +1,66 @@
+#include "tests/command/process.h"
+
+#include <fcntl.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <stdexcept>
+
+namespace command_test {
+namespace {
+
+void Redirect(int stream, const std::string& path) {
+  const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC, 0600);
+  if (file < 0 || dup2(file, stream) < 0) _exit(126);
+}
+
+}  // namespace
+
+Run Kelifc(const std::vector<std::string>& arguments, const std::string& outPath) {
+  const TemporaryFolder folder;
+  const std::string out = outPath.empty() ? folder.Path("out") : outPath;
+  const std::string err = folder.Path("err");
+  std::vector<char*> argv{const_cast<char*>(KELIFC_COMMAND)};  // NOLINT: execv takes no const
+  for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
+  argv.push_back(nullptr);
+
+  const pid_t child = fork();
+  if (child < 0) throw std::runtime_error("no process could be made");
+  if (child == 0) {
+    if (chdir(KELIFC_EXAMPLES_DIR) != 0) _exit(126);
+    Redirect(STDOUT_FILENO, out);
+    Redirect(STDERR_FILENO, err);
+    execv(KELIFC_COMMAND, argv.data());
+    _exit(127);
+  }
+  int state = 0;
+  waitpid(child, &state, 0);
+  const int status = WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
+  return {status, outPath.empty() ? ReadFile(out) : "", ReadFile(err)};
+}
+
+std::string ReadFile(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+}
+
+void WriteFile(const std::string& path, const std::string& text) {
+  std::ofstream(path, std::ios::binary) << text;
+}
+
+TemporaryFolder::TemporaryFolder() {
+  std::string name = (std::filesystem::temp_directory_path() / "kelifc-XXXXXX").string();
+  if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no temporary folder");
+  path = name;
+}
+
+TemporaryFolder::~TemporaryFolder() {
+  std::error_code ignored;
+  std::filesystem::remove_all(path, ignored);
+}
+
+}  // namespace command_test

@@ -1,0 +1,71 @@
+# Installs into a folder, moves that folder, and uses it as a host's build would: by CMake package
+# and by pkg-config. The README's program and each installed header are compiled as well.
+
+# run(OUTPUT COMMAND...): the command must succeed; what it prints goes to the variable OUTPUT.
+function(run output)
+  execute_process(COMMAND ${ARGN}
+    RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE errors)
+  if(NOT status EQUAL 0)
+    list(JOIN ARGN " " command)
+    message(FATAL_ERROR "${command}\nended with ${status}\n${printed}${errors}")
+  endif()
+  set(${output} "${printed}" PARENT_SCOPE)
+endfunction()
+
+# expect_storeys(PRINTED): a host that was given the house must have named its storeys.
+function(expect_storeys printed)
+  foreach(storey "Ground floor" "Upper floor")
+    if(NOT printed MATCHES "${storey}")
+      message(FATAL_ERROR "'${storey}' is missing in:\n${printed}")
+    endif()
+  endforeach()
+endfunction()
+
+separate_arguments(flags UNIX_COMMAND "${FLAGS}")
+set(model "${SOURCE_DIR}/examples/house.ifc")
+set(prefix "${WORK_DIR}/moved")
+
+file(REMOVE_RECURSE "${WORK_DIR}")
+run(ignored "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/first")
+file(RENAME "${WORK_DIR}/first" "${prefix}")
+
+# The command finds its library wherever both were moved to.
+run(printed "${prefix}/${BIN}/kelifc" structure "${model}")
+expect_storeys("${printed}")
+
+# By CMake package.
+run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples/host" -B "${WORK_DIR}/host" -G Ninja
+  "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
+run(ignored "${CMAKE_COMMAND}" --build "${WORK_DIR}/host")
+run(printed "${WORK_DIR}/host/host" "${model}")
+expect_storeys("${printed}")
+
+# By pkg-config, and with the program that the README shows.
+set(ENV{PKG_CONFIG_PATH} "${prefix}/${LIB}/pkgconfig")
+run(found pkg-config --cflags --libs kelifc)
+separate_arguments(found UNIX_COMMAND "${found}")
+file(READ "${SOURCE_DIR}/README.md" readme)
+if(NOT readme MATCHES "```cpp\n([^`]+)```")
+  message(FATAL_ERROR "README.md shows no program")
+endif()
+file(WRITE "${WORK_DIR}/readme.cpp" "${CMAKE_MATCH_1}")
+set(strict -std=c++17 -Wall -Wextra -Wpedantic -Werror)
+foreach(program "${SOURCE_DIR}/examples/host/main.cpp" "${WORK_DIR}/readme.cpp")
+  run(ignored "${COMPILER}" ${flags} ${strict} "${program}" -o "${WORK_DIR}/program" ${found}
+    "-Wl,-rpath,${prefix}/${LIB}")
+  run(printed "${WORK_DIR}/program" "${model}")
+  expect_storeys("${printed}")
+endforeach()
+
+# Each header stands alone, and is readable by C++17.
+file(GLOB_RECURSE headers RELATIVE "${prefix}/${INCLUDE}" "${prefix}/${INCLUDE}/*.h")
+if(NOT "kelifc/kelifc.h" IN_LIST headers)
+  message(FATAL_ERROR "kelifc/kelifc.h is not installed")
+endif()
+foreach(header IN LISTS headers)
+  string(MAKE_C_IDENTIFIER "${header}" name)
+  file(WRITE "${WORK_DIR}/headers/${name}.cpp" "#include <${header}>\n#include <${header}>\n")
+endforeach()
+list(JOIN strict " " strict)
+run(ignored sh -c "ls '${WORK_DIR}'/headers/*.cpp | xargs -P 2 -n 1 \
+  '${COMPILER}' ${strict} -fsyntax-only -I'${prefix}/${INCLUDE}'")
