@@ -1,0 +1,172 @@
+#ifndef KELIFC_CORE_AGGREGATE_H_
+#define KELIFC_CORE_AGGREGATE_H_
+
+#include <cstddef>
+#include <ostream>
+#include <type_traits>
+#include <utility>
+
+#include "kelifc/core/position_index.h"
+#include "kelifc/core/sequence.h"
+#include "kelifc/core/text_out.h"
+
+// The aggregates of the schema. Positions count from 1, and 0 means not found. A copy copies each
+// element in turn; see MEMBER for what that does to values in place.
+
+namespace KelIFC {
+
+/// What a set finds an equal pointer by.
+template <class T>
+std::size_t ElementKey(T* item) {
+  return reinterpret_cast<std::size_t>(item);
+}
+
+template <class T, class = void>
+struct HasElementKey : std::false_type {};
+template <class T>
+struct HasElementKey<T, std::void_t<decltype(ElementKey(std::declval<const T&>()))>>
+    : std::true_type {};
+
+/// What LIST and SET have in common.
+template <class T, class Header>
+class Aggregate {
+ public:
+  /// The position of the first equal element, or 0. Looks at one element after the other.
+  std::size_t Find(const T& value) const {
+    for (std::size_t i = 0; i < items.GetSize(); ++i) {
+      if (items[i] == value) return i + 1;
+    }
+    return 0;
+  }
+
+  /// Adds an element without looking for an equal one. Gives its position.
+  std::size_t Append(const T& value) {
+    items.SetMark(true);
+    items.Append(value);
+    return items.GetSize();
+  }
+
+  /// Removes all elements; the mark stays.
+  void Clear() { items.Clear(); }
+  /// Makes room for `count` elements in all.
+  void Reserve(std::size_t count) { items.Reserve(count); }
+
+  std::size_t GetSize() const { return items.GetSize(); }
+  bool GetEmpty() const { return items.GetSize() == 0; }
+  bool GetExists() const { return items.GetMark(); }
+  void SetExists(bool value) { items.SetMark(value); }
+
+  /// The element at a position. One out of range gives an unset element that all aggregates of a
+  /// thread share; what is written to it is gone at the next such access.
+  T& operator[](std::size_t position) {
+    if (auto* header = items.GetHeader()) header->Drop();
+    return IsIn(position) ? items[position - 1] : Spare();
+  }
+  const T& operator[](std::size_t position) const { return GetItem(position); }
+  const T& GetItem(std::size_t position) const {
+    return IsIn(position) ? items[position - 1] : Spare();
+  }
+
+ protected:
+  Aggregate() = default;
+  explicit Aggregate(std::size_t count) : items(count) { items.SetMark(true); }
+  Aggregate(const Aggregate&) = default;
+  Aggregate(Aggregate&&) noexcept = default;
+  Aggregate& operator=(const Aggregate&) = default;
+  Aggregate& operator=(Aggregate&&) noexcept = default;
+  ~Aggregate() = default;
+
+  void WriteItems(std::ostream& out) const {
+    PutChar(out, '(');
+    for (std::size_t i = 0; i < items.GetSize(); ++i) {
+      if (i != 0) PutText(out, ", ");
+      items[i].Write(out);
+    }
+    PutChar(out, ')');
+  }
+
+  Sequence<T, Header> items;  // its mark is the mark that the aggregate exists
+
+ private:
+  bool IsIn(std::size_t position) const { return position - 1 < items.GetSize(); }
+  static T& Spare() {
+    static thread_local T spare{};
+    spare = T();
+    return spare;
+  }
+};
+
+/// An ordered aggregate, which may hold equal elements.
+template <class T>
+class LIST : public Aggregate<T, NoHeader> {
+ public:
+  /// An empty list that is unset.
+  LIST() = default;
+  /// A list of `count` default elements.
+  explicit LIST(std::size_t count) : Aggregate<T, NoHeader>(count) {}
+  LIST(const LIST&) = default;
+  LIST(LIST&&) noexcept = default;
+  LIST& operator=(const LIST&) = default;
+  LIST& operator=(LIST&&) noexcept = default;
+  virtual ~LIST() = default;
+
+  /// Adds an element and gives its position.
+  std::size_t Add(const T& value) { return this->Append(value); }
+
+  /// Writes the elements in parentheses, `$` if unset.
+  std::ostream& Write(std::ostream& out) const {
+    if (this->GetExists()) {
+      this->WriteItems(out);
+    } else {
+      PutChar(out, '$');
+    }
+    return out;
+  }
+};
+
+/// An aggregate without equal elements, as far as Add made it. A long set of references or pointers
+/// keeps an index, so that Add stays fast; access to elements for writing drops it.
+template <class T>
+class SET
+    : public Aggregate<T, std::conditional_t<HasElementKey<T>::value, PositionIndex, NoHeader>> {
+  using Base = Aggregate<T, std::conditional_t<HasElementKey<T>::value, PositionIndex, NoHeader>>;
+
+ public:
+  /// An empty set that is unset.
+  SET() = default;
+  /// A set of `count` default elements.
+  explicit SET(std::size_t count) : Base(count) {}
+  SET(const SET&) = default;
+  SET(SET&&) noexcept = default;
+  SET& operator=(const SET&) = default;
+  SET& operator=(SET&&) noexcept = default;
+  virtual ~SET() = default;
+
+  /// Adds an element unless there is an equal one. Gives the position of the one or the other.
+  std::size_t Add(const T& value) {
+    this->SetExists(true);
+    if constexpr (HasElementKey<T>::value) {
+      if (auto* index = this->items.GetHeader()) return AddIndexed(*index, value);
+    }
+    const std::size_t position = this->Find(value);
+    return position != 0 ? position : this->Append(value);
+  }
+
+  /// Writes the elements in parentheses, also if unset.
+  std::ostream& Write(std::ostream& out) const {
+    this->WriteItems(out);
+    return out;
+  }
+
+ private:
+  std::size_t AddIndexed(PositionIndex& index, const T& value) {
+    const auto keyAt = [this](std::size_t i) { return ElementKey(this->items[i]); };
+    while (index.GetCount() < this->items.GetSize()) index.Add(keyAt);
+    const std::uint32_t position = index.Find(ElementKey(value), keyAt);
+    return position != PositionIndex::kNotFound ? std::size_t{position} + 1 : this->Append(value);
+  }
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_AGGREGATE_H_

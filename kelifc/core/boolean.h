@@ -1,0 +1,36 @@
+#ifndef KELIFC_CORE_BOOLEAN_H_
+#define KELIFC_CORE_BOOLEAN_H_
+
+#include <iosfwd>
+
+#include "kelifc/platform/export.h"
+
+namespace KelIFC {
+
+/// A truth value, or unset. An unset one is false.
+class KELIFC_API BOOLEAN {
+ public:
+  BOOLEAN() = default;
+  BOOLEAN(bool truth) : value(truth), exists(true) {}
+  BOOLEAN(const BOOLEAN&) = default;
+  BOOLEAN& operator=(const BOOLEAN&) = default;
+  virtual ~BOOLEAN() = default;
+
+  operator bool() const { return value; }
+
+  /// Reads `.T.` as true and every other text as false; both exist. Text that is no enumerator
+  /// leaves the cursor where it is.
+  const char* Parse(const char* text);
+  /// Writes `.T.` or `.F.`, `$` if unset.
+  std::ostream& Write(std::ostream& out) const;
+
+  bool GetExists() const { return exists; }
+
+ protected:
+  bool value = false;
+  bool exists = false;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_BOOLEAN_H_

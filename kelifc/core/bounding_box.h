@@ -1,0 +1,49 @@
+#ifndef KELIFC_CORE_BOUNDING_BOX_H_
+#define KELIFC_CORE_BOUNDING_BOX_H_
+
+#include <iosfwd>
+
+#include "kelifc/core/cartesian_point.h"
+#include "kelifc/core/length_measure.h"
+#include "kelifc/core/member.h"
+#include "kelifc/core/representation_item.h"
+
+namespace KelIFC {
+
+/// A box along the axes, by its lowest corner and its extent.
+class KELIFC_API IfcBoundingBox : public IfcGeometricRepresentationItem {
+ public:
+  IfcBoundingBox();
+  IfcBoundingBox(const IfcBoundingBox&) = default;
+  IfcBoundingBox& operator=(const IfcBoundingBox&) = default;
+  ~IfcBoundingBox() override;
+
+  static const char* GetItemName();
+  const char* GetStepName() const override;
+  const char* Parse(const char* text) override;
+  std::ostream& Write(std::ostream& out) const override;
+
+  /// The corner. Throws IfcException with CAUSE_MISSING_REFERENCE if the reference leads to none.
+  virtual const IfcCartesianPoint* GetCorner() const;
+  virtual IfcLengthMeasure GetXDim() const;
+  virtual IfcLengthMeasure GetYDim() const;
+  virtual IfcLengthMeasure GetZDim() const;
+  /// The dimension of the corner; throws as GetCorner does.
+  virtual INTEGER GetDim() const;
+
+  /// Refers to a point of the model; one that the model does not hold changes nothing.
+  virtual void SetCorner(IfcCartesianPoint* point);
+  virtual void SetXDim(IfcLengthMeasure measure);
+  virtual void SetYDim(IfcLengthMeasure measure);
+  virtual void SetZDim(IfcLengthMeasure measure);
+
+ protected:
+  MEMBER corner{this};
+  IfcLengthMeasure xDim;
+  IfcLengthMeasure yDim;
+  IfcLengthMeasure zDim;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_BOUNDING_BOX_H_

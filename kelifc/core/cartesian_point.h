@@ -1,0 +1,48 @@
+#ifndef KELIFC_CORE_CARTESIAN_POINT_H_
+#define KELIFC_CORE_CARTESIAN_POINT_H_
+
+#include <cstddef>
+#include <iosfwd>
+
+#include "kelifc/core/aggregate.h"
+#include "kelifc/core/coordinates.h"
+#include "kelifc/core/length_measure.h"
+#include "kelifc/core/representation_item.h"
+
+namespace KelIFC {
+
+/// A point by its coordinates, in the model's unit of length.
+class KELIFC_API IfcCartesianPoint : public IfcPoint, public IfcTrimmingSelect {
+ public:
+  IfcCartesianPoint() = default;
+  /// A point of that dimension without coordinates; a negative dimension counts as 0.
+  explicit IfcCartesianPoint(INTEGER dimension);
+  IfcCartesianPoint(REAL x, REAL y);
+  IfcCartesianPoint(REAL x, REAL y, REAL z);
+  IfcCartesianPoint(const IfcCartesianPoint&) = default;
+  IfcCartesianPoint& operator=(const IfcCartesianPoint&) = default;
+  ~IfcCartesianPoint() override;
+
+  static const char* GetItemName();
+  const char* GetStepName() const override;
+  const char* Parse(const char* text) override;
+  std::ostream& Write(std::ostream& out) const override;
+
+  virtual LIST<IfcLengthMeasure> GetCoordinates() const;
+
+ protected:
+  virtual INTEGER _GetDim() const;
+
+ public:
+  /// How many coordinates there are.
+  virtual INTEGER GetDim() const;
+  /// Sets one coordinate, counted from 1; an index out of range changes nothing.
+  virtual void SetCoordinates(std::size_t index, REAL value);
+
+ protected:
+  COORDINATES coordinates;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_CARTESIAN_POINT_H_

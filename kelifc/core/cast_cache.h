@@ -1,0 +1,74 @@
+#ifndef KELIFC_CORE_CAST_CACHE_H_
+#define KELIFC_CORE_CAST_CACHE_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+#include <typeinfo>
+#include <vector>
+
+#include "kelifc/core/unknown.h"
+
+namespace KelIFC {
+
+/// Gives the same answers as dynamic_cast<T*> of an instance, but asks it only once for each class
+/// of instances: whether the cast succeeds, and how far apart the two pointers are, is a property
+/// of the class. It makes walks over millions of instances cheap. Not for use from two threads.
+template <class T>
+class CastCache {
+ public:
+  using Instance = std::conditional_t<std::is_const_v<T>, const IfcUnknown, IfcUnknown>;
+
+  /// `instance` as a T, null if it is none. Null gives null.
+  T* Cast(Instance* instance) {
+    if (instance == nullptr) return nullptr;
+    const std::type_info* type = &typeid(*instance);
+    std::size_t slot = Hash(type);
+    while (entries[slot].type != type) {
+      if (entries[slot].type == nullptr) return Learn(slot, type, instance);
+      slot = (slot + 1) & (entries.size() - 1);
+    }
+    if (entries[slot].offset == kNoCast) return nullptr;
+    return reinterpret_cast<T*>(reinterpret_cast<Byte*>(instance) + entries[slot].offset);
+  }
+
+ private:
+  using Byte = std::conditional_t<std::is_const_v<T>, const char, char>;
+  struct Entry {
+    const std::type_info* type = nullptr;
+    std::ptrdiff_t offset = 0;
+  };
+  static constexpr std::ptrdiff_t kNoCast = PTRDIFF_MIN;
+
+  std::size_t Hash(const std::type_info* type) const {
+    return (reinterpret_cast<std::uintptr_t>(type) / 16) & (entries.size() - 1);
+  }
+
+  T* Learn(std::size_t slot, const std::type_info* type, Instance* instance) {
+    T* item = dynamic_cast<T*>(instance);
+    entries[slot].type = type;
+    entries[slot].offset = item == nullptr
+                               ? kNoCast
+                               : reinterpret_cast<Byte*>(item) - reinterpret_cast<Byte*>(instance);
+    if (2 * ++count > entries.size()) Grow();
+    return item;
+  }
+
+  void Grow() {
+    std::vector<Entry> old(2 * entries.size());
+    old.swap(entries);
+    for (const Entry& entry : old) {
+      if (entry.type == nullptr) continue;
+      std::size_t slot = Hash(entry.type);
+      while (entries[slot].type != nullptr) slot = (slot + 1) & (entries.size() - 1);
+      entries[slot] = entry;
+    }
+  }
+
+  std::vector<Entry> entries = std::vector<Entry>(64);  // a power of two, at most half of them used
+  std::size_t count = 0;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_CAST_CACHE_H_

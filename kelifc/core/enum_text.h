@@ -1,0 +1,45 @@
+#ifndef KELIFC_CORE_ENUM_TEXT_H_
+#define KELIFC_CORE_ENUM_TEXT_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <iosfwd>
+
+#include "kelifc/platform/export.h"
+
+namespace KelIFC {
+
+/// A row of an enumeration's table: the text without its dots, and the value. Where a text or a
+/// value stands twice, the first row counts.
+struct EnumTextRow {
+  const char* Text;
+  std::int32_t Value;
+};
+
+/// Reads an enumerator and stores its value. One that is missing, or that the table does not have
+/// in exactly these letters, gives `defaultValue`. Gives the cursor as ENUM::Parse does.
+KELIFC_API const char* ParseEnumValue(std::int32_t& target, const char* cursor,
+                                      std::int32_t defaultValue, const EnumTextRow* table,
+                                      std::size_t rowCount);
+
+/// Writes the text of a value between dots, `$` for a value that no row has.
+KELIFC_API std::ostream& WriteEnumValue(std::ostream& out, std::int32_t value,
+                                        const EnumTextRow* table, std::size_t rowCount);
+
+/// The same for a variable of an enumeration type and a whole table.
+template <class Enum, std::size_t N>
+const char* ParseEnumValue(Enum& target, const char* cursor, Enum defaultValue,
+                           const EnumTextRow (&table)[N]) {
+  std::int32_t value;
+  cursor = ParseEnumValue(value, cursor, static_cast<std::int32_t>(defaultValue), table, N);
+  target = static_cast<Enum>(value);
+  return cursor;
+}
+template <class Enum, std::size_t N>
+std::ostream& WriteEnumValue(std::ostream& out, Enum value, const EnumTextRow (&table)[N]) {
+  return WriteEnumValue(out, static_cast<std::int32_t>(value), table, N);
+}
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_ENUM_TEXT_H_

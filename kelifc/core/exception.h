@@ -1,0 +1,33 @@
+#ifndef KELIFC_CORE_EXCEPTION_H_
+#define KELIFC_CORE_EXCEPTION_H_
+
+#include <cstdint>
+#include <stdexcept>
+
+#include "kelifc/platform/export.h"
+
+namespace KelIFC {
+
+/// Why an IfcException was thrown.
+enum ECause : std::int32_t {
+  CAUSE_NONE = 0,
+  CAUSE_MISSING_REFERENCE = 1,  ///< a required reference leads to no instance of its class
+};
+
+/// The one exception of the class library, thrown by the getters of required references.
+class KELIFC_API IfcException : public std::runtime_error {
+ public:
+  explicit IfcException(ECause reason = CAUSE_NONE);
+  IfcException(const IfcException&) = default;
+  IfcException& operator=(const IfcException&) = default;
+  ~IfcException() override;
+
+  ECause GetCause() const { return cause; }
+
+ private:
+  ECause cause;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_EXCEPTION_H_

@@ -1,0 +1,45 @@
+#ifndef KELIFC_CORE_LENGTH_MEASURE_H_
+#define KELIFC_CORE_LENGTH_MEASURE_H_
+
+#include <iosfwd>
+
+#include "kelifc/core/real.h"
+#include "kelifc/core/value.h"
+
+namespace KelIFC {
+
+/// A measure in the model's unit, or unset. It stands for lengths, and as an attribute for all
+/// other measures as well. The typed names of ratios and positive lengths are read into it, and
+/// written back with the name of this class.
+class KELIFC_API IfcLengthMeasure : public IfcValue, public REAL {
+ public:
+  IfcLengthMeasure() = default;
+  IfcLengthMeasure(double number) : REAL(number) {}
+  IfcLengthMeasure(const REAL& number) : REAL(number) {}
+  IfcLengthMeasure(const IfcLengthMeasure&) = default;
+  IfcLengthMeasure& operator=(const IfcLengthMeasure&) = default;
+  ~IfcLengthMeasure() override;
+
+  IfcLengthMeasure& operator=(double number) {
+    REAL::operator=(number);
+    return *this;
+  }
+  IfcLengthMeasure& operator=(const REAL& number) {
+    REAL::operator=(number);
+    return *this;
+  }
+
+  static const char* GetItemName();
+  const char* GetStepName() const override;
+
+  /// Reads and writes the bare number, as it stands in an attribute.
+  const char* Parse(const char* text) override;
+  std::ostream& Write(std::ostream& out) const override;
+  /// Reads and writes the number with the name of its type, as it stands in a select.
+  std::ostream& WriteWithName(std::ostream& out) const override;
+  const char* ParseBody(const char* text) override;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_LENGTH_MEASURE_H_

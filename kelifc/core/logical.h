@@ -1,0 +1,43 @@
+#ifndef KELIFC_CORE_LOGICAL_H_
+#define KELIFC_CORE_LOGICAL_H_
+
+#include <cstdint>
+#include <iosfwd>
+
+#include "kelifc/platform/export.h"
+
+namespace KelIFC {
+
+enum LOGICAL_VALUE : std::int32_t {
+  LOGICAL_TRUE = -1,
+  LOGICAL_FALSE = 0,
+  LOGICAL_UNKNOWN = 1,
+};
+
+/// A truth value that may be unknown, or unset. An unset one is unknown.
+class KELIFC_API LOGICAL {
+ public:
+  LOGICAL() = default;
+  LOGICAL(LOGICAL_VALUE truth) : value(truth), exists(true) {}
+  LOGICAL(const LOGICAL&) = default;
+  LOGICAL& operator=(const LOGICAL&) = default;
+  virtual ~LOGICAL() = default;
+
+  operator LOGICAL_VALUE() const { return value; }
+
+  /// Reads `.T.` and `.F.`, every other text as unknown; all of them exist. Text that is no
+  /// enumerator leaves the cursor where it is.
+  const char* Parse(const char* text);
+  /// Writes `.T.`, `.F.` or, for every other value, `.U.`; `$` if unset.
+  std::ostream& Write(std::ostream& out) const;
+
+  bool GetExists() const { return exists; }
+
+ protected:
+  LOGICAL_VALUE value = LOGICAL_UNKNOWN;
+  bool exists = false;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_LOGICAL_H_

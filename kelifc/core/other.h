@@ -1,0 +1,36 @@
+#ifndef KELIFC_CORE_OTHER_H_
+#define KELIFC_CORE_OTHER_H_
+
+#include <string>
+
+#include "kelifc/core/unknown.h"
+
+namespace KelIFC {
+
+/// An entity that the release does not know. It keeps its name and the raw text of its attributes
+/// and writes them back. GetStepName gives "IfcUnknown".
+class KELIFC_API IfcOther : public IfcUnknown {
+ public:
+  IfcOther() = default;
+  IfcOther(const IfcOther&) = default;
+  IfcOther& operator=(const IfcOther&) = default;
+  ~IfcOther() override;
+
+  /// Appends what stands between the first `(` and the last `)` of the text. Gives the position
+  /// behind the `(`, null if there is none.
+  const char* Parse(const char* text) override;
+  /// Writes the name in upper case, `(` and the text as it was read.
+  std::ostream& Write(std::ostream& out) const override;
+
+  /// The entity name as the file has it.
+  const std::string& GetStepEntityName() const { return stepEntityName; }
+  void SetStepEntityName(const char* name);
+
+ private:
+  std::string stepEntityName;
+  std::string attributeText;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_CORE_OTHER_H_
