@@ -4,24 +4,11 @@
 #include <filesystem>
 #include <system_error>
 
-#ifdef _WIN32
-#include <windows.h>
-#endif
-
 namespace KelIFC {
 
 std::string_view GetFileName(std::string_view path) {
   const std::size_t separator = path.find_last_of("/\\");
   return separator == std::string_view::npos ? path : path.substr(separator + 1);
-}
-
-std::string GetStreamName(const char* path) {
-#ifdef _WIN32
-  char name[MAX_PATH];
-  const DWORD length = GetShortPathNameA(path, name, MAX_PATH);
-  if (length > 0 && length < MAX_PATH) return std::string(name, length);
-#endif
-  return path;
 }
 
 bool IsRegularFile(const char* path) {

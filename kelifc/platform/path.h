@@ -15,11 +15,6 @@ namespace KelIFC {
 /// systems and their paths with them.
 std::string_view GetFileName(std::string_view path);
 
-/// The name under which the stream library opens a file that exists: its short form on Windows,
-/// which is free of characters that a stream cannot name, and elsewhere, or where the system has
-/// no short form, the path as it stands.
-std::string GetStreamName(const char* path);
-
 /// True if the path leads to an ordinary file, links followed. A model is read twice, which rules
 /// out pipes and devices.
 bool IsRegularFile(const char* path);

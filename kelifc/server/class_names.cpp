@@ -1,0 +1,128 @@
+#include <cstring>
+#include <memory>
+#include <string>
+
+#include "kelifc/core/bounding_box.h"
+#include "kelifc/core/cartesian_point.h"
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/length_measure.h"
+#include "kelifc/core/other.h"
+#include "kelifc/core/parameter_value.h"
+#include "kelifc/core/step_file_schema.h"
+#include "kelifc/core/unit_assignment.h"
+#include "kelifc/server/ifc_server.h"
+#include "kelifc/server/name_table.h"
+#include "kelifc/server/release_tables.h"
+
+// From the name of an entity to an instance of its class.
+
+namespace KelIFC {
+namespace {
+
+// The names that all releases share. Three measures have one class and are saved under its name.
+constexpr NameRow kCoreRows[] = {
+    {"FILE_SCHEMA", MakeNew<StepFileSchema>},
+    {"IFCBOUNDINGBOX", MakeNew<IfcBoundingBox>},
+    {"IFCCARTESIANPOINT", MakeNew<IfcCartesianPoint>},
+    {"IFCLENGTHMEASURE", MakeNew<IfcLengthMeasure>},
+    {"IFCRATIOMEASURE", MakeNew<IfcLengthMeasure>},
+    {"IFCPOSITIVELENGTHMEASURE", MakeNew<IfcLengthMeasure>},
+    {"IFCPARAMETERVALUE", MakeNew<IfcParameterValue>},
+    {"IFCUNITASSIGNMENT", MakeNew<IfcUnitAssignment>},
+};
+constexpr NameTable kCoreTable(kCoreRows);
+
+// A holder of raw text for an entity that a release does not know.
+IfcUnknown* MakeOther(const char* name) {
+  try {
+    auto other = std::make_unique<IfcOther>();
+    other->SetStepEntityName(name);
+    return other.release();
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
+// How many characters the entity name at `start` has: up to the first parenthesis, blanks ahead of
+// it left out. Without one, or with one right here, the rest of the text is the name.
+std::size_t GetNameLength(const char* start) {
+  const char* end = std::strchr(start, '(');
+  if (end == nullptr || end == start) return std::strlen(start);
+  while (IsBlank(end[-1])) --end;
+  return static_cast<std::size_t>(end - start);
+}
+
+// Every entity name of the schema is shorter than this.
+constexpr std::size_t kUsualNameLength = 64;
+
+}  // namespace
+
+IfcUnknown* IfcServer::ParseClass(const char* text, const char** end) {
+  if (text == nullptr) return nullptr;
+  const char* start = SkipBlanks(text);
+  const std::size_t length = GetNameLength(start);
+  if (end != nullptr) *end = start + length;
+  if (length >= kUsualNameLength) return MakeByRelease(std::string(start, length).c_str());
+  char name[kUsualNameLength];
+  std::memcpy(name, start, length);
+  name[length] = '\0';
+  return MakeByRelease(name);
+}
+
+IfcUnknown* IfcServer::MakeByRelease(const char* name) {
+  switch (release) {
+    case IFC_RELEASE_151:
+      return InstantiateClass151(name);
+    case IFC_RELEASE_20:
+      return InstantiateClass20(name);
+    case IFC_RELEASE_2X:
+      return InstantiateClass2x(name);
+    case IFC_RELEASE_2X2:
+      return InstantiateClass2x2(name);
+    case IFC_RELEASE_2X3:
+      return InstantiateClass2x3(name);
+    default:
+      return InstantiateClass(name);
+  }
+}
+
+IfcUnknown* IfcServer::CreateItem(const char* name) {
+  IfcUnknown* item = name == nullptr ? nullptr : MakeByRelease(name);
+  if (item != nullptr) AddItem(item);
+  return item;
+}
+
+IfcUnknown* IfcServer::InstantiateClass(const char* name) {
+  return name == nullptr ? nullptr : kCoreTable.Make(name);
+}
+
+IfcUnknown* IfcServer::InstantiateClass151(const char* name) {
+  if (IfcUnknown* shared = InstantiateClass(name)) return shared;
+  return name == nullptr ? nullptr : MakeInstance151(name);
+}
+
+IfcUnknown* IfcServer::InstantiateClass20(const char* name) {
+  if (IfcUnknown* shared = InstantiateClass(name)) return shared;
+  return name == nullptr ? nullptr : MakeInstance20(name);
+}
+
+IfcUnknown* IfcServer::InstantiateClass2x(const char* name) {
+  if (IfcUnknown* shared = InstantiateClass(name)) return shared;
+  return name == nullptr ? nullptr : MakeInstance2x(name);
+}
+
+IfcUnknown* IfcServer::InstantiateClass2x2(const char* name) {
+  if (IfcUnknown* shared = InstantiateClass(name)) return shared;
+  if (name == nullptr) return nullptr;
+  IfcUnknown* own = MakeInstance2x2(name);
+  return own == nullptr ? MakeOther(name) : own;
+}
+
+IfcUnknown* IfcServer::InstantiateClass2x3(const char* name) {
+  if (IfcUnknown* shared = InstantiateClass(name)) return shared;
+  if (name == nullptr) return nullptr;
+  IfcUnknown* own = MakeInstance2x3(name);
+  return own == nullptr ? MakeOther(name) : own;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,191 @@
+#include "kelifc/server/ifc_server.h"
+
+#include <algorithm>
+#include <cstring>
+#include <unordered_set>
+#include <utility>
+
+#include "kelifc/core/step_file_schema.h"
+#include "kelifc/core/unknown.h"
+#include "kelifc/core/write_tolerance.h"
+#include "kelifc/server/release_tables.h"
+
+// The registry: what it holds, and how it is asked. Loading, saving and the making of instances by
+// name have files of their own.
+
+namespace KelIFC {
+namespace {
+
+// From here on up lie the numbers that a file writes with a minus sign.
+constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
+
+template <class Project>
+Project FindProject(const Mvector<IfcUnknown*>& items, Project (*asProject)(const IfcUnknown*)) {
+  for (const IfcUnknown* item : items) {
+    if (Project project = asProject(item)) return project;
+  }
+  return nullptr;
+}
+
+}  // namespace
+
+bool GuidLess::operator()(const _GUID& a, const _GUID& b) const {
+  if (a.Data1 != b.Data1) return a.Data1 < b.Data1;
+  if (a.Data2 != b.Data2) return a.Data2 < b.Data2;
+  if (a.Data3 != b.Data3) return a.Data3 < b.Data3;
+  return std::memcmp(a.Data4, b.Data4, sizeof a.Data4) < 0;
+}
+
+IfcServer::IfcServer() = default;
+IfcServer::IfcServer(const IfcServer&) = default;
+IfcServer& IfcServer::operator=(const IfcServer&) = default;
+IfcServer::~IfcServer() { IfcServer::Reset(); }
+
+IFC_RELEASE IfcServer::GetRelease() { return release; }
+void IfcServer::SetRelease(IFC_RELEASE value) { release = value; }
+bool IfcServer::GetSupportsFillings() const { return supportsFillings; }
+void IfcServer::SetSupportsFillings(bool value) { supportsFillings = value; }
+double IfcServer::GetEps() const { return eps; }
+
+double IfcServer::SetEps(double value) {
+  SetWriteTolerance(value);
+  return std::exchange(eps, value);
+}
+
+const Mvector<IfcUnknown*>& IfcServer::GetItems() const { return items; }
+
+void IfcServer::Reset() {
+  instanceIndex.Clear();
+  if (mayRepeat) DropRepeatedSlots();
+  for (std::size_t i = items.size(); i > 0; --i) delete std::exchange(items[i - 1], nullptr);
+  items = Mvector<IfcUnknown*>();  // gives the memory back
+  idToIndex.Clear();
+  instanceIndex.Clear();  // a destructor may have asked for it
+  guidIndex.clear();
+  slotsWithoutGuid = 0;
+  mayRepeat = false;
+}
+
+// Leaves an instance that was registered twice in its first slot only.
+void IfcServer::DropRepeatedSlots() {
+  std::unordered_set<IfcUnknown*> seen;
+  for (IfcUnknown*& item : items) {
+    if (!seen.insert(item).second) item = nullptr;
+  }
+}
+
+void IfcServer::InsertItem(std::size_t id, IfcUnknown* item) {
+  if (item == nullptr || id == 0) return;
+  Append(id, item);
+}
+
+std::size_t IfcServer::AddItem(IfcUnknown* item) {
+  const std::size_t number = MakeNumber();
+  Append(number, item);
+  return number;
+}
+
+std::size_t IfcServer::MakeNumber() {
+  const std::uint64_t highest = std::max(idToIndex.GetHighest(), load.highestNumber);
+  if (highest + 1 != 0) return highest + 1;
+  if (!load.isRunning) return idToIndex.GetLowestFree();
+  return std::max(idToIndex.GetHighestBelow(kFirstNegative), load.highestOrdinary) + 1;
+}
+
+void IfcServer::Append(std::size_t id, IfcUnknown* item) {
+  const auto position = static_cast<std::uint32_t>(items.size());
+  items.push_back(item);
+  if (instanceIndex.IsBuilt()) {
+    const std::uint32_t earlier = idToIndex.Find(id);
+    if (earlier != NumberIndex::kNone) instanceIndex.DropNumber(earlier);
+    instanceIndex.Append(items.data(), id);
+  }
+  idToIndex.Set(id, position);
+  if (item == nullptr) return;
+  if (item->GetServer() != nullptr) mayRepeat = true;
+  item->SetServer(this);
+}
+
+void IfcServer::BuildInstanceIndex() const {
+  if (!instanceIndex.IsBuilt()) instanceIndex.Build(items.data(), items.size(), idToIndex);
+}
+
+std::size_t IfcServer::Find(const IfcUnknown* item) const {
+  BuildInstanceIndex();
+  const std::uint32_t position = instanceIndex.FindPosition(items.data(), item);
+  return position == InstanceIndex::kNone ? 0 : instanceIndex.GetNumber(position);
+}
+
+std::size_t IfcServer::DeleteItem(const IfcUnknown* item) {
+  BuildInstanceIndex();
+  const std::uint32_t first = instanceIndex.FindPosition(items.data(), item);
+  if (first == InstanceIndex::kNone) return 0;
+  const std::size_t number = instanceIndex.GetNumber(first);
+  IfcUnknown* const doomed = items[first];
+  for (const std::uint32_t position : instanceIndex.Remove(items.data(), item)) {
+    items[position] = nullptr;
+  }
+  instanceIndex.DropNumber(first);
+  idToIndex.Erase(number);
+  delete doomed;
+  return number;
+}
+
+IfcUnknown* IfcServer::GetItem(std::size_t id) {
+  const std::uint32_t position = idToIndex.Find(id);
+  return position == NumberIndex::kNone ? nullptr : items[position];
+}
+
+// Hosts know this overload as one that finds nothing; what needs an instance asks the other.
+const IfcUnknown* IfcServer::GetItem(std::size_t) const { return nullptr; }
+
+IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
+  if (IsNullGuid(guid)) return nullptr;
+  if (guidIndex.empty()) BuildGuidIndex();
+  const auto found = guidIndex.find(guid);
+  return found == guidIndex.end() ? nullptr : items[found->second];
+}
+
+// Walks backwards, so that the first instance with an identifier wins. A model without identifiers
+// is walked once more only when it has grown.
+void IfcServer::BuildGuidIndex() {
+  if (slotsWithoutGuid == items.size()) return;
+  for (std::size_t i = items.size(); i > 0; --i) {
+    _GUID guid = {};
+    if (ReadGlobalGuid(items[i - 1], guid)) guidIndex[guid] = static_cast<std::uint32_t>(i - 1);
+  }
+  if (guidIndex.empty()) slotsWithoutGuid = items.size();
+}
+
+std::size_t IfcServer::GetNextNumber(std::size_t number) const { return idToIndex.GetNext(number); }
+
+const KelIFC151::IfcProject* IfcServer::GetProject151() const {
+  return FindProject(items, AsProject151);
+}
+const KelIFC20::IfcProject* IfcServer::GetProject20() const {
+  return FindProject(items, AsProject20);
+}
+const KelIFC2x::IfcProject* IfcServer::GetProject2x() const {
+  return FindProject(items, AsProject2x);
+}
+const KelIFC2x2::IfcProject* IfcServer::GetProject2x2() const {
+  return FindProject(items, AsProject2x2);
+}
+const KelIFC2x3::IfcProject* IfcServer::GetProject2x3() const {
+  return FindProject(items, AsProject2x3);
+}
+
+KelIFC2x2::IfcProject* IfcServer::GetProject2x2() {
+  return const_cast<KelIFC2x2::IfcProject*>(std::as_const(*this).GetProject2x2());
+}
+KelIFC2x3::IfcProject* IfcServer::GetProject2x3() {
+  return const_cast<KelIFC2x3::IfcProject*>(std::as_const(*this).GetProject2x3());
+}
+
+void IfcServer::SetProgressHandler(ProgressHandler handler) {
+  progressHandler = std::move(handler);
+}
+
+void IfcServer::SetErrorHandler(ErrorHandler handler) { errorHandler = std::move(handler); }
+
+}  // namespace KelIFC

@@ -1,0 +1,253 @@
+#ifndef KELIFC_SERVER_IFC_SERVER_H_
+#define KELIFC_SERVER_IFC_SERVER_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <functional>
+#include <iosfwd>
+#include <map>
+#include <memory>
+#include <string>
+
+#include "kelifc/core/mvector.h"
+#include "kelifc/platform/export.h"
+#include "kelifc/platform/guid.h"
+#include "kelifc/server/instance_index.h"
+#include "kelifc/server/number_index.h"
+#include "kelifc/server/release.h"
+
+namespace KelIFC151 {
+class IfcProject;
+}
+namespace KelIFC20 {
+class IfcProject;
+}
+namespace KelIFC2x {
+class IfcProject;
+}
+namespace KelIFC2x2 {
+class IfcProject;
+}
+namespace KelIFC2x3 {
+class IfcProject;
+}
+
+namespace KelIFC {
+
+class IfcServer;
+class IfcUnknown;
+class StepFileSchema;
+
+/// The order of global identifiers: by the three numbers, then byte by byte.
+struct KELIFC_API GuidLess {
+  bool operator()(const _GUID& a, const _GUID& b) const;
+};
+
+/// Told how far a load is: the bytes read so far and the bytes to read, both passes over the file
+/// together. An answer of false stops the load. It must not touch the server.
+using ProgressHandler = std::function<bool(std::uint64_t bytesDone, std::uint64_t bytesTotal)>;
+
+/// Told, in one line without an end, what went wrong while a file was saved.
+using ErrorHandler = std::function<void(const std::string& message)>;
+
+/// One model: it owns the instances of one file, or of one that is built in memory, and knows each
+/// by its instance number (the n of #n). Every reference of an instance resolves through it.
+///
+/// Nothing here throws or reports: null and 0 mean "not found". The number 0 is none. A null name,
+/// path or instance is never followed. A server and its instances belong to one thread at a time.
+class KELIFC_API IfcServer {
+ public:
+  IfcServer();
+
+  /// Copies field by field: both servers then hold the same instances, and both would destroy them.
+  /// Copy only a server that holds none.
+  IfcServer(const IfcServer&);
+  IfcServer& operator=(const IfcServer&);
+
+  // The operations that a derived class can replace. Their order is fixed; new ones go below, and
+  // are not virtual.
+
+  /// Destroys the instances, in reverse order.
+  virtual ~IfcServer();
+
+  virtual IFC_RELEASE GetRelease();
+  virtual void SetRelease(IFC_RELEASE release);
+
+  /// Destroys all instances, in reverse order of registration, and forgets all numbers and
+  /// identifiers. The release, the tolerance and the switches stay.
+  virtual void Reset();
+
+  /// Registers an instance under the number that a file gives it and takes it over. A number that
+  /// is in use moves to the new instance; the earlier one stays, without a number, and is not
+  /// saved. With a null instance or the number 0 nothing happens.
+  virtual void InsertItem(std::size_t id, IfcUnknown* item);
+
+  /// Registers an instance under a new number, takes it over and gives the number: the highest in
+  /// use plus 1. During a load the number is above every number of the file; where it would
+  /// overflow it is the lowest that is free. A null instance takes a number and an empty slot.
+  virtual std::size_t AddItem(IfcUnknown* item);
+
+  /// Makes an instance by the name of its entity in the server's release and registers it. Gives
+  /// the instance, which stays the server's, or null for a name that the release does not know.
+  virtual IfcUnknown* CreateItem(const char* name);
+
+  /// Destroys an instance and gives the number it had, 0 if it had none or is not here. Its slot
+  /// stays, empty. The pointer may be of an instance that is gone; null means the first empty slot.
+  virtual std::size_t DeleteItem(const IfcUnknown* item);
+
+  /// Replaces the model by that of a STEP file, which must be an ordinary file: it is read twice.
+  /// Gives 0 if it was loaded; 1 if it cannot be opened, or if the progress handler stopped the
+  /// load, which leaves the model empty; 2 if it is no STEP file; 3 if its schema is unknown and no
+  /// release was set. What inside a file cannot be understood is left out without a report.
+  virtual int LoadIfcFile(const char* path);
+
+  /// Writes all numbered instances to a STEP file, by rising number. Gives 0 if the file was
+  /// created, 1 if not or if the server has no release. The error handler is told every failure,
+  /// also one while the file is written, after which the result is still 0.
+  virtual int SaveIfcFile(const char* path);
+
+  /// Makes an unregistered instance from the entity name at the start of `text`, which the caller
+  /// owns. `end`, if not null, receives the position behind the name. Null for a name that the
+  /// release does not know.
+  virtual IfcUnknown* ParseClass(const char* text, const char** end);
+
+  /// Makes an unregistered instance by name, ignoring the case of letters; the caller owns it. The
+  /// first knows the names that all releases share; each of the others asks it before its own
+  /// names. A name that is unknown gives null, and in 2x2 and 2x3 an IfcOther.
+  virtual IfcUnknown* InstantiateClass(const char* name);
+  virtual IfcUnknown* InstantiateClass151(const char* name);
+  virtual IfcUnknown* InstantiateClass20(const char* name);
+  virtual IfcUnknown* InstantiateClass2x(const char* name);
+  virtual IfcUnknown* InstantiateClass2x2(const char* name);
+  virtual IfcUnknown* InstantiateClass2x3(const char* name);
+
+  /// The tolerance of the model, 0.001 in a new server.
+  virtual double GetEps() const;
+
+  /// Always null. Use the overload that is not const.
+  virtual const IfcUnknown* GetItem(std::size_t id) const;
+
+  /// The first instance with a global identifier, null if there is none; releases 2x, 2x2 and 2x3
+  /// only. Answers from an index that is made on first use and forgotten by Reset: instances that
+  /// are registered later, and identifiers that are changed later, are not found.
+  virtual IfcUnknown* GetItem(const _GUID& guid);
+
+  /// The instance under a number, or null.
+  virtual IfcUnknown* GetItem(std::size_t id);
+
+  /// The number of an instance, 0 if it has none or is not here. The pointer may be of an instance
+  /// that is gone; null means the first empty slot. Constant time.
+  virtual std::size_t Find(const IfcUnknown* item) const;
+
+  /// All slots in order of registration; those of deleted instances are null.
+  virtual const Mvector<IfcUnknown*>& GetItems() const;
+
+  /// The first project of a release, or null.
+  virtual const KelIFC151::IfcProject* GetProject151() const;
+  virtual const KelIFC20::IfcProject* GetProject20() const;
+  virtual const KelIFC2x::IfcProject* GetProject2x() const;
+  virtual KelIFC2x2::IfcProject* GetProject2x2();
+  virtual const KelIFC2x2::IfcProject* GetProject2x2() const;
+  virtual KelIFC2x3::IfcProject* GetProject2x3();
+  virtual const KelIFC2x3::IfcProject* GetProject2x3() const;
+
+  /// A switch of the host, false in a new server, that is kept and given back.
+  virtual bool GetSupportsFillings() const;
+
+  /// Sets the tolerance of this model, and with it that with which every server of the process
+  /// writes real numbers. Gives the tolerance that this model had.
+  virtual double SetEps(double eps);
+
+  virtual void SetSupportsFillings(bool supportsFillings);
+
+  // Global identifiers as text.
+
+  /// Writes the 20 characters in base 85 that releases 1.5.1 and 2.0 use, and a NUL, to `text`.
+  /// False only if that is null.
+  static bool EncodeGUID(const _GUID& guid, char* text);
+
+  /// Reads the first 20 characters of `text`; one outside the alphabet counts as 0. False, with
+  /// `guid` left alone, if there are fewer.
+  static bool DecodeGUID(const char* text, _GUID& guid);
+
+  /// A new identifier as text in base 85, for releases 1.5.1 and 2.0.
+  static std::string CreateGlobalId();
+
+  /// A new identifier as 22 characters in base 64, for releases 2x, 2x2 and 2x3.
+  static std::string CreateGlobalId2x();
+
+  // Additions for C++ hosts.
+
+  /// The schema string in the header of the file that was loaded last, as it stands there; "" if
+  /// that load did not come so far.
+  const std::string& GetFileSchema() const { return fileSchema; }
+
+  /// How many numbers are in use, those of empty slots included.
+  std::size_t GetNumberCount() const { return idToIndex.GetCount(); }
+
+  /// The lowest number in use above `number`, 0 if there is none. This walks the numbers in rising
+  /// order:
+  ///   for (std::size_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) ...
+  std::size_t GetNextNumber(std::size_t number) const;
+
+  /// Sets who is told how far a load is; an empty handler tells nobody, as in a new server.
+  void SetProgressHandler(ProgressHandler handler);
+
+  /// Sets who is told of failures while a file is saved. An empty handler, as in a new server,
+  /// writes one line that begins with "kelifc: " to the standard error stream.
+  void SetErrorHandler(ErrorHandler handler);
+
+ private:
+  friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
+  friend std::int16_t RegisterStatement(IfcServer* server, char* statement);
+  friend std::int16_t ParseStatement(IfcServer* server, char* statement);
+
+  // What a load knows about its file while it runs; all zero outside a load.
+  struct LoadState {
+    bool isRunning = false;
+    bool isStopped = false;             // by the progress handler
+    std::uint64_t highestNumber = 0;    // of all statements so far, those left out included
+    std::uint64_t highestOrdinary = 0;  // the same, of numbers that are not negative
+    std::uint64_t bytesBefore = 0;      // in the passes that are done
+    std::uint64_t bytesTotal = 0;       // of both passes
+    std::uint64_t bytesReported = 0;
+  };
+
+  IfcUnknown* MakeByRelease(const char* name);
+  std::size_t MakeNumber();
+  void Append(std::size_t id, IfcUnknown* item);
+  void BuildInstanceIndex() const;
+  void BuildGuidIndex();
+  void DropRepeatedSlots();
+
+  int LoadPasses(const char* path);
+  bool ReportProgress(std::uint64_t bytesRead);
+  std::int16_t ReadHeaderStatement(char* statement);
+  std::int16_t RegisterInstance(char* statement);
+  void NoteNumber(std::size_t id);
+
+  void WriteInstances(std::ostream& out);
+  void TellError(const std::string& message) const;
+
+  Mvector<IfcUnknown*> items;  // owned; null where deleted
+  NumberIndex idToIndex;
+  IFC_RELEASE release = IFC_RELEASE_NONE;
+  double eps = 0.001;
+  bool supportsFillings = false;
+  std::shared_ptr<StepFileSchema> schemaRecord;  // shared by copies of the server
+  bool headerSeen = false;
+  // Positions, not pointers, so that a deleted instance is not found again.
+  std::map<_GUID, std::uint32_t, GuidLess> guidIndex;
+
+  mutable InstanceIndex instanceIndex;
+  bool mayRepeat = false;            // an instance may stand in two slots
+  std::size_t slotsWithoutGuid = 0;  // so many slots were seen to hold no global identifier
+  std::string fileSchema;
+  LoadState load;
+  ProgressHandler progressHandler;
+  ErrorHandler errorHandler;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_SERVER_IFC_SERVER_H_

@@ -1,0 +1,63 @@
+#include <algorithm>
+#include <fstream>
+
+#include "kelifc/core/step_file_schema.h"
+#include "kelifc/platform/path.h"
+#include "kelifc/server/ifc_server.h"
+#include "kelifc/server/statements.h"
+
+namespace KelIFC {
+namespace {
+
+// What LoadIfcFile gives.
+constexpr int kLoaded = 0;
+constexpr int kCannotOpen = 1;
+constexpr int kNoStepFile = 2;
+constexpr int kUnknownSchema = 3;
+
+}  // namespace
+
+int IfcServer::LoadIfcFile(const char* path) {
+  Reset();
+  fileSchema.clear();
+  if (path == nullptr || !IsRegularFile(path)) return kCannotOpen;
+  struct LoadEnd {  // also where memory runs out in the middle
+    LoadState& load;
+    ~LoadEnd() { load = LoadState(); }
+  } const end{load};
+  load.isRunning = true;
+  load.bytesTotal = 2 * GetFileSize(path);
+  const int result = LoadPasses(path);
+  if (!load.isStopped) return result;
+  Reset();
+  return kCannotOpen;
+}
+
+int IfcServer::LoadPasses(const char* path) {
+  std::ifstream file(path, std::ios::binary);
+  if (!file) return kCannotOpen;
+  schemaRecord.reset();
+  headerSeen = false;
+  ScanFile(file, this, true);
+  if (!headerSeen) return kNoStepFile;
+  if (GetRelease() == IFC_RELEASE_NONE) return kUnknownSchema;
+  if (load.isStopped) return kCannotOpen;
+  load.bytesBefore = load.bytesTotal / 2;
+  load.bytesReported = 0;
+  std::ifstream again(path, std::ios::binary);
+  if (!again) return kCannotOpen;
+  ScanFile(again, this, false);
+  return kLoaded;
+}
+
+// Called for each statement, passes on what is news: once per block that was read.
+bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
+  if (bytesRead == load.bytesReported || !load.isRunning) return true;
+  load.bytesReported = bytesRead;
+  if (!progressHandler) return true;
+  const std::uint64_t done = std::min(load.bytesBefore + bytesRead, load.bytesTotal);
+  load.isStopped = !progressHandler(done, load.bytesTotal);
+  return !load.isStopped;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,23 @@
+#include "kelifc/core/model.h"
+
+#include "kelifc/server/ifc_server.h"
+
+namespace KelIFC {
+
+IfcUnknown* FindInstance(IfcServer* server, std::size_t number) {
+  return server == nullptr ? nullptr : server->GetItem(number);
+}
+
+std::size_t FindNumber(const IfcServer* server, const IfcUnknown* instance) {
+  return server == nullptr ? 0 : server->Find(instance);
+}
+
+IfcUnknown* ParseInstance(IfcServer* server, const char* text, const char** end) {
+  return server == nullptr ? nullptr : server->ParseClass(text, end);
+}
+
+std::size_t AddInstance(IfcServer* server, IfcUnknown* instance) {
+  return server == nullptr ? 0 : server->AddItem(instance);
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,93 @@
+#include <cstdio>
+#include <ostream>
+#include <string>
+#include <string_view>
+
+#include "kelifc/core/text_out.h"
+#include "kelifc/core/unknown.h"
+#include "kelifc/platform/local_time.h"
+#include "kelifc/platform/path.h"
+#include "kelifc/server/file_output.h"
+#include "kelifc/server/ifc_server.h"
+#include "kelifc/server/schema_table.h"
+
+namespace KelIFC {
+namespace {
+
+// What SaveIfcFile gives.
+constexpr int kSaved = 0;
+constexpr int kCannotCreate = 1;
+
+constexpr char kWriterName[] = "KelIFC v. 25.0.3857";
+
+// The time as a file's header has it, such as 2012-03-03T14:05:09.
+std::string FormatTime(const LocalTime& time) {
+  char text[96];
+  const int length = std::snprintf(text, sizeof text, "%4d-%02d-%02dT%02d:%02d:%02d", time.year,
+                                   time.month, time.day, time.hour, time.minute, time.second);
+  return std::string(text, static_cast<std::size_t>(length));
+}
+
+// The header is the same for all models but for its three fields; a file name goes in as it is.
+void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view schema) {
+  out << "ISO-10303-21;\n"
+         "HEADER;\n"
+         "FILE_DESCRIPTION(('Merrow generated IFC file.'),'2;1');\n"
+         "FILE_NAME('"
+      << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'" << kWriterName
+      << "','','','');\n"
+         "FILE_SCHEMA(('"
+      << schema
+      << "'));\n"
+         "ENDSEC;\n"
+         "DATA;\n"
+      << std::flush;
+}
+
+}  // namespace
+
+int IfcServer::SaveIfcFile(const char* path) {
+  if (path == nullptr) {
+    TellError("no file to save to");
+    return kCannotCreate;
+  }
+  const std::string_view schema = GetSchemaString(GetRelease());
+  if (schema.empty()) {
+    TellError("cannot save " + std::string(path) + ": the model has no release");
+    return kCannotCreate;
+  }
+  FileOutput file(path);
+  if (!file.IsOpen()) {
+    TellError("cannot create " + std::string(path) + ": " + GetLastSystemError());
+    return kCannotCreate;
+  }
+  std::ostream& out = file.GetStream();
+  WriteHeader(out, GetFileName(path), schema);
+  WriteInstances(out);
+  out << "ENDSEC;\nEND-ISO-10303-21;\n";
+  if (!file.Close()) TellError("cannot write " + std::string(path) + " to its end");
+  return kSaved;
+}
+
+void IfcServer::WriteInstances(std::ostream& out) {
+  for (std::uint64_t number = idToIndex.GetNext(0); number != 0;
+       number = idToIndex.GetNext(number)) {
+    const IfcUnknown* instance = items[idToIndex.Find(number)];
+    if (instance == nullptr) continue;
+    PutChar(out, '#');
+    PutNumber(out, number);
+    PutChar(out, '=');
+    instance->Write(out);
+    PutText(out, ");\n");
+  }
+}
+
+void IfcServer::TellError(const std::string& message) const {
+  if (errorHandler) {
+    errorHandler(message);
+  } else {
+    std::fprintf(stderr, "kelifc: %s\n", message.c_str());
+  }
+}
+
+}  // namespace KelIFC

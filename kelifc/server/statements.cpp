@@ -1,0 +1,113 @@
+#include "kelifc/server/statements.h"
+
+#include <algorithm>
+#include <cstring>
+#include <memory>
+#include <string_view>
+
+#include "kelifc/core/member.h"
+#include "kelifc/core/step_file_schema.h"
+#include "kelifc/core/unknown.h"
+#include "kelifc/server/ifc_server.h"
+#include "kelifc/server/scanner.h"
+#include "kelifc/server/schema_table.h"
+
+namespace KelIFC {
+namespace {
+
+constexpr std::string_view kHead = "ISO-10303-21";
+
+// What has no `;` in so many bytes from its start is no STEP file. Without this limit a film or an
+// archive would be read into memory in search of one.
+constexpr std::size_t kHeadLimit = 1024 * 1024;
+
+constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
+
+// A statement `#n=...` cut in two at its first `=`.
+struct Assignment {
+  std::size_t number = 0;  // 0 if the statement is none or its left side is not `#n`
+  char* text = nullptr;    // the right side
+};
+
+Assignment CutAssignment(char* statement) {
+  Assignment assignment;
+  char* sign = std::strchr(statement, '=');
+  if (sign == nullptr) return assignment;
+  *sign = '\0';
+  MEMBER left;
+  left.Parse(statement);
+  assignment.number = left;
+  assignment.text = sign + 1;
+  return assignment;
+}
+
+// True if the statement begins with the head of a STEP file, in any case.
+bool BeginsWithHead(const char* statement) {
+  return std::equal(kHead.begin(), kHead.end(), statement, [](char wanted, char found) {
+    return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
+  });
+}
+
+}  // namespace
+
+void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
+  Scanner scanner(in);
+  const auto handle = firstPass ? RegisterStatement : ParseStatement;
+  if (firstPass) scanner.SetLimit(kHeadLimit);
+  while (char* statement = scanner.Next()) {
+    scanner.SetLimit(0);
+    if (handle(server, statement) != 0) return;
+    if (!server->ReportProgress(scanner.GetBytesRead())) return;
+  }
+}
+
+std::int16_t RegisterStatement(IfcServer* server, char* statement) {
+  if (!server->headerSeen) {
+    server->headerSeen = BeginsWithHead(statement);
+    return server->headerSeen ? 0 : 1;
+  }
+  return server->schemaRecord == nullptr ? server->ReadHeaderStatement(statement)
+                                         : server->RegisterInstance(statement);
+}
+
+std::int16_t IfcServer::ReadHeaderStatement(char* statement) {
+  std::unique_ptr<IfcUnknown> instance(ParseClass(statement, nullptr));
+  auto* record = dynamic_cast<StepFileSchema*>(instance.get());
+  if (record == nullptr) {
+    // An instance ahead of the schema is lost, yet the second pass will come across its number.
+    NoteNumber(CutAssignment(statement).number);
+    return 0;
+  }
+  instance.release();
+  schemaRecord.reset(record);
+  record->Parse(statement);
+  fileSchema = record->GetProtocol();
+  const IFC_RELEASE found = FindRelease(fileSchema);
+  if (found == IFC_RELEASE_NONE) return 2;
+  SetRelease(found);
+  return 0;
+}
+
+std::int16_t IfcServer::RegisterInstance(char* statement) {
+  const Assignment assignment = CutAssignment(statement);
+  if (assignment.number == 0) return 0;
+  NoteNumber(assignment.number);
+  InsertItem(assignment.number, ParseClass(assignment.text, nullptr));
+  return 0;
+}
+
+void IfcServer::NoteNumber(std::size_t id) {
+  load.highestNumber = std::max<std::uint64_t>(load.highestNumber, id);
+  if (id < kFirstNegative) {
+    load.highestOrdinary = std::max<std::uint64_t>(load.highestOrdinary, id);
+  }
+}
+
+std::int16_t ParseStatement(IfcServer* server, char* statement) {
+  const Assignment assignment = CutAssignment(statement);
+  if (assignment.number == 0) return 0;
+  if (IfcUnknown* instance = server->GetItem(assignment.number)) instance->Parse(assignment.text);
+  return 0;
+}
+
+}  // namespace KelIFC
