@@ -10,9 +10,11 @@
 #include <cstddef>
 #include <memory>
 
+#include "kelifc/core/bounding_box.h"
 #include "kelifc/core/cartesian_point.h"
 #include "kelifc/core/global_id.h"
-#include "kelifc/core/number_text.h"
+#include "kelifc/core/parameter_value.h"
+#include "kelifc/core/selects.h"
 #include "kelifc/core/unit_assignment.h"
 #include "kelifc/schema/record.h"
 #include "kelifc/schema/references.h"

@@ -12,7 +12,25 @@
 #include "kelifc/schema/dimensional_exponents.h"
 
 namespace KelIFC {
+
+class IfcActorSelect;
+class IfcBooleanOperand;
+class IfcBoundingBox;
+class IfcCartesianPoint;
+class IfcGeometricRepresentationItem;
+class IfcGeometricSetSelect;
+class IfcMaterialSelect;
+class IfcParameterValue;
+class IfcPoint;
+class IfcRepresentationItem;
 class IfcServer;
-}
+class IfcSolidModel;
+class IfcSurface;
+class IfcTrimmingSelect;
+class IfcUnit;
+class IfcUnitAssignment;
+class IfcValue;
+
+}  // namespace KelIFC
 
 #endif  // KELIFC_SCHEMA_COMMON_H_

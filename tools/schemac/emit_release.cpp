@@ -56,6 +56,14 @@ void EmitClassList(const ReleaseModel& model, Files& files) {
   for (const auto& type : ClassNames(model)) {
     out.Line("  using " + type + " = " + std::string(info.nameSpace) + "::" + type + ";");
   }
+  out.Line();
+  out.Doc("  ", "Calls `visit.template operator()<Class>()` for each class.");
+  out.Line("  template <class Visitor>");
+  out.Line("  static void ForEachClass(Visitor&& visit) {");
+  for (const auto& type : ClassNames(model)) {
+    out.Line("    visit.template operator()<" + type + ">();");
+  }
+  out.Line("  }");
   out.Line("};");
   out.Line();
   out.Line("}  // namespace KelIFC");

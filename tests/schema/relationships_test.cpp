@@ -1,0 +1,162 @@
+#include "tests/schema/model.h"
+
+namespace KelIFC {
+namespace {
+
+template <class R>
+class Relationships : public testing::Test {};
+using NewerReleases = testing::Types<Release2x, Release2x2, Release2x3>;
+TYPED_TEST_SUITE(Relationships, NewerReleases);
+
+template <class R>
+class NewestRelationships : public testing::Test {};
+using NewestReleases = testing::Types<Release2x2, Release2x3>;
+TYPED_TEST_SUITE(NewestRelationships, NewestReleases);
+
+const std::string kRoot = "'0123456789ABCDEFGHIJ_$',$,$,$";
+const std::string kProduct = kRoot + ",$,$,$";
+const std::string kWall = "IFCWALL(" + kProduct + ",$)";
+const std::string kStorey = "IFCBUILDINGSTOREY(" + kProduct + ",$,$,$)";
+const std::string kBuilding = "IFCBUILDING(" + kProduct + ",$,$,$,$,$)";
+const std::string kOpening = "IFCOPENINGELEMENT(" + kProduct + ",$)";
+
+TYPED_TEST(Relationships, FillInverseSetsAheadOfWhatTheyName) {
+  Model<TypeParam> model({{1, "IFCRELAGGREGATES(" + kRoot + ",#2,(#3,#4))"},
+                          {2, kBuilding},
+                          {3, kStorey},
+                          {4, kStorey}});
+  const auto* whole = model.template Get<typename TypeParam::IfcBuilding>(2);
+  const auto* part = model.template Get<typename TypeParam::IfcBuildingStorey>(3);
+  auto* relation = model.template Get<typename TypeParam::IfcRelAggregates>(1);
+  ASSERT_EQ(whole->GetDecomposes().GetSize(), 1u) << "the set of the whole";
+  EXPECT_EQ(whole->GetDecomposes()[1], relation);
+  EXPECT_EQ(whole->GetIsDecomposedBy().GetSize(), 0u);
+  ASSERT_EQ(part->GetIsDecomposedBy().GetSize(), 1u) << "the set of a part";
+  EXPECT_EQ(relation->GetRelatedObjects().GetSize(), 2u);
+  EXPECT_EQ(model.TextOf(1), "IFCRELAGGREGATES(" + kRoot + ",#2,(#3, #4))");
+}
+
+TYPED_TEST(Relationships, PassByWhatDoesNotExistOrIsOfAnotherClass) {
+  Model<TypeParam> model(
+      {{1, "IFCRELAGGREGATES(" + kRoot + ",#99,(#5,#98))"}, {5, "IFCDIRECTION((1.,0.))"}});
+  EXPECT_EQ(model.TextOf(1), "IFCRELAGGREGATES(" + kRoot + ",#99,(#5, #98))");
+}
+
+TYPED_TEST(Relationships, AddThemselvesOnceToAnObjectThatIsNamedTwice) {
+  Model<TypeParam> model({{1, "IFCRELASSOCIATES(" + kRoot + ",(#2,#2))"}, {2, kWall}});
+  const auto* wall = model.template Get<typename TypeParam::IfcWall>(2);
+  EXPECT_EQ(wall->GetHasAssociations().GetSize(), 1u);
+  EXPECT_EQ(model.TextOf(1), "IFCRELASSOCIATES(" + kRoot + ",(#2, #2))");
+}
+
+TYPED_TEST(Relationships, TieElementsToTheirStorey) {
+  Model<TypeParam> model(
+      {{1, kWall}, {2, kStorey}, {3, "IFCRELCONTAINEDINSPATIALSTRUCTURE(" + kRoot + ",(#1),#2)"}});
+  const auto* wall = model.template Get<typename TypeParam::IfcWall>(1);
+  const auto* storey = model.template Get<typename TypeParam::IfcBuildingStorey>(2);
+  ASSERT_EQ(wall->GetContainedInStructure().GetSize(), 1u);
+  EXPECT_EQ(wall->GetContainedInStructure()[1]->GetRelatingStructure(), storey);
+  EXPECT_EQ(storey->GetContainsElements().GetSize(), 1u);
+}
+
+TYPED_TEST(Relationships, TieElementsThatTouchAndWriteTheRootAlone) {
+  Model<TypeParam> model(
+      {{1, kWall}, {2, kWall}, {3, "IFCRELCONNECTSELEMENTS(" + kRoot + ",$,#1,#2)"}});
+  using Wall = typename TypeParam::IfcWall;
+  EXPECT_EQ(model.template Get<Wall>(1)->GetConnectedTo().GetSize(), 1u);
+  EXPECT_EQ(model.template Get<Wall>(2)->GetConnectedFrom().GetSize(), 1u);
+  EXPECT_EQ(model.TextOf(3), "IFCRELCONNECTSELEMENTS(" + kRoot + ")");
+}
+
+TYPED_TEST(Relationships, PathConnectionsReadWhatTheirBaseReads) {
+  Model<TypeParam> model(
+      {{1, kWall},
+       {2, kWall},
+       {3, "IFCRELCONNECTSPATHELEMENTS(" + kRoot + ",$,#1,#2,(),(),.ATEND.,.ATSTART.)"}});
+  using Wall = typename TypeParam::IfcWall;
+  EXPECT_EQ(model.template Get<Wall>(1)->GetConnectedTo().GetSize(), 1u);
+  EXPECT_EQ(model.TextOf(3), "IFCRELCONNECTSPATHELEMENTS(" + kRoot + ")");
+}
+
+TYPED_TEST(Relationships, TieOpeningsToElementsAndFillings) {
+  Model<TypeParam> model({{1, kWall},
+                          {2, kOpening},
+                          {3, "IFCRELVOIDSELEMENT(" + kRoot + ",#1,#2)"},
+                          {4, "IFCWINDOW(" + kProduct + ",$,$,$)"}});
+  const auto* opening = model.template Get<typename TypeParam::IfcOpeningElement>(2);
+  EXPECT_EQ(opening->GetVoidsElements(), model.server.GetItem(std::size_t{3}));
+  EXPECT_EQ(model.template Get<typename TypeParam::IfcWall>(1)->GetHasOpenings().GetSize(), 1u);
+  EXPECT_FALSE(model.server.GetSupportsFillings()) << "nothing fills an opening yet";
+  const std::string fills = "IFCRELFILLSELEMENT(" + kRoot + ",#2,#4)";
+  model.server.InsertItem(5, model.server.ParseClass(fills.c_str(), nullptr));
+  model.server.GetItem(std::size_t{5})->Parse(fills.c_str());
+  EXPECT_TRUE(model.server.GetSupportsFillings());
+  EXPECT_EQ(opening->GetHasFillings().GetSize(), 1u);
+  EXPECT_EQ(model.template Get<typename TypeParam::IfcWindow>(4)->GetFillsVoids().GetSize(), 1u);
+}
+
+TYPED_TEST(Relationships, FillingThatLeadsNowhereLeavesTheSwitch) {
+  Model<TypeParam> model({{2, kOpening}, {4, "IFCRELFILLSELEMENT(" + kRoot + ",#2,#99)"}});
+  EXPECT_FALSE(model.server.GetSupportsFillings());
+}
+
+TEST(RelFillsElement, WritesTheRootAloneIn2x) {
+  const std::string text = "IFCRELFILLSELEMENT(" + kRoot + ",#2,#4)";
+  EXPECT_EQ(Rewritten<Release2x>(text), "IFCRELFILLSELEMENT(" + kRoot + ")");
+  EXPECT_EQ(Rewritten<Release2x2>(text), text);
+  EXPECT_EQ(Rewritten<Release2x3>(text), text);
+}
+
+TYPED_TEST(NewestRelationships, AssignObjectsToAProductAndDropTheirType) {
+  Model<TypeParam> model(
+      {{1, "IFCRELASSIGNSTOPRODUCT(" + kRoot + ",(#2),.PRODUCT.,#3)"}, {2, kWall}, {3, kStorey}});
+  EXPECT_EQ(model.template Get<typename TypeParam::IfcWall>(2)->GetHasAssignments().GetSize(), 1u);
+  EXPECT_EQ(
+      model.template Get<typename TypeParam::IfcBuildingStorey>(3)->GetReferencedBy().GetSize(),
+      1u);
+  EXPECT_EQ(model.TextOf(1), "IFCRELASSIGNSTOPRODUCT(" + kRoot + ",(#2),$,#3)");
+}
+
+TYPED_TEST(NewestRelationships, TieElementsToWhatActsOnThem) {
+  const std::string text = "IFCRELCONNECTSSTRUCTURALACTIVITY(" + kRoot + ",#1,#9)";
+  Model<TypeParam> model({{1, kWall}, {2, text}});
+  EXPECT_EQ(
+      model.template Get<typename TypeParam::IfcWall>(1)->GetAssignedStructuralActivity().GetSize(),
+      1u);
+  EXPECT_EQ(model.TextOf(2), text);
+}
+
+TYPED_TEST(NewestRelationships, DefineObjectsByPropertiesAndType) {
+  const std::string properties = "IFCRELDEFINESBYPROPERTIES(" + kRoot + ",(#1),#9)";
+  const std::string type = "IFCRELDEFINESBYTYPE(" + kRoot + ",(#1),#8)";
+  Model<TypeParam> model({{1, kWall}, {2, properties}, {3, type}});
+  const auto* wall = model.template Get<typename TypeParam::IfcWall>(1);
+  EXPECT_EQ(wall->GetIsDefinedBy().GetSize(), 2u);
+  EXPECT_EQ(model.TextOf(2), properties);
+  EXPECT_EQ(model.TextOf(3), type);
+}
+
+TYPED_TEST(Relationships, ThatAreDeletedLeaveNullInTheViews) {
+  Model<TypeParam> model({{1, "IFCRELASSOCIATES(" + kRoot + ",(#2))"}, {2, kWall}});
+  model.server.DeleteItem(model.server.GetItem(std::size_t{1}));
+  const auto view = model.template Get<typename TypeParam::IfcWall>(2)->GetHasAssociations();
+  ASSERT_EQ(view.GetSize(), 1u);
+  EXPECT_EQ(view[1], nullptr);
+}
+
+TYPED_TEST(Relationships, TakeTypedSetsFromAHost) {
+  IfcServer server;
+  server.SetRelease(TypeParam::kRelease);
+  auto* relation = TypeParam::IfcRelAssociates::NewItem(&server);
+  auto* column = TypeParam::IfcColumn::NewItem(&server);
+  typename TypeParam::IfcColumn stranger;
+  SET<typename TypeParam::IfcObject*> objects;
+  objects.Add(column);
+  objects.Add(&stranger);
+  relation->SetRelatedObjects(objects);
+  ASSERT_EQ(relation->GetRelatedObjects().GetSize(), 1u) << "the model does not hold the stranger";
+  EXPECT_EQ(relation->GetRelatedObjects()[1], column);
+}
+
+}  // namespace
+}  // namespace KelIFC
