@@ -4,11 +4,14 @@
 #include <cstddef>
 #include <cstdint>
 #include <iosfwd>
+#include <string>
 
 #include "kelifc/core/real.h"
 #include "kelifc/platform/export.h"
 
 namespace KelIFC {
+
+struct Parenthesised;
 
 /// The numbers of a point or a direction; each of them may be unset. Positions count from 1. Up to
 /// three numbers stand in the object itself, since nearly every point has no more.
@@ -47,6 +50,8 @@ class KELIFC_API COORDINATES {
   double* Begin() { return capacity > kInside ? heap : inside; }
   const double* Begin() const { return capacity > kInside ? heap : inside; }
   void Append(double stored);
+  void ReadNumbers(const Parenthesised& inner);
+  void ReadElements(const std::string& text);
 
   // An unset number is stored as one particular nan, which no number that is set is stored as.
   union {

@@ -47,7 +47,7 @@ class KELIFC_API MEMBER {
   MEMBER& SetReference(const IfcUnknown* target);
 
   /// The number, 0 if there is none. Two references are equal if their numbers are.
-  operator std::size_t() const { return HasNumber() ? NumberIn(word) : GetHeapNumber(); }
+  operator std::size_t() const { return HasHeap() ? GetHeapNumber() : NumberIn(word); }
   bool GetExists() const { return HasHeap() ? GetHeapExists() : word != 0; }
 
   /// The value in place, or the instance that the owner's model has under the number, or null.
@@ -74,8 +74,6 @@ class KELIFC_API MEMBER {
   // its sign. A multiple of 4 is a pointer to a value in place. With 2 added it is a pointer to a
   // box, for what fits none of these: a number beyond 63 bits, or a number, or the mark for unset,
   // beside a value in place. The value in place moves on copy, so the word of a source changes.
-  static constexpr std::uint64_t kDerivedMark = 1;
-
   static std::uint64_t WordOf(std::size_t number) {
     const std::uint64_t bits = (static_cast<std::uint64_t>(number) << 1) | 1;
     return NumberIn(bits) == number ? bits : MakeBox(true, number, nullptr);
@@ -83,16 +81,16 @@ class KELIFC_API MEMBER {
   static std::size_t NumberIn(std::uint64_t bits) {
     return static_cast<std::size_t>(static_cast<std::int64_t>(bits) >> 1);
   }
+  static std::uint64_t WordOf(bool exists, std::size_t number, IfcUnknown* value);
   static std::uint64_t MakeBox(bool exists, std::size_t number, IfcUnknown* value);
 
-  bool HasNumber() const { return (word & 1) != 0; }
   bool HasHeap() const { return (word & 1) == 0 && word != 0; }
   bool HasBox() const { return (word & 3) == 2; }
   Box* GetBox() const;
   std::size_t GetHeapNumber() const;
   bool GetHeapExists() const;
   IfcUnknown* GetHeapValue() const;
-  void SetWord(bool exists, std::size_t number, IfcUnknown* value);
+  void ReplaceWord(std::uint64_t other);
   std::uint64_t TakeWord() const { return HasHeap() ? TakeHeap() : word; }
   std::uint64_t TakeHeap() const;
   void DestroyHeap();

@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <new>
 #include <type_traits>
 #include <utility>
@@ -114,11 +113,7 @@ class Sequence {
     std::uint32_t size, capacity, mark;
   };
 
-  static constexpr std::size_t kMaximum =
-      static_cast<std::size_t>(std::numeric_limits<std::ptrdiff_t>::max()) / 2 / sizeof(T) <
-              std::numeric_limits<std::int32_t>::max()
-          ? static_cast<std::size_t>(std::numeric_limits<std::ptrdiff_t>::max()) / 2 / sizeof(T)
-          : std::numeric_limits<std::int32_t>::max();
+  static constexpr std::size_t kMaximum = 0x7FFFFFFF;
   static constexpr std::size_t kHeaderSize =
       std::is_empty_v<Header> ? 0 : (sizeof(Header) + alignof(T) - 1) / alignof(T) * alignof(T);
   static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__ && alignof(Header) <= alignof(T));
@@ -131,7 +126,8 @@ class Sequence {
 
   void Allocate(std::size_t count) {
     if (count == 0) return;
-    if (count > kMaximum) throw std::bad_array_new_length();
+    if (count > kMaximum || count > (PTRDIFF_MAX - kHeaderSize) / sizeof(T))
+      throw std::bad_array_new_length();
     const std::size_t prefix = count < kHeaderCapacity ? 0 : kHeaderSize;
     char* block = static_cast<char*>(::operator new(prefix + count * sizeof(T)));
     if (count >= kHeaderCapacity) ::new (static_cast<void*>(block)) Header();

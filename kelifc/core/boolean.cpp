@@ -1,0 +1,25 @@
+#include "kelifc/core/boolean.h"
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/enum.h"
+#include "kelifc/core/text_out.h"
+
+namespace KelIFC {
+
+const char* BOOLEAN::Parse(const char* text) {
+  value = false;
+  exists = false;
+  const char* next;
+  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  const EnumText read = ReadEnumText(text);
+  exists = true;
+  value = read.text == "T";
+  return read.next;
+}
+
+std::ostream& BOOLEAN::Write(std::ostream& out) const {
+  PutText(out, !exists ? "$" : value ? ".T." : ".F.");
+  return out;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,136 @@
+#include "kelifc/core/coordinates.h"
+
+#include <algorithm>
+#include <cstring>
+#include <limits>
+#include <new>
+#include <string>
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/number_text.h"
+#include "kelifc/core/parenthesised.h"
+#include "kelifc/core/text_out.h"
+
+namespace KelIFC {
+
+namespace {
+
+// A quiet nan that no arithmetic makes.
+constexpr std::uint64_t kUnsetBits = 0x7FFC'556E'7365'7400;
+
+bool IsUnset(double stored) {
+  std::uint64_t bits;
+  std::memcpy(&bits, &stored, sizeof bits);
+  return bits == kUnsetBits;
+}
+
+double MakeUnset() {
+  double stored;
+  std::memcpy(&stored, &kUnsetBits, sizeof stored);
+  return stored;
+}
+
+double StoredOf(const REAL& number) {
+  if (!number.GetExists()) return MakeUnset();
+  return IsUnset(number) ? std::numeric_limits<double>::quiet_NaN() : double{number};
+}
+
+REAL NumberOf(double stored) { return IsUnset(stored) ? REAL() : REAL(stored); }
+
+}  // namespace
+
+COORDINATES::COORDINATES(const COORDINATES& other) {
+  Reserve(other.size);
+  std::copy_n(other.Begin(), other.size, Begin());
+  size = other.size;
+}
+
+COORDINATES& COORDINATES::operator=(const COORDINATES& other) {
+  if (this == &other) return *this;
+  Reserve(other.size);
+  std::copy_n(other.Begin(), other.size, Begin());
+  size = other.size;
+  return *this;
+}
+
+void COORDINATES::Reserve(std::size_t count) {
+  if (count <= capacity) return;
+  if (count > std::numeric_limits<std::uint32_t>::max()) throw std::bad_array_new_length();
+  auto* larger = new double[count];
+  std::copy_n(Begin(), size, larger);
+  if (capacity > kInside) delete[] heap;
+  heap = larger;
+  capacity = static_cast<std::uint32_t>(count);
+}
+
+void COORDINATES::Append(double stored) {
+  if (size == capacity) Reserve(2 * std::size_t{capacity});
+  Begin()[size++] = stored;
+}
+
+std::size_t COORDINATES::Add(REAL number) {
+  Append(StoredOf(number));
+  return size;
+}
+
+REAL COORDINATES::GetItem(std::size_t position) const {
+  return position - 1 < size ? NumberOf(Begin()[position - 1]) : REAL();
+}
+
+void COORDINATES::SetItem(std::size_t position, REAL number) {
+  if (position - 1 < size) Begin()[position - 1] = StoredOf(number);
+}
+
+void COORDINATES::Resize(std::size_t count) {
+  Reserve(count);
+  while (size < count) Append(MakeUnset());
+  size = static_cast<std::uint32_t>(count);
+}
+
+// Reads numbers in place. No parenthesis opens among them, so no reader runs past the end.
+void COORDINATES::ReadNumbers(const Parenthesised& inner) {
+  const char* cursor = inner.begin;
+  while (cursor != nullptr) {
+    const char* first = SkipBlanks(cursor);
+    if (*first != '$' && *first != '*') {
+      if (size == kInside) Reserve(kInside + 1 + inner.CountCommas(cursor));
+      Append(StoredOf(ReadReal(cursor, &first)));
+    }
+    cursor = BehindCommaBefore(first, inner.end);
+  }
+}
+
+// Reads numbers from a text of their own, whose end bounds them.
+void COORDINATES::ReadElements(const std::string& text) {
+  REAL number;
+  for (const char* cursor = text.c_str(); cursor != nullptr;) {
+    cursor = number.Parse(cursor);
+    if (number.GetExists()) Append(StoredOf(number));
+  }
+}
+
+const char* COORDINATES::Parse(const char* text) {
+  size = 0;
+  const char* next;
+  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  Parenthesised inner;
+  if (!FindParenthesised(text, inner)) return text;
+  if (inner.isNested) {
+    ReadElements(std::string(inner.begin, inner.end));
+  } else if (inner.begin != inner.end) {
+    ReadNumbers(inner);
+  }
+  return inner.BehindNextComma();
+}
+
+std::ostream& COORDINATES::Write(std::ostream& out) const {
+  PutChar(out, '(');
+  for (std::uint32_t i = 0; i < size; ++i) {
+    if (i != 0) PutChar(out, ',');
+    NumberOf(Begin()[i]).Write(out);
+  }
+  PutChar(out, ')');
+  return out;
+}
+
+}  // namespace KelIFC

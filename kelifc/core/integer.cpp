@@ -1,0 +1,28 @@
+#include "kelifc/core/integer.h"
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/number_text.h"
+#include "kelifc/core/text_out.h"
+
+namespace KelIFC {
+
+const char* INTEGER::Parse(const char* text) {
+  value = 0;
+  exists = false;
+  const char* next;
+  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  exists = true;
+  value = ReadInteger(text, &next);
+  return BehindNextComma(next);
+}
+
+std::ostream& INTEGER::Write(std::ostream& out) const {
+  if (exists) {
+    PutNumber(out, std::int64_t{value});
+  } else {
+    PutChar(out, '$');
+  }
+  return out;
+}
+
+}  // namespace KelIFC

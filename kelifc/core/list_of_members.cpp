@@ -1,0 +1,22 @@
+#include "kelifc/core/list_of_members.h"
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/parse_members.h"
+
+namespace KelIFC {
+
+LIST_OF_MEMBERS& LIST_OF_MEMBERS::operator=(const std::vector<IfcUnknown*>& /*items*/) {
+  SetExists(true);
+  return *this;
+}
+
+const char* LIST_OF_MEMBERS::Parse(const char* text) {
+  Clear();
+  SetExists(false);
+  const char* next;
+  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  SetExists(true);
+  return ParseMembers(text, owner, items);
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,29 @@
+#include "kelifc/core/logical.h"
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/enum.h"
+#include "kelifc/core/text_out.h"
+
+namespace KelIFC {
+
+const char* LOGICAL::Parse(const char* text) {
+  value = LOGICAL_UNKNOWN;
+  exists = false;
+  const char* next;
+  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  const EnumText read = ReadEnumText(text);
+  exists = true;
+  value = read.text == "T" ? LOGICAL_TRUE : read.text == "F" ? LOGICAL_FALSE : LOGICAL_UNKNOWN;
+  return read.next;
+}
+
+std::ostream& LOGICAL::Write(std::ostream& out) const {
+  if (!exists) {
+    PutChar(out, '$');
+  } else {
+    PutText(out, value == LOGICAL_TRUE ? ".T." : value == LOGICAL_FALSE ? ".F." : ".U.");
+  }
+  return out;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,153 @@
+#include "kelifc/core/member.h"
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/model.h"
+#include "kelifc/core/number_text.h"
+#include "kelifc/core/text_out.h"
+#include "kelifc/core/unknown.h"
+
+namespace KelIFC {
+
+/// What a word alone cannot say.
+struct MEMBER::Box {
+  std::size_t number;
+  IfcUnknown* value;
+  bool exists;
+};
+
+namespace {
+
+static_assert(alignof(IfcUnknown) >= 4, "two bits of a pointer tell the states apart");
+constexpr std::uint64_t kBoxMark = 2;
+
+std::uint64_t WordOfPointer(const void* pointer) {
+  return reinterpret_cast<std::uintptr_t>(pointer);
+}
+
+}  // namespace
+
+std::uint64_t MEMBER::MakeBox(bool exists, std::size_t number, IfcUnknown* value) {
+  return WordOfPointer(new Box{number, value, exists}) | kBoxMark;
+}
+
+MEMBER::Box* MEMBER::GetBox() const {
+  return reinterpret_cast<Box*>(static_cast<std::uintptr_t>(word & ~kBoxMark));
+}
+
+std::size_t MEMBER::GetHeapNumber() const { return HasBox() ? GetBox()->number : 0; }
+bool MEMBER::GetHeapExists() const { return !HasBox() || GetBox()->exists; }
+
+IfcUnknown* MEMBER::GetHeapValue() const {
+  if (!HasHeap()) return nullptr;
+  return HasBox() ? GetBox()->value
+                  : reinterpret_cast<IfcUnknown*>(static_cast<std::uintptr_t>(word));
+}
+
+// The word for a state.
+std::uint64_t MEMBER::WordOf(bool exists, std::size_t number, IfcUnknown* value) {
+  if (value != nullptr) {
+    return exists && number == 0 ? WordOfPointer(value) : MakeBox(exists, number, value);
+  }
+  return exists ? WordOf(number) : 0;
+}
+
+// Replaces the word; a value in place that the old one held is not destroyed.
+void MEMBER::ReplaceWord(std::uint64_t other) {
+  if (HasBox()) delete GetBox();
+  word = other;
+}
+
+// Gives the word to a copy and keeps what is left of the state without the value in place.
+std::uint64_t MEMBER::TakeHeap() const {
+  const std::uint64_t rest = WordOf(GetHeapExists(), GetHeapNumber(), nullptr);
+  const std::uint64_t taken = word;
+  word = rest;
+  return taken;
+}
+
+void MEMBER::DestroyHeap() {
+  IfcUnknown* value = GetHeapValue();
+  ReplaceWord(0);
+  delete value;
+}
+
+MEMBER& MEMBER::operator=(const MEMBER& other) {
+  if (this == &other) return *this;
+  // The source may be part of the value in place that is destroyed here.
+  IfcUnknown* holder = other.owner;
+  const std::uint64_t taken = other.TakeWord();
+  Unset();
+  owner = holder;
+  word = taken;
+  return *this;
+}
+
+MEMBER& MEMBER::operator=(std::size_t number) {
+  const std::uint64_t other = WordOf(number);
+  Unset();
+  word = other;
+  return *this;
+}
+
+MEMBER& MEMBER::operator=(IfcUnknown* value) {
+  ReplaceWord(WordOf(true, 0, value));
+  return *this;
+}
+
+MEMBER& MEMBER::SetReference(const IfcUnknown* target) {
+  const IfcServer* server = owner == nullptr ? nullptr : owner->GetServer();
+  const std::size_t number = FindNumber(server, target);
+  ReplaceWord(WordOf(number != 0, number, GetHeapValue()));
+  return *this;
+}
+
+IfcUnknown* MEMBER::_GetInstance() {
+  if (!GetExists()) return nullptr;
+  if (IfcUnknown* value = GetHeapValue()) return value;
+  const auto number = static_cast<std::size_t>(*this);
+  if (number == 0 || owner == nullptr) return nullptr;
+  return FindInstance(owner->GetServer(), number);
+}
+
+const IfcUnknown* MEMBER::GetInlineValue() const { return GetHeapValue(); }
+
+const char* MEMBER::Parse(const char* text) {
+  Unset();
+  const char* next;
+  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  const char* first = SkipBlanks(text);
+  if (*first != '#') return ParseInPlace(text, first);
+  const std::int64_t number = ReadInteger(first + 1, &next);
+  word = WordOf(static_cast<std::size_t>(number));
+  return BehindNextComma(next);
+}
+
+const char* MEMBER::ParseInPlace(const char* text, const char* name) {
+  if (owner == nullptr) return text;
+  const char* behindName = nullptr;
+  IfcUnknown* value = ParseInstance(owner->GetServer(), name, &behindName);
+  if (value == nullptr) return text;
+  if (behindName == nullptr) {
+    delete value;
+    return text;
+  }
+  word = WordOfPointer(value);
+  return value->Parse(behindName);
+}
+
+std::ostream& MEMBER::Write(std::ostream& out) const {
+  const auto number = static_cast<std::size_t>(*this);
+  if (!GetExists()) {
+    PutChar(out, '$');
+  } else if (number != 0) {
+    PutChar(out, '#');
+    PutNumber(out, std::uint64_t{number});
+  } else if (const IfcUnknown* value = GetHeapValue()) {
+    value->Write(out);
+  } else {
+    PutChar(out, '*');
+  }
+  return out;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,34 @@
+#include "kelifc/core/real.h"
+
+#include <cmath>
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/number_text.h"
+#include "kelifc/core/text_out.h"
+#include "kelifc/core/write_tolerance.h"
+
+namespace KelIFC {
+
+const char* REAL::Parse(const char* text) {
+  value = 0.0;
+  exists = false;
+  const char* next;
+  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  exists = true;
+  value = ReadReal(text, &next);
+  return BehindNextComma(next);
+}
+
+std::ostream& REAL::Write(std::ostream& out) const {
+  if (!exists) {
+    PutChar(out, '$');
+  } else if (std::fabs(value) <= GetWriteTolerance()) {
+    PutText(out, "0.");
+  } else {
+    char buffer[kRealTextSize];
+    PutText(out, FormatReal(value, buffer));
+  }
+  return out;
+}
+
+}  // namespace KelIFC

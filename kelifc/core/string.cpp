@@ -1,0 +1,35 @@
+#include "kelifc/core/string.h"
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/quoting.h"
+#include "kelifc/core/text_out.h"
+
+namespace KelIFC {
+
+STRING& STRING::operator=(const char* text) {
+  exists = text != nullptr;
+  assign(exists ? text : "");
+  return *this;
+}
+
+const char* STRING::Parse(const char* text) {
+  clear();
+  exists = false;
+  const char* next;
+  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  const char* closing = DecodeQuoted(text, *this);
+  if (closing == nullptr) return text;
+  exists = true;
+  return BehindNextComma(closing + 1);
+}
+
+std::ostream& STRING::Write(std::ostream& out) const {
+  if (exists) {
+    EncodeQuoted(out, *this);
+  } else {
+    PutChar(out, '$');
+  }
+  return out;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,36 @@
+#include "kelifc/core/unknown.h"
+
+#include <cstring>
+
+#include "kelifc/core/cursor.h"
+#include "kelifc/core/text_out.h"
+
+namespace KelIFC {
+
+IfcUnknown::~IfcUnknown() = default;
+
+const char* IfcUnknown::GetItemName() { return "IfcUnknown"; }
+const char* IfcUnknown::GetStepName() const { return IfcUnknown::GetItemName(); }
+
+const char* IfcUnknown::Parse(const char* text) {
+  if (text == nullptr) return nullptr;
+  const char* open = std::strchr(text, '(');
+  return open == nullptr ? nullptr : open + 1;
+}
+
+std::ostream& IfcUnknown::Write(std::ostream& out) const {
+  PutUpperCase(out, GetStepName(), '(');
+  return out;
+}
+
+const char* IfcUnknown::ParseDef(const char* text) {
+  if (text == nullptr) return nullptr;
+  text = SkipBlanks(text);
+  return *text == '*' ? BehindNextComma(text) : text;
+}
+
+IfcServer* IfcUnknown::GetServer() { return server; }
+const IfcServer* IfcUnknown::GetServer() const { return server; }
+void IfcUnknown::SetServer(IfcServer* model) { server = model; }
+
+}  // namespace KelIFC
