@@ -7,10 +7,22 @@ install(TARGETS kelifc EXPORT KelIFCTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/kelifc" "${PROJECT_BINARY_DIR}/generated/kelifc"
-  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+# Headers that stay inside; a test holds this list against what kelifc.h reaches.
+set(internal_headers
+  core/cast_cache core/global_id core/model core/number_text core/parenthesised core/parse_members
+  core/quoting core/resolve core/value_member core/write_tolerance
+  platform/com_class platform/com_guard platform/com_module platform/com_object
+  platform/local_time platform/new_guid platform/path
+  schema/bodies schema/record schema/references
+  server/block_search server/file_output server/name_table server/release_tables server/scanner
+  server/schema_table server/statements)
+list(JOIN internal_headers "|" internal_headers)
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/kelifc" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
   FILES_MATCHING PATTERN "*.h"
-  PATTERN "import" EXCLUDE)
+  REGEX "/kelifc/(${internal_headers})\\.h$" EXCLUDE
+  REGEX "/kelifc/(import|schema/[a-z_]+)$" EXCLUDE)  # folders without a public header
+install(DIRECTORY "${PROJECT_BINARY_DIR}/generated/kelifc"
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/KelIFC")
 install(EXPORT KelIFCTargets NAMESPACE KelIFC:: DESTINATION "${package_dir}")
