@@ -47,7 +47,8 @@ struct KELIFC_API GuidLess {
 /// together. An answer of false stops the load. It must not touch the server.
 using ProgressHandler = std::function<bool(std::uint64_t bytesDone, std::uint64_t bytesTotal)>;
 
-/// Told, in one line without an end, what went wrong while a file was saved.
+/// Told what went wrong while a file was saved, in one line without its end: the path as it was
+/// given, a colon, a blank and the cause.
 using ErrorHandler = std::function<void(const std::string& message)>;
 
 /// One model: it owns the instances of one file, or of one that is built in memory, and knows each
@@ -227,7 +228,7 @@ class KELIFC_API IfcServer {
   void NoteNumber(std::size_t id);
 
   void WriteInstances(std::ostream& out);
-  void TellError(const std::string& message) const;
+  int TellError(const std::string& message) const;
 
   Mvector<IfcUnknown*> items;  // owned; null where deleted
   NumberIndex idToIndex;

@@ -47,25 +47,17 @@ void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view 
 }  // namespace
 
 int IfcServer::SaveIfcFile(const char* path) {
-  if (path == nullptr) {
-    TellError("no file to save to");
-    return kCannotCreate;
-  }
+  if (path == nullptr) return TellError("no name of a file to save to");
+  const std::string place = std::string(path) + ": ";
   const std::string_view schema = GetSchemaString(GetRelease());
-  if (schema.empty()) {
-    TellError("cannot save " + std::string(path) + ": the model has no release");
-    return kCannotCreate;
-  }
+  if (schema.empty()) return TellError(place + "the model has no release to be saved in");
   FileOutput file(path);
-  if (!file.IsOpen()) {
-    TellError("cannot create " + std::string(path) + ": " + GetLastSystemError());
-    return kCannotCreate;
-  }
+  if (!file.IsOpen()) return TellError(place + GetLastSystemError());
   std::ostream& out = file.GetStream();
   WriteHeader(out, GetFileName(path), schema);
   WriteInstances(out);
-  out << "ENDSEC;\nEND-ISO-10303-21;\n";
-  if (!file.Close()) TellError("cannot write " + std::string(path) + " to its end");
+  PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
+  if (!file.Close()) TellError(place + "the file could not be written to its end");
   return kSaved;
 }
 
@@ -82,12 +74,13 @@ void IfcServer::WriteInstances(std::ostream& out) {
   }
 }
 
-void IfcServer::TellError(const std::string& message) const {
+int IfcServer::TellError(const std::string& message) const {
   if (errorHandler) {
     errorHandler(message);
   } else {
     std::fprintf(stderr, "kelifc: %s\n", message.c_str());
   }
+  return kCannotCreate;
 }
 
 }  // namespace KelIFC

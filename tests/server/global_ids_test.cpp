@@ -40,12 +40,12 @@ TEST(GlobalIds, LetTheLowByteOfTheFirstFieldLead) {
   _GUID last = {};
   last.Data4[7] = 1;
   EXPECT_EQ(Encode(last), std::string(19, '0') + "1");
-  _GUID first = {};
-  first.Data1 = 1;
-  _GUID second = {};
-  second.Data1 = 0x100;
-  EXPECT_NE(Encode(first)[0], '0');
-  EXPECT_GT(Encode(first), Encode(second));
+  _GUID lowByte = {};
+  lowByte.Data1 = 0x80;  // 2^127, which is 37 times 85^19 and a rest
+  EXPECT_EQ(Encode(lowByte)[0], 'b');
+  _GUID highByte = {};
+  highByte.Data1 = 0x80000000;
+  EXPECT_EQ(Encode(highByte)[0], '0');
 }
 
 TEST(GlobalIds, ComeBackFromTheirText) {
