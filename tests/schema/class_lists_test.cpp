@@ -1,4 +1,6 @@
 #include <algorithm>
+#include <concepts>
+#include <memory>
 #include <set>
 #include <sstream>
 #include <type_traits>
@@ -230,7 +232,7 @@ struct Expected<Release2x3> {
 
 template <class Type>
 concept Makable = requires {
-  Type::NewItem(static_cast<IfcServer*>(nullptr));
+  { Type::NewItem(static_cast<IfcServer*>(nullptr)) } -> std::same_as<Type*>;
 };
 
 template <class Type>

@@ -81,7 +81,9 @@ void EmitUmbrella(const Description& description, const ReleaseModel& model, Fil
   out.Line("#ifndef " + Guard(path));
   out.Line("#define " + Guard(path));
   out.Line();
-  out.Line("// Every class of release " + std::string(info.mark) + ".");
+  out.Line("// Every class of release " + std::string(info.mark) +
+           ", those of all releases included.");
+  for (const auto& header : CoreHeaders()) out.Line("#include \"" + header + "\"");
   for (const auto& family : description.families) {
     out.Line("#include \"" + FamilyFile(folder, family.name, ".h") + "\"");
   }

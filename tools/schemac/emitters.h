@@ -20,6 +20,9 @@ void EmitRelease(const Description& description, const ReleaseModel& model, File
 /// The enumerations of the core namespace, one header per family.
 void EmitCoreEnumerations(const Description& description, Files& files);
 
+/// A test source with a sample record of each class that is read and written regularly.
+void EmitRecords(const ReleaseModel& model, Files& files);
+
 /// A test source that compares the order of the virtual operations with the compiler's layout.
 void EmitSlots(const std::vector<ReleaseModel>& models, Files& files);
 

@@ -242,6 +242,12 @@ const CoreClass* FindCoreClass(std::string_view name) {
   return nullptr;
 }
 
+std::set<std::string> CoreHeaders() {
+  std::set<std::string> headers;
+  for (const auto& row : kCoreClasses) headers.emplace(row.header);
+  return headers;
+}
+
 const EnumTable* FindTable(const Enumeration& enumeration, std::size_t release) {
   for (const auto& table : enumeration.tables) {
     if (table.releases.Has(release)) return &table;

@@ -2,6 +2,7 @@
 #define KELIFC_TOOLS_SCHEMAC_RESOLVER_H_
 
 #include <map>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -68,6 +69,9 @@ struct CoreClass {
 };
 
 const CoreClass* FindCoreClass(std::string_view name);
+
+/// The headers of all of them.
+std::set<std::string> CoreHeaders();
 
 /// The table of an enumeration in a release, null if it has none there.
 const EnumTable* FindTable(const Enumeration& enumeration, std::size_t release);
