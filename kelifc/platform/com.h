@@ -1,0 +1,18 @@
+#ifndef KELIFC_PLATFORM_COM_H_
+#define KELIFC_PLATFORM_COM_H_
+
+// What a host of the object model needs beside its interfaces: the types of the Component Object
+// Model, automation strings, variants, the error object, the making of objects, a smart pointer.
+
+#include "kelifc/platform/com_bstr.h"
+#include "kelifc/platform/com_error.h"
+#include "kelifc/platform/com_factory.h"
+#include "kelifc/platform/com_guid.h"
+#include "kelifc/platform/com_interfaces.h"
+#include "kelifc/platform/com_ptr.h"
+#include "kelifc/platform/com_string.h"
+#include "kelifc/platform/com_text.h"
+#include "kelifc/platform/com_types.h"
+#include "kelifc/platform/com_variant.h"
+
+#endif  // KELIFC_PLATFORM_COM_H_

@@ -1,0 +1,173 @@
+#ifndef KELIFC_PLATFORM_COM_INTERFACES_H_
+#define KELIFC_PLATFORM_COM_INTERFACES_H_
+
+#include "kelifc/platform/com_types.h"
+#include "kelifc/platform/export.h"
+
+#ifdef _WIN32
+#include <oaidl.h>
+#include <unknwn.h>
+#else
+
+struct ITypeInfo;
+struct DISPPARAMS;
+struct EXCEPINFO;
+struct VARIANT;
+using BSTR = OLECHAR*;
+
+// The system's own interfaces, in their fixed order of operations. An interface is never deleted;
+// who holds one gives it back with Release.
+
+/// The root of all interfaces: counts who holds the object, and finds its other interfaces.
+struct KELIFC_API IUnknown {
+  static constexpr IID kIid = {
+      0x00000000, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+
+  /// Gives the interface `iid` of this object, counted, or null and E_NOINTERFACE.
+  virtual HRESULT QueryInterface(const IID& iid, void** out) = 0;
+
+  virtual ULONG AddRef() = 0;
+
+  /// Gives one hold back; the last one ends the object. Gives the number of those left.
+  virtual ULONG Release() = 0;
+
+ protected:
+  ~IUnknown() = default;
+};
+
+/// The root of all interfaces that a script host can use by name.
+struct KELIFC_API IDispatch : IUnknown {
+  static constexpr IID kIid = {
+      0x00020400, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+
+  virtual HRESULT GetTypeInfoCount(UINT* count) = 0;
+  virtual HRESULT GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) = 0;
+  virtual HRESULT GetIDsOfNames(const IID& iid, OLECHAR** names, UINT count, LCID locale,
+                                DISPID* ids) = 0;
+  virtual HRESULT Invoke(DISPID id, const IID& iid, LCID locale, WORD flags, DISPPARAMS* arguments,
+                         VARIANT* result, EXCEPINFO* exception, UINT* badArgument) = 0;
+
+ protected:
+  ~IDispatch() = default;
+};
+
+/// Makes objects of one class.
+struct KELIFC_API IClassFactory : IUnknown {
+  static constexpr IID kIid = {
+      0x00000001, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+
+  virtual HRESULT CreateInstance(IUnknown* outer, const IID& iid, void** out) = 0;
+
+  /// Keeps the library loaded, or lets it go again.
+  virtual HRESULT LockServer(BOOL lock) = 0;
+
+ protected:
+  ~IClassFactory() = default;
+};
+
+/// Walks the items of a collection as variants.
+struct KELIFC_API IEnumVARIANT : IUnknown {
+  static constexpr IID kIid = {
+      0x00020404, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
+
+  /// Gives the next `count` items; S_FALSE if there were fewer. `fetched` may be null for one.
+  virtual HRESULT Next(ULONG count, VARIANT* items, ULONG* fetched) = 0;
+
+  /// Passes over `count` items; S_FALSE if there were fewer.
+  virtual HRESULT Skip(ULONG count) = 0;
+
+  virtual HRESULT Reset() = 0;
+
+  /// A second walk that stands at the same item.
+  virtual HRESULT Clone(IEnumVARIANT** out) = 0;
+
+ protected:
+  ~IEnumVARIANT() = default;
+};
+
+/// Tells for which interfaces an object reports failures through the error object.
+struct KELIFC_API ISupportErrorInfo : IUnknown {
+  static constexpr IID kIid = {
+      0xDF0B3D60, 0x548F, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
+
+  /// S_OK for yes, S_FALSE for no.
+  virtual HRESULT InterfaceSupportsErrorInfo(const IID& iid) = 0;
+
+ protected:
+  ~ISupportErrorInfo() = default;
+};
+
+/// What failed, in words.
+struct KELIFC_API IErrorInfo : IUnknown {
+  static constexpr IID kIid = {
+      0x1CF2B120, 0x547D, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
+
+  virtual HRESULT GetGUID(GUID* guid) = 0;
+  virtual HRESULT GetSource(BSTR* source) = 0;
+  virtual HRESULT GetDescription(BSTR* description) = 0;
+  virtual HRESULT GetHelpFile(BSTR* helpFile) = 0;
+  virtual HRESULT GetHelpContext(DWORD* helpContext) = 0;
+
+ protected:
+  ~IErrorInfo() = default;
+};
+
+/// Writes what IErrorInfo of the same object gives.
+struct KELIFC_API ICreateErrorInfo : IUnknown {
+  static constexpr IID kIid = {
+      0x22F03340, 0x547D, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
+
+  virtual HRESULT SetGUID(const GUID& guid) = 0;
+  virtual HRESULT SetSource(OLECHAR* source) = 0;
+  virtual HRESULT SetDescription(OLECHAR* description) = 0;
+  virtual HRESULT SetHelpFile(OLECHAR* helpFile) = 0;
+  virtual HRESULT SetHelpContext(DWORD helpContext) = 0;
+
+ protected:
+  ~ICreateErrorInfo() = default;
+};
+
+#endif
+
+namespace KelIFC {
+
+/// The identifier of an interface.
+template <class Interface>
+const IID& IidOf() {
+  return Interface::kIid;
+}
+
+#ifdef _WIN32
+template <>
+inline const IID& IidOf<IUnknown>() {
+  return IID_IUnknown;
+}
+template <>
+inline const IID& IidOf<IDispatch>() {
+  return IID_IDispatch;
+}
+template <>
+inline const IID& IidOf<IClassFactory>() {
+  return IID_IClassFactory;
+}
+template <>
+inline const IID& IidOf<IEnumVARIANT>() {
+  return IID_IEnumVARIANT;
+}
+template <>
+inline const IID& IidOf<ISupportErrorInfo>() {
+  return IID_ISupportErrorInfo;
+}
+template <>
+inline const IID& IidOf<IErrorInfo>() {
+  return IID_IErrorInfo;
+}
+template <>
+inline const IID& IidOf<ICreateErrorInfo>() {
+  return IID_ICreateErrorInfo;
+}
+#endif
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_PLATFORM_COM_INTERFACES_H_
