@@ -1,0 +1,17 @@
+#ifndef KELIFC_TOOLS_COMGEN_PARSER_H_
+#define KELIFC_TOOLS_COMGEN_PARSER_H_
+
+#include <string>
+#include <string_view>
+
+#include "tools/comgen/description.h"
+
+namespace comgen {
+
+/// Reads a description. Throws schemac::DescriptionError, which names file, line and column, for a
+/// text that does not follow the notation. Names are not looked up yet: see Resolve.
+Description ParseDescription(const std::string& file, std::string_view text);
+
+}  // namespace comgen
+
+#endif  // KELIFC_TOOLS_COMGEN_PARSER_H_
