@@ -1,0 +1,37 @@
+#ifndef KELIFC_GEO_COLLECTIONS_H_
+#define KELIFC_GEO_COLLECTIONS_H_
+
+#include "kelifc/geo/class_bases.h"
+#include "kelifc/geo/collection.h"
+
+namespace KelIFC {
+
+// The collections of the object model. What is peculiar to sections stands in sections.h.
+
+using CoGeoStoreys = ModelCollection<CoGeoStoreysBase, IGeoStorey>;
+using CoGeoColumns = ModelCollection<CoGeoColumnsBase, IGeoColumn>;
+using CoGeoBeams = ModelCollection<CoGeoBeamsBase, IGeoBeam>;
+using CoGeoWalls = ModelCollection<CoGeoWallsBase, IGeoWall>;
+using CoGeoPlates = ModelCollection<CoGeoPlatesBase, IGeoPlate>;
+using CoGeoFoots = ModelCollection<CoGeoFootsBase, IGeoFoot>;
+using CoGeoWindows = ModelCollection<CoGeoWindowsBase, IGeoWindow>;
+using CoGeoDoors = ModelCollection<CoGeoDoorsBase, IGeoDoor>;
+using CoGeoHoles = ModelCollection<CoGeoHolesBase, IGeoHole>;
+
+using CoGeoObjects = Collection<CoGeoObjectsBase, IGeoObject>;
+using CoGeoPoints = Collection<CoGeoPointsBase, IGeoPoint>;
+using CoGeoFaces = Collection<CoGeoFacesBase, IGeoFace>;
+using CoGeoNumbers = Collection<CoGeoNumbersBase, LONG>;
+
+/// Materials are found by their index alone. No model fills this collection.
+class CoGeoMaterials : public ItemList<CoGeoMaterialsBase, IGeoMaterial> {
+ public:
+  HRESULT ItemByIndex(LONG index, IGeoMaterial** out) override { return GiveItem(index, out); }
+
+ protected:
+  ~CoGeoMaterials() = default;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_GEO_COLLECTIONS_H_

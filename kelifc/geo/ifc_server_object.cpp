@@ -1,0 +1,57 @@
+#include "kelifc/geo/ifc_server_object.h"
+
+#include <string>
+
+#include "kelifc/geo/creation.h"
+#include "kelifc/geo/fill.h"
+#include "kelifc/geo/load_failure.h"
+#include "kelifc/geo/structure.h"
+#include "kelifc/platform/com_text.h"
+
+namespace KelIFC {
+
+namespace {
+
+// What LoadIfcFile answers; anything else but 0 means that the file cannot be opened.
+constexpr int kLoaded = 0;
+constexpr int kCannotOpen = 1;
+constexpr int kNoStepFile = 2;
+constexpr int kUnknownSchema = 3;
+
+int LoadFile(IfcServer& server, BSTR fileName) {
+  const std::string path =
+      NarrowPath(fileName == nullptr ? std::wstring_view()
+                                     : std::wstring_view(fileName, SysStringLen(fileName)));
+  // No file has such a name; the part ahead of the null character may be that of another one.
+  if (path.find('\0') != std::string::npos) return kCannotOpen;
+  return server.LoadIfcFile(path.c_str());
+}
+
+bool IsConvertible(IFC_RELEASE release) {
+  return release == IFC_RELEASE_2X || release == IFC_RELEASE_2X2 || release == IFC_RELEASE_2X3;
+}
+
+}  // namespace
+
+HRESULT CoIFCServer::Load(BSTR fileName) {
+  return Guard([&] {
+    const int result = LoadFile(server, fileName);
+    if (result == kNoStepFile || result == kUnknownSchema) {
+      return ReportLoadFailure(LoadFailure::kNoModel, fileName);
+    }
+    if (result != kLoaded) return ReportLoadFailure(LoadFailure::kNotFound, fileName);
+    if (IsConvertible(server.GetRelease())) return S_OK;
+    return ReportLoadFailure(LoadFailure::kNotConvertible, fileName);
+  });
+}
+
+HRESULT CoIFCServer::get_Structure(IGeoStructure** out) {
+  return GiveChild<CoGeoStructure>(structure, out, [this](CoGeoStructure& made) {
+    made.SetServer(Link());
+    return S_OK;
+  });
+}
+
+double CoIFCServer::GetLengthScale() { return LengthScaleOf(server); }
+
+}  // namespace KelIFC

@@ -1,0 +1,37 @@
+#include "kelifc/geo/sections.h"
+
+#include <string>
+
+#include "kelifc/platform/com_bstr.h"
+#include "kelifc/platform/com_guard.h"
+#include "kelifc/platform/com_text.h"
+
+namespace KelIFC {
+
+HRESULT CoGeoSections::Item(VARIANT index, IGeoSection** out) {
+  if (out == nullptr) return E_POINTER;
+  if (index.vt == VT_BSTR) {
+    *out = nullptr;
+    return Guard([&] { return GiveByName(index.bstrVal, out); });
+  }
+  VARIANT number = {};
+  const HRESULT status = VariantChangeType(&number, &index, 0, VT_I4);
+  if (SUCCEEDED(status)) return ItemByIndex(number.lVal, out);
+  *out = nullptr;
+  return status;
+}
+
+HRESULT CoGeoSections::GiveByName(BSTR name, IGeoSection** out) const {
+  const std::string wanted = NarrowText(name);
+  for (const ComPtr<IGeoSection>& section : Items()) {
+    Bstr found;
+    const HRESULT status = section->get_Name(found.Put());
+    if (FAILED(status)) return status;
+    if (NarrowText(found.Get()) != wanted) continue;
+    section.CopyTo(out);
+    return S_OK;
+  }
+  return E_FAIL;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,38 @@
+#ifndef KELIFC_GEO_STOREY_H_
+#define KELIFC_GEO_STOREY_H_
+
+#include <limits>
+#include <string>
+
+#include "kelifc/geo/class_bases.h"
+#include "kelifc/geo/fields.h"
+#include "kelifc/platform/guid.h"
+
+namespace KelIFC {
+
+/// The number of a storey that has none.
+inline constexpr SHORT kNoStoreyNumber = std::numeric_limits<SHORT>::max();
+
+/// A storey, as import filled it. What a host writes does not go back into the model.
+class CoGeoStorey : public CoGeoStoreyBase {
+ public:
+  HRESULT get_Height(double* out) override { return GetField(height, out); }
+  HRESULT put_Height(double value) override { return PutField(value, &height); }
+  HRESULT get_Number(SHORT* out) override { return GetField(number, out); }
+  HRESULT get_Name(BSTR* out) override { return GiveText(name, out); }
+  HRESULT put_Name(BSTR text) override { return PutText(text, &name); }
+  HRESULT get_Level(double* out) override { return GetField(level, out); }
+
+  double level = 0.0;   ///< in the unit of the file
+  double height = 0.0;  ///< in the unit of the file
+  std::string name;
+  SHORT number = kNoStoreyNumber;
+  _GUID guid = {};  ///< of the instance in the model; not shown to hosts
+
+ protected:
+  ~CoGeoStorey() = default;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_GEO_STOREY_H_

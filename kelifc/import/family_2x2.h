@@ -1,0 +1,21 @@
+#ifndef KELIFC_IMPORT_FAMILY_2X2_H_
+#define KELIFC_IMPORT_FAMILY_2X2_H_
+
+#include "kelifc/schema/ifc2x2.h"
+#include "kelifc/server/ifc_server.h"
+
+namespace KelIFC {
+
+// Where the classes of release 2x2 differ from those of the other releases, as import sees them.
+
+inline bool IsLengthUnit(KelIFC2x2::IfcUnitEnum type) {
+  return type == KelIFC2x2::IfcUnitEnum_LENGTHUNIT;
+}
+
+inline const KelIFC2x2::IfcProject* ProjectOf(const IfcServer& server, Release2x2) {
+  return server.GetProject2x2();
+}
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_IMPORT_FAMILY_2X2_H_
