@@ -30,6 +30,8 @@
 #include "kelifc/core/unit_assignment.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/core/value.h"
+#include "kelifc/geo/interfaces.h"
+#include "kelifc/model_access.h"
 #include "kelifc/platform/com.h"
 #include "kelifc/schema/ifc151.h"
 #include "kelifc/schema/ifc20.h"

@@ -1,0 +1,88 @@
+#include <algorithm>
+#include <cstddef>
+#include <map>
+#include <string>
+
+#include "tools/kelifc/commands.h"
+#include "tools/kelifc/json.h"
+#include "tools/kelifc/model_file.h"
+#include "tools/kelifc/output.h"
+#include "tools/kelifc/text.h"
+#include "tools/kelifc/text_table.h"
+
+namespace command {
+namespace {
+
+using Counts = std::map<std::string, std::size_t>;
+
+/// What a model holds. Text is UTF-8.
+struct Info {
+  std::string file;
+  std::string release;
+  std::string schema;
+  std::size_t instances = 0;  ///< those that have a number
+  Counts entities;            ///< by class name as the schema spells it
+  Counts raw;                 ///< what is held as raw text, by its name in upper case
+};
+
+std::string UpperCase(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(), [](char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+  });
+  return text;
+}
+
+Info ReadInfo(const std::string& path) {
+  KelIFC::IfcServer server;
+  LoadModel(server, path);
+  Info info;
+  info.file = path;
+  info.release = ReleaseText(server.GetRelease());
+  info.schema = Utf8FromLatin1(server.GetFileSchema());
+  for (std::size_t number = server.GetNextNumber(0); number != 0;
+       number = server.GetNextNumber(number)) {
+    const KelIFC::IfcUnknown* instance = server.GetItem(number);
+    if (instance == nullptr) continue;
+    ++info.instances;
+    if (const auto* other = dynamic_cast<const KelIFC::IfcOther*>(instance)) {
+      ++info.raw[Utf8FromLatin1(UpperCase(other->GetStepEntityName()))];
+    } else {
+      ++info.entities[instance->GetStepName()];
+    }
+  }
+  return info;
+}
+
+std::string InfoJson(const Info& info) {
+  return ToText({{"file", info.file},
+                 {"release", info.release},
+                 {"schema", info.schema},
+                 {"instances", info.instances},
+                 {"entities", Json(info.entities)},
+                 {"raw", Json(info.raw)}});
+}
+
+std::string CountTable(const char* title, const Counts& counts) {
+  if (counts.empty()) return "";
+  TextTable table({title, "count"}, {false, true});
+  for (const auto& [name, count] : counts) table.Add({name, std::to_string(count)});
+  return "\n" + table.ToText();
+}
+
+std::string InfoText(const Info& info) {
+  TextTable head({"File", info.file});
+  head.Add({"Release", info.release});
+  head.Add({"Schema", info.schema});
+  head.Add({"Instances", std::to_string(info.instances)});
+  return head.ToText() + CountTable("Entity", info.entities) +
+         CountTable("Kept as raw text", info.raw);
+}
+
+}  // namespace
+
+void RunInfo(const InfoOptions& options) {
+  const Info info = ReadInfo(options.model);
+  WriteOutput("", options.json ? InfoJson(info) : InfoText(info));
+}
+
+}  // namespace command

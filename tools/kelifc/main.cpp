@@ -1,0 +1,83 @@
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cstdio>
+#include <exception>
+#include <string>
+
+#include "tools/kelifc/commands.h"
+#include "tools/kelifc/failure.h"
+#include "tools/kelifc/output.h"
+
+namespace {
+
+using command::Status;
+
+/// What the command line asks for.
+struct Request {
+  command::StructureOptions structure;
+  command::InfoOptions info;
+  command::SaveOptions save;
+};
+
+void Describe(CLI::App& app, Request& request) {
+  app.set_version_flag("--version", std::string("kelifc ") + KELIFC_VERSION);
+  app.require_subcommand(1);
+  constexpr auto kModel = "MODEL.ifc";
+
+  CLI::App* structure = app.add_subcommand("structure", "the converted building structure");
+  structure->add_flag("--json", request.structure.json, "print one JSON object");
+  structure->add_option("--output", request.structure.output, "write to FILE")
+      ->option_text("FILE")
+      ->check([](const std::string& file) { return file.empty() ? "FILE is empty" : ""; });
+  structure->add_option(kModel, request.structure.model)->required()->option_text(" ");
+
+  CLI::App* info = app.add_subcommand("info", "what the file holds");
+  info->add_flag("--json", request.info.json, "print one JSON object");
+  info->add_option(kModel, request.info.model)->required()->option_text(" ");
+
+  CLI::App* save = app.add_subcommand("save", "load and write back");
+  save->add_option(kModel, request.save.model)->required()->option_text(" ");
+  save->add_option("OUT.ifc", request.save.output)->required()->option_text(" ");
+}
+
+void Run(const CLI::App& app, const Request& request) {
+  if (app.got_subcommand("structure")) RunStructure(request.structure);
+  if (app.got_subcommand("info")) RunInfo(request.info);
+  if (app.got_subcommand("save")) RunSave(request.save);
+}
+
+int Fail(Status status, std::string message) {
+  std::replace(message.begin(), message.end(), '\n', ' ');
+  std::fprintf(stderr, "kelifc: %s\n", message.c_str());
+  return static_cast<int>(status);
+}
+
+int RunMain(int argc, char** argv) {
+  CLI::App app("Reads, shows and writes back IFC building models", "kelifc");
+  Request request;
+  Describe(app, request);
+  try {
+    app.parse(argc, argv);
+    Run(app, request);
+  } catch (const CLI::ParseError& e) {
+    if (e.get_exit_code() != 0)
+      return Fail(Status::kUsage, std::string(e.what()) + "; see kelifc --help");
+    // Help and version come as exceptions too; the library knows which text they ask for.
+    std::ostringstream text;
+    app.exit(e, text, text);
+    command::WriteOutput("", text.str());
+  }
+  return static_cast<int>(Status::kDone);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return RunMain(argc, argv);
+  } catch (const command::Failure& e) {
+    return Fail(e.GetStatus(), e.what());
+  } catch (const std::exception& e) {
+    return Fail(Status::kFile, e.what());
+  }
+}

@@ -1,0 +1,15 @@
+#ifndef TOOLS_KELIFC_OUTPUT_H_
+#define TOOLS_KELIFC_OUTPUT_H_
+
+#include <string>
+#include <string_view>
+
+namespace command {
+
+/// Writes `text` to the file at `path`, or to standard output where `path` is empty.
+/// Throws Failure with Status::kFile if not all of it reaches the file, a full disk included.
+void WriteOutput(const std::string& path, std::string_view text);
+
+}  // namespace command
+
+#endif  // TOOLS_KELIFC_OUTPUT_H_

@@ -1,0 +1,35 @@
+#include "tools/kelifc/progress.h"
+
+#include <unistd.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <string>
+
+namespace command {
+namespace {
+
+constexpr std::uint64_t kWorthABar = 20'000'000;
+constexpr int kBarWidth = 40;
+
+}  // namespace
+
+ProgressBar::ProgressBar(std::uint64_t fileBytes)
+    : shown(fileBytes > kWorthABar && isatty(STDERR_FILENO) != 0) {}
+
+ProgressBar::~ProgressBar() {
+  if (shown) std::fputs("\r\033[K", stderr);
+}
+
+void ProgressBar::Update(std::uint64_t done, std::uint64_t total) {
+  if (!shown || total == 0) return;
+  const int now = static_cast<int>(std::min(done, total) * 100 / total);
+  if (now == percent) return;
+  percent = now;
+  std::string bar(kBarWidth, '.');
+  std::fill_n(bar.begin(), percent * kBarWidth / 100, '#');
+  std::fprintf(stderr, "\rreading [%s] %3d %%", bar.c_str(), percent);
+  std::fflush(stderr);
+}
+
+}  // namespace command

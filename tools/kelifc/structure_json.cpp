@@ -1,0 +1,95 @@
+#include "tools/kelifc/json.h"
+#include "tools/kelifc/structure_format.h"
+
+namespace command {
+namespace {
+
+Json StoreyOf(const Element& element) {
+  return element.storey ? Json(*element.storey) : Json(nullptr);
+}
+
+/// What comes first in every element; `Object` adds to it what its kind has on top.
+Json Identity(const Element& element) {
+  return {{"name", element.name},
+          {"guid", element.guid},
+          {"section", element.section},
+          {"storey", StoreyOf(element)}};
+}
+
+Json Object(const Storey& storey) {
+  return {{"number", storey.number},
+          {"name", storey.name},
+          {"level", storey.level},
+          {"height", storey.height}};
+}
+
+Json Object(const Element& element) {
+  Json object = Identity(element);
+  object["points"] = element.points;
+  return object;
+}
+
+Json Parts(const std::vector<Element>& elements) {
+  Json list = Json::array();
+  for (const Element& element : elements) list.push_back(Object(element));
+  return list;
+}
+
+Json Object(const Beam& beam) {
+  Json object = Object(static_cast<const Element&>(beam));
+  Json& brep = object["brep"];
+  if (beam.boundary.points.empty()) return object;
+  brep["points"] = beam.boundary.points;
+  brep["faces"] = beam.boundary.faces;
+  return object;
+}
+
+Json Object(const Wall& wall) {
+  Json object = Object(static_cast<const Element&>(wall));
+  object["closed"] = wall.closed;
+  object["windows"] = Parts(wall.windows);
+  object["doors"] = Parts(wall.doors);
+  return object;
+}
+
+Json Object(const Plate& plate) {
+  Json object = Object(static_cast<const Element&>(plate));
+  object["holes"] = Parts(plate.holes);
+  return object;
+}
+
+Json Object(const Foot& foot) {
+  Json object = Identity(foot);
+  object["location"] = foot.points.empty() ? Json(nullptr) : Json(foot.points.front());
+  return object;
+}
+
+Json Object(const Section& section) {
+  Json object = {{"name", section.name}, {"kind", section.kind}};
+  for (const auto& [name, size] : section.sizes) object[name] = size;
+  return object;
+}
+
+/// Stands behind all forms of Object, so that each kind of element meets its own.
+template <class Item>
+Json List(const std::vector<Item>& items) {
+  Json list = Json::array();
+  for (const Item& item : items) list.push_back(Object(item));
+  return list;
+}
+
+}  // namespace
+
+std::string StructureJson(const std::string& file, const Structure& structure) {
+  return ToText({{"file", file},
+                 {"release", structure.release},
+                 {"storeys", List(structure.storeys)},
+                 {"columns", List(structure.columns)},
+                 {"beams", List(structure.beams)},
+                 {"walls", List(structure.walls)},
+                 {"plates", List(structure.plates)},
+                 {"foots", List(structure.foots)},
+                 {"sections", List(structure.sections)}});
+}
+
+}  // namespace command
