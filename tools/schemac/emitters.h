@@ -20,6 +20,10 @@ void EmitRelease(const Description& description, const ReleaseModel& model, File
 /// The enumerations of the core namespace, one header per family.
 void EmitCoreEnumerations(const Description& description, Files& files);
 
+/// The reference pages, one per family over all releases, and their index.
+void EmitReference(const Description& description, const std::vector<ReleaseModel>& models,
+                   Files& files);
+
 /// A test source with a sample record of each class that is read and written regularly.
 void EmitRecords(const ReleaseModel& model, Files& files);
 

@@ -44,6 +44,7 @@ schemac::Files Emit(const schemac::Description& description) {
   }
   schemac::EmitCoreEnumerations(description, files);
   schemac::EmitSlots(models, files);
+  schemac::EmitReference(description, models, files);
   return files;
 }
 
