@@ -112,6 +112,10 @@ constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7
 // small power of ten: both are exact as doubles, so one operation gives the correctly rounded
 // result.
 double ReadUnsigned(const char* text, const char*& end) {
+  if (text[0] == '0' && (text[1] | 0x20) == 'x') {
+    end = text + 1;
+    return ReadHexadecimal(text + 2, end);
+  }
   const char* at = text;
   std::uint64_t digits = 0;
   while (IsDigit(*at)) digits = 10 * digits + static_cast<std::uint64_t>(*at++ - '0');
@@ -124,10 +128,6 @@ double ReadUnsigned(const char* text, const char*& end) {
     count += decimals;
   }
   if (count == 0) return ReadWord(text, end);
-  if (count == 1 && *text == '0' && (*at | 0x20) == 'x') {
-    end = at;
-    return ReadHexadecimal(at + 1, end);
-  }
   end = at;
   const std::int64_t exponent = (*at | 0x20) == 'e' ? ReadExponent(at, end) : 0;
   const std::int64_t power = exponent - decimals;
@@ -194,6 +194,12 @@ std::uint64_t ScaleFraction(double fraction) {
   return whole + (isUp ? 1 : 0);
 }
 
+// Text with a point in it, so that the zeros end.
+char* StripZeros(char* end) {
+  while (end[-1] == '0') --end;
+  return end;
+}
+
 // Writes a number below 2^53 with its decimals, without the zeros at the end.
 char* FormatShort(double magnitude, char* out) {
   auto whole = static_cast<std::uint64_t>(magnitude);
@@ -203,21 +209,19 @@ char* FormatShort(double magnitude, char* out) {
     decimals = 0;
   }
   out = std::to_chars(out, out + 20, whole).ptr;
-  *out++ = '.';
-  if (decimals == 0) return out;
-  int count = kDecimals;
-  for (; decimals % 10 == 0; --count) decimals /= 10;
-  for (int i = count; i > 0; --i) {
-    out[i - 1] = static_cast<char>('0' + decimals % 10);
-    decimals /= 10;
+  if (decimals == 0) {
+    *out++ = '.';
+    return out;
   }
-  return out + count;
+  // The leading 1 of this sum keeps the zeros behind the point, and is where the point goes.
+  char* end = std::to_chars(out, out + 20, kScale + decimals).ptr;
+  *out = '.';
+  return StripZeros(end);
 }
 
 char* FormatLong(double magnitude, char* out, char* outEnd) {
   out = std::to_chars(out, outEnd, magnitude, std::chars_format::fixed, kDecimals).ptr;
-  while (out[-1] == '0') --out;
-  return out;
+  return StripZeros(out);
 }
 
 std::string_view FormatNotFinite(double value, char* buffer) {

@@ -5,9 +5,10 @@
 
 #include "kelifc/core/cursor.h"
 #include "kelifc/core/number_text.h"
-#include "kelifc/core/other.h"
+#include "kelifc/core/parameter_value.h"
 #include "kelifc/core/parenthesised.h"
 #include "kelifc/core/position_index.h"
+#include "kelifc/core/value.h"
 
 namespace KelIFC {
 
@@ -32,17 +33,23 @@ const char* ReadNumbers(const Parenthesised& inner, IfcUnknown* owner, Items& it
   return nullptr;
 }
 
+// True for a value that looks no further than its own text.
+bool IsTypedValue(const IfcUnknown* value) {
+  return dynamic_cast<const IfcValue*>(value) != nullptr ||
+         dynamic_cast<const IfcParameterValue*>(value) != nullptr;
+}
+
 // Reads elements of every kind from a text of their own, whose end bounds them. An element that
 // does not move the cursor ends the list.
 template <class Items>
 void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
-  int others = 0;
+  int entities = 0;
   const char* cursor = text.c_str();
   while (cursor != nullptr) {
     MEMBER element(owner);
     const char* next = element.Parse(cursor);
-    const bool isOther = dynamic_cast<const IfcOther*>(element.GetInlineValue()) != nullptr;
-    if (isOther && ++others > kMaximumOthersInList) return;
+    const IfcUnknown* value = element.GetInlineValue();
+    if (value != nullptr && !IsTypedValue(value) && ++entities > kMaximumEntitiesInList) return;
     if (element.GetExists()) items.Append(element);
     if (next == cursor) return;
     cursor = next;

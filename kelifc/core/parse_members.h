@@ -6,10 +6,10 @@
 
 namespace KelIFC {
 
-/// How many values in place of an unknown entity a list may hold; the next one ends it. Each of
-/// them keeps the rest of the list's text, so without a bound a list could grow with the square of
-/// its text.
-constexpr int kMaximumOthersInList = 64;
+/// How many values in place other than typed values a list may hold; the next one ends it. One of
+/// them may look through the rest of the list's text, or keep it, so without a bound a list could
+/// take time and memory with the square of its text.
+constexpr int kMaximumEntitiesInList = 64;
 
 /// Replaces `items` by the references in parentheses at `text`, which is not null and stands behind
 /// the test for an omitted value. Each reference that is set gets `owner`. Gives the next cursor;

@@ -1,0 +1,329 @@
+#include "kelifc/core/member.h"
+
+#include <gtest/gtest.h>
+
+#include <limits>
+#include <type_traits>
+#include <vector>
+
+#include "kelifc/core/cartesian_point.h"
+#include "kelifc/core/other.h"
+#include "kelifc/core/parameter_value.h"
+#include "kelifc/core/unit_assignment.h"
+#include "kelifc/server/ifc_server.h"
+
+#include "tests/core/probe.h"
+#include "tests/core/text.h"
+
+namespace KelIFC {
+namespace {
+
+/// A reference of an instance that is in a model of release 2x3.
+class Member : public testing::Test {
+ protected:
+  Member() {
+    server.SetRelease(IFC_RELEASE_2X3);
+    server.InsertItem(1, owner);
+    server.InsertItem(12, target);
+  }
+  ~Member() override { EXPECT_EQ(Probe::alive, 0); }
+
+  IfcServer server;
+  IfcUnitAssignment* owner = new IfcUnitAssignment;
+  IfcCartesianPoint* target = new IfcCartesianPoint(1.0, 2.0);
+  MEMBER member{owner};
+};
+
+TEST_F(Member, IsUnsetAtFirst) {
+  EXPECT_FALSE(member.GetExists());
+  EXPECT_EQ(static_cast<std::size_t>(member), 0U);
+  EXPECT_EQ(member.GetInstance(), nullptr);
+  EXPECT_EQ(Text(member), "$");
+  EXPECT_EQ(Text(MEMBER()), "$");
+}
+
+TEST_F(Member, ReadsANumberUpToTheComma) {
+  EXPECT_EQ(RestOf(member, "#12,#13"), "#13");
+  EXPECT_EQ(static_cast<std::size_t>(member), 12U);
+  EXPECT_EQ(member.GetInstance(), target);
+  EXPECT_EQ(Text(member), "#12");
+}
+
+TEST_F(Member, ReadsTheLastNumberOfAStatement) {
+  EXPECT_EQ(RestOf(member, " #12"), "(null)");
+  EXPECT_EQ(static_cast<std::size_t>(member), 12U);
+}
+
+TEST_F(Member, SearchesTheCommaBeyondAParenthesis) { EXPECT_EQ(RestOf(member, "#12),#13"), "#13"); }
+
+TEST_F(Member, ResolvesANumberThatIsRegisteredLater) {
+  member.Parse("#500");
+  EXPECT_EQ(member.GetInstance(), nullptr);
+  auto* later = new IfcCartesianPoint;
+  server.InsertItem(500, later);
+  EXPECT_EQ(member.GetInstance(), later);
+  server.DeleteItem(later);
+  EXPECT_EQ(member.GetInstance(), nullptr);
+  EXPECT_EQ(Text(member), "#500");
+}
+
+TEST_F(Member, KeepsTheNumberZeroAsADerivedMark) {
+  EXPECT_EQ(RestOf(member, "#0,5"), "5");
+  EXPECT_TRUE(member.GetExists());
+  EXPECT_EQ(member.GetInstance(), nullptr);
+  EXPECT_EQ(Text(member), "*");
+}
+
+TEST_F(Member, ReadsAHashWithoutNumberAsZero) {
+  EXPECT_EQ(RestOf(member, "#x,5"), "5");
+  EXPECT_TRUE(member.GetExists());
+  EXPECT_EQ(static_cast<std::size_t>(member), 0U);
+}
+
+TEST_F(Member, ReadsNumbersOf32Bits) {
+  member.Parse("#2147483648");
+  EXPECT_EQ(static_cast<std::size_t>(member), 2147483647U);
+  member.Parse("# +7");
+  EXPECT_EQ(static_cast<std::size_t>(member), 7U);
+}
+
+TEST_F(Member, WidensANegativeNumberWithItsSign) {
+  member.Parse("#-1");
+  EXPECT_EQ(static_cast<std::size_t>(member), std::numeric_limits<std::size_t>::max());
+  EXPECT_EQ(Text(member), "#18446744073709551615");
+}
+
+TEST_F(Member, IsUnsetByOmittedValues) {
+  for (const char* text : {"$,5", " * ,5"}) {
+    member.Parse("#12");
+    EXPECT_EQ(RestOf(member, text), "5");
+    EXPECT_FALSE(member.GetExists());
+    EXPECT_EQ(Text(member), "$");
+  }
+  member.Parse("#12");
+  EXPECT_EQ(member.Parse(nullptr), nullptr);
+  EXPECT_FALSE(member.GetExists());
+}
+
+TEST_F(Member, WorksWithoutOwnerAsAPlainNumber) {
+  MEMBER number(std::size_t{7});
+  EXPECT_TRUE(number.GetExists());
+  EXPECT_EQ(static_cast<std::size_t>(number), 7U);
+  EXPECT_EQ(number.GetInstance(), nullptr);
+  EXPECT_EQ(Text(number), "#7");
+}
+
+TEST_F(Member, ReadsAValueInPlace) {
+  EXPECT_EQ(RestOf(member, " IFCPARAMETERVALUE(0.5),5"), "5");
+  EXPECT_TRUE(member.GetExists());
+  EXPECT_EQ(static_cast<std::size_t>(member), 0U);
+  const auto* value = dynamic_cast<const IfcParameterValue*>(member.GetInstance());
+  ASSERT_NE(value, nullptr);
+  EXPECT_EQ(*value, 0.5);
+  EXPECT_EQ(value->GetServer(), nullptr);
+  EXPECT_EQ(member.GetInlineValue(), value);
+  EXPECT_EQ(Text(member), "IFCPARAMETERVALUE(0.5)");
+}
+
+TEST_F(Member, ReadsTheNumberOfABareValueAsZero) {
+  EXPECT_EQ(RestOf(member, "IFCLENGTHMEASURE(2.5),5"), "5");
+  EXPECT_EQ(Text(member), "0.");
+}
+
+TEST_F(Member, KeepsAnUnknownValueInPlaceAsRawText) {
+  EXPECT_EQ(RestOf(member, "IFCFOO(1,2),5"), "1,2),5");
+  EXPECT_EQ(Text(member), "IFCFOO(1,2");
+}
+
+TEST_F(Member, StaysAtAValueInPlaceThatNoClassKnows) {
+  server.SetRelease(IFC_RELEASE_2X);
+  EXPECT_EQ(RestOf(member, " IFCFOO(1),5"), " IFCFOO(1),5");
+  EXPECT_FALSE(member.GetExists());
+}
+
+TEST_F(Member, StaysAtAValueInPlaceWithoutOwnerOrModel) {
+  MEMBER ownerless;
+  EXPECT_EQ(RestOf(ownerless, " IFCPARAMETERVALUE(1)"), " IFCPARAMETERVALUE(1)");
+  EXPECT_FALSE(ownerless.GetExists());
+  IfcCartesianPoint outside;
+  MEMBER ofOutside(&outside);
+  EXPECT_EQ(RestOf(ofOutside, "IFCPARAMETERVALUE(1)"), "IFCPARAMETERVALUE(1)");
+  EXPECT_FALSE(ofOutside.GetExists());
+}
+
+TEST_F(Member, HoldsNoValueInPlaceInAValueInPlace) {
+  EXPECT_EQ(RestOf(member, "IFCBOUNDINGBOX(IFCPARAMETERVALUE(3),1.),9"), "(null)");
+  EXPECT_EQ(Text(member), "IFCBOUNDINGBOX($,0.,1.,9.");
+}
+
+TEST_F(Member, DestroysAValueInPlaceWithItself) {
+  {
+    MEMBER holder;
+    holder = new Probe;
+    EXPECT_EQ(Probe::alive, 1);
+  }
+  EXPECT_EQ(Probe::alive, 0);
+}
+
+TEST_F(Member, DestroysAValueInPlaceWhenItIsReplacedByANumber) {
+  member = new Probe;
+  member = std::size_t{5};
+  EXPECT_EQ(Probe::alive, 0);
+  EXPECT_EQ(Text(member), "#5");
+  member = new Probe;
+  member.Parse("#6");
+  EXPECT_EQ(Probe::alive, 0);
+}
+
+TEST_F(Member, GivesAReplacedValueInPlaceBackToTheCaller) {
+  auto* first = new Probe(1);
+  member = first;
+  member = new Probe(2);
+  EXPECT_EQ(Probe::alive, 2);
+  EXPECT_EQ(Text(member), "PROBE(2)");
+  delete first;
+  member = std::size_t{0};
+}
+
+TEST_F(Member, IsADerivedMarkWhenItTakesNull) {
+  member = static_cast<IfcUnknown*>(nullptr);
+  EXPECT_TRUE(member.GetExists());
+  EXPECT_EQ(Text(member), "*");
+}
+
+TEST_F(Member, MovesAValueInPlaceToACopy) {
+  const MEMBER* source = &member;
+  member = new Probe(3);
+  MEMBER copy(*source);
+  EXPECT_EQ(Text(copy), "PROBE(3)");
+  EXPECT_EQ(Text(member), "*");
+  EXPECT_TRUE(member.GetExists());
+  member = copy;
+  EXPECT_EQ(Text(member), "PROBE(3)");
+  EXPECT_EQ(Text(copy), "*");
+  EXPECT_EQ(Probe::alive, 1);
+  member = std::size_t{0};
+}
+
+TEST_F(Member, DestroysWhatItHeldWhenItIsAssigned) {
+  member = new Probe(3);
+  member = MEMBER(std::size_t{4});
+  EXPECT_EQ(Probe::alive, 0);
+  EXPECT_EQ(Text(member), "#4");
+}
+
+TEST_F(Member, TakesTheOwnerOfTheSource) {
+  MEMBER copy;
+  member.Parse("#12");
+  copy = member;
+  EXPECT_EQ(copy.GetInstance(), target);
+  copy = MEMBER(std::size_t{12});
+  EXPECT_EQ(copy.GetInstance(), nullptr);
+}
+
+TEST_F(Member, StaysAsItIsWhenAssignedToItself) {
+  member = new Probe(3);
+  const MEMBER& same = member;
+  member = same;
+  EXPECT_EQ(Text(member), "PROBE(3)");
+  member = std::size_t{0};
+}
+
+/// An instance that holds a further reference.
+class Holder : public Probe {
+ public:
+  MEMBER inner;
+};
+
+TEST_F(Member, TakesAReferenceOutOfItsOwnValueInPlace) {
+  auto* holder = new Holder;
+  holder->inner = new Probe(8);
+  member = holder;
+  member = holder->inner;
+  EXPECT_EQ(Text(member), "PROBE(8)");
+  EXPECT_EQ(Probe::alive, 1);
+  member = std::size_t{0};
+}
+
+TEST_F(Member, RefersToAnInstanceOfTheModel) {
+  member.SetReference(target);
+  EXPECT_EQ(Text(member), "#12");
+  EXPECT_EQ(member.GetInstance(), target);
+}
+
+TEST_F(Member, IsUnsetByAReferenceThatTheModelDoesNotHold) {
+  const IfcCartesianPoint outside;
+  member.Parse("#12");
+  member.SetReference(&outside);
+  EXPECT_FALSE(member.GetExists());
+  EXPECT_EQ(Text(member), "$");
+  MEMBER ownerless(std::size_t{5});
+  ownerless.SetReference(target);
+  EXPECT_EQ(Text(ownerless), "$");
+  IfcUnitAssignment stranger;
+  MEMBER ofStranger(&stranger);
+  ofStranger = std::size_t{5};
+  ofStranger.SetReference(target);
+  EXPECT_EQ(Text(ofStranger), "$");
+}
+
+TEST_F(Member, LeavesAValueInPlaceAloneWhenItRefers) {
+  auto* value = new Probe(9);
+  member = value;
+  member.SetReference(target);
+  EXPECT_EQ(Text(member), "#12");
+  EXPECT_EQ(member.GetInstance(), value) << "the value in place comes first";
+  EXPECT_EQ(Probe::alive, 1);
+
+  member.SetReference(nullptr);
+  EXPECT_EQ(Text(member), "$");
+  EXPECT_EQ(member.GetInstance(), nullptr);
+  EXPECT_EQ(member.GetInlineValue(), value);
+
+  MEMBER copy(member);
+  EXPECT_EQ(copy.GetInlineValue(), value);
+  EXPECT_EQ(member.GetInlineValue(), nullptr);
+  EXPECT_EQ(Text(member), "$");
+
+  copy.SetReference(target);
+  MEMBER another;
+  another = copy;
+  EXPECT_EQ(Text(another), "#12");
+  EXPECT_EQ(Text(copy), "#12");
+  EXPECT_EQ(another.GetInlineValue(), value);
+  EXPECT_EQ(copy.GetInlineValue(), nullptr);
+  another = new Probe(10);
+  EXPECT_EQ(Probe::alive, 2);
+  delete value;
+  another = std::size_t{1};
+  EXPECT_EQ(Probe::alive, 0);
+}
+
+TEST_F(Member, CarriesEveryNumberOf64Bits) {
+  for (const std::uint64_t wide :
+       {std::uint64_t{1} << 62, (std::uint64_t{1} << 62) - 1, std::uint64_t{1} << 63,
+        (std::uint64_t{1} << 63) + 5, ~std::uint64_t{0}, ~(std::uint64_t{1} << 62)}) {
+    const auto number = static_cast<std::size_t>(wide);
+    MEMBER first(number);
+    MEMBER second(first);
+    MEMBER third;
+    third = second;
+    third = first;
+    MEMBER fourth;
+    fourth = number;
+    for (const MEMBER* each : {&first, &second, &third, &fourth}) {
+      EXPECT_EQ(static_cast<std::size_t>(*each), number);
+      EXPECT_TRUE(each->GetExists());
+      EXPECT_EQ(each->GetInlineValue(), nullptr);
+      EXPECT_EQ(Text(*each), "#" + std::to_string(number));
+    }
+  }
+}
+
+TEST_F(Member, ComparesByNumber) {
+  EXPECT_TRUE(MEMBER(std::size_t{5}) == MEMBER(owner, 5));
+  EXPECT_FALSE(MEMBER(std::size_t{5}) == MEMBER(std::size_t{6}));
+}
+
+}  // namespace
+}  // namespace KelIFC

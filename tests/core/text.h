@@ -1,0 +1,39 @@
+#ifndef KELIFC_TESTS_CORE_TEXT_H_
+#define KELIFC_TESTS_CORE_TEXT_H_
+
+#include <sstream>
+#include <string>
+
+namespace KelIFC {
+
+/// What a value or an instance writes.
+template <class Value>
+std::string Text(const Value& value) {
+  std::ostringstream out;
+  value.Write(out);
+  return out.str();
+}
+
+/// What a value writes after it has read `text`.
+template <class Value>
+std::string TextOf(const char* text) {
+  Value value;
+  value.Parse(text);
+  return Text(value);
+}
+
+/// The cursor that a value gives back, as the text from there on; "(null)" for null.
+template <class Value>
+std::string RestOf(Value& value, const char* text) {
+  const char* rest = value.Parse(text);
+  return rest == nullptr ? "(null)" : rest;
+}
+template <class Value>
+std::string RestOf(const char* text) {
+  Value value;
+  return RestOf(value, text);
+}
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_TESTS_CORE_TEXT_H_
