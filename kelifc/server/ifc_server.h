@@ -228,7 +228,7 @@ class KELIFC_API IfcServer {
   void NoteNumber(std::size_t id);
 
   void WriteInstances(std::ostream& out);
-  int TellError(const std::string& message) const;
+  int TellError(const std::string& message) const;  // gives the code of a failed save
 
   Mvector<IfcUnknown*> items;  // owned; null where deleted
   NumberIndex idToIndex;

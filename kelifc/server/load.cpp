@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cstdint>
 #include <fstream>
 
 #include "kelifc/core/step_file_schema.h"
@@ -15,6 +16,11 @@ constexpr int kCannotOpen = 1;
 constexpr int kNoStepFile = 2;
 constexpr int kUnknownSchema = 3;
 
+// Models have a statement per 50 to 60 bytes, and room for the registry is made accordingly. What
+// is not used of it is address space, not memory. A file may claim any size, hence the bound.
+constexpr std::uint64_t kBytesPerStatement = 40;
+constexpr std::uint64_t kMostExpected = std::uint64_t{1} << 24;
+
 }  // namespace
 
 int IfcServer::LoadIfcFile(const char* path) {
@@ -26,7 +32,12 @@ int IfcServer::LoadIfcFile(const char* path) {
     ~LoadEnd() { load = LoadState(); }
   } const end{load};
   load.isRunning = true;
-  load.bytesTotal = 2 * GetFileSize(path);
+  const std::uint64_t size = GetFileSize(path);
+  load.bytesTotal = 2 * size;
+  const auto expected =
+      static_cast<std::size_t>(std::min(size / kBytesPerStatement, kMostExpected));
+  items.reserve(expected);
+  idToIndex.Reserve(expected);
   const int result = LoadPasses(path);
   if (!load.isStopped) return result;
   Reset();

@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
+#include <string>
 #include <string_view>
 
 namespace KelIFC {
@@ -45,7 +46,7 @@ class NameTable {
     for (std::size_t row = 0; row < kRowCount; ++row) {
       rows[row] = source[row];
       if (rows[row].name.size() > longest) longest = rows[row].name.size();
-      std::size_t slot = HomeOf(Hash(rows[row].name.data(), rows[row].name.size()).value);
+      std::size_t slot = HomeOf(rows[row].name);
       while (slots[slot] != 0) slot = (slot + 1) % kSlotCount;
       slots[slot] = static_cast<std::uint16_t>(row + 1);
     }
@@ -53,13 +54,15 @@ class NameTable {
 
   /// The row of a name, null if there is none. Reads at most one character more than the longest
   /// name of the table has, so a name of any length is refused at once.
-  constexpr const NameRow* Find(const char* name) const {
-    const HashedName hashed = Hash(name, longest);
-    if (name[hashed.length] != '\0') return nullptr;
-    for (std::size_t slot = HomeOf(hashed.value); slots[slot] != 0;
-         slot = (slot + 1) % kSlotCount) {
+  constexpr const NameRow* Find(const char* text) const {
+    const char* end = std::char_traits<char>::find(text, longest + 1, '\0');
+    if (end == nullptr || end == text) return nullptr;
+    const std::string_view name(text, static_cast<std::size_t>(end - text));
+    for (std::size_t slot = HomeOf(name); slots[slot] != 0; slot = (slot + 1) % kSlotCount) {
       const NameRow& row = rows[slots[slot] - 1u];
-      if (IsSame(row.name, name, hashed.length)) return &row;
+      if (row.name.size() == name.size() && (row.name == name || IsSame(row.name, name))) {
+        return &row;
+      }
     }
     return nullptr;
   }
@@ -80,32 +83,23 @@ class NameTable {
   }
   static constexpr std::size_t kSlotCount = CountSlots();
 
-  struct HashedName {
-    std::uint64_t value = 0;
-    std::size_t length = 0;
-  };
-
   static constexpr char ToUpper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
   }
 
-  // Takes the name up to its NUL, or `limit` characters of a longer one.
-  static constexpr HashedName Hash(const char* name, std::size_t limit) {
-    HashedName hashed;
-    for (; hashed.length < limit && name[hashed.length] != '\0'; ++hashed.length) {
-      const auto code = static_cast<unsigned char>(ToUpper(name[hashed.length]));
-      hashed.value = ((hashed.value << 5) | (hashed.value >> 59)) ^ code;
+  // Where the search for a name begins. Four characters and the length tell the names of a schema
+  // apart well enough: what they share is the begin, and at times the end.
+  static constexpr std::size_t HomeOf(std::string_view name) {
+    const std::size_t length = name.size();
+    std::uint32_t hash = static_cast<std::uint32_t>(length);
+    for (const std::size_t at : {length - 1, length / 2, length / 4, length * 3 / 4}) {
+      hash = (hash ^ static_cast<unsigned char>(ToUpper(name[at]))) * 0x01000193u;
     }
-    return hashed;
+    return (hash ^ (hash >> 15)) % kSlotCount;
   }
 
-  static constexpr std::size_t HomeOf(std::uint64_t hash) {
-    return static_cast<std::size_t>((hash * 0x9E3779B97F4A7C15ULL) >> 40) % kSlotCount;
-  }
-
-  static constexpr bool IsSame(std::string_view upperCase, const char* name, std::size_t length) {
-    if (upperCase.size() != length) return false;
-    for (std::size_t i = 0; i < length; ++i) {
+  static constexpr bool IsSame(std::string_view upperCase, std::string_view name) {
+    for (std::size_t i = 0; i < name.size(); ++i) {
       if (upperCase[i] != ToUpper(name[i])) return false;
     }
     return true;

@@ -35,6 +35,9 @@ class NumberIndex {
   /// Takes a number out. True if it was there.
   bool Erase(std::uint64_t number);
 
+  /// Makes room for so many numbers ahead of time.
+  void Reserve(std::size_t numberCount) { dense.reserve(numberCount); }
+
   /// Takes all numbers out and gives the memory back.
   void Clear();
 

@@ -364,6 +364,14 @@ TEST(Load, FindsTheFirstObjectWithAGlobalIdentifier) {
   EXPECT_EQ(server.GetItem(guid), nullptr);
 }
 
+TEST(Load, ReplacesAGlobalIdentifierThatIsNone) {
+  IfcServer server;
+  Load(server, std::string(kHead2x3) + "#1=IFCPROJECT('12345678901234567890',$,$,$,$,$,$,$,$);");
+  const std::string record = RecordAt(server, 1);
+  EXPECT_EQ(record.find("12345678901234567890"), std::string::npos);
+  EXPECT_EQ(record.find("',"), std::string("IFCPROJECT('").size() + 22);
+}
+
 TEST(Load, DoesNotRefreshTheIndexOfGlobalIdentifiers) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);

@@ -1,0 +1,48 @@
+#include <benchmark/benchmark.h>
+
+#include <cstddef>
+
+#include "kelifc/core/mvector.h"
+
+#include "bench/model.h"
+
+namespace {
+
+using KelIFC::IfcUnknown;
+
+// The number of an instance, for all instances of the model in turn.
+void FindInstance(benchmark::State& state) {
+  KelIFC::IfcServer& server = bench::GetLoadedServer();
+  const KelIFC::Mvector<IfcUnknown*>& items = server.GetItems();
+  std::size_t i = 0;
+  for (auto _ : state) {
+    benchmark::DoNotOptimize(server.Find(items[i]));
+    i = i + 1 < items.size() ? i + 1 : 0;
+  }
+}
+BENCHMARK(FindInstance);
+
+// The instance under a number, for all numbers in turn.
+void GetItemByNumber(benchmark::State& state) {
+  KelIFC::IfcServer& server = bench::GetLoadedServer();
+  std::size_t number = 0;
+  for (auto _ : state) {
+    number = server.GetNextNumber(number);
+    benchmark::DoNotOptimize(server.GetItem(number));
+  }
+}
+BENCHMARK(GetItemByNumber);
+
+// The same in no order: each step goes a third of the model on.
+void GetItemByNumberAnywhere(benchmark::State& state) {
+  KelIFC::IfcServer& server = bench::GetLoadedServer();
+  const std::size_t count = server.GetNumberCount();
+  std::size_t number = 1;
+  for (auto _ : state) {
+    number = (number + count / 3) % count;
+    benchmark::DoNotOptimize(server.GetItem(number));
+  }
+}
+BENCHMARK(GetItemByNumberAnywhere);
+
+}  // namespace
