@@ -50,7 +50,7 @@ TEST(CommandTable, ColumnsAreAsWideAsTheirWidestCell) {
   TextTable table({"name", "n"}, {false, true});
   table.Add({"Erdgescho\xC3\x9F", "-1"});
   table.Add({"x"});
-  EXPECT_EQ(table.ToText(), "  name           n\n  Erdgescho\xC3\x9F   -1\n  x\n");
+  EXPECT_EQ(table.ToText(), "  name          n\n  Erdgescho\xC3\x9F   -1\n  x\n");
 }
 
 TEST(CommandTable, NumbersAreBrief) {

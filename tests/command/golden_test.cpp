@@ -13,7 +13,7 @@ class Golden : public testing::TestWithParam<std::tuple<std::string, std::string
 
 TEST_P(Golden, OutputIsAsKept) {
   const auto& [command, model] = GetParam();
-  const Run run = Kelifc({command, "--json", model + ".ifc"});
+  const Outcome run = Kelifc({command, "--json", model + ".ifc"});
   ASSERT_EQ(run.status, 0) << run.err;
   const std::string path =
       std::string(KELIFC_SOURCE_DIR) + "/tests/command/golden/" + model + "." + command + ".json";

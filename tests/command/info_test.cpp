@@ -56,7 +56,7 @@ TEST(Info, NamesTheReleaseOfEachSchema) {
 }
 
 TEST(Info, TextTellsTheSame) {
-  const Run run = Kelifc({"info", "house.ifc"});
+  const Outcome run = Kelifc({"info", "house.ifc"});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.err, "");
   for (const char* text : {"house.ifc", "2x3", "IFC2X3", "IfcBuildingStorey"}) {

@@ -30,7 +30,7 @@ class ModelFailure : public testing::TestWithParam<std::string> {
   void ExpectFailure(const std::string& model, int status, const std::string& cause) const {
     std::vector<std::string> arguments = {GetParam(), model};
     if (GetParam() == "save") arguments.push_back(folder.Path("out.ifc"));
-    const Run run = Kelifc(arguments);
+    const Outcome run = Kelifc(arguments);
     EXPECT_EQ(run.status, status);
     EXPECT_EQ(run.out, "");
     EXPECT_EQ(run.err, "kelifc: " + model + ": " + cause + "\n");
@@ -101,7 +101,7 @@ TEST_P(OldRelease, HasNoStructure) {
   const TemporaryFolder folder;
   const std::string path = folder.Path("old.ifc");
   WriteFile(path, ModelOf(GetParam()));
-  const Run run = Kelifc({"structure", "--json", path});
+  const Outcome run = Kelifc({"structure", "--json", path});
   EXPECT_EQ(run.status, kNotConvertible);
   EXPECT_EQ(run.out, "");
   EXPECT_THAT(run.err, AllOf(StartsWith("kelifc: " + path + ": release "),

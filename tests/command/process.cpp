@@ -20,7 +20,7 @@ void Redirect(int stream, const std::string& path) {
 
 }  // namespace
 
-Run Kelifc(const std::vector<std::string>& arguments, const std::string& outPath) {
+Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath) {
   const TemporaryFolder folder;
   const std::string out = outPath.empty() ? folder.Path("out") : outPath;
   const std::string err = folder.Path("err");

@@ -7,7 +7,7 @@
 namespace command_test {
 
 /// What a finished run of the command left behind.
-struct Run {
+struct Outcome {
   int status = -1;  ///< exit status, or 128 + the signal that ended it
   std::string out;
   std::string err;
@@ -15,7 +15,7 @@ struct Run {
 
 /// Runs the built command with these arguments in the folder of the shipped models. Standard output
 /// goes to the file `outPath` where one is named, and is then not in the result.
-Run Kelifc(const std::vector<std::string>& arguments, const std::string& outPath = "");
+Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath = "");
 
 /// The text of a file; empty for one that is not there.
 std::string ReadFile(const std::string& path);

@@ -21,7 +21,7 @@ std::vector<std::string> Members(const ordered_json& object) {
 }
 
 TEST(Structure, JsonHasItsMembersInTheirOrder) {
-  const Run run = Kelifc({"structure", "--json", "house.ifc"});
+  const Outcome run = Kelifc({"structure", "--json", "house.ifc"});
   ASSERT_EQ(run.status, 0) << run.err;
   const auto structure = ordered_json::parse(run.out);
   EXPECT_THAT(Members(structure), ElementsAre("file", "release", "storeys", "columns", "beams",
@@ -47,7 +47,7 @@ TEST(Structure, NamesAreUtf8AndANamelessStoreyHasItsNumber) {
 }
 
 TEST(Structure, TableTellsReleaseCountsAndStoreys) {
-  const Run run = Kelifc({"structure", "house.ifc"});
+  const Outcome run = Kelifc({"structure", "house.ifc"});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.err, "");
   for (const char* text : {"2x3", "Storeys", "Foots", "Sections", "Ground floor", "2.8"}) {
@@ -58,7 +58,7 @@ TEST(Structure, TableTellsReleaseCountsAndStoreys) {
 TEST(Structure, OutputGoesToTheNamedFile) {
   const TemporaryFolder folder;
   const std::string path = folder.Path("house.json");
-  const Run run = Kelifc({"structure", "--json", "--output", path, "house.ifc"});
+  const Outcome run = Kelifc({"structure", "--json", "--output", path, "house.ifc"});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.out, "");
   EXPECT_EQ(ReadFile(path), Kelifc({"structure", "--json", "house.ifc"}).out);
@@ -67,19 +67,19 @@ TEST(Structure, OutputGoesToTheNamedFile) {
 TEST(Structure, OutputIntoAMissingFolderIsAFailure) {
   const TemporaryFolder folder;
   const std::string path = folder.Path("none/house.json");
-  const Run run = Kelifc({"structure", "--output", path, "house.ifc"});
+  const Outcome run = Kelifc({"structure", "--output", path, "house.ifc"});
   EXPECT_EQ(run.status, kFile);
   EXPECT_EQ(run.err, "kelifc: " + path + ": No such file or directory\n");
 }
 
 TEST(Structure, AFullDiskIsAFailure) {
-  const Run run = Kelifc({"structure", "--output", "/dev/full", "house.ifc"});
+  const Outcome run = Kelifc({"structure", "--output", "/dev/full", "house.ifc"});
   EXPECT_EQ(run.status, kFile);
   EXPECT_EQ(run.err, "kelifc: /dev/full: No space left on device\n");
 }
 
 TEST(Structure, AFullStandardOutputIsAFailure) {
-  const Run run = Kelifc({"structure", "house.ifc"}, "/dev/full");
+  const Outcome run = Kelifc({"structure", "house.ifc"}, "/dev/full");
   EXPECT_EQ(run.status, kFile);
   EXPECT_EQ(run.err, "kelifc: standard output: No space left on device\n");
 }

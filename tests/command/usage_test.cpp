@@ -15,7 +15,7 @@ constexpr int kUsage = 64;
 class WrongUsage : public testing::TestWithParam<std::vector<std::string>> {};
 
 TEST_P(WrongUsage, EndsWith64AndOneLineOnStandardError) {
-  const Run run = Kelifc(GetParam());
+  const Outcome run = Kelifc(GetParam());
   EXPECT_EQ(run.status, kUsage);
   EXPECT_EQ(run.out, "");
   EXPECT_THAT(run.err, MatchesRegex("kelifc: [^\n]+\n"));
@@ -36,7 +36,7 @@ INSTANTIATE_TEST_SUITE_P(
                     std::vector<std::string>{"structure", "--output", "a", "--output", "b", "c"}));
 
 TEST(CommandLine, HelpNamesTheCommandsOnStandardOutput) {
-  const Run run = Kelifc({"--help"});
+  const Outcome run = Kelifc({"--help"});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.err, "");
   for (const char* command : {"structure", "info", "save"})
@@ -44,7 +44,7 @@ TEST(CommandLine, HelpNamesTheCommandsOnStandardOutput) {
 }
 
 TEST(CommandLine, HelpOfACommandNamesItsOptions) {
-  const Run run = Kelifc({"structure", "--help"});
+  const Outcome run = Kelifc({"structure", "--help"});
   EXPECT_EQ(run.status, 0);
   for (const char* word : {"--json", "--output FILE", "MODEL.ifc"}) {
     EXPECT_THAT(run.out, HasSubstr(word));
@@ -52,19 +52,19 @@ TEST(CommandLine, HelpOfACommandNamesItsOptions) {
 }
 
 TEST(CommandLine, VersionIsOneLine) {
-  const Run run = Kelifc({"--version"});
+  const Outcome run = Kelifc({"--version"});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.out, "kelifc 25.0.3857\n");
 }
 
 TEST(CommandLine, AModelNamedLikeACommandIsAFile) {
-  const Run run = Kelifc({"info", "info"});
+  const Outcome run = Kelifc({"info", "info"});
   EXPECT_EQ(run.status, 1);
   EXPECT_THAT(run.err, StartsWith("kelifc: info: "));
 }
 
 TEST(CommandLine, TwoDashesEndTheOptions) {
-  const Run run = Kelifc({"info", "--", "--json"});
+  const Outcome run = Kelifc({"info", "--", "--json"});
   EXPECT_EQ(run.status, 1);
   EXPECT_THAT(run.err, StartsWith("kelifc: --json: "));
 }
