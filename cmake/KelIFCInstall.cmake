@@ -11,6 +11,7 @@ install(TARGETS kelifc EXPORT KelIFCTargets
 set(internal_headers
   core/cast_cache core/global_id core/model core/number_text core/parenthesised core/parse_members
   core/quoting core/resolve core/value_member core/write_tolerance
+  geo/class_bases
   platform/com_class platform/com_guard platform/com_module platform/com_object
   platform/local_time platform/new_guid platform/path
   schema/bodies schema/record schema/references
@@ -20,9 +21,11 @@ list(JOIN internal_headers "|" internal_headers)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/kelifc" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
   FILES_MATCHING PATTERN "*.h"
   REGEX "/kelifc/(${internal_headers})\\.h$" EXCLUDE
-  REGEX "/kelifc/(import|schema/[a-z_]+)$" EXCLUDE)  # folders without a public header
+  REGEX "/kelifc/(geo|import|schema/[a-z_]+)$" EXCLUDE)  # folders without a public header
 install(DIRECTORY "${PROJECT_BINARY_DIR}/generated/kelifc"
-  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}" FILES_MATCHING PATTERN "*.h")
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
+  FILES_MATCHING PATTERN "*.h"
+  REGEX "/kelifc/(${internal_headers})\\.h$" EXCLUDE)
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/KelIFC")
 install(EXPORT KelIFCTargets NAMESPACE KelIFC:: DESTINATION "${package_dir}")
