@@ -1,0 +1,76 @@
+#include "kelifc/platform/com_text.h"
+
+#include <gtest/gtest.h>
+
+#include "kelifc/platform/com_bstr.h"
+
+namespace KelIFC {
+namespace {
+
+std::string AllBytes() {
+  std::string bytes;
+  for (int i = 0; i < 256; ++i) bytes += static_cast<char>(i);
+  return bytes;
+}
+
+TEST(CrossingText, GoesBothWaysWithoutLossForEveryByte) {
+  Bstr wide;
+  ASSERT_EQ(GiveText(AllBytes(), wide.Put()), S_OK);
+  ASSERT_EQ(wide.Text().size(), 256U);
+  EXPECT_EQ(wide.Text()[0xFC], L'ü');
+  EXPECT_EQ(NarrowText(wide.Get()), AllBytes());
+}
+
+TEST(CrossingText, HasAQuestionMarkForWhatIsNoByte) {
+  EXPECT_EQ(NarrowText(Bstr(L"a\u0100\u20ACb").Get()), "a??b");
+  EXPECT_EQ(NarrowText(Bstr(std::wstring(1, static_cast<wchar_t>(-1))).Get()), "?");
+}
+
+TEST(CrossingText, OfNothingIsEmpty) {
+  EXPECT_EQ(NarrowText(nullptr), "");
+  Bstr wide;
+  ASSERT_EQ(GiveText("", wide.Put()), S_OK);
+  EXPECT_NE(wide.Get(), nullptr);
+}
+
+TEST(CrossingText, NeedsAPlaceToGo) { EXPECT_EQ(GiveText("text", nullptr), E_POINTER); }
+
+TEST(CrossingPath, IsUtf8) {
+  const std::wstring wide = L"A\u00FC\u20AC\U0001F3E0";
+  const std::string narrow = "A\xC3\xBC\xE2\x82\xAC\xF0\x9F\x8F\xA0";
+  EXPECT_EQ(NarrowPath(wide), narrow);
+  EXPECT_EQ(WidePath(narrow), wide);
+}
+
+TEST(CrossingPath, GoesThereAndBackForEveryByteAlone) {
+  for (int i = 0; i < 256; ++i) {
+    const std::string path = std::string("x") + static_cast<char>(i) + "y";
+    EXPECT_EQ(NarrowPath(WidePath(path)), path) << i;
+  }
+}
+
+TEST(CrossingPath, GoesThereAndBackWhereItIsNoUtf8) {
+  for (const std::string path : {
+           "\xC3",                  // cut
+           "\xE2\x82",              // cut
+           "\xE2\x28\xA1",          // no tail
+           "\xC0\xAF",              // longer than needed
+           "\xE0\x80\xAF",          // longer than needed
+           "\xF0\x80\x80\xAF",      // longer than needed
+           "\xED\xB2\x80",          // a surrogate
+           "\xF4\x90\x80\x80",      // above the last character
+           "\xF5\x80\x80\x80",      // no lead byte
+           "h\xFCtte/\xE2\x82\xAC"  // both kinds
+       }) {
+    EXPECT_EQ(NarrowPath(WidePath(path)), path);
+  }
+}
+
+TEST(CrossingPath, ReplacesWhatUtf8CannotHold) {
+  EXPECT_EQ(NarrowPath(std::wstring(1, static_cast<wchar_t>(0xD800))), "\xEF\xBF\xBD");
+  EXPECT_EQ(NarrowPath(std::wstring(1, static_cast<wchar_t>(0xDC7F))), "\xEF\xBF\xBD");
+  EXPECT_EQ(NarrowPath(std::wstring(1, static_cast<wchar_t>(0x110000))), "\xEF\xBF\xBD");
+}
+
+}  // namespace
+}  // namespace KelIFC
