@@ -17,7 +17,7 @@ struct Parenthesised;
 /// three numbers stand in the object itself, since nearly every point has no more.
 class KELIFC_API COORDINATES {
  public:
-  COORDINATES() = default;
+  COORDINATES() : heap(nullptr) {}
   COORDINATES(const COORDINATES& other);
   COORDINATES& operator=(const COORDINATES& other);
   virtual ~COORDINATES() {

@@ -13,7 +13,7 @@ namespace KelIFC {
 class KELIFC_API LIST_OF_MEMBERS : public LIST<MEMBER> {
  public:
   /// An unset attribute of `holder`, which becomes the owner of each reference that is read.
-  LIST_OF_MEMBERS(IfcUnknown* holder = nullptr) : owner(holder) {}
+  explicit LIST_OF_MEMBERS(IfcUnknown* holder = nullptr) : owner(holder) {}
   LIST_OF_MEMBERS(const LIST_OF_MEMBERS&) = default;
   LIST_OF_MEMBERS& operator=(const LIST_OF_MEMBERS&) = default;
   ~LIST_OF_MEMBERS() override = default;

@@ -1,5 +1,8 @@
 #include "kelifc/core/member.h"
 
+#include <charconv>
+#include <string_view>
+
 #include "kelifc/core/cursor.h"
 #include "kelifc/core/model.h"
 #include "kelifc/core/number_text.h"
@@ -140,8 +143,9 @@ std::ostream& MEMBER::Write(std::ostream& out) const {
   if (!GetExists()) {
     PutChar(out, '$');
   } else if (number != 0) {
-    PutChar(out, '#');
-    PutNumber(out, std::uint64_t{number});
+    char text[24] = {'#'};
+    const auto end = std::to_chars(text + 1, text + sizeof text, number);
+    PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
   } else if (const IfcUnknown* value = GetHeapValue()) {
     value->Write(out);
   } else {

@@ -149,7 +149,7 @@ class Sequence {
     const std::size_t doubled = capacity < kMaximum / 2 ? 2 * std::size_t{capacity} : kMaximum;
     if (size == kMaximum) throw std::bad_array_new_length();
     Sequence grown;
-    grown.Allocate(doubled < 4 ? 4 : doubled);
+    grown.Allocate(doubled == 0 ? 1 : doubled);
     // First the new element: it may be made from one that is about to be taken over.
     T* item = ::new (static_cast<void*>(grown.items + size)) T(std::forward<Args>(args)...);
     grown.TakeFrom(*this);

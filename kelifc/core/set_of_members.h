@@ -13,7 +13,7 @@ namespace KelIFC {
 class KELIFC_API SET_OF_MEMBERS : public SET<MEMBER> {
  public:
   /// An unset attribute of `holder`, which becomes the owner of each reference that is read.
-  SET_OF_MEMBERS(IfcUnknown* holder = nullptr) : owner(holder) {}
+  explicit SET_OF_MEMBERS(IfcUnknown* holder = nullptr) : owner(holder) {}
   SET_OF_MEMBERS(const SET_OF_MEMBERS&) = default;
   SET_OF_MEMBERS& operator=(const SET_OF_MEMBERS&) = default;
   ~SET_OF_MEMBERS() override = default;
