@@ -1,0 +1,116 @@
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+#include "kelifc/geo/collections.h"
+#include "kelifc/geo/ifc_server_object.h"
+#include "kelifc/geo/section.h"
+#include "kelifc/geo/sections.h"
+#include "kelifc/geo/storey.h"
+#include "kelifc/geo/structure.h"
+#include "kelifc/platform/com_class.h"
+
+#include "tests/geo/host.h"
+
+namespace KelIFC {
+namespace {
+
+template <class Class>
+class EachClass : public HostTest {};
+
+using Classes = testing::Types<CoIFCServer, CoGeoStructure, CoGeoStorey, CoGeoStoreys, CoGeoObjects,
+                               CoGeoMaterials, CoGeoSections, CoGeoColumns, CoGeoBeams, CoGeoFoots,
+                               CoGeoPoints, CoGeoPlates, CoGeoWalls, CoGeoWindows, CoGeoDoors,
+                               CoGeoHoles, CoGeoSectionThick, CoGeoSectionProfile, CoGeoSectionR,
+                               CoGeoSectionC, CoGeoSectionT, CoGeoFaces, CoGeoNumbers>;
+TYPED_TEST_SUITE(EachClass, Classes);
+
+/// The way to another interface and back leads to the same pointer.
+template <class Other, class Own>
+void ExpectInterface(const ComPtr<Own>& object) {
+  const auto other = object.template As<Other>();
+  ASSERT_TRUE(other);
+  EXPECT_EQ(other.template As<Own>().Get(), object.Get());
+}
+
+template <class Own, class... Others>
+void ExpectAllInterfaces(const ComPtr<Own>& object, InterfaceList<Own, Others...>) {
+  ExpectInterface<Own>(object);
+  (ExpectInterface<Others>(object), ...);
+}
+
+TYPED_TEST(EachClass, HasItsInterfaces) {
+  const auto object = CreateOwn<TypeParam>();
+  ExpectAllInterfaces(object, typename TypeParam::Interfaces());
+}
+
+TYPED_TEST(EachClass, SharesThePointerOfItsOwnInterfaceWithDispatchAndUnknown) {
+  const auto object = CreateOwn<TypeParam>();
+  const void* own = object.Get();
+  EXPECT_EQ(static_cast<void*>(object.template As<IDispatch>().Get()), own);
+  EXPECT_EQ(static_cast<void*>(object.template As<IUnknown>().Get()), own);
+}
+
+TYPED_TEST(EachClass, HasNoOtherInterfaces) {
+  const auto object = CreateOwn<TypeParam>();
+  EXPECT_FALSE(object.template As<IClassFactory>());
+  EXPECT_FALSE(object.template As<IErrorInfo>());
+  EXPECT_FALSE(object.template As<IGeoMaterial>());
+}
+
+TYPED_TEST(EachClass, ReportsErrorsForItsOwnInterfaceOnly) {
+  const auto support = CreateOwn<TypeParam>().template As<ISupportErrorInfo>();
+  using Own = typename TypeParam::Interfaces::First;
+  EXPECT_EQ(support->InterfaceSupportsErrorInfo(IidOf<Own>()), S_OK);
+  for (const IID& other : {IidOf<IUnknown>(), IidOf<IDispatch>(), IidOf<ISupportErrorInfo>(),
+                           IidOf<IGeoVersion>(), IidOf<IGeoSection>(), IID{}}) {
+    EXPECT_EQ(support->InterfaceSupportsErrorInfo(other), S_FALSE);
+  }
+}
+
+TYPED_TEST(EachClass, HasNoTypeLibraryToDispatchBy) {
+  const auto object = CreateOwn<TypeParam>();
+  UINT count = 7;
+  EXPECT_EQ(object->GetTypeInfoCount(&count), TYPE_E_LIBNOTREGISTERED);
+  EXPECT_EQ(count, 0U);
+  EXPECT_EQ(object->GetTypeInfoCount(nullptr), E_POINTER);
+  auto* info = reinterpret_cast<ITypeInfo*>(&count);
+  EXPECT_EQ(object->GetTypeInfo(0, 0, &info), TYPE_E_LIBNOTREGISTERED);
+  EXPECT_EQ(info, nullptr);
+  EXPECT_EQ(object->GetTypeInfo(0, 0, nullptr), E_POINTER);
+  wchar_t text[] = L"Count";
+  wchar_t* names[] = {text};
+  DISPID id = 0;
+  EXPECT_EQ(object->GetIDsOfNames(IID{}, names, 1, 0, &id), TYPE_E_LIBNOTREGISTERED);
+  EXPECT_EQ(object->Invoke(0, IID{}, 0, 0, nullptr, nullptr, nullptr, nullptr),
+            TYPE_E_LIBNOTREGISTERED);
+}
+
+TYPED_TEST(EachClass, IsFoundByItsProgramNames) {
+  const std::wstring name = TypeParam::kProgId;
+  for (const std::wstring& progId : {name, name.substr(0, name.size() - 2)}) {
+    CLSID clsid = {};
+    EXPECT_EQ(CLSIDFromProgID(progId.c_str(), &clsid), S_OK);
+    EXPECT_EQ(clsid, TypeParam::kClsid);
+  }
+}
+
+TYPED_TEST(EachClass, CountsAsLivingUntilItIsReleased) {
+  auto object = CreateOwn<TypeParam>();
+  EXPECT_EQ(LiveObjectCount(), 1);
+  object.Reset();
+  EXPECT_EQ(LiveObjectCount(), 0);
+}
+
+TEST(ClassTable, HoldsEachClassOnce) {
+  std::set<std::wstring> names;
+  for (const ComClass& type : ComClasses()) {
+    EXPECT_TRUE(names.insert(type.progId).second);
+    EXPECT_EQ(std::wstring(type.progId).substr(0, 7), L"KelIFC.");
+  }
+  EXPECT_EQ(names.size(), ComClasses().size());
+}
+
+}  // namespace
+}  // namespace KelIFC

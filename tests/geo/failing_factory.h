@@ -1,0 +1,80 @@
+#ifndef KELIFC_TESTS_GEO_FAILING_FACTORY_H_
+#define KELIFC_TESTS_GEO_FAILING_FACTORY_H_
+
+#include <gtest/gtest.h>
+
+#include "kelifc/platform/com_class.h"
+#include "kelifc/platform/com_error.h"
+#include "kelifc/platform/com_factory.h"
+#include "kelifc/platform/com_object.h"
+#include "kelifc/platform/com_ptr.h"
+
+namespace KelIFC {
+
+/// Makes some objects of a class, and then gives a failure.
+class FailingFactoryObject : public IClassFactory {
+ public:
+  using Interfaces = InterfaceList<IClassFactory>;
+  using Counted = UncountedObject;
+
+  FailingFactoryObject(const CLSID& clsid, int successes, HRESULT failure)
+      : successes(successes), failure(failure) {
+    EXPECT_EQ(GetClassObject(clsid, IidOf<IClassFactory>(), reinterpret_cast<void**>(real.Put())),
+              S_OK);
+  }
+
+  HRESULT CreateInstance(IUnknown* outer, const IID& iid, void** out) override {
+    return successes-- > 0 ? real->CreateInstance(outer, iid, out) : failure;
+  }
+
+  HRESULT LockServer(BOOL) override { return S_OK; }
+
+ protected:
+  ~FailingFactoryObject() = default;
+
+ private:
+  ComPtr<IClassFactory> real;
+  int successes;
+  HRESULT failure;
+};
+
+/// For as long as it lives, the creation of a class fails on this thread after some successes.
+class FailingClass {
+ public:
+  FailingClass(const CLSID& clsid, int successes, HRESULT failure) {
+    ComPtr<IClassFactory> factory;
+    EXPECT_EQ(MakeObject<FailingFactoryObject>(IidOf<IClassFactory>(),
+                                               reinterpret_cast<void**>(factory.Put()), clsid,
+                                               successes, failure),
+              S_OK);
+    EXPECT_EQ(CoRegisterClassObject(clsid, factory.Get(), CLSCTX_INPROC_SERVER, 0, &cookie), S_OK);
+  }
+  FailingClass(const FailingClass&) = delete;
+  FailingClass& operator=(const FailingClass&) = delete;
+  ~FailingClass() { EXPECT_EQ(CoRevokeClassObject(cookie), S_OK); }
+
+ private:
+  DWORD cookie = 0;
+};
+
+/// For as long as it lives, a class has no class object on this thread: what stands in its place
+/// has no interface to make objects with.
+class MissingClass {
+ public:
+  explicit MissingClass(const CLSID& clsid) {
+    ComPtr<ICreateErrorInfo> noFactory;
+    EXPECT_EQ(CreateErrorInfo(noFactory.Put()), S_OK);
+    EXPECT_EQ(CoRegisterClassObject(clsid, noFactory.Get(), CLSCTX_INPROC_SERVER, 0, &cookie),
+              S_OK);
+  }
+  MissingClass(const MissingClass&) = delete;
+  MissingClass& operator=(const MissingClass&) = delete;
+  ~MissingClass() { EXPECT_EQ(CoRevokeClassObject(cookie), S_OK); }
+
+ private:
+  DWORD cookie = 0;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_TESTS_GEO_FAILING_FACTORY_H_

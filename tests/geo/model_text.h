@@ -1,0 +1,56 @@
+#ifndef KELIFC_TESTS_GEO_MODEL_TEXT_H_
+#define KELIFC_TESTS_GEO_MODEL_TEXT_H_
+
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <fstream>
+#include <string>
+
+#include "tests/geo/host.h"
+
+namespace KelIFC {
+
+/// A file with a text, gone at the end of the test.
+class TemporaryFile {
+ public:
+  explicit TemporaryFile(const std::string& text, const std::string& name = "model") {
+    static int count = 0;
+    path = testing::TempDir() + name + "-" + std::to_string(getpid()) + "-" +
+           std::to_string(++count) + ".ifc";
+    std::ofstream(path, std::ios::binary) << text;
+  }
+  TemporaryFile(const TemporaryFile&) = delete;
+  TemporaryFile& operator=(const TemporaryFile&) = delete;
+  ~TemporaryFile() { std::remove(path.c_str()); }
+
+  const std::string& Path() const { return path; }
+
+ private:
+  std::string path;
+};
+
+/// A STEP file of a schema with these instances.
+inline std::string ModelText(const std::string& schema, const std::string& data) {
+  return "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\n"
+         "FILE_NAME('','',(''),(''),'','','');\nFILE_SCHEMA(('" +
+         schema + "'));\nENDSEC;\nDATA;\n" + data + "ENDSEC;\nEND-ISO-10303-21;\n";
+}
+
+/// Loads a file, whatever comes of it.
+inline HRESULT LoadFile(IIFCServer& server, const std::string& path) {
+  return server.Load(Bstr(WidePath(path)).Get());
+}
+
+/// A server object with a model of a schema.
+inline ComPtr<IIFCServer> LoadModel(const std::string& schema, const std::string& data) {
+  const TemporaryFile file(ModelText(schema, data));
+  auto server = Create<IIFCServer>(CLSID_CoIFCServer);
+  EXPECT_EQ(LoadFile(*server, file.Path()), S_OK);
+  return server;
+}
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_TESTS_GEO_MODEL_TEXT_H_
