@@ -23,6 +23,7 @@ inline const char* SkipBlanks(const char* text) {
 inline const char* BehindNextComma(const char* text) {
   if (text == nullptr) return nullptr;
   if (*text == ',') return text + 1;
+  if (*text == ')' && text[1] == '\0') return nullptr;  // the usual end of a statement
   const char* comma = std::strchr(text, ',');
   return comma == nullptr ? nullptr : comma + 1;
 }

@@ -24,7 +24,7 @@ const char* FindClosing(const char* text) {
 }  // namespace
 
 bool FindParenthesised(const char* text, Parenthesised& inner) {
-  const char* open = std::strchr(text, '(');
+  const char* open = *text == '(' ? text : std::strchr(text, '(');
   if (open == nullptr) return false;
   inner.begin = open + 1;
   inner.end = inner.begin + std::strcspn(inner.begin, "()");
