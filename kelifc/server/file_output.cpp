@@ -6,7 +6,7 @@
 namespace KelIFC {
 namespace {
 
-constexpr std::streamsize kBlockSize = 512 * 1024;
+constexpr std::streamsize kBlockSize = std::streamsize{512} * 1024;
 
 }  // namespace
 

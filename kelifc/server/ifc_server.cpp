@@ -175,10 +175,13 @@ const KelIFC2x3::IfcProject* IfcServer::GetProject2x3() const {
   return FindProject(items, AsProject2x3);
 }
 
+// The server owns the projects and gives them out for change where it is not const itself.
 KelIFC2x2::IfcProject* IfcServer::GetProject2x2() {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
   return const_cast<KelIFC2x2::IfcProject*>(std::as_const(*this).GetProject2x2());
 }
 KelIFC2x3::IfcProject* IfcServer::GetProject2x3() {
+  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
   return const_cast<KelIFC2x3::IfcProject*>(std::as_const(*this).GetProject2x3());
 }
 

@@ -26,7 +26,7 @@ namespace KelIFC {
 /// linear in the length of the file.
 class Scanner {
  public:
-  static constexpr std::size_t kBlockSize = 256 * 1024;
+  static constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
 
   /// Reads `input`, which must outlive the scanner, `blockSize` bytes at a time.
   explicit Scanner(std::istream& input, std::size_t blockSize = kBlockSize);

@@ -1,6 +1,7 @@
 #include "kelifc/server/statements.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 #include <memory>
 #include <string_view>
@@ -19,7 +20,7 @@ constexpr std::string_view kHead = "ISO-10303-21";
 
 // What has no `;` in so many bytes from its start is no STEP file. Without this limit a film or an
 // archive would be read into memory in search of one.
-constexpr std::size_t kHeadLimit = 1024 * 1024;
+constexpr std::size_t kHeadLimit = std::size_t{1024} * 1024;
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
@@ -29,8 +30,21 @@ struct Assignment {
   char* text = nullptr;    // the right side
 };
 
+// Reads the left side of nearly every statement: `#`, up to nine digits and the `=`, with nothing
+// between. Any other form leaves the result at 0, whatever it means.
+Assignment ReadPlainAssignment(char* statement) {
+  constexpr std::ptrdiff_t kMostDigits = 9;
+  if (*statement != '#') return {};
+  std::size_t number = 0;
+  char* at = statement + 1;
+  for (; *at >= '0' && *at <= '9'; ++at) number = 10 * number + static_cast<std::size_t>(*at - '0');
+  if (*at != '=' || at - statement > kMostDigits + 1) return {};
+  return {number, at + 1};
+}
+
 Assignment CutAssignment(char* statement) {
-  Assignment assignment;
+  Assignment assignment = ReadPlainAssignment(statement);
+  if (assignment.number != 0) return assignment;
   char* sign = std::strchr(statement, '=');
   if (sign == nullptr) return assignment;
   *sign = '\0';
@@ -78,10 +92,10 @@ std::int16_t IfcServer::ReadHeaderStatement(char* statement) {
     NoteNumber(CutAssignment(statement).number);
     return 0;
   }
-  instance.release();
+  static_cast<void>(instance.release());
   schemaRecord.reset(record);
   record->Parse(statement);
-  fileSchema = record->GetProtocol();
+  fileSchema.assign(record->GetProtocol());
   const IFC_RELEASE found = FindRelease(fileSchema);
   if (found == IFC_RELEASE_NONE) return 2;
   SetRelease(found);

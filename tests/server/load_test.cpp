@@ -261,6 +261,15 @@ TEST(Load, ReadsNumbersBeyondTheRangeAsItsBound) {
   EXPECT_THAT(NumbersOf(server), ElementsAre(2147483647, 0xFFFFFFFFFFFFFFFF));
 }
 
+TEST(Load, ReadsNumbersInEveryForm) {
+  IfcServer server;
+  Load(server,
+       std::string(kHead2x3) +
+           "#999999999=IFCFOO(1);#1000000000=IFCFOO(2);#0000000000007=IFCFOO(3);"
+           "#+8=IFCFOO(4);# 9 =IFCFOO(5);  #10,x=IFCFOO(6);#11x=IFCFOO(7);#12.5=IFCFOO(8);");
+  EXPECT_THAT(NumbersOf(server), ElementsAre(7, 8, 9, 10, 11, 12, 999999999, 1000000000));
+}
+
 TEST(Load, SpreadsFarApartNumbersWithoutHarm) {
   std::string text = kHead2x3;
   for (int i = 1; i < 2000; ++i) text += "#" + std::to_string(i << 20) + "=IFCFOO(1);";

@@ -12,7 +12,7 @@
 namespace KelIFC {
 namespace {
 
-constexpr std::uintmax_t kLargestFile = 20 * 1024;
+constexpr std::uintmax_t kLargestFile = std::uintmax_t{20} * 1024;
 
 // Cuts the text at every byte, from its end, and loads what is left.
 void LoadAllCuts(const std::string& text) {
