@@ -44,12 +44,17 @@ bool IsTypedValue(const IfcUnknown* value) {
 template <class Items>
 void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
   int entities = 0;
+  std::size_t allowance = kEntityTextFactor * text.size() + kEntityTextAllowance;
   const char* cursor = text.c_str();
   while (cursor != nullptr) {
     MEMBER element(owner);
     const char* next = element.Parse(cursor);
     const IfcUnknown* value = element.GetInlineValue();
-    if (value != nullptr && !IsTypedValue(value) && ++entities > kMaximumEntitiesInList) return;
+    if (value != nullptr && !IsTypedValue(value)) {
+      const auto rest = static_cast<std::size_t>(text.c_str() + text.size() - cursor);
+      if (++entities > kMaximumEntitiesInList || rest > allowance) return;
+      allowance -= rest;
+    }
     if (element.GetExists()) items.Append(element);
     if (next == cursor) return;
     cursor = next;
