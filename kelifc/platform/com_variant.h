@@ -30,6 +30,7 @@ struct VARIANT {
   WORD wReserved2;
   WORD wReserved3;
   union {
+    std::int64_t llVal;  ///< the widest member stands first, so that `= {}` clears all of them
     SHORT iVal;
     LONG lVal;
     double dblVal;

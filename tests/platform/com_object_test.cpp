@@ -133,7 +133,8 @@ TEST(ComPtr, CopiesAndMovesItsHold) {
     ComPtr<ISquare> third = std::move(first);
     EXPECT_FALSE(first);
     EXPECT_EQ(third.Get(), second.Get());
-    third = third;
+    const ComPtr<ISquare>& same = third;
+    third = same;
     EXPECT_EQ(third.Get(), second.Get());
     third = MakeSquare<ISquare>(2);
     EXPECT_EQ(third->Side(), 2);

@@ -88,6 +88,13 @@ TEST(Variant, IsEmptyAtFirst) {
   VariantInit(nullptr);
 }
 
+TEST(Variant, ThatIsClearedHoldsNoPointer) {
+  Value value(L"text");
+  VariantClear(&value);
+  EXPECT_EQ(value.bstrVal, nullptr);
+  EXPECT_EQ(VARIANT{}.pdispVal, nullptr);
+}
+
 TEST(Variant, CopiesItsStringAndKeepsItsOwn) {
   const Value source(L"name");
   Value copy;
