@@ -48,3 +48,7 @@ if(TARGET kelifc_command)
   set_target_properties(kelifc_command PROPERTIES INSTALL_RPATH "$ORIGIN/${bin_to_lib}")
   install(TARGETS kelifc_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
+
+# The reference pages of the entity classes, which schemac leaves beside them.
+install(DIRECTORY "${PROJECT_BINARY_DIR}/generated/docs/reference"
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}")
