@@ -16,7 +16,9 @@ struct _GUID {
 };
 using GUID = _GUID;
 
-inline bool operator==(const _GUID& a, const _GUID& b) { return std::memcmp(&a, &b, sizeof a) == 0; }
+inline bool operator==(const _GUID& a, const _GUID& b) {
+  return std::memcmp(&a, &b, sizeof a) == 0;
+}
 inline bool operator!=(const _GUID& a, const _GUID& b) { return !(a == b); }
 #endif
 
