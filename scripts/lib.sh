@@ -19,9 +19,9 @@ install_missing() {
   [ ${#missing[@]} -gt 0 ] || return 0
   echo "Installing ${missing[*]}" >&2
   [ "$(id -u)" -eq 0 ] || sudo=(sudo)
-  "${sudo[@]}" apt-get update -qq >&2
+  "${sudo[@]}" apt-get update -qq
   "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
-    --no-install-recommends "${missing[@]}" </dev/null >&2
+    --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
 # build PRESET [TARGET...]: configures and builds, all targets where none is named.
