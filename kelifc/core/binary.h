@@ -31,7 +31,7 @@ class BINARY {
   const char* Parse(const char* text) {
     flags.fill('0');
     exists = false;
-    const char* next;
+    const char* next = nullptr;
     if (SkipOmittedValue(next, text) || text == nullptr) return next;
     exists = true;
     return ReadBits(text, flags.data(), N);

@@ -9,7 +9,7 @@ namespace KelIFC {
 const char* BOOLEAN::Parse(const char* text) {
   value = false;
   exists = false;
-  const char* next;
+  const char* next = nullptr;
   if (SkipOmittedValue(next, text) || text == nullptr) return next;
   const EnumText read = ReadEnumText(text);
   exists = true;

@@ -19,13 +19,13 @@ namespace {
 constexpr std::uint64_t kUnsetBits = 0x7FFC'556E'7365'7400;
 
 bool IsUnset(double stored) {
-  std::uint64_t bits;
+  std::uint64_t bits = 0;
   std::memcpy(&bits, &stored, sizeof bits);
   return bits == kUnsetBits;
 }
 
 double MakeUnset() {
-  double stored;
+  double stored = 0.0;
   std::memcpy(&stored, &kUnsetBits, sizeof stored);
   return stored;
 }
@@ -39,11 +39,7 @@ REAL NumberOf(double stored) { return IsUnset(stored) ? REAL() : REAL(stored); }
 
 }  // namespace
 
-COORDINATES::COORDINATES(const COORDINATES& other) {
-  Reserve(other.size);
-  std::copy_n(other.Begin(), other.size, Begin());
-  size = other.size;
-}
+COORDINATES::COORDINATES(const COORDINATES& other) : COORDINATES() { *this = other; }
 
 COORDINATES& COORDINATES::operator=(const COORDINATES& other) {
   if (this == &other) return *this;
@@ -111,7 +107,7 @@ void COORDINATES::ReadElements(const std::string& text) {
 
 const char* COORDINATES::Parse(const char* text) {
   size = 0;
-  const char* next;
+  const char* next = nullptr;
   if (SkipOmittedValue(next, text) || text == nullptr) return next;
   Parenthesised inner;
   if (!FindParenthesised(text, inner)) return text;

@@ -30,7 +30,7 @@ KELIFC_API std::ostream& WriteEnumValue(std::ostream& out, std::int32_t value,
 template <class Enum, std::size_t N>
 const char* ParseEnumValue(Enum& target, const char* cursor, Enum defaultValue,
                            const EnumTextRow (&table)[N]) {
-  std::int32_t value;
+  std::int32_t value = 0;
   cursor = ParseEnumValue(value, cursor, static_cast<std::int32_t>(defaultValue), table, N);
   target = static_cast<Enum>(value);
   return cursor;

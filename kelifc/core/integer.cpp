@@ -9,7 +9,7 @@ namespace KelIFC {
 const char* INTEGER::Parse(const char* text) {
   value = 0;
   exists = false;
-  const char* next;
+  const char* next = nullptr;
   if (SkipOmittedValue(next, text) || text == nullptr) return next;
   exists = true;
   value = ReadInteger(text, &next);

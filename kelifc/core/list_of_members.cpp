@@ -13,7 +13,7 @@ LIST_OF_MEMBERS& LIST_OF_MEMBERS::operator=(const std::vector<IfcUnknown*>& /*it
 const char* LIST_OF_MEMBERS::Parse(const char* text) {
   Clear();
   SetExists(false);
-  const char* next;
+  const char* next = nullptr;
   if (SkipOmittedValue(next, text) || text == nullptr) return next;
   SetExists(true);
   return ParseMembers(text, owner, items);

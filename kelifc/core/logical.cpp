@@ -9,7 +9,7 @@ namespace KelIFC {
 const char* LOGICAL::Parse(const char* text) {
   value = LOGICAL_UNKNOWN;
   exists = false;
-  const char* next;
+  const char* next = nullptr;
   if (SkipOmittedValue(next, text) || text == nullptr) return next;
   const EnumText read = ReadEnumText(text);
   exists = true;

@@ -104,7 +104,7 @@ MEMBER& MEMBER::SetReference(const IfcUnknown* target) {
   return *this;
 }
 
-IfcUnknown* MEMBER::_GetInstance() {
+IfcUnknown* MEMBER::Resolve() const {
   if (!GetExists()) return nullptr;
   if (IfcUnknown* value = GetHeapValue()) return value;
   const auto number = static_cast<std::size_t>(*this);
@@ -116,7 +116,7 @@ const IfcUnknown* MEMBER::GetInlineValue() const { return GetHeapValue(); }
 
 const char* MEMBER::Parse(const char* text) {
   Unset();
-  const char* next;
+  const char* next = nullptr;
   if (SkipOmittedValue(next, text) || text == nullptr) return next;
   const char* first = SkipBlanks(text);
   if (*first != '#') return ParseInPlace(text, first);

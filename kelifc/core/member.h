@@ -52,7 +52,7 @@ class KELIFC_API MEMBER {
 
   /// The value in place, or the instance that the owner's model has under the number, or null.
   IfcUnknown* GetInstance() { return _GetInstance(); }
-  const IfcUnknown* GetInstance() const { return const_cast<MEMBER*>(this)->_GetInstance(); }
+  const IfcUnknown* GetInstance() const { return Resolve(); }
 
   /// The value in place, or null. It stays owned by this attribute.
   const IfcUnknown* GetInlineValue() const;
@@ -65,7 +65,7 @@ class KELIFC_API MEMBER {
   std::ostream& Write(std::ostream& out) const;
 
  protected:
-  IfcUnknown* _GetInstance();
+  IfcUnknown* _GetInstance() { return Resolve(); }
 
  private:
   struct Box;
@@ -90,6 +90,7 @@ class KELIFC_API MEMBER {
   std::size_t GetHeapNumber() const;
   bool GetHeapExists() const;
   IfcUnknown* GetHeapValue() const;
+  IfcUnknown* Resolve() const;
   void ReplaceWord(std::uint64_t other);
   std::uint64_t TakeWord() const { return HasHeap() ? TakeHeap() : word; }
   std::uint64_t TakeHeap() const;

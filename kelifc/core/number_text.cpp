@@ -1,9 +1,9 @@
 #include "kelifc/core/number_text.h"
 
+#include <algorithm>
 #include <bit>
 #include <charconv>
 #include <cmath>
-#include <cstring>
 #include <limits>
 
 #include "kelifc/core/cursor.h"
@@ -225,9 +225,10 @@ char* FormatLong(double magnitude, char* out, char* outEnd) {
 }
 
 std::string_view FormatNotFinite(double value, char* buffer) {
-  std::memcpy(buffer, std::isnan(value) ? "       nan." : "       inf.", 11);
+  const std::string_view text = std::isnan(value) ? "       nan." : "       inf.";
+  std::copy(text.begin(), text.end(), buffer);
   if (std::signbit(value)) buffer[6] = '-';
-  return {buffer, 11};
+  return {buffer, text.size()};
 }
 
 }  // namespace

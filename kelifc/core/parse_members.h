@@ -14,7 +14,7 @@ namespace KelIFC {
 /// the list's text and so many characters more.
 constexpr int kMaximumEntitiesInList = 64;
 constexpr std::size_t kEntityTextFactor = 8;
-constexpr std::size_t kEntityTextAllowance = 64 * 1024;
+constexpr std::size_t kEntityTextAllowance = 65536;
 
 /// Replaces `items` by the references in parentheses at `text`, which is not null and stands behind
 /// the test for an omitted value. Each reference that is set gets `owner`. Gives the next cursor;

@@ -12,7 +12,7 @@ namespace KelIFC {
 const char* REAL::Parse(const char* text) {
   value = 0.0;
   exists = false;
-  const char* next;
+  const char* next = nullptr;
   if (SkipOmittedValue(next, text) || text == nullptr) return next;
   exists = true;
   value = ReadReal(text, &next);

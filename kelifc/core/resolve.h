@@ -26,6 +26,8 @@ void ResolveMemberSet(View<T*>& view, const Members& members, IfcServer* server)
   thread_local CastCache<const T> casts;
   view.Reserve(view.GetSize() + members.GetSize());
   for (std::size_t i = 1; i <= members.GetSize(); ++i) {
+    // A view says itself whether its instances can be changed.
+    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
     view.Append(const_cast<T*>(casts.Cast(ResolveMember(members.GetItem(i), server))));
   }
 }

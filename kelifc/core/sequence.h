@@ -1,6 +1,7 @@
 #ifndef KELIFC_CORE_SEQUENCE_H_
 #define KELIFC_CORE_SEQUENCE_H_
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <new>
@@ -36,7 +37,7 @@ class Sequence {
   Sequence(const Sequence& other) : Sequence() {
     Reserve(other.size);
     for (const T& item : other) Append(item);
-    mark = other.mark;
+    SetMark(other.GetMark());
   }
   /// Leaves the source empty and unmarked.
   Sequence(Sequence&& other) noexcept : Sequence() { Swap(other); }
@@ -113,7 +114,9 @@ class Sequence {
     std::uint32_t size, capacity, mark;
   };
 
-  static constexpr std::size_t kMaximum = 0x7FFFFFFF;
+  static constexpr std::size_t kItemBytes = sizeof(T);  // NOLINT: pointers are items as well
+  static constexpr std::size_t kMaximum =
+      std::min<std::size_t>(0x7FFFFFFF, PTRDIFF_MAX / 2 / kItemBytes);
   static constexpr std::size_t kHeaderSize =
       std::is_empty_v<Header> ? 0 : (sizeof(Header) + alignof(T) - 1) / alignof(T) * alignof(T);
   static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__ && alignof(Header) <= alignof(T));
@@ -126,10 +129,9 @@ class Sequence {
 
   void Allocate(std::size_t count) {
     if (count == 0) return;
-    if (count > kMaximum || count > (PTRDIFF_MAX - kHeaderSize) / sizeof(T))
-      throw std::bad_array_new_length();
+    if (count > kMaximum) throw std::bad_array_new_length();
     const std::size_t prefix = count < kHeaderCapacity ? 0 : kHeaderSize;
-    char* block = static_cast<char*>(::operator new(prefix + count * sizeof(T)));
+    char* block = static_cast<char*>(::operator new(prefix + count * kItemBytes));
     if (count >= kHeaderCapacity) ::new (static_cast<void*>(block)) Header();
     items = reinterpret_cast<T*>(block + prefix);
     capacity = static_cast<std::uint32_t>(count) & 0x7FFFFFFF;

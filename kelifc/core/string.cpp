@@ -15,7 +15,7 @@ STRING& STRING::operator=(const char* text) {
 const char* STRING::Parse(const char* text) {
   clear();
   exists = false;
-  const char* next;
+  const char* next = nullptr;
   if (SkipOmittedValue(next, text) || text == nullptr) return next;
   const char* closing = DecodeQuoted(text, *this);
   if (closing == nullptr) return text;

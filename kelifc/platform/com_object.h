@@ -73,9 +73,10 @@ class Object final : public Impl, private Impl::Counted {
     return left;
   }
 
- private:
+ protected:
   ~Object() = default;
 
+ private:
   ULONG references = 1;
 };
 

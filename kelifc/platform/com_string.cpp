@@ -32,7 +32,7 @@ BSTR SysAllocStringLen(const OLECHAR* text, UINT length) {
   auto* prefix = static_cast<Prefix*>(std::malloc(size));
   if (prefix == nullptr) return nullptr;
   prefix->length = length;
-  const BSTR string = reinterpret_cast<BSTR>(prefix + 1);
+  auto* const string = reinterpret_cast<OLECHAR*>(prefix + 1);
   if (text != nullptr) std::memcpy(string, text, length * sizeof(OLECHAR));
   string[length] = L'\0';
   return string;

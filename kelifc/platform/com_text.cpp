@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <type_traits>
 
 namespace KelIFC {
 
@@ -18,7 +19,7 @@ HRESULT GiveText(std::string_view text, BSTR* out) {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
   if (text.size() > std::numeric_limits<UINT>::max()) return E_OUTOFMEMORY;
-  const BSTR wide = SysAllocStringLen(nullptr, static_cast<UINT>(text.size()));
+  OLECHAR* const wide = SysAllocStringLen(nullptr, static_cast<UINT>(text.size()));
   if (wide == nullptr) return E_OUTOFMEMORY;
   for (std::size_t i = 0; i < text.size(); ++i) wide[i] = static_cast<unsigned char>(text[i]);
   *out = wide;
@@ -104,7 +105,7 @@ std::string NarrowPath(std::wstring_view path) {
   std::string narrow;
   narrow.reserve(path.size());
   for (const wchar_t character : path) {
-    const auto code = static_cast<std::uint32_t>(character);
+    const std::uint32_t code = static_cast<std::make_unsigned_t<wchar_t>>(character);
     if (code >= kByteSurrogate + 0x80 && code <= kByteSurrogate + 0xFF) {
       narrow += static_cast<char>(code - kByteSurrogate);
     } else {

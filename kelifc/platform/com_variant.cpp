@@ -83,7 +83,7 @@ HRESULT Round(double number, Whole* out) {
 }
 
 HRESULT TextOf(const VARIANT& variant, BSTR* out) {
-  char text[kNumberSize];
+  char text[kNumberSize] = {};
   char* end = text;
   if (variant.vt == VT_R8) {
     end = std::to_chars(text, text + kNumberSize, variant.dblVal, std::chars_format::general,

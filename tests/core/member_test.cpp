@@ -26,7 +26,7 @@ class Member : public testing::Test {
     server.InsertItem(1, owner);
     server.InsertItem(12, target);
   }
-  ~Member() override { EXPECT_EQ(Probe::alive, 0); }
+  void TearDown() override { EXPECT_EQ(Probe::alive, 0); }
 
   IfcServer server;
   IfcUnitAssignment* owner = new IfcUnitAssignment;

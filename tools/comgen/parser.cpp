@@ -38,7 +38,7 @@ bool IsIdentifier(std::string_view text) {
 std::string ReadIdentifier(TokenReader& in) {
   in.Expect("{");
   const Place place = in.Here();
-  const std::string identifier = in.Until("}");
+  std::string identifier = in.Until("}");
   if (!IsIdentifier(identifier)) throw DescriptionError(place, "no identifier in upper case");
   in.Expect("}");
   return identifier;

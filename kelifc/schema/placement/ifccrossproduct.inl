@@ -14,9 +14,8 @@ IfcVector* IfcCrossProduct(const IfcDirection& a, const IfcDirection& b) {
   const double x = ay * bz - az * by;
   const double y = az * bx - ax * bz;
   const double z = ax * by - ay * bx;
-  auto direction = std::make_unique<IfcDirection>(REAL(x), REAL(y), REAL(z));
-  auto* product =
-      new IfcVector(direction.get(), IfcLengthMeasure(std::sqrt(x * x + y * y + z * z)));
-  direction.release();
-  return product;
+  const double length = std::sqrt(x * x + y * y + z * z);
+  auto product = std::make_unique<IfcVector>(nullptr, IfcLengthMeasure(length));
+  product->SetOrientation(new IfcDirection(x, y, z));
+  return product.release();
 }
