@@ -17,7 +17,7 @@ void Check(HRESULT status) {
 }
 
 std::string TakeText(BSTR text) {
-  const std::string utf8 = text == nullptr ? "" : Utf8FromWide({text, SysStringLen(text)});
+  std::string utf8 = text == nullptr ? "" : Utf8FromWide({text, SysStringLen(text)});
   SysFreeString(text);
   return utf8;
 }
