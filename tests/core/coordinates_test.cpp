@@ -103,7 +103,7 @@ TEST(Coordinates, HoldEveryNanAsANumber) {
   COORDINATES unset;
   unset.Resize(1);
   // The nan that stands for an unset number: the first thing in the object behind its table.
-  double mark;
+  double mark = 0.0;
   std::memcpy(&mark, reinterpret_cast<const char*>(&unset) + sizeof(void*), sizeof mark);
   ASSERT_TRUE(std::isnan(mark));
 

@@ -9,7 +9,8 @@ TEST(Exception, CarriesItsCause) {
   EXPECT_EQ(IfcException().GetCause(), CAUSE_NONE);
   const IfcException exception(CAUSE_MISSING_REFERENCE);
   EXPECT_EQ(exception.GetCause(), 1);
-  const IfcException copy(exception);
+  IfcException copy;
+  copy = exception;
   EXPECT_EQ(copy.GetCause(), CAUSE_MISSING_REFERENCE);
 }
 

@@ -17,7 +17,7 @@ namespace KelIFC {
 namespace {
 
 std::uint64_t BitsOf(double value) {
-  std::uint64_t bits;
+  std::uint64_t bits = 0;
   std::memcpy(&bits, &value, sizeof bits);
   return bits;
 }
@@ -170,7 +170,7 @@ TEST(NumberText, ReadsRandomNumbersAsTheLibraryDoes) {
 TEST(NumberText, ReadsEveryPrintedDoubleAsItWas) {
   std::mt19937_64 random(21);
   for (int round = 0; round < 100000; ++round) {
-    double value;
+    double value = 0.0;
     const std::uint64_t bits = random();
     std::memcpy(&value, &bits, sizeof value);
     if (!std::isfinite(value)) continue;

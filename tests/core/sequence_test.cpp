@@ -107,7 +107,7 @@ TEST(Sequence, LeavesTheSourceOfAMoveEmpty) {
   sequence.SetMark(true);
   Sequence<std::string> taken(std::move(sequence));
   EXPECT_EQ(taken[0], "a");
-  EXPECT_EQ(sequence.GetSize(), 0U);
+  EXPECT_EQ(sequence.GetSize(), 0U);  // NOLINT: what a move leaves behind is the point
   EXPECT_FALSE(sequence.GetMark());
   sequence = std::move(taken);
   EXPECT_EQ(sequence[0], "a");
