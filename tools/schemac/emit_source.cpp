@@ -137,7 +137,7 @@ class SourceEmitter {
     }
     if (step.act == Step::Act::kStar) return "Redeclared(*this)";
     const Attribute& attribute = *FindAttribute(model, type, step.name);
-    const std::string member = MemberName(attribute.name);
+    std::string member = MemberName(attribute.name);
     switch (attribute.kind) {
       case Kind::kEnum:
         return "Enumerated(" + EnumArguments(attribute) + ")";
@@ -171,7 +171,7 @@ class SourceEmitter {
     if (step.act == Step::Act::kStar) return "Literal(\"*\")";
     if (step.act != Step::Act::kAttribute) return "Literal(\"" + step.literal + "\")";
     const Attribute& attribute = *FindAttribute(model, type, step.name);
-    const std::string member = MemberName(attribute.name);
+    std::string member = MemberName(attribute.name);
     if (!attribute.writtenAs.empty()) return "Literal(\"" + attribute.writtenAs + "\")";
     switch (attribute.kind) {
       case Kind::kEnum:
