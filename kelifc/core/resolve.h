@@ -27,7 +27,6 @@ void ResolveMemberSet(View<T*>& view, const Members& members, IfcServer* server)
   view.Reserve(view.GetSize() + members.GetSize());
   for (std::size_t i = 1; i <= members.GetSize(); ++i) {
     // A view says itself whether its instances can be changed.
-    // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
     view.Append(const_cast<T*>(casts.Cast(ResolveMember(members.GetItem(i), server))));
   }
 }

@@ -21,7 +21,6 @@ std::ostream& IfcUnitAssignment::Write(std::ostream& out) const {
 SET<const IfcUnit*> IfcUnitAssignment::GetUnits() const {
   SET<const IfcUnit*> view;
   // An instance that is looked at lends out its model, which resolves and changes nothing.
-  // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
   ResolveMemberSet(view, units, const_cast<IfcUnitAssignment*>(this)->GetServer());
   return view;
 }
