@@ -1,6 +1,8 @@
 #ifndef KELIFC_GEO_CREATION_H_
 #define KELIFC_GEO_CREATION_H_
 
+#include <utility>
+
 #include "kelifc/platform/com_factory.h"
 #include "kelifc/platform/com_guard.h"
 #include "kelifc/platform/com_ptr.h"

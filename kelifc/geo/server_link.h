@@ -2,6 +2,7 @@
 #define KELIFC_GEO_SERVER_LINK_H_
 
 #include <memory>
+#include <utility>
 
 namespace KelIFC {
 

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <string>
+#include <utility>
 
 #include "kelifc/geo/creation.h"
 #include "kelifc/geo/storey.h"

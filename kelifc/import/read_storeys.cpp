@@ -1,5 +1,8 @@
 #include "kelifc/import/read_storeys.h"
 
+#include <cstddef>
+#include <utility>
+
 #include "kelifc/core/cast_cache.h"
 #include "kelifc/import/family_2x.h"
 #include "kelifc/import/family_2x2.h"

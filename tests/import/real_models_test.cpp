@@ -1,0 +1,63 @@
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "tests/geo/host.h"
+#include "tests/geo/model_text.h"
+
+namespace KelIFC {
+namespace {
+
+/// Larger files would make the tests slow.
+constexpr std::uintmax_t kLargestFile = 20'000'000;
+
+LONG CountStatements(const std::filesystem::path& path, const std::string& entity) {
+  std::ifstream in(path, std::ios::binary);
+  const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  LONG count = 0;
+  for (auto at = text.find(entity); at != std::string::npos; at = text.find(entity, at + 1))
+    ++count;
+  return count;
+}
+
+/// The storeys are all there, rise, and count without a gap.
+void ExpectStoreys(IIFCServer& server, const std::filesystem::path& path) {
+  const auto structure = GetObject(server, &IIFCServer::get_Structure);
+  const auto storeys = GetObject(*structure, &IGeoStructure::get_Storeys);
+  const LONG count = CountOf(*storeys);
+  EXPECT_EQ(count, CountStatements(path, "IFCBUILDINGSTOREY("));
+  ComPtr<IGeoStorey> below;
+  for (LONG i = 1; i <= count; ++i) {
+    ComPtr<IGeoStorey> storey;
+    ASSERT_EQ(storeys->Item(i, storey.Put()), S_OK);
+    EXPECT_FALSE(GetText(*storey, &IGeoStorey::get_Name).empty());
+    if (below) {
+      const double level = Get(*storey, &IGeoStorey::get_Level);
+      const double levelBelow = Get(*below, &IGeoStorey::get_Level);
+      EXPECT_LE(levelBelow, level);
+      EXPECT_EQ(Get(*below, &IGeoStorey::get_Height), level - levelBelow);
+      EXPECT_EQ(Get(*below, &IGeoStorey::get_Number) + 1, Get(*storey, &IGeoStorey::get_Number));
+    }
+    below = storey;
+  }
+}
+
+class RealModels : public HostTest {};
+
+TEST_F(RealModels, GiveAllTheirStoreysInOrder) {
+  const char* folder = std::getenv("KELIFC_TEST_DATA");
+  if (folder == nullptr) GTEST_SKIP() << "KELIFC_TEST_DATA names no folder of models";
+  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
+    if (entry.path().extension() != ".ifc" || entry.file_size() > kLargestFile) continue;
+    SCOPED_TRACE(entry.path().string());
+    const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
+    if (FAILED(LoadFile(*server, entry.path().string()))) continue;
+    ExpectStoreys(*server, entry.path());
+  }
+}
+
+}  // namespace
+}  // namespace KelIFC
