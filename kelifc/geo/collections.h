@@ -6,9 +6,9 @@
 
 namespace KelIFC {
 
-// The collections of the object model. What is peculiar to sections stands in sections.h.
+// The collections of the object model. Those of storeys and sections stand in
+// storeys.h and sections.h.
 
-using CoGeoStoreys = ModelCollection<CoGeoStoreysBase, IGeoStorey>;
 using CoGeoColumns = ModelCollection<CoGeoColumnsBase, IGeoColumn>;
 using CoGeoBeams = ModelCollection<CoGeoBeamsBase, IGeoBeam>;
 using CoGeoWalls = ModelCollection<CoGeoWallsBase, IGeoWall>;

@@ -1,8 +1,11 @@
 #ifndef KELIFC_GEO_FILL_H_
 #define KELIFC_GEO_FILL_H_
 
+#include <vector>
+
 #include "kelifc/geo/collections.h"
 #include "kelifc/geo/ifc_server_object.h"
+#include "kelifc/geo/storeys.h"
 
 namespace KelIFC {
 
@@ -25,6 +28,10 @@ HRESULT FillFoots(CoGeoFoots& collection, CoIFCServer& server, SHORT storeyFilte
 /// The factor from the lengths of the model's file to metres, worked out anew at each call; 1 where
 /// the model does not tell.
 double LengthScaleOf(IfcServer& server);
+
+/// The identifiers of the spatial structures that contain an instance of the model, in the order of
+/// the relations that tell of them; none for what is no element of a release with a conversion.
+std::vector<_GUID> ContainingStructures(const IfcUnknown& instance);
 
 }  // namespace KelIFC
 

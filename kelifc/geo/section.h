@@ -1,10 +1,12 @@
 #ifndef KELIFC_GEO_SECTION_H_
 #define KELIFC_GEO_SECTION_H_
 
+#include <cstdint>
 #include <string>
 
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/fields.h"
+#include "kelifc/geo/section_index.h"
 
 namespace KelIFC {
 
@@ -24,6 +26,13 @@ struct CoGeoSection {
   std::string name;
 };
 
+/// How often hosts have changed sizes of sections, in the whole process: what was worked out of
+/// sizes holds while this stays the same.
+std::uint64_t SectionChanges();
+
+/// Writes a size of a section on behalf of a host.
+HRESULT PutSize(double value, double* size);
+
 /// The operations of IGeoSection, over the base of each section class.
 template <class Base>
 class SectionObject : public Base, public CoGeoSection {
@@ -40,9 +49,16 @@ class SectionObject : public Base, public CoGeoSection {
 class CoGeoSectionR : public SectionObject<CoGeoSectionRBase> {
  public:
   HRESULT get_Width(double* out) override { return GetField(a, out); }
-  HRESULT put_Width(double value) override { return PutField(value, &a); }
+  HRESULT put_Width(double value) override { return PutSize(value, &a); }
   HRESULT get_Height(double* out) override { return GetField(b, out); }
-  HRESULT put_Height(double value) override { return PutField(value, &b); }
+  HRESULT put_Height(double value) override { return PutSize(value, &b); }
+
+  SectionSizes GetSizes() const { return SectionSizes(kind, a, b); }
+  void SetSizes(const SectionSizes& sizes) {
+    kind = sizes.kind;
+    a = sizes.values[0];
+    b = sizes.values[1];
+  }
 
   double a = 0.0;  ///< width
   double b = 0.0;  ///< height
@@ -55,7 +71,13 @@ class CoGeoSectionR : public SectionObject<CoGeoSectionRBase> {
 class CoGeoSectionC : public SectionObject<CoGeoSectionCBase> {
  public:
   HRESULT get_Diameter(double* out) override { return GetField(diameter, out); }
-  HRESULT put_Diameter(double value) override { return PutField(value, &diameter); }
+  HRESULT put_Diameter(double value) override { return PutSize(value, &diameter); }
+
+  SectionSizes GetSizes() const { return SectionSizes(kind, diameter); }
+  void SetSizes(const SectionSizes& sizes) {
+    kind = sizes.kind;
+    diameter = sizes.values[0];
+  }
 
   double diameter = 0.0;
 
@@ -67,13 +89,22 @@ class CoGeoSectionC : public SectionObject<CoGeoSectionCBase> {
 class CoGeoSectionT : public SectionObject<CoGeoSectionTBase> {
  public:
   HRESULT get_Height(double* out) override { return GetField(b, out); }
-  HRESULT put_Height(double value) override { return PutField(value, &b); }
+  HRESULT put_Height(double value) override { return PutSize(value, &b); }
   HRESULT get_FlangeThickness(double* out) override { return GetField(d, out); }
-  HRESULT put_FlangeThickness(double value) override { return PutField(value, &d); }
+  HRESULT put_FlangeThickness(double value) override { return PutSize(value, &d); }
   HRESULT get_WebWidth(double* out) override { return GetField(a, out); }
-  HRESULT put_WebWidth(double value) override { return PutField(value, &a); }
+  HRESULT put_WebWidth(double value) override { return PutSize(value, &a); }
   HRESULT get_FlangeWidth(double* out) override { return GetField(c, out); }
-  HRESULT put_FlangeWidth(double value) override { return PutField(value, &c); }
+  HRESULT put_FlangeWidth(double value) override { return PutSize(value, &c); }
+
+  SectionSizes GetSizes() const { return SectionSizes(kind, a, b, c, d); }
+  void SetSizes(const SectionSizes& sizes) {
+    kind = sizes.kind;
+    a = sizes.values[0];
+    b = sizes.values[1];
+    c = sizes.values[2];
+    d = sizes.values[3];
+  }
 
   double a = 0.0;  ///< web width
   double b = 0.0;  ///< height
@@ -94,7 +125,13 @@ class CoGeoSectionProfile : public SectionObject<CoGeoSectionProfileBase> {
 class CoGeoSectionThick : public SectionObject<CoGeoSectionThickBase> {
  public:
   HRESULT get_Thickness(double* out) override { return GetField(thickness, out); }
-  HRESULT put_Thickness(double value) override { return PutField(value, &thickness); }
+  HRESULT put_Thickness(double value) override { return PutSize(value, &thickness); }
+
+  SectionSizes GetSizes() const { return SectionSizes(kind, thickness); }
+  void SetSizes(const SectionSizes& sizes) {
+    kind = sizes.kind;
+    thickness = sizes.values[0];
+  }
 
   double thickness = 0.0;
 

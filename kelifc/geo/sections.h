@@ -1,8 +1,14 @@
 #ifndef KELIFC_GEO_SECTIONS_H_
 #define KELIFC_GEO_SECTIONS_H_
 
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/collection.h"
+#include "kelifc/geo/section.h"
+#include "kelifc/geo/section_index.h"
 
 namespace KelIFC {
 
@@ -17,11 +23,21 @@ class CoGeoSections : public ItemList<CoGeoSectionsBase, IGeoSection> {
 
   HRESULT ItemByIndex(LONG index, IGeoSection** out) override { return GiveItem(index, out); }
 
+  /// The index, from 0, of the first section of these sizes; nothing if there is none.
+  std::optional<std::size_t> Find(const SectionSizes& sizes);
+
+  /// Tells of the sizes of the section that was appended last.
+  void IndexLast(const SectionSizes& sizes) { bySizes.Add(sizes, Items().size() - 1); }
+
  protected:
   ~CoGeoSections() = default;
 
  private:
   HRESULT GiveByName(BSTR name, IGeoSection** out) const;
+  void IndexAll();
+
+  SectionIndex bySizes;
+  std::uint64_t indexedChanges = SectionChanges();  // what `bySizes` was made after
 };
 
 }  // namespace KelIFC

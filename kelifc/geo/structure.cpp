@@ -4,6 +4,7 @@
 #include "kelifc/geo/fields.h"
 #include "kelifc/geo/fill.h"
 #include "kelifc/geo/sections.h"
+#include "kelifc/geo/storeys.h"
 #include "kelifc/geo/version.h"
 
 namespace KelIFC {

@@ -3,12 +3,21 @@
 #include <set>
 #include <string>
 
+#include "kelifc/geo/beam.h"
+#include "kelifc/geo/boundary.h"
 #include "kelifc/geo/collections.h"
+#include "kelifc/geo/storeys.h"
+#include "kelifc/geo/column.h"
+#include "kelifc/geo/foot.h"
 #include "kelifc/geo/ifc_server_object.h"
+#include "kelifc/geo/openings.h"
+#include "kelifc/geo/plate.h"
+#include "kelifc/geo/point.h"
 #include "kelifc/geo/section.h"
 #include "kelifc/geo/sections.h"
-#include "kelifc/geo/storey.h"
+#include "kelifc/geo/storeys.h"
 #include "kelifc/geo/structure.h"
+#include "kelifc/geo/wall.h"
 #include "kelifc/platform/com_class.h"
 
 #include "tests/geo/host.h"
@@ -19,11 +28,13 @@ namespace {
 template <class Class>
 class EachClass : public HostTest {};
 
-using Classes = testing::Types<CoIFCServer, CoGeoStructure, CoGeoStorey, CoGeoStoreys, CoGeoObjects,
-                               CoGeoMaterials, CoGeoSections, CoGeoColumns, CoGeoBeams, CoGeoFoots,
-                               CoGeoPoints, CoGeoPlates, CoGeoWalls, CoGeoWindows, CoGeoDoors,
-                               CoGeoHoles, CoGeoSectionThick, CoGeoSectionProfile, CoGeoSectionR,
-                               CoGeoSectionC, CoGeoSectionT, CoGeoFaces, CoGeoNumbers>;
+using Classes =
+    testing::Types<CoIFCServer, CoGeoStructure, CoGeoStorey, CoGeoStoreys, CoGeoObjects,
+                   CoGeoMaterials, CoGeoSections, CoGeoColumn, CoGeoColumns, CoGeoBeam, CoGeoBeams,
+                   CoGeoFoot, CoGeoFoots, CoGeoPoint, CoGeoPoints, CoGeoPlate, CoGeoPlates,
+                   CoGeoWall, CoGeoWalls, CoGeoWindow, CoGeoWindows, CoGeoDoor, CoGeoDoors,
+                   CoGeoHole, CoGeoHoles, CoGeoSectionThick, CoGeoSectionProfile, CoGeoSectionR,
+                   CoGeoSectionC, CoGeoSectionT, CoGeoBRep, CoGeoFace, CoGeoFaces, CoGeoNumbers>;
 TYPED_TEST_SUITE(EachClass, Classes);
 
 /// The way to another interface and back leads to the same pointer.
@@ -110,6 +121,7 @@ TEST(ClassTable, HoldsEachClassOnce) {
     EXPECT_EQ(std::wstring(type.progId).substr(0, 7), L"KelIFC.");
   }
   EXPECT_EQ(names.size(), ComClasses().size());
+  EXPECT_EQ(names.size(), 34U);
 }
 
 }  // namespace

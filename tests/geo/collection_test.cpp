@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "kelifc/geo/collections.h"
+#include "kelifc/geo/storeys.h"
 #include "kelifc/geo/storey.h"
 
 #include "tests/geo/host.h"

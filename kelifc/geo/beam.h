@@ -1,0 +1,33 @@
+#ifndef KELIFC_GEO_BEAM_H_
+#define KELIFC_GEO_BEAM_H_
+
+#include "kelifc/geo/boundary.h"
+#include "kelifc/geo/class_bases.h"
+#include "kelifc/geo/creation.h"
+#include "kelifc/geo/polyline_element.h"
+#include "kelifc/geometry/brep.h"
+
+namespace KelIFC {
+
+/// A beam: an axis of two points and a section, or a boundary.
+class CoGeoBeam : public PolylineElement<CoGeoBeamBase> {
+ public:
+  HRESULT get_BRep(IGeoBRep** out) override {
+    return GiveChild<CoGeoBRep>(boundaryObject, out, [this](CoGeoBRep& made) {
+      made.boundary = boundary;
+      return S_OK;
+    });
+  }
+
+  BRep boundary;  ///< of a faceted solid
+
+ protected:
+  ~CoGeoBeam() = default;
+
+ private:
+  ComPtr<IGeoBRep> boundaryObject;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_GEO_BEAM_H_

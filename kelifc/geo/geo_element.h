@@ -1,0 +1,37 @@
+#ifndef KELIFC_GEO_GEO_ELEMENT_H_
+#define KELIFC_GEO_GEO_ELEMENT_H_
+
+#include "kelifc/geo/geo_object.h"
+
+namespace KelIFC {
+
+/// The operations that the interface of every element shares with CoGeoObject, led there. Self
+/// derives from this and from CoGeoObject; Base is the described base of the class.
+template <class Self, class Base>
+class ObjectOperations : public Base {
+ public:
+  HRESULT get_SectionName(BSTR* out) override { return Element().get_SectionName(out); }
+  HRESULT get_ObjectCode(LONG* out) override { return Element().get_ObjectCode(out); }
+  HRESULT get_StoreyNumber(SHORT* out) override { return Element().get_StoreyNumber(out); }
+  HRESULT get_Name(BSTR* out) override { return Element().get_Name(out); }
+  HRESULT put_Name(BSTR text) override { return Element().put_Name(text); }
+  HRESULT get_GUID(BSTR* out) override { return Element().get_GUID(out); }
+  HRESULT put_GUID(BSTR text) override { return Element().put_GUID(text); }
+
+ protected:
+  ~ObjectOperations() = default;
+
+ private:
+  CoGeoObject& Element() { return static_cast<Self&>(*this); }
+};
+
+/// An element: its interfaces, and what all elements have.
+template <class Base>
+class GeoElement : public ObjectOperations<GeoElement<Base>, Base>, public CoGeoObject {
+ protected:
+  ~GeoElement() = default;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_GEO_GEO_ELEMENT_H_

@@ -1,0 +1,26 @@
+#ifndef KELIFC_GEO_PLATE_H_
+#define KELIFC_GEO_PLATE_H_
+
+#include "kelifc/geo/class_bases.h"
+#include "kelifc/geo/openings.h"
+#include "kelifc/geo/polyline_element.h"
+
+namespace KelIFC {
+
+/// A plate: its contour at the middle of its thickness, a thick section, and holes.
+class CoGeoPlate : public PolylineElement<CoGeoPlateBase> {
+ public:
+  HRESULT get_Holes(IGeoHoles** out) override {
+    return GiveOpenings<CoGeoHoles>(holes, out, server);
+  }
+
+ protected:
+  ~CoGeoPlate() = default;
+
+ private:
+  ComPtr<IGeoHoles> holes;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_GEO_PLATE_H_

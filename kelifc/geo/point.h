@@ -1,0 +1,53 @@
+#ifndef KELIFC_GEO_POINT_H_
+#define KELIFC_GEO_POINT_H_
+
+#include "kelifc/core/mvector.h"
+#include "kelifc/geo/class_bases.h"
+#include "kelifc/geo/fields.h"
+#include "kelifc/geometry/point.h"
+#include "kelifc/platform/com_ptr.h"
+
+namespace KelIFC {
+
+/// The operations of IGeoPoint, over the base of a class that has one place.
+template <class Base>
+class LocatedObject : public Base {
+ public:
+  HRESULT get_X(double* out) override { return GetField(location.x, out); }
+  HRESULT put_X(double value) override { return PutField(value, &location.x); }
+  HRESULT get_Y(double* out) override { return GetField(location.y, out); }
+  HRESULT put_Y(double value) override { return PutField(value, &location.y); }
+  HRESULT get_Z(double* out) override { return GetField(location.z, out); }
+  HRESULT put_Z(double value) override { return PutField(value, &location.z); }
+
+  HRESULT SetXYZ(double x, double y, double z) override {
+    location = Point3(x, y, z);
+    return S_OK;
+  }
+
+  HRESULT GetXYZ(double* x, double* y, double* z) override {
+    if (x == nullptr || y == nullptr || z == nullptr) return E_POINTER;
+    *x = location.x;
+    *y = location.y;
+    *z = location.z;
+    return S_OK;
+  }
+
+  Point3 location;  ///< in metres and world coordinates
+
+ protected:
+  ~LocatedObject() = default;
+};
+
+/// A point of an element. It is a copy: to change it changes nothing else.
+class CoGeoPoint : public LocatedObject<CoGeoPointBase> {
+ protected:
+  ~CoGeoPoint() = default;
+};
+
+/// Gives the collection of points that `child` caches, made of `points` when it is first asked for.
+HRESULT GivePoints(ComPtr<IGeoPoints>& child, IGeoPoints** out, const Mvector<Point3>& points);
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_GEO_POINT_H_

@@ -1,0 +1,37 @@
+#ifndef KELIFC_GEO_POLYLINE_ELEMENT_H_
+#define KELIFC_GEO_POLYLINE_ELEMENT_H_
+
+#include "kelifc/geo/geo_element.h"
+#include "kelifc/geo/point.h"
+
+namespace KelIFC {
+
+/// An element that is told by points, in metres and world coordinates.
+template <class Base>
+class PolylineElement : public GeoElement<Base> {
+ public:
+  /// A copy that is made once: what a host changes in it stays there.
+  HRESULT get_Points(IGeoPoints** out) override { return GivePoints(pointObjects, out, points); }
+
+  Mvector<Point3> points;
+
+ protected:
+  ~PolylineElement() = default;
+
+ private:
+  ComPtr<IGeoPoints> pointObjects;
+};
+
+/// Such an element whose points are never joined to a ring.
+template <class Base>
+class OpenElement : public PolylineElement<Base> {
+ public:
+  HRESULT get_Closed(VARIANT_BOOL* out) override { return GetField(VARIANT_FALSE, out); }
+
+ protected:
+  ~OpenElement() = default;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_GEO_POLYLINE_ELEMENT_H_

@@ -1,0 +1,83 @@
+#include "kelifc/geo/section_index.h"
+
+#include <algorithm>
+#include <cmath>
+#include <functional>
+
+namespace KelIFC {
+
+namespace {
+
+/// Twice the tolerance, so that equal sizes stand in one cell or in neighbours even after rounding.
+constexpr double kCellSize = 2 * SectionIndex::kTolerance;
+
+/// Of each size: the cell below, the own one and the one above.
+constexpr int kSteps = 3;
+
+bool AreFinite(const SectionSizes& sizes) {
+  return std::all_of(sizes.values.begin(), sizes.values.end(),
+                     [](double value) { return std::isfinite(value); });
+}
+
+bool AreEqual(const SectionSizes& a, const SectionSizes& b) {
+  for (std::size_t i = 0; i < a.count; ++i) {
+    if (!(std::abs(a.values[i] - b.values[i]) < SectionIndex::kTolerance)) return false;
+  }
+  return true;
+}
+
+}  // namespace
+
+std::size_t SectionIndex::CellHash::operator()(const Cell& cell) const {
+  std::size_t hash = std::hash<LONG>()(cell.kind);
+  for (const double step : cell.steps) {
+    hash = hash * 0x9E3779B97F4A7C15ull + std::hash<double>()(step);
+  }
+  return hash ^ (hash >> 32);
+}
+
+SectionIndex::Cell SectionIndex::CellOf(const SectionSizes& sizes) {
+  Cell cell = {sizes.kind, {}};
+  for (std::size_t i = 0; i < sizes.count; ++i) {
+    cell.steps[i] = std::floor(sizes.values[i] / kCellSize);
+  }
+  return cell;
+}
+
+void SectionIndex::FindInCell(const Cell& cell, const SectionSizes& sizes,
+                              std::optional<std::size_t>& lowest) const {
+  const auto found = cells.find(cell);
+  if (found == cells.end()) return;
+  for (const Entry& entry : found->second) {
+    if (lowest && *lowest <= entry.number) return;  // the numbers of a cell ascend
+    if (AreEqual(entry.sizes, sizes)) lowest = entry.number;
+  }
+}
+
+std::optional<std::size_t> SectionIndex::Find(const SectionSizes& sizes) const {
+  std::optional<std::size_t> lowest;
+  if (!AreFinite(sizes)) return lowest;
+  const Cell middle = CellOf(sizes);
+  int neighbours = 1;
+  for (std::size_t i = 0; i < sizes.count; ++i) neighbours *= kSteps;
+  for (int n = 0; n < neighbours; ++n) {
+    Cell cell = middle;
+    int code = n;
+    for (std::size_t i = 0; i < sizes.count; ++i, code /= kSteps) {
+      cell.steps[i] += code % kSteps - 1;
+    }
+    FindInCell(cell, sizes, lowest);
+  }
+  return lowest;
+}
+
+void SectionIndex::Add(const SectionSizes& sizes, std::size_t number) {
+  if (!AreFinite(sizes)) return;
+  std::vector<Entry>& cell = cells[CellOf(sizes)];
+  const bool isKnown = std::any_of(cell.begin(), cell.end(), [&](const Entry& entry) {
+    return entry.sizes.values == sizes.values;
+  });
+  if (!isKnown) cell.push_back({sizes, number});
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,39 @@
+#ifndef KELIFC_GEO_STOREYS_H_
+#define KELIFC_GEO_STOREYS_H_
+
+#include <cstddef>
+#include <cstring>
+#include <functional>
+#include <string_view>
+#include <unordered_map>
+
+#include "kelifc/geo/class_bases.h"
+#include "kelifc/geo/collection.h"
+#include "kelifc/geo/storey.h"
+
+namespace KelIFC {
+
+/// The storeys of a structure, from the lowest to the highest. Once they are filled they stay, and
+/// no host can change their identifiers.
+class CoGeoStoreys : public ModelCollection<CoGeoStoreysBase, IGeoStorey> {
+ public:
+  /// The first storey of an identifier; null if there is none.
+  const CoGeoStorey* Find(const _GUID& guid);
+
+ protected:
+  ~CoGeoStoreys() = default;
+
+ private:
+  struct Hash {
+    std::size_t operator()(const _GUID& guid) const {
+      return std::hash<std::string_view>()({reinterpret_cast<const char*>(&guid), sizeof guid});
+    }
+  };
+
+  std::unordered_map<_GUID, const CoGeoStorey*, Hash> byGuid;
+  std::size_t indexed = 0;  // how many storeys `byGuid` knows
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_GEO_STOREYS_H_
