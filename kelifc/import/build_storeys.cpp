@@ -9,6 +9,7 @@
 
 #include "kelifc/geo/creation.h"
 #include "kelifc/geo/storey.h"
+#include "kelifc/import/identity.h"
 
 namespace KelIFC {
 
@@ -52,8 +53,7 @@ HRESULT BuildStoreys(CoGeoStoreys& collection, std::vector<StoreyFacts> storeys)
     StoreyFacts& storey = storeys[i];
     made->level = storey.level;
     made->height = (i + 1 < storeys.size() ? storeys[i + 1].level : 0.0) - storey.level;
-    made->name = !storey.name.empty() ? std::move(storey.name)
-                                      : "IFC#" + std::to_string(storey.instanceNumber);
+    made->name = !storey.name.empty() ? std::move(storey.name) : NumberName(storey.instanceNumber);
     made->number = Clamp(number++);
     made->guid = storey.guid;
   }

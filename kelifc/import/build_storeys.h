@@ -3,7 +3,7 @@
 
 #include <vector>
 
-#include "kelifc/geo/collections.h"
+#include "kelifc/geo/storeys.h"
 #include "kelifc/import/storey_facts.h"
 
 namespace KelIFC {

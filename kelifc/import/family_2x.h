@@ -1,6 +1,9 @@
 #ifndef KELIFC_IMPORT_FAMILY_2X_H_
 #define KELIFC_IMPORT_FAMILY_2X_H_
 
+#include <vector>
+
+#include "kelifc/import/instances.h"
 #include "kelifc/schema/ifc2x.h"
 #include "kelifc/server/ifc_server.h"
 
@@ -15,6 +18,19 @@ inline bool IsLengthUnit(KelIFC2x::IfcUnitEnum type) {
 inline const KelIFC2x::IfcProject* ProjectOf(const IfcServer& server, Release2x) {
   return server.GetProject2x();
 }
+
+/// This release has no class of members.
+inline std::vector<const KelIFC2x::IfcBeam*> CollectBeams(const IfcServer& server, Release2x) {
+  return CollectInstances<KelIFC2x::IfcBeam>(server);
+}
+
+/// Footings of this release are not converted.
+inline bool HasFootings(Release2x) { return false; }
+inline std::vector<const KelIFC2x::IfcBuildingElement*> CollectFootings(const IfcServer&,
+                                                                        Release2x) {
+  return {};
+}
+inline bool IsFoot(const KelIFC2x::IfcBuildingElement&) { return false; }
 
 }  // namespace KelIFC
 

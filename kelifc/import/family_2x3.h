@@ -1,6 +1,9 @@
 #ifndef KELIFC_IMPORT_FAMILY_2X3_H_
 #define KELIFC_IMPORT_FAMILY_2X3_H_
 
+#include <vector>
+
+#include "kelifc/import/instances.h"
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/ifc_server.h"
 
@@ -14,6 +17,22 @@ inline bool IsLengthUnit(KelIFC2x3::IfcUnitEnum type) {
 
 inline const KelIFC2x3::IfcProject* ProjectOf(const IfcServer& server, Release2x3) {
   return server.GetProject2x3();
+}
+
+inline std::vector<const KelIFC2x3::IfcBuildingElement*> CollectBeams(const IfcServer& server,
+                                                                      Release2x3) {
+  return CollectBeamsAndMembers<Release2x3>(server);
+}
+
+inline bool HasFootings(Release2x3) { return true; }
+inline std::vector<const KelIFC2x3::IfcFooting*> CollectFootings(const IfcServer& server,
+                                                                 Release2x3) {
+  return CollectInstances<KelIFC2x3::IfcFooting>(server);
+}
+inline bool IsFoot(const KelIFC2x3::IfcFooting& footing) {
+  const auto type = footing.GetPredefinedType();
+  return type == KelIFC2x3::IfcFootingTypeEnum_NOTDEFINED ||
+         type == KelIFC2x3::IfcFootingTypeEnum_PAD_FOOTING;
 }
 
 }  // namespace KelIFC

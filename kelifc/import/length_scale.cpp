@@ -1,7 +1,5 @@
 #include "kelifc/geo/fill.h"
-#include "kelifc/import/family_2x.h"
-#include "kelifc/import/family_2x2.h"
-#include "kelifc/import/family_2x3.h"
+#include "kelifc/import/families.h"
 #include "kelifc/import/read_units.h"
 #include "kelifc/import/releases.h"
 

@@ -3,10 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "kelifc/core/cast_cache.h"
-#include "kelifc/import/family_2x.h"
-#include "kelifc/import/family_2x2.h"
-#include "kelifc/import/family_2x3.h"
+#include "kelifc/import/families.h"
 
 namespace KelIFC {
 
@@ -32,16 +29,13 @@ double StoreyLevel(const typename Release::IfcBuildingStorey& storey) {
 template <class Release>
 std::vector<StoreyFacts> ReadStoreys(const IfcServer& server) {
   std::vector<StoreyFacts> storeys;
-  CastCache<const typename Release::IfcBuildingStorey> cast;
-  for (const IfcUnknown* item : server.GetItems()) {
-    const auto* storey = cast.Cast(item);
-    if (storey == nullptr) continue;
+  for (const auto* storey : CollectInstances<typename Release::IfcBuildingStorey>(server)) {
     StoreyFacts facts;
     facts.level = StoreyLevel<Release>(*storey);
     facts.elevation = storey->GetElevation();
     facts.name = storey->GetName();
     facts.guid = storey->GetGlobalGUID();
-    facts.instanceNumber = server.Find(item);
+    facts.instanceNumber = server.Find(storey);
     storeys.push_back(std::move(facts));
   }
   return storeys;

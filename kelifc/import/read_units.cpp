@@ -2,9 +2,7 @@
 
 #include <cstddef>
 
-#include "kelifc/import/family_2x.h"
-#include "kelifc/import/family_2x2.h"
-#include "kelifc/import/family_2x3.h"
+#include "kelifc/import/families.h"
 
 namespace KelIFC {
 

@@ -1,0 +1,40 @@
+#ifndef KELIFC_IMPORT_IDENTITY_H_
+#define KELIFC_IMPORT_IDENTITY_H_
+
+#include <cstddef>
+#include <string>
+
+#include "kelifc/geo/geo_object.h"
+#include "kelifc/geo/server_link.h"
+#include "kelifc/platform/guid.h"
+#include "kelifc/server/ifc_server.h"
+
+namespace KelIFC {
+
+/// What the model says of who a product is.
+struct IdentityFacts {
+  std::string name;  ///< empty if it is unset
+  _GUID guid = {};
+  std::size_t instanceNumber = 0;  ///< its number in the registry, 0 if it has lost it
+};
+
+template <class Root>
+IdentityFacts ReadIdentity(const Root& product, const IfcServer& server) {
+  IdentityFacts facts;
+  facts.name = product.GetName();
+  facts.guid = product.GetGlobalGUID();
+  facts.instanceNumber = server.Find(&product);
+  return facts;
+}
+
+/// What an instance without a name of its own is called: "IFC#123".
+std::string NumberName(std::size_t instanceNumber);
+
+/// Gives an element its name, its identifier and the link to its server object. An empty name
+/// becomes that of the instance number, followed by `suffix`.
+void FillIdentity(const IdentityFacts& facts, const ServerLink& server, CoGeoObject& element,
+                  const std::string& suffix = {});
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_IMPORT_IDENTITY_H_

@@ -1,0 +1,67 @@
+#include "kelifc/import/read_extrusion.h"
+
+#include "kelifc/import/families.h"
+#include "kelifc/import/flatten_curve.h"
+#include "kelifc/import/read_values.h"
+
+namespace KelIFC {
+
+namespace {
+
+template <class Profile>
+void ReadPosition(const Profile& profile, double scale, ProfileFacts& facts) {
+  const auto* position = profile.GetPosition();
+  if (position == nullptr) return;
+  facts.hasPosition = true;
+  ReadPoint2(position->GetLocation(), scale, facts.location);
+  ReadDirection2(position->GetRefDirection(), facts.refDirection);
+}
+
+template <class Release>
+void ReadOutline(const typename Release::IfcCurve* curve, double scale, ProfileFacts& facts) {
+  facts.kind = ProfileKind::kOutline;
+  FlattenCurve<Release>(facts.outline, curve, kFlattenTolerance, scale, true);
+  const auto* polyLine = dynamic_cast<const typename Release::IfcPolyLine*>(curve);
+  if (polyLine == nullptr) return;
+  facts.isPolyLine = true;
+  facts.corners = PolyLinePoints<Release>(*polyLine, scale);
+}
+
+template <class Release>
+ProfileFacts ReadProfile(const typename Release::IfcProfileDef* profile, double scale) {
+  ProfileFacts facts;
+  if (const auto* circle = dynamic_cast<const typename Release::IfcCircleProfileDef*>(profile)) {
+    facts.kind = ProfileKind::kCircle;
+    facts.radius = scale * circle->GetRadius();
+    ReadPosition(*circle, scale, facts);
+  } else if (const auto* rectangle =
+                 dynamic_cast<const typename Release::IfcRectangleProfileDef*>(profile)) {
+    facts.kind = ProfileKind::kRectangle;
+    facts.xDim = scale * rectangle->GetXDim();
+    facts.yDim = scale * rectangle->GetYDim();
+    ReadPosition(*rectangle, scale, facts);
+  } else if (const auto* outline =
+                 dynamic_cast<const typename Release::IfcArbitraryClosedProfileDef*>(profile)) {
+    ReadOutline<Release>(outline->GetOuterCurve(), scale, facts);
+  }
+  return facts;
+}
+
+}  // namespace
+
+template <class Release>
+ExtrusionFacts ReadExtrusion(const typename Release::IfcExtrudedAreaSolid& solid, double scale) {
+  ExtrusionFacts facts;
+  facts.profile = ReadProfile<Release>(solid.GetSweptArea(), scale);
+  ReadPlacement(solid.GetPosition(), scale, facts.position);
+  ReadDirection3(solid.GetExtrudedDirection(), facts.direction);
+  facts.depth = solid.GetDepth();
+  facts.scale = scale;
+  return facts;
+}
+
+template ExtrusionFacts ReadExtrusion<Release2x>(const Release2x::IfcExtrudedAreaSolid&, double);
+template ExtrusionFacts ReadExtrusion<Release2x2>(const Release2x2::IfcExtrudedAreaSolid&, double);
+template ExtrusionFacts ReadExtrusion<Release2x3>(const Release2x3::IfcExtrudedAreaSolid&, double);
+
+}  // namespace KelIFC

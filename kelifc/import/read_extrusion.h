@@ -1,0 +1,14 @@
+#ifndef KELIFC_IMPORT_READ_EXTRUSION_H_
+#define KELIFC_IMPORT_READ_EXTRUSION_H_
+
+#include "kelifc/import/extrusion_facts.h"
+
+namespace KelIFC {
+
+/// An extruded solid with its profile. `scale` is the factor from lengths of the file to metres.
+template <class Release>
+ExtrusionFacts ReadExtrusion(const typename Release::IfcExtrudedAreaSolid& solid, double scale);
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_IMPORT_READ_EXTRUSION_H_
