@@ -6,7 +6,6 @@
 #include "kelifc/geo/beam.h"
 #include "kelifc/geo/boundary.h"
 #include "kelifc/geo/collections.h"
-#include "kelifc/geo/storeys.h"
 #include "kelifc/geo/column.h"
 #include "kelifc/geo/foot.h"
 #include "kelifc/geo/ifc_server_object.h"

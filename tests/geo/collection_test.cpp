@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "kelifc/geo/collections.h"
-#include "kelifc/geo/storeys.h"
 #include "kelifc/geo/storey.h"
+#include "kelifc/geo/storeys.h"
 
 #include "tests/geo/host.h"
 
