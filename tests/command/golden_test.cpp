@@ -26,7 +26,7 @@ TEST_P(Golden, OutputIsAsKept) {
 
 INSTANTIATE_TEST_SUITE_P(Examples, Golden,
                          testing::Combine(testing::Values("structure", "info"),
-                                          testing::Values("house", "office", "barn")),
+                                          testing::Values("house", "office", "barn", "hall")),
                          [](const auto& info) {
                            return std::get<0>(info.param) + "_" + std::get<1>(info.param);
                          });
