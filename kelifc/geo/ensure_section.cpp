@@ -1,4 +1,4 @@
-#include <utility>
+#include <optional>
 
 #include "kelifc/geo/creation.h"
 #include "kelifc/geo/geo_object.h"
@@ -14,15 +14,23 @@ namespace {
 /// Of the box of a polygon, in metres.
 constexpr double kPolygonTolerance = 0.001;
 
-/// Appends a section and gives it to the element.
-template <class Section>
-HRESULT AddSection(CoGeoSections& sections, CoGeoObject& element, Section** made) {
+/// The sections of the structure, which are made if there are none yet.
+HRESULT GetSections(CoGeoStructure& structure, ComPtr<IGeoSections>& collection,
+                    CoGeoSections** sections) {
+  const HRESULT status = structure.get_Sections(collection.Put());
+  if (SUCCEEDED(status)) *sections = static_cast<CoGeoSections*>(collection.Get());
+  return status;
+}
+
+/// Makes a section, which `fill` gives what it is made of, appends it and gives it to the element.
+template <class Section, class Fill>
+HRESULT AddSection(CoGeoSections& sections, CoGeoObject& element, Fill&& fill) {
   ComPtr<OwnInterface<Section>> object;
   const HRESULT status =
       CoCreateInstance(Section::kClsid, nullptr, CLSCTX_ALL, IidOf<OwnInterface<Section>>(),
                        reinterpret_cast<void**>(object.Put()));
   if (FAILED(status)) return status;
-  *made = static_cast<Section*>(object.Get());
+  fill(static_cast<Section&>(*object));
   sections.Append(object.template As<IGeoSection>());
   element.sectionIndex = sections.Items().size() - 1;
   return status;
@@ -33,20 +41,23 @@ template <class Section>
 HRESULT EnsureSection(CoGeoStructure& structure, CoGeoObject& element, const SectionSizes& sizes) {
   return Guard([&] {
     ComPtr<IGeoSections> collection;
-    HRESULT status = structure.get_Sections(collection.Put());
+    CoGeoSections* sections = nullptr;
+    HRESULT status = GetSections(structure, collection, &sections);
     if (FAILED(status)) return status;
-    auto& sections = static_cast<CoGeoSections&>(*collection);
-    if (const std::optional<std::size_t> found = sections.Find(sizes)) {
+    std::optional<std::size_t> found;
+    status = sections->Find(sizes, &found);
+    if (FAILED(status)) return status;
+    if (found) {
       element.sectionIndex = *found;
       return S_OK;
     }
-    Section* section = nullptr;
-    status = AddSection(sections, element, &section);
-    if (FAILED(status)) return status;
-    section->SetSizes(sizes);
-    section->name = SectionName(sizes);
-    sections.IndexLast(sizes);
-    return S_OK;
+    return AddSection<Section>(*sections, element, [&](Section& made) {
+      made.kind = sizes.kind;
+      made.name = SectionName(sizes);
+      made.changes = sections->Changes();
+      std::size_t i = 0;
+      for (double* const field : made.Fields()) *field = sizes.values[i++];
+    });
   });
 }
 
@@ -72,14 +83,14 @@ HRESULT CoGeoStructure::EnsureSectionThick(CoGeoObject& element, double thicknes
 HRESULT CoGeoStructure::AddSectionProfile(CoGeoObject& element, const Mvector<Point2>& polygon) {
   return Guard([&] {
     ComPtr<IGeoSections> collection;
-    HRESULT status = get_Sections(collection.Put());
+    CoGeoSections* sections = nullptr;
+    HRESULT status = GetSections(*this, collection, &sections);
+    if (SUCCEEDED(status)) status = sections->CheckKinds();
     if (FAILED(status)) return status;
-    CoGeoSectionProfile* section = nullptr;
-    status = AddSection(static_cast<CoGeoSections&>(*collection), element, &section);
-    if (FAILED(status)) return status;
-    section->kind = SECTION_PROFILE;
-    section->name = ProfileName(polygon.size(), Polygon2(polygon, kPolygonTolerance).BoundingBox());
-    return S_OK;
+    return AddSection<CoGeoSectionProfile>(*sections, element, [&](CoGeoSectionProfile& made) {
+      made.kind = SECTION_PROFILE;
+      made.name = ProfileName(polygon.size(), Polygon2(polygon, kPolygonTolerance).BoundingBox());
+    });
   });
 }
 

@@ -1,12 +1,13 @@
 #ifndef KELIFC_GEO_SECTION_H_
 #define KELIFC_GEO_SECTION_H_
 
+#include <array>
 #include <cstdint>
+#include <memory>
 #include <string>
 
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/fields.h"
-#include "kelifc/geo/section_index.h"
 
 namespace KelIFC {
 
@@ -26,12 +27,10 @@ struct CoGeoSection {
   std::string name;
 };
 
-/// How often hosts have changed sizes of sections, in the whole process: what was worked out of
-/// sizes holds while this stays the same.
-std::uint64_t SectionChanges();
-
-/// Writes a size of a section on behalf of a host.
-HRESULT PutSize(double value, double* size);
+/// Counts how often hosts have changed sizes of the sections of one collection: what was worked out
+/// of the sizes holds while the count stays the same. It outlives the collection for as long as a
+/// section does.
+using SizeChanges = std::shared_ptr<std::uint64_t>;
 
 /// The operations of IGeoSection, over the base of each section class.
 template <class Base>
@@ -45,20 +44,34 @@ class SectionObject : public Base, public CoGeoSection {
   ~SectionObject() = default;
 };
 
-/// A rectangle; sizes in metres.
-class CoGeoSectionR : public SectionObject<CoGeoSectionRBase> {
+/// A section that has sizes, in metres. A class gives its fields by `Fields`, in the order that
+/// SectionSizes has them.
+template <class Base>
+class SizedSection : public SectionObject<Base> {
+ public:
+  /// Null in a section that a host made by itself.
+  SizeChanges changes;
+
+ protected:
+  ~SizedSection() = default;
+
+  /// Writes a size on behalf of a host.
+  HRESULT PutSize(double value, double* size) {
+    *size = value;
+    if (changes != nullptr) ++*changes;
+    return S_OK;
+  }
+};
+
+/// A rectangle.
+class CoGeoSectionR : public SizedSection<CoGeoSectionRBase> {
  public:
   HRESULT get_Width(double* out) override { return GetField(a, out); }
   HRESULT put_Width(double value) override { return PutSize(value, &a); }
   HRESULT get_Height(double* out) override { return GetField(b, out); }
   HRESULT put_Height(double value) override { return PutSize(value, &b); }
 
-  SectionSizes GetSizes() const { return SectionSizes(kind, a, b); }
-  void SetSizes(const SectionSizes& sizes) {
-    kind = sizes.kind;
-    a = sizes.values[0];
-    b = sizes.values[1];
-  }
+  std::array<double*, 2> Fields() { return {&a, &b}; }
 
   double a = 0.0;  ///< width
   double b = 0.0;  ///< height
@@ -67,17 +80,13 @@ class CoGeoSectionR : public SectionObject<CoGeoSectionRBase> {
   ~CoGeoSectionR() = default;
 };
 
-/// A circle; sizes in metres.
-class CoGeoSectionC : public SectionObject<CoGeoSectionCBase> {
+/// A circle.
+class CoGeoSectionC : public SizedSection<CoGeoSectionCBase> {
  public:
   HRESULT get_Diameter(double* out) override { return GetField(diameter, out); }
   HRESULT put_Diameter(double value) override { return PutSize(value, &diameter); }
 
-  SectionSizes GetSizes() const { return SectionSizes(kind, diameter); }
-  void SetSizes(const SectionSizes& sizes) {
-    kind = sizes.kind;
-    diameter = sizes.values[0];
-  }
+  std::array<double*, 1> Fields() { return {&diameter}; }
 
   double diameter = 0.0;
 
@@ -85,8 +94,8 @@ class CoGeoSectionC : public SectionObject<CoGeoSectionCBase> {
   ~CoGeoSectionC() = default;
 };
 
-/// A T with the flange on top; sizes in metres.
-class CoGeoSectionT : public SectionObject<CoGeoSectionTBase> {
+/// A T with the flange on top.
+class CoGeoSectionT : public SizedSection<CoGeoSectionTBase> {
  public:
   HRESULT get_Height(double* out) override { return GetField(b, out); }
   HRESULT put_Height(double value) override { return PutSize(value, &b); }
@@ -97,14 +106,7 @@ class CoGeoSectionT : public SectionObject<CoGeoSectionTBase> {
   HRESULT get_FlangeWidth(double* out) override { return GetField(c, out); }
   HRESULT put_FlangeWidth(double value) override { return PutSize(value, &c); }
 
-  SectionSizes GetSizes() const { return SectionSizes(kind, a, b, c, d); }
-  void SetSizes(const SectionSizes& sizes) {
-    kind = sizes.kind;
-    a = sizes.values[0];
-    b = sizes.values[1];
-    c = sizes.values[2];
-    d = sizes.values[3];
-  }
+  std::array<double*, 4> Fields() { return {&a, &b, &c, &d}; }
 
   double a = 0.0;  ///< web width
   double b = 0.0;  ///< height
@@ -115,28 +117,24 @@ class CoGeoSectionT : public SectionObject<CoGeoSectionTBase> {
   ~CoGeoSectionT() = default;
 };
 
-/// A polygon. Its shape is not kept.
-class CoGeoSectionProfile : public SectionObject<CoGeoSectionProfileBase> {
- protected:
-  ~CoGeoSectionProfile() = default;
-};
-
-/// A thickness, in metres.
-class CoGeoSectionThick : public SectionObject<CoGeoSectionThickBase> {
+/// A thickness.
+class CoGeoSectionThick : public SizedSection<CoGeoSectionThickBase> {
  public:
   HRESULT get_Thickness(double* out) override { return GetField(thickness, out); }
   HRESULT put_Thickness(double value) override { return PutSize(value, &thickness); }
 
-  SectionSizes GetSizes() const { return SectionSizes(kind, thickness); }
-  void SetSizes(const SectionSizes& sizes) {
-    kind = sizes.kind;
-    thickness = sizes.values[0];
-  }
+  std::array<double*, 1> Fields() { return {&thickness}; }
 
   double thickness = 0.0;
 
  protected:
   ~CoGeoSectionThick() = default;
+};
+
+/// A polygon. Its shape is not kept.
+class CoGeoSectionProfile : public SectionObject<CoGeoSectionProfileBase> {
+ protected:
+  ~CoGeoSectionProfile() = default;
 };
 
 }  // namespace KelIFC

@@ -11,12 +11,20 @@ namespace {
 /// Twice the tolerance, so that equal sizes stand in one cell or in neighbours even after rounding.
 constexpr double kCellSize = 2 * SectionIndex::kTolerance;
 
+/// From here on neighbouring doubles differ by more than the tolerance, so that each size is equal
+/// to itself alone. It is a cell of its own; its quotient might be infinite, one cell for all.
+constexpr double kLonelySize = 0x1p44;
+
 /// Of each size: the cell below, the own one and the one above.
 constexpr int kSteps = 3;
 
 bool AreFinite(const SectionSizes& sizes) {
   return std::all_of(sizes.values.begin(), sizes.values.end(),
                      [](double value) { return std::isfinite(value); });
+}
+
+double StepOf(double size) {
+  return std::abs(size) < kLonelySize ? std::floor(size / kCellSize) : size;
 }
 
 bool AreEqual(const SectionSizes& a, const SectionSizes& b) {
@@ -39,7 +47,7 @@ std::size_t SectionIndex::CellHash::operator()(const Cell& cell) const {
 SectionIndex::Cell SectionIndex::CellOf(const SectionSizes& sizes) {
   Cell cell = {sizes.kind, {}};
   for (std::size_t i = 0; i < sizes.count; ++i) {
-    cell.steps[i] = std::floor(sizes.values[i] / kCellSize);
+    cell.steps[i] = StepOf(sizes.values[i]);
   }
   return cell;
 }
@@ -72,12 +80,7 @@ std::optional<std::size_t> SectionIndex::Find(const SectionSizes& sizes) const {
 }
 
 void SectionIndex::Add(const SectionSizes& sizes, std::size_t number) {
-  if (!AreFinite(sizes)) return;
-  std::vector<Entry>& cell = cells[CellOf(sizes)];
-  const bool isKnown = std::any_of(cell.begin(), cell.end(), [&](const Entry& entry) {
-    return entry.sizes.values == sizes.values;
-  });
-  if (!isKnown) cell.push_back({sizes, number});
+  if (AreFinite(sizes)) cells[CellOf(sizes)].push_back({sizes, number});
 }
 
 }  // namespace KelIFC

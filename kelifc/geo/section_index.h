@@ -33,8 +33,8 @@ class SectionIndex {
   /// Two sizes that are closer are equal: a millimetre.
   static constexpr double kTolerance = 0.001;
 
-  /// The lowest number of a section of these sizes; nothing if there is none. Sizes that are not
-  /// finite are equal to none.
+  /// The lowest number of a section of these sizes; nothing if there is none. A size that is not
+  /// finite is equal to none.
   std::optional<std::size_t> Find(const SectionSizes& sizes) const;
 
   /// Adds a section; numbers ascend.

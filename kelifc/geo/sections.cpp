@@ -1,6 +1,7 @@
 #include "kelifc/geo/sections.h"
 
 #include <string>
+#include <tuple>
 
 #include "kelifc/platform/com_bstr.h"
 #include "kelifc/platform/com_guard.h"
@@ -10,15 +11,28 @@ namespace KelIFC {
 
 namespace {
 
-/// The sizes of a section by its class; nothing for a class without sizes.
-template <class... Classes>
-std::optional<SectionSizes> SizesOf(IGeoSection& section) {
-  std::optional<SectionSizes> sizes;
-  const auto tryClass = [&](const auto* object) {
-    if (object != nullptr) sizes = object->GetSizes();
-  };
-  (tryClass(dynamic_cast<const Classes*>(&section)), ...);
-  return sizes;
+template <class Section>
+std::optional<SectionSizes> ReadSizes(LONG kind, IGeoSection& section) {
+  auto* const sized = dynamic_cast<Section*>(&section);
+  if (sized == nullptr) return std::nullopt;
+  return std::apply([kind](const auto*... field) { return SectionSizes(kind, *field...); },
+                    sized->Fields());
+}
+
+/// The sizes of a section of a kind; nothing for a kind without sizes.
+std::optional<SectionSizes> SizesOf(LONG kind, IGeoSection& section) {
+  switch (kind) {
+    case SECTION_R:
+      return ReadSizes<CoGeoSectionR>(kind, section);
+    case SECTION_C:
+      return ReadSizes<CoGeoSectionC>(kind, section);
+    case SECTION_T:
+      return ReadSizes<CoGeoSectionT>(kind, section);
+    case SECTION_THICK:
+      return ReadSizes<CoGeoSectionThick>(kind, section);
+    default:
+      return std::nullopt;
+  }
 }
 
 }  // namespace
@@ -36,19 +50,27 @@ HRESULT CoGeoSections::Item(VARIANT index, IGeoSection** out) {
   return status;
 }
 
-std::optional<std::size_t> CoGeoSections::Find(const SectionSizes& sizes) {
-  if (indexedChanges != SectionChanges()) IndexAll();
-  return bySizes.Find(sizes);
+HRESULT CoGeoSections::Find(const SectionSizes& sizes, std::optional<std::size_t>* found) {
+  const HRESULT status = IndexNew();
+  // The index ends ahead of a section that fails, so what it finds stands ahead of that too.
+  *found = bySizes.Find(sizes);
+  return *found ? S_OK : status;
 }
 
-void CoGeoSections::IndexAll() {
-  indexedChanges = SectionChanges();
-  bySizes.Clear();
-  for (std::size_t i = 0; i < Items().size(); ++i) {
-    const auto sizes =
-        SizesOf<CoGeoSectionR, CoGeoSectionC, CoGeoSectionT, CoGeoSectionThick>(*Items()[i]);
-    if (sizes) bySizes.Add(*sizes, i);
+HRESULT CoGeoSections::IndexNew() {
+  if (indexedChanges != *changes) {
+    bySizes.Clear();
+    indexed = 0;
+    indexedChanges = *changes;
   }
+  for (; indexed < Items().size(); ++indexed) {
+    IGeoSection& section = *Items()[indexed];
+    LONG kind = SECTION_NONE;
+    const HRESULT status = section.get_Kind(&kind);
+    if (FAILED(status)) return status;
+    if (const auto sizes = SizesOf(kind, section)) bySizes.Add(*sizes, indexed);
+  }
+  return S_OK;
 }
 
 HRESULT CoGeoSections::GiveByName(BSTR name, IGeoSection** out) const {

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <memory>
 #include <optional>
 
 #include "kelifc/geo/class_bases.h"
@@ -23,21 +24,29 @@ class CoGeoSections : public ItemList<CoGeoSectionsBase, IGeoSection> {
 
   HRESULT ItemByIndex(LONG index, IGeoSection** out) override { return GiveItem(index, out); }
 
-  /// The index, from 0, of the first section of these sizes; nothing if there is none.
-  std::optional<std::size_t> Find(const SectionSizes& sizes);
+  /// Finds the first section of these sizes: its index, from 0, or nothing. A section that fails to
+  /// tell its kind ends the search with its failure.
+  HRESULT Find(const SectionSizes& sizes, std::optional<std::size_t>* found);
 
-  /// Tells of the sizes of the section that was appended last.
-  void IndexLast(const SectionSizes& sizes) { bySizes.Add(sizes, Items().size() - 1); }
+  /// The failure of the first section that does not tell its kind.
+  HRESULT CheckKinds() { return IndexNew(); }
+
+  /// What the sections of this collection count the changes of their sizes with.
+  const SizeChanges& Changes() const { return changes; }
 
  protected:
   ~CoGeoSections() = default;
 
  private:
   HRESULT GiveByName(BSTR name, IGeoSection** out) const;
-  void IndexAll();
 
+  /// Brings the index up to date, as far as the sections tell their kinds.
+  HRESULT IndexNew();
+
+  SizeChanges changes = std::make_shared<std::uint64_t>(0);
   SectionIndex bySizes;
-  std::uint64_t indexedChanges = SectionChanges();  // what `bySizes` was made after
+  std::size_t indexed = 0;           // how many sections `bySizes` knows
+  std::uint64_t indexedChanges = 0;  // how many changes it has seen
 };
 
 }  // namespace KelIFC
