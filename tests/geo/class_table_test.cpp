@@ -97,12 +97,13 @@ TYPED_TEST(EachClass, HasNoTypeLibraryToDispatchBy) {
             TYPE_E_LIBNOTREGISTERED);
 }
 
-TYPED_TEST(EachClass, IsFoundByItsProgramNames) {
+TYPED_TEST(EachClass, IsMadeByItsProgramNames) {
   const std::wstring name = TypeParam::kProgId;
   for (const std::wstring& progId : {name, name.substr(0, name.size() - 2)}) {
     CLSID clsid = {};
     EXPECT_EQ(CLSIDFromProgID(progId.c_str(), &clsid), S_OK);
     EXPECT_EQ(clsid, TypeParam::kClsid);
+    EXPECT_TRUE(Create<typename TypeParam::Interfaces::First>(clsid));
   }
 }
 

@@ -4,74 +4,132 @@
 
 #include "tests/geo/elements.h"
 #include "tests/geo/failing_factory.h"
-#include "tests/geo/host.h"
 
 namespace KelIFC {
 namespace {
 
-class WallObject : public HostTest {};
+/// One kind of openings, and the element that has them.
+struct HolesOfAPlate {
+  using Owner = CoGeoPlate;
+  using Collection = CoGeoHoles;
+  using Element = CoGeoHole;
+  static constexpr auto kGet = &IGeoPlate::get_Holes;
+};
 
-TEST_F(WallObject, IsNeverOpen) {
+struct WindowsOfAWall {
+  using Owner = CoGeoWall;
+  using Collection = CoGeoWindows;
+  using Element = CoGeoWindow;
+  static constexpr auto kGet = &IGeoWall::get_Windows;
+};
+
+struct DoorsOfAWall {
+  using Owner = CoGeoWall;
+  using Collection = CoGeoDoors;
+  using Element = CoGeoDoor;
+  static constexpr auto kGet = &IGeoWall::get_Doors;
+};
+
+template <class Kind>
+class EachOpening : public HostTest {};
+
+using Kinds = testing::Types<HolesOfAPlate, WindowsOfAWall, DoorsOfAWall>;
+TYPED_TEST_SUITE(EachOpening, Kinds);
+
+TYPED_TEST(EachOpening, HasNoItemsAtFirst) {
+  const auto owner = CreateOwn<typename TypeParam::Owner>();
+  EXPECT_EQ(CountOf(*GetObject(*owner, TypeParam::kGet)), 0);
+}
+
+TYPED_TEST(EachOpening, ShowsWhatWasAddedThroughTheSameOperation) {
+  const auto owner = CreateOwn<typename TypeParam::Owner>();
+  const auto collection = GetObject(*owner, TypeParam::kGet);
+  const auto element = CreateOwn<typename TypeParam::Element>();
+  Behind<typename TypeParam::Collection>(collection).Append(element);
+  const auto again = GetObject(*owner, TypeParam::kGet);
+  EXPECT_EQ(again.Get(), collection.Get());
+  typename std::remove_const_t<decltype(element)> item;
+  ASSERT_EQ(again->Item(1, item.Put()), S_OK);
+  EXPECT_EQ(item.Get(), element.Get());
+}
+
+TYPED_TEST(EachOpening, KnowsTheServerOfItsOwner) {
+  const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
+  const auto owner = CreateElement<typename TypeParam::Owner>(server);
+  const auto collection = GetObject(*owner, TypeParam::kGet);
+  EXPECT_EQ(Behind<typename TypeParam::Collection>(collection).Server().Get(),
+            &Behind<CoIFCServer>(server));
+  const auto alone = GetObject(*CreateOwn<typename TypeParam::Owner>(), TypeParam::kGet);
+  EXPECT_EQ(Behind<typename TypeParam::Collection>(alone).Server().Get(), nullptr);
+}
+
+TYPED_TEST(EachOpening, TriesAnewToMakeTheCollection) {
+  const auto owner = CreateOwn<typename TypeParam::Owner>();
+  EXPECT_EQ(((*owner).*TypeParam::kGet)(nullptr), E_POINTER);
+  {
+    const FailingClass failing(TypeParam::Collection::kClsid, 0, DISP_E_OVERFLOW);
+    ComPtr<typename TypeParam::Collection::Interfaces::First> out;
+    EXPECT_EQ(((*owner).*TypeParam::kGet)(out.Put()), DISP_E_OVERFLOW);
+    EXPECT_FALSE(out);
+  }
+  EXPECT_EQ(CountOf(*GetObject(*owner, TypeParam::kGet)), 0);
+}
+
+/// A window or a door has the interface of a point, and none of its operations.
+template <class Class>
+class FilledOpening : public HostTest {};
+
+using FilledOpenings = testing::Types<CoGeoWindow, CoGeoDoor>;
+TYPED_TEST_SUITE(FilledOpening, FilledOpenings);
+
+TYPED_TEST(FilledOpening, ReservesAllOperationsOfAPoint) {
+  const auto point = CreateOwn<TypeParam>().template As<IGeoPoint>();
+  double value = 7;
+  EXPECT_EQ(point->get_X(&value), E_NOTIMPL);
+  EXPECT_EQ(point->get_Y(&value), E_NOTIMPL);
+  EXPECT_EQ(point->get_Z(&value), E_NOTIMPL);
+  EXPECT_EQ(point->put_X(value), E_NOTIMPL);
+  EXPECT_EQ(point->put_Y(value), E_NOTIMPL);
+  EXPECT_EQ(point->put_Z(value), E_NOTIMPL);
+  EXPECT_EQ(point->SetXYZ(1, 2, 3), E_NOTIMPL);
+  EXPECT_EQ(point->GetXYZ(&value, &value, &value), E_NOTIMPL);
+  EXPECT_EQ(value, 7.0);
+  EXPECT_EQ(point->GetXYZ(nullptr, nullptr, nullptr), E_NOTIMPL);
+}
+
+class Wall : public HostTest {};
+class Opening : public HostTest {};
+
+TEST_F(Wall, IsNeverOpen) {
   const auto wall = CreateOwn<CoGeoWall>();
-  EXPECT_EQ(Get(*wall, &IGeoWall::get_IsOpen), VARIANT_FALSE);
+  VARIANT_BOOL isOpen = 7;
+  EXPECT_EQ(wall->get_IsOpen(&isOpen), S_OK);
+  EXPECT_EQ(isOpen, 0);
   EXPECT_EQ(wall->get_IsOpen(nullptr), E_POINTER);
 }
 
-TEST_F(WallObject, HasEmptyCollectionsThatItKeeps) {
+TEST_F(Wall, ReservesTheOtherOperations) {
   const auto wall = CreateOwn<CoGeoWall>();
-  const auto windows = GetObject(*wall, &IGeoWall::get_Windows);
-  EXPECT_EQ(CountOf(*windows), 0);
-  EXPECT_EQ(GetObject(*wall, &IGeoWall::get_Windows).Get(), windows.Get());
-  const auto doors = GetObject(*wall, &IGeoWall::get_Doors);
-  EXPECT_EQ(CountOf(*doors), 0);
-  EXPECT_EQ(GetObject(*wall, &IGeoWall::get_Doors).Get(), doors.Get());
-  EXPECT_EQ(wall->get_Windows(nullptr), E_POINTER);
-  EXPECT_EQ(wall->get_Doors(nullptr), E_POINTER);
+  EXPECT_EQ(wall->Reserved20(nullptr), E_NOTIMPL);
+  EXPECT_EQ(wall->Reserved21(0), E_NOTIMPL);
+  EXPECT_EQ(wall->Reserved25(0), E_NOTIMPL);
+  EXPECT_EQ(wall->Reserved27(), E_NOTIMPL);
+  EXPECT_EQ(wall->Reserved30(nullptr), E_NOTIMPL);
 }
 
-TEST_F(WallObject, TellsAFailureToMakeACollection) {
-  const auto wall = CreateOwn<CoGeoWall>();
-  const FailingClass failing(CLSID_CoGeoDoors, 0, E_OUTOFMEMORY);
-  IGeoDoors* doors = nullptr;
-  EXPECT_EQ(wall->get_Doors(&doors), E_OUTOFMEMORY);
-  EXPECT_EQ(doors, nullptr);
+TEST_F(Opening, ReservesTheOtherOperations) {
+  const auto hole = CreateOwn<CoGeoHole>();
+  EXPECT_EQ(hole->Reserved18(nullptr), E_NOTIMPL);
+  EXPECT_EQ(hole->Reserved19(nullptr), E_NOTIMPL);
+  EXPECT_EQ(hole->Reserved20(0), E_NOTIMPL);
+  EXPECT_FALSE(hole.As<IGeoPoint>());
 }
 
-TEST_F(WallObject, ShowsWhatIsAddedToItsCollection) {
-  const auto wall = CreateOwn<CoGeoWall>();
-  const auto windows = GetObject(*wall, &IGeoWall::get_Windows);
-  static_cast<CoGeoWindows&>(*windows).Append(CreateOwn<CoGeoWindow>());
-  EXPECT_EQ(CountOf(*GetObject(*wall, &IGeoWall::get_Windows)), 1);
-}
-
-class PlateObject : public HostTest {};
-
-TEST_F(PlateObject, HasAnEmptyCollectionOfHolesThatItKeeps) {
+TEST_F(Opening, OfAPlateReservesTheOtherOperations) {
   const auto plate = CreateOwn<CoGeoPlate>();
-  const auto holes = GetObject(*plate, &IGeoPlate::get_Holes);
-  EXPECT_EQ(CountOf(*holes), 0);
-  EXPECT_EQ(GetObject(*plate, &IGeoPlate::get_Holes).Get(), holes.Get());
-  EXPECT_EQ(plate->get_Holes(nullptr), E_POINTER);
-}
-
-template <class Class>
-class PointLikeOpening : public HostTest {};
-using PointLike = testing::Types<CoGeoWindow, CoGeoDoor>;
-TYPED_TEST_SUITE(PointLikeOpening, PointLike);
-
-TYPED_TEST(PointLikeOpening, HasThePointInterfaceWithoutItsOperations) {
-  const auto point = CreateOwn<TypeParam>().template As<IGeoPoint>();
-  ASSERT_TRUE(point);
-  double value = 7;
-  EXPECT_EQ(point->get_X(&value), E_NOTIMPL);
-  EXPECT_EQ(point->put_X(1), E_NOTIMPL);
-  EXPECT_EQ(point->get_Y(&value), E_NOTIMPL);
-  EXPECT_EQ(point->put_Y(1), E_NOTIMPL);
-  EXPECT_EQ(point->get_Z(&value), E_NOTIMPL);
-  EXPECT_EQ(point->put_Z(1), E_NOTIMPL);
-  EXPECT_EQ(point->SetXYZ(1, 2, 3), E_NOTIMPL);
-  EXPECT_EQ(point->GetXYZ(&value, &value, &value), E_NOTIMPL);
-  EXPECT_EQ(value, 7);
+  EXPECT_EQ(plate->Reserved19(nullptr), E_NOTIMPL);
+  EXPECT_EQ(plate->Reserved20(0), E_NOTIMPL);
+  EXPECT_EQ(plate->Reserved26(nullptr), E_NOTIMPL);
 }
 
 }  // namespace

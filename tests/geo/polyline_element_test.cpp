@@ -2,102 +2,148 @@
 
 #include <gtest/gtest.h>
 
-#include <type_traits>
-
 #include "tests/geo/elements.h"
 #include "tests/geo/failing_factory.h"
-#include "tests/geo/host.h"
 
 namespace KelIFC {
 namespace {
 
 template <class Class>
-class PolylineObject : public HostTest {
+class EachPolyline : public HostTest {
  protected:
-  void SetUp() override {
-    element = CreateOwn<Class>();
-    OwnOf<Class>(element).points.push_back(Point3(1, 2, 3));
-    OwnOf<Class>(element).points.push_back(Point3(4, 5, 6));
-    polyline = element.template As<IGeoPolyline>();
-  }
-
   void TearDown() override {
     polyline.Reset();
     element.Reset();
     HostTest::TearDown();
   }
 
-  ComPtr<typename Class::Interfaces::First> element;
-  ComPtr<IGeoPolyline> polyline;
-};
-TYPED_TEST_SUITE(PolylineObject, PolylineClasses);
-
-TYPED_TEST(PolylineObject, GivesItsPointsInOrder) {
-  const auto points = GetObject(*this->polyline, &IGeoPolyline::get_Points);
-  ASSERT_EQ(CountOf(*points), 2);
-  ComPtr<IGeoPoint> second;
-  ASSERT_EQ(points->Item(2, second.Put()), S_OK);
-  EXPECT_EQ(Get(*second, &IGeoPoint::get_X), 4);
-  EXPECT_EQ(Get(*second, &IGeoPoint::get_Y), 5);
-  EXPECT_EQ(Get(*second, &IGeoPoint::get_Z), 6);
-}
-
-TYPED_TEST(PolylineObject, GivesTheSameCollectionAgain) {
-  const auto first = GetObject(*this->polyline, &IGeoPolyline::get_Points);
-  const auto second = GetObject(*this->polyline, &IGeoPolyline::get_Points);
-  EXPECT_EQ(first.Get(), second.Get());
-}
-
-TYPED_TEST(PolylineObject, KeepsItsOwnPointsWhenAHostChangesThem) {
-  const auto points = GetObject(*this->polyline, &IGeoPolyline::get_Points);
-  ComPtr<IGeoPoint> point;
-  ASSERT_EQ(points->Item(1, point.Put()), S_OK);
-  EXPECT_EQ(point->put_X(99), S_OK);
-  EXPECT_EQ(OwnOf<TypeParam>(this->element).points[0].x, 1);
-  ComPtr<IGeoPoint> again;
-  ASSERT_EQ(points->Item(1, again.Put()), S_OK);
-  EXPECT_EQ(Get(*again, &IGeoPoint::get_X), 99);
-}
-
-TYPED_TEST(PolylineObject, TakesNoNullPointers) {
-  EXPECT_EQ(this->polyline->get_Points(nullptr), E_POINTER);
-}
-
-TYPED_TEST(PolylineObject, KeepsItsPointsAliveWhenItIsGone) {
-  const auto points = GetObject(*this->polyline, &IGeoPolyline::get_Points);
-  this->polyline.Reset();
-  this->element.Reset();
-  EXPECT_EQ(CountOf(*points), 2);
-}
-
-TYPED_TEST(PolylineObject, KeepsThePointsThatItMadeBeforeAFailure) {
-  IGeoPoints* none = nullptr;
-  {
-    const FailingClass failing(CLSID_CoGeoPoint, 1, E_OUTOFMEMORY);
-    EXPECT_EQ(this->polyline->get_Points(&none), E_OUTOFMEMORY);
-    EXPECT_EQ(none, nullptr);
+  /// Gives the element the points (1,0,0), (2,0,0) ...
+  void AddPoints(int count) {
+    Mvector<Point3>& points = Behind<Class>(element).points;
+    for (int i = 1; i <= count; ++i) points.push_back(Point3(i, 0, 0));
   }
-  const auto points = GetObject(*this->polyline, &IGeoPolyline::get_Points);
+
+  ComPtr<IGeoPoints> Points() { return GetObject(*polyline, &IGeoPolyline::get_Points); }
+
+  ComPtr<IGeoPoint> PointAt(LONG index) {
+    ComPtr<IGeoPoint> point;
+    EXPECT_EQ(Points()->Item(index, point.Put()), S_OK);
+    return point;
+  }
+
+  decltype(CreateOwn<Class>()) element = CreateOwn<Class>();
+  ComPtr<IGeoPolyline> polyline = element.template As<IGeoPolyline>();
+};
+
+TYPED_TEST_SUITE(EachPolyline, PolylineClasses);
+
+TYPED_TEST(EachPolyline, HasNoPointsAtFirst) { EXPECT_EQ(CountOf(*this->Points()), 0); }
+
+TYPED_TEST(EachPolyline, ShowsItsPointsInTheirOrder) {
+  this->AddPoints(3);
+  ASSERT_EQ(CountOf(*this->Points()), 3);
+  for (LONG i = 1; i <= 3; ++i) {
+    EXPECT_EQ(Get(*this->PointAt(i), &IGeoPoint::get_X), static_cast<double>(i));
+  }
+}
+
+TYPED_TEST(EachPolyline, MakesItsPointsOnce) {
+  this->AddPoints(1);
+  const auto points = this->Points();
+  this->AddPoints(1);
+  EXPECT_EQ(this->Points().Get(), points.Get());
   EXPECT_EQ(CountOf(*points), 1);
 }
 
-TYPED_TEST(PolylineObject, TellsWhetherItIsClosed) {
-  VARIANT_BOOL closed = 7;
-  const HRESULT status = this->polyline->get_Closed(&closed);
-  if constexpr (std::is_same_v<TypeParam, CoGeoWall>) {
-    EXPECT_EQ(status, S_OK);
-    EXPECT_EQ(closed, VARIANT_TRUE);
-    EXPECT_EQ(this->polyline->get_Closed(nullptr), E_POINTER);
-  } else if constexpr (std::is_same_v<TypeParam, CoGeoColumn> ||
-                       std::is_same_v<TypeParam, CoGeoBeam> ||
-                       std::is_same_v<TypeParam, CoGeoPlate>) {
-    EXPECT_EQ(status, E_NOTIMPL);
-    EXPECT_EQ(closed, 7);
-  } else {
-    EXPECT_EQ(status, S_OK);
-    EXPECT_EQ(closed, VARIANT_FALSE);
-    EXPECT_EQ(this->polyline->get_Closed(nullptr), E_POINTER);
+TYPED_TEST(EachPolyline, KeepsWhatAHostChangesInACopyOfItsPoints) {
+  this->AddPoints(1);
+  this->PointAt(1)->put_X(7);
+  EXPECT_EQ(Get(*this->PointAt(1), &IGeoPoint::get_X), 7.0);
+  EXPECT_EQ(Behind<TypeParam>(this->element).points[0].x, 1.0);
+}
+
+TYPED_TEST(EachPolyline, NeedsAPlaceForItsPoints) {
+  EXPECT_EQ(this->polyline->get_Points(nullptr), E_POINTER);
+}
+
+TYPED_TEST(EachPolyline, KeepsTheCollectionThatCouldNotBeFilled) {
+  this->AddPoints(3);
+  auto* out = reinterpret_cast<IGeoPoints*>(this);
+  {
+    const FailingClass failing(CLSID_CoGeoPoint, 2, DISP_E_OVERFLOW);
+    EXPECT_EQ(this->polyline->get_Points(&out), DISP_E_OVERFLOW);
+    EXPECT_EQ(out, nullptr);
   }
+  EXPECT_EQ(CountOf(*this->Points()), 2);
+}
+
+TYPED_TEST(EachPolyline, KeepsTheCollectionWhosePointsHaveNoClassObject) {
+  this->AddPoints(3);
+  {
+    const MissingClass missing(CLSID_CoGeoPoint);
+    ComPtr<IGeoPoints> out;
+    EXPECT_EQ(this->polyline->get_Points(out.Put()), E_NOINTERFACE);
+    EXPECT_FALSE(out);
+  }
+  EXPECT_EQ(CountOf(*this->Points()), 0);
+}
+
+TYPED_TEST(EachPolyline, TriesAnewToMakeTheCollection) {
+  this->AddPoints(3);
+  {
+    const FailingClass failing(CLSID_CoGeoPoints, 0, DISP_E_OVERFLOW);
+    ComPtr<IGeoPoints> out;
+    EXPECT_EQ(this->polyline->get_Points(out.Put()), DISP_E_OVERFLOW);
+  }
+  EXPECT_EQ(CountOf(*this->Points()), 3);
+}
+
+TYPED_TEST(EachPolyline, LeavesPointsUsableThatOutliveIt) {
+  this->AddPoints(2);
+  auto points = this->Points();
+  const auto point = this->PointAt(2);
+  this->polyline.Reset();
+  this->element.Reset();
+  EXPECT_EQ(CountOf(*points), 2);
+  points.Reset();
+  EXPECT_EQ(Get(*point, &IGeoPoint::get_X), 2.0);
+}
+
+TYPED_TEST(EachPolyline, ReservesTheOtherOperation) {
+  EXPECT_EQ(this->polyline->Reserved3(0), E_NOTIMPL);
+}
+
+class Closed : public HostTest {};
+
+/// What an element answers when it is asked whether it is closed.
+template <class Class>
+HRESULT AskClosed(VARIANT_BOOL* out) {
+  return CreateOwn<Class>().template As<IGeoPolyline>()->get_Closed(out);
+}
+
+template <class Class>
+VARIANT_BOOL IsClosed() {
+  VARIANT_BOOL closed = 7;
+  EXPECT_EQ(AskClosed<Class>(&closed), S_OK);
+  EXPECT_EQ(AskClosed<Class>(nullptr), E_POINTER);
+  return closed;
+}
+
+TEST_F(Closed, IsTrueOfAWall) { EXPECT_EQ(IsClosed<CoGeoWall>(), -1); }
+
+TEST_F(Closed, IsFalseOfOpenings) {
+  EXPECT_EQ(IsClosed<CoGeoWindow>(), 0);
+  EXPECT_EQ(IsClosed<CoGeoDoor>(), 0);
+  EXPECT_EQ(IsClosed<CoGeoHole>(), 0);
+}
+
+TEST_F(Closed, IsReservedForColumnsBeamsAndPlates) {
+  VARIANT_BOOL closed = 7;
+  EXPECT_EQ(AskClosed<CoGeoColumn>(&closed), E_NOTIMPL);
+  EXPECT_EQ(AskClosed<CoGeoBeam>(&closed), E_NOTIMPL);
+  EXPECT_EQ(AskClosed<CoGeoPlate>(&closed), E_NOTIMPL);
+  EXPECT_EQ(AskClosed<CoGeoColumn>(nullptr), E_NOTIMPL);
+  EXPECT_EQ(closed, 7);
 }
 
 }  // namespace

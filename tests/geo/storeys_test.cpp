@@ -3,46 +3,65 @@
 #include <gtest/gtest.h>
 
 #include "tests/geo/elements.h"
-#include "tests/geo/host.h"
 
 namespace KelIFC {
 namespace {
 
 class Storeys : public HostTest {
  protected:
-  static void Add(CoGeoStoreys& storeys, std::uint32_t id, SHORT number) {
-    auto storey = CreateOwn<CoGeoStorey>();
-    auto& own = OwnOf<CoGeoStorey>(storey);
-    own.guid.Data1 = id;
-    own.number = number;
-    storeys.Append(std::move(storey));
+  /// Appends a storey whose identifier begins with a number.
+  static void Append(const ComPtr<IGeoStoreys>& storeys, std::uint32_t id, SHORT number) {
+    const auto storey = CreateOwn<CoGeoStorey>();
+    Behind<CoGeoStorey>(storey).guid = Id(id);
+    Behind<CoGeoStorey>(storey).number = number;
+    Behind<CoGeoStoreys>(storeys).Append(storey);
   }
 
-  static _GUID Guid(std::uint32_t id) {
-    _GUID guid = {};
-    guid.Data1 = id;
-    return guid;
+  static _GUID Id(std::uint32_t id) { return {id, 0, 0, {}}; }
+
+  /// The number of the storey that is found; -1 for none.
+  static SHORT Find(const ComPtr<IGeoStoreys>& storeys, std::uint32_t id) {
+    const CoGeoStorey* found = Behind<CoGeoStoreys>(storeys).Find(Id(id));
+    return found == nullptr ? SHORT{-1} : found->number;
   }
 };
 
 TEST_F(Storeys, AreFoundByTheirIdentifier) {
-  const auto collection = CreateOwn<CoGeoStoreys>();
-  auto& storeys = OwnOf<CoGeoStoreys>(collection);
-  EXPECT_EQ(storeys.Find(Guid(1)), nullptr);
-  Add(storeys, 1, 10);
-  Add(storeys, 2, 20);
-  ASSERT_NE(storeys.Find(Guid(2)), nullptr);
-  EXPECT_EQ(storeys.Find(Guid(2))->number, 20);
-  EXPECT_EQ(storeys.Find(Guid(3)), nullptr);
+  const auto storeys = CreateOwn<CoGeoStoreys>();
+  Append(storeys, 7, 0);
+  Append(storeys, 8, 1);
+  EXPECT_EQ(Find(storeys, 7), 0);
+  EXPECT_EQ(Find(storeys, 8), 1);
+  EXPECT_EQ(Find(storeys, 9), -1);
 }
 
 TEST_F(Storeys, OfOneIdentifierAreFoundByTheFirst) {
-  const auto collection = CreateOwn<CoGeoStoreys>();
-  auto& storeys = OwnOf<CoGeoStoreys>(collection);
-  Add(storeys, 1, 10);
-  Add(storeys, 1, 20);
-  ASSERT_NE(storeys.Find(Guid(1)), nullptr);
-  EXPECT_EQ(storeys.Find(Guid(1))->number, 10);
+  const auto storeys = CreateOwn<CoGeoStoreys>();
+  Append(storeys, 7, 0);
+  Append(storeys, 7, 1);
+  EXPECT_EQ(Find(storeys, 7), 0);
+}
+
+TEST_F(Storeys, AreFoundThatWereAddedAfterASearch) {
+  const auto storeys = CreateOwn<CoGeoStoreys>();
+  EXPECT_EQ(Find(storeys, 7), -1);
+  Append(storeys, 7, 0);
+  EXPECT_EQ(Find(storeys, 7), 0);
+}
+
+TEST_F(Storeys, WithoutIdentifiersAreFoundByNone) {
+  const auto storeys = CreateOwn<CoGeoStoreys>();
+  Append(storeys, 0, 3);
+  EXPECT_EQ(Find(storeys, 0), 3);
+  EXPECT_EQ(Find(storeys, 1), -1);
+}
+
+TEST_F(Storeys, CompareAllBytesOfAnIdentifier) {
+  const auto storeys = CreateOwn<CoGeoStoreys>();
+  Append(storeys, 7, 0);
+  _GUID other = Id(7);
+  other.Data4[7] = 1;
+  EXPECT_EQ(Behind<CoGeoStoreys>(storeys).Find(other), nullptr);
 }
 
 }  // namespace
