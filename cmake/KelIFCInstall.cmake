@@ -12,6 +12,8 @@ set(internal_headers
   core/cast_cache core/global_id core/model core/number_text core/parenthesised core/parse_members
   core/quoting core/resolve core/value_member core/write_tolerance
   geo/class_bases
+  geometry/box2 geometry/polygon2 geometry/polygon_normal geometry/rotation2 geometry/segment2
+  geometry/triangle
   platform/com_class platform/com_guard platform/com_module platform/com_object
   platform/local_time platform/new_guid platform/path
   schema/bodies schema/record schema/references

@@ -34,11 +34,14 @@ run(printed "${prefix}/${BIN}/kelifc" structure "${model}")
 expect_storeys("${printed}")
 
 # By CMake package.
-run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples/host" -B "${WORK_DIR}/host" -G Ninja
-  "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
-run(ignored "${CMAKE_COMMAND}" --build "${WORK_DIR}/host")
-run(printed "${WORK_DIR}/host/host" "${model}")
-expect_storeys("${printed}")
+foreach(example host walk)
+  set(build_dir "${WORK_DIR}/${example}")
+  run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples/${example}" -B "${build_dir}" -G Ninja
+    "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
+  run(ignored "${CMAKE_COMMAND}" --build "${build_dir}")
+  run(printed "${build_dir}/${example}" "${model}")
+  expect_storeys("${printed}")
+endforeach()
 
 # By pkg-config, and with the program that the README shows.
 set(ENV{PKG_CONFIG_PATH} "${prefix}/${LIB}/pkgconfig")
@@ -50,7 +53,8 @@ if(NOT readme MATCHES "```cpp\n([^`]+)```")
 endif()
 file(WRITE "${WORK_DIR}/readme.cpp" "${CMAKE_MATCH_1}")
 set(strict -std=c++17 -Wall -Wextra -Wpedantic -Werror)
-foreach(program "${SOURCE_DIR}/examples/host/main.cpp" "${WORK_DIR}/readme.cpp")
+foreach(program "${SOURCE_DIR}/examples/host/main.cpp" "${SOURCE_DIR}/examples/walk/main.cpp"
+    "${WORK_DIR}/readme.cpp")
   run(ignored "${COMPILER}" ${flags} ${strict} "${program}" -o "${WORK_DIR}/program" ${found}
     "-Wl,-rpath,${prefix}/${LIB}")
   run(printed "${WORK_DIR}/program" "${model}")

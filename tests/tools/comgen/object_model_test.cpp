@@ -149,11 +149,14 @@ constexpr ClassRow kClasses[] = {
     {"CoGeoNumbers", "KelIFC.GeoNumbers.1", "BCC68B65-E74A-4F28-85EF-21182FBDB41B", "IGeoNumbers"},
 };
 
+std::string ReadText(const std::string& path) {
+  std::ifstream in(path, std::ios::binary);
+  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+}
+
 Description ReadDescription() {
   const std::string path = KELIFC_SOURCE_DIR "/kelifc/geo/geo.objects";
-  std::ifstream in(path, std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-  Description description = ParseDescription(path, text);
+  Description description = ParseDescription(path, ReadText(path));
   Resolve(description);
   return description;
 }
@@ -237,6 +240,33 @@ TEST(ObjectModel, HasItsClasses) {
 }
 
 TEST(ObjectModel, HasALibrary) { EXPECT_EQ(ReadDescription().library.name, "KELIFCLib"); }
+
+/// The part of the guide for hosts below the heading that names an interface; empty if none does.
+std::string PartOfGuide(const std::string& guide, const std::string& interface) {
+  for (std::size_t head = guide.find("\n### "); head != std::string::npos;) {
+    const std::size_t text = guide.find('\n', head + 1);
+    const std::size_t end = guide.find("\n#", text);
+    if (guide.substr(head, text - head).find("`" + interface + "`") != std::string::npos) {
+      return guide.substr(text, end - text);
+    }
+    head = guide.find("\n### ", text);
+  }
+  return "";
+}
+
+TEST(ObjectModel, IsToldWholeInTheGuideForHosts) {
+  const Description description = ReadDescription();
+  const std::string guide = ReadText(KELIFC_SOURCE_DIR "/docs/object-model.md");
+  for (const Interface& interface : description.interfaces) {
+    const std::string part = PartOfGuide(guide, interface.name);
+    EXPECT_FALSE(part.empty()) << interface.name;
+    for (const Operation& operation : interface.operations) {
+      if (operation.role == Operation::Role::kReserved) continue;
+      EXPECT_NE(part.find("`" + operation.name + "`"), std::string::npos)
+          << interface.name << "::" << operation.name;
+    }
+  }
+}
 
 }  // namespace
 }  // namespace comgen

@@ -1,0 +1,183 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include "kelifc/kelifc.h"
+
+// The C++ of docs/object-model.md, in use. The first test finds each piece of the page in this
+// file, line by line.
+
+namespace {
+
+std::vector<std::string> LinesOf(const std::string& path) {
+  std::ifstream file(std::string(KELIFC_SOURCE_DIR) + "/" + path);
+  std::vector<std::string> lines;
+  for (std::string line; std::getline(file, line);) {
+    lines.push_back(line.substr(std::min(line.find_first_not_of(' '), line.size())));
+  }
+  return lines;
+}
+
+/// The pieces of C++ of a page.
+std::vector<std::vector<std::string>> PiecesOf(const std::string& path) {
+  std::vector<std::vector<std::string>> pieces;
+  bool isInside = false;
+  for (const std::string& line : LinesOf(path)) {
+    if (line == "```cpp") pieces.emplace_back();
+    if (isInside && line != "```") pieces.back().push_back(line);
+    isInside = line == "```cpp" || (isInside && line != "```");
+  }
+  return pieces;
+}
+
+TEST(ObjectModelGuide, ShowsWhatIsTestedHere) {
+  const std::vector<std::string> source = LinesOf("tests/examples/object_model_guide_test.cpp");
+  const auto pieces = PiecesOf("docs/object-model.md");
+  EXPECT_EQ(pieces.size(), 8U);
+  for (const auto& piece : pieces) {
+    EXPECT_NE(std::search(source.begin(), source.end(), piece.begin(), piece.end()), source.end())
+        << piece.front();
+  }
+}
+
+/// A model that ships, and its structure.
+class Guide : public testing::Test {
+ protected:
+  void Open(const std::string& model) {
+    const std::string path = std::string(KELIFC_EXAMPLES_DIR) + "/" + model;
+    KelIFC::ComPtr<IIFCServer> server;
+    CoCreateInstance(CLSID_CoIFCServer, nullptr, CLSCTX_ALL, KelIFC::IidOf<IIFCServer>(),
+                     reinterpret_cast<void**>(server.Put()));
+    const HRESULT status = server->Load(KelIFC::Bstr(KelIFC::WidePath(path)).Get());
+    KelIFC::ComPtr<IGeoStructure> structure;
+    if (SUCCEEDED(status)) server->get_Structure(structure.Put());
+    loaded = status;
+    this->server = server;
+    this->structure = structure;
+  }
+
+  HRESULT loaded = E_FAIL;
+  KelIFC::ComPtr<IIFCServer> server;
+  KelIFC::ComPtr<IGeoStructure> structure;
+};
+
+TEST_F(Guide, LoadsAModel) {
+  Open("house.ifc");
+  EXPECT_EQ(loaded, S_OK);
+  EXPECT_TRUE(structure);
+}
+
+TEST_F(Guide, TellsWhyNothingWasLoaded) {
+  Open("missing.ifc");
+  EXPECT_EQ(loaded, STG_E_FILENOTFOUND);
+  KelIFC::ComPtr<IErrorInfo> error;
+  KelIFC::Bstr message;
+  if (GetErrorInfo(0, error.Put()) == S_OK) error->GetDescription(message.Put());
+  EXPECT_THAT(std::wstring(message.Text()), testing::EndsWith(L"cannot be opened."));
+}
+
+TEST_F(Guide, ComparesVersions) {
+  Open("house.ifc");
+  VARIANT_BOOL isNewEnough = VARIANT_FALSE;
+  const auto version = structure.As<IGeoVersion2>();
+  version->IsCompatible(KelIFC::Bstr(L"25.0.3857").Get(), &isNewEnough);
+  EXPECT_EQ(isNewEnough, VARIANT_TRUE);
+}
+
+TEST_F(Guide, WalksACollection) {
+  Open("house.ifc");
+  std::string names;
+  KelIFC::ComPtr<IGeoColumns> columns;
+  structure->get_Columns(columns.Put());
+  KelIFC::ComPtr<IGeoColumn> column;
+  for (LONG i = 1; SUCCEEDED(columns->Item(i, column.Put())); ++i) {
+    KelIFC::Bstr name;
+    column->get_Name(name.Put());
+    names += KelIFC::NarrowText(name.Get()) + "\n";
+  }
+  EXPECT_EQ(names, "Column A\nIFC#215\n");
+}
+
+TEST_F(Guide, FindsASectionByItsName) {
+  Open("house.ifc");
+  KelIFC::ComPtr<IGeoBeams> beams;
+  structure->get_Beams(beams.Put());
+  const KelIFC::Bstr name(L"IFC_R_24x30");
+  VARIANT index = {};
+  index.vt = VT_BSTR;
+  index.bstrVal = name.Get();
+  KelIFC::ComPtr<IGeoSections> sections;
+  structure->get_Sections(sections.Put());
+  KelIFC::ComPtr<IGeoSection> section;
+  const HRESULT found = sections->Item(index, section.Put());
+  ASSERT_EQ(found, S_OK);
+  double width = 0.0;
+  if (const auto rectangle = section.As<IGeoSectionR>()) rectangle->get_Width(&width);
+  EXPECT_DOUBLE_EQ(width, 0.24);
+}
+
+TEST_F(Guide, ReadsThePointsOfAnElement) {
+  Open("house.ifc");
+  KelIFC::ComPtr<IGeoColumns> columns;
+  structure->get_Columns(columns.Put());
+  KelIFC::ComPtr<IGeoColumn> column;
+  ASSERT_EQ(columns->Item(1, column.Put()), S_OK);
+  const auto polyline = column.As<IGeoPolyline>();
+  KelIFC::ComPtr<IGeoPoints> points;
+  polyline->get_Points(points.Put());
+  KelIFC::ComPtr<IGeoPoint> point;
+  points->Item(1, point.Put());
+  double x = 0.0, y = 0.0, z = 0.0;
+  point->GetXYZ(&x, &y, &z);
+  EXPECT_DOUBLE_EQ(x, 2.7);
+  EXPECT_DOUBLE_EQ(y, 3.12);
+  EXPECT_DOUBLE_EQ(z, 0.0);
+}
+
+TEST_F(Guide, ReadsTheFacesOfABoundary) {
+  Open("hall.ifc");
+  KelIFC::ComPtr<IGeoBeams> beams;
+  structure->get_Beams(beams.Put());
+  KelIFC::ComPtr<IGeoBeam> beam;
+  ASSERT_EQ(beams->Item(3, beam.Put()), S_OK);
+  std::vector<LONG> corners;
+  KelIFC::ComPtr<IGeoBRep> boundary;
+  beam->get_BRep(boundary.Put());
+  KelIFC::ComPtr<IGeoFaces> faces;
+  boundary->get_Faces(faces.Put());
+  KelIFC::ComPtr<IGeoFace> face;
+  for (LONG i = 1; SUCCEEDED(faces->Item(i, face.Put())); ++i) {
+    KelIFC::ComPtr<IGeoNumbers> numbers;
+    face->get_Numbers(numbers.Put());
+    LONG number = 0;
+    for (LONG k = 1; SUCCEEDED(numbers->Item(k, &number)); ++k) corners.push_back(number);
+  }
+  ASSERT_EQ(corners.size(), 44U);
+  corners.resize(4);
+  EXPECT_EQ(corners, (std::vector<LONG>{1, 2, 3, 4}));
+}
+
+TEST_F(Guide, LetsElementsLiveOnWithoutTheServer) {
+  Open("house.ifc");
+  KelIFC::ComPtr<IGeoColumns> columns;
+  structure->get_Columns(columns.Put());
+  KelIFC::ComPtr<IGeoColumn> column;
+  ASSERT_EQ(columns->Item(1, column.Put()), S_OK);
+  columns.Reset();
+  server.Reset();
+  SHORT number = 0;
+  KelIFC::Bstr name;
+  KelIFC::Bstr section;
+  EXPECT_EQ(column->get_StoreyNumber(&number), E_POINTER);
+  EXPECT_EQ(column->get_SectionName(section.Put()), E_POINTER);
+  EXPECT_EQ(column->get_Name(name.Put()), S_OK);
+  EXPECT_EQ(name.Text(), L"Column A");
+  KelIFC::ComPtr<IGeoBeams> beams;
+  EXPECT_EQ(structure->get_Beams(beams.Put()), E_POINTER);
+}
+
+}  // namespace
