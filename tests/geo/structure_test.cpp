@@ -7,6 +7,7 @@
 #include "tests/geo/failing_factory.h"
 #include "tests/geo/host.h"
 #include "tests/geo/model_text.h"
+#include "tests/import/model_builder.h"
 
 namespace KelIFC {
 namespace {
@@ -134,6 +135,66 @@ TEST_F(Structure, FillsACollectionFromTheModelOfTheMoment) {
   const TemporaryFile other(ModelText("IFC2X2_FINAL", kTwoStoreys));
   ASSERT_EQ(LoadFile(*server, other.Path()), S_OK);
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Storeys)), 2);
+}
+
+/// A round column and a beam that is a rectangle.
+std::string MakeColumnAndBeam(double radius, double width) {
+  ModelBuilder model;
+  const auto placement = model.Local(model.Placement({0, 0, 0}));
+  model.Column(placement, model.Body({model.Extrusion(model.Circle(radius), 3)}));
+  model.Product("IFCBEAM", placement, model.Body({model.Extrusion(model.Rectangle(width, 0.5), 4)}),
+                "B");
+  return model.Data();
+}
+
+/// The names of the sections so far, in their order.
+std::wstring SectionsOf(IGeoStructure& structure) {
+  const auto sections = GetObject(structure, &IGeoStructure::get_Sections);
+  std::wstring names;
+  for (LONG i = 1; i <= CountOf(*sections); ++i) {
+    ComPtr<IGeoSection> section;
+    EXPECT_EQ(sections->ItemByIndex(i, section.Put()), S_OK);
+    names += GetText(*section, &IGeoSection::get_Name) + L" ";
+  }
+  return names;
+}
+
+TEST_F(Structure, GainsSectionsWhileElementsAreConverted) {
+  const auto server = LoadModel("IFC2X3", MakeColumnAndBeam(0.05, 0.3));
+  const auto structure = StructureOf(server);
+  const auto sections = GetObject(*structure, &IGeoStructure::get_Sections);
+  EXPECT_EQ(CountOf(*sections), 0);
+  GetObject(*structure, &IGeoStructure::get_Columns);
+  EXPECT_EQ(CountOf(*sections), 1);
+  EXPECT_EQ(GetObject(*structure, &IGeoStructure::get_Sections).Get(), sections.Get());
+}
+
+TEST_F(Structure, OrdersSectionsByWhatWasAskedForFirst) {
+  for (const bool isBeamFirst : {false, true}) {
+    const auto server = LoadModel("IFC2X3", MakeColumnAndBeam(0.05, 0.3));
+    const auto structure = StructureOf(server);
+    if (isBeamFirst) GetObject(*structure, &IGeoStructure::get_Beams);
+    GetObject(*structure, &IGeoStructure::get_Columns);
+    GetObject(*structure, &IGeoStructure::get_Beams);
+    EXPECT_EQ(SectionsOf(*structure),
+              isBeamFirst ? L"IFC_R_30x50 IFC_C_10 " : L"IFC_C_10 IFC_R_30x50 ");
+  }
+}
+
+TEST_F(Structure, AddsTheSectionsOfAnotherModelToThoseThatItHas) {
+  const auto server = LoadModel("IFC2X3", MakeColumnAndBeam(0.05, 0.3));
+  const auto structure = StructureOf(server);
+  const auto columns = GetObject(*structure, &IGeoStructure::get_Columns);
+  const TemporaryFile other(ModelText("IFC2X2_FINAL", MakeColumnAndBeam(0.1, 0.2)));
+  ASSERT_EQ(LoadFile(*server, other.Path()), S_OK);
+  const auto beams = GetObject(*structure, &IGeoStructure::get_Beams);
+  EXPECT_EQ(SectionsOf(*structure), L"IFC_C_10 IFC_R_20x50 ");
+  ComPtr<IGeoColumn> column;
+  ComPtr<IGeoBeam> beam;
+  ASSERT_EQ(columns->Item(1, column.Put()), S_OK);
+  ASSERT_EQ(beams->Item(1, beam.Put()), S_OK);
+  EXPECT_EQ(GetText(*column, &IGeoObject::get_SectionName), L"IFC_C_10");
+  EXPECT_EQ(GetText(*beam, &IGeoObject::get_SectionName), L"IFC_R_20x50");
 }
 
 TEST_F(Structure, ThatAHostMadeHasNothingToFillFrom) {
