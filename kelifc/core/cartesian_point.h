@@ -39,6 +39,9 @@ class KELIFC_API IfcCartesianPoint : public IfcPoint, public IfcTrimmingSelect {
   /// Sets one coordinate, counted from 1; an index out of range changes nothing.
   virtual void SetCoordinates(std::size_t index, REAL value);
 
+  /// The coordinates without a copy of them, for walks over many points.
+  const COORDINATES& Coordinates() const { return coordinates; }
+
  protected:
   COORDINATES coordinates;
 };

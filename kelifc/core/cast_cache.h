@@ -69,6 +69,13 @@ class CastCache {
   std::size_t count = 0;
 };
 
+/// The instance as a T, by a cache that all callers of the thread share.
+template <class T>
+const T* CachedCast(const IfcUnknown* instance) {
+  thread_local CastCache<const T> cache;
+  return cache.Cast(instance);
+}
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_CORE_CAST_CACHE_H_

@@ -4,7 +4,9 @@ namespace KelIFC {
 
 BRep::BRep() = default;
 BRep::BRep(const BRep& other) = default;
+BRep::BRep(BRep&& other) noexcept = default;
 BRep& BRep::operator=(const BRep& other) = default;
+BRep& BRep::operator=(BRep&& other) noexcept = default;
 BRep::~BRep() = default;
 
 void BRep::operator<<=(const Isometry3& isometry) {

@@ -29,7 +29,9 @@ struct KELIFC_API BRep {
 
   BRep();
   BRep(const BRep& other);
+  BRep(BRep&& other) noexcept;
   BRep& operator=(const BRep& other);
+  BRep& operator=(BRep&& other) noexcept;
   ~BRep();
 
   /// Moves all positions, and turns all normals, in place.

@@ -26,8 +26,27 @@ bool AreEqual(const Polygon2& polygon, const Mvector<Point2>& figure) {
   return other.IsInside(polygon, false) && polygon.IsInside(other, false);
 }
 
+/// Whether four points are the corners of their box to the last digit, one after the other. Sides
+/// that are long against the tolerance then lie on each other without a further test.
+bool IsBox(const Polygon2& polygon, const Box2& box) {
+  const double least = 10 * polygon.tolerance;
+  if (!(box.max.x - box.min.x > least && box.max.y - box.min.y > least)) return false;
+  const auto& points = polygon.points;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    const Point2& point = points[i];
+    const Point2& next = points[(i + 1) % points.size()];
+    if (point.x != box.min.x && point.x != box.max.x) return false;
+    if (point.y != box.min.y && point.y != box.max.y) return false;
+    if ((point.x == next.x) == (point.y == next.y)) return false;
+  }
+  // No corner comes twice.
+  return points[0].x != points[2].x && points[0].y != points[2].y && points[1].x != points[3].x &&
+         points[1].y != points[3].y;
+}
+
 bool IsRectangle(const Polygon2& polygon, const Box2& box) {
-  return AreEqual(polygon,
+  return IsBox(polygon, box) ||
+         AreEqual(polygon,
                   Points({box.min, {box.min.x, box.max.y}, box.max, {box.max.x, box.min.y}}));
 }
 

@@ -28,11 +28,12 @@ class MemberBuilder {
 
  private:
   void ConvertRepresentation(const MemberFacts& facts, const MemberPartFacts& part) {
-    for (const MemberItemFacts& item : part.representation->items) {
+    for (MemberItemFacts& item : part.representation->items) {
       typename Maker::Made* element = nullptr;
       if (FAILED(maker.Make(facts.identity, &element, NameSuffix(part, item)))) continue;
       MemberShape shape;
-      if (ConvertItem(item, part.outer, facts.chain, maker.Structure(), *element, shape)) {
+      if (ConvertItem(item, part.isShared, part.outer, facts.chain, maker.Structure(), *element,
+                      shape)) {
         element->points = std::move(shape.points);
         element->boundary = std::move(shape.boundary);
       } else {

@@ -1,6 +1,7 @@
 #include "kelifc/import/convert_item.h"
 
 #include <cmath>
+#include <utility>
 
 #include "kelifc/geometry/constants.h"
 #include "kelifc/geometry/regular_figure.h"
@@ -81,14 +82,19 @@ Vector2 SectionSize(const ProfileFacts& rectangle) {
                    : Vector2(rectangle.yDim, rectangle.xDim);
 }
 
-bool ConvertItem(const MemberItemFacts& item, const Isometry3& outer, const PlacementChain& chain,
-                 CoGeoStructure& structure, CoGeoObject& element, MemberShape& shape) {
+bool ConvertItem(MemberItemFacts& item, bool isShared, const Isometry3& outer,
+                 const PlacementChain& chain, CoGeoStructure& structure, CoGeoObject& element,
+                 MemberShape& shape) {
   if (item.isExtrusion) {
     return ConvertExtrusion(item.extrusion, outer, chain, structure, element, shape);
   }
   shape.points.resize(2);
-  shape.boundary = item.boundary;
-  shape.boundary <<= outer;
+  if (isShared) {
+    shape.boundary = item.boundary;
+    shape.boundary <<= outer;
+  } else {
+    shape.boundary = std::move(item.boundary);
+  }
   ApplyPlacementChain(chain, shape.boundary);
   return true;
 }

@@ -16,10 +16,12 @@ struct MemberShape {
 };
 
 /// Works out the shape of an item and gives the element its section. `outer` is the frame of the
-/// map that brings the item: it acts inside the solid's own position. Gives false if the item is
-/// not understood, or its section cannot be made.
-bool ConvertItem(const MemberItemFacts& item, const Isometry3& outer, const PlacementChain& chain,
-                 CoGeoStructure& structure, CoGeoObject& element, MemberShape& shape);
+/// map that brings the item: it acts inside the solid's own position. An item that no other product
+/// shares gives its boundary away. Gives false if the item is not understood, or its section cannot
+/// be made.
+bool ConvertItem(MemberItemFacts& item, bool isShared, const Isometry3& outer,
+                 const PlacementChain& chain, CoGeoStructure& structure, CoGeoObject& element,
+                 MemberShape& shape);
 
 /// The width and height that a rectangular section gets: the profile's x and y dimensions, changed
 /// over if its reference direction points down.

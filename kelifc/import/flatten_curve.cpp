@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/flatten_trimmed.h"
 #include "kelifc/import/read_values.h"
@@ -58,15 +59,15 @@ void ReadCircle(const typename Release::IfcCircle& circle, double scale, Trimmed
   const auto* position = circle.GetPosition();
   if (position == nullptr) return;
   ReadPoint2(position->GetLocation(), scale, facts.centre);
-  const auto* inPlane = dynamic_cast<const typename Release::IfcAxis2Placement2D*>(position);
+  const auto* inPlane = CachedCast<typename Release::IfcAxis2Placement2D>(position);
   if (inPlane != nullptr) ReadDirection2(inPlane->GetRefDirection(), facts.xAxis);
 }
 
 template <class Release>
 void ReadBasis(const typename Release::IfcCurve* basis, double scale, TrimmedCurveFacts& facts) {
-  if (const auto* circle = dynamic_cast<const typename Release::IfcCircle*>(basis)) {
+  if (const auto* circle = CachedCast<typename Release::IfcCircle>(basis)) {
     ReadCircle<Release>(*circle, scale, facts);
-  } else if (const auto* line = dynamic_cast<const typename Release::IfcLine*>(basis)) {
+  } else if (const auto* line = CachedCast<typename Release::IfcLine>(basis)) {
     facts.basis = BasisKind::kLine;
     ReadPoint2(line->GetPnt(), scale, facts.linePoint);
     ReadVector2(line->GetDir(), scale, facts.lineDirection);
@@ -94,9 +95,9 @@ template <class Release>
 void AddSegment(Mvector<Point3>& points, const typename Release::IfcCompositeCurveSegment& segment,
                 double tolerance, double scale, std::size_t number) {
   const auto* curve = segment.GetParentCurve();
-  if (const auto* trimmed = dynamic_cast<const typename Release::IfcTrimmedCurve*>(curve)) {
+  if (const auto* trimmed = CachedCast<typename Release::IfcTrimmedCurve>(curve)) {
     FlattenTrimmed(points, ReadTrimmedCurve<Release>(*trimmed, scale), tolerance, number);
-  } else if (const auto* polyLine = dynamic_cast<const typename Release::IfcPolyLine*>(curve)) {
+  } else if (const auto* polyLine = CachedCast<typename Release::IfcPolyLine>(curve)) {
     AddPolyLineSegment<Release>(points, *polyLine, segment.GetSameSense(), scale);
   }
 }
@@ -117,12 +118,11 @@ template <class Release>
 void FlattenCurve(Mvector<Point3>& points, const typename Release::IfcCurve* curve,
                   double tolerance, double scale, bool dropClosing) {
   points.clear();
-  if (const auto* polyLine = dynamic_cast<const typename Release::IfcPolyLine*>(curve)) {
+  if (const auto* polyLine = CachedCast<typename Release::IfcPolyLine>(curve)) {
     FlattenPolyLine<Release>(points, *polyLine, scale, dropClosing);
-  } else if (const auto* composite =
-                 dynamic_cast<const typename Release::IfcCompositeCurve*>(curve)) {
+  } else if (const auto* composite = CachedCast<typename Release::IfcCompositeCurve>(curve)) {
     FlattenComposite<Release>(points, *composite, tolerance, scale);
-  } else if (const auto* trimmed = dynamic_cast<const typename Release::IfcTrimmedCurve*>(curve)) {
+  } else if (const auto* trimmed = CachedCast<typename Release::IfcTrimmedCurve>(curve)) {
     FlattenTrimmed(points, ReadTrimmedCurve<Release>(*trimmed, scale), tolerance, 1);
   }
 }

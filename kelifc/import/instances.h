@@ -1,6 +1,7 @@
 #ifndef KELIFC_IMPORT_INSTANCES_H_
 #define KELIFC_IMPORT_INSTANCES_H_
 
+#include <cstdint>
 #include <vector>
 
 #include "kelifc/core/cast_cache.h"
@@ -8,13 +9,14 @@
 
 namespace KelIFC {
 
-/// The instances of a class, those of its subclasses among them, in the order of the registry.
+/// The instances of a class of products, those of its subclasses among them, in the order of the
+/// registry.
 template <class Class>
 std::vector<const Class*> CollectInstances(const IfcServer& server) {
   std::vector<const Class*> found;
   CastCache<const Class> cast;
-  for (const IfcUnknown* item : server.GetItems()) {
-    if (const Class* instance = cast.Cast(item)) found.push_back(instance);
+  for (const std::uint32_t position : server.GetProductPositions()) {
+    if (const Class* instance = cast.Cast(server.GetItems()[position])) found.push_back(instance);
   }
   return found;
 }
@@ -26,7 +28,8 @@ std::vector<const typename Release::IfcBuildingElement*> CollectBeamsAndMembers(
   std::vector<const typename Release::IfcBuildingElement*> found;
   CastCache<const typename Release::IfcBeam> asBeam;
   CastCache<const typename Release::IfcMember> asMember;
-  for (const IfcUnknown* item : server.GetItems()) {
+  for (const std::uint32_t position : server.GetProductPositions()) {
+    const IfcUnknown* const item = server.GetItems()[position];
     if (const auto* beam = asBeam.Cast(item)) {
       found.push_back(beam);
     } else if (const auto* member = asMember.Cast(item)) {

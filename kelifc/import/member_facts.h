@@ -30,7 +30,10 @@ struct RepresentationFacts {
 
 /// A representation as a product has it.
 struct MemberPartFacts {
-  std::shared_ptr<const RepresentationFacts> representation;
+  /// Products may share it, those with a mapped one.
+  std::shared_ptr<RepresentationFacts> representation;
+
+  bool isShared = false;
 
   /// The number of the mapped item that brings it, from 1; 0 if it is the only one, or if it is the
   /// product's own representation.

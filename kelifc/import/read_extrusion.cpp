@@ -1,5 +1,6 @@
 #include "kelifc/import/read_extrusion.h"
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/flatten_curve.h"
 #include "kelifc/import/read_values.h"
@@ -21,7 +22,7 @@ template <class Release>
 void ReadOutline(const typename Release::IfcCurve* curve, double scale, ProfileFacts& facts) {
   facts.kind = ProfileKind::kOutline;
   FlattenCurve<Release>(facts.outline, curve, kFlattenTolerance, scale, true);
-  const auto* polyLine = dynamic_cast<const typename Release::IfcPolyLine*>(curve);
+  const auto* polyLine = CachedCast<typename Release::IfcPolyLine>(curve);
   if (polyLine == nullptr) return;
   facts.isPolyLine = true;
   facts.corners = PolyLinePoints<Release>(*polyLine, scale);
@@ -30,18 +31,18 @@ void ReadOutline(const typename Release::IfcCurve* curve, double scale, ProfileF
 template <class Release>
 ProfileFacts ReadProfile(const typename Release::IfcProfileDef* profile, double scale) {
   ProfileFacts facts;
-  if (const auto* circle = dynamic_cast<const typename Release::IfcCircleProfileDef*>(profile)) {
+  if (const auto* circle = CachedCast<typename Release::IfcCircleProfileDef>(profile)) {
     facts.kind = ProfileKind::kCircle;
     facts.radius = scale * circle->GetRadius();
     ReadPosition(*circle, scale, facts);
   } else if (const auto* rectangle =
-                 dynamic_cast<const typename Release::IfcRectangleProfileDef*>(profile)) {
+                 CachedCast<typename Release::IfcRectangleProfileDef>(profile)) {
     facts.kind = ProfileKind::kRectangle;
     facts.xDim = scale * rectangle->GetXDim();
     facts.yDim = scale * rectangle->GetYDim();
     ReadPosition(*rectangle, scale, facts);
   } else if (const auto* outline =
-                 dynamic_cast<const typename Release::IfcArbitraryClosedProfileDef*>(profile)) {
+                 CachedCast<typename Release::IfcArbitraryClosedProfileDef>(profile)) {
     ReadOutline<Release>(outline->GetOuterCurve(), scale, facts);
   }
   return facts;

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_extrusion.h"
 #include "kelifc/import/read_items.h"
@@ -26,7 +27,7 @@ enum Preference : std::size_t {
 
 template <class Class>
 bool Is(const IfcRepresentationItem* item) {
-  return dynamic_cast<const Class*>(item) != nullptr;
+  return CachedCast<Class>(item) != nullptr;
 }
 
 /// kPreferences for any other item.
@@ -84,15 +85,15 @@ std::vector<MemberPartFacts> MemberReader<Release>::ReadMapped(const IfcRepresen
   std::vector<MemberPartFacts> parts;
   const auto items = chosen.GetItems();
   for (std::size_t i = 1; i <= items.GetSize(); ++i) {
-    const auto* item = dynamic_cast<const typename Release::IfcMappedItem*>(items[i]);
+    const auto* item = CachedCast<typename Release::IfcMappedItem>(items[i]);
     const auto* source = item == nullptr ? nullptr : item->GetMappingSource();
     if (source == nullptr) continue;
     MemberPartFacts& part = parts.emplace_back();
     part.representation = SharedRepresentation(source->GetMappedRepresentation());
+    part.isShared = true;
     part.mappingIndex = items.GetSize() == 1 ? 0 : i;
     part.outer = FrameOf(
-        dynamic_cast<const typename Release::IfcAxis2Placement3D*>(source->GetMappingOrigin()),
-        scale);
+        CachedCast<typename Release::IfcAxis2Placement3D>(source->GetMappingOrigin()), scale);
   }
   return parts;
 }
@@ -125,13 +126,13 @@ RepresentationFacts MemberReader<Release>::ReadRepresentation(
 /// Gives false for an item that no column or beam is made of.
 template <class Release>
 bool MemberReader<Release>::ReadItem(const IfcRepresentationItem* item, MemberItemFacts& facts) {
-  if (const auto* brep = dynamic_cast<const typename Release::IfcFacetedBrep*>(item)) {
+  if (const auto* brep = CachedCast<typename Release::IfcFacetedBrep>(item)) {
     const auto* outer = brep->GetOuter();
     if (outer != nullptr) CaptureShell<Release>(*outer, facts.boundary, Isometry3(), scale);
     return true;
   }
-  const auto* solid = dynamic_cast<const Extrusion*>(item);
-  if (solid == nullptr) solid = Unclipped(dynamic_cast<const Clipping*>(item));
+  const auto* solid = CachedCast<Extrusion>(item);
+  if (solid == nullptr) solid = Unclipped(CachedCast<Clipping>(item));
   if (solid == nullptr) return false;
   facts.isExtrusion = true;
   facts.extrusion = ReadExtrusion<Release>(*solid, scale);

@@ -30,7 +30,7 @@ class MemberReader {
  private:
   using Extrusion = typename Release::IfcExtrudedAreaSolid;
   using Clipping = typename Release::IfcBooleanClippingResult;
-  using Shared = std::shared_ptr<const RepresentationFacts>;
+  using Shared = std::shared_ptr<RepresentationFacts>;
 
   std::vector<MemberPartFacts> ReadMapped(const IfcRepresentation& chosen);
   Shared SharedRepresentation(const IfcRepresentation* representation);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_extrusion.h"
 #include "kelifc/import/read_items.h"
@@ -21,10 +22,10 @@ OpeningUse UseByFillings(const Fillings& fillings, Release) {
   for (std::size_t i = 1; i <= fillings.GetSize(); ++i) {
     const auto* element =
         fillings[i] == nullptr ? nullptr : fillings[i]->GetRelatedBuildingElement();
-    if (dynamic_cast<const typename Release::IfcWindow*>(element) != nullptr) {
+    if (CachedCast<typename Release::IfcWindow>(element) != nullptr) {
       return OpeningUse::kWindow;
     }
-    if (dynamic_cast<const typename Release::IfcDoor*>(element) != nullptr) {
+    if (CachedCast<typename Release::IfcDoor>(element) != nullptr) {
       return OpeningUse::kDoor;
     }
   }
@@ -34,11 +35,10 @@ OpeningUse UseByFillings(const Fillings& fillings, Release) {
 /// What the height of the opening's own placement says.
 template <class Release>
 OpeningUse UseByHeight(const typename Release::IfcOpeningElement& opening, double scale) {
-  const auto* local =
-      dynamic_cast<const typename Release::IfcLocalPlacement*>(opening.GetObjectPlacement());
+  const auto* local = CachedCast<typename Release::IfcLocalPlacement>(opening.GetObjectPlacement());
   if (local == nullptr) return OpeningUse::kNothing;
   const auto* placement =
-      dynamic_cast<const typename Release::IfcAxis2Placement3D*>(local->GetRelativePlacement());
+      CachedCast<typename Release::IfcAxis2Placement3D>(local->GetRelativePlacement());
   if (placement == nullptr) return OpeningUse::kNothing;
   const double height = FrameOf(placement, scale).translation.z;
   return kDoorHeight > height ? OpeningUse::kDoor : OpeningUse::kWindow;
@@ -56,7 +56,7 @@ std::optional<ExtrusionFacts> FirstExtrusion(const typename Release::IfcOpeningE
                                              double scale) {
   std::optional<ExtrusionFacts> found;
   ForEachItem<Release>(opening, [&](const auto&, const IfcRepresentationItem& item) {
-    const auto* solid = dynamic_cast<const typename Release::IfcExtrudedAreaSolid*>(&item);
+    const auto* solid = CachedCast<typename Release::IfcExtrudedAreaSolid>(&item);
     if (solid != nullptr) found = ReadExtrusion<Release>(*solid, scale);
     return solid == nullptr;
   });

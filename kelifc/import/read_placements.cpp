@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_values.h"
 
@@ -27,19 +28,19 @@ typename PlacementReader<Release>::Link* PlacementReader<Release>::LinkOf(const 
   Link& link = entry->second;
   if (!isNew) return &link;
   const auto* relative =
-      dynamic_cast<const typename Release::IfcAxis2Placement3D*>(placement->GetRelativePlacement());
+      CachedCast<typename Release::IfcAxis2Placement3D>(placement->GetRelativePlacement());
   if (relative != nullptr) {
     link.hasFrame = true;
     link.frame = FrameOf(relative, scale);
   }
-  link.next = dynamic_cast<const Local*>(placement->GetPlacementRelTo());
+  link.next = CachedCast<Local>(placement->GetPlacementRelTo());
   return &link;
 }
 
 template <class Release>
 const PlacementChain& PlacementReader<Release>::Read(
     const typename Release::IfcObjectPlacement* placement) {
-  const auto* own = dynamic_cast<const Local*>(placement);
+  const auto* own = CachedCast<Local>(placement);
   chain.clear();
   ++walk;
   std::size_t length = 0;

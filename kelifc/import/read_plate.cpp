@@ -1,5 +1,6 @@
 #include "kelifc/import/read_plate.h"
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_extrusion.h"
 #include "kelifc/import/read_items.h"
@@ -12,9 +13,9 @@ namespace {
 /// The solids that a slab may have without becoming a plate.
 template <class Release>
 bool IsUnusedSolid(const IfcRepresentationItem* item) {
-  return dynamic_cast<const typename Release::IfcFacetedBrep*>(item) != nullptr ||
-         dynamic_cast<const typename Release::IfcShellBasedSurfaceModel*>(item) != nullptr ||
-         dynamic_cast<const typename Release::IfcBooleanClippingResult*>(item) != nullptr;
+  return CachedCast<typename Release::IfcFacetedBrep>(item) != nullptr ||
+         CachedCast<typename Release::IfcShellBasedSurfaceModel>(item) != nullptr ||
+         CachedCast<typename Release::IfcBooleanClippingResult>(item) != nullptr;
 }
 
 /// The first extrusion goes ahead of all other items; null if there is none.
@@ -24,7 +25,7 @@ const typename Release::IfcExtrudedAreaSolid* ChoosePlateItem(const typename Rel
   const typename Release::IfcExtrudedAreaSolid* chosen = nullptr;
   kind = PlateItem::kNone;
   ForEachItem<Release>(slab, [&](const auto&, const IfcRepresentationItem& item) {
-    chosen = dynamic_cast<const typename Release::IfcExtrudedAreaSolid*>(&item);
+    chosen = CachedCast<typename Release::IfcExtrudedAreaSolid>(&item);
     if (chosen != nullptr) {
       kind = PlateItem::kExtrusion;
     } else if (kind == PlateItem::kNone && IsUnusedSolid<Release>(&item)) {

@@ -1,9 +1,9 @@
 #include "kelifc/import/read_shell.h"
 
 #include <cstddef>
-#include <utility>
 
-#include "kelifc/import/face_facts.h"
+#include "kelifc/core/cast_cache.h"
+#include "kelifc/import/boundary_builder.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_values.h"
 
@@ -16,8 +16,10 @@ namespace {
 template <class IfcPolyLoop>
 void ReadLoop(Mvector<Point3>& points, const IfcPolyLoop& loop, double scale) {
   points.clear();
-  const int dimension = loop.GetDim();
   const auto polygon = loop.GetPolygon();
+  // As the loop itself tells it, by its first point.
+  const int dimension =
+      polygon.GetEmpty() || polygon[1] == nullptr ? 0 : static_cast<int>(polygon[1]->GetDim());
   points.reserve(polygon.GetSize());
   Point3 point;
   for (std::size_t i = 1; i <= polygon.GetSize(); ++i) {
@@ -32,21 +34,19 @@ void ReadLoop(Mvector<Point3>& points, const IfcPolyLoop& loop, double scale) {
   }
 }
 
+/// Adds the bounds of a face once.
 template <class Release>
-FaceFacts ReadFace(const typename Release::IfcFace& face, double scale) {
-  FaceFacts facts;
-  facts.isSurface = dynamic_cast<const typename Release::IfcFaceSurface*>(&face) != nullptr;
+void CaptureFace(const typename Release::IfcFace& face, bool isTurnedOver, double scale,
+                 Mvector<Point3>& points, BoundaryBuilder& builder) {
+  builder.BeginFace();
   const auto bounds = face.GetBounds();
-  facts.bounds.reserve(bounds.GetSize());
   for (std::size_t i = 1; i <= bounds.GetSize(); ++i) {
     const auto* loop = bounds[i] == nullptr ? nullptr : bounds[i]->GetBound();
     if (loop == nullptr) continue;
-    BoundFacts& bound = facts.bounds.emplace_back();
-    bound.isOuter = dynamic_cast<const typename Release::IfcFaceOuterBound*>(bounds[i]) != nullptr;
-    bound.isReversed = !bounds[i]->GetOrientation();
-    ReadLoop(bound.points, *loop, scale);
+    ReadLoop(points, *loop, scale);
+    const bool isOuter = CachedCast<typename Release::IfcFaceOuterBound>(bounds[i]) != nullptr;
+    builder.AddBound(points, isOuter, !bounds[i]->GetOrientation(), isTurnedOver);
   }
-  return facts;
 }
 
 }  // namespace
@@ -54,9 +54,15 @@ FaceFacts ReadFace(const typename Release::IfcFace& face, double scale) {
 template <class Release>
 void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boundary,
                   const Isometry3& outer, double scale) {
+  BoundaryBuilder builder(boundary, outer);
+  Mvector<Point3> points;
   const auto faces = shell.GetCfsFaces();
   for (std::size_t i = 1; i <= faces.GetSize(); ++i) {
-    if (faces[i] != nullptr) CaptureFace(ReadFace<Release>(*faces[i], scale), outer, boundary);
+    if (faces[i] == nullptr) continue;
+    CaptureFace<Release>(*faces[i], false, scale, points, builder);
+    // Whatever the file says of the sense of the surface.
+    const bool isOnSurface = CachedCast<typename Release::IfcFaceSurface>(faces[i]) != nullptr;
+    if (isOnSurface) CaptureFace<Release>(*faces[i], true, scale, points, builder);
   }
 }
 

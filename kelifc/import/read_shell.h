@@ -6,8 +6,9 @@
 
 namespace KelIFC {
 
-/// Appends the faces of a shell to a boundary, as CaptureFace does. `outer` takes its points to the
-/// coordinates of the boundary; `scale` is the factor from lengths of the file to metres.
+/// Appends the faces of a shell to a boundary, a face on a surface twice: the second time turned
+/// over. `outer` takes its points to the coordinates of the boundary; `scale` is the factor from
+/// lengths of the file to metres.
 template <class Release>
 void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boundary,
                   const Isometry3& outer, double scale);

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/import/families.h"
 
 namespace KelIFC {
@@ -15,10 +16,10 @@ constexpr std::size_t kZ = 3;
 template <class Release>
 double StoreyLevel(const typename Release::IfcBuildingStorey& storey) {
   const auto* placement =
-      dynamic_cast<const typename Release::IfcLocalPlacement*>(storey.GetObjectPlacement());
+      CachedCast<typename Release::IfcLocalPlacement>(storey.GetObjectPlacement());
   if (placement == nullptr) return 0.0;
   const auto* relative =
-      dynamic_cast<const typename Release::IfcAxis2Placement3D*>(placement->GetRelativePlacement());
+      CachedCast<typename Release::IfcAxis2Placement3D>(placement->GetRelativePlacement());
   if (relative == nullptr) return 0.0;
   const IfcCartesianPoint* location = relative->GetLocation();
   return location == nullptr ? 0.0 : static_cast<double>(location->GetCoordinates().GetItem(kZ));

@@ -2,6 +2,7 @@
 
 #include <string>
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_extrusion.h"
 #include "kelifc/import/read_items.h"
@@ -21,7 +22,7 @@ const typename Release::IfcExtrudedAreaSolid* ChooseWallItem(
   const typename Release::IfcExtrudedAreaSolid* chosen = nullptr;
   ForEachItem<Release>(wall, [&](const auto& representation, const IfcRepresentationItem& item) {
     if (std::string(representation.GetRepresentationIdentifier()) != kBody) return true;
-    chosen = dynamic_cast<const typename Release::IfcExtrudedAreaSolid*>(&item);
+    chosen = CachedCast<typename Release::IfcExtrudedAreaSolid>(&item);
     return chosen == nullptr;
   });
   return chosen;

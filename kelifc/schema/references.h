@@ -5,6 +5,7 @@
 #include <new>
 #include <type_traits>
 
+#include "kelifc/core/cast_cache.h"
 #include "kelifc/core/list_of_members.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/model.h"
@@ -29,11 +30,11 @@ const IfcUnknown* UnknownOf(const Type* item) {
 /// What a reference leads to; null if it is unset, leads nowhere or to another class.
 template <class Type>
 Type* InstanceOf(MEMBER& member) {
-  return dynamic_cast<Type*>(member.GetInstance());
+  return const_cast<Type*>(CachedCast<Type>(member.GetInstance()));
 }
 template <class Type>
 const Type* InstanceOf(const MEMBER& member) {
-  return dynamic_cast<const Type*>(member.GetInstance());
+  return CachedCast<Type>(member.GetInstance());
 }
 
 /// The typed view of an aggregate of `owner`: as long as the aggregate, null where a reference
@@ -64,8 +65,9 @@ void ReplaceMembers(Members& members, const Items& items, const IfcUnknown& owne
 /// the class that has that operation.
 template <class Source, class Target, class Item>
 void LinkBack(Source& source, const MEMBER& reference, void (Target::*add)(Item*)) {
-  auto* target =
-      dynamic_cast<Target*>(FindInstance(source.GetServer(), static_cast<std::size_t>(reference)));
+  IfcUnknown* const instance =
+      FindInstance(source.GetServer(), static_cast<std::size_t>(reference));
+  auto* const target = const_cast<Target*>(CachedCast<Target>(instance));
   if (target != nullptr) (target->*add)(&source);
 }
 

@@ -1,3 +1,5 @@
+#include <typeinfo>
+
 #include "kelifc/core/cast_cache.h"
 #include "kelifc/schema/ifc2x.h"
 #include "kelifc/schema/ifc2x2.h"
@@ -27,7 +29,26 @@ const Project* AsProject(const IfcUnknown* instance) {
   return projects.Cast(instance);
 }
 
+template <class Product>
+bool IsA(const IfcUnknown* instance) {
+  return CachedCast<Product>(instance) != nullptr;
+}
+
 }  // namespace
+
+// Asked of every instance that a load makes. Instances of one class often follow each other.
+bool IsProduct(const IfcUnknown* instance) {
+  thread_local const std::type_info* lastType = nullptr;
+  thread_local bool lastAnswer = false;
+  if (instance == nullptr) return false;
+  const std::type_info* const type = &typeid(*instance);
+  if (type != lastType) {
+    lastAnswer = IsA<KelIFC2x::IfcProduct>(instance) || IsA<KelIFC2x2::IfcProduct>(instance) ||
+                 IsA<KelIFC2x3::IfcProduct>(instance);
+    lastType = type;
+  }
+  return lastAnswer;
+}
 
 bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid) {
   return ReadGuidOf<KelIFC2x::IfcRoot>(instance, guid) ||

@@ -62,6 +62,7 @@ void IfcServer::Reset() {
   idToIndex.Clear();
   instanceIndex.Clear();  // a destructor may have asked for it
   guidIndex.clear();
+  productPositions = {};
   slotsWithoutGuid = 0;
   mayRepeat = false;
 }
@@ -102,6 +103,7 @@ void IfcServer::Append(std::size_t id, IfcUnknown* item) {
   }
   idToIndex.Set(id, position);
   if (item == nullptr) return;
+  if (IsProduct(item)) productPositions.push_back(position);
   if (item->GetServer() != nullptr) mayRepeat = true;
   item->SetServer(this);
 }

@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "kelifc/core/mvector.h"
 #include "kelifc/platform/export.h"
@@ -191,6 +192,11 @@ class KELIFC_API IfcServer {
   ///   for (std::size_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) ...
   std::size_t GetNextNumber(std::size_t number) const;
 
+  /// The positions in GetItems, from 0 and rising, of the instances that are products (2x, 2x2 and
+  /// 2x3): few of all, so that walks over products need not look at every instance. Slots of
+  /// deleted instances are null.
+  const std::vector<std::uint32_t>& GetProductPositions() const { return productPositions; }
+
   /// Sets who is told how far a load is; an empty handler tells nobody, as in a new server.
   void SetProgressHandler(ProgressHandler handler);
 
@@ -237,6 +243,7 @@ class KELIFC_API IfcServer {
   bool supportsFillings = false;
   std::shared_ptr<StepFileSchema> schemaRecord;  // shared by copies of the server
   bool headerSeen = false;
+  std::vector<std::uint32_t> productPositions;  // in `items`
   // Positions, not pointers, so that a deleted instance is not found again.
   std::map<_GUID, std::uint32_t, GuidLess> guidIndex;
 

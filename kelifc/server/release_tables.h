@@ -38,6 +38,9 @@ IfcUnknown* MakeInstance2x3(const char* name);
 /// the identifier is null where the instance's text is none. A null instance gives false.
 bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid);
 
+/// True if the instance is an IfcProduct of 2x, 2x2 or 2x3. A null instance gives false.
+bool IsProduct(const IfcUnknown* instance);
+
 /// The instance as the IfcProject of a release, or null. A null instance gives null.
 const KelIFC151::IfcProject* AsProject151(const IfcUnknown* instance);
 const KelIFC20::IfcProject* AsProject20(const IfcUnknown* instance);

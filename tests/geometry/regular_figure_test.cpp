@@ -68,6 +68,17 @@ TEST(RegularFigure, IsARectangleAnywhereInThePlane) {
   }
 }
 
+TEST(RegularFigure, IsARectangleWithinTheTolerance) {
+  EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0.0005}, {2, 1}, {0.0005, 1}})).kind, EGEO_P2RF_RECTANGLE);
+  EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0.002}, {2, 1}, {0, 1}})).kind, EGEO_P2RF_NONE);
+}
+
+TEST(RegularFigure, IsNoRectangleForCornersOutOfTheirOrder) {
+  EXPECT_EQ(Figure(Points2({{0, 0}, {2, 1}, {2, 0}, {0, 1}})).kind, EGEO_P2RF_NONE);
+  EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0}, {2, 1}, {2, 0}})).kind, EGEO_P2RF_NONE);
+  EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0}, {0, 0}, {0, 1}})).kind, EGEO_P2RF_NONE);
+}
+
 TEST(RegularFigure, IsNoRectangleForARhombus) {
   EXPECT_EQ(Figure(Points2({{0, -1}, {1, 0}, {0, 1}, {-1, 0}})).kind, EGEO_P2RF_NONE);
   EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0}, {2, 1}, {0.5, 1}})).kind, EGEO_P2RF_NONE);

@@ -1,0 +1,40 @@
+#ifndef KELIFC_IMPORT_BOUNDARY_BUILDER_H_
+#define KELIFC_IMPORT_BOUNDARY_BUILDER_H_
+
+#include <cstddef>
+
+#include "kelifc/core/mvector.h"
+#include "kelifc/geometry/brep.h"
+#include "kelifc/geometry/isometry3.h"
+#include "kelifc/geometry/point.h"
+
+namespace KelIFC {
+
+/// Appends faces to a boundary, bound by bound.
+///
+/// Each bound brings vertices of its own, all with the normal of its loop, which is zero for a loop
+/// without one. A reversed bound keeps the order of its vertices; its indices run backwards. Of
+/// several outer bounds of a face the last one counts. A face without bounds adds nothing.
+class BoundaryBuilder {
+ public:
+  /// `frame` takes points to the coordinates of the boundary, which must outlive the builder.
+  BoundaryBuilder(BRep& boundary, const Isometry3& frame) : boundary(boundary), frame(frame) {}
+
+  /// Begins the next face.
+  void BeginFace() { faceIndex = boundary.faces.size(); }
+
+  /// Adds a loop, in metres, closed without repeating its first point. One of a face that is turned
+  /// over is reversed in place.
+  void AddBound(Mvector<Point3>& loop, bool isOuter, bool isReversed, bool isTurnedOver);
+
+ private:
+  Mvector<int> AddVertices(const Mvector<Point3>& loop, const Vector3& normal, bool isReversed);
+
+  BRep& boundary;
+  Isometry3 frame;
+  std::size_t faceIndex = 0;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_IMPORT_BOUNDARY_BUILDER_H_
