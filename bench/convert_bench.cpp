@@ -47,13 +47,14 @@ void ConvertWholeModel(benchmark::State& state) {
   LONG elements = 0;
   for (auto _ : state) {
     state.PauseTiming();
-    const auto server = LoadForHost();
+    auto server = LoadForHost();
     ComPtr<IGeoStructure> structure;
     Require(server->get_Structure(structure.Put()));
     state.ResumeTiming();
     elements = ConvertAll(*structure);
     state.PauseTiming();
     structure.Reset();
+    server.Reset();
     state.ResumeTiming();
   }
   state.counters["elements"] = static_cast<double>(elements);
