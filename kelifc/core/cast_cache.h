@@ -69,9 +69,14 @@ class CastCache {
   std::size_t count = 0;
 };
 
-/// The instance as a T, by a cache that all callers of the thread share.
+/// The instance as a T: at once if that is its very class, else by a cache that all callers of the
+/// thread share.
 template <class T>
 const T* CachedCast(const IfcUnknown* instance) {
+  if (instance == nullptr) return nullptr;
+  if constexpr (requires { static_cast<const T*>(instance); }) {
+    if (&typeid(*instance) == &typeid(T)) return static_cast<const T*>(instance);
+  }
   thread_local CastCache<const T> cache;
   return cache.Cast(instance);
 }

@@ -1,6 +1,7 @@
 #include "kelifc/geo/section_index.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <functional>
 
@@ -15,8 +16,8 @@ constexpr double kCellSize = 2 * SectionIndex::kTolerance;
 /// to itself alone. It is a cell of its own; its quotient might be infinite, one cell for all.
 constexpr double kLonelySize = 0x1p44;
 
-/// Of each size: the cell below, the own one and the one above.
-constexpr int kSteps = 3;
+/// Beyond this a cell is no longer much wider than the rounding of a quotient.
+constexpr double kCoarseSize = 0x1p24;
 
 bool AreFinite(const SectionSizes& sizes) {
   return std::all_of(sizes.values.begin(), sizes.values.end(),
@@ -25,6 +26,26 @@ bool AreFinite(const SectionSizes& sizes) {
 
 double StepOf(double size) {
   return std::abs(size) < kLonelySize ? std::floor(size / kCellSize) : size;
+}
+
+/// The steps of the cells that may hold what is equal to a size.
+struct Steps {
+  std::array<double, 3> at = {};
+  int count = 1;  // the own one comes first
+};
+
+/// What is equal lies less than half a cell away, so one neighbour is enough unless the size is in
+/// the middle of its cell.
+Steps StepsAround(double size) {
+  constexpr double kSlack = 0.01;
+  Steps steps;
+  const double own = StepOf(size);
+  steps.at[0] = own;
+  const double part = size / kCellSize - own;
+  const bool isCoarse = !(std::abs(size) < kCoarseSize);
+  if (isCoarse || part < 0.5 + kSlack) steps.at[steps.count++] = own - 1;
+  if (isCoarse || part > 0.5 - kSlack) steps.at[steps.count++] = own + 1;
+  return steps;
 }
 
 bool AreEqual(const SectionSizes& a, const SectionSizes& b) {
@@ -65,14 +86,18 @@ void SectionIndex::FindInCell(const Cell& cell, const SectionSizes& sizes,
 std::optional<std::size_t> SectionIndex::Find(const SectionSizes& sizes) const {
   std::optional<std::size_t> lowest;
   if (!AreFinite(sizes)) return lowest;
-  const Cell middle = CellOf(sizes);
+  std::array<Steps, SectionSizes::kMost> around;
   int neighbours = 1;
-  for (std::size_t i = 0; i < sizes.count; ++i) neighbours *= kSteps;
+  for (std::size_t i = 0; i < sizes.count; ++i) {
+    around[i] = StepsAround(sizes.values[i]);
+    neighbours *= around[i].count;
+  }
   for (int n = 0; n < neighbours; ++n) {
-    Cell cell = middle;
+    Cell cell = {sizes.kind, {}};
     int code = n;
-    for (std::size_t i = 0; i < sizes.count; ++i, code /= kSteps) {
-      cell.steps[i] += code % kSteps - 1;
+    for (std::size_t i = 0; i < sizes.count; ++i) {
+      cell.steps[i] = around[i].at[static_cast<std::size_t>(code % around[i].count)];
+      code /= around[i].count;
     }
     FindInCell(cell, sizes, lowest);
   }

@@ -29,7 +29,8 @@ void FlattenPolyLine(Mvector<Point3>& points, const typename Release::IfcPolyLin
                      double scale, bool dropClosing) {
   const auto corners = polyLine.GetPoints();
   if (corners.GetEmpty()) return;
-  const int dimension = polyLine.GetDim();
+  // As the curve itself tells it, by its first point.
+  const int dimension = corners[1] == nullptr ? 3 : static_cast<int>(corners[1]->GetDim());
   const std::size_t kept = corners.GetSize() - (dropClosing ? 1 : 0);
   points.reserve(kept);
   for (std::size_t i = 1; i <= kept; ++i) points.push_back(PointOf(corners[i], dimension, scale));

@@ -15,7 +15,9 @@ namespace KelIFC {
 struct IdentityFacts {
   std::string name;  ///< empty if it is unset
   _GUID guid = {};
-  std::size_t instanceNumber = 0;  ///< its number in the registry, 0 if it has lost it
+
+  /// Its number in the registry, 0 if it has lost it. Told only where there is no name.
+  std::size_t instanceNumber = 0;
 };
 
 template <class Root>
@@ -23,7 +25,7 @@ IdentityFacts ReadIdentity(const Root& product, const IfcServer& server) {
   IdentityFacts facts;
   facts.name = product.GetName();
   facts.guid = product.GetGlobalGUID();
-  facts.instanceNumber = server.Find(&product);
+  if (facts.name.empty()) facts.instanceNumber = server.Find(&product);
   return facts;
 }
 

@@ -15,7 +15,8 @@ void ApplyPlacementChain(const PlacementChain& chain, Mvector<Point3>& target) {
 }
 
 void ApplyPlacementChain(const PlacementChain& chain, BRep& target) {
-  // Vertex by vertex, which does to each what `target <<= frame` does for one frame after the other.
+  // Vertex by vertex, which does to each what `target <<= frame` does for one frame after the
+  // other.
   for (BRepVertex& vertex : target.vertices) {
     for (const Isometry3& frame : chain) {
       vertex.position = frame.Apply(vertex.position);

@@ -31,7 +31,7 @@ struct ProfileFacts {
   bool isPolyLine = false;
   Mvector<Point3> outline;  ///< flattened, without the closing point; z is 0 in the plane
 
-  /// All points of a polyline, the closing one too.
+  /// All points of a polyline, the closing one too, if they were wanted.
   Mvector<Point2> corners;
 };
 

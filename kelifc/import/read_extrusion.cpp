@@ -19,17 +19,19 @@ void ReadPosition(const Profile& profile, double scale, ProfileFacts& facts) {
 }
 
 template <class Release>
-void ReadOutline(const typename Release::IfcCurve* curve, double scale, ProfileFacts& facts) {
+void ReadOutline(const typename Release::IfcCurve* curve, double scale, bool withCorners,
+                 ProfileFacts& facts) {
   facts.kind = ProfileKind::kOutline;
   FlattenCurve<Release>(facts.outline, curve, kFlattenTolerance, scale, true);
   const auto* polyLine = CachedCast<typename Release::IfcPolyLine>(curve);
   if (polyLine == nullptr) return;
   facts.isPolyLine = true;
-  facts.corners = PolyLinePoints<Release>(*polyLine, scale);
+  if (withCorners) facts.corners = PolyLinePoints<Release>(*polyLine, scale);
 }
 
 template <class Release>
-ProfileFacts ReadProfile(const typename Release::IfcProfileDef* profile, double scale) {
+ProfileFacts ReadProfile(const typename Release::IfcProfileDef* profile, double scale,
+                         bool withCorners) {
   ProfileFacts facts;
   if (const auto* circle = CachedCast<typename Release::IfcCircleProfileDef>(profile)) {
     facts.kind = ProfileKind::kCircle;
@@ -43,7 +45,7 @@ ProfileFacts ReadProfile(const typename Release::IfcProfileDef* profile, double 
     ReadPosition(*rectangle, scale, facts);
   } else if (const auto* outline =
                  CachedCast<typename Release::IfcArbitraryClosedProfileDef>(profile)) {
-    ReadOutline<Release>(outline->GetOuterCurve(), scale, facts);
+    ReadOutline<Release>(outline->GetOuterCurve(), scale, withCorners, facts);
   }
   return facts;
 }
@@ -51,9 +53,10 @@ ProfileFacts ReadProfile(const typename Release::IfcProfileDef* profile, double 
 }  // namespace
 
 template <class Release>
-ExtrusionFacts ReadExtrusion(const typename Release::IfcExtrudedAreaSolid& solid, double scale) {
+ExtrusionFacts ReadExtrusion(const typename Release::IfcExtrudedAreaSolid& solid, double scale,
+                             bool withCorners) {
   ExtrusionFacts facts;
-  facts.profile = ReadProfile<Release>(solid.GetSweptArea(), scale);
+  facts.profile = ReadProfile<Release>(solid.GetSweptArea(), scale, withCorners);
   ReadPlacement(solid.GetPosition(), scale, facts.position);
   ReadDirection3(solid.GetExtrudedDirection(), facts.direction);
   facts.depth = solid.GetDepth();
@@ -61,8 +64,11 @@ ExtrusionFacts ReadExtrusion(const typename Release::IfcExtrudedAreaSolid& solid
   return facts;
 }
 
-template ExtrusionFacts ReadExtrusion<Release2x>(const Release2x::IfcExtrudedAreaSolid&, double);
-template ExtrusionFacts ReadExtrusion<Release2x2>(const Release2x2::IfcExtrudedAreaSolid&, double);
-template ExtrusionFacts ReadExtrusion<Release2x3>(const Release2x3::IfcExtrudedAreaSolid&, double);
+template ExtrusionFacts ReadExtrusion<Release2x>(const Release2x::IfcExtrudedAreaSolid&, double,
+                                                 bool);
+template ExtrusionFacts ReadExtrusion<Release2x2>(const Release2x2::IfcExtrudedAreaSolid&, double,
+                                                  bool);
+template ExtrusionFacts ReadExtrusion<Release2x3>(const Release2x3::IfcExtrudedAreaSolid&, double,
+                                                  bool);
 
 }  // namespace KelIFC

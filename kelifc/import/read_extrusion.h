@@ -5,9 +5,11 @@
 
 namespace KelIFC {
 
-/// An extruded solid with its profile. `scale` is the factor from lengths of the file to metres.
+/// An extruded solid with its profile. `scale` is the factor from lengths of the file to metres;
+/// the corners of the profile are read only if they are wanted.
 template <class Release>
-ExtrusionFacts ReadExtrusion(const typename Release::IfcExtrudedAreaSolid& solid, double scale);
+ExtrusionFacts ReadExtrusion(const typename Release::IfcExtrudedAreaSolid& solid, double scale,
+                             bool withCorners = false);
 
 }  // namespace KelIFC
 

@@ -57,7 +57,7 @@ std::optional<ExtrusionFacts> FirstExtrusion(const typename Release::IfcOpeningE
   std::optional<ExtrusionFacts> found;
   ForEachItem<Release>(opening, [&](const auto&, const IfcRepresentationItem& item) {
     const auto* solid = CachedCast<typename Release::IfcExtrudedAreaSolid>(&item);
-    if (solid != nullptr) found = ReadExtrusion<Release>(*solid, scale);
+    if (solid != nullptr) found = ReadExtrusion<Release>(*solid, scale, true);
     return solid == nullptr;
   });
   return found;

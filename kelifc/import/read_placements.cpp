@@ -23,28 +23,38 @@ Isometry3 Compose(const Isometry3& first, const Isometry3& second) {
 }  // namespace
 
 template <class Release>
-typename PlacementReader<Release>::Link* PlacementReader<Release>::LinkOf(const Local* placement) {
-  const auto [entry, isNew] = links.try_emplace(placement);
-  Link& link = entry->second;
-  if (!isNew) return &link;
+typename PlacementReader<Release>::Link PlacementReader<Release>::ReadLink(
+    const Local& placement) const {
+  Link link;
   const auto* relative =
-      CachedCast<typename Release::IfcAxis2Placement3D>(placement->GetRelativePlacement());
+      CachedCast<typename Release::IfcAxis2Placement3D>(placement.GetRelativePlacement());
   if (relative != nullptr) {
     link.hasFrame = true;
     link.frame = FrameOf(relative, scale);
   }
-  link.next = CachedCast<Local>(placement->GetPlacementRelTo());
-  return &link;
+  link.next = CachedCast<Local>(placement.GetPlacementRelTo());
+  return link;
+}
+
+template <class Release>
+typename PlacementReader<Release>::Link* PlacementReader<Release>::LinkOf(const Local* placement) {
+  const auto [entry, isNew] = links.try_emplace(placement);
+  if (isNew) entry->second = ReadLink(*placement);
+  return &entry->second;
 }
 
 template <class Release>
 const PlacementChain& PlacementReader<Release>::Read(
     const typename Release::IfcObjectPlacement* placement) {
-  const auto* own = CachedCast<Local>(placement);
   chain.clear();
+  const auto* own = CachedCast<Local>(placement);
+  if (own == nullptr) return chain;
+  // A product's own placement is its own alone as a rule, and is not kept.
+  const Link first = ReadLink(*own);
+  if (first.hasFrame) chain.push_back(first.frame);
   ++walk;
-  std::size_t length = 0;
-  for (const Local* at = own; at != nullptr;) {
+  std::size_t length = 1;
+  for (const Local* at = first.next; at != nullptr && at != own;) {
     Link* const link = LinkOf(at);
     if (link->lastWalk == walk) break;
     if (++length > kLongestChain) {

@@ -9,8 +9,8 @@
 
 namespace KelIFC {
 
-/// Reads chains of placements. The products of a model share most of them, so each placement is
-/// read once. The model must not change meanwhile.
+/// Reads chains of placements. The products of a model share most of them, so each placement that
+/// others are relative to is read once. The model must not change meanwhile.
 template <class Release>
 class PlacementReader {
  public:
@@ -40,6 +40,7 @@ class PlacementReader {
 
   using Path = std::vector<Link*>;
 
+  Link ReadLink(const Local& placement) const;
   Link* LinkOf(const Local* placement);
   Isometry3 WholeOf(const Local* placement);
   static void CloseRing(const Path& path, std::size_t first);
