@@ -1,5 +1,7 @@
 #include "kelifc/import/placement_chain.h"
 
+#include <cstring>
+
 namespace KelIFC {
 
 void ApplyPlacementChain(const PlacementChain& chain, Point3& target) {
@@ -16,12 +18,17 @@ void ApplyPlacementChain(const PlacementChain& chain, Mvector<Point3>& target) {
 
 void ApplyPlacementChain(const PlacementChain& chain, BRep& target) {
   // Vertex by vertex, which does to each what `target <<= frame` does for one frame after the
-  // other.
+  // other. The vertices of a loop have one normal, which is turned once.
+  Vector3 normal;
+  Vector3 turned;
   for (BRepVertex& vertex : target.vertices) {
-    for (const Isometry3& frame : chain) {
-      vertex.position = frame.Apply(vertex.position);
-      vertex.normal = frame.Apply(vertex.normal);
+    ApplyPlacementChain(chain, vertex.position);
+    if (std::memcmp(&vertex.normal, &normal, sizeof normal) != 0) {
+      normal = vertex.normal;
+      turned = normal;
+      ApplyPlacementChain(chain, turned);
     }
+    vertex.normal = turned;
   }
 }
 

@@ -119,6 +119,17 @@ TYPED_TEST(Plates, TakeAnyRepresentationWithAnExtrusion) {
   EXPECT_EQ(this->GetPlates().size(), 1u);
 }
 
+TYPED_TEST(Plates, IgnoreHolesOfTheirProfile) {
+  auto& m = this->model;
+  const auto outer = m.PolyLine({{0, 0}, {4, 0}, {0, 3}, {0, 0}});
+  const auto inner = m.PolyLine({{1, 1}, {2, 1}, {1, 2}, {1, 1}});
+  const auto profile =
+      m.Add("IFCARBITRARYPROFILEDEFWITHVOIDS(.AREA.,$," + outer + ",(" + inner + "))");
+  this->AddSlab(m.Extrusion(profile, 0.2));
+  this->Convert();
+  EXPECT_EQ(this->Contour().size(), 3u);
+}
+
 TYPED_TEST(Plates, AreInMetres) {
   auto& m = this->model;
   m.Project(".MILLI.");
