@@ -22,7 +22,7 @@ class CoGeoBeam : public PolylineElement<CoGeoBeamBase> {
   BRep boundary;  ///< of a faceted solid
 
  protected:
-  ~CoGeoBeam() = default;
+  ~CoGeoBeam() override = default;
 
  private:
   ComPtr<IGeoBRep> boundaryObject;

@@ -13,7 +13,7 @@ class CoGeoColumn : public PolylineElement<CoGeoColumnBase> {
   BRep boundary;  ///< of a faceted solid; no operation shows it
 
  protected:
-  ~CoGeoColumn() = default;
+  ~CoGeoColumn() override = default;
 };
 
 }  // namespace KelIFC

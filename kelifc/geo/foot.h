@@ -10,7 +10,7 @@ namespace KelIFC {
 /// A foot: where it stands.
 class CoGeoFoot : public GeoElement<LocatedObject<CoGeoFootBase>> {
  protected:
-  ~CoGeoFoot() = default;
+  ~CoGeoFoot() override = default;
 };
 
 }  // namespace KelIFC

@@ -29,7 +29,7 @@ class ObjectOperations : public Base {
 template <class Base>
 class GeoElement : public ObjectOperations<GeoElement<Base>, Base>, public CoGeoObject {
  protected:
-  ~GeoElement() = default;
+  ~GeoElement() override = default;
 };
 
 }  // namespace KelIFC

@@ -11,19 +11,19 @@ namespace KelIFC {
 /// A window: opposite corners at the middle of the opening's depth.
 class CoGeoWindow : public OpenElement<CoGeoWindowBase> {
  protected:
-  ~CoGeoWindow() = default;
+  ~CoGeoWindow() override = default;
 };
 
 /// A door, told as a window is.
 class CoGeoDoor : public OpenElement<CoGeoDoorBase> {
  protected:
-  ~CoGeoDoor() = default;
+  ~CoGeoDoor() override = default;
 };
 
 /// A hole: its contour at the middle of the opening's depth.
 class CoGeoHole : public OpenElement<CoGeoHoleBase> {
  protected:
-  ~CoGeoHole() = default;
+  ~CoGeoHole() override = default;
 };
 
 /// Gives the collection of openings that `child` caches. It is made empty; the conversion of its

@@ -15,7 +15,7 @@ class CoGeoPlate : public PolylineElement<CoGeoPlateBase> {
   }
 
  protected:
-  ~CoGeoPlate() = default;
+  ~CoGeoPlate() override = default;
 
  private:
   ComPtr<IGeoHoles> holes;

@@ -16,7 +16,7 @@ class PolylineElement : public GeoElement<Base> {
   Mvector<Point3> points;
 
  protected:
-  ~PolylineElement() = default;
+  ~PolylineElement() override = default;
 
  private:
   ComPtr<IGeoPoints> pointObjects;
@@ -29,7 +29,7 @@ class OpenElement : public PolylineElement<Base> {
   HRESULT get_Closed(VARIANT_BOOL* out) override { return GetField(VARIANT_FALSE, out); }
 
  protected:
-  ~OpenElement() = default;
+  ~OpenElement() override = default;
 };
 
 }  // namespace KelIFC

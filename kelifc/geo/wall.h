@@ -23,7 +23,7 @@ class CoGeoWall : public PolylineElement<CoGeoWallBase> {
   HRESULT get_Closed(VARIANT_BOOL* out) override { return GetField(VARIANT_TRUE, out); }
 
  protected:
-  ~CoGeoWall() = default;
+  ~CoGeoWall() override = default;
 
  private:
   ComPtr<IGeoDoors> doors;

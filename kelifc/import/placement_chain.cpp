@@ -1,8 +1,12 @@
 #include "kelifc/import/placement_chain.h"
 
-#include <cstring>
-
 namespace KelIFC {
+
+namespace {
+
+bool AreSame(const Vector3& a, const Vector3& b) { return a.x == b.x && a.y == b.y && a.z == b.z; }
+
+}  // namespace
 
 void ApplyPlacementChain(const PlacementChain& chain, Point3& target) {
   for (const Isometry3& frame : chain) target = frame.Apply(target);
@@ -19,16 +23,17 @@ void ApplyPlacementChain(const PlacementChain& chain, Mvector<Point3>& target) {
 void ApplyPlacementChain(const PlacementChain& chain, BRep& target) {
   // Vertex by vertex, which does to each what `target <<= frame` does for one frame after the
   // other. The vertices of a loop have one normal, which is turned once.
+  const BRepVertex* turned = nullptr;
   Vector3 normal;
-  Vector3 turned;
   for (BRepVertex& vertex : target.vertices) {
     ApplyPlacementChain(chain, vertex.position);
-    if (std::memcmp(&vertex.normal, &normal, sizeof normal) != 0) {
+    if (turned != nullptr && AreSame(vertex.normal, normal)) {
+      vertex.normal = turned->normal;
+    } else {
       normal = vertex.normal;
-      turned = normal;
-      ApplyPlacementChain(chain, turned);
+      ApplyPlacementChain(chain, vertex.normal);
     }
-    vertex.normal = turned;
+    turned = &vertex;
   }
 }
 
