@@ -6,32 +6,12 @@
 
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
-#include <stdexcept>
 
 #include "tools/comgen/emitters.h"
 #include "tools/comgen/parser.h"
 #include "tools/comgen/resolver.h"
-
-namespace {
-
-std::string ReadFile(const std::filesystem::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) throw std::runtime_error(path.string() + ": error: cannot be read");
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void WriteIfChanged(const std::filesystem::path& path, const std::string& text) {
-  if (std::filesystem::exists(path) && ReadFile(path) == text) return;
-  std::filesystem::create_directories(path.parent_path());
-  std::ofstream out(path, std::ios::binary);
-  out << text;
-  if (!out.flush()) throw std::runtime_error(path.string() + ": error: cannot be written");
-}
-
-}  // namespace
+#include "tools/schemac/text_files.h"
 
 int main(int argc, char** argv) {
   if (argc != 3) {
@@ -39,7 +19,8 @@ int main(int argc, char** argv) {
     return 64;
   }
   try {
-    comgen::Description description = comgen::ParseDescription(argv[2], ReadFile(argv[2]));
+    comgen::Description description =
+        comgen::ParseDescription(argv[2], schemac::ReadTextFile(argv[2]));
     comgen::Resolve(description);
     comgen::Files files;
     comgen::EmitInterfaces(description, files);
@@ -47,7 +28,7 @@ int main(int argc, char** argv) {
     comgen::EmitClassTable(description, files);
     comgen::EmitOrderTest(description, files);
     for (const auto& [path, text] : files) {
-      WriteIfChanged(std::filesystem::path(argv[1]) / path, text);
+      schemac::WriteIfChanged(std::filesystem::path(argv[1]) / path, text);
     }
   } catch (const std::exception& error) {
     std::cerr << error.what() << "\n";

@@ -6,28 +6,13 @@
 
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
 #include "tools/schemac/emitters.h"
 #include "tools/schemac/parser.h"
+#include "tools/schemac/text_files.h"
 
 namespace {
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  if (!in) throw std::runtime_error(path + ": error: cannot be read");
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-void WriteIfChanged(const std::filesystem::path& path, const std::string& text) {
-  if (std::filesystem::exists(path) && ReadFile(path.string()) == text) return;
-  std::filesystem::create_directories(path.parent_path());
-  std::ofstream out(path, std::ios::binary);
-  out << text;
-  if (!out.flush()) throw std::runtime_error(path.string() + ": error: cannot be written");
-}
 
 schemac::Files Emit(const schemac::Description& description) {
   schemac::Files files;
@@ -58,10 +43,10 @@ int main(int argc, char** argv) {
   try {
     schemac::Description description;
     for (int i = 2; i < argc; ++i) {
-      schemac::ParseDescription(argv[i], ReadFile(argv[i]), description);
+      schemac::ParseDescription(argv[i], schemac::ReadTextFile(argv[i]), description);
     }
     for (const auto& [path, text] : Emit(description)) {
-      WriteIfChanged(std::filesystem::path(argv[1]) / path, text);
+      schemac::WriteIfChanged(std::filesystem::path(argv[1]) / path, text);
     }
   } catch (const std::exception& error) {
     std::cerr << error.what() << "\n";
