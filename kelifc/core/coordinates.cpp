@@ -73,6 +73,13 @@ REAL COORDINATES::GetItem(std::size_t position) const {
   return position - 1 < size ? NumberOf(Begin()[position - 1]) : REAL();
 }
 
+void COORDINATES::GetNumbers(double* numbers, std::size_t count) const {
+  const double* const stored = Begin();
+  for (std::size_t i = 0; i < count; ++i) {
+    numbers[i] = i < size && !IsUnset(stored[i]) ? stored[i] : 0.0;
+  }
+}
+
 void COORDINATES::SetItem(std::size_t position, REAL number) {
   if (position - 1 < size) Begin()[position - 1] = StoredOf(number);
 }

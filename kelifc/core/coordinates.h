@@ -32,6 +32,8 @@ class KELIFC_API COORDINATES {
   /// Replaces a number; a position out of range changes nothing.
   void SetItem(std::size_t position, REAL number);
   std::size_t GetSize() const { return size; }
+  /// Copies the first numbers; an unset one, and one out of range, is 0.
+  void GetNumbers(double* numbers, std::size_t count) const;
   /// Makes room for `count` numbers in all.
   void Reserve(std::size_t count);
   /// Cuts from the end, or adds unset numbers.

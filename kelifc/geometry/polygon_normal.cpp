@@ -9,6 +9,11 @@
 namespace KelIFC {
 
 Vector3 PolygonNormal(const Mvector<Point3>& points, double tolerance) {
+  Mvector<Point2> plane;
+  return PolygonNormal(points, tolerance, plane);
+}
+
+Vector3 PolygonNormal(const Mvector<Point3>& points, double tolerance, Mvector<Point2>& plane) {
   std::size_t third = 2;
   while (third < points.size() &&
          IsDegenerateTriangle(points[0], points[1], points[third], tolerance)) {
@@ -16,7 +21,7 @@ Vector3 PolygonNormal(const Mvector<Point3>& points, double tolerance) {
   }
   if (third >= points.size()) return {};
   const Isometry3 frame(points[0], points[1], points[third]);
-  Mvector<Point2> plane;
+  plane.clear();
   plane.reserve(points.size());
   for (const Point3& point : points) {
     const Point3 local = frame.InverseApply(point);

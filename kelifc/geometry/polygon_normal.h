@@ -11,6 +11,9 @@ namespace KelIFC {
 /// with the first two.
 Vector3 PolygonNormal(const Mvector<Point3>& points, double tolerance);
 
+/// The same, with a list that is used for the points in the plane, for walks over many polygons.
+Vector3 PolygonNormal(const Mvector<Point3>& points, double tolerance, Mvector<Point2>& plane);
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_GEOMETRY_POLYGON_NORMAL_H_

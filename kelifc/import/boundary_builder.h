@@ -5,7 +5,6 @@
 
 #include "kelifc/core/mvector.h"
 #include "kelifc/geometry/brep.h"
-#include "kelifc/geometry/isometry3.h"
 #include "kelifc/geometry/point.h"
 
 namespace KelIFC {
@@ -17,8 +16,10 @@ namespace KelIFC {
 /// several outer bounds of a face the last one counts. A face without bounds adds nothing.
 class BoundaryBuilder {
  public:
-  /// `frame` takes points to the coordinates of the boundary, which must outlive the builder.
-  BoundaryBuilder(BRep& boundary, const Isometry3& frame) : boundary(boundary), frame(frame) {}
+  /// The boundary must outlive the builder; `faces` is how many are expected.
+  BoundaryBuilder(BRep& boundary, std::size_t faces) : boundary(boundary) {
+    boundary.faces.reserve(boundary.faces.size() + faces);
+  }
 
   /// Begins the next face.
   void BeginFace() { faceIndex = boundary.faces.size(); }
@@ -28,10 +29,10 @@ class BoundaryBuilder {
   void AddBound(Mvector<Point3>& loop, bool isOuter, bool isReversed, bool isTurnedOver);
 
  private:
-  Mvector<int> AddVertices(const Mvector<Point3>& loop, const Vector3& normal, bool isReversed);
+  void AddVertices(const Mvector<Point3>& loop, const Vector3& normal);
 
   BRep& boundary;
-  Isometry3 frame;
+  Mvector<Point2> plane;  // of the loop at hand
   std::size_t faceIndex = 0;
 };
 

@@ -128,7 +128,7 @@ template <class Release>
 bool MemberReader<Release>::ReadItem(const IfcRepresentationItem* item, MemberItemFacts& facts) {
   if (const auto* brep = CachedCast<typename Release::IfcFacetedBrep>(item)) {
     const auto* outer = brep->GetOuter();
-    if (outer != nullptr) CaptureShell<Release>(*outer, facts.boundary, Isometry3(), scale);
+    if (outer != nullptr) CaptureShell<Release>(*outer, facts.boundary, scale);
     return true;
   }
   const auto* solid = CachedCast<Extrusion>(item);

@@ -18,8 +18,8 @@ void ReadLoop(Mvector<Point3>& points, const IfcPolyLoop& loop, double scale) {
   points.clear();
   const auto polygon = loop.GetPolygon();
   // As the loop itself tells it, by its first point.
-  const int dimension =
-      polygon.GetEmpty() || polygon[1] == nullptr ? 0 : static_cast<int>(polygon[1]->GetDim());
+  const std::size_t dimension =
+      polygon.GetEmpty() || polygon[1] == nullptr ? 0u : polygon[1]->Coordinates().GetSize();
   points.reserve(polygon.GetSize());
   Point3 point;
   for (std::size_t i = 1; i <= polygon.GetSize(); ++i) {
@@ -53,10 +53,10 @@ void CaptureFace(const typename Release::IfcFace& face, bool isTurnedOver, doubl
 
 template <class Release>
 void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boundary,
-                  const Isometry3& outer, double scale) {
-  BoundaryBuilder builder(boundary, outer);
-  Mvector<Point3> points;
+                  double scale) {
   const auto faces = shell.GetCfsFaces();
+  BoundaryBuilder builder(boundary, faces.GetSize());
+  Mvector<Point3> points;
   for (std::size_t i = 1; i <= faces.GetSize(); ++i) {
     if (faces[i] == nullptr) continue;
     CaptureFace<Release>(*faces[i], false, scale, points, builder);
@@ -66,11 +66,8 @@ void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boun
   }
 }
 
-template void CaptureShell<Release2x>(const Release2x::IfcConnectedFaceSet&, BRep&,
-                                      const Isometry3&, double);
-template void CaptureShell<Release2x2>(const Release2x2::IfcConnectedFaceSet&, BRep&,
-                                       const Isometry3&, double);
-template void CaptureShell<Release2x3>(const Release2x3::IfcConnectedFaceSet&, BRep&,
-                                       const Isometry3&, double);
+template void CaptureShell<Release2x>(const Release2x::IfcConnectedFaceSet&, BRep&, double);
+template void CaptureShell<Release2x2>(const Release2x2::IfcConnectedFaceSet&, BRep&, double);
+template void CaptureShell<Release2x3>(const Release2x3::IfcConnectedFaceSet&, BRep&, double);
 
 }  // namespace KelIFC

@@ -20,19 +20,17 @@ void ReadPoint2(const IfcCartesianPoint* point, double scale, Point2& target);
 /// The ratios as they stand, not normalised; zero unless there are three of them.
 template <class IfcDirection>
 void ReadDirection3(const IfcDirection* direction, Vector3& target) {
-  target = Vector3();
-  if (direction == nullptr || direction->GetDim() != 3) return;
-  const auto ratios = direction->GetDirectionRatios();
-  target = Vector3(ratios[1], ratios[2], ratios[3]);
+  double ratios[3] = {};
+  const bool isRead = direction != nullptr && direction->GetRatios(ratios, 3) == 3;
+  target = isRead ? Vector3(ratios[0], ratios[1], ratios[2]) : Vector3();
 }
 
 /// The same for two ratios.
 template <class IfcDirection>
 void ReadDirection2(const IfcDirection* direction, Vector2& target) {
-  target = Vector2();
-  if (direction == nullptr || direction->GetDim() != 2) return;
-  const auto ratios = direction->GetDirectionRatios();
-  target = Vector2(ratios[1], ratios[2]);
+  double ratios[2] = {};
+  const bool isRead = direction != nullptr && direction->GetRatios(ratios, 2) == 2;
+  target = isRead ? Vector2(ratios[0], ratios[1]) : Vector2();
 }
 
 /// A vector of the plane, in metres; zero unless it has two dimensions.

@@ -20,4 +20,14 @@
 #include "kelifc/schema/references.h"
 #include "kelifc/server/ifc_server.h"
 
+namespace KelIFC {
+
+/// The cross product of two directions of space, right-handed.
+inline std::array<double, 3> CrossOf(const std::array<double, 3>& a,
+                                     const std::array<double, 3>& b) {
+  return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};
+}
+
+}  // namespace KelIFC
+
 #endif  // KELIFC_SCHEMA_BODIES_H_

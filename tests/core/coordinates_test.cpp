@@ -184,5 +184,16 @@ TEST(Coordinates, ReadRandomTextInPlaceAsFromACopy) {
   }
 }
 
+TEST(Coordinates, GiveTheirNumbersWithZeroForWhatIsUnset) {
+  COORDINATES coordinates;
+  coordinates.Add(1.5);
+  coordinates.Add(REAL());
+  double numbers[] = {9, 9, 9};
+  coordinates.GetNumbers(numbers, 3);
+  EXPECT_EQ(numbers[0], 1.5);
+  EXPECT_EQ(numbers[1], 0);
+  EXPECT_EQ(numbers[2], 0);
+}
+
 }  // namespace
 }  // namespace KelIFC

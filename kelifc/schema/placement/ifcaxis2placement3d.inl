@@ -21,8 +21,13 @@ LIST<const IfcDirection*> IfcAxis2Placement3D::GetP() const {
     for (std::size_t i = 0; i < 3; ++i) axes.Add(AxisOfWorld(i, server));
     return axes;
   }
-  const std::unique_ptr<IfcVector> product(IfcCrossProduct(*z, *x));
-  self->p2 = *product->GetOrientation();
+  // The orientation of their cross product, without the vector.
+  std::array<double, 3> up = {};
+  std::array<double, 3> along = {};
+  if (z->GetRatios(up.data(), up.size()) != 3) up = {};
+  if (x->GetRatios(along.data(), along.size()) != 3) along = {};
+  const auto [crossX, crossY, crossZ] = CrossOf(up, along);
+  self->p2 = IfcDirection(crossX, crossY, crossZ);
   self->p2.SetServer(server);
   axes.Add(x);
   axes.Add(&p2);

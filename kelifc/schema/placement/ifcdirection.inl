@@ -29,6 +29,11 @@ LIST<REAL> IfcDirection::GetDirectionRatios() const {
   return ratios;
 }
 
+INTEGER IfcDirection::GetRatios(double* ratios, std::size_t count) const {
+  directionRatios.GetNumbers(ratios, count);
+  return GetDim();
+}
+
 void IfcDirection::SetDirectionRatio(std::size_t index, REAL value) {
   directionRatios.SetItem(index, value);
 }
