@@ -7,6 +7,9 @@
 #include <vector>
 
 #include "kelifc/core/write_tolerance.h"
+#include "kelifc/schema/ifc2x.h"
+#include "kelifc/schema/ifc2x2.h"
+#include "kelifc/schema/ifc2x3.h"
 
 #include "tests/server/probe.h"
 
@@ -264,6 +267,23 @@ TEST(IfcServer, OrdersIdentifiersByNumbersAndThenByUnsignedBytes) {
   EXPECT_TRUE(less({1, 1, 2, {0}}, {1, 2, 1, {0}}));
   EXPECT_TRUE(less({1, 1, 1, {9}}, {1, 1, 2, {0}}));
   EXPECT_TRUE(less({1, 1, 1, {0, 0x7F}}, {1, 1, 1, {0, 0x80}}));
+}
+
+TEST(IfcServer, NotesThePositionsOfProducts) {
+  IfcServer server;
+  server.AddItem(new Probe);
+  auto* const window = new KelIFC2x3::IfcWindow;
+  server.AddItem(window);
+  server.AddItem(new KelIFC2x::IfcDirection(1.0, 0.0));
+  server.AddItem(nullptr);
+  server.AddItem(new KelIFC2x::IfcWindow);
+  server.AddItem(new KelIFC2x2::IfcOpeningElement);
+  EXPECT_THAT(server.GetProductPositions(), ElementsAre(1u, 4u, 5u));
+  server.DeleteItem(window);
+  EXPECT_THAT(server.GetProductPositions(), ElementsAre(1u, 4u, 5u));
+  EXPECT_EQ(server.GetItems()[1], nullptr);
+  server.Reset();
+  EXPECT_TRUE(server.GetProductPositions().empty());
 }
 
 }  // namespace
