@@ -2,9 +2,10 @@
 
 #include <cstdlib>
 
-#include "bench/model.h"
 #include "kelifc/geo/interfaces.h"
 #include "kelifc/platform/com.h"
+
+#include "bench/model.h"
 
 namespace {
 

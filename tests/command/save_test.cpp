@@ -27,7 +27,8 @@ class Save : public testing::TestWithParam<std::string> {
   TemporaryFolder folder;
 };
 
-INSTANTIATE_TEST_SUITE_P(Examples, Save, testing::Values("house.ifc", "office.ifc", "barn.ifc", "hall.ifc"));
+INSTANTIATE_TEST_SUITE_P(Examples, Save,
+                         testing::Values("house.ifc", "office.ifc", "barn.ifc", "hall.ifc"));
 
 TEST_P(Save, KeepsTheInstancesOfEachClass) {
   const std::string path = folder.Path("out.ifc");
