@@ -1,3 +1,6 @@
+#include <array>
+#include <cstddef>
+#include <cstdint>
 #include <typeinfo>
 
 #include "kelifc/core/cast_cache.h"
@@ -36,18 +39,24 @@ bool IsA(const IfcUnknown* instance) {
 
 }  // namespace
 
-// Asked of every instance that a load makes. Instances of one class often follow each other.
+// Asked of every instance that a load makes: the answers of the last classes stand ready.
 bool IsProduct(const IfcUnknown* instance) {
-  thread_local const std::type_info* lastType = nullptr;
-  thread_local bool lastAnswer = false;
+  struct Answer {
+    const std::type_info* type;
+    bool isProduct;
+  };
+  constexpr std::size_t kAnswers = 64;
+  thread_local std::array<Answer, kAnswers> answers = {};
   if (instance == nullptr) return false;
   const std::type_info* const type = &typeid(*instance);
-  if (type != lastType) {
-    lastAnswer = IsA<KelIFC2x::IfcProduct>(instance) || IsA<KelIFC2x2::IfcProduct>(instance) ||
-                 IsA<KelIFC2x3::IfcProduct>(instance);
-    lastType = type;
+  Answer& answer = answers[(reinterpret_cast<std::uintptr_t>(type) / 8) % kAnswers];
+  if (answer.type != type) {
+    const bool isProduct = IsA<KelIFC2x::IfcProduct>(instance) ||
+                           IsA<KelIFC2x2::IfcProduct>(instance) ||
+                           IsA<KelIFC2x3::IfcProduct>(instance);
+    answer = {type, isProduct};
   }
-  return lastAnswer;
+  return answer.isProduct;
 }
 
 bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid) {
