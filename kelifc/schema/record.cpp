@@ -30,6 +30,16 @@ void GlobalId85::Write(std::ostream& out) const {
   }
 }
 
+void EnumeratedText::Write(std::ostream& out) const {
+  if (!value.GetExists()) {
+    PutChar(out, '$');
+    return;
+  }
+  PutChar(out, '.');
+  PutText(out, value);
+  PutChar(out, '.');
+}
+
 void Scientific::Write(std::ostream& out) const {
   char text[32];
   const double number = value;

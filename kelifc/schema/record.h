@@ -6,11 +6,13 @@
 #include <string>
 #include <string_view>
 
+#include "kelifc/core/enum.h"
 #include "kelifc/core/enum_text.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/real.h"
 #include "kelifc/core/string.h"
 #include "kelifc/core/text_out.h"
+#include "kelifc/core/value_lists.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/core/value_member.h"
 
@@ -86,6 +88,20 @@ EnumeratedPart<const Enum, N> Enumerated(const Enum& value, const EnumTextRow (&
                                          Enum missing = Enum()) {
   return {value, table, missing};
 }
+
+/// An enumeration that is kept as its text; `$` if it is unset.
+struct EnumeratedText {
+  explicit EnumeratedText(const ENUM& value) : value(value) {}
+  void Write(std::ostream& out) const;
+  const ENUM& value;
+};
+
+/// A list of texts.
+struct TextsReader {
+  const char* Parse(const char* cursor) const { return ParseTexts(texts, cursor); }
+  LIST<STRING>& texts;
+};
+inline TextsReader Texts(LIST<STRING>& texts) { return {texts}; }
 
 /// A typed value that stands in place; written with the name of its type, `$` if there is none.
 struct ValueInPlaceReader {

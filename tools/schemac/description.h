@@ -22,9 +22,13 @@ enum class Kind {
   kBoolean,
   kLogical,
   kMeasure,  ///< IfcLengthMeasure, also for measures other than length
+  kScientific,  ///< a REAL that is written with an exponent and never unset
   kCoordinates,
+  kAngle,       ///< IfcCompoundPlaneAngleMeasure
+  kFlags,       ///< two bits
   kEnumText,    ///< an enumeration kept as its text
   kLabels,      ///< a list of labels
+  kIntegers,    ///< a list of whole numbers, as a defined type of its own
   kReference,   ///< one reference
   kSet,         ///< a set of references
   kList,        ///< a list of references
@@ -126,7 +130,8 @@ struct Entity {
   std::map<std::string, std::string> comments;  ///< of the operations that are written by hand
 };
 
-/// A defined type that can stand in a select: a class with a value as second base.
+/// A defined type: a class with a value as second base, behind the select it can stand in, or as its
+/// only one.
 struct DefinedType {
   Place place;
   std::string family;
@@ -138,7 +143,7 @@ struct DefinedType {
   ReleaseSet file = ReleaseSet::None();
 };
 
-/// The rows of an enumeration, in table order.
+/// The rows of an enumeration, in table order; none where the texts are kept as they stand.
 struct EnumTable {
   std::vector<std::pair<std::string, std::int32_t>> rows;
   ReleaseSet releases = ReleaseSet::None();

@@ -94,6 +94,12 @@ std::string InitialEnumerator(const ReleaseModel& model, const Attribute& attrib
 }
 
 void EmitEnumeration(TextWriter& out, const Enumeration& enumeration, const EnumTable& table) {
+  if (table.rows.empty()) {
+    out.Doc("", enumeration.doc + " The text is kept as it stands.");
+    out.Line("using " + enumeration.name + " = ENUM;");
+    out.Line();
+    return;
+  }
   out.Doc("", enumeration.doc + " The values are those of the table below.");
   out.Line("enum " + enumeration.name + " : std::int32_t {");
   if (!HasZero(table)) {

@@ -67,6 +67,7 @@ class HeaderEmitter {
         "kelifc/core/coordinates.h", "kelifc/core/enum.h",
         "kelifc/core/integer.h",     "kelifc/core/boolean.h",
         "kelifc/core/logical.h",     "kelifc/core/length_measure.h",
+        "kelifc/core/binary.h",      "kelifc/core/aggregate.h",
         "kelifc/core/string.h",      "kelifc/core/unknown.h",
         "kelifc/platform/export.h",  "kelifc/platform/guid.h",
         "kelifc/schema/common.h",    "kelifc/schema/" + std::string(info.folder) + "/fwd.h"};
@@ -121,6 +122,10 @@ class HeaderEmitter {
   }
 
   void EmitDefinedType(const DefinedType& type) {
+    if (type.kind == Kind::kIntegers) {
+      EmitIntegers(type);
+      return;
+    }
     const ValueBase& value = ValueBaseOf(type);
     const std::string base(value.type);
     out.Doc("", type.doc);
@@ -146,6 +151,20 @@ class HeaderEmitter {
             "Reads and writes the value with the name of its type, as it stands in a select.");
     out.Line("  std::ostream& WriteWithName(std::ostream& out) const override;");
     out.Line("  const char* ParseBody(const char* cursor) override;");
+    out.Line("};");
+    out.Line();
+  }
+
+  void EmitIntegers(const DefinedType& type) {
+    out.Doc("", type.doc);
+    out.Line("class KELIFC_API " + type.name + " : public LIST<INTEGER> {");
+    out.Line(" public:");
+    out.Line("  " + type.name + "();");
+    EmitCopy(type.name);
+    out.Line("  ~" + type.name + "() override;");
+    out.Line();
+    out.Doc("  ", "Reads whole numbers between parentheses; without any it stays unset.");
+    out.Line("  const char* Parse(const char* cursor);");
     out.Line("};");
     out.Line();
   }

@@ -109,8 +109,16 @@ class RecordWriter {
         return Same(".T.");
       case Kind::kLogical:
         return Same(".U.");
+      case Kind::kScientific:
+        return {"0.0012", "1.2E-03", "0.0E+00"};
       case Kind::kCoordinates:
         return {"(1.,2.5)", "(1.,2.5)", "()"};
+      case Kind::kAngle:
+        return {"(49,6,-12)", "(49, 6, -12)", "$"};
+      case Kind::kFlags:
+        return Same("\\\"10\\\"");
+      case Kind::kLabels:
+        return {"('a,b','c)')", "('a,b', 'c)')", "$"};
       case Kind::kReference:
         return Same("#90" + n);
       case Kind::kSet:
@@ -123,7 +131,7 @@ class RecordWriter {
         return EnumSample(attribute);
       case Kind::kEnumText:
         return Same(".SAMPLE.");
-      case Kind::kLabels:
+      case Kind::kIntegers:
       case Kind::kInstance:
         return Same("$");
     }

@@ -90,6 +90,7 @@ class PageWriter {
         line += (i == 0 ? "`" : ", `") + table.rows[i].first + "` " +
                 std::to_string(table.rows[i].second);
       }
+      if (table.rows.empty()) line += "the text as it stands";
       out.Line(line + ".");
     }
   }
@@ -98,8 +99,8 @@ class PageWriter {
     out.Line();
     out.Line("## " + type.name);
     out.Line();
-    out.Line(type.doc + " A `" + type.base + "` and a `" + ValueType(type.kind, 0) +
-             "`. Releases: " + Releases(type.releases) +
+    const std::string bases = type.base.empty() ? " A `" : " A `" + type.base + "` and a `";
+    out.Line(type.doc + bases + ValueType(type.kind, 0) + "`. Releases: " + Releases(type.releases) +
              "; a file can name it in: " + Releases(type.file) + ".");
   }
 

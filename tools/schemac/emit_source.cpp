@@ -38,6 +38,10 @@ class SourceEmitter {
  private:
   void EmitDefinedType(const DefinedType& type) {
     const std::string& name = type.name;
+    if (type.kind == Kind::kIntegers) {
+      EmitIntegers(name);
+      return;
+    }
     const std::string value = ValueType(type.kind, 0);
     const bool isText = type.kind == Kind::kString;
     const std::string bare = isText ? "const std::string& text" : Bare(type.kind) + " value";
@@ -64,6 +68,14 @@ class SourceEmitter {
     out.Line("const char* " + name + "::ParseBody(const char* cursor) {");
     out.Line("  return " + value + "::Parse(IfcUnknown::Parse(cursor));");
     out.Line("}");
+    out.Line();
+  }
+
+  void EmitIntegers(const std::string& name) {
+    out.Line(name + "::" + name + "() = default;");
+    EmitCopy(name);
+    out.Line("const char* " + name +
+             "::Parse(const char* cursor) { return ParseIntegers(*this, cursor); }");
     out.Line();
   }
 
@@ -146,7 +158,7 @@ class SourceEmitter {
       case Kind::kGlobalId64:
         return "GlobalId64(" + member + ")";
       case Kind::kLabels:
-        throw DescriptionError(step.place, "lists of labels are not read");
+        return "Texts(" + member + ")";
       default:
         return member;
     }
@@ -177,7 +189,9 @@ class SourceEmitter {
       case Kind::kEnum:
         return "Enumerated(" + EnumArguments(attribute) + ")";
       case Kind::kEnumText:
-        throw DescriptionError(step.place, "an enumeration kept as text is written as a literal");
+        return "EnumeratedText(" + member + ")";
+      case Kind::kScientific:
+        return "Scientific(" + member + ")";
       case Kind::kValue:
         return "ValueInPlace(" + member + ", *this)";
       case Kind::kGlobalId64:

@@ -95,7 +95,7 @@ class OperationWriter {
     if (!Split(operation)) return;
     if (verb == "_Get") {
       AddInnerGetter(operation);
-    } else if (verb == "Get") {
+    } else if (verb == "Get" || verb == "calc" || verb == "Calc") {
       AddGetter(operation);
     } else if (verb == "Set") {
       AddSetter(operation);
@@ -131,7 +131,7 @@ class OperationWriter {
 
   /// Finds verb and attribute. False if the attribute belongs to other releases only.
   bool Split(const Operation& operation) {
-    for (const std::string_view head : {"_Get", "Get", "Set", "Add"}) {
+    for (const std::string_view head : {"_Get", "Get", "Set", "Add", "calc", "Calc"}) {
       if (!StartsWith(operation.name, head)) continue;
       verb = head;
       const std::string rest =
@@ -323,6 +323,7 @@ std::string ValueType(Kind kind, std::size_t release) {
     case Kind::kIdentifier:
       return hasLabels ? "IfcIdentifier" : "STRING";
     case Kind::kReal:
+    case Kind::kScientific:
       return "REAL";
     case Kind::kInteger:
       return "INTEGER";
@@ -334,6 +335,12 @@ std::string ValueType(Kind kind, std::size_t release) {
       return "IfcLengthMeasure";
     case Kind::kCoordinates:
       return "COORDINATES";
+    case Kind::kAngle:
+      return "IfcCompoundPlaneAngleMeasure";
+    case Kind::kFlags:
+      return "BINARY<2>";
+    case Kind::kIntegers:
+      return "LIST<INTEGER>";
     case Kind::kEnum:
     case Kind::kEnumText:
       return "ENUM";
@@ -353,7 +360,8 @@ std::string ValueType(Kind kind, std::size_t release) {
 }
 
 std::string StoredType(const Attribute& attribute, std::size_t release) {
-  const bool isNamed = attribute.kind == Kind::kEnum || attribute.kind == Kind::kInstance;
+  const bool isNamed = attribute.kind == Kind::kEnum || attribute.kind == Kind::kInstance ||
+                       (attribute.kind == Kind::kEnumText && !attribute.type.empty());
   return isNamed ? attribute.type : ValueType(attribute.kind, release);
 }
 

@@ -26,8 +26,13 @@ constexpr std::array kKinds = {
     KindName{"boolean", Kind::kBoolean, false},
     KindName{"logical", Kind::kLogical, false},
     KindName{"measure", Kind::kMeasure, false},
+    KindName{"scientific", Kind::kScientific, false},
     KindName{"coordinates", Kind::kCoordinates, false},
+    KindName{"angle", Kind::kAngle, false},
+    KindName{"flags", Kind::kFlags, false},
+    KindName{"integers", Kind::kIntegers, false},
     KindName{"enumtext", Kind::kEnumText, false},
+    KindName{"openenum", Kind::kEnumText, true},
     KindName{"labels", Kind::kLabels, false},
     KindName{"ref", Kind::kReference, true},
     KindName{"set", Kind::kSet, true},
@@ -195,8 +200,7 @@ class Parser {
     type.place = line.place;
     type.family = family;
     type.name = in.Name("the name of the type");
-    in.Expect(":");
-    type.base = in.Name("the base");
+    if (in.Take(":")) type.base = in.Name("the base");
     const Place place = in.Here();
     const KindName* kind = FindKind(in.Name("the kind of the value"));
     if (kind == nullptr) throw DescriptionError(place, "no such kind");

@@ -207,7 +207,9 @@ class Resolver {
   void CheckTypes(const ResolvedClass& type) const {
     for (const Attribute* attribute : type.attributes) {
       if (attribute->type.empty()) continue;
-      const bool known = attribute->kind == Kind::kEnum
+      const bool isEnumeration =
+          attribute->kind == Kind::kEnum || attribute->kind == Kind::kEnumText;
+      const bool known = isEnumeration
                              ? model.enumerations.count(attribute->type) != 0
                              : model.KnowsClass(attribute->type);
       if (!known) {

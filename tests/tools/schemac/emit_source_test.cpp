@@ -54,9 +54,29 @@ TEST(EmitSource, IncludesTheBodiesWrittenByHand) {
   EXPECT_FALSE(Holds(Resolved(body, k151).Source(), "ifca.inl"));
 }
 
-TEST(EmitSource, RefusesToWriteTheTextOfAnEnumerationAsItIs) {
-  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all file\n  doc A.\n  X enumtext\n"),
-            "f.schema:4:3: error: an enumeration kept as text is written as a literal");
+TEST(EmitSource, WritesTheTextOfAnEnumerationAsItIs) {
+  EXPECT_TRUE(
+      Holds(Resolved("entity IfcA : IfcUnknown all file\n  doc A.\n  X enumtext\n").Source(),
+            "return WriteFirst(IfcUnknown::Write(out), EnumeratedText(x));"));
+}
+
+TEST(EmitSource, ReadsListsOfTextsWithAReaderOfTheirOwn) {
+  const std::string source =
+      Resolved("entity IfcA : IfcUnknown all file\n  doc A.\n  X labels\n", k151).Source();
+  EXPECT_TRUE(Holds(source, "ParseRecord(IfcUnknown::Parse(cursor), Texts(x));"));
+  EXPECT_TRUE(Holds(source, "WriteFirst(IfcUnknown::Write(out), x);"));
+}
+
+TEST(EmitSource, WritesAScientificNumberInItsOwnForm) {
+  EXPECT_TRUE(
+      Holds(Resolved("entity IfcA : IfcUnknown all file\n  doc A.\n  X scientific\n").Source(),
+            "return WriteFirst(IfcUnknown::Write(out), Scientific(x));"));
+}
+
+TEST(EmitSource, ReadsATypeThatIsAListOfIntegers) {
+  EXPECT_TRUE(Holds(
+      Resolved("type IfcAngle integers all\n  doc A.\n").Source(),
+      "const char* IfcAngle::Parse(const char* cursor) { return ParseIntegers(*this, cursor); }"));
 }
 
 }  // namespace
