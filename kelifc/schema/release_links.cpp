@@ -4,6 +4,8 @@
 #include <typeinfo>
 
 #include "kelifc/core/cast_cache.h"
+#include "kelifc/schema/ifc151.h"
+#include "kelifc/schema/ifc20.h"
 #include "kelifc/schema/ifc2x.h"
 #include "kelifc/schema/ifc2x2.h"
 #include "kelifc/schema/ifc2x3.h"
@@ -65,10 +67,12 @@ bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid) {
          ReadGuidOf<KelIFC2x3::IfcRoot>(instance, guid);
 }
 
-// The two oldest releases have no project class: no instance can be one.
-const KelIFC151::IfcProject* AsProject151(const IfcUnknown*) { return nullptr; }
-const KelIFC20::IfcProject* AsProject20(const IfcUnknown*) { return nullptr; }
-
+const KelIFC151::IfcProject* AsProject151(const IfcUnknown* instance) {
+  return AsProject<KelIFC151::IfcProject>(instance);
+}
+const KelIFC20::IfcProject* AsProject20(const IfcUnknown* instance) {
+  return AsProject<KelIFC20::IfcProject>(instance);
+}
 const KelIFC2x::IfcProject* AsProject2x(const IfcUnknown* instance) {
   return AsProject<KelIFC2x::IfcProject>(instance);
 }

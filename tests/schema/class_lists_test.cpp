@@ -28,6 +28,64 @@ template <class R>
 struct Expected;
 
 template <>
+struct Expected<Release151> {
+  static constexpr auto kMake = &MakeInstance151;
+  static constexpr const char* kFile =
+      "Ifc2DCompositeCurve IfcArbitraryProfileDef IfcAttDrivenClippedExtrudedSolid "
+      "IfcAttDrivenExtrudedSegment IfcAttDrivenExtrudedSolid IfcAttDrivenRevolvedSolid "
+      "IfcAxis2Placement2D IfcAxis2Placement3D IfcBeam IfcBuilding IfcBuildingStorey "
+      "IfcCircle IfcCircleProfileDef IfcClosedShell IfcColumn IfcCompositeCurve "
+      "IfcCompositeCurveSegment IfcCurveBoundedPlane IfcDirection IfcDoor IfcEllipse IfcFace "
+      "IfcFaceBound IfcFaceOuterBound IfcFacetedBrep IfcFloor IfcHalfSpaceSolid IfcLine "
+      "IfcLocalPlacement IfcMaterial IfcMaterialLayer IfcMaterialLayerSet "
+      "IfcMaterialLayerSetUsage IfcOpeningElement IfcOrganization IfcOwnerHistory IfcPerson "
+      "IfcPersonAndOrganization IfcPlane IfcPolyLine IfcPolyLoop IfcProductShape IfcProject "
+      "IfcProjectAppRegistry IfcProjectMaterialRegistry IfcProjectTeamRegistry IfcPropertySet "
+      "IfcProxy IfcRectangleProfileDef IfcRegisteredApplication IfcRelConnectsElements "
+      "IfcRelConnectsPathElements IfcRelContains IfcRelFillsElement IfcRelVoidsElement "
+      "IfcRepresentationContext IfcRoofSlab IfcShapeRepresentation IfcSiUnit "
+      "IfcSimpleProperty IfcSite IfcSpace IfcSpaceBoundary IfcTrimmedCurve IfcVector IfcWall "
+      "IfcWindow ";
+  static constexpr const char* kNotFile =
+      "IfcAddress IfcAttDrivenProfileDef IfcAxis2Placement IfcBoundedCurve IfcBuildingElement "
+      "IfcCompoundPlaneAngleMeasure IfcConic IfcConnectedFaceSet IfcCurve IfcElement "
+      "IfcElementarySurface IfcExtrudedAreaSolid IfcManifoldSolidBrep IfcModelingAid "
+      "IfcNamedUnit IfcObject IfcObjectWithPlacementSelect IfcPlacement IfcProduct "
+      "IfcProperty IfcRelationship IfcRoot IfcShell IfcSpatialElement IfcSweptAreaSolid "
+      "IfcTopologicalRepresentationItem ";
+  static constexpr const char* kMade = "IfcFace IfcFaceOuterBound IfcPolyLoop ";
+};
+
+template <>
+struct Expected<Release20> {
+  static constexpr auto kMake = &MakeInstance20;
+  static constexpr const char* kFile =
+      "Ifc2DCompositeCurve IfcApplication IfcArbitraryProfileDef "
+      "IfcAttDrivenClippedExtrudedSolid IfcAttDrivenExtrudedSegment IfcAttDrivenExtrudedSolid "
+      "IfcAttDrivenRevolvedSolid IfcAxis2Placement2D IfcAxis2Placement3D IfcBeam IfcBuilding "
+      "IfcBuildingStorey IfcCircle IfcCircleProfileDef IfcClosedShell IfcColumn "
+      "IfcCompositeCurve IfcCompositeCurveSegment IfcConnectedFaceSet IfcCurveBoundedPlane "
+      "IfcDirection IfcDoor IfcEllipse IfcFace IfcFaceBound IfcFaceOuterBound IfcFacetedBrep "
+      "IfcHalfSpaceSolid IfcLine IfcLocalPlacement IfcMaterial IfcMaterialLayer "
+      "IfcMaterialLayerSet IfcMaterialLayerSetUsage IfcOpeningElement IfcOrganization "
+      "IfcOwnerHistory IfcPerson IfcPersonAndOrganization IfcPlane IfcPolyLine IfcPolyLoop "
+      "IfcProductDefinitionShape IfcProject IfcProxy IfcRectangleProfileDef "
+      "IfcRelConnectsElements IfcRelConnectsPathElements IfcRelContains IfcRelControls "
+      "IfcRelFillsElement IfcRelJoinsElements IfcRelVoidsElement IfcRepresentationContext "
+      "IfcShapeRepresentation IfcSiUnit IfcSite IfcSlab IfcSpace IfcSpaceBoundary "
+      "IfcTrimmedCurve IfcVector IfcWall IfcWindow ";
+  static constexpr const char* kNotFile =
+      "IfcAddress IfcAttDrivenProfileDef IfcAxis2Placement IfcBoundedCurve IfcBuildingElement "
+      "IfcCompoundPlaneAngleMeasure IfcConic IfcConnectionGeometry IfcControl IfcCurve "
+      "IfcElement IfcElementarySurface IfcExtrudedAreaSolid IfcGeometricRepresentationContext "
+      "IfcLineConnectionGeometry IfcManifoldSolidBrep IfcModelingAid IfcNamedUnit IfcObject "
+      "IfcObjectWithPlacementSelect IfcPlacement IfcProduct IfcProductDefinitionTopology "
+      "IfcProductRepresentation IfcRelationship IfcRepresentation IfcRoot IfcShell "
+      "IfcSpatialElement IfcSweptAreaSolid IfcTopologicalRepresentationItem ";
+  static constexpr const char* kMade = "IfcFace IfcFaceOuterBound IfcLocalPlacement IfcPolyLoop ";
+};
+
+template <>
 struct Expected<Release2x> {
   static constexpr auto kMake = &MakeInstance2x;
   static constexpr const char* kFile =
@@ -242,7 +300,7 @@ concept Named = requires {
 
 template <class R>
 class ClassLists : public testing::Test {};
-using Releases = testing::Types<Release2x, Release2x2, Release2x3>;
+using Releases = testing::Types<Release151, Release20, Release2x, Release2x2, Release2x3>;
 TYPED_TEST_SUITE(ClassLists, Releases);
 
 TYPED_TEST(ClassLists, FileNamesMakeTheirClass) {

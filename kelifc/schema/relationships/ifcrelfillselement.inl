@@ -1,6 +1,6 @@
 const char* IfcRelFillsElement::Parse(const char* cursor) {
   cursor =
-      ParseRecord(IfcRelConnects::Parse(cursor), relatingOpeningElement, relatedBuildingElement);
+      ParseRecord(IfcRelationship::Parse(cursor), relatingOpeningElement, relatedBuildingElement);
   LinkBack(*this, relatingOpeningElement, &IfcOpeningElement::AddFilling);
   auto* filling = dynamic_cast<IfcBuildingElement*>(
       FindInstance(GetServer(), static_cast<std::size_t>(relatedBuildingElement)));

@@ -1,0 +1,1 @@
+INTEGER IfcBoundedCurveDim(const IfcBoundedCurve& curve) { return IfcCurveDim(curve); }
