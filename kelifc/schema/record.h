@@ -12,8 +12,8 @@
 #include "kelifc/core/real.h"
 #include "kelifc/core/string.h"
 #include "kelifc/core/text_out.h"
-#include "kelifc/core/value_lists.h"
 #include "kelifc/core/unknown.h"
+#include "kelifc/core/value_lists.h"
 #include "kelifc/core/value_member.h"
 
 // How the record of an entity is read and written: as a row of parts. A part is an attribute, or

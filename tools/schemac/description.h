@@ -21,7 +21,7 @@ enum class Kind {
   kInteger,
   kBoolean,
   kLogical,
-  kMeasure,  ///< IfcLengthMeasure, also for measures other than length
+  kMeasure,     ///< IfcLengthMeasure, also for measures other than length
   kScientific,  ///< a REAL that is written with an exponent and never unset
   kCoordinates,
   kAngle,       ///< IfcCompoundPlaneAngleMeasure
@@ -130,8 +130,8 @@ struct Entity {
   std::map<std::string, std::string> comments;  ///< of the operations that are written by hand
 };
 
-/// A defined type: a class with a value as second base, behind the select it can stand in, or as its
-/// only one.
+/// A defined type: a class with a value as second base, behind the select it can stand in, or as
+/// its only one.
 struct DefinedType {
   Place place;
   std::string family;

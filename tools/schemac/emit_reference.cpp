@@ -100,8 +100,8 @@ class PageWriter {
     out.Line("## " + type.name);
     out.Line();
     const std::string bases = type.base.empty() ? " A `" : " A `" + type.base + "` and a `";
-    out.Line(type.doc + bases + ValueType(type.kind, 0) + "`. Releases: " + Releases(type.releases) +
-             "; a file can name it in: " + Releases(type.file) + ".");
+    out.Line(type.doc + bases + ValueType(type.kind, 0) + "`. Releases: " +
+             Releases(type.releases) + "; a file can name it in: " + Releases(type.file) + ".");
   }
 
   void AddEntity(const Entity& entity) {

@@ -209,9 +209,8 @@ class Resolver {
       if (attribute->type.empty()) continue;
       const bool isEnumeration =
           attribute->kind == Kind::kEnum || attribute->kind == Kind::kEnumText;
-      const bool known = isEnumeration
-                             ? model.enumerations.count(attribute->type) != 0
-                             : model.KnowsClass(attribute->type);
+      const bool known = isEnumeration ? model.enumerations.count(attribute->type) != 0
+                                       : model.KnowsClass(attribute->type);
       if (!known) {
         throw DescriptionError(attribute->place, attribute->type + " is not described in release " +
                                                      std::string(kReleases[release].mark));

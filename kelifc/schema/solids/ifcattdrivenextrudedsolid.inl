@@ -26,7 +26,8 @@ class OutlineWriter {
     for (std::size_t j = 1; j <= segments.GetSize(); ++j) {
       const auto* parent = segments[j] == nullptr ? nullptr : segments[j]->GetParentCurve();
       const auto* piece = dynamic_cast<const IfcTrimmedCurve*>(parent);
-      if (piece != nullptr && piece->GetMasterRepresentation() == kByPoint) AddPiece(*piece, j == 1);
+      if (piece != nullptr && piece->GetMasterRepresentation() == kByPoint)
+        AddPiece(*piece, j == 1);
     }
   }
 
@@ -51,8 +52,8 @@ class OutlineWriter {
     }
   }
 
-  /// Chords of an arc, without its ends; at least one point. The angles span a turn at most, and where
-  /// they are no numbers the arc ends.
+  /// Chords of an arc, without its ends; at least one point. The angles span a turn at most, and
+  /// where they are no numbers the arc ends.
   void AddArc(PlanPoint centre, PlanPoint first, PlanPoint second, bool sense) {
     double x = first.x - centre.x;
     double y = first.y - centre.y;
