@@ -31,5 +31,10 @@ INSTANTIATE_TEST_SUITE_P(Examples, Golden,
                            return std::get<0>(info.param) + "_" + std::get<1>(info.param);
                          });
 
+INSTANTIATE_TEST_SUITE_P(OldestExamples, Golden,
+                         testing::Combine(testing::Values("info"),
+                                          testing::Values("shed", "pavilion")),
+                         [](const auto& info) { return std::get<1>(info.param); });
+
 }  // namespace
 }  // namespace command_test

@@ -126,6 +126,8 @@ class HeaderEmitter {
       EmitIntegers(type);
       return;
     }
+    if (type.base.empty())
+      throw DescriptionError(type.place, type.name + " stands behind no select");
     const ValueBase& value = ValueBaseOf(type);
     const std::string base(value.type);
     out.Doc("", type.doc);

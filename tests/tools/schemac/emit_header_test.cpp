@@ -47,5 +47,24 @@ TEST(EmitHeader, ShowsDefinedTypesBehindTheirBase) {
   EXPECT_TRUE(Holds(header, "  IfcReal(double value);"));
 }
 
+TEST(EmitHeader, ShowsAListOfIntegersAsATypeOfItsOwn) {
+  const std::string header = Resolved("type IfcAngle integers all\n  doc An angle.\n").Header();
+  EXPECT_TRUE(Holds(header, "/// An angle.\nclass KELIFC_API IfcAngle : public LIST<INTEGER> {"));
+  EXPECT_EQ(Refusal("type IfcText string all\n  doc T.\n"),
+            "f.schema:2:1: error: IfcText stands behind no select");
+}
+
+TEST(EmitHeader, KeepsOpenEnumerationsUnderTheirName) {
+  const std::string header = Resolved(
+                                 "enum IfcKind\n  doc Kinds.\n  all\n"
+                                 "entity IfcA : IfcUnknown all file\n  doc A.\n"
+                                 "  Kind openenum IfcKind\n  ops GetKind\n")
+                                 .Header();
+  EXPECT_TRUE(Holds(header, "using IfcKind = ENUM;"));
+  EXPECT_TRUE(Holds(header, "virtual IfcKind GetKind() const;"));
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all file\n  doc A.\n  Kind openenum IfcKind\n"),
+            "f.schema:4:3: error: IfcKind is not described in release 2x3");
+}
+
 }  // namespace
 }  // namespace schemac

@@ -48,6 +48,11 @@ TEST(ResolveOperations, GivesTextsAsLabelsWhereTheReleaseHasThem) {
             (Texts{"STRING GetX() const", "void SetX(const char* text)"}));
 }
 
+TEST(ResolveOperations, GivesStoredMeasuresUnderNamesThatSpeakOfComputing) {
+  EXPECT_EQ(OperationsOf("  Area real\n  Volume real\n  ops calcArea, CalcVolume\n"),
+            (Texts{"REAL calcArea() const", "REAL CalcVolume() const"}));
+}
+
 TEST(ResolveOperations, LeavesOutOperationsOnAttributesOfOtherReleases) {
   EXPECT_EQ(OperationsOf("  [2x] X real\n  ops GetX, SetX\n", k2x3), Texts{});
 }
