@@ -1,6 +1,9 @@
 #ifndef KELIFC_GEO_DUAL_H_
 #define KELIFC_GEO_DUAL_H_
 
+#include <array>
+
+#include "kelifc/platform/com_dispatch.h"
 #include "kelifc/platform/com_interfaces.h"
 #include "kelifc/platform/com_module.h"
 #include "kelifc/platform/com_object.h"
@@ -14,31 +17,25 @@ using DualInterfaces = InterfaceList<Interfaces..., IDispatch, ISupportErrorInfo
 /// What every class of the object model derives from: its interfaces, the class's own first, with
 /// the operations that are the same in all classes.
 ///
-/// The four operations of IDispatch need the type library, which is not registered.
+/// The four operations of IDispatch need the type library: see com_dispatch.h.
 template <class Own, class... Others>
 class Dual : public Own, public Others..., public ISupportErrorInfo {
  public:
   using Counted = LiveObject;
 
-  HRESULT GetTypeInfoCount(UINT* count) override {
-    if (count == nullptr) return E_POINTER;
-    *count = 0;
-    return TYPE_E_LIBNOTREGISTERED;
+  HRESULT GetTypeInfoCount(UINT* count) override { return CountTypeInfo(count); }
+
+  HRESULT GetTypeInfo(UINT index, LCID, ITypeInfo** info) override {
+    return GiveTypeInfo(Faces().front(), index, info);
   }
 
-  HRESULT GetTypeInfo(UINT, LCID, ITypeInfo** info) override {
-    if (info == nullptr) return E_POINTER;
-    *info = nullptr;
-    return TYPE_E_LIBNOTREGISTERED;
+  HRESULT GetIDsOfNames(const IID&, OLECHAR** names, UINT count, LCID, DISPID* ids) override {
+    return FindNames(Faces(), names, count, ids);
   }
 
-  HRESULT GetIDsOfNames(const IID&, OLECHAR**, UINT, LCID, DISPID*) override {
-    return TYPE_E_LIBNOTREGISTERED;
-  }
-
-  HRESULT Invoke(DISPID, const IID&, LCID, WORD, DISPPARAMS*, VARIANT*, EXCEPINFO*,
-                 UINT*) override {
-    return TYPE_E_LIBNOTREGISTERED;
+  HRESULT Invoke(DISPID id, const IID&, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
+                 EXCEPINFO* exception, UINT* badArgument) override {
+    return InvokeFace(Faces(), id, flags, arguments, result, exception, badArgument);
   }
 
   /// S_OK for the class's own interface only.
@@ -48,6 +45,13 @@ class Dual : public Own, public Others..., public ISupportErrorInfo {
 
  protected:
   ~Dual() = default;
+
+ private:
+  /// The interfaces by whose names a script can call: those that hold all operations of the class.
+  std::array<Face, 1 + sizeof...(Others)> Faces() {
+    return {Face{&IidOf<Own>(), static_cast<Own*>(this)},
+            Face{&IidOf<Others>(), static_cast<Others*>(this)}...};
+  }
 };
 
 }  // namespace KelIFC

@@ -13,4 +13,11 @@ extern "C" KELIFC_API HRESULT DllGetClassObject(const CLSID& clsid, const IID& i
 /// S_OK if the library can be unloaded: no object of it lives and no lock is on it. Else S_FALSE.
 extern "C" KELIFC_API HRESULT DllCanUnloadNow();
 
+#ifdef _WIN32
+/// Enters the classes and the type library in the registry of the system, as `regsvr32` asks for,
+/// and takes them out again.
+extern "C" KELIFC_API HRESULT DllRegisterServer();
+extern "C" KELIFC_API HRESULT DllUnregisterServer();
+#endif
+
 #endif  // KELIFC_GEO_MODULE_H_

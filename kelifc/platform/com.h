@@ -9,6 +9,7 @@
 #include "kelifc/platform/com_factory.h"
 #include "kelifc/platform/com_guid.h"
 #include "kelifc/platform/com_interfaces.h"
+#include "kelifc/platform/com_local_classes.h"
 #include "kelifc/platform/com_ptr.h"
 #include "kelifc/platform/com_string.h"
 #include "kelifc/platform/com_text.h"

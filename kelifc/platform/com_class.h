@@ -21,6 +21,16 @@ struct ComClass {
 /// All classes of this library. The object model defines it.
 std::span<const ComClass> ComClasses();
 
+/// What a type library is known by.
+struct TypeLibraryVersion {
+  GUID identifier;
+  WORD major;
+  WORD minor;
+};
+
+/// The type library of these classes. The object model defines it.
+TypeLibraryVersion ComTypeLibrary();
+
 /// The class object of one of these classes, through its interface `iid`. An identifier that is
 /// none of them gives CLASS_E_CLASSNOTAVAILABLE and null; a null `out` gives E_POINTER.
 HRESULT GetClassObject(const CLSID& clsid, const IID& iid, void** out);

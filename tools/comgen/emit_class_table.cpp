@@ -4,8 +4,9 @@
 
 namespace comgen {
 
-void EmitClassTable(const Description& description, Files& files) {
-  std::set<std::string> headers = {"kelifc/platform/com_class.h", "kelifc/platform/com_object.h"};
+void EmitClassTable(const Description& description, const std::string& version, Files& files) {
+  std::set<std::string> headers = {"kelifc/geo/interfaces.h", "kelifc/platform/com_class.h",
+                                   "kelifc/platform/com_object.h"};
   for (const Class& type : description.classes) {
     if (!type.header.empty()) headers.insert(type.header);
   }
@@ -28,6 +29,10 @@ void EmitClassTable(const Description& description, Files& files) {
   out.Line("}  // namespace");
   out.Line();
   out.Line("std::span<const ComClass> ComClasses() { return kClasses; }");
+  out.Line();
+  const auto dot = version.find('.');
+  out.Line("TypeLibraryVersion ComTypeLibrary() { return {LIBID_" + description.library.name + ", " +
+           version.substr(0, dot) + ", " + version.substr(dot + 1) + "}; }");
   out.Line();
   out.Line("}  // namespace KelIFC");
   files["kelifc/geo/class_table.cpp"] = out.Text();

@@ -1,6 +1,6 @@
 // Makes the C++ side of an object model from its description:
 //
-//   comgen OUTPUT-FOLDER DESCRIPTION
+//   comgen OUTPUT-FOLDER DESCRIPTION VERSION
 //
 // Every file that would be the same keeps its time, so that what depends on it is not built again.
 
@@ -14,8 +14,8 @@
 #include "tools/schemac/text_files.h"
 
 int main(int argc, char** argv) {
-  if (argc != 3) {
-    std::cerr << "usage: comgen OUTPUT-FOLDER DESCRIPTION\n";
+  if (argc != 4) {
+    std::cerr << "usage: comgen OUTPUT-FOLDER DESCRIPTION VERSION\n";
     return 64;
   }
   try {
@@ -25,7 +25,8 @@ int main(int argc, char** argv) {
     comgen::Files files;
     comgen::EmitInterfaces(description, files);
     comgen::EmitBases(description, files);
-    comgen::EmitClassTable(description, files);
+    comgen::EmitClassTable(description, argv[3], files);
+    comgen::EmitIdl(description, argv[3], files);
     comgen::EmitOrderTest(description, files);
     for (const auto& [path, text] : files) {
       schemac::WriteIfChanged(std::filesystem::path(argv[1]) / path, text);

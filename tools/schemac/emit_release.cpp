@@ -19,12 +19,15 @@ void EmitForward(const ReleaseModel& model, Files& files) {
   out.Line("#ifndef " + Guard(path));
   out.Line("#define " + Guard(path));
   out.Line();
-  out.Line("namespace KelIFC {}");
+  out.Line("namespace KelIFC {");
+  out.Line("class BOOLEAN;");
+  out.Line("}");
   out.Line();
   out.Line("/// The classes of release " + std::string(info.mark) + ".");
   out.Line("namespace " + std::string(info.nameSpace) + " {");
   out.Line();
   out.Line("using namespace KelIFC;");
+  out.Line("using KelIFC::BOOLEAN;  // a system may have a global type of this name");
   out.Line();
   for (const auto& name : ClassNames(model)) out.Line("class " + name + ";");
   out.Line();
