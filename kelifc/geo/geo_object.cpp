@@ -61,7 +61,9 @@ HRESULT CoGeoObject::get_GUID(BSTR* out) {
 
 HRESULT CoGeoObject::put_GUID(BSTR text) {
   // No text is the empty one, which is no identifier.
-  return CLSIDFromString(text == nullptr ? L"" : text, &guid);
+  const HRESULT status = CLSIDFromString(text == nullptr ? L"" : text, &guid);
+  if (FAILED(status)) guid = {};  // a system may leave a part of it
+  return status;
 }
 
 HRESULT CoGeoObject::get_Name(BSTR* out) { return GiveText(name, out); }

@@ -31,6 +31,16 @@ class ClassFactory : public IClassFactory {
   const ComClass& type;
 };
 
+/// Held by the process itself, for its whole life.
+class LocalClassFactory : public ClassFactory {
+ public:
+  using Counted = UncountedObject;
+  using ClassFactory::ClassFactory;
+
+ protected:
+  ~LocalClassFactory() = default;
+};
+
 }  // namespace
 
 HRESULT GetClassObject(const CLSID& clsid, const IID& iid, void** out) {
@@ -40,6 +50,10 @@ HRESULT GetClassObject(const CLSID& clsid, const IID& iid, void** out) {
     if (type.clsid == clsid) return MakeObject<ClassFactory>(iid, out, type);
   }
   return CLASS_E_CLASSNOTAVAILABLE;
+}
+
+HRESULT GetLocalClassObject(const ComClass& type, const IID& iid, void** out) {
+  return MakeObject<LocalClassFactory>(iid, out, type);
 }
 
 }  // namespace KelIFC

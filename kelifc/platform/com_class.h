@@ -35,6 +35,9 @@ TypeLibraryVersion ComTypeLibrary();
 /// none of them gives CLASS_E_CLASSNOTAVAILABLE and null; a null `out` gives E_POINTER.
 HRESULT GetClassObject(const CLSID& clsid, const IID& iid, void** out);
 
+/// The class object of a class for use within the process: it does not keep the library in use.
+HRESULT GetLocalClassObject(const ComClass& type, const IID& iid, void** out);
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_PLATFORM_COM_CLASS_H_

@@ -96,12 +96,12 @@ HRESULT GiveTypeInfo(const Face& face, UINT index, ITypeInfo** out) {
 }
 
 HRESULT FindNames(std::span<const Face> faces, OLECHAR** names, UINT count, DISPID* ids) {
-  if (names == nullptr || ids == nullptr) return E_POINTER;
   HRESULT status = DISP_E_UNKNOWNNAME;
   for (const Face& face : faces) {
     ITypeInfo* info = nullptr;
     status = FindInfo(face, &info);
     if (FAILED(status)) return status;
+    if (names == nullptr || ids == nullptr) return E_POINTER;
     status = DispGetIDsOfNames(info, names, count, ids);
     if (SUCCEEDED(status)) return status;
   }
@@ -110,12 +110,12 @@ HRESULT FindNames(std::span<const Face> faces, OLECHAR** names, UINT count, DISP
 
 HRESULT InvokeFace(std::span<const Face> faces, DISPID id, WORD flags, DISPPARAMS* arguments,
                    VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
-  if (arguments == nullptr) return E_POINTER;
   HRESULT status = DISP_E_MEMBERNOTFOUND;
   for (const Face& face : faces) {
     ITypeInfo* info = nullptr;
     status = FindInfo(face, &info);
     if (FAILED(status)) return status;
+    if (arguments == nullptr) return E_POINTER;
     SetErrorInfo(0, nullptr);  // what an earlier call reported is not told of this one
     status = DispInvoke(face.object, info, id, flags, arguments, result, exception, badArgument);
     if (status != DISP_E_MEMBERNOTFOUND) return status;

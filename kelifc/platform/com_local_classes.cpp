@@ -12,7 +12,7 @@ LocalClasses::LocalClasses() {
   for (const ComClass& type : ComClasses()) {
     if (FAILED(status)) return;
     ComPtr<IUnknown> factory;
-    status = GetClassObject(type.clsid, IidOf<IUnknown>(), reinterpret_cast<void**>(factory.Put()));
+    status = GetLocalClassObject(type, IidOf<IUnknown>(), reinterpret_cast<void**>(factory.Put()));
     if (FAILED(status)) return;
     cookies.push_back(0);
     status = CoRegisterClassObject(type.clsid, factory.Get(), CLSCTX_INPROC_SERVER,

@@ -98,6 +98,9 @@ TYPED_TEST(EachClass, HasNoTypeLibraryToDispatchBy) {
 }
 
 TYPED_TEST(EachClass, IsMadeByItsProgramNames) {
+#ifdef _WIN32
+  GTEST_SKIP() << "the registry of the system has the names";
+#endif
   const std::wstring name = TypeParam::kProgId;
   for (const std::wstring& progId : {name, name.substr(0, name.size() - 2)}) {
     CLSID clsid = {};

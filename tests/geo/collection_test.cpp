@@ -66,7 +66,7 @@ TEST_F(CollectionOfStoreys, GivesTheSameObjectEachTime) {
 
 TEST_F(CollectionOfStoreys, RefusesIndicesBelowOne) {
   const auto storeys = MakeStoreys(1);
-  for (const LONG index : {0, -1, std::numeric_limits<LONG>::min()}) {
+  for (const LONG index : std::initializer_list<LONG>{0, -1, std::numeric_limits<LONG>::min()}) {
     IGeoStorey* out = reinterpret_cast<IGeoStorey*>(this);
     EXPECT_EQ(storeys->Item(index, &out), E_INVALIDARG);
     EXPECT_EQ(out, nullptr);
@@ -76,7 +76,7 @@ TEST_F(CollectionOfStoreys, RefusesIndicesBelowOne) {
 TEST_F(CollectionOfStoreys, LeavesTheResultAloneForAnIndexPastTheEnd) {
   const auto storeys = MakeStoreys(2);
   auto* const before = reinterpret_cast<IGeoStorey*>(this);
-  for (const LONG index : {3, std::numeric_limits<LONG>::max()}) {
+  for (const LONG index : std::initializer_list<LONG>{3, std::numeric_limits<LONG>::max()}) {
     IGeoStorey* out = before;
     EXPECT_EQ(storeys->Item(index, &out), E_FAIL);
     EXPECT_EQ(out, before);

@@ -9,7 +9,12 @@
 #include "kelifc/platform/com_object.h"
 #include "kelifc/platform/com_ptr.h"
 
+#include "tests/known_classes.h"
+
 namespace KelIFC {
+
+/// REGCLS_MULTIPLEUSE: one class object makes any number of objects.
+inline constexpr DWORD kManyUses = 1;
 
 /// Makes some objects of a class, and then gives a failure.
 class FailingFactoryObject : public IClassFactory {
@@ -38,6 +43,23 @@ class FailingFactoryObject : public IClassFactory {
   HRESULT failure;
 };
 
+/// Puts a class object in the place of the library's own. Where the one that was registered first is
+/// found first, the library's come anew behind it.
+inline DWORD RegisterAhead(const CLSID& clsid, IUnknown& factory) {
+  DWORD cookie = 0;
+  ForgetClasses();
+  EXPECT_EQ(CoRegisterClassObject(clsid, &factory, CLSCTX_INPROC_SERVER, kManyUses, &cookie), S_OK);
+  KnowClasses();
+  return cookie;
+}
+
+/// Gives the library's own class object its place back.
+inline void Revoke(DWORD cookie) {
+  EXPECT_EQ(CoRevokeClassObject(cookie), S_OK);
+  ForgetClasses();
+  KnowClasses();
+}
+
 /// For as long as it lives, the creation of a class fails on this thread after some successes.
 class FailingClass {
  public:
@@ -47,11 +69,11 @@ class FailingClass {
                                                reinterpret_cast<void**>(factory.Put()), clsid,
                                                successes, failure),
               S_OK);
-    EXPECT_EQ(CoRegisterClassObject(clsid, factory.Get(), CLSCTX_INPROC_SERVER, 0, &cookie), S_OK);
+    cookie = RegisterAhead(clsid, *factory);
   }
   FailingClass(const FailingClass&) = delete;
   FailingClass& operator=(const FailingClass&) = delete;
-  ~FailingClass() { EXPECT_EQ(CoRevokeClassObject(cookie), S_OK); }
+  ~FailingClass() { Revoke(cookie); }
 
  private:
   DWORD cookie = 0;
@@ -64,12 +86,11 @@ class MissingClass {
   explicit MissingClass(const CLSID& clsid) {
     ComPtr<ICreateErrorInfo> noFactory;
     EXPECT_EQ(CreateErrorInfo(noFactory.Put()), S_OK);
-    EXPECT_EQ(CoRegisterClassObject(clsid, noFactory.Get(), CLSCTX_INPROC_SERVER, 0, &cookie),
-              S_OK);
+    cookie = RegisterAhead(clsid, *noFactory);
   }
   MissingClass(const MissingClass&) = delete;
   MissingClass& operator=(const MissingClass&) = delete;
-  ~MissingClass() { EXPECT_EQ(CoRevokeClassObject(cookie), S_OK); }
+  ~MissingClass() { Revoke(cookie); }
 
  private:
   DWORD cookie = 0;

@@ -103,6 +103,7 @@ TEST_F(ServerObject, LoadsTheThreeReleasesThatCanBeConverted) {
 
 TEST_F(ServerObject, OpensFilesOfAnyName) {
   for (const char* name : {"h\xC3\xBCtte \xE2\x82\xAC", "h\xFCtte"}) {
+    if (NarrowPath(WidePath(name)) != name) continue;  // not in the code page of the system
     const TemporaryFile file(ModelText("IFC2X3", kStorey), name);
     const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
     EXPECT_EQ(LoadFile(*server, file.Path()), S_OK);

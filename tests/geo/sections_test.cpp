@@ -92,7 +92,10 @@ TEST_F(Sections, RefuseIndicesThatAreNoNumber) {
   VARIANT index = {};
   index.vt = VT_DISPATCH;
   auto* out = reinterpret_cast<IGeoSection*>(this);
-  EXPECT_EQ(sections->Item(index, &out), DISP_E_TYPEMISMATCH);
+  VARIANT number = {};
+  const HRESULT refusal = VariantChangeType(&number, &index, 0, VT_I4);
+  EXPECT_LT(refusal, 0);
+  EXPECT_EQ(sections->Item(index, &out), refusal);
   EXPECT_EQ(out, nullptr);
   index.vt = VT_R8;
   index.dblVal = 1e300;

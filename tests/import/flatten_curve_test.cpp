@@ -194,8 +194,8 @@ TYPED_TEST(FlattenedCurve, OfALineByParametersCountsRadians) {
 
 TYPED_TEST(FlattenedCurve, TakesParametersOutOfRangeForZero) {
   const auto line = this->Line({1, 0}, {0, 1}, 1);
-  for (const std::string far : {"3.E9", "-3.E9", "1.E999"}) {
-    EXPECT_THAT(this->Flatten(this->ByParameters(line, far, "180.", ".T.")),
+  for (const std::string distant : {"3.E9", "-3.E9", "1.E999"}) {
+    EXPECT_THAT(this->Flatten(this->ByParameters(line, distant, "180.", ".T.")),
                 ElementsAre(IsAt(1, 0, 0), IsAt(1, kPi, 0)));
   }
 }
@@ -245,13 +245,13 @@ TYPED_TEST(FlattenedCurve, OfACompositeLeavesOutWhatItDoesNotKnow) {
 TYPED_TEST(FlattenedCurve, OfPointsThatAreNoNumbersEnds) {
   auto& m = this->model;
   const auto circle = this->Circle({0, 0}, 1);
-  const auto far = m.Add("IFCCARTESIANPOINT((1.E999,1.E999))");
+  const auto distant = m.Add("IFCCARTESIANPOINT((1.E999,1.E999))");
   const auto arc =
-      m.Add("IFCTRIMMEDCURVE(" + circle + ",(" + far + "),(" + far + "),.T.,.CARTESIAN.)");
+      m.Add("IFCTRIMMEDCURVE(" + circle + ",(" + distant + "),(" + distant + "),.T.,.CARTESIAN.)");
   EXPECT_LE(this->Flatten(arc).size(), 68u);
-  const auto centre = m.Add("IFCCIRCLE(" + m.Add("IFCAXIS2PLACEMENT2D(" + far + ",$)") + ",1.)");
+  const auto centre = m.Add("IFCCIRCLE(" + m.Add("IFCAXIS2PLACEMENT2D(" + distant + ",$)") + ",1.)");
   const auto around =
-      m.Add("IFCTRIMMEDCURVE(" + centre + ",(" + far + "),(" + far + "),.F.,.CARTESIAN.)");
+      m.Add("IFCTRIMMEDCURVE(" + centre + ",(" + distant + "),(" + distant + "),.F.,.CARTESIAN.)");
   EXPECT_LE(this->Flatten(around).size(), 68u);
 }
 

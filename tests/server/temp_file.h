@@ -24,8 +24,9 @@ class TempFile {
 
   const char* GetPath() const { return path.c_str(); }
 
+  /// What the file holds, with plain line ends.
   std::string Read() const {
-    std::ifstream file(path, std::ios::binary);
+    std::ifstream file(path);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
   }
 

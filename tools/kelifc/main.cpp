@@ -21,6 +21,7 @@ struct Request {
 
 void Describe(CLI::App& app, Request& request) {
   app.set_version_flag("--version", std::string("kelifc ") + KELIFC_VERSION);
+  app.allow_windows_style_options(false);  // a path may begin with a slash
   app.require_subcommand(1);
   constexpr auto kModel = "MODEL.ifc";
 

@@ -35,6 +35,8 @@ void LoadConvertible(IfcServer& model, const std::string& path) {
 }  // namespace
 
 void RunStructure(const StructureOptions& options) {
+  const KelIFC::LocalClasses classes;  // the command works without an entry in a registry
+  Check(classes.GetStatus());
   const ComPtr<IIFCServer> server = MakeServer();
   IfcServer& model = *KelIFC::GetModel(server.Get());
   LoadConvertible(model, options.model);
