@@ -9,6 +9,10 @@ set(CMAKE_CXX_COMPILER ${triple}-g++-posix)
 set(CMAKE_RC_COMPILER ${triple}-windres)
 set(KELIFC_WIDL ${triple}-widl CACHE STRING "Makes a type library from IDL")
 
+# Tests run under Wine.
+find_program(KELIFC_WINE NAMES wine64 wine PATHS /usr/lib/wine)
+set(CMAKE_CROSSCOMPILING_EMULATOR "${KELIFC_WINE}")
+
 set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
 set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
 

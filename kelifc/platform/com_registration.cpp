@@ -116,7 +116,7 @@ HRESULT Unregister() {
   for (const ComClass& type : ComClasses()) isGone = DeleteClass(type) && isGone;
   const HRESULT status = UnregisterTypeLibrary();
   if (!isGone) return SELFREG_E_CLASS;
-  return SUCCEEDED(status) || status == TYPE_E_REGISTRYACCESS ? S_OK : SELFREG_E_TYPELIB;
+  return FAILED(status) ? SELFREG_E_TYPELIB : S_OK;
 }
 
 }  // namespace

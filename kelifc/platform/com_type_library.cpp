@@ -2,6 +2,7 @@
 
 #include <oleauto.h>
 
+#include "kelifc/platform/com_bstr.h"
 #include "kelifc/platform/com_class.h"
 #include "kelifc/platform/com_ptr.h"
 
@@ -19,6 +20,10 @@ HRESULT RegisterTypeLibrary(const wchar_t* file) {
 
 HRESULT UnregisterTypeLibrary() {
   const TypeLibraryVersion version = ComTypeLibrary();
+  Bstr path;
+  const HRESULT status = QueryPathOfRegTypeLib(version.identifier, version.major, version.minor,
+                                               LOCALE_NEUTRAL, path.Put());
+  if (FAILED(status)) return S_OK;
   return UnRegisterTypeLib(version.identifier, version.major, version.minor, LOCALE_NEUTRAL,
                            SYS_WIN64);
 }

@@ -10,7 +10,8 @@ namespace KelIFC {
 /// The type library as the registry has it, counted: TYPE_E_LIBNOTREGISTERED where it does not.
 HRESULT LoadTypeLibrary(ITypeLib** out);
 
-/// Enters the type library in the registry, and takes it out again. `file` is the library's own.
+/// Enters the type library in the registry, and takes it out again; one that is not there is no
+/// failure. `file` is the library's own.
 HRESULT RegisterTypeLibrary(const wchar_t* file);
 HRESULT UnregisterTypeLibrary();
 

@@ -12,4 +12,12 @@
 #define KELIFC_API __attribute__((visibility("default")))
 #endif
 
+/// Marks an interface, of which the library shows nothing but its form: where a mark is about code,
+/// hosts need none of it.
+#if defined(_WIN32)
+#define KELIFC_INTERFACE
+#else
+#define KELIFC_INTERFACE KELIFC_API
+#endif
+
 #endif  // KELIFC_PLATFORM_EXPORT_H_

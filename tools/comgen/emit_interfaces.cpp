@@ -32,7 +32,7 @@ void EmitOperation(TextWriter& out, const Operation& operation) {
 void EmitInterface(TextWriter& out, const Interface& interface) {
   out.Doc("", interface.doc);
   const std::string base = interface.base.empty() ? "IDispatch" : interface.base;
-  out.Line("struct KELIFC_API " + interface.name + " : " + base + " {");
+  out.Line("struct KELIFC_INTERFACE " + interface.name + " : " + base + " {");
   out.Line("  static constexpr IID kIid = {");
   out.Line("      " + IdentifierMembers(interface.identifier) + "};");
   bool wasReserved = false;

@@ -21,7 +21,7 @@ const std::string kClass = "class CoMore \"Lib.More.1\" " + kId4 + " : IMore, IT
 TEST(EmitInterfaces, WritesAStructWithItsOperationsInOrder) {
   EXPECT_THAT(Emitted(EmitInterfaces, kThing), HasSubstr(R"(
 /// A thing.
-struct KELIFC_API IThing : IDispatch {
+struct KELIFC_INTERFACE IThing : IDispatch {
   static constexpr IID kIid = {
       0x11111111, 0x1111, 0x1111, {0x11, 0x11, 0x11, 0x11, 0x11, 0x11, 0xAA, 0xAA}};
 
@@ -42,7 +42,7 @@ struct KELIFC_API IThing : IDispatch {
 
 TEST(EmitInterfaces, DerivesFromTheBase) {
   EXPECT_THAT(Emitted(EmitInterfaces, kThing + kMore),
-              HasSubstr("struct KELIFC_API IMore : IThing {\n"));
+              HasSubstr("struct KELIFC_INTERFACE IMore : IThing {\n"));
 }
 
 TEST(EmitInterfaces, DeclaresAllInterfacesAheadOfTheFirst) {

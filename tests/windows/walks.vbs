@@ -1,0 +1,92 @@
+' Walks each collection of a structure by For Each, by index and by the default member, and looks at
+' what a script sees of errors. Says what differs, and ends with 1 if anything does.
+Option Explicit
+
+Dim server, model, failures
+failures = 0
+Set server = CreateObject("KelIFC.IFCServer")
+server.Load WScript.Arguments(0)
+Set model = server.Structure
+
+Walk "storeys", model.Storeys
+Walk "columns", model.Columns
+Walk "beams", model.Beams
+Walk "walls", model.Walls
+Walk "plates", model.Plates
+Walk "foots", model.Foots
+Walk "sections", model.Sections
+Walk "objects", model.Objects
+Walk "materials", model.Materials
+
+Dim wall, plate, section, beam, face
+For Each wall In model.Walls
+  Walk "windows", wall.Windows
+  Walk "doors", wall.Doors
+  Expect "open", wall.IsOpen, False
+Next
+For Each plate In model.Plates
+  Walk "holes", plate.Holes
+Next
+For Each section In model.Sections
+  Expect "section by name", model.Sections(section.Name).Name, section.Name
+Next
+For Each beam In model.Beams
+  For Each face In beam.BRep.Faces
+    Expect "numbers", face.Numbers(1) > 0, True
+  Next
+Next
+
+Expect "version", model.Version, "25.0.3857"
+Expect "compatible", model.IsCompatible("25.0.1"), True
+Expect "not compatible", model.IsCompatible("26.0.1"), False
+Expect "code", model.Columns(1).ObjectCode, 4
+
+' A name is changed in the object, never in the model.
+model.Columns(1).Name = "renamed"
+Expect "new name", model.Columns(1).Name, "renamed"
+model.Columns(1).Points(1).X = 1.5
+Expect "new coordinate", model.Columns(1).Points(1).X, 1.5
+
+On Error Resume Next
+Dim nothingAtAll
+Set nothingAtAll = model.Columns.Item(0)
+ExpectError "index 0", 5
+Set nothingAtAll = model.Columns.Item(model.Columns.Count + 1)
+ExpectError "index past the end", &H80004005
+Set nothingAtAll = model.Sections("no such section")
+ExpectError "name of no section", &H80004005
+nothingAtAll = model.NoSuchName
+ExpectError "unknown name", 438
+server.Load "no such file.ifc"
+Expect "words of an error", Err.Description, "no such file.ifc was not found or cannot be opened."
+ExpectError "missing file", &H80030002
+server.Load WScript.Arguments(1)
+Expect "words of an error", Err.Description, "The IFC release of " & WScript.Arguments(1) & " cannot be converted."
+ExpectError "file of an old release", &H80030002
+WScript.Quit failures
+
+Sub Walk(name, collection)
+  Dim item, count
+  count = 0
+  For Each item In collection
+    count = count + 1
+    If name <> "materials" Then
+      If name <> "objects" Then
+        Expect name & " by index", collection.Item(count).Name, item.Name
+        Expect name & " by the default member", collection(count).Name, item.Name
+      End If
+    End If
+  Next
+  Expect "count of " & name, collection.Count, count
+End Sub
+
+Sub Expect(what, given, wanted)
+  If given = wanted Then Exit Sub
+  WScript.Echo what & ": " & given & ", not " & wanted
+  failures = 1
+End Sub
+
+Sub ExpectError(what, number)
+  Expect "error of " & what, Hex(Err.Number), Hex(number)
+  Err.Clear
+End Sub
