@@ -51,6 +51,20 @@ if(TARGET kelifc_command)
   install(TARGETS kelifc_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 endif()
 
+# On Windows the whole is a folder to unpack: library and command in bin, what script hosts and other
+# compilers build on in share, with examples for both.
+if(WIN32)
+  install(FILES "${PROJECT_BINARY_DIR}/generated/kelifc/geo/kelifc.idl"
+    "${PROJECT_BINARY_DIR}/KelIFC.tlb" DESTINATION "${CMAKE_INSTALL_DATADIR}/KelIFC")
+  install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples" DESTINATION "${CMAKE_INSTALL_DATADIR}/KelIFC")
+  install(FILES "${PROJECT_SOURCE_DIR}/docs/windows.md" "${PROJECT_SOURCE_DIR}/docs/object-model.md"
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_PACKAGE_FILE_NAME "KelIFC-${PROJECT_VERSION}-win64")
+  set(CPACK_STRIP_FILES ON)
+  include(CPack)
+endif()
+
 # The reference pages of the entity classes, which schemac leaves beside them.
 install(DIRECTORY "${PROJECT_BINARY_DIR}/generated/docs/reference"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}")

@@ -20,11 +20,20 @@ namespace fs = std::filesystem;
 constexpr int kCannotOpen = 1;
 constexpr int kNoStepFile = 2;
 
+/// The path of a name as the command line gives it: of the system's code page on Windows.
+fs::path PathOf(const std::string& name) {
+#ifdef _WIN32
+  return KelIFC::WidePath(name);
+#else
+  return name;
+#endif
+}
+
 /// The size of a file of which at least the first byte can be read. The load itself cannot tell
 /// why a file is not to be had, and would take a folder for a file of the wrong kind.
 std::uint64_t SizeOfReadable(const std::string& path) {
   std::error_code error;
-  const fs::file_status status = fs::status(path, error);
+  const fs::file_status status = fs::status(PathOf(path), error);
   if (status.type() == fs::file_type::directory) {
     throw Failure(Status::kFile, path, std::strerror(EISDIR));
   }
@@ -38,7 +47,7 @@ std::uint64_t SizeOfReadable(const std::string& path) {
     if (std::ferror(file.get()) != 0) throw Failure(Status::kFile, path, std::strerror(errno));
     throw Failure(Status::kNoModel, path, "the file is empty");
   }
-  return fs::file_size(path, error);
+  return fs::file_size(PathOf(path), error);
 }
 
 }  // namespace
