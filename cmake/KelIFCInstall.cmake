@@ -14,7 +14,8 @@ set(internal_headers
   geo/class_bases
   geometry/box2 geometry/polygon2 geometry/polygon_normal geometry/rotation2 geometry/segment2
   geometry/triangle
-  platform/com_class platform/com_guard platform/com_module platform/com_object
+  platform/com_class platform/com_dispatch platform/com_guard platform/com_module
+  platform/com_object platform/com_registration platform/com_type_library
   platform/local_time platform/new_guid platform/path
   schema/bodies schema/record schema/references
   server/block_search server/file_output server/name_table server/release_tables server/scanner

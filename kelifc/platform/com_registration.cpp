@@ -39,8 +39,7 @@ HRESULT FindOwnFile(std::wstring& file) {
   }
   file.assign(MAX_PATH, L'\0');
   while (true) {
-    const DWORD length =
-        GetModuleFileNameW(module, file.data(), static_cast<DWORD>(file.size()));
+    const DWORD length = GetModuleFileNameW(module, file.data(), static_cast<DWORD>(file.size()));
     if (length == 0) return HRESULT_FROM_WIN32(GetLastError());
     if (length < file.size()) {
       file.resize(length);
@@ -61,8 +60,8 @@ class EntryWriter {
                              &handle, nullptr);
     if (result != ERROR_SUCCESS) return;
     const auto size = static_cast<DWORD>((text.size() + 1) * sizeof(wchar_t));
-    result = RegSetValueExW(handle, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()),
-                            size);
+    result =
+        RegSetValueExW(handle, name, 0, REG_SZ, reinterpret_cast<const BYTE*>(text.c_str()), size);
     RegCloseKey(handle);
   }
 

@@ -43,8 +43,8 @@ class FailingFactoryObject : public IClassFactory {
   HRESULT failure;
 };
 
-/// Puts a class object in the place of the library's own. Where the one that was registered first is
-/// found first, the library's come anew behind it.
+/// Puts a class object in the place of the library's own. Where the one that was registered first
+/// is found first, the library's come anew behind it.
 inline DWORD RegisterAhead(const CLSID& clsid, IUnknown& factory) {
   DWORD cookie = 0;
   ForgetClasses();

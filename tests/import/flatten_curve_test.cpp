@@ -249,7 +249,8 @@ TYPED_TEST(FlattenedCurve, OfPointsThatAreNoNumbersEnds) {
   const auto arc =
       m.Add("IFCTRIMMEDCURVE(" + circle + ",(" + distant + "),(" + distant + "),.T.,.CARTESIAN.)");
   EXPECT_LE(this->Flatten(arc).size(), 68u);
-  const auto centre = m.Add("IFCCIRCLE(" + m.Add("IFCAXIS2PLACEMENT2D(" + distant + ",$)") + ",1.)");
+  const auto centre =
+      m.Add("IFCCIRCLE(" + m.Add("IFCAXIS2PLACEMENT2D(" + distant + ",$)") + ",1.)");
   const auto around =
       m.Add("IFCTRIMMEDCURVE(" + centre + ",(" + distant + "),(" + distant + "),.F.,.CARTESIAN.)");
   EXPECT_LE(this->Flatten(around).size(), 68u);

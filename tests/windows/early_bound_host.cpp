@@ -1,6 +1,6 @@
-// A host that is compiled against the interfaces: makes an object of each class that the type library
-// tells of and asks it for each of its interfaces, then reads a model. It links nothing of the
-// library; the system finds it by its registry.
+// A host that is compiled against the interfaces: makes an object of each class that the type
+// library tells of and asks it for each of its interfaces, then reads a model. It links nothing of
+// the library; the system finds it by its registry.
 
 #include <cstdio>
 #include <stdexcept>

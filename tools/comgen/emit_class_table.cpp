@@ -31,8 +31,8 @@ void EmitClassTable(const Description& description, const std::string& version, 
   out.Line("std::span<const ComClass> ComClasses() { return kClasses; }");
   out.Line();
   const auto dot = version.find('.');
-  out.Line("TypeLibraryVersion ComTypeLibrary() { return {LIBID_" + description.library.name + ", " +
-           version.substr(0, dot) + ", " + version.substr(dot + 1) + "}; }");
+  out.Line("TypeLibraryVersion ComTypeLibrary() { return {LIBID_" + description.library.name +
+           ", " + version.substr(0, dot) + ", " + version.substr(dot + 1) + "}; }");
   out.Line();
   out.Line("}  // namespace KelIFC");
   files["kelifc/geo/class_table.cpp"] = out.Text();

@@ -120,8 +120,8 @@ class InterfaceWriter {
   /// Where an interface has two, that of the plain name.
   bool IsDefaultItem(const Operation& operation) const {
     const auto& all = interface.operations;
-    const bool hasPlain = std::any_of(
-        all.begin(), all.end(), [](const Operation& other) { return other.name == "Item"; });
+    const bool hasPlain = std::any_of(all.begin(), all.end(),
+                                      [](const Operation& other) { return other.name == "Item"; });
     return operation.name == "Item" || !hasPlain;
   }
 

@@ -17,12 +17,13 @@ void EmitInterfaces(const Description& description, Files& files);
 /// What the classes derive from: their interfaces with the reserved operations answered.
 void EmitBases(const Description& description, Files& files);
 
-/// The table of the classes that can be made, and the version, "MAJOR.MINOR", of their type library.
+/// The table of the classes that can be made, and the version, "MAJOR.MINOR", of their type
+/// library.
 void EmitClassTable(const Description& description, const std::string& version, Files& files);
 
-/// The interface definition for a type library of this version, "MAJOR.MINOR". Every operation has an
-/// identifier of its own over the whole library, so that a name can be looked up over the interfaces
-/// of a class.
+/// The interface definition for a type library of this version, "MAJOR.MINOR". Every operation has
+/// an identifier of its own over the whole library, so that a name can be looked up over the
+/// interfaces of a class.
 void EmitIdl(const Description& description, const std::string& version, Files& files);
 
 /// A test that compares the order of the operations with the compiler's layout.

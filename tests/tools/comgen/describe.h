@@ -46,6 +46,15 @@ inline std::string Emitted(void (*emit)(const Description&, Files&), const std::
   return files.begin()->second;
 }
 
+/// The same with the version that some emitters write.
+inline std::string Emitted(void (*emit)(const Description&, const std::string&, Files&),
+                           const std::string& body) {
+  Files files;
+  emit(Describe(body), "25.1", files);
+  EXPECT_EQ(files.size(), 1U);
+  return files.begin()->second;
+}
+
 }  // namespace comgen
 
 #endif  // KELIFC_TESTS_TOOLS_COMGEN_DESCRIBE_H_
