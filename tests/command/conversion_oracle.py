@@ -18,6 +18,7 @@ import subprocess
 import sys
 
 SKIPPED = 77
+OTHER_FOOTINGS = (".FOOTING_BEAM.", ".PILE_CAP.", ".STRIP_FOOTING.", ".USERDEFINED.")
 # Texts that do not end in this dialect make the library read fewer instances than others do.
 OTHER_DIALECT = {"archicad-rooftop.ifc", "composite-profile-quotes.ifc"}
 CONVERTIBLE = {"IFC2X_FINAL": "2x", "IFC2X2_FINAL": "2x2", "IFC2X3": "2x3", "IFC2X3_FINAL": "2x3"}
@@ -146,7 +147,7 @@ class Reader:
 
     def point(self, ref, dimensions):
         """None unless the point has that many coordinates."""
-        if ref not in self.model.items:
+        if self.model.kind(ref) != "IFCCARTESIANPOINT":
             return None
         c = self.model.args(ref)[0]
         if dimensions == 3 and len(c) != 3 or len(c) < dimensions:
@@ -154,7 +155,7 @@ class Reader:
         return [x * self.scale for x in c[:dimensions]]
 
     def direction(self, ref, dimensions):
-        ratios = self.model.args(ref)[0] if ref in self.model.items else []
+        ratios = self.model.args(ref)[0] if self.model.kind(ref) == "IFCDIRECTION" else []
         return list(ratios) if len(ratios) == dimensions else [0.0] * dimensions
 
     def placement(self, ref):
@@ -162,10 +163,10 @@ class Reader:
         if self.model.kind(ref) != "IFCAXIS2PLACEMENT3D":
             return IDENTITY
         location, axis, x = self.model.args(ref)
-        if location not in self.model.items:
+        if self.model.kind(location) != "IFCCARTESIANPOINT":
             return IDENTITY
         origin = self.point(location, 3) or [0.0] * 3
-        if axis is None or x is None:
+        if any(self.model.kind(d) != "IFCDIRECTION" for d in (axis, x)):
             x, y = [1, 0, 0], [0, 1, 0]
         else:
             x = self.direction(x, 3)
@@ -195,16 +196,38 @@ def turn(x, y, angle):
     return [x * math.cos(angle) - y * math.sin(angle), x * math.sin(angle) + y * math.cos(angle)]
 
 
+COMPOSITES = ("IFCCOMPOSITECURVE", "IFC2DCOMPOSITECURVE")
+
+
 class Profiles(Reader):
+    def dimension(self, ref):
+        """That of the first point that a curve leads to; 3 where it does not tell."""
+        kind, args = self.model.kind(ref), self.model.args(ref) if ref in self.model.items else []
+        if kind == "IFCPOLYLINE":
+            return len(self.model.args(args[0][0])[0]) if args[0] else 3
+        if kind == "IFCLINE":
+            return len(self.model.args(args[0])[0])
+        if kind in ("IFCCIRCLE", "IFCELLIPSE"):
+            return len(self.model.args(self.model.args(args[0])[0])[0])
+        if kind == "IFCTRIMMEDCURVE":
+            return self.dimension(args[0])
+        if kind in COMPOSITES:
+            return self.dimension(self.model.args(args[0][0])[2]) if args[0] else 3
+        return 3
+
     def flatten(self, ref):
         """The outline of a curve without its closing point; None for a curve not understood."""
         kind = self.model.kind(ref)
         if kind == "IFCPOLYLINE":
             points = self.model.args(ref)[0]
             dimensions = len(self.model.args(points[0])[0]) if points else 0
+            if dimensions not in (2, 3):
+                return [[0.0] * 3 for _ in points[:-1]]
             read = [self.point(p, dimensions) for p in points[:-1]]
             return [(p + [0.0])[:3] for p in read]
-        if kind == "IFCCOMPOSITECURVE":
+        if kind in COMPOSITES:
+            if self.dimension(ref) != 2:
+                return []
             outline = []
             for number, segment in enumerate(self.model.args(ref)[0], 1):
                 _, sense, curve = self.model.args(segment)
@@ -493,7 +516,10 @@ class Structure(Profiles):
         kind = self.model.kind(profile)
         start = [0.0, 0.0, 0.0]
         if kind in ("IFCCIRCLEPROFILEDEF", "IFCCIRCLEHOLLOWPROFILEDEF"):
-            start = (self.position2(profile) or ([0.0, 0.0], 0))[0] + [0.0]
+            position2 = self.position2(profile)
+            if position2 is None:
+                return "", [], None
+            start = position2[0] + [0.0]
             section = self.sections.get("C", (2 * self.scale * self.model.args(profile)[3],))
         elif kind in ("IFCRECTANGLEPROFILEDEF", "IFCRECTANGLEHOLLOWPROFILEDEF"):
             location, angle = self.position2(profile) or ([0.0, 0.0], 0.0)
@@ -614,7 +640,8 @@ class Structure(Profiles):
             contour = self.contour(profile)
             if len(contour) <= 2:
                 continue
-            slope = unit(self.direction(direction, 3))[2]
+            along = self.direction(direction, 3)
+            slope = unit(along)[2] if any(along) else 1.0
             points = self.middle(n, contour, position, direction, depth)
             section = self.sections.get("H", (abs(slope) * depth * self.scale,))
             holes = [self.hole(o) for o in self.openings(n)]
@@ -624,7 +651,8 @@ class Structure(Profiles):
     def read_foots(self):
         foots = []
         for n in self.model.all("IFCFOOTING") if self.model.release != "2x" else []:
-            if self.model.args(n)[8] not in (None, ".NOTDEFINED.", ".PAD_FOOTING."):
+            # A type that is none of the schema counts as not defined.
+            if self.model.args(n)[8] in OTHER_FOOTINGS:
                 continue
             foot = self.element(n, "", [])
             del foot["points"]
