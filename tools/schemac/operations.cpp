@@ -21,6 +21,12 @@ bool IsText(Kind kind) {
          kind == Kind::kGlobalId64 || kind == Kind::kGlobalId85;
 }
 
+/// True for values that are dear to copy.
+bool HoldsMemory(Kind kind) {
+  return kind == Kind::kLabels || kind == Kind::kAngle || kind == Kind::kEnumText ||
+         kind == Kind::kCoordinates;
+}
+
 bool IsAggregate(Kind kind) { return kind == Kind::kSet || kind == Kind::kList; }
 
 struct ValueWord {
@@ -270,7 +276,9 @@ class OperationWriter {
       resolved.body = {member + " = text;"};
     } else {
       const std::string stored = StoredType(*attribute, model.release);
-      resolved.parameters = (attribute->kind == Kind::kBoolean ? "bool" : stored) + " value";
+      resolved.parameters = attribute->kind == Kind::kBoolean ? "bool value"
+                            : HoldsMemory(attribute->kind)    ? "const " + stored + "& value"
+                                                              : stored + " value";
       resolved.body = {member + " = " +
                        (attribute->kind == Kind::kBoolean ? "BOOLEAN(value);" : "value;")};
     }

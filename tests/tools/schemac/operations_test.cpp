@@ -48,6 +48,11 @@ TEST(ResolveOperations, GivesTextsAsLabelsWhereTheReleaseHasThem) {
             (Texts{"STRING GetX() const", "void SetX(const char* text)"}));
 }
 
+TEST(ResolveOperations, TakesByReferenceWhatIsDearToCopy) {
+  EXPECT_EQ(OperationsOf("  Point coordinates\n  Size real\n  ops SetPoint, SetSize\n"),
+            (Texts{"void SetPoint(const COORDINATES& value)", "void SetSize(REAL value)"}));
+}
+
 TEST(ResolveOperations, GivesStoredMeasuresUnderNamesThatSpeakOfComputing) {
   EXPECT_EQ(OperationsOf("  Area real\n  Volume real\n  ops calcArea, CalcVolume\n"),
             (Texts{"REAL calcArea() const", "REAL CalcVolume() const"}));
