@@ -2,6 +2,7 @@
 option(KELIFC_BUILD_COMMAND "Build the kelifc command" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+option(KELIFC_BUILD_FUZZERS "Build the fuzz targets, with clang++ and -fsanitize=fuzzer-no-link" OFF)
 option(KELIFC_INSTALL "Make the install rules" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
 
