@@ -2,9 +2,9 @@
 
 #include <cstdlib>
 
-#include "kelifc/geo/interfaces.h"
-#include "kelifc/platform/com.h"
+#include "kelifc/model_access.h"
 
+#include "bench/conversion.h"
 #include "bench/model.h"
 
 namespace {
@@ -17,30 +17,9 @@ void Require(HRESULT status) {
 
 /// A server object that holds the model, nothing of it converted.
 ComPtr<IIFCServer> LoadForHost() {
-  ComPtr<IIFCServer> server;
-  Require(CoCreateInstance(CLSID_CoIFCServer, nullptr, CLSCTX_ALL, IidOf<IIFCServer>(),
-                           reinterpret_cast<void**>(server.Put())));
-  Require(server->Load(Bstr(WidePath(bench::GetModelPath())).Get()));
+  auto server = bench::MakeServer();
+  bench::LoadModel(*GetModel(server.Get()));
   return server;
-}
-
-/// Asks for one collection, which converts it, and gives its count.
-template <class Collection>
-LONG Convert(IGeoStructure& structure, HRESULT (IGeoStructure::*get)(Collection**)) {
-  ComPtr<Collection> collection;
-  Require((structure.*get)(collection.Put()));
-  LONG count = 0;
-  Require(collection->Count(&count));
-  return count;
-}
-
-LONG ConvertAll(IGeoStructure& structure) {
-  return Convert(structure, &IGeoStructure::get_Storeys) +
-         Convert(structure, &IGeoStructure::get_Columns) +
-         Convert(structure, &IGeoStructure::get_Beams) +
-         Convert(structure, &IGeoStructure::get_Walls) +
-         Convert(structure, &IGeoStructure::get_Plates) +
-         Convert(structure, &IGeoStructure::get_Foots);
 }
 
 // The conversion of all collections of a loaded model.
@@ -49,10 +28,9 @@ void ConvertWholeModel(benchmark::State& state) {
   for (auto _ : state) {
     state.PauseTiming();
     auto server = LoadForHost();
-    ComPtr<IGeoStructure> structure;
-    Require(server->get_Structure(structure.Put()));
+    auto structure = bench::GetStructure(*server);
     state.ResumeTiming();
-    elements = ConvertAll(*structure);
+    elements = bench::ConvertAll(*structure);
     state.PauseTiming();
     structure.Reset();
     server.Reset();
@@ -66,8 +44,7 @@ BENCHMARK(ConvertWholeModel)->Unit(benchmark::kMillisecond)->Iterations(5);
 // The storey of each wall, which is looked for anew at each call.
 void FindStoreysOfWalls(benchmark::State& state) {
   const auto server = LoadForHost();
-  ComPtr<IGeoStructure> structure;
-  Require(server->get_Structure(structure.Put()));
+  const auto structure = bench::GetStructure(*server);
   ComPtr<IGeoWalls> walls;
   Require(structure->get_Walls(walls.Put()));
   LONG count = 0;

@@ -17,4 +17,17 @@ void LoadWholeModel(benchmark::State& state) {
 }
 BENCHMARK(LoadWholeModel)->Unit(benchmark::kMillisecond);
 
+// The destruction of a whole model.
+void ResetWholeModel(benchmark::State& state) {
+  KelIFC::IfcServer server;
+  for (auto _ : state) {
+    state.PauseTiming();
+    bench::LoadModel(server);
+    state.ResumeTiming();
+    server.Reset();
+  }
+  state.SetBytesProcessed(state.iterations() * bench::GetModelSize());
+}
+BENCHMARK(ResetWholeModel)->Unit(benchmark::kMillisecond)->Iterations(5);
+
 }  // namespace

@@ -1,24 +1,32 @@
 #!/usr/bin/env python3
-"""Writes a building model of release 2x3 of any size, the same one for the same size.
+"""Writes a building model of any size, the same one for the same options.
 
-    python3 bench/make_model.py --megabytes 200 OUT.ifc
+    python3 bench/make_model.py --megabytes 200 --release 2x2 --shuffled OUT.ifc
 
-The model is a stack of storeys with walls, columns, slabs and doors. Each element has a placement,
-a body (an extruded polyline, or faces), and a property set, in about the proportions of models that
-are exchanged in practice: two thirds of the statements are points, loops and faces.
+The model is a stack of storeys with walls and the doors in them, columns, beams, slabs, footings
+and fittings. Each has a placement, a body and a property set, in about the proportions of models
+that are exchanged in practice: more than half of the statements are points, loops and faces, and
+most of these belong to fittings, which are no structure; of the columns and beams one in ten is
+made of faces.
+Instance numbers rise with a gap here and there, or are shuffled over the whole file.
 """
 
 import argparse
+import math
 import random
+import re
 
 ELEMENTS_PER_STOREY = 400
+BYTES_PER_STATEMENT = 50  # at the least, so that shuffled numbers do not collide
+SCHEMAS = {"2x2": "IFC2X2_FINAL", "2x3": "IFC2X3"}
+REFERENCE = re.compile(r"#(\d+)")
 BASE64 = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_$"
 
 HEADER = """ISO-10303-21;
 HEADER;
 FILE_DESCRIPTION(('ViewDefinition [CoordinationView]'),'2;1');
 FILE_NAME('model.ifc','2020-01-01T12:00:00',(''),(''),'make_model','','');
-FILE_SCHEMA(('IFC2X3'));
+FILE_SCHEMA(('{schema}'));
 ENDSEC;
 DATA;
 """
@@ -36,13 +44,35 @@ def refs(numbers):
     return "(" + ",".join(f"#{n}" for n in numbers) + ")"
 
 
+def prime_above(number):
+    """The least prime above a number."""
+    while True:
+        number += 1
+        if all(number % divisor for divisor in range(2, math.isqrt(number) + 1)):
+            return number
+
+
+# Entity, what stands behind the attributes that all have, and the size in millimetres.
+KINDS = (("IFCWALLSTANDARDCASE", "", 5000.0, 240.0, 2750.0),
+         ("IFCCOLUMN", "", 300.0, 300.0, 2750.0),
+         ("IFCBUILDINGELEMENTPROXY", ",$", 800.0, 600.0, 900.0),
+         ("IFCSLAB", ",.FLOOR.", 6000.0, 4000.0, 200.0),
+         ("IFCBEAM", "", 200.0, 400.0, 5000.0),
+         ("IFCBUILDINGELEMENTPROXY", ",$", 500.0, 500.0, 450.0),
+         ("IFCWALLSTANDARDCASE", "", 4000.0, 115.0, 2750.0),
+         ("IFCFOOTING", ",.PAD_FOOTING.", 1500.0, 1500.0, 600.0))
+
+SCALES = (0.5, 0.75, 1.0, 1.25, 1.5)  # of the width: sections that recur
+
+
 class Model:
     """Gathers statements and hands out their numbers."""
 
-    def __init__(self, out, size):
+    def __init__(self, out, size, release, shuffled):
         self.out = out
         self.size = size
-        self.written = out.write(HEADER)
+        self.prime = prime_above(size // BYTES_PER_STATEMENT) if shuffled else 0
+        self.written = out.write(HEADER.replace("{schema}", SCHEMAS[release]))
         self.lines = []
         self.last = 0
         self.random = random.Random(2003)
@@ -56,7 +86,13 @@ class Model:
     def flush(self):
         text = "".join(self.lines)
         self.lines.clear()
+        if self.prime:
+            text = REFERENCE.sub(self.shuffled, text)
         self.written += self.out.write(text)
+
+    def shuffled(self, reference):
+        """Multiplying by a fixed number modulo a prime puts all numbers in another order."""
+        return f"#{int(reference.group(1)) * 7368787 % self.prime}"
 
     def is_full(self):
         return self.written + len(FOOTER) >= self.size
@@ -151,28 +187,47 @@ class Model:
                        f"{refs(singles)})")
         self.add(f"IFCRELDEFINESBYPROPERTIES({self.root('$')},$,{refs([element])},#{own})")
 
-    def element(self, entity, tail, place, index):
+    def body(self, kind, index, sizes):
+        if kind == "IFCBUILDINGELEMENTPROXY" or (kind in ("IFCCOLUMN", "IFCBEAM") and
+                                                 index % 10 == 0):
+            return self.brep(*sizes)
+        return self.extrusion(*sizes)
+
+    def element(self, kind, tail, place, sizes, index):
+        """Gives the numbers of the element and of its placement."""
         x, y = self.random.uniform(0, 50000), self.random.uniform(0, 30000)
         own_place = self.placement(f"#{place}", x, y, 0.0)
-        sizes = (self.random.uniform(200, 8000), self.random.uniform(100, 500), 2750.0)
-        body = self.brep(*sizes) if index % 3 == 0 else self.extrusion(*sizes)
+        body = self.body(kind, index, sizes)
         shape = self.add(f"IFCPRODUCTDEFINITIONSHAPE($,$,{refs([body])})")
-        name = f"{entity[3:].capitalize()}-{index:06d}"
-        number_ = self.add(f"{entity}({self.root(chr(39) + name + chr(39))},$,$,#{own_place},"
+        name = f"{kind[3:].capitalize()}-{index:06d}"
+        number_ = self.add(f"{kind}({self.root(chr(39) + name + chr(39))},$,$,#{own_place},"
                            f"#{shape},'{index}'{tail})")
         self.properties(number_, name)
-        return number_
+        return number_, own_place
+
+    def door(self, wall, place, index):
+        """An opening in a wall, and the door that fills it."""
+        opening, own_place = self.element("IFCOPENINGELEMENT", "", place, (1010.0, 400.0, 2135.0),
+                                          index)
+        self.add(f"IFCRELVOIDSELEMENT({self.root('$')},$,#{wall},#{opening})")
+        door, _ = self.element("IFCDOOR", ",2135.,1010.", own_place, (1010.0, 50.0, 2135.0), index)
+        self.add(f"IFCRELFILLSELEMENT({self.root('$')},$,#{opening},#{door})")
+        return door
 
     def storey(self, index):
         place = self.placement(f"#{self.building_place}", 0.0, 0.0, 3000.0 * index)
         level = self.add(f"IFCBUILDINGSTOREY({self.root(chr(39) + 'Level ' + str(index) + chr(39))}"
                          f",$,$,#{place},$,$,.ELEMENT.,{number(3000.0 * index)})")
         elements = []
-        kinds = (("IFCWALLSTANDARDCASE", ""), ("IFCCOLUMN", ""), ("IFCSLAB", ",.FLOOR."),
-                 ("IFCBEAM", ""))
         for i in range(ELEMENTS_PER_STOREY):
-            entity, tail = kinds[i % len(kinds)]
-            elements.append(self.element(entity, tail, place, index * ELEMENTS_PER_STOREY + i))
+            number_ = index * ELEMENTS_PER_STOREY + i
+            kind, tail, width, depth, height = KINDS[i % len(KINDS)]
+            scale = self.random.choice(SCALES)
+            element, own_place = self.element(kind, tail, place, (scale * width, depth, height),
+                                              number_)
+            elements.append(element)
+            if kind == "IFCWALLSTANDARDCASE" and i % 3 == 0:
+                elements.append(self.door(element, own_place, number_))
             self.flush()
             if self.is_full():
                 break
@@ -195,10 +250,12 @@ class Model:
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n", maxsplit=1)[0])
     parser.add_argument("--megabytes", type=float, default=10, help="size of the file, about")
+    parser.add_argument("--release", choices=sorted(SCHEMAS), default="2x3", help="of the schema")
+    parser.add_argument("--shuffled", action="store_true", help="numbers in no order")
     parser.add_argument("output", metavar="OUT.ifc")
     arguments = parser.parse_args()
     with open(arguments.output, "w", encoding="ascii", newline="\n") as out:
-        Model(out, arguments.megabytes * 1e6).fill()
+        Model(out, int(arguments.megabytes * 1e6), arguments.release, arguments.shuffled).fill()
 
 
 if __name__ == "__main__":

@@ -5,6 +5,8 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
+#include <sstream>
 
 #include "fuzz/step_text.h"
 
@@ -13,16 +15,7 @@ namespace {
 
 constexpr int kMostRounds = 6;
 
-}  // namespace
-
-std::string SaveToText(KelIFC::IfcServer& server, MemoryFile& file) {
-  if (server.SaveIfcFile(file.GetPath()) != 0) std::abort();
-  const std::string text = file.Read();
-  const std::size_t data = text.find("\nDATA;\n");
-  if (data == std::string::npos) std::abort();
-  return text.substr(data);
-}
-
+/// True if a value stands in place in a record, also one without a name.
 bool HasValueInPlace(std::string_view statement) {
   int names = 0;
   for (std::size_t i = 1; i < statement.size(); ++i) {
@@ -35,9 +28,37 @@ bool HasValueInPlace(std::string_view statement) {
          });
 }
 
-bool HasValuesInPlace(const std::string& model) {
+}  // namespace
+
+std::string SaveToText(KelIFC::IfcServer& server, MemoryFile& file) {
+  if (server.SaveIfcFile(file.GetPath()) != 0) std::abort();
+  const std::string text = file.Read();
+  const std::size_t data = text.find("\nDATA;\n");
+  if (data == std::string::npos) std::abort();
+  return text.substr(data);
+}
+
+std::string WriteRecord(const KelIFC::IfcUnknown& instance) {
+  std::ostringstream out;
+  instance.Write(out) << ')';
+  return out.str();
+}
+
+bool IsRegular(KelIFC::IfcServer& server, const std::string& record) {
+  const std::unique_ptr<KelIFC::IfcUnknown> fresh(server.ParseClass(record.c_str(), nullptr));
+  if (fresh == nullptr || HasValueInPlace(record)) return false;
+  fresh->SetServer(&server);
+  const std::size_t count = CountAttributes(record);
+  return count != 0 && count == CountAttributes(WriteRecord(*fresh));
+}
+
+bool AreRegular(KelIFC::IfcServer& server, const std::string& model) {
   const auto statements = SplitStatements(model);
-  return std::any_of(statements.begin(), statements.end(), HasValueInPlace);
+  return std::all_of(statements.begin(), statements.end(), [&](const std::string& statement) {
+    const Span record = FindRightSide(statement);
+    return record.begin == 0 ||
+           IsRegular(server, statement.substr(record.begin, record.end - record.begin));
+  });
 }
 
 void RequireSettled(std::string text, const std::function<bool(std::string&)>& again) {

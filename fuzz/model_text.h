@@ -3,8 +3,8 @@
 
 #include <functional>
 #include <string>
-#include <string_view>
 
+#include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
 
 #include "fuzz/memory_file.h"
@@ -15,10 +15,16 @@ namespace fuzz {
 /// overwritten.
 std::string SaveToText(KelIFC::IfcServer& server, MemoryFile& file);
 
-/// True if a value stands in place in a statement. One whose name is unknown is written in a form
-/// that reads as something else.
-bool HasValueInPlace(std::string_view statement);
-bool HasValuesInPlace(const std::string& model);
+/// The record of an instance, with its closing parenthesis.
+std::string WriteRecord(const KelIFC::IfcUnknown& instance);
+
+/// True if the record, `NAME(...)`, has as many attributes as one of its class has that holds
+/// nothing, and no value stands in place in it. Others tell of a value in place that holds the rest
+/// of a damaged record: it is written, and then read, as something else each time.
+bool IsRegular(KelIFC::IfcServer& server, const std::string& record);
+
+/// The same for all statements of a saved model.
+bool AreRegular(KelIFC::IfcServer& server, const std::string& model);
 
 /// Calls `again`, which makes a text from the one before, until that does not change any more or
 /// `again` gives false. Ends the process with the last two on the error stream if that takes more

@@ -1,14 +1,11 @@
 #include <cstddef>
 #include <cstdint>
-#include <memory>
-#include <sstream>
 #include <string>
 
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
 
 #include "fuzz/model_text.h"
-#include "fuzz/step_text.h"
 
 // One statement: what was read from any text and written settles, read and written again, within a
 // few rounds. Few rounds, not one: a person of the newer releases loses a name in each. The first
@@ -27,26 +24,6 @@ IfcUnknown* Read(IfcServer& server, const std::string& text) {
   return instance;
 }
 
-std::string Write(const IfcUnknown& instance) {
-  std::ostringstream out;
-  instance.Write(out) << ')';
-  return out.str();
-}
-
-/// True if both are records of as many attributes. One too many tells of a value in place that
-/// holds the rest of a damaged record: it is written, and then read, as something else each time.
-bool HasAttributesOf(const std::string& text, const std::string& other) {
-  const std::size_t count = fuzz::CountAttributes(text);
-  return count != 0 && count == fuzz::CountAttributes(other);
-}
-
-/// The class of `text` with nothing in it.
-std::string WriteNew(IfcServer& server, const std::string& text) {
-  const std::unique_ptr<IfcUnknown> instance(server.ParseClass(text.c_str(), nullptr));
-  instance->SetServer(&server);
-  return Write(*instance);
-}
-
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -58,8 +35,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     server.SetRelease(release);
     const IfcUnknown* instance = Read(server, text);
     if (instance == nullptr) return false;
-    text = Write(*instance);
-    return !fuzz::HasValueInPlace(text) && HasAttributesOf(text, WriteNew(server, text));
+    text = fuzz::WriteRecord(*instance);
+    return fuzz::IsRegular(server, text);
   });
   return 0;
 }

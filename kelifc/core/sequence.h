@@ -8,6 +8,8 @@
 #include <type_traits>
 #include <utility>
 
+#include "kelifc/core/block_memory.h"
+
 namespace KelIFC {
 
 /// Stands for no header in front of the elements of a Sequence.
@@ -131,7 +133,7 @@ class Sequence {
     if (count == 0) return;
     if (count > kMaximum) throw std::bad_array_new_length();
     const std::size_t prefix = count < kHeaderCapacity ? 0 : kHeaderSize;
-    char* block = static_cast<char*>(::operator new(prefix + count * kItemBytes));
+    char* block = static_cast<char*>(AllocateBlock(prefix + count * kItemBytes));
     if (count >= kHeaderCapacity) ::new (static_cast<void*>(block)) Header();
     items = reinterpret_cast<T*>(block + prefix);
     capacity = static_cast<std::uint32_t>(count) & 0x7FFFFFFF;
@@ -167,7 +169,7 @@ class Sequence {
       header->~Header();
       block -= kHeaderSize;
     }
-    ::operator delete(block);
+    FreeBlock(block);
   }
 
   Counts GetCounts() const { return {size, capacity, mark}; }

@@ -9,6 +9,14 @@ namespace KelIFC {
 
 IfcUnknown::~IfcUnknown() = default;
 
+void* IfcUnknown::operator new(std::size_t size, const std::nothrow_t&) noexcept {
+  try {
+    return AllocateBlock(size);
+  } catch (const std::bad_alloc&) {
+    return nullptr;
+  }
+}
+
 const char* IfcUnknown::GetItemName() { return "IfcUnknown"; }
 const char* IfcUnknown::GetStepName() const { return IfcUnknown::GetItemName(); }
 

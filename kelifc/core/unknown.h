@@ -1,8 +1,11 @@
 #ifndef KELIFC_CORE_UNKNOWN_H_
 #define KELIFC_CORE_UNKNOWN_H_
 
+#include <cstddef>
 #include <iosfwd>
+#include <new>
 
+#include "kelifc/core/block_memory.h"
 #include "kelifc/platform/export.h"
 
 namespace KelIFC {
@@ -40,6 +43,14 @@ class KELIFC_API IfcUnknown {
   virtual IfcServer* GetServer();
   virtual const IfcServer* GetServer() const;
   virtual void SetServer(IfcServer* model);
+
+  /// The memory of an instance; see block_memory.h.
+  static void* operator new(std::size_t size) { return AllocateBlock(size); }
+  static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
+  static void* operator new(std::size_t, void* place) noexcept { return place; }
+  static void operator delete(void* memory) noexcept { FreeBlock(memory); }
+  static void operator delete(void* memory, const std::nothrow_t&) noexcept { FreeBlock(memory); }
+  static void operator delete(void*, void*) noexcept {}
 
   /// A copy knows the same model, but is not in it.
   IfcUnknown(const IfcUnknown&) = default;

@@ -20,15 +20,14 @@ inline const KelIFC2x::IfcProject* ProjectOf(const IfcServer& server, Release2x)
 }
 
 /// This release has no class of members.
-inline std::vector<const KelIFC2x::IfcBeam*> CollectBeams(const IfcServer& server, Release2x) {
+inline Products<KelIFC2x::IfcBeam> CollectBeams(const IfcServer& server, Release2x) {
   return CollectInstances<KelIFC2x::IfcBeam>(server);
 }
 
 /// Footings of this release are not converted.
 inline bool HasFootings(Release2x) { return false; }
-inline std::vector<const KelIFC2x::IfcBuildingElement*> CollectFootings(const IfcServer&,
-                                                                        Release2x) {
-  return {};
+inline Products<KelIFC2x::IfcBuildingElement> CollectFootings(const IfcServer& server, Release2x) {
+  return Products<KelIFC2x::IfcBuildingElement>(server);
 }
 inline bool IsFoot(const KelIFC2x::IfcBuildingElement&) { return false; }
 

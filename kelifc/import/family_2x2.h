@@ -19,14 +19,12 @@ inline const KelIFC2x2::IfcProject* ProjectOf(const IfcServer& server, Release2x
   return server.GetProject2x2();
 }
 
-inline std::vector<const KelIFC2x2::IfcBuildingElement*> CollectBeams(const IfcServer& server,
-                                                                      Release2x2) {
+inline Products<KelIFC2x2::IfcBuildingElement> CollectBeams(const IfcServer& server, Release2x2) {
   return CollectBeamsAndMembers<Release2x2>(server);
 }
 
 inline bool HasFootings(Release2x2) { return true; }
-inline std::vector<const KelIFC2x2::IfcFooting*> CollectFootings(const IfcServer& server,
-                                                                 Release2x2) {
+inline Products<KelIFC2x2::IfcFooting> CollectFootings(const IfcServer& server, Release2x2) {
   return CollectInstances<KelIFC2x2::IfcFooting>(server);
 }
 inline bool IsFoot(const KelIFC2x2::IfcFooting& footing) {

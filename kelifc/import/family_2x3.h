@@ -19,14 +19,12 @@ inline const KelIFC2x3::IfcProject* ProjectOf(const IfcServer& server, Release2x
   return server.GetProject2x3();
 }
 
-inline std::vector<const KelIFC2x3::IfcBuildingElement*> CollectBeams(const IfcServer& server,
-                                                                      Release2x3) {
+inline Products<KelIFC2x3::IfcBuildingElement> CollectBeams(const IfcServer& server, Release2x3) {
   return CollectBeamsAndMembers<Release2x3>(server);
 }
 
 inline bool HasFootings(Release2x3) { return true; }
-inline std::vector<const KelIFC2x3::IfcFooting*> CollectFootings(const IfcServer& server,
-                                                                 Release2x3) {
+inline Products<KelIFC2x3::IfcFooting> CollectFootings(const IfcServer& server, Release2x3) {
   return CollectInstances<KelIFC2x3::IfcFooting>(server);
 }
 inline bool IsFoot(const KelIFC2x3::IfcFooting& footing) {

@@ -14,7 +14,7 @@ namespace {
 
 template <class Element, class Release, class Collection, class Product>
 HRESULT ConvertMembers(Collection& collection, CoIFCServer& server,
-                       const std::vector<const Product*>& products) {
+                       const Products<Product>& products) {
   ElementMaker<Element, Collection> maker(collection, server);
   const HRESULT status = maker.Open();
   if (FAILED(status)) return status;

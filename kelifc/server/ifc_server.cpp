@@ -55,6 +55,7 @@ double IfcServer::SetEps(double value) {
 const Mvector<IfcUnknown*>& IfcServer::GetItems() const { return items; }
 
 void IfcServer::Reset() {
+  load.parsed = nullptr;
   instanceIndex.Clear();
   if (mayRepeat) DropRepeatedSlots();
   for (std::size_t i = items.size(); i > 0; --i) delete std::exchange(items[i - 1], nullptr);
@@ -96,6 +97,7 @@ std::size_t IfcServer::MakeNumber() {
 void IfcServer::Append(std::size_t id, IfcUnknown* item) {
   const auto position = static_cast<std::uint32_t>(items.size());
   items.push_back(item);
+  if (id == load.parsedNumber) load.parsed = nullptr;
   if (instanceIndex.IsBuilt()) {
     const std::uint32_t earlier = idToIndex.Find(id);
     if (earlier != NumberIndex::kNone) instanceIndex.DropNumber(earlier);
@@ -113,6 +115,8 @@ void IfcServer::BuildInstanceIndex() const {
 }
 
 std::size_t IfcServer::Find(const IfcUnknown* item) const {
+  // Relationships ask for themselves while they are read; a load need not make the index for that.
+  if (item != nullptr && item == load.parsed && !mayRepeat) return load.parsedNumber;
   BuildInstanceIndex();
   const std::uint32_t position = instanceIndex.FindPosition(items.data(), item);
   return position == InstanceIndex::kNone ? 0 : instanceIndex.GetNumber(position);
@@ -124,6 +128,7 @@ std::size_t IfcServer::DeleteItem(const IfcUnknown* item) {
   if (first == InstanceIndex::kNone) return 0;
   const std::size_t number = instanceIndex.GetNumber(first);
   IfcUnknown* const doomed = items[first];
+  if (doomed == load.parsed) load.parsed = nullptr;
   for (const std::uint32_t position : instanceIndex.Remove(items.data(), item)) {
     items[position] = nullptr;
   }

@@ -212,7 +212,11 @@ class KELIFC_API IfcServer {
   // What a load knows about its file while it runs; all zero outside a load.
   struct LoadState {
     bool isRunning = false;
-    bool isStopped = false;             // by the progress handler
+    bool isStopped = false;              // by the progress handler
+    const IfcUnknown* parsed = nullptr;  // the instance whose statement is being read,
+    std::size_t parsedNumber = 0;        // and its number
+    bool isUnordered = false;            // the last number was far from the one ahead of it
+    std::size_t lastNumber = 0;
     std::uint64_t highestNumber = 0;    // of all statements so far, those left out included
     std::uint64_t highestOrdinary = 0;  // the same, of numbers that are not negative
     std::uint64_t bytesBefore = 0;      // in the passes that are done
@@ -232,8 +236,10 @@ class KELIFC_API IfcServer {
   std::int16_t ReadHeaderStatement(char* statement);
   std::int16_t RegisterInstance(char* statement);
   void NoteNumber(std::size_t id);
+  void NoteOrder(std::size_t id);
 
   void WriteInstances(std::ostream& out);
+  void WriteInstance(std::ostream& out, std::uint64_t number);
   int TellError(const std::string& message) const;  // gives the code of a failed save
 
   Mvector<IfcUnknown*> items;  // owned; null where deleted

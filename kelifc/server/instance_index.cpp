@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "kelifc/core/prefetch.h"
 #include "kelifc/server/number_index.h"
 
 namespace KelIFC {
@@ -11,12 +12,6 @@ constexpr unsigned kSmallestTableBits = 6;
 
 // How far ahead of the insertion the bulk build asks for the table's memory.
 constexpr std::size_t kPrefetchDistance = 16;
-
-void Prefetch([[maybe_unused]] const void* address) {
-#if defined(__GNUC__)
-  __builtin_prefetch(address, 1);
-#endif
-}
 
 }  // namespace
 

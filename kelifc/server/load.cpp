@@ -2,6 +2,7 @@
 #include <cstdint>
 #include <fstream>
 
+#include "kelifc/core/load_arena.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/platform/path.h"
 #include "kelifc/server/ifc_server.h"
@@ -21,6 +22,20 @@ constexpr int kUnknownSchema = 3;
 constexpr std::uint64_t kBytesPerStatement = 40;
 constexpr std::uint64_t kMostExpected = std::uint64_t{1} << 24;
 
+// Where memory is watched, each block stands alone, so that none can be touched unseen.
+#if defined(__SANITIZE_ADDRESS__)
+#define KELIFC_WATCHED_MEMORY 1
+#elif defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define KELIFC_WATCHED_MEMORY 1
+#endif
+#endif
+#ifdef KELIFC_WATCHED_MEMORY
+struct LoadMemory {};
+#else
+using LoadMemory = LoadArena;
+#endif
+
 }  // namespace
 
 int IfcServer::LoadIfcFile(const char* path) {
@@ -38,7 +53,10 @@ int IfcServer::LoadIfcFile(const char* path) {
       static_cast<std::size_t>(std::min(size / kBytesPerStatement, kMostExpected));
   items.reserve(expected);
   idToIndex.Reserve(expected);
-  const int result = LoadPasses(path);
+  const int result = [&] {
+    [[maybe_unused]] const LoadMemory memory;
+    return LoadPasses(path);
+  }();
   if (!load.isStopped) return result;
   Reset();
   return kCannotOpen;

@@ -6,6 +6,8 @@
 #include <map>
 #include <vector>
 
+#include "kelifc/core/prefetch.h"
+
 namespace KelIFC {
 
 /// The ordered map from the number of an instance (the n of #n) to its position in the registry.
@@ -27,6 +29,11 @@ class NumberIndex {
   std::uint32_t Find(std::uint64_t number) const {
     if (number < dense.size()) return dense[static_cast<std::size_t>(number)];
     return outliers.empty() ? kNone : FindOutlier(number);
+  }
+
+  /// Asks for the memory of a number that is needed soon.
+  void PrefetchNumber(std::uint64_t number) const {
+    if (number < dense.size()) Prefetch(&dense[static_cast<std::size_t>(number)]);
   }
 
   /// Puts a position under a number, over the one that stands there. The number 0 is refused.

@@ -1,12 +1,18 @@
 #include "kelifc/server/scanner.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <cstring>
 
 #include "kelifc/core/quoting.h"
 #include "kelifc/server/block_search.h"
 
 namespace KelIFC {
+namespace {
+
+constexpr std::size_t kLongestPeek = 16;
+
+}  // namespace
 
 Scanner::Scanner(std::istream& source, std::size_t size) : input(source), blockSize(size) {}
 
@@ -21,6 +27,18 @@ char* Scanner::Next() {
   }
   textBegin = textEnd = runBegin = cursor;
   return nullptr;
+}
+
+std::uint64_t Scanner::PeekNumber() const {
+  const char* at = buffer.get() + cursor;
+  const char* const last = at + std::min(kLongestPeek, dataEnd - cursor);
+  while (at < last && (*at == '\n' || *at == '\r')) ++at;
+  if (at == last || *at != '#') return 0;
+  std::uint64_t number = 0;
+  for (++at; at < last && *at >= '0' && *at <= '9'; ++at) {
+    number = 10 * number + static_cast<std::uint64_t>(*at - '0');
+  }
+  return number;
 }
 
 // Moves the cursor to the next character that means something here. False at the end of the input.

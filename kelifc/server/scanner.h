@@ -38,6 +38,10 @@ class Scanner {
   /// How many characters the last statement has.
   std::size_t GetLength() const { return textEnd - textBegin; }
 
+  /// The number of the statement that comes next, as far as it can be told at a glance: 0 unless it
+  /// begins with `#` and digits and stands in the buffer.
+  std::uint64_t PeekNumber() const;
+
   /// How many bytes have been read from the input.
   std::uint64_t GetBytesRead() const { return bytesRead; }
 

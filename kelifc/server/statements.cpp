@@ -70,6 +70,7 @@ void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
   if (firstPass) scanner.SetLimit(kHeadLimit);
   while (char* statement = scanner.Next()) {
     scanner.SetLimit(0);
+    if (server->load.isUnordered) server->idToIndex.PrefetchNumber(scanner.PeekNumber());
     if (handle(server, statement) != 0) return;
     if (!server->ReportProgress(scanner.GetBytesRead())) return;
   }
@@ -106,6 +107,7 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
   const Assignment assignment = CutAssignment(statement);
   if (assignment.number == 0) return 0;
   NoteNumber(assignment.number);
+  NoteOrder(assignment.number);
   InsertItem(assignment.number, ParseClass(assignment.text, nullptr));
   return 0;
 }
@@ -117,10 +119,23 @@ void IfcServer::NoteNumber(std::size_t id) {
   }
 }
 
+// Where the numbers jump about, each is a wait for memory that its statement can ask for ahead.
+void IfcServer::NoteOrder(std::size_t id) {
+  constexpr std::size_t kNear = 256;
+  load.isUnordered = id - load.lastNumber > kNear;
+  load.lastNumber = id;
+}
+
 std::int16_t ParseStatement(IfcServer* server, char* statement) {
   const Assignment assignment = CutAssignment(statement);
   if (assignment.number == 0) return 0;
-  if (IfcUnknown* instance = server->GetItem(assignment.number)) instance->Parse(assignment.text);
+  server->NoteOrder(assignment.number);
+  IfcUnknown* const instance = server->GetItem(assignment.number);
+  if (instance == nullptr) return 0;
+  server->load.parsed = instance;
+  server->load.parsedNumber = assignment.number;
+  instance->Parse(assignment.text);
+  server->load.parsed = nullptr;
   return 0;
 }
 

@@ -1,0 +1,59 @@
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+
+#include "kelifc/geo/interfaces.h"
+#include "kelifc/model_access.h"
+#include "kelifc/platform/com.h"
+#include "kelifc/server/ifc_server.h"
+
+#include "bench/conversion.h"
+
+// Loads a model, converts it, saves it and resets it, once each. The four have functions of their
+// own, whose names scripts/count-instructions knows: a tool that counts instructions watches them.
+
+namespace {
+
+using KelIFC::IfcServer;
+
+void Require(bool success, const char* what) {
+  if (success) return;
+  std::fprintf(stderr, "%s failed\n", what);
+  std::exit(1);
+}
+
+}  // namespace
+
+extern "C" {
+
+[[gnu::noinline]] void CountedLoad(IfcServer& server, const char* path) {
+  Require(server.LoadIfcFile(path) == 0, "load");
+}
+
+[[gnu::noinline]] void CountedConversion(IGeoStructure& structure) {
+  Require(bench::ConvertAll(structure) > 0, "conversion");
+}
+
+[[gnu::noinline]] void CountedSave(IfcServer& server, const char* path) {
+  Require(server.SaveIfcFile(path) == 0, "save");
+}
+
+[[gnu::noinline]] void CountedReset(IfcServer& server) { server.Reset(); }
+
+}  // extern "C"
+
+int main(int argc, char** argv) {
+  if (argc != 3) {
+    std::fprintf(stderr, "counted_work MODEL.ifc SAVED.ifc\n");
+    return 64;
+  }
+  const auto server = bench::MakeServer();
+  IfcServer& model = *KelIFC::GetModel(server.Get());
+  CountedLoad(model, argv[1]);
+  {
+    const auto structure = bench::GetStructure(*server);
+    CountedConversion(*structure);
+  }
+  CountedSave(model, argv[2]);
+  CountedReset(model);
+}
