@@ -12,8 +12,10 @@ inline void Prefetch([[maybe_unused]] const void* address) {
 }
 
 /// The same for an object of which only the begin is known: as much as most instances take.
+/// Null asks for nothing.
 inline void PrefetchInstance(const void* address) {
   constexpr int kLine = 64;
+  if (address == nullptr) return;
   Prefetch(address);
   Prefetch(static_cast<const char*>(address) + kLine);
 }

@@ -28,6 +28,8 @@ bool FindFile(const char* path, WIN32_FILE_ATTRIBUTE_DATA& data) {
 
 }  // namespace
 
+bool FileExists(const char* path) { return GetFileAttributesA(path) != INVALID_FILE_ATTRIBUTES; }
+
 bool IsRegularFile(const char* path) {
   WIN32_FILE_ATTRIBUTE_DATA data = {};
   return FindFile(path, data);
@@ -40,6 +42,11 @@ std::uint64_t GetFileSize(const char* path) {
 }
 
 #else
+
+bool FileExists(const char* path) {
+  std::error_code error;
+  return std::filesystem::exists(path, error);
+}
 
 bool IsRegularFile(const char* path) {
   std::error_code error;

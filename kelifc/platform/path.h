@@ -15,6 +15,9 @@ namespace KelIFC {
 /// systems and their paths with them.
 std::string_view GetFileName(std::string_view path);
 
+/// True if something is at the path, a device or a pipe too.
+bool FileExists(const char* path);
+
 /// True if the path leads to an ordinary file, links followed. A model is read twice, which rules
 /// out pipes and devices.
 bool IsRegularFile(const char* path);

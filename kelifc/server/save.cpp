@@ -60,7 +60,11 @@ int IfcServer::SaveIfcFile(const char* path) {
   WriteHeader(out, GetFileName(path), schema);
   WriteInstances(out);
   PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
-  if (!file.Close()) TellError(place + "the file could not be written to its end");
+  if (!file.Close()) {
+    TellError(place + "the file could not be written to its end");
+  } else if (!FileExists(path)) {
+    TellError(place + "the file is gone");
+  }
   return kSaved;
 }
 
@@ -69,11 +73,12 @@ int IfcServer::SaveIfcFile(const char* path) {
 void IfcServer::WriteInstances(std::ostream& out) {
   constexpr std::size_t kBatch = 32;
   std::array<std::uint64_t, kBatch> batch = {};
-  for (std::uint64_t number = idToIndex.GetNext(0); number != 0;) {
-    std::size_t count = 0;
-    for (; count < kBatch && number != 0; number = idToIndex.GetNext(number)) {
-      Prefetch(&items[idToIndex.Find(number)]);
-      batch[count++] = number;
+  std::uint64_t last = 0;
+  for (std::size_t count = kBatch; count == kBatch;) {
+    count = 0;
+    while (count < kBatch && (last = idToIndex.GetNext(last)) != 0) {
+      Prefetch(&items[idToIndex.Find(last)]);
+      batch[count++] = last;
     }
     for (std::size_t i = 0; i < count; ++i) PrefetchInstance(items[idToIndex.Find(batch[i])]);
     for (std::size_t i = 0; i < count; ++i) WriteInstance(out, batch[i]);
@@ -81,8 +86,8 @@ void IfcServer::WriteInstances(std::ostream& out) {
 }
 
 void IfcServer::WriteInstance(std::ostream& out, std::uint64_t number) {
-  const IfcUnknown* instance = items[idToIndex.Find(number)];
-  if (instance == nullptr) return;
+  const IfcUnknown* instance = IfcServer::GetItem(number);
+  if (instance == nullptr) return;  // an earlier one of the batch deleted it
   PutChar(out, '#');
   PutNumber(out, number);
   PutChar(out, '=');

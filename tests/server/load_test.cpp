@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdint>
+#include <cstring>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -243,6 +244,44 @@ TEST(Load, DropsWhatIsNoInstance) {
                    "IFCFOO(1);#1 IFCFOO(1);1=IFCFOO(1);=IFCFOO(1);#=IFCFOO(1);"
                    "#0=IFCFOO(1);$=IFCFOO(1);X#4=IFCFOO(1);&SCOPE;");
   EXPECT_TRUE(server.GetItems().empty());
+}
+
+/// Notes, while it is read, the number that its server finds it under.
+class SelfFinder : public Probe {
+ public:
+  explicit SelfFinder(std::vector<std::size_t>& list) : found(list) {}
+  const char* Parse(const char* text) override {
+    if (std::strstr(text, "ADD") != nullptr) GetServer()->AddItem(new SelfFinder(found));
+    if (std::strstr(text, "AGAIN") != nullptr) GetServer()->InsertItem(77, this);
+    found.push_back(GetServer()->Find(this));
+    if (std::strstr(text, "TAKE") != nullptr) {
+      GetServer()->InsertItem(found.back(), new SelfFinder(found));
+      found.push_back(GetServer()->Find(this));
+    }
+    return nullptr;
+  }
+
+ private:
+  std::vector<std::size_t>& found;
+};
+
+class SelfFinderServer : public IfcServer {
+ public:
+  IfcUnknown* InstantiateClass2x3(const char* name) override {
+    return std::string(name) == "IFCSELF" ? new SelfFinder(found)
+                                          : IfcServer::InstantiateClass2x3(name);
+  }
+  std::vector<std::size_t> found;
+};
+
+TEST(Load, LetsAnInstanceFindItsNumberWhileItIsRead) {
+  SelfFinderServer server;
+  Load(server, std::string(kHead2x3) +
+                   "#5=IFCSELF();#3=IFCSELF(ADD);#9=IFCSELF(AGAIN);#8=IFCSELF(TAKE);#1=IFCSELF();"
+                   "#1=IFCSELF();");
+  // The first of two slots counts; a number that is taken is lost; and of two statements with one
+  // number the later one is read twice.
+  EXPECT_THAT(server.found, ElementsAre(5, 3, 9, 8, 0, 1, 1));
 }
 
 TEST(Load, GivesANumberThatStandsTwiceToTheLaterInstance) {

@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <clocale>
+#include <cstdio>
 #include <filesystem>
 #include <locale>
 #include <regex>
@@ -87,6 +88,42 @@ TEST(Save, WritesNumbersFarApart) {
   server.InsertItem(2147483647, new Probe("a"));
   server.InsertItem(1, new Probe("b"));
   EXPECT_EQ(SaveData(server), "#1=PROBE(b);\n#2147483647=PROBE(a);\n");
+}
+
+TEST(Save, WritesManyNumbersInNoOrder) {
+  IfcServer server;
+  server.SetRelease(IFC_RELEASE_2X3);
+  constexpr std::size_t kPrime = 997;
+  std::string expected;
+  for (std::size_t i = 1; i < kPrime; ++i) {
+    const std::size_t number = i * 389 % kPrime;
+    server.InsertItem(number, new Probe(std::to_string(number)));
+  }
+  for (std::size_t i = 1; i < kPrime; ++i) {
+    if (i % 3 == 0) {
+      server.DeleteItem(server.GetItem(i));
+    } else {
+      expected += "#" + std::to_string(i) + "=PROBE(" + std::to_string(i) + ");\n";
+    }
+  }
+  EXPECT_EQ(SaveData(server), expected);
+}
+
+TEST(Save, PassesOverAnInstanceThatGoesWhileAnEarlierOneIsWritten) {
+  class Remover : public Probe {
+   public:
+    std::ostream& Write(std::ostream& out) const override {
+      auto* server = const_cast<IfcServer*>(GetServer());
+      server->DeleteItem(server->GetItem(std::size_t{3}));
+      return Probe::Write(out);
+    }
+  };
+  IfcServer server;
+  server.SetRelease(IFC_RELEASE_2X3);
+  server.InsertItem(1, new Remover);
+  server.InsertItem(2, new Probe);
+  server.InsertItem(3, new Probe);
+  EXPECT_EQ(SaveData(server), "#1=PROBE();\n#2=PROBE();\n");
 }
 
 TEST(Save, WritesAnAddedInstanceLast) {
@@ -193,6 +230,32 @@ TEST(Save, TellsThatAFileCouldNotBeWrittenToItsEnd) {
   server.SetErrorHandler([&told](const std::string& message) { told = message; });
   EXPECT_EQ(server.SaveIfcFile("/dev/full"), 0);
   EXPECT_THAT(told, StartsWith("/dev/full: "));
+}
+
+TEST(Save, TellsThatTheFileWasTakenAwayWhileItWasWritten) {
+  class Thief : public Probe {
+   public:
+    explicit Thief(const char* file) : path(file) {}
+    std::ostream& Write(std::ostream& out) const override {
+      std::remove(path);
+      return Probe::Write(out);
+    }
+
+   private:
+    const char* path;
+  };
+  const TempFile file;
+  IfcServer server;
+  server.SetRelease(IFC_RELEASE_2X3);
+  server.AddItem(new Thief(file.GetPath()));
+  std::string told;
+  server.SetErrorHandler([&told](const std::string& message) { told += message; });
+  EXPECT_EQ(server.SaveIfcFile(file.GetPath()), 0);
+#ifdef _WIN32
+  EXPECT_EQ(told, "");  // there an open file stays
+#else
+  EXPECT_EQ(told, std::string(file.GetPath()) + ": the file is gone");
+#endif
 }
 
 TEST(Save, IsFreeOfTheProcessLocale) {

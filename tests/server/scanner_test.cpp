@@ -178,6 +178,24 @@ TEST(Scanner, StaysAtTheEndOnceItIsThere) {
   EXPECT_EQ(scanner.GetBytesRead(), 2u);
 }
 
+TEST(Scanner, TellsTheNumberThatComesNextWhereItStandsInTheBuffer) {
+  std::istringstream input("A;\r\n#12=B;#7;X#1=;#;\n\n#1234567890123456789=C;  #5=D;");
+  Scanner scanner(input);
+  EXPECT_EQ(scanner.PeekNumber(), 0u);
+  std::vector<std::uint64_t> peeked;
+  while (scanner.Next() != nullptr) peeked.push_back(scanner.PeekNumber());
+  // A number that is too long to be looked at whole is told as far as it goes.
+  EXPECT_THAT(peeked, ElementsAre(12, 7, 0, 0, 1234567890123, 0, 0));
+}
+
+TEST(Scanner, PeeksNotBeyondWhatWasRead) {
+  std::istringstream input("A;#12345=B;");
+  Scanner scanner(input, 5);
+  scanner.Next();
+  EXPECT_EQ(scanner.PeekNumber(), 12u);
+  EXPECT_STREQ(scanner.Next(), "#12345=B");
+}
+
 TEST(Scanner, LeavesTheNextStatementAloneWhenOneIsCut) {
   std::istringstream input("#1=A;#2=B;");
   Scanner scanner(input);
