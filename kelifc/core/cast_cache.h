@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <type_traits>
 #include <typeinfo>
 #include <vector>
@@ -23,13 +24,10 @@ class CastCache {
   T* Cast(Instance* instance) {
     if (instance == nullptr) return nullptr;
     const std::type_info* type = &typeid(*instance);
-    std::size_t slot = Hash(type);
-    while (entries[slot].type != type) {
-      if (entries[slot].type == nullptr) return Learn(slot, type, instance);
-      slot = (slot + 1) & (entries.size() - 1);
-    }
-    if (entries[slot].offset == kNoCast) return nullptr;
-    return reinterpret_cast<T*>(reinterpret_cast<Byte*>(instance) + entries[slot].offset);
+    const Entry& entry = entries[FindSlot(type)];
+    if (entry.type == nullptr) return Learn(type, instance);
+    if (entry.offset == kNoCast) return nullptr;
+    return reinterpret_cast<T*>(reinterpret_cast<Byte*>(instance) + entry.offset);
   }
 
  private:
@@ -44,25 +42,40 @@ class CastCache {
     return (reinterpret_cast<std::uintptr_t>(type) / 16) & (entries.size() - 1);
   }
 
-  T* Learn(std::size_t slot, const std::type_info* type, Instance* instance) {
+  // The slot of a type, or the free one where it belongs.
+  std::size_t FindSlot(const std::type_info* type) const {
+    std::size_t slot = Hash(type);
+    while (entries[slot].type != type && entries[slot].type != nullptr) {
+      slot = (slot + 1) & (entries.size() - 1);
+    }
+    return slot;
+  }
+
+  // Without memory to grow, what is there stays, and the answer is not noted.
+  T* Learn(const std::type_info* type, Instance* instance) {
     T* item = dynamic_cast<T*>(instance);
-    entries[slot].type = type;
-    entries[slot].offset = item == nullptr
-                               ? kNoCast
-                               : reinterpret_cast<Byte*>(item) - reinterpret_cast<Byte*>(instance);
-    if (2 * ++count > entries.size()) Grow();
+    if (2 * count >= entries.size() && !Grow()) return item;
+    Entry& entry = entries[FindSlot(type)];
+    entry.type = type;
+    entry.offset = item == nullptr
+                       ? kNoCast
+                       : reinterpret_cast<Byte*>(item) - reinterpret_cast<Byte*>(instance);
+    ++count;
     return item;
   }
 
-  void Grow() {
-    std::vector<Entry> old(2 * entries.size());
+  bool Grow() {
+    std::vector<Entry> old;
+    try {
+      old.resize(2 * entries.size());
+    } catch (const std::bad_alloc&) {
+      return false;
+    }
     old.swap(entries);
     for (const Entry& entry : old) {
-      if (entry.type == nullptr) continue;
-      std::size_t slot = Hash(entry.type);
-      while (entries[slot].type != nullptr) slot = (slot + 1) & (entries.size() - 1);
-      entries[slot] = entry;
+      if (entry.type != nullptr) entries[FindSlot(entry.type)] = entry;
     }
+    return true;
   }
 
   std::vector<Entry> entries = std::vector<Entry>(64);  // a power of two, at most half of them used

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <unordered_set>
+#include <new>
 #include <utility>
 
 #include "kelifc/core/step_file_schema.h"
@@ -68,11 +68,22 @@ void IfcServer::Reset() {
   mayRepeat = false;
 }
 
-// Leaves an instance that was registered twice in its first slot only.
+// Leaves an instance that was registered twice in its first slot only. Takes no memory: that an
+// instance was met is noted in the instance, by the server that it lacks for so long.
 void IfcServer::DropRepeatedSlots() {
-  std::unordered_set<IfcUnknown*> seen;
+  for (IfcUnknown* item : items) {
+    if (item != nullptr) item->SetServer(this);
+  }
   for (IfcUnknown*& item : items) {
-    if (!seen.insert(item).second) item = nullptr;
+    if (item == nullptr) continue;
+    if (item->GetServer() == nullptr) {
+      item = nullptr;
+    } else {
+      item->SetServer(nullptr);
+    }
+  }
+  for (IfcUnknown* item : items) {
+    if (item != nullptr) item->SetServer(this);
   }
 }
 
@@ -94,20 +105,38 @@ std::size_t IfcServer::MakeNumber() {
   return std::max(idToIndex.GetHighestBelow(kFirstNegative), load.highestOrdinary) + 1;
 }
 
+// Where memory runs out nothing was registered, and a new instance, which nobody else knows, is
+// gone.
 void IfcServer::Append(std::size_t id, IfcUnknown* item) {
+  const std::size_t position = items.size();
+  try {
+    FillSlot(id, item);
+  } catch (const std::bad_alloc&) {
+    if (!productPositions.empty() && productPositions.back() == position) {
+      productPositions.pop_back();
+    }
+    items.resize(position);
+    instanceIndex.Clear();
+    if (item != nullptr && item->GetServer() == nullptr) delete item;
+    throw;
+  }
+  if (id == load.parsedNumber) load.parsed = nullptr;
+  if (item == nullptr) return;
+  if (item->GetServer() != nullptr) mayRepeat = true;
+  item->SetServer(this);
+}
+
+// The number comes last: what it meant before must not be lost where memory runs out.
+void IfcServer::FillSlot(std::size_t id, IfcUnknown* item) {
   const auto position = static_cast<std::uint32_t>(items.size());
   items.push_back(item);
-  if (id == load.parsedNumber) load.parsed = nullptr;
+  if (item != nullptr && IsProduct(item)) productPositions.push_back(position);
   if (instanceIndex.IsBuilt()) {
     const std::uint32_t earlier = idToIndex.Find(id);
     if (earlier != NumberIndex::kNone) instanceIndex.DropNumber(earlier);
     instanceIndex.Append(items.data(), id);
   }
   idToIndex.Set(id, position);
-  if (item == nullptr) return;
-  if (IsProduct(item)) productPositions.push_back(position);
-  if (item->GetServer() != nullptr) mayRepeat = true;
-  item->SetServer(this);
 }
 
 void IfcServer::BuildInstanceIndex() const {
@@ -157,10 +186,12 @@ IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
 // is walked once more only when it has grown.
 void IfcServer::BuildGuidIndex() {
   if (slotsWithoutGuid == items.size()) return;
+  GuidIndex made;  // put in place as a whole: memory may run out on the way
   for (std::size_t i = items.size(); i > 0; --i) {
     _GUID guid = {};
-    if (ReadGlobalGuid(items[i - 1], guid)) guidIndex[guid] = static_cast<std::uint32_t>(i - 1);
+    if (ReadGlobalGuid(items[i - 1], guid)) made[guid] = static_cast<std::uint32_t>(i - 1);
   }
+  guidIndex.swap(made);
   if (guidIndex.empty()) slotsWithoutGuid = items.size();
 }
 

@@ -81,12 +81,15 @@ class KELIFC_API IfcServer {
 
   /// Registers an instance under the number that a file gives it and takes it over. A number that
   /// is in use moves to the new instance; the earlier one stays, without a number, and is not
-  /// saved. With a null instance or the number 0 nothing happens.
+  /// saved. With a null instance or the number 0 nothing happens. Throws std::bad_alloc where
+  /// memory is lacking; the model is what it was then, and an instance without a server is
+  /// destroyed.
   virtual void InsertItem(std::size_t id, IfcUnknown* item);
 
   /// Registers an instance under a new number, takes it over and gives the number: the highest in
   /// use plus 1. During a load the number is above every number of the file; where it would
   /// overflow it is the lowest that is free. A null instance takes a number and an empty slot.
+  /// Throws as InsertItem does.
   virtual std::size_t AddItem(IfcUnknown* item);
 
   /// Makes an instance by the name of its entity in the server's release and registers it. Gives
@@ -100,7 +103,9 @@ class KELIFC_API IfcServer {
   /// Replaces the model by that of a STEP file, which must be an ordinary file: it is read twice.
   /// Gives 0 if it was loaded; 1 if it cannot be opened, or if the progress handler stopped the
   /// load, which leaves the model empty; 2 if it is no STEP file; 3 if its schema is unknown and no
-  /// release was set. What inside a file cannot be understood is left out without a report.
+  /// release was set. What inside a file cannot be understood is left out without a report. An
+  /// instance that there is no memory for is left out, too; where memory is lacking otherwise the
+  /// model is empty and std::bad_alloc is thrown.
   virtual int LoadIfcFile(const char* path);
 
   /// Writes all numbered instances to a STEP file, by rising number. Gives 0 if the file was
@@ -227,11 +232,13 @@ class KELIFC_API IfcServer {
   IfcUnknown* MakeByRelease(const char* name);
   std::size_t MakeNumber();
   void Append(std::size_t id, IfcUnknown* item);
+  void FillSlot(std::size_t id, IfcUnknown* item);
   void BuildInstanceIndex() const;
   void BuildGuidIndex();
   void DropRepeatedSlots();
 
   int LoadPasses(const char* path);
+  void MakeRoom(std::uint64_t fileSize);
   bool ReportProgress(std::uint64_t bytesRead);
   std::int16_t ReadHeaderStatement(char* statement);
   std::int16_t RegisterInstance(char* statement);
@@ -251,7 +258,8 @@ class KELIFC_API IfcServer {
   bool headerSeen = false;
   std::vector<std::uint32_t> productPositions;  // in `items`
   // Positions, not pointers, so that a deleted instance is not found again.
-  std::map<_GUID, std::uint32_t, GuidLess> guidIndex;
+  using GuidIndex = std::map<_GUID, std::uint32_t, GuidLess>;
+  GuidIndex guidIndex;
 
   mutable InstanceIndex instanceIndex;
   bool mayRepeat = false;            // an instance may stand in two slots

@@ -1,6 +1,7 @@
 #include "kelifc/server/instance_index.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "kelifc/core/prefetch.h"
 #include "kelifc/server/number_index.h"
@@ -89,9 +90,10 @@ std::vector<std::uint32_t> InstanceIndex::Remove(Slots slots, const IfcUnknown* 
   if (instance == nullptr) return positions;
   const std::size_t slot = FindSlot(slots, instance);
   if (table[slot] == kNone) return positions;
+  const auto [from, to] = repeats.equal_range(instance);
+  positions.reserve(1 + static_cast<std::size_t>(std::distance(from, to)));
   positions.push_back(table[slot]);
   firstNull = std::min(firstNull, table[slot]);
-  const auto [from, to] = repeats.equal_range(instance);
   for (auto later = from; later != to; ++later) positions.push_back(later->second);
   repeats.erase(from, to);
   CloseGap(slots, slot);

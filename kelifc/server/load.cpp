@@ -47,22 +47,20 @@ int IfcServer::LoadIfcFile(const char* path) {
     ~LoadEnd() { load = LoadState(); }
   } const end{load};
   load.isRunning = true;
-  const std::uint64_t size = GetFileSize(path);
-  load.bytesTotal = 2 * size;
-  const auto expected =
-      static_cast<std::size_t>(std::min(size / kBytesPerStatement, kMostExpected));
-  items.reserve(expected);
-  idToIndex.Reserve(expected);
-  const int result = [&] {
-    [[maybe_unused]] const LoadMemory memory;
-    return LoadPasses(path);
-  }();
-  if (!load.isStopped) return result;
+  try {
+    const int result = LoadPasses(path);
+    if (!load.isStopped) return result;
+  } catch (...) {
+    Reset();
+    throw;
+  }
   Reset();
   return kCannotOpen;
 }
 
 int IfcServer::LoadPasses(const char* path) {
+  MakeRoom(GetFileSize(path));
+  [[maybe_unused]] const LoadMemory memory;
   std::ifstream file(path, std::ios::binary);
   if (!file) return kCannotOpen;
   schemaRecord.reset();
@@ -77,6 +75,14 @@ int IfcServer::LoadPasses(const char* path) {
   if (!again) return kCannotOpen;
   ScanFile(again, this, false);
   return kLoaded;
+}
+
+void IfcServer::MakeRoom(std::uint64_t fileSize) {
+  load.bytesTotal = 2 * fileSize;
+  const auto expected =
+      static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
+  items.reserve(expected);
+  idToIndex.Reserve(expected);
 }
 
 // Called for each statement, passes on what is news: once per block that was read.

@@ -61,6 +61,83 @@ TEST_F(HostileModel, OfClippingsInARowGivesAColumnForEach) {
   EXPECT_THAT(GetColumns(), SizeIs(kMany));
 }
 
+TEST_F(HostileModel, OfClippingsInARingGivesNothing) {
+  for (int i = 0; i < kMany; ++i) {
+    const Ref next = "#" + std::to_string(100001 + (i + 1) % kMany);
+    model.AddAs(100001 + i, "IFCBOOLEANCLIPPINGRESULT(.DIFFERENCE.," + next + "," + next + ")");
+    model.Column("$", model.Body({"#" + std::to_string(100001 + i)}));
+  }
+  model.AddAs(99999, "IFCBOOLEANCLIPPINGRESULT(.DIFFERENCE.,#99999,#99999)");
+  model.Column("$", model.Body({"#99999"}));
+  Convert();
+  EXPECT_THAT(GetColumns(), IsEmpty());
+}
+
+TEST_F(HostileModel, OfMapsInARingGivesNothing) {
+  for (int i = 0; i < kMany; ++i) {
+    const auto number = [](int base, int at) { return "#" + std::to_string(base + at % kMany); };
+    model.AddAs(100000 + i, "IFCMAPPEDITEM(" + number(200000, i) + ",$)");
+    model.AddAs(200000 + i, "IFCREPRESENTATIONMAP($," + number(300000, i) + ")");
+    model.AddAs(300000 + i, "IFCSHAPEREPRESENTATION($,'Body','MappedRepresentation',(" +
+                                number(100000, i + 1) + "))");
+    model.Column("$", model.Body({number(100000, i)}));
+    model.Wall("$", model.Body({number(100000, i)}));
+    model.Slab("$", model.Body({number(100000, i)}));
+  }
+  Convert();
+  EXPECT_THAT(GetColumns(), IsEmpty());
+  EXPECT_THAT(GetWalls(), IsEmpty());
+  EXPECT_THAT(GetPlates(), IsEmpty());
+}
+
+TEST_F(HostileModel, OfProfileCurvesThatAreTheirOwnPartsEnds) {
+  model.AddAs(90001, "IFCCOMPOSITECURVE((#90002,#90002),.F.)");
+  model.AddAs(90002, "IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#90001)");
+  model.AddAs(90003,
+              "IFCTRIMMEDCURVE(#90003,(IFCPARAMETERVALUE(0.)),(IFCPARAMETERVALUE(1.)),.T.,"
+              ".PARAMETER.)");
+  model.AddAs(90004, "IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#90003)");
+  model.AddAs(90005, "IFCCOMPOSITECURVE((#90004,#90002),.F.)");
+  for (const Ref curve : {"#90001", "#90003", "#90005"}) {
+    const Ref profile = model.Add("IFCARBITRARYCLOSEDPROFILEDEF(.AREA.,$," + curve + ")");
+    const Ref body = model.Body({model.Extrusion(profile, 3)});
+    model.Column("$", body);
+    model.Slab("$", body);
+    const Ref wall = model.Wall("$", body);
+    model.Voids(wall, model.Opening("$", body));
+  }
+  Convert();
+  EXPECT_LE(GetColumns().size(), 3u);
+  EXPECT_LE(GetWalls().size(), 3u);
+  EXPECT_LE(GetPlates().size(), 3u);
+}
+
+TEST_F(HostileModel, OfElementsThatVoidAndFillThemselvesEnds) {
+  const Ref placement = model.Local(model.Placement({0, 0, 0}));
+  const Ref box = model.Body({model.Extrusion(model.Rectangle(5, 0.2), 3)});
+  const Ref wall = model.Wall(placement, box);
+  const Ref slab = model.Slab(placement, box);
+  const Ref opening = model.Opening(placement, box);
+  for (const Ref& element : {wall, slab, opening}) {
+    for (const Ref& other : {wall, slab, opening}) {
+      model.Voids(element, other);
+      model.Fills(element, other);
+    }
+  }
+  Convert();
+  EXPECT_THAT(GetWalls(), SizeIs(1));
+  EXPECT_THAT(GetPlates(), SizeIs(1));
+}
+
+TEST_F(HostileModel, OfElementsWithOneGlobalIdentifierGivesThemAll) {
+  const Ref body = model.Body({model.Extrusion(model.Circle(0.2), 3)});
+  for (int i = 0; i < kMany; ++i) {
+    model.Add(ModelBuilder::ProductText("IFCCOLUMN", "$", body, "C", "", "0YvctVUKr0kugbFTf53O9L"));
+  }
+  Convert();
+  EXPECT_THAT(GetColumns(), SizeIs(kMany));
+}
+
 TEST_F(HostileModel, OfManyMapsOfManyUnknownItemsGivesNothing) {
   std::string items;
   for (int i = 0; i < kMany; ++i) items += (i == 0 ? "#" : ",#") + std::to_string(500000);

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <cstdio>
+#include <memory>
 #include <stdexcept>
 
 #include "tools/kelifc/text.h"
@@ -17,9 +18,9 @@ void Check(HRESULT status) {
 }
 
 std::string TakeText(BSTR text) {
-  std::string utf8 = text == nullptr ? "" : Utf8FromWide({text, SysStringLen(text)});
-  SysFreeString(text);
-  return utf8;
+  const std::unique_ptr<OLECHAR, void (*)(BSTR)> owner(text,
+                                                       [](BSTR taken) { SysFreeString(taken); });
+  return text == nullptr ? "" : Utf8FromWide({text, SysStringLen(text)});
 }
 
 }  // namespace command

@@ -1,0 +1,88 @@
+#include <gtest/gtest.h>
+
+#include <new>
+#include <stdexcept>
+#include <string>
+
+#include "kelifc/kelifc.h"
+
+#include "tests/faults/failing_allocation.h"
+#include "tests/geo/host.h"
+#include "tools/kelifc/structure_reader.h"
+
+namespace KelIFC {
+namespace {
+
+const char* const kModel = KELIFC_EXAMPLES_DIR "/hall.ifc";
+
+/// How a host fared.
+struct Outcome {
+  HRESULT load = E_FAIL;
+  std::size_t elements = 0;
+  bool isWhole = false;
+};
+
+std::size_t CountElements(const command::Structure& structure) {
+  return structure.columns.size() + structure.beams.size() + structure.walls.size() +
+         structure.plates.size() + structure.foots.size();
+}
+
+/// Loads the model and reads all that comes of it, and leaves no error object. No exception of its own crosses an interface:
+/// one that did would end the program.
+Outcome ReadModel() {
+  struct ErrorEnd {
+    ~ErrorEnd() { SetErrorInfo(0, nullptr); }
+  } const end;
+  Outcome outcome;
+  ComPtr<IIFCServer> server;
+  if (CoCreateInstance(CLSID_CoIFCServer, nullptr, CLSCTX_ALL, IidOf<IIFCServer>(),
+                       reinterpret_cast<void**>(server.Put())) != S_OK) {
+    return outcome;
+  }
+  try {
+    outcome.load = server->Load(Bstr(WidePath(kModel)).Get());
+    ComPtr<IGeoStructure> structure;
+    if (server->get_Structure(structure.Put()) != S_OK) return outcome;
+    outcome.elements = CountElements(command::ReadStructure(*structure));
+    outcome.isWhole = true;
+  } catch (const std::bad_alloc&) {  // of the host itself
+  } catch (const std::runtime_error&) {
+  }
+  return outcome;
+}
+
+class FaultyConversion : public HostTest {};
+
+TEST_F(FaultyConversion, GivesAllMemoryBack) {
+  SweepFailures([] { ReadModel(); });
+}
+
+TEST_F(FaultyConversion, GivesElementsOfTheModelAndNoOthers) {
+  const Outcome whole = ReadModel();
+  ASSERT_EQ(whole.load, S_OK);
+  ASSERT_GT(whole.elements, 0u);
+  std::size_t most = 0;
+  SweepFailures([&] { most = std::max(most, ReadModel().elements); });
+  EXPECT_EQ(most, whole.elements);
+}
+
+TEST_F(FaultyConversion, TellsThatMemoryIsLacking) {
+  auto server = Create<IIFCServer>(CLSID_CoIFCServer);
+  const Bstr path(WidePath(kModel));
+  {
+    const FailingAllocation failing(1, Shortage::kFrom);
+    EXPECT_EQ(server->Load(path.Get()), E_OUTOFMEMORY);
+  }
+  ASSERT_EQ(server->Load(path.Get()), S_OK);
+  const auto structure = GetObject(*server, &IIFCServer::get_Structure);
+  ComPtr<IGeoColumns> columns;
+  {
+    const FailingAllocation failing(1, Shortage::kFrom);
+    EXPECT_EQ(structure->get_Columns(columns.Put()), E_OUTOFMEMORY);
+    EXPECT_EQ(columns.Get(), nullptr);
+  }
+  EXPECT_EQ(structure->get_Columns(columns.Put()), S_OK);
+}
+
+}  // namespace
+}  // namespace KelIFC

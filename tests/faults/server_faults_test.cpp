@@ -1,0 +1,213 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <new>
+#include <optional>
+#include <set>
+#include <sstream>
+#include <string>
+
+#include "kelifc/core/cartesian_point.h"
+#include "kelifc/core/global_id.h"
+#include "kelifc/server/ifc_server.h"
+
+#include "tests/faults/failing_allocation.h"
+#include "tests/faults/small_model.h"
+#include "tests/server/temp_file.h"
+
+// A host that goes on after a failure must find a model that is whole in itself.
+
+namespace KelIFC {
+namespace {
+
+using testing::IsSupersetOf;
+
+std::set<std::size_t> NumbersOf(IfcServer& server) {
+  std::set<std::size_t> numbers;
+  for (std::size_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) {
+    if (server.GetItem(n) != nullptr) numbers.insert(n);
+  }
+  return numbers;
+}
+
+std::string TextOf(IfcServer& server) {
+  std::ostringstream text;
+  for (const std::size_t n : NumbersOf(server)) server.GetItem(n)->Write(text << '#' << n << '=');
+  return text.str();
+}
+
+/// The result of a load, none if memory was lacking.
+std::optional<int> TryLoad(IfcServer& server, const char* path) {
+  try {
+    return server.LoadIfcFile(path);
+  } catch (const std::bad_alloc&) {
+    return std::nullopt;
+  }
+}
+
+TEST(FaultyLoad, LeavesOutAnInstanceOrEndsWithAnEmptyModel) {
+  const TempFile file(SmallModel());
+  IfcServer whole;
+  ASSERT_EQ(whole.LoadIfcFile(file.GetPath()), 0);
+  const std::set<std::size_t> all = NumbersOf(whole);
+  const std::string text = TextOf(whole);
+  int withoutSome = 0;
+  for (std::size_t nth = 1; nth < 100000; ++nth) {
+    IfcServer server;
+    std::optional<int> result;
+    {
+      const FailingAllocation failing(nth, Shortage::kOne);
+      result = TryLoad(server, file.GetPath());
+    }
+    const std::set<std::size_t> numbers = NumbersOf(server);
+    if (!result) {
+      ASSERT_TRUE(server.GetItems().empty()) << nth;
+      ASSERT_TRUE(numbers.empty()) << nth;
+    } else if (*result == 0) {
+      ASSERT_THAT(all, IsSupersetOf(numbers)) << nth;
+      if (numbers != all) ++withoutSome;
+    }
+    ASSERT_EQ(server.LoadIfcFile(file.GetPath()), 0) << nth;
+    ASSERT_EQ(TextOf(server), text) << nth;
+    if (FailingAllocation::GetCount() < nth) break;
+  }
+  EXPECT_GT(withoutSome, 0);
+}
+
+TEST(FaultyLoad, GivesAllMemoryBack) {
+  const TempFile file(SmallModel());
+  SweepFailures([&] {
+    IfcServer server;
+    TryLoad(server, file.GetPath());
+  });
+}
+
+TEST(FaultyReset, NeedsNoMemory) {
+  const TempFile file(SmallModel());
+  IfcServer server;
+  server.LoadIfcFile(file.GetPath());
+  server.AddItem(server.GetItem(std::size_t{7}));  // an instance in two slots
+  const FailingAllocation failing(1, Shortage::kFrom);
+  server.Reset();
+  EXPECT_EQ(FailingAllocation::GetCount(), 0u);
+}
+
+TEST(FaultySave, IsToldOrComplete) {
+  const TempFile source(SmallModel());
+  const TempFile target;
+  IfcServer server;
+  server.LoadIfcFile(source.GetPath());
+  std::size_t told = 0;
+  server.SetErrorHandler([&](const std::string&) { ++told; });
+  ASSERT_EQ(server.SaveIfcFile(target.GetPath()), 0);
+  const std::size_t size = target.Read().size();
+  std::size_t complete = 0;
+  std::size_t incomplete = 0;
+  SweepFailures([&] {
+    told = 0;
+    bool isSaved = false;
+    try {
+      isSaved = server.SaveIfcFile(target.GetPath()) == 0 && told == 0;
+    } catch (const std::bad_alloc&) {
+    }
+    // Reading takes memory, too; a failure that is left over for it tells nothing of the save.
+    const FailingAllocation none(0, Shortage::kOne);
+    isSaved && target.Read().size() != size ? ++incomplete : ++complete;
+  });
+  EXPECT_EQ(incomplete, 0u);
+  EXPECT_GT(complete, 0u);
+}
+
+/// What goes on in a model that a host changes.
+class FaultyRegistry : public testing::Test {
+ protected:
+  void SetUp() override {
+    const TempFile file(SmallModel());
+    server.LoadIfcFile(file.GetPath());
+    text = TextOf(server);
+  }
+
+  /// Calls an operation of the model until it succeeds, with one more allocation that goes well
+  /// each time. After each failure the model is what it was.
+  template <class Operation>
+  void RepeatUntilItSucceeds(Operation operation) {
+    for (std::size_t nth = 1; nth < 100; ++nth) {
+      const std::size_t before = CountLiveBlocks();
+      try {
+        const FailingAllocation failing(nth, Shortage::kFrom);
+        operation();
+        return;
+      } catch (const std::bad_alloc&) {
+      }
+      ASSERT_LE(CountLiveBlocks(), before + kIndexBlocks);
+      ASSERT_EQ(TextOf(server), text);
+    }
+    FAIL() << "never succeeds";
+  }
+
+  static constexpr std::size_t kIndexBlocks = 4;  // of an index that was made on the way
+
+  IfcServer server;
+  std::string text;
+};
+
+TEST_F(FaultyRegistry, AddsAnInstanceOrDestroysIt) {
+  for (int i = 0; i < 3000; ++i) {
+    std::size_t number = 0;
+    RepeatUntilItSucceeds([&] { number = server.AddItem(new IfcCartesianPoint); });
+    ASSERT_NE(number, 0u);
+    ASSERT_EQ(server.Find(server.GetItem(number)), number);
+    server.DeleteItem(server.GetItem(number));
+  }
+}
+
+TEST_F(FaultyRegistry, PutsAnInstanceUnderANumberOrLeavesTheOneThatIsThere) {
+  for (const std::size_t number : {std::size_t{12}, std::size_t{20}, SIZE_MAX}) {
+    server.Find(nullptr);
+    RepeatUntilItSucceeds([&] { server.InsertItem(number, new IfcCartesianPoint); });
+    EXPECT_EQ(server.Find(server.GetItem(number)), number);
+    text = TextOf(server);
+  }
+}
+
+TEST_F(FaultyRegistry, KeepsAnInstanceThatItHasWhereItCannotBePutUnderASecondNumber) {
+  IfcUnknown* const point = server.GetItem(std::size_t{7});
+  for (std::size_t number = 2000; number < 4000; ++number) {
+    RepeatUntilItSucceeds([&] { server.InsertItem(number, point); });
+    ASSERT_EQ(server.Find(point), 7u);
+    text = TextOf(server);
+  }
+}
+
+TEST_F(FaultyRegistry, FindsAndDeletesInTheEnd) {
+  std::size_t number = 0;
+  RepeatUntilItSucceeds([&] { number = server.Find(server.GetItem(std::size_t{12})); });
+  EXPECT_EQ(number, 12u);
+  server.InsertItem(60, server.GetItem(std::size_t{13}));
+  text = TextOf(server);
+  RepeatUntilItSucceeds([&] { number = server.DeleteItem(server.GetItem(std::size_t{13})); });
+  EXPECT_EQ(number, 13u);
+  EXPECT_EQ(server.GetItem(std::size_t{60}), nullptr);
+}
+
+TEST_F(FaultyRegistry, KnowsEachGlobalIdentifierOrNone) {
+  const char* const ids[] = {"0YvctVUKr0kugbFTf53O9L", "0YvctVUKr0kugbFTf53O9M"};
+  for (const char* id : ids) {
+    _GUID guid = {};
+    ASSERT_TRUE(DecodeGlobalId64(id, guid));
+    RepeatUntilItSucceeds([&] { ASSERT_NE(server.GetItem(guid), nullptr); });
+  }
+}
+
+TEST_F(FaultyRegistry, MakesAnItemByNameOrNone) {
+  IfcUnknown* item = nullptr;
+  RepeatUntilItSucceeds([&] {
+    item = server.CreateItem("IFCWALL");
+    if (item == nullptr) throw std::bad_alloc();
+  });
+  EXPECT_NE(server.Find(item), 0u);
+}
+
+}  // namespace
+}  // namespace KelIFC
