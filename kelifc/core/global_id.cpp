@@ -17,11 +17,22 @@ static_assert(sizeof kDigits64 == 64 + 1 && sizeof kDigits85 == 85 + 1);
 constexpr std::size_t kLength64 = 22;
 constexpr std::size_t kLength85 = 20;
 
-// The value of a digit, -1 for a character outside the alphabet.
-int DigitOf(const char* alphabet, char c) {
-  const char* digit = c == '\0' ? nullptr : std::strchr(alphabet, c);
-  return digit == nullptr ? -1 : static_cast<int>(digit - alphabet);
+// The value of each character as a digit, -1 for one outside the alphabet.
+using DigitValues = std::array<std::int8_t, 256>;
+
+constexpr DigitValues ValuesOf(const char* alphabet) {
+  DigitValues values = {};
+  for (std::int8_t& value : values) value = -1;
+  for (std::int8_t digit = 0; alphabet[digit] != '\0'; ++digit) {
+    values[static_cast<unsigned char>(alphabet[digit])] = digit;
+  }
+  return values;
 }
+
+constexpr DigitValues kValues64 = ValuesOf(kDigits64);
+constexpr DigitValues kValues85 = ValuesOf(kDigits85);
+
+int DigitOf(const DigitValues& values, char c) { return values[static_cast<unsigned char>(c)]; }
 
 // An identifier is cut into six numbers, of which the first has two digits and the others four.
 constexpr std::size_t kPieces = 6;
@@ -100,7 +111,7 @@ bool DecodeGlobalId64(const char* text, _GUID& guid) {
   Pieces pieces = {};
   for (std::size_t piece = 0; piece < kPieces; ++piece) {
     for (std::size_t i = 0; i < DigitsOfPiece(piece); ++i) {
-      const int digit = DigitOf(kDigits64, *text++);
+      const int digit = DigitOf(kValues64, *text++);
       if (digit < 0) return false;
       pieces[piece] = (pieces[piece] << 6) | static_cast<std::uint32_t>(digit);
     }
@@ -129,7 +140,7 @@ bool DecodeBase85(const char* text, _GUID& guid) {
   if (text == nullptr || std::memchr(text, '\0', kLength85) != nullptr) return false;
   Words words = {};
   for (std::size_t i = 0; i < kLength85; ++i) {
-    std::uint64_t carry = static_cast<std::uint64_t>(std::max(0, DigitOf(kDigits85, text[i])));
+    std::uint64_t carry = static_cast<std::uint64_t>(std::max(0, DigitOf(kValues85, text[i])));
     for (std::size_t word = words.size(); word > 0; --word) {
       carry += std::uint64_t{words[word - 1]} * 85;
       words[word - 1] = static_cast<std::uint32_t>(carry);

@@ -36,7 +36,7 @@ std::vector<StoreyFacts> ReadStoreys(const IfcServer& server) {
     facts.elevation = storey->GetElevation();
     facts.name = storey->GetName();
     facts.guid = storey->GetGlobalGUID();
-    facts.instanceNumber = server.Find(storey);
+    if (facts.name.empty()) facts.instanceNumber = server.Find(storey);
     storeys.push_back(std::move(facts));
   }
   return storeys;

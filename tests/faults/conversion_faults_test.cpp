@@ -27,8 +27,8 @@ std::size_t CountElements(const command::Structure& structure) {
          structure.plates.size() + structure.foots.size();
 }
 
-/// Loads the model and reads all that comes of it, and leaves no error object. No exception of its own crosses an interface:
-/// one that did would end the program.
+/// Loads the model and reads all that comes of it, and leaves no error object. No exception of its
+/// own crosses an interface: one that did would end the program.
 Outcome ReadModel() {
   struct ErrorEnd {
     ~ErrorEnd() { SetErrorInfo(0, nullptr); }

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <new>
 
-// The program's own operator new. All forms but those for great alignments are here: where memory is
-// watched, a form that is left out stays with the watcher.
+// The program's own operator new. All forms but those for great alignments are here: where memory
+// is watched, a form that is left out stays with the watcher.
 
 namespace KelIFC {
 namespace {

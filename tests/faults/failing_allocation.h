@@ -32,9 +32,9 @@ std::size_t CountLiveBlocks();
 
 /// Runs `act` without a failure, and then again and again with a failure that comes each time a
 /// little later: some hundred runs, or one for each allocation where those are fewer. `act` makes
-/// what it needs, tells nothing to the test while an allocation may fail, and lets no exception out.
-/// Whatever failed, all memory must be given back; what is kept for later, such as an answer about a
-/// class, is kept only once.
+/// what it needs, tells nothing to the test while an allocation may fail, and lets no exception
+/// out. Whatever failed, all memory must be given back; what is kept for later, such as an answer
+/// about a class, is kept only once.
 template <class Act>
 void SweepFailures(Act act) {
   constexpr std::size_t kMostRuns = 400;

@@ -113,7 +113,7 @@ TEST(FaultySave, IsToldOrComplete) {
     }
     // Reading takes memory, too; a failure that is left over for it tells nothing of the save.
     const FailingAllocation none(0, Shortage::kOne);
-    isSaved && target.Read().size() != size ? ++incomplete : ++complete;
+    isSaved&& target.Read().size() != size ? ++incomplete : ++complete;
   });
   EXPECT_EQ(incomplete, 0u);
   EXPECT_GT(complete, 0u);

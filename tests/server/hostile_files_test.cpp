@@ -55,22 +55,22 @@ std::string TextOf(IfcServer& server, std::size_t number) {
 
 /// Entities with an attribute of each kind, the place of the attribute marked by `@`.
 const char* const kAttributes[] = {
-    "IFCCARTESIANPOINT(@)",                                  // coordinates
-    "IFCDIRECTION((0.,@))",                                  // a member of a list of numbers
-    "IFCPOLYLINE(@)",                                        // references
-    "IFCPOLYLINE((#1,@))",                                   // a member of a list of references
-    "IFCWALL('g',#1,@,$,$,$,$,$)",                           // a text
-    "IFCWALL('g',@,'n',$,$,$,$,$)",                          // a reference
-    "IFCPROPERTYSINGLEVALUE('n',$,@,$)",                     // a value in place
-    "IFCPROPERTYSINGLEVALUE('n',$,IFCLABEL(@),$)",           // the text in a value in place
-    "IFCPROPERTYENUMERATEDVALUE('n',$,(@),$)",               // a list of values
-    "IFCTRIMMEDCURVE(#1,(@),(@),.T.,.PARAMETER.)",           // values and references mixed
-    "IFCSIUNIT(*,@,.MILLI.,.METRE.)",                        // an enumeration
-    "IFCUNITASSIGNMENT((@))",                                // a set
-    "IFCBOUNDINGBOX(#1,@,1.,1.)",                            // a number
-    "IFCPERSON($,'a','b',@,$,$,$,$)",                        // a list of texts
-    "IFCSITE('g',$,$,$,$,$,$,$,$,@,@,$,$,$)",                // angles
-    "IFCSOMETHINGELSE(@)",                                   // an unknown entity
+    "IFCCARTESIANPOINT(@)",                         // coordinates
+    "IFCDIRECTION((0.,@))",                         // a member of a list of numbers
+    "IFCPOLYLINE(@)",                               // references
+    "IFCPOLYLINE((#1,@))",                          // a member of a list of references
+    "IFCWALL('g',#1,@,$,$,$,$,$)",                  // a text
+    "IFCWALL('g',@,'n',$,$,$,$,$)",                 // a reference
+    "IFCPROPERTYSINGLEVALUE('n',$,@,$)",            // a value in place
+    "IFCPROPERTYSINGLEVALUE('n',$,IFCLABEL(@),$)",  // the text in a value in place
+    "IFCPROPERTYENUMERATEDVALUE('n',$,(@),$)",      // a list of values
+    "IFCTRIMMEDCURVE(#1,(@),(@),.T.,.PARAMETER.)",  // values and references mixed
+    "IFCSIUNIT(*,@,.MILLI.,.METRE.)",               // an enumeration
+    "IFCUNITASSIGNMENT((@))",                       // a set
+    "IFCBOUNDINGBOX(#1,@,1.,1.)",                   // a number
+    "IFCPERSON($,'a','b',@,$,$,$,$)",               // a list of texts
+    "IFCSITE('g',$,$,$,$,$,$,$,$,@,@,$,$,$)",       // angles
+    "IFCSOMETHINGELSE(@)",                          // an unknown entity
     "@",
 };
 
@@ -108,8 +108,9 @@ TEST_P(HostileValue, MayBeInPlaceManyTimesOver) {
 }
 
 TEST_P(HostileValue, MayBeALongRowOfAnything) {
-  for (const char* item : {"$,", "*,", "#1,", "#,", ",", ".T.,", "''", "''''", "\"", "\\", "\\\\",
-                           "\\X\\", "\\X2\\00", "\\S\\", "1,", "-", "e", "a", " ", "\t", "=", "#1="}) {
+  for (const char* item :
+       {"$,",    "*,",       "#1,",   "#,", ",", ".T.,", "''", "''''", "\"", "\\", "\\\\",
+        "\\X\\", "\\X2\\00", "\\S\\", "1,", "-", "e",    "a",  " ",    "\t", "=",  "#1="}) {
     SCOPED_TRACE(item);
     Read(Repeat(item, kMany));
   }
@@ -148,7 +149,8 @@ std::string NameOfAttribute(const testing::TestParamInfo<const char*>& info) {
 INSTANTIATE_TEST_SUITE_P(Attributes, HostileValue, testing::ValuesIn(kAttributes), NameOfAttribute);
 
 /// Gives each text that comes of another one by one more byte or by one byte that is another.
-void ForEachByteInPlace(const std::string& text, const std::function<void(const std::string&)>& act) {
+void ForEachByteInPlace(const std::string& text,
+                        const std::function<void(const std::string&)>& act) {
   for (std::size_t at = 0; at < text.size(); ++at) {
     for (int byte = 0; byte < 256; ++byte) {
       std::string changed = text;
@@ -242,7 +244,8 @@ TEST(HostileFile, MayHaveAMillionStatementsOfOneNumber) {
 }
 
 TEST(HostileFile, MayOpenCommentsAndTextsWithoutEnd) {
-  for (const char* open : {"/*", "/* x ", "'", "''", "\"", "/*/", "*/", "/*'\n", "'/*\n", "\\'", "\\\n"}) {
+  for (const char* open :
+       {"/*", "/* x ", "'", "''", "\"", "/*/", "*/", "/*'\n", "'/*\n", "\\'", "\\\n"}) {
     SCOPED_TRACE(open);
     IfcServer server;
     Scan(server, "#1=IFCDIRECTION((3.));" + Repeat(open, 1000000));
@@ -269,8 +272,8 @@ TEST(HostileFile, MayNumberItsInstancesFromOneEndToTheOther) {
 TEST(HostileFile, MayGiveAllInstancesOneGlobalIdentifier) {
   std::string data;
   for (std::size_t i = 1; i <= kMany; ++i) {
-    data += "#" + std::to_string(i) + "=IFCWALL('0YvctVUKr0kugbFTf53O9L',$,'" +
-            std::to_string(i) + "',$,$,$,$,$);";
+    data += "#" + std::to_string(i) + "=IFCWALL('0YvctVUKr0kugbFTf53O9L',$,'" + std::to_string(i) +
+            "',$,$,$,$,$);";
   }
   IfcServer server;
   Scan(server, data);
@@ -283,7 +286,8 @@ TEST(HostileFile, MayRelateEverythingToItself) {
   std::string data;
   for (std::size_t i = 1; i <= 300; ++i) {
     const std::string ref = "#" + std::to_string(i);
-    data += ref + "=IFCRELAGGREGATES('g',$,$,$," + ref + ",(" + Repeat(ref + ",", 299) + ref + "));";
+    data +=
+        ref + "=IFCRELAGGREGATES('g',$,$,$," + ref + ",(" + Repeat(ref + ",", 299) + ref + "));";
   }
   IfcServer server;
   Scan(server, data);

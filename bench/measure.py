@@ -1,0 +1,95 @@
+#!/usr/bin/env python3
+"""Measures loads, saves, conversions and resets of whole models, and prints a table of them.
+
+    python3 bench/measure.py BUILD WORK [MODEL.ifc...]
+
+BUILD is a build folder of the preset release; WORK receives the models that are made, and keeps
+them for the next time. Models that are named are measured in place of those that are made. Times
+are processor time, the median of five; memory is the most that `kelifc info`, `kelifc save` and
+`kelifc structure` take, each in a process of its own. Nothing else should run meanwhile.
+"""
+
+import collections
+import json
+import os
+import subprocess
+import sys
+
+HERE = os.path.dirname(os.path.abspath(__file__))
+REPETITIONS = 5
+MEGABYTE = 1e6
+WORKS = ("LoadWholeModel", "ResetWholeModel", "SaveWholeModel", "ConvertWholeModel")
+LOOKUPS = ("FindInstance", "GetItemByNumber", "GetItemByNumberAnywhere")
+
+Made = collections.namedtuple("Made", "release order megabytes")
+MADE = ([Made("2x3", "ascending", size) for size in (10, 50, 200, 500)] +
+        [Made("2x3", "shuffled", size) for size in (50, 200, 500)] +
+        [Made("2x2", "ascending", size) for size in (10, 50, 200, 500)])
+
+
+def make(model, folder):
+    """The path of a made model, which is made where it is not there yet."""
+    path = os.path.join(folder, f"{model.release}-{model.order}-{model.megabytes}.ifc")
+    if not os.path.exists(path):
+        options = ["--shuffled"] if model.order == "shuffled" else []
+        subprocess.run([sys.executable, os.path.join(HERE, "make_model.py"), "--megabytes",
+                        str(model.megabytes), "--release", model.release, *options, path + ".part"],
+                       check=True)
+        os.rename(path + ".part", path)
+    return path
+
+
+def run_benchmarks(build, path):
+    """The median of each benchmark: milliseconds for works, nanoseconds for lookups."""
+    names = "|".join(f"^{name}" for name in WORKS + LOOKUPS)
+    done = subprocess.run(
+        [os.path.join(build, "bench", "kelifc_bench"), f"--benchmark_filter={names}",
+         f"--benchmark_repetitions={REPETITIONS}", "--benchmark_report_aggregates_only=true",
+         "--benchmark_format=json"],
+        env={**os.environ, "KELIFC_BENCH_MODEL": path}, check=True, capture_output=True)
+    return {row["run_name"].split("/")[0]: row
+            for row in json.loads(done.stdout)["benchmarks"] if row["aggregate_name"] == "median"}
+
+
+def peak_memory(*command):
+    """The most bytes that a process has at once."""
+    process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+    _, _, usage = os.wait4(process.pid, 0)
+    return usage.ru_maxrss * 1024
+
+
+def measure(build, path):
+    size = os.path.getsize(path)
+    rows = run_benchmarks(build, path)
+    load, reset, save, convert = (rows[name]["cpu_time"] for name in WORKS)
+    command = os.path.join(build, "tools", "kelifc", "kelifc")
+    saved = path + ".saved"
+    peaks = [peak_memory(command, "info", path), peak_memory(command, "save", path, saved),
+             peak_memory(command, "structure", path)]
+    if os.path.exists(saved):
+        os.remove(saved)
+    return [f"{size / MEGABYTE:.1f}",
+            f"{load:.0f}", f"{size / load / 1e3:.0f}", f"{load / size * MEGABYTE:.2f}",
+            f"{save:.0f}", f"{size / save / 1e3:.0f}",
+            f"{convert:.1f}", f"{100 * convert / load:.0f}",
+            f"{rows['ConvertWholeModel']['elements']:.0f}",
+            f"{reset:.1f}", f"{100 * reset / load:.0f}",
+            *(f"{peak / size:.2f}" for peak in peaks),
+            *(f"{rows[name]['cpu_time']:.0f}" for name in LOOKUPS)]
+
+
+def main():
+    build, work, *named = sys.argv[1:]
+    os.makedirs(work, exist_ok=True)
+    paths = named or [make(model, work) for model in MADE]
+    print("| model | MB | load ms | MB/s | ms per MB | save ms | MB/s | convert ms | % of load | "
+          "elements | reset ms | % of load | B/B load | B/B save | B/B structure | find ns | "
+          "item ns | item anywhere ns |")
+    print("|---|" + "---:|" * 17)
+    for path in paths:
+        name = os.path.splitext(os.path.basename(path))[0]
+        print(f"| {name} | " + " | ".join(measure(build, path)) + " |", flush=True)
+
+
+if __name__ == "__main__":
+    main()
