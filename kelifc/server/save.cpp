@@ -72,6 +72,7 @@ int IfcServer::SaveIfcFile(const char* path) {
 // instance waits for memory; so the steps of a whole batch wait together.
 void IfcServer::WriteInstances(std::ostream& out) {
   constexpr std::size_t kBatch = 32;
+  constexpr std::size_t kWritten = 256;  // bytes of an instance: all are read
   std::array<std::uint64_t, kBatch> batch = {};
   std::uint64_t last = 0;
   for (std::size_t count = kBatch; count == kBatch;) {
@@ -80,7 +81,9 @@ void IfcServer::WriteInstances(std::ostream& out) {
       Prefetch(&items[idToIndex.Find(last)]);
       batch[count++] = last;
     }
-    for (std::size_t i = 0; i < count; ++i) PrefetchInstance(items[idToIndex.Find(batch[i])]);
+    for (std::size_t i = 0; i < count; ++i) {
+      PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
+    }
     for (std::size_t i = 0; i < count; ++i) WriteInstance(out, batch[i]);
   }
 }
