@@ -1,7 +1,9 @@
 #include "kelifc/server/file_output.h"
 
+#include <cerrno>
 #include <cstring>
 #include <locale>
+#include <system_error>
 
 namespace KelIFC {
 namespace {
@@ -20,8 +22,12 @@ FileOutput::~FileOutput() { Close(); }
 
 bool FileOutput::Close() {
   if (!buffer.Flush()) stream.setstate(std::ios::badbit);
-  if (IsOpen() && buffer.file.close() == nullptr) stream.setstate(std::ios::badbit);
+  if (IsOpen() && !buffer.CloseFile()) stream.setstate(std::ios::badbit);
   return stream.good();
+}
+
+std::string FileOutput::GetFailure() const {
+  return buffer.failure == 0 ? std::string() : std::generic_category().message(buffer.failure);
 }
 
 FileOutput::Buffer::Buffer() : block(new char[kBlockSize]) {
@@ -31,7 +37,19 @@ FileOutput::Buffer::Buffer() : block(new char[kBlockSize]) {
 bool FileOutput::Buffer::Flush() {
   const std::streamsize count = pptr() - pbase();
   setp(block.get(), block.get() + kBlockSize);
-  return file.sputn(block.get(), count) == count;
+  return Put(block.get(), count);
+}
+
+bool FileOutput::Buffer::CloseFile() { return Note(file.close() != nullptr); }
+
+bool FileOutput::Buffer::Put(const char* text, std::streamsize count) {
+  return Note(file.sputn(text, count) == count);
+}
+
+// The reason of a later failure may be but a consequence.
+bool FileOutput::Buffer::Note(bool success) {
+  if (!success && failure == 0) failure = errno;
+  return success;
 }
 
 FileOutput::Buffer::int_type FileOutput::Buffer::overflow(int_type character) {
@@ -44,7 +62,7 @@ FileOutput::Buffer::int_type FileOutput::Buffer::overflow(int_type character) {
 
 std::streamsize FileOutput::Buffer::xsputn(const char* text, std::streamsize count) {
   if (count > epptr() - pptr() && !Flush()) return 0;
-  if (count > kBlockSize) return file.sputn(text, count);
+  if (count > kBlockSize) return Put(text, count) ? count : 0;
   std::memcpy(pptr(), text, static_cast<std::size_t>(count));
   pbump(static_cast<int>(count));
   return count;

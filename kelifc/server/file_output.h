@@ -29,14 +29,19 @@ class FileOutput {
   /// Writes out what is left and closes the file. False if any byte of it could not be written.
   bool Close();
 
+  /// What the system says of the first failure; "" if there was none, or if it says nothing.
+  std::string GetFailure() const;
+
  private:
   // Gathers text and hands it to the file in blocks.
   class Buffer : public std::streambuf {
    public:
     Buffer();
     bool Flush();
+    bool CloseFile();
 
     std::filebuf file;
+    int failure = 0;  // errno of the first one
 
    protected:
     int_type overflow(int_type character) override;
@@ -44,6 +49,9 @@ class FileOutput {
     int sync() override;
 
    private:
+    bool Put(const char* text, std::streamsize count);
+    bool Note(bool success);
+
     std::unique_ptr<char[]> block;
   };
 

@@ -61,7 +61,9 @@ int IfcServer::SaveIfcFile(const char* path) {
   WriteInstances(out);
   PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
   if (!file.Close()) {
-    TellError(place + "the file could not be written to its end");
+    const std::string reason = file.GetFailure();
+    TellError(place + "the file could not be written to its end" +
+              (reason.empty() ? "" : ": " + reason));
   } else if (!FileExists(path)) {
     TellError(place + "the file is gone");
   }

@@ -58,7 +58,9 @@ TEST(FileOutput, TellsThatAFileCouldNotBeWrittenToItsEnd) {
   FileOutput file("/dev/full");
   if (!file.IsOpen()) GTEST_SKIP() << "no full device on this system";
   file.GetStream() << "text";
+  EXPECT_EQ(file.GetFailure(), "");
   EXPECT_FALSE(file.Close());
+  EXPECT_EQ(file.GetFailure(), "No space left on device");
 }
 
 }  // namespace
