@@ -3,6 +3,7 @@
 #include <cstdlib>
 
 #include "tests/command/process.h"
+#include "tests/paths.h"
 
 namespace command_test {
 namespace {
@@ -16,7 +17,7 @@ TEST_P(Golden, OutputIsAsKept) {
   const Outcome run = Kelifc({command, "--json", model + ".ifc"});
   ASSERT_EQ(run.status, 0) << run.err;
   const std::string path =
-      std::string(KELIFC_SOURCE_DIR) + "/tests/command/golden/" + model + "." + command + ".json";
+      std::string(KelIFC::kSourceDir) + "/tests/command/golden/" + model + "." + command + ".json";
   if (std::getenv("KELIFC_RENEW_GOLDENS") != nullptr) {
     WriteFile(path, run.out);
     GTEST_SKIP() << "renewed " << path;

@@ -10,6 +10,8 @@
 #include <iterator>
 #include <stdexcept>
 
+#include "tests/paths.h"
+
 namespace command_test {
 namespace {
 
@@ -31,7 +33,7 @@ Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& out
   const pid_t child = fork();
   if (child < 0) throw std::runtime_error("no process could be made");
   if (child == 0) {
-    if (chdir(KELIFC_EXAMPLES_DIR) != 0) _exit(126);
+    if (chdir(KelIFC::kExamplesDir) != 0) _exit(126);
     Redirect(STDOUT_FILENO, out);
     Redirect(STDERR_FILENO, err);
     execv(KELIFC_COMMAND, argv.data());

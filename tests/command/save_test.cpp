@@ -4,6 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/command/process.h"
+#include "tests/paths.h"
 
 namespace command_test {
 namespace {
@@ -51,7 +52,7 @@ TEST_P(Save, KeepsTheStructure) {
 
 TEST_P(Save, WritesOverItsModelWhereTheUserNamesItTwice) {
   const std::string path = folder.Path("model.ifc");
-  WriteFile(path, ReadFile(std::string(KELIFC_EXAMPLES_DIR) + "/" + GetParam()));
+  WriteFile(path, ReadFile(std::string(KelIFC::kExamplesDir) + "/" + GetParam()));
   ASSERT_EQ(Kelifc({"save", path, path}).status, 0);
   EXPECT_THAT(ReadFile(path), StartsWith("ISO-10303-21;"));
   EXPECT_THAT(ReadFile(path), EndsWith("END-ISO-10303-21;\n"));

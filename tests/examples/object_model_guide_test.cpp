@@ -8,13 +8,15 @@
 
 #include "kelifc/kelifc.h"
 
+#include "tests/paths.h"
+
 // The C++ of docs/object-model.md, in use. The first test finds each piece of the page in this
 // file, line by line.
 
 namespace {
 
 std::vector<std::string> LinesOf(const std::string& path) {
-  std::ifstream file(std::string(KELIFC_SOURCE_DIR) + "/" + path);
+  std::ifstream file(std::string(KelIFC::kSourceDir) + "/" + path);
   std::vector<std::string> lines;
   for (std::string line; std::getline(file, line);) {
     lines.push_back(line.substr(std::min(line.find_first_not_of(' '), line.size())));
@@ -48,7 +50,7 @@ TEST(ObjectModelGuide, ShowsWhatIsTestedHere) {
 class Guide : public testing::Test {
  protected:
   void Open(const std::string& model) {
-    const std::string path = std::string(KELIFC_EXAMPLES_DIR) + "/" + model;
+    const std::string path = std::string(KelIFC::kExamplesDir) + "/" + model;
     KelIFC::ComPtr<IIFCServer> server;
     CoCreateInstance(CLSID_CoIFCServer, nullptr, CLSCTX_ALL, KelIFC::IidOf<IIFCServer>(),
                      reinterpret_cast<void**>(server.Put()));

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "tests/command/process.h"
+#include "tests/paths.h"
 
 namespace command_test {
 namespace {
@@ -18,7 +19,8 @@ Outcome Walk(const std::string& model) { return Kelifc({model}); }
 TEST(WalkExampleGolden, OfTheHouseIsAsKept) {
   const Outcome run = Walk("house.ifc");
   ASSERT_EQ(run.status, 0) << run.err;
-  const std::string path = std::string(KELIFC_SOURCE_DIR) + "/tests/examples/golden/house.walk.txt";
+  const std::string path =
+      std::string(KelIFC::kSourceDir) + "/tests/examples/golden/house.walk.txt";
   if (std::getenv("KELIFC_RENEW_GOLDENS") != nullptr) {
     WriteFile(path, run.out);
     GTEST_SKIP() << "renewed " << path;

@@ -8,12 +8,13 @@
 
 #include "tests/faults/failing_allocation.h"
 #include "tests/geo/host.h"
+#include "tests/paths.h"
 #include "tools/kelifc/structure_reader.h"
 
 namespace KelIFC {
 namespace {
 
-const char* const kModel = KELIFC_EXAMPLES_DIR "/hall.ifc";
+std::string ModelPath() { return std::string(kExamplesDir) + "/hall.ifc"; }
 
 /// How a host fared.
 struct Outcome {
@@ -40,7 +41,7 @@ Outcome ReadModel() {
     return outcome;
   }
   try {
-    outcome.load = server->Load(Bstr(WidePath(kModel)).Get());
+    outcome.load = server->Load(Bstr(WidePath(ModelPath())).Get());
     ComPtr<IGeoStructure> structure;
     if (server->get_Structure(structure.Put()) != S_OK) return outcome;
     outcome.elements = CountElements(command::ReadStructure(*structure));
@@ -68,7 +69,7 @@ TEST_F(FaultyConversion, GivesElementsOfTheModelAndNoOthers) {
 
 TEST_F(FaultyConversion, TellsThatMemoryIsLacking) {
   auto server = Create<IIFCServer>(CLSID_CoIFCServer);
-  const Bstr path(WidePath(kModel));
+  const Bstr path(WidePath(ModelPath()));
   {
     const FailingAllocation failing(1, Shortage::kFrom);
     EXPECT_EQ(server->Load(path.Get()), E_OUTOFMEMORY);

@@ -1,5 +1,6 @@
 #include <map>
 
+#include "tests/paths.h"
 #include "tests/schema/model.h"
 #include "tests/server/temp_file.h"
 
@@ -8,9 +9,7 @@
 namespace KelIFC {
 namespace {
 
-std::string Example(const std::string& name) {
-  return std::string(KELIFC_EXAMPLES_DIR) + "/" + name;
-}
+std::string Example(const std::string& name) { return std::string(kExamplesDir) + "/" + name; }
 
 /// What each instance writes, by number.
 std::map<std::size_t, std::string> RecordsOf(IfcServer& server) {

@@ -7,6 +7,7 @@
 
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/paths.h"
 #include "tests/server/temp_file.h"
 
 namespace KelIFC {
@@ -45,7 +46,7 @@ TEST(Truncation, LoadsASmallModelCutAtAnyByte) {
 }
 
 TEST(Truncation, LoadsTheExamplesCutAtAnyByte) {
-  const std::filesystem::path folder(KELIFC_EXAMPLES_DIR);
+  const std::filesystem::path folder(kExamplesDir);
   if (!std::filesystem::exists(folder)) GTEST_SKIP() << "no examples here";
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     if (entry.path().extension() != ".ifc" || entry.file_size() >= kLargestFile) continue;

@@ -4,6 +4,7 @@
 #include <iterator>
 #include <string>
 
+#include "tests/paths.h"
 #include "tests/tools/comgen/describe.h"
 
 // The object model as hosts are compiled against it, told a second time and in another form, so
@@ -155,7 +156,7 @@ std::string ReadText(const std::string& path) {
 }
 
 Description ReadDescription() {
-  const std::string path = KELIFC_SOURCE_DIR "/kelifc/geo/geo.objects";
+  const std::string path = std::string(KelIFC::kSourceDir) + "/kelifc/geo/geo.objects";
   Description description = ParseDescription(path, ReadText(path));
   Resolve(description);
   return description;
@@ -256,7 +257,7 @@ std::string PartOfGuide(const std::string& guide, const std::string& interface) 
 
 TEST(ObjectModel, IsToldWholeInTheGuideForHosts) {
   const Description description = ReadDescription();
-  const std::string guide = ReadText(KELIFC_SOURCE_DIR "/docs/object-model.md");
+  const std::string guide = ReadText(std::string(KelIFC::kSourceDir) + "/docs/object-model.md");
   for (const Interface& interface : description.interfaces) {
     const std::string part = PartOfGuide(guide, interface.name);
     EXPECT_FALSE(part.empty()) << interface.name;
