@@ -6,9 +6,9 @@
 #include <type_traits>
 #include <utility>
 
-#include "kelifc/core/position_index.h"
-#include "kelifc/core/sequence.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/position_index.h"
+#include "kelifc/core/detail/sequence.h"
+#include "kelifc/core/detail/text_out.h"
 
 // The aggregates of the schema. Positions count from 1, and 0 means not found. A copy copies each
 // element in turn; see MEMBER for what that does to values in place.

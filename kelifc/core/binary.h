@@ -6,8 +6,8 @@
 #include <ostream>
 #include <string_view>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/platform/export.h"
 
 namespace KelIFC {

@@ -1,8 +1,8 @@
 #include "kelifc/core/bounding_box.h"
 
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/exception.h"
-#include "kelifc/core/model.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/references/model.h"
 
 namespace KelIFC {
 

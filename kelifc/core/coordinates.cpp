@@ -6,10 +6,10 @@
 #include <new>
 #include <string>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/parenthesised.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/lists/parenthesised.h"
+#include "kelifc/core/text/number_text.h"
 
 namespace KelIFC {
 

@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "kelifc/core/cursor.h"
+#include "kelifc/core/detail/cursor.h"
 
 namespace KelIFC {
 

@@ -1,7 +1,7 @@
 #include "kelifc/core/enum_text.h"
 
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/enum.h"
-#include "kelifc/core/text_out.h"
 
 namespace KelIFC {
 

@@ -1,8 +1,8 @@
 #include "kelifc/core/integer.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/number_text.h"
 
 namespace KelIFC {
 

@@ -1,6 +1,6 @@
 #include "kelifc/core/length_measure.h"
 
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
 
 namespace KelIFC {
 

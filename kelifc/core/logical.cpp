@@ -1,8 +1,8 @@
 #include "kelifc/core/logical.h"
 
-#include "kelifc/core/cursor.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/enum.h"
-#include "kelifc/core/text_out.h"
 
 namespace KelIFC {
 

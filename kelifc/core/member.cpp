@@ -3,10 +3,10 @@
 #include <charconv>
 #include <string_view>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/model.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/references/model.h"
+#include "kelifc/core/text/number_text.h"
 #include "kelifc/core/unknown.h"
 
 namespace KelIFC {

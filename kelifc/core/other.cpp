@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
 
 namespace KelIFC {
 

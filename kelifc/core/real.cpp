@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/text_out.h"
-#include "kelifc/core/write_tolerance.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/number_text.h"
+#include "kelifc/core/text/write_tolerance.h"
 
 namespace KelIFC {
 

@@ -1,7 +1,7 @@
 #include "kelifc/core/set_of_members.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/parse_members.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/lists/parse_members.h"
 
 namespace KelIFC {
 

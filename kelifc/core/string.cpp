@@ -1,8 +1,8 @@
 #include "kelifc/core/string.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/quoting.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/quoting.h"
 
 namespace KelIFC {
 

@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
 
 namespace KelIFC {
 

@@ -5,7 +5,7 @@
 #include <iosfwd>
 #include <new>
 
-#include "kelifc/core/block_memory.h"
+#include "kelifc/core/detail/block_memory.h"
 #include "kelifc/platform/export.h"
 
 namespace KelIFC {
@@ -44,7 +44,7 @@ class KELIFC_API IfcUnknown {
   virtual const IfcServer* GetServer() const;
   virtual void SetServer(IfcServer* model);
 
-  /// The memory of an instance; see block_memory.h.
+  /// The memory of an instance; see detail/block_memory.h.
   static void* operator new(std::size_t size) { return AllocateBlock(size); }
   static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
   static void* operator new(std::size_t, void* place) noexcept { return place; }

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "kelifc/core/cast_cache.h"
-#include "kelifc/core/prefetch.h"
+#include "kelifc/core/detail/prefetch.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {

@@ -6,15 +6,15 @@
 #include <string>
 #include <string_view>
 
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/enum.h"
 #include "kelifc/core/enum_text.h"
+#include "kelifc/core/lists/value_lists.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/real.h"
+#include "kelifc/core/references/value_member.h"
 #include "kelifc/core/string.h"
-#include "kelifc/core/text_out.h"
 #include "kelifc/core/unknown.h"
-#include "kelifc/core/value_lists.h"
-#include "kelifc/core/value_member.h"
 
 // How the record of an entity is read and written: as a row of parts. A part is an attribute, or
 // one of the classes below for a position that is not simply an attribute.

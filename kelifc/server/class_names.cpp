@@ -4,7 +4,7 @@
 
 #include "kelifc/core/bounding_box.h"
 #include "kelifc/core/cartesian_point.h"
-#include "kelifc/core/cursor.h"
+#include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/length_measure.h"
 #include "kelifc/core/other.h"
 #include "kelifc/core/parameter_value.h"

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "kelifc/core/step_file_schema.h"
+#include "kelifc/core/text/write_tolerance.h"
 #include "kelifc/core/unknown.h"
-#include "kelifc/core/write_tolerance.h"
 #include "kelifc/server/release_tables.h"
 
 // The registry: what it holds, and how it is asked. Loading, saving and the making of instances by

@@ -13,8 +13,8 @@
 #include "kelifc/core/mvector.h"
 #include "kelifc/platform/export.h"
 #include "kelifc/platform/guid.h"
-#include "kelifc/server/instance_index.h"
-#include "kelifc/server/number_index.h"
+#include "kelifc/server/detail/instance_index.h"
+#include "kelifc/server/detail/number_index.h"
 #include "kelifc/server/release.h"
 
 namespace KelIFC151 {

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "kelifc/core/prefetch.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/prefetch.h"
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/local_time.h"
 #include "kelifc/platform/path.h"

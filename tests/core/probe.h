@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
 
 namespace KelIFC {
