@@ -91,7 +91,9 @@ TEST(Utf8, JoinsSurrogatesOfWideText) {
   EXPECT_EQ(Utf8FromWide(pair), "\xF0\x9F\x8F\xA0");
   EXPECT_EQ(Utf8FromWide(pair.substr(0, 1)), "\xEF\xBF\xBD");
   EXPECT_EQ(Utf8FromWide(pair.substr(1)), "\xEF\xBF\xBD");
-  EXPECT_EQ(Utf8FromWide(pair.substr(0, 1) + L"a"), "\xEF\xBF\xBD" "a");
+  EXPECT_EQ(Utf8FromWide(pair.substr(0, 1) + L"a"),
+            "\xEF\xBF\xBD"
+            "a");
 }
 
 }  // namespace

@@ -8,8 +8,7 @@ namespace {
 TEST(Iso8859, HasTheSameLowerHalfInAllPages) {
   for (char page = 'A'; page <= 'I'; ++page) {
     for (int byte = 0; byte < 0xA0; ++byte) {
-      EXPECT_EQ(DecodeIso8859(page, static_cast<unsigned char>(byte)),
-                static_cast<char32_t>(byte));
+      EXPECT_EQ(DecodeIso8859(page, static_cast<unsigned char>(byte)), static_cast<char32_t>(byte));
     }
     EXPECT_EQ(DecodeIso8859(page, 0xA0), 0xA0U);
   }

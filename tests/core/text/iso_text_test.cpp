@@ -29,7 +29,7 @@ class Offsets : public BadEscapeSink {
 /// What is read of the text after an opening quote.
 struct Decoded {
   std::string text;
-  std::string rest;                  // after the closing quote; "(open)" if there is none
+  std::string rest;                 // after the closing quote; "(open)" if there is none
   std::vector<std::ptrdiff_t> bad;  // where the bad escapes begin
 };
 
@@ -116,10 +116,10 @@ TEST(IsoText, EndsAfterAShiftedQuoteWhereTheValueEnds) {
     std::string rest;
   };
   const Case kCases[] = {
-      {"\\S\\',$", kBad, ",$"},                  // an escape that is cut short
-      {"\\S\\'',$", "\xC2\xA7", ",$"},           // the character and the end
-      {"\\S\\''',$", "\xC2\xA7", ",$"},          // its quote is doubled
-      {"\\S\\'''',$", "\xC2\xA7'", ",$"},        // followed by a doubled quote
+      {"\\S\\',$", kBad, ",$"},            // an escape that is cut short
+      {"\\S\\'',$", "\xC2\xA7", ",$"},     // the character and the end
+      {"\\S\\''',$", "\xC2\xA7", ",$"},    // its quote is doubled
+      {"\\S\\'''',$", "\xC2\xA7'", ",$"},  // followed by a doubled quote
       {"\\S\\''''',$", "\xC2\xA7'", ",$"},
       {"\\S\\'')", "\xC2\xA7", ")"},
       {"\\S\\''  )", "\xC2\xA7", "  )"},
@@ -134,12 +134,18 @@ TEST(IsoText, EndsAfterAShiftedQuoteWhereTheValueEnds) {
 }
 
 TEST(IsoText, GoesOnAfterAShiftedQuoteWhereTextFollows) {
-  EXPECT_EQ(TextOf("\\S\\'5"), "\xC2\xA7" "5");
+  EXPECT_EQ(TextOf("\\S\\'5"),
+            "\xC2\xA7"
+            "5");
   EXPECT_EQ(TextOf("\\S\\' 5 BauO"), "\xC2\xA7 5 BauO");
-  EXPECT_EQ(TextOf("\\S\\''5"), "\xC2\xA7" "5");
+  EXPECT_EQ(TextOf("\\S\\''5"),
+            "\xC2\xA7"
+            "5");
   EXPECT_EQ(TextOf("\\S\\'''5"), "\xC2\xA7'5");
   EXPECT_EQ(TextOf("\\S\\''''5"), "\xC2\xA7'5");
-  EXPECT_EQ(TextOf("\\PE\\\\S\\'a"), "\xD0\x87" "a");
+  EXPECT_EQ(TextOf("\\PE\\\\S\\'a"),
+            "\xD0\x87"
+            "a");
 }
 
 TEST(IsoText, HasBytesOfLatin1) {
@@ -205,7 +211,9 @@ TEST(IsoText, KeepsTheGoodGroupsOfABadEscape) {
   EXPECT_EQ(TextWithOneBad("a\\X2\\0000\\X0\\b"), "a" + bad + "b");
   EXPECT_EQ(TextWithOneBad("a\\X2\\D83C\\X0\\b"), "a" + bad + "b");
   EXPECT_EQ(TextWithOneBad("a\\X2\\DFE0\\X0\\b"), "a" + bad + "b");
-  EXPECT_EQ(TextWithOneBad("a\\X2\\D83C00E4\\X0\\b"), "a" + bad + "\xC3\xA4" "b");
+  EXPECT_EQ(TextWithOneBad("a\\X2\\D83C00E4\\X0\\b"), "a" + bad +
+                                                          "\xC3\xA4"
+                                                          "b");
   EXPECT_EQ(TextWithOneBad("a\\X4\\00110000\\X0\\b"), "a" + bad + "b");
   EXPECT_EQ(TextWithOneBad("a\\X4\\0000D83C\\X0\\b"), "a" + bad + "b");
 }
