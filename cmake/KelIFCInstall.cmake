@@ -17,7 +17,7 @@ set(internal_headers
   platform/com_object platform/com_registration platform/com_type_library
   platform/local_time platform/memory_watch platform/new_guid platform/path platform/utf8
   schema/bodies schema/record schema/references
-  server/block_search server/file_output server/name_table server/release_tables server/scanner
+  server/block_search server/classic_rules server/file_output server/iso_rules server/iso_statement server/name_table server/release_tables server/scan_buffer server/scanner
   server/schema_table server/statements)
 list(JOIN internal_headers "|" internal_headers)
 install(DIRECTORY "${PROJECT_SOURCE_DIR}/kelifc" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
