@@ -24,9 +24,9 @@ std::uint64_t ScanBuffer::PeekNumber() const {
 
 SourcePlace ScanBuffer::GetPlace(std::size_t offset) const {
   offset += dropped;
-  const auto next =
-      std::upper_bound(pieces.begin(), pieces.end(), offset,
-                       [](std::size_t wanted, const Piece& piece) { return wanted < piece.offset; });
+  const auto next = std::upper_bound(
+      pieces.begin(), pieces.end(), offset,
+      [](std::size_t wanted, const Piece& piece) { return wanted < piece.offset; });
   if (next == pieces.begin()) return {start.line, start.column + offset};
   const Piece& piece = next[-1];
   const bool isLast = next == pieces.end() && pieces.size() == kMostPieces;

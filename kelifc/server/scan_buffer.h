@@ -27,6 +27,10 @@ class ScanBuffer {
   /// The number of characters of the last statement.
   std::size_t GetLength() const { return textEnd - textBegin; }
 
+  /// The begin and the end of the text of the last statement.
+  const char* GetText() const { return buffer.get() + textBegin; }
+  const char* GetTextEnd() const { return buffer.get() + textEnd; }
+
   /// The number of the next statement, as far as it can be told without parsing: 0 unless it begins
   /// with `#` and digits and is in the buffer.
   std::uint64_t PeekNumber() const;
@@ -51,8 +55,8 @@ class ScanBuffer {
   // Starts a new statement at the cursor.
   void Begin();
 
-  // Ends the statement, and moves the cursor to `next`, where the next one starts. There is room for
-  // a NUL after the text: `next` is after the cursor, or the run is empty and the text is not.
+  // Ends the statement, and moves the cursor to `next`, where the next one starts. There is room
+  // for a NUL after the text: `next` is after the cursor, or the run is empty and the text is not.
   char* Finish(std::size_t next);
 
   // Removes characters from the front of the text of a statement that is finished.

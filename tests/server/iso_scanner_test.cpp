@@ -147,8 +147,7 @@ TEST(IsoScanner, ReportsWhatHasNoEndInTheFile) {
 }
 
 TEST(IsoScanner, TellsWhereEachCharacterStands) {
-  const std::string text =
-      "/* c\nc */ AB; CD\r\n  E/* d\n */F\n'gh\ni\n';\n\n   K;";
+  const std::string text = "/* c\nc */ AB; CD\r\n  E/* d\n */F\n'gh\ni\n';\n\n   K;";
   std::istringstream input(text);
   IsoScanner scanner(input, 4);
   const auto placesOf = [&](const char* characters) {
@@ -161,8 +160,8 @@ TEST(IsoScanner, TellsWhereEachCharacterStands) {
   };
   using P = SourcePlace;
   EXPECT_THAT(placesOf("AB"), ElementsAre(P{2, 6}, P{2, 7}));
-  EXPECT_THAT(placesOf("CDEFghi"), ElementsAre(P{2, 10}, P{2, 11}, P{3, 3}, P{4, 4}, P{5, 2},
-                                               P{5, 3}, P{6, 1}));
+  EXPECT_THAT(placesOf("CDEFghi"),
+              ElementsAre(P{2, 10}, P{2, 11}, P{3, 3}, P{4, 4}, P{5, 2}, P{5, 3}, P{6, 1}));
   EXPECT_THAT(placesOf("K"), ElementsAre(P{9, 4}));
 }
 
@@ -219,8 +218,8 @@ class PlainScanner {
         const std::size_t close = text.find("*/", at + 2);
         at = close == std::string::npos ? text.size() : close + 2;
       } else if (text[at] == ';') {
-        statements.push_back(statement.substr(std::min(statement.size(),
-                                                       statement.find_first_not_of(' '))));
+        statements.push_back(
+            statement.substr(std::min(statement.size(), statement.find_first_not_of(' '))));
         statement.clear();
         ++at;
       } else {
@@ -233,8 +232,7 @@ class PlainScanner {
  private:
   void TakeString() {
     const char* const end = text.data() + text.size();
-    const char* const closing =
-        DecodeIsoString(text.data() + at + 1, end, decoded, nullptr);
+    const char* const closing = DecodeIsoString(text.data() + at + 1, end, decoded, nullptr);
     const std::size_t next =
         closing == nullptr ? text.size() : static_cast<std::size_t>(closing - text.data()) + 1;
     statement += text.substr(at, next - at);
@@ -251,11 +249,12 @@ class PlainScanner {
 class RandomIsoText : public testing::TestWithParam<std::size_t> {};
 
 TEST_P(RandomIsoText, ScansAsThePlainScannerDoes) {
-  const std::vector<std::string> pieces = {"'",    "'",    "\\",   "\\S\\", "\\S\\'", "\\X2\\",
-                                           "\\X0\\", "\\PA\\", "\\X\\", "S",  "X",      "0",
-                                           ";",    ";",    ",",    ")",    " ",      "/*",
-                                           "*/",   "a",    "\n",   "\r\n", "P",      "A",
-                                           std::string(1, '\0')};
+  const std::vector<std::string> pieces = {
+      "'",      "'",      "\\",     "\\S\\", "\\S\\'",
+      "\\X2\\", "\\X0\\", "\\PA\\", "\\X\\", "S",
+      "X",      "0",      ";",      ";",     ",",
+      ")",      " ",      "/*",     "*/",    "a",
+      "\n",     "\r\n",   "P",      "A",     std::string(1, '\0')};
   std::mt19937 random(4321u + static_cast<unsigned>(GetParam()));
   for (int round = 0; round < 6000; ++round) {
     std::string text;
