@@ -74,7 +74,8 @@ void ExpandGzip(const std::string& path, std::ostream& out, const ExpansionLimit
   bool isPadding = false;
   while (!isPadding && file) {
     file.read(input.data(), static_cast<std::streamsize>(input.size()));
-    if (file.bad()) throw std::system_error(errno, std::generic_category(), "the file cannot be read");
+    if (file.bad())
+      throw std::system_error(errno, std::generic_category(), "the file cannot be read");
     inflater.SetInput(input.data(), static_cast<std::size_t>(file.gcount()));
     while (inflater.HasInput() && !isPadding) {
       if (!inflater.IsInMember()) {

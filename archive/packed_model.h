@@ -37,12 +37,19 @@ class ArchiveError : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+/// Thrown for an archive by a build that was made without the libraries that expand archives.
+class NotBuilt : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
 /// Expands the model that the file at `path` holds and writes its bytes to `out`.
 ///  - A gzip file is the model; members that follow each other are joined.
 ///  - Of a zip file the first member whose name ends in `.ifc`, in any case, is the model. The name
 ///    is used for nothing else.
 /// Throws ArchiveError if the file is no archive, is damaged, is encrypted, holds another archive
-/// or no `.ifc` member, or exceeds a limit; throws std::system_error if a file cannot be read or
+/// or no `.ifc` member, or exceeds a limit; NotBuilt if this build expands no archives; and
+/// std::system_error if a file cannot be read or
 /// written. What was written before is then of no use.
 void ExpandModel(const std::string& path, std::ostream& out, const ExpansionLimits& limits = {});
 

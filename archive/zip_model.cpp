@@ -33,7 +33,8 @@ Archive Open(const std::string& path) {
   if (archive != nullptr) return archive;
   zip_error_t error;
   zip_error_init_with_code(&error, code);
-  const int systemCode = zip_error_system_type(&error) == ZIP_ET_SYS ? zip_error_code_system(&error) : 0;
+  const int systemCode =
+      zip_error_system_type(&error) == ZIP_ET_SYS ? zip_error_code_system(&error) : 0;
   zip_error_fini(&error);
   if (systemCode != 0) {
     throw std::system_error(systemCode, std::generic_category(), "the file cannot be opened");

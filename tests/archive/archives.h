@@ -57,7 +57,8 @@ inline std::string Gzip(const std::string& text) {
 using Members = std::vector<std::pair<std::string, std::string>>;  // name, content
 
 /// Makes a zip file at `path`; with a password its members are encrypted.
-inline void MakeZip(const std::string& path, const Members& members, const char* password = nullptr) {
+inline void MakeZip(const std::string& path, const Members& members,
+                    const char* password = nullptr) {
   zip_t* archive = zip_open(path.c_str(), ZIP_CREATE | ZIP_TRUNCATE, nullptr);
   ASSERT_NE(archive, nullptr);
   for (const auto& [name, content] : members) {
@@ -65,8 +66,8 @@ inline void MakeZip(const std::string& path, const Members& members, const char*
     const zip_int64_t index = zip_file_add(archive, name.c_str(), source, 0);
     ASSERT_GE(index, 0);
     if (password == nullptr) continue;
-    ASSERT_EQ(zip_file_set_encryption(archive, static_cast<zip_uint64_t>(index),
-                                      ZIP_EM_TRAD_PKWARE, password),
+    ASSERT_EQ(zip_file_set_encryption(archive, static_cast<zip_uint64_t>(index), ZIP_EM_TRAD_PKWARE,
+                                      password),
               0);
   }
   ASSERT_EQ(zip_close(archive), 0);

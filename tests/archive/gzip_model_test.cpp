@@ -14,7 +14,8 @@ TEST(GzipModel, IsExpandedToItsBytes) {
 
 TEST(GzipModel, IsExpandedAcrossManyBlocks) {
   std::string model;
-  for (int i = 0; i < 60000; ++i) model += "#" + std::to_string(i) + "=IFCWALL(" + std::to_string(i * 7919) + ");\n";
+  for (int i = 0; i < 60000; ++i)
+    model += "#" + std::to_string(i) + "=IFCWALL(" + std::to_string(i * 7919) + ");\n";
   const ArchiveFile file(Gzip(model));
   EXPECT_EQ(Expand(file.GetPath()), model);
 }
@@ -51,8 +52,7 @@ TEST(GzipModel, IsRefusedIfItHoldsAnotherArchive) {
 
 TEST(GzipModel, IsRefusedIfItExpandsBeyondTheRatio) {
   const ArchiveFile file(Gzip(std::string(1000000, ' ')));
-  EXPECT_EQ(Expand(file.GetPath()),
-            "refused: the archive expands to more than 200 times its size");
+  EXPECT_EQ(Expand(file.GetPath()), "refused: the archive expands to more than 200 times its size");
   ExpansionLimits limits;
   limits.ratio = 0;
   EXPECT_EQ(Expand(file.GetPath(), limits).size(), 1000000U);

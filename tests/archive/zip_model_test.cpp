@@ -58,8 +58,7 @@ TEST(ZipModel, IsRefusedIfItIsEncrypted) {
 TEST(ZipModel, IsRefusedIfItExpandsBeyondTheLimits) {
   const ArchiveFile file;
   MakeZip(file.GetPath(), {{"a.ifc", std::string(1000000, ' ')}});
-  EXPECT_EQ(Expand(file.GetPath()),
-            "refused: the archive expands to more than 200 times its size");
+  EXPECT_EQ(Expand(file.GetPath()), "refused: the archive expands to more than 200 times its size");
   ExpansionLimits limits;
   limits.ratio = 0;
   EXPECT_EQ(Expand(file.GetPath(), limits).size(), 1000000U);
