@@ -13,8 +13,7 @@ using testing::StartsWith;
 
 TEST(ModelSource, IsStandardInputForADash) {
   const Outcome file = Kelifc({"info", "house.ifc"});
-  const Outcome input =
-      Kelifc({"info", "-"}, "", std::string(KelIFC::kExamplesDir) + "/house.ifc");
+  const Outcome input = Kelifc({"info", "-"}, "", std::string(KelIFC::kExamplesDir) + "/house.ifc");
   EXPECT_EQ(input.status, 0);
   EXPECT_EQ(input.err, "");
   EXPECT_THAT(input.out, StartsWith("  File        -\n"));
@@ -38,8 +37,8 @@ TEST(ModelSource, NamesStandardInputAsTheUserDid) {
 TEST(ModelSource, LeavesNoTemporaryFileBehind) {
   const TemporaryFolder folder;
   ASSERT_EQ(setenv("TMPDIR", folder.Path("").c_str(), 1), 0);
-  const Outcome run = Kelifc({"info", "-"}, folder.Path("out"),
-                             std::string(KelIFC::kExamplesDir) + "/house.ifc");
+  const Outcome run =
+      Kelifc({"info", "-"}, folder.Path("out"), std::string(KelIFC::kExamplesDir) + "/house.ifc");
   unsetenv("TMPDIR");
   EXPECT_EQ(run.status, 0);
   std::filesystem::remove(folder.Path("out"));

@@ -8,8 +8,9 @@
 #include <iostream>
 #include <system_error>
 
-#include "archive/packed_model.h"
 #include "kelifc/kelifc.h"
+
+#include "archive/packed_model.h"
 #include "tools/kelifc/failure.h"
 
 namespace command {
