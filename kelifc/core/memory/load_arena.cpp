@@ -45,13 +45,13 @@ void* AllocateAlone(std::size_t size) {
 
 }  // namespace
 
-void* AllocateBlock(std::size_t size) {
+void* detail::AllocateBlock(std::size_t size) {
   LoadArena* const arena = current;
   return arena == nullptr || size > LoadArena::kLargestBlock ? AllocateAlone(size)
                                                              : arena->Carve(size);
 }
 
-void FreeBlock(void* block) noexcept {
+void detail::FreeBlock(void* block) noexcept {
   if (block == nullptr) return;
   if (auto* chunk = static_cast<LoadArena::Chunk*>(MarkOf(block))) {
     chunk->Drop(1);

@@ -25,8 +25,8 @@ class LoadArena {
   LoadArena& operator=(const LoadArena&) = delete;
 
  private:
-  friend void* AllocateBlock(std::size_t size);
-  friend void FreeBlock(void* block) noexcept;
+  friend void* detail::AllocateBlock(std::size_t size);
+  friend void detail::FreeBlock(void* block) noexcept;
   struct Chunk;
 
   void* Carve(std::size_t size);

@@ -24,7 +24,7 @@ std::ostream& WriteValueMember(std::ostream& out, const MEMBER& member) {
   if (const auto* value = dynamic_cast<const IfcValue*>(member.GetInstance())) {
     return value->WriteWithName(out);
   }
-  PutChar(out, '$');
+  detail::PutChar(out, '$');
   return out;
 }
 

@@ -6,6 +6,9 @@
 
 namespace KelIFC {
 
+using detail::PutChar;
+using detail::PutText;
+
 namespace {
 
 // The value of a hexadecimal digit, -1 for any other character.
