@@ -3,10 +3,10 @@
 #include <charconv>
 #include <string_view>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/model.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/references/model.h"
+#include "kelifc/core/text/number_text.h"
 #include "kelifc/core/unknown.h"
 
 namespace KelIFC {
@@ -117,12 +117,12 @@ const IfcUnknown* MEMBER::GetInlineValue() const { return GetHeapValue(); }
 const char* MEMBER::Parse(const char* text) {
   Unset();
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
-  const char* first = SkipBlanks(text);
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
+  const char* first = detail::SkipBlanks(text);
   if (*first != '#') return ParseInPlace(text, first);
   const std::int64_t number = ReadInteger(first + 1, &next);
   word = WordOf(static_cast<std::size_t>(number));
-  return BehindNextComma(next);
+  return detail::BehindNextComma(next);
 }
 
 const char* MEMBER::ParseInPlace(const char* text, const char* name) {
@@ -141,15 +141,15 @@ const char* MEMBER::ParseInPlace(const char* text, const char* name) {
 std::ostream& MEMBER::Write(std::ostream& out) const {
   const auto number = static_cast<std::size_t>(*this);
   if (!GetExists()) {
-    PutChar(out, '$');
+    detail::PutChar(out, '$');
   } else if (number != 0) {
     char text[24] = {'#'};
     const auto end = std::to_chars(text + 1, text + sizeof text, number);
-    PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
+    detail::PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
   } else if (const IfcUnknown* value = GetHeapValue()) {
     value->Write(out);
   } else {
-    PutChar(out, '*');
+    detail::PutChar(out, '*');
   }
   return out;
 }

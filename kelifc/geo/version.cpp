@@ -4,7 +4,7 @@
 #include <array>
 #include <cstddef>
 
-#include "kelifc/core/number_text.h"
+#include "kelifc/core/text/number_text.h"
 
 namespace KelIFC {
 

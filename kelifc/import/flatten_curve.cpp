@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "kelifc/core/cast_cache.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/flatten_trimmed.h"
 #include "kelifc/import/read_values.h"

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <vector>
 
-#include "kelifc/core/cast_cache.h"
-#include "kelifc/core/prefetch.h"
+#include "kelifc/core/detail/prefetch.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {
@@ -52,7 +52,7 @@ class Products {
     const auto& items = server->GetItems();
     const std::uint32_t last = positions[index];
     for (std::uint32_t i = last - std::min(last, kParts); i <= last; ++i) {
-      PrefetchInstance(items[i]);
+      detail::PrefetchInstance(items[i]);
     }
   }
 
@@ -68,7 +68,7 @@ void ForEachProduct(const IfcServer& server, Visit&& visit) {
   const auto& positions = server.GetProductPositions();
   const auto& items = server.GetItems();
   for (std::size_t i = 0; i < positions.size(); ++i) {
-    if (i + kAhead < positions.size()) Prefetch(items[positions[i + kAhead]]);
+    if (i + kAhead < positions.size()) detail::Prefetch(items[positions[i + kAhead]]);
     visit(items[positions[i]], positions[i]);
   }
 }

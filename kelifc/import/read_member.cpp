@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "kelifc/core/cast_cache.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_extrusion.h"
 #include "kelifc/import/read_items.h"

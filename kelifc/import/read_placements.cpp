@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "kelifc/core/cast_cache.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_values.h"
 

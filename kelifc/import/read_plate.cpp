@@ -1,6 +1,6 @@
 #include "kelifc/import/read_plate.h"
 
-#include "kelifc/core/cast_cache.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/import/families.h"
 #include "kelifc/import/read_extrusion.h"
 #include "kelifc/import/read_items.h"

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "kelifc/core/cast_cache.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/import/families.h"
 
 namespace KelIFC {

@@ -5,11 +5,11 @@
 #include <new>
 #include <type_traits>
 
-#include "kelifc/core/cast_cache.h"
 #include "kelifc/core/list_of_members.h"
 #include "kelifc/core/member.h"
-#include "kelifc/core/model.h"
-#include "kelifc/core/resolve.h"
+#include "kelifc/core/references/cast_cache.h"
+#include "kelifc/core/references/model.h"
+#include "kelifc/core/references/resolve.h"
 #include "kelifc/core/set_of_members.h"
 #include "kelifc/core/unknown.h"
 

@@ -3,7 +3,7 @@
 #include <fstream>
 #include <optional>
 
-#include "kelifc/core/load_arena.h"
+#include "kelifc/core/memory/load_arena.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/platform/memory_watch.h"
 #include "kelifc/platform/path.h"

@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-#include "kelifc/core/prefetch.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/prefetch.h"
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/local_time.h"
 #include "kelifc/platform/path.h"
@@ -59,7 +59,7 @@ int IfcServer::SaveIfcFile(const char* path) {
   std::ostream& out = file.GetStream();
   WriteHeader(out, GetFileName(path), schema);
   WriteInstances(out);
-  PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
+  detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
   if (!file.Close()) {
     const std::string reason = file.GetFailure();
     TellError(place + "the file could not be written to its end" +
@@ -80,11 +80,11 @@ void IfcServer::WriteInstances(std::ostream& out) {
   for (std::size_t count = kBatch; count == kBatch;) {
     count = 0;
     while (count < kBatch && (last = idToIndex.GetNext(last)) != 0) {
-      Prefetch(&items[idToIndex.Find(last)]);
+      detail::Prefetch(&items[idToIndex.Find(last)]);
       batch[count++] = last;
     }
     for (std::size_t i = 0; i < count; ++i) {
-      PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
+      detail::PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
     }
     for (std::size_t i = 0; i < count; ++i) WriteInstance(out, batch[i]);
   }
@@ -93,11 +93,11 @@ void IfcServer::WriteInstances(std::ostream& out) {
 void IfcServer::WriteInstance(std::ostream& out, std::uint64_t number) {
   const IfcUnknown* instance = IfcServer::GetItem(number);
   if (instance == nullptr) return;  // an earlier one of the batch deleted it
-  PutChar(out, '#');
-  PutNumber(out, number);
-  PutChar(out, '=');
+  detail::PutChar(out, '#');
+  detail::PutNumber(out, number);
+  detail::PutChar(out, '=');
   instance->Write(out);
-  PutText(out, ");\n");
+  detail::PutText(out, ");\n");
 }
 
 int IfcServer::TellError(const std::string& message) const {

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstring>
 
-#include "kelifc/core/quoting.h"
+#include "kelifc/core/text/quoting.h"
 #include "kelifc/server/block_search.h"
 
 namespace KelIFC {

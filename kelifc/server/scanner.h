@@ -16,7 +16,7 @@ namespace KelIFC {
 ///    on its line is text.
 ///  - Outside strings a line end joins two lines with nothing between; blanks and tabs stay.
 ///  - In a string a line end stays, as a line feed, and a `;` is text. What a backslash and a quote
-///    mean there is told in core/quoting.h.
+///    mean there is told in core/text/quoting.h.
 ///  - A carriage return right ahead of a line feed belongs to the line end, any other is text.
 ///  - A NUL byte vanishes, but parts its neighbours: no mark of two characters forms across it.
 ///  - Text behind the last `;` is dropped.
