@@ -1,7 +1,7 @@
 #include <cstddef>
 
 #include "kelifc/geo/fill.h"
-#include "kelifc/import/families.h"
+#include "kelifc/import/model/all_releases.h"
 
 namespace KelIFC {
 

@@ -2,7 +2,7 @@
 
 #include "kelifc/geo/ifc_server_object.h"
 
-#include "tests/import/family.h"
+#include "tests/import/release_test.h"
 
 namespace KelIFC {
 namespace {

@@ -11,8 +11,8 @@
 #include "kelifc/core/mvector.h"
 #include "kelifc/geometry/point.h"
 
-#include "tests/import/family.h"
 #include "tests/import/model_builder.h"
+#include "tests/import/release_test.h"
 
 namespace KelIFC {
 

@@ -1,0 +1,50 @@
+#ifndef KELIFC_IMPORT_LINEAR_READ_LINEAR_H_
+#define KELIFC_IMPORT_LINEAR_READ_LINEAR_H_
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+#include "kelifc/core/representation_item.h"
+#include "kelifc/import/linear/linear_facts.h"
+#include "kelifc/import/shape/read_placements.h"
+#include "kelifc/server/ifc_server.h"
+
+namespace KelIFC {
+
+/// Reads columns and beams: which representation they have, and its items. What several products
+/// share is read once. The model must not change meanwhile.
+template <class Release>
+class MemberReader {
+ public:
+  using IfcProduct = typename Release::IfcProduct;
+  using IfcRepresentation = typename Release::IfcRepresentation;
+
+  /// `scale` is the factor from lengths of the file to metres.
+  MemberReader(const IfcServer& server, double scale)
+      : server(server), scale(scale), placements(scale) {}
+
+  /// What becomes of a product; no parts if it has no representation that can be used.
+  MemberFacts Read(const IfcProduct& product);
+
+ private:
+  using Extrusion = typename Release::IfcExtrudedAreaSolid;
+  using Clipping = typename Release::IfcBooleanClippingResult;
+  using Shared = std::shared_ptr<RepresentationFacts>;
+
+  std::vector<MemberPartFacts> ReadMapped(const IfcRepresentation& chosen);
+  Shared SharedRepresentation(const IfcRepresentation* representation);
+  RepresentationFacts ReadRepresentation(const IfcRepresentation& representation);
+  bool ReadItem(const IfcRepresentationItem* item, MemberItemFacts& facts);
+  const Extrusion* Unclipped(const Clipping* clipping);
+
+  const IfcServer& server;
+  double scale;
+  PlacementReader<Release> placements;
+  std::unordered_map<const IfcRepresentation*, Shared> mapped;
+  std::unordered_map<const Clipping*, const Extrusion*> unclipped;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_IMPORT_LINEAR_READ_LINEAR_H_

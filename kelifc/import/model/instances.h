@@ -1,0 +1,105 @@
+#ifndef KELIFC_IMPORT_MODEL_INSTANCES_H_
+#define KELIFC_IMPORT_MODEL_INSTANCES_H_
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "kelifc/core/cast_cache.h"
+#include "kelifc/core/prefetch.h"
+#include "kelifc/server/ifc_server.h"
+
+namespace KelIFC {
+
+/// Products of a server, in the order of the registry, to be walked from first to last. While one
+/// is at work the walk asks for the memory of one that comes later, and of what it is made of: most
+/// programs write that right ahead of it.
+template <class Class>
+class Products {
+ public:
+  explicit Products(const IfcServer& server) : server(&server) {}
+
+  void Add(const Class* product, std::uint32_t position) {
+    products.push_back(product);
+    positions.push_back(position);
+  }
+
+  class Iterator {
+   public:
+    Iterator(const Products& walked, std::size_t at) : walked(&walked), at(at) {}
+    const Class* operator*() const { return walked->products[at]; }
+    Iterator& operator++() {
+      walked->PrefetchAround(++at + kAhead);
+      return *this;
+    }
+    bool operator!=(const Iterator& other) const { return at != other.at; }
+
+   private:
+    const Products* walked;
+    std::size_t at;
+  };
+  Iterator begin() const { return {*this, 0}; }
+  Iterator end() const { return {*this, products.size()}; }
+  std::size_t GetSize() const { return products.size(); }
+
+ private:
+  static constexpr std::size_t kAhead = 2;
+  static constexpr std::uint32_t kParts = 40;  // instances that a simple element is made of
+
+  void PrefetchAround(std::size_t index) const {
+    if (index >= positions.size()) return;
+    const auto& items = server->GetItems();
+    const std::uint32_t last = positions[index];
+    for (std::uint32_t i = last - std::min(last, kParts); i <= last; ++i) {
+      PrefetchInstance(items[i]);
+    }
+  }
+
+  const IfcServer* server;
+  std::vector<const Class*> products;
+  std::vector<std::uint32_t> positions;
+};
+
+/// Calls `visit` with each product, null where one was deleted, and its position.
+template <class Visit>
+void ForEachProduct(const IfcServer& server, Visit&& visit) {
+  constexpr std::size_t kAhead = 16;
+  const auto& positions = server.GetProductPositions();
+  const auto& items = server.GetItems();
+  for (std::size_t i = 0; i < positions.size(); ++i) {
+    if (i + kAhead < positions.size()) Prefetch(items[positions[i + kAhead]]);
+    visit(items[positions[i]], positions[i]);
+  }
+}
+
+/// The instances of a class of products, those of its subclasses among them.
+template <class Class>
+Products<Class> CollectInstances(const IfcServer& server) {
+  Products<Class> found(server);
+  CastCache<const Class> cast;
+  ForEachProduct(server, [&](const IfcUnknown* item, std::uint32_t position) {
+    if (const Class* instance = cast.Cast(item)) found.Add(instance, position);
+  });
+  return found;
+}
+
+/// Beams and members alike.
+template <class Release>
+Products<typename Release::IfcBuildingElement> CollectBeamsAndMembers(const IfcServer& server) {
+  Products<typename Release::IfcBuildingElement> found(server);
+  CastCache<const typename Release::IfcBeam> asBeam;
+  CastCache<const typename Release::IfcMember> asMember;
+  ForEachProduct(server, [&](const IfcUnknown* item, std::uint32_t position) {
+    if (const auto* beam = asBeam.Cast(item)) {
+      found.Add(beam, position);
+    } else if (const auto* member = asMember.Cast(item)) {
+      found.Add(member, position);
+    }
+  });
+  return found;
+}
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_IMPORT_MODEL_INSTANCES_H_

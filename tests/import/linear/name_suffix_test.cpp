@@ -1,0 +1,28 @@
+#include <gtest/gtest.h>
+
+#include "kelifc/import/linear/build_linear.h"
+
+namespace KelIFC {
+namespace {
+
+std::string SuffixOf(std::size_t map, std::size_t number, std::size_t count) {
+  const auto representation = std::make_shared<RepresentationFacts>();
+  representation->itemCount = count;
+  MemberPartFacts part;
+  part.representation = representation;
+  part.mappingIndex = map;
+  MemberItemFacts item;
+  item.number = number;
+  return NameSuffix(part, item);
+}
+
+TEST(NameSuffix, RepeatsTheMapAndTheItem) { EXPECT_EQ(SuffixOf(2, 3, 4), "(2/3)(2)(3)"); }
+
+TEST(NameSuffix, TellsTheMapOfASingleItem) { EXPECT_EQ(SuffixOf(2, 1, 1), "(2)"); }
+
+TEST(NameSuffix, TellsTheItemWithoutAMap) { EXPECT_EQ(SuffixOf(0, 2, 2), "(2)"); }
+
+TEST(NameSuffix, IsEmptyForASingleItemWithoutAMap) { EXPECT_EQ(SuffixOf(0, 1, 1), ""); }
+
+}  // namespace
+}  // namespace KelIFC
