@@ -16,14 +16,14 @@ double ScaleOf(const ComPtr<IIFCServer>& server) {
 }
 
 template <class Release>
-class LengthScale : public FamilyTest<Release> {
+class LengthScale : public ReleaseTest<Release> {
  protected:
   /// The scale of a project that assigns these units, among instances.
   static double Scale(const std::string& units, const std::string& instances) {
     return ScaleOf(
-        FamilyTest<Release>::Load("#1=IFCPROJECT('3It3CdvhLLoRj6paiTsQpU',$,$,$,$,$,$,(),#2);\n"
-                                  "#2=IFCUNITASSIGNMENT(" +
-                                  units + ");\n" + instances));
+        ReleaseTest<Release>::Load("#1=IFCPROJECT('3It3CdvhLLoRj6paiTsQpU',$,$,$,$,$,$,(),#2);\n"
+                                   "#2=IFCUNITASSIGNMENT(" +
+                                   units + ");\n" + instances));
   }
 
   /// The scale of an inch-like unit: a value and the unit that it counts.
@@ -36,7 +36,7 @@ class LengthScale : public FamilyTest<Release> {
                                   value + "," + component + ");\n");
   }
 };
-TYPED_TEST_SUITE(LengthScale, Families);
+TYPED_TEST_SUITE(LengthScale, ConvertedReleases);
 
 TYPED_TEST(LengthScale, IsOneWithoutAProject) { EXPECT_EQ(ScaleOf(this->Load(kMillimetre)), 1.0); }
 

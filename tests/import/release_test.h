@@ -14,7 +14,7 @@ namespace KelIFC {
 
 /// The three families of entity classes that can be converted: every test of a conversion runs for
 /// each, from one text.
-using Families = testing::Types<Release2x, Release2x2, Release2x3>;
+using ConvertedReleases = testing::Types<Release2x, Release2x2, Release2x3>;
 
 inline const char* SchemaOf(Release2x) { return "IFC2X_FINAL"; }
 inline const char* SchemaOf(Release2x2) { return "IFC2X2_FINAL"; }
@@ -22,7 +22,7 @@ inline const char* SchemaOf(Release2x3) { return "IFC2X3"; }
 
 /// A test that loads models of one family; it must leave no object behind.
 template <class Release>
-class FamilyTest : public HostTest {
+class ReleaseTest : public HostTest {
  protected:
   static ComPtr<IIFCServer> Load(const std::string& data) {
     return LoadModel(SchemaOf(Release()), data);

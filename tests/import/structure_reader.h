@@ -56,7 +56,7 @@ std::vector<ComPtr<Item>> ItemsOf(Collection& collection) {
 
 /// A test of a conversion: it loads a model and reads the structure that comes of it.
 template <class Release>
-class ConversionTest : public FamilyTest<Release> {
+class ConversionTest : public ReleaseTest<Release> {
  protected:
   void TearDown() override {
     structure.Reset();

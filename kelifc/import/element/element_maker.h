@@ -6,7 +6,7 @@
 #include "kelifc/geo/creation.h"
 #include "kelifc/geo/ifc_server_object.h"
 #include "kelifc/geo/structure.h"
-#include "kelifc/import/model/identity.h"
+#include "kelifc/import/element/fill_identity.h"
 
 namespace KelIFC {
 

@@ -1,10 +1,8 @@
-#include <utility>
-#include <vector>
-
 #include "kelifc/geo/foot.h"
 #include "kelifc/import/element/element_maker.h"
 #include "kelifc/import/element/fill_elements.h"
 #include "kelifc/import/model/all_releases.h"
+#include "kelifc/import/model/instances.h"
 #include "kelifc/import/shape/read_placements.h"
 
 namespace KelIFC {
@@ -13,12 +11,19 @@ namespace {
 
 using FootMaker = ElementMaker<CoGeoFoot, CoGeoFoots>;
 
-/// Strip footings, beams and pile caps are no foots. A foot stands at the origin of its footing's
-/// placement; the solid is not read.
-template <class Release, class Footing>
-HRESULT ConvertFooting(FootMaker& maker, const Footing& footing, const IfcServer& server,
-                       PlacementReader<Release>& placements) {
-  if (!IsFoot(footing)) return S_FALSE;
+/// Strip footings, footing beams and pile caps are not converted.
+template <class FootingType>
+bool IsFoot(FootingType type) {
+  return type == FootingType::IfcFootingTypeEnum_NOTDEFINED ||
+         type == FootingType::IfcFootingTypeEnum_PAD_FOOTING;
+}
+
+/// Adds a foot at the origin of the footing's placement. The solid is not read. Returns S_FALSE for
+/// a footing that is not converted.
+template <class Release>
+HRESULT ConvertFooting(FootMaker& maker, const typename Release::IfcFooting& footing,
+                       const IfcServer& server, PlacementReader<Release>& placements) {
+  if (!IsFoot(footing.GetPredefinedType())) return S_FALSE;
   CoGeoFoot* foot = nullptr;
   const HRESULT status = maker.Make(ReadIdentity(footing, server), &foot);
   if (FAILED(status)) return status;
@@ -26,15 +31,14 @@ HRESULT ConvertFooting(FootMaker& maker, const Footing& footing, const IfcServer
   return S_OK;
 }
 
-/// A failure does not end the walk: the last footing's status counts.
+/// Returns the status of the last footing: a failure does not stop the conversion.
 template <class Release>
 HRESULT ConvertFootings(CoGeoFoots& collection, CoIFCServer& server) {
-  if (!HasFootings(Release())) return S_OK;
   FootMaker maker(collection, server);
   HRESULT status = maker.Open();
   if (FAILED(status)) return status;
   PlacementReader<Release> placements(server.GetLengthScale());
-  for (const auto* footing : CollectFootings(server.Model(), Release())) {
+  for (const auto* footing : CollectInstances<typename Release::IfcFooting>(server.Model())) {
     status = ConvertFooting<Release>(maker, *footing, server.Model(), placements);
   }
   return status;
@@ -44,7 +48,11 @@ HRESULT ConvertFootings(CoGeoFoots& collection, CoIFCServer& server) {
 
 HRESULT FillFoots(CoGeoFoots& collection, CoIFCServer& server, SHORT storeyFilter) {
   return FillElements(collection, server, storeyFilter, [&](auto release) {
-    return ConvertFootings<decltype(release)>(collection, server);
+    if constexpr (HasFootings(release)) {
+      return ConvertFootings<decltype(release)>(collection, server);
+    } else {
+      return S_OK;
+    }
   });
 }
 

@@ -62,7 +62,7 @@ Mvector<Point3> AxisOf(const ExtrusionFacts& solid) {
 
 bool ConvertExtrusion(const ExtrusionFacts& solid, const Isometry3& outer,
                       const PlacementChain& chain, CoGeoStructure& structure, CoGeoObject& element,
-                      MemberShape& shape) {
+                      LinearShape& shape) {
   if (solid.profile.kind == ProfileKind::kOther) return false;
   if (FAILED(EnsureSection(solid.profile, structure, element))) return false;
   shape.points = AxisOf(solid);
@@ -82,9 +82,9 @@ Vector2 SectionSize(const ProfileFacts& rectangle) {
                    : Vector2(rectangle.yDim, rectangle.xDim);
 }
 
-bool ConvertItem(MemberItemFacts& item, bool isShared, const Isometry3& outer,
+bool ConvertItem(LinearItemFacts& item, bool isShared, const Isometry3& outer,
                  const PlacementChain& chain, CoGeoStructure& structure, CoGeoObject& element,
-                 MemberShape& shape) {
+                 LinearShape& shape) {
   if (item.isExtrusion) {
     return ConvertExtrusion(item.extrusion, outer, chain, structure, element, shape);
   }

@@ -8,7 +8,7 @@
 namespace KelIFC {
 
 /// What an item gives a column or a beam, in world coordinates.
-struct MemberShape {
+struct LinearShape {
   /// The axis, from the profile's plane to the end of the extrusion. Both ends of a faceted solid
   /// are at the origin of the world; a circle without position has none.
   Mvector<Point3> points;
@@ -19,9 +19,9 @@ struct MemberShape {
 /// map that brings the item: it acts inside the solid's own position. An item that no other product
 /// shares gives its boundary away. Gives false if the item is not understood, or its section cannot
 /// be made.
-bool ConvertItem(MemberItemFacts& item, bool isShared, const Isometry3& outer,
+bool ConvertItem(LinearItemFacts& item, bool isShared, const Isometry3& outer,
                  const PlacementChain& chain, CoGeoStructure& structure, CoGeoObject& element,
-                 MemberShape& shape);
+                 LinearShape& shape);
 
 /// The width and height that a rectangular section gets: the profile's x and y dimensions, changed
 /// over if its reference direction points down.

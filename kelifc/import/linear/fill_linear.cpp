@@ -13,14 +13,14 @@ namespace KelIFC {
 namespace {
 
 template <class Element, class Release, class Collection, class Product>
-HRESULT ConvertMembers(Collection& collection, CoIFCServer& server,
-                       const Products<Product>& products) {
+HRESULT ConvertLinear(Collection& collection, CoIFCServer& server,
+                      const Products<Product>& products) {
   ElementMaker<Element, Collection> maker(collection, server);
   const HRESULT status = maker.Open();
   if (FAILED(status)) return status;
-  MemberReader<Release> reader(server.Model(), server.GetLengthScale());
-  MemberBuilder builder(maker);
-  for (const Product* product : products) builder.ConvertLinearMember(reader.Read(*product));
+  LinearReader<Release> reader(server.Model(), server.GetLengthScale());
+  LinearBuilder builder(maker);
+  for (const Product* product : products) builder.Convert(reader.Read(*product));
   return S_OK;
 }
 
@@ -29,15 +29,15 @@ HRESULT ConvertMembers(Collection& collection, CoIFCServer& server,
 HRESULT FillColumns(CoGeoColumns& collection, CoIFCServer& server, SHORT storeyFilter) {
   return FillElements(collection, server, storeyFilter, [&](auto release) {
     using Release = decltype(release);
-    return ConvertMembers<CoGeoColumn, Release>(
+    return ConvertLinear<CoGeoColumn, Release>(
         collection, server, CollectInstances<typename Release::IfcColumn>(server.Model()));
   });
 }
 
 HRESULT FillBeams(CoGeoBeams& collection, CoIFCServer& server, SHORT storeyFilter) {
   return FillElements(collection, server, storeyFilter, [&](auto release) {
-    return ConvertMembers<CoGeoBeam, decltype(release)>(collection, server,
-                                                        CollectBeams(server.Model(), release));
+    return ConvertLinear<CoGeoBeam, decltype(release)>(collection, server,
+                                                       CollectBeams(server.Model(), release));
   });
 }
 

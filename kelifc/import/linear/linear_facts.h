@@ -15,7 +15,7 @@ namespace KelIFC {
 
 /// An item of a representation that can become a column or a beam: an extrusion, that of a clipping
 /// too, or a faceted solid.
-struct MemberItemFacts {
+struct LinearItemFacts {
   std::size_t number = 0;  ///< among the items of its representation, from 1
   bool isExtrusion = false;
   ExtrusionFacts extrusion;
@@ -25,11 +25,11 @@ struct MemberItemFacts {
 /// A representation: the items that are understood.
 struct RepresentationFacts {
   std::size_t itemCount = 0;  ///< of all its items
-  std::vector<MemberItemFacts> items;
+  std::vector<LinearItemFacts> items;
 };
 
 /// A representation as a product has it.
-struct MemberPartFacts {
+struct LinearPartFacts {
   /// Products may share it, those with a mapped one.
   std::shared_ptr<RepresentationFacts> representation;
 
@@ -43,9 +43,9 @@ struct MemberPartFacts {
 };
 
 /// A column or a beam.
-struct MemberFacts {
+struct LinearFacts {
   IdentityFacts identity;
-  std::vector<MemberPartFacts> parts;
+  std::vector<LinearPartFacts> parts;
   PlacementChain chain;
 };
 

@@ -1,8 +1,10 @@
-#include "kelifc/import/linear/build_linear.h"
+#include "kelifc/import/linear/name_suffix.h"
+
+#include <cstddef>
 
 namespace KelIFC {
 
-std::string NameSuffix(const MemberPartFacts& part, const MemberItemFacts& item) {
+std::string NameSuffix(const LinearPartFacts& part, const LinearItemFacts& item) {
   const std::string map = std::to_string(part.mappingIndex);
   const std::string number = std::to_string(item.number);
   const bool isMapped = part.mappingIndex != 0;

@@ -44,7 +44,7 @@ Preference PreferenceOf(const IfcRepresentationItem* item) {
 /// The representation to convert, null if there is none; what it holds does not depend on how it is
 /// called.
 template <class Release>
-const typename Release::IfcRepresentation* ChooseMemberRepresentation(
+const typename Release::IfcRepresentation* ChooseRepresentation(
     const typename Release::IfcProduct& product, bool& isMapped) {
   isMapped = false;
   std::array<const typename Release::IfcRepresentation*, kPreferences + 1> first = {};
@@ -64,14 +64,14 @@ const typename Release::IfcRepresentation* ChooseMemberRepresentation(
 }  // namespace
 
 template <class Release>
-MemberFacts MemberReader<Release>::Read(const IfcProduct& product) {
-  MemberFacts facts;
+LinearFacts LinearReader<Release>::Read(const IfcProduct& product) {
+  LinearFacts facts;
   bool isMapped = false;
-  const auto* chosen = ChooseMemberRepresentation<Release>(product, isMapped);
+  const auto* chosen = ChooseRepresentation<Release>(product, isMapped);
   if (chosen == nullptr) return facts;
   if (isMapped) facts.parts = ReadMapped(*chosen);
   if (facts.parts.empty()) {
-    MemberPartFacts& own = facts.parts.emplace_back();
+    LinearPartFacts& own = facts.parts.emplace_back();
     own.representation = std::make_shared<RepresentationFacts>(ReadRepresentation(*chosen));
   }
   facts.identity = ReadIdentity(product, server);
@@ -81,14 +81,14 @@ MemberFacts MemberReader<Release>::Read(const IfcProduct& product) {
 
 /// The target of a map is not looked at.
 template <class Release>
-std::vector<MemberPartFacts> MemberReader<Release>::ReadMapped(const IfcRepresentation& chosen) {
-  std::vector<MemberPartFacts> parts;
+std::vector<LinearPartFacts> LinearReader<Release>::ReadMapped(const IfcRepresentation& chosen) {
+  std::vector<LinearPartFacts> parts;
   const auto items = chosen.GetItems();
   for (std::size_t i = 1; i <= items.GetSize(); ++i) {
     const auto* item = CachedCast<typename Release::IfcMappedItem>(items[i]);
     const auto* source = item == nullptr ? nullptr : item->GetMappingSource();
     if (source == nullptr) continue;
-    MemberPartFacts& part = parts.emplace_back();
+    LinearPartFacts& part = parts.emplace_back();
     part.representation = SharedRepresentation(source->GetMappedRepresentation());
     part.isShared = true;
     part.mappingIndex = items.GetSize() == 1 ? 0 : i;
@@ -99,7 +99,7 @@ std::vector<MemberPartFacts> MemberReader<Release>::ReadMapped(const IfcRepresen
 }
 
 template <class Release>
-typename MemberReader<Release>::Shared MemberReader<Release>::SharedRepresentation(
+typename LinearReader<Release>::Shared LinearReader<Release>::SharedRepresentation(
     const IfcRepresentation* representation) {
   Shared& shared = mapped[representation];
   if (shared == nullptr) {
@@ -110,13 +110,13 @@ typename MemberReader<Release>::Shared MemberReader<Release>::SharedRepresentati
 }
 
 template <class Release>
-RepresentationFacts MemberReader<Release>::ReadRepresentation(
+RepresentationFacts LinearReader<Release>::ReadRepresentation(
     const IfcRepresentation& representation) {
   RepresentationFacts facts;
   const auto items = representation.GetItems();
   facts.itemCount = items.GetSize();
   for (std::size_t i = 1; i <= items.GetSize(); ++i) {
-    MemberItemFacts item;
+    LinearItemFacts item;
     item.number = i;
     if (ReadItem(items[i], item)) facts.items.push_back(std::move(item));
   }
@@ -125,7 +125,7 @@ RepresentationFacts MemberReader<Release>::ReadRepresentation(
 
 /// Gives false for an item that no column or beam is made of.
 template <class Release>
-bool MemberReader<Release>::ReadItem(const IfcRepresentationItem* item, MemberItemFacts& facts) {
+bool LinearReader<Release>::ReadItem(const IfcRepresentationItem* item, LinearItemFacts& facts) {
   if (const auto* brep = CachedCast<typename Release::IfcFacetedBrep>(item)) {
     const auto* outer = brep->GetOuter();
     if (outer != nullptr) CaptureShell<Release>(*outer, facts.boundary, scale);
@@ -142,7 +142,7 @@ bool MemberReader<Release>::ReadItem(const IfcRepresentationItem* item, MemberIt
 /// The extrusion that is clipped, through any number of clippings; null if what is clipped is
 /// something else, or is clipped of itself.
 template <class Release>
-const typename Release::IfcExtrudedAreaSolid* MemberReader<Release>::Unclipped(
+const typename Release::IfcExtrudedAreaSolid* LinearReader<Release>::Unclipped(
     const Clipping* clipping) {
   std::vector<const Clipping*> path;
   const Extrusion* solid = nullptr;
@@ -159,8 +159,8 @@ const typename Release::IfcExtrudedAreaSolid* MemberReader<Release>::Unclipped(
   return solid;
 }
 
-template class MemberReader<Release2x>;
-template class MemberReader<Release2x2>;
-template class MemberReader<Release2x3>;
+template class LinearReader<Release2x>;
+template class LinearReader<Release2x2>;
+template class LinearReader<Release2x3>;
 
 }  // namespace KelIFC

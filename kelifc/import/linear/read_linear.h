@@ -15,27 +15,27 @@ namespace KelIFC {
 /// Reads columns and beams: which representation they have, and its items. What several products
 /// share is read once. The model must not change meanwhile.
 template <class Release>
-class MemberReader {
+class LinearReader {
  public:
   using IfcProduct = typename Release::IfcProduct;
   using IfcRepresentation = typename Release::IfcRepresentation;
 
   /// `scale` is the factor from lengths of the file to metres.
-  MemberReader(const IfcServer& server, double scale)
+  LinearReader(const IfcServer& server, double scale)
       : server(server), scale(scale), placements(scale) {}
 
   /// What becomes of a product; no parts if it has no representation that can be used.
-  MemberFacts Read(const IfcProduct& product);
+  LinearFacts Read(const IfcProduct& product);
 
  private:
   using Extrusion = typename Release::IfcExtrudedAreaSolid;
   using Clipping = typename Release::IfcBooleanClippingResult;
   using Shared = std::shared_ptr<RepresentationFacts>;
 
-  std::vector<MemberPartFacts> ReadMapped(const IfcRepresentation& chosen);
+  std::vector<LinearPartFacts> ReadMapped(const IfcRepresentation& chosen);
   Shared SharedRepresentation(const IfcRepresentation* representation);
   RepresentationFacts ReadRepresentation(const IfcRepresentation& representation);
-  bool ReadItem(const IfcRepresentationItem* item, MemberItemFacts& facts);
+  bool ReadItem(const IfcRepresentationItem* item, LinearItemFacts& facts);
   const Extrusion* Unclipped(const Clipping* clipping);
 
   const IfcServer& server;

@@ -4,8 +4,6 @@
 #include <cstddef>
 #include <string>
 
-#include "kelifc/geo/geo_object.h"
-#include "kelifc/geo/server_link.h"
 #include "kelifc/platform/guid.h"
 #include "kelifc/server/ifc_server.h"
 
@@ -31,11 +29,6 @@ IdentityFacts ReadIdentity(const Root& product, const IfcServer& server) {
 
 /// What an instance without a name of its own is called: "IFC#123".
 std::string NumberName(std::size_t instanceNumber);
-
-/// Gives an element its name, its identifier and the link to its server object. An empty name
-/// becomes that of the instance number, followed by `suffix`.
-void FillIdentity(const IdentityFacts& facts, const ServerLink& server, CoGeoObject& element,
-                  const std::string& suffix = {});
 
 }  // namespace KelIFC
 

@@ -8,6 +8,11 @@ namespace KelIFC {
 
 namespace {
 
+template <class UnitEnum>
+bool IsLengthUnit(UnitEnum type) {
+  return type == UnitEnum::IfcUnitEnum_LENGTHUNIT;
+}
+
 template <class Release>
 UnitFacts ReadSiUnit(const IfcUnit* unit) {
   const auto* si = dynamic_cast<const typename Release::IfcSiUnit*>(unit);

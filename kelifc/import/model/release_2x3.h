@@ -1,37 +1,27 @@
 #ifndef KELIFC_IMPORT_MODEL_RELEASE_2X3_H_
 #define KELIFC_IMPORT_MODEL_RELEASE_2X3_H_
 
-#include <vector>
-
 #include "kelifc/import/model/instances.h"
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {
 
-// Where the classes of release 2x3 differ from those of the other releases, as import sees them.
+// What the import has to know about release 2x3 in particular. Each release has one such header;
+// they declare the same functions, which are overloaded by release.
 
-inline bool IsLengthUnit(KelIFC2x3::IfcUnitEnum type) {
-  return type == KelIFC2x3::IfcUnitEnum_LENGTHUNIT;
-}
-
+/// The project of the model, null if there is none.
 inline const KelIFC2x3::IfcProject* ProjectOf(const IfcServer& server, Release2x3) {
   return server.GetProject2x3();
 }
 
+/// The products that become beams.
 inline Products<KelIFC2x3::IfcBuildingElement> CollectBeams(const IfcServer& server, Release2x3) {
   return CollectBeamsAndMembers<Release2x3>(server);
 }
 
-inline bool HasFootings(Release2x3) { return true; }
-inline Products<KelIFC2x3::IfcFooting> CollectFootings(const IfcServer& server, Release2x3) {
-  return CollectInstances<KelIFC2x3::IfcFooting>(server);
-}
-inline bool IsFoot(const KelIFC2x3::IfcFooting& footing) {
-  const auto type = footing.GetPredefinedType();
-  return type == KelIFC2x3::IfcFootingTypeEnum_NOTDEFINED ||
-         type == KelIFC2x3::IfcFootingTypeEnum_PAD_FOOTING;
-}
+/// Whether footings of this release are converted.
+constexpr bool HasFootings(Release2x3) { return true; }
 
 }  // namespace KelIFC
 

@@ -4,6 +4,7 @@
 
 #include "kelifc/geo/collections.h"
 #include "kelifc/geo/creation.h"
+#include "kelifc/import/element/fill_identity.h"
 
 namespace KelIFC {
 

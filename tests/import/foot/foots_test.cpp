@@ -20,7 +20,7 @@ class Foots : public ConversionTest<Release> {
 
   static constexpr bool kHasFootings = !std::is_same_v<Release, Release2x>;
 };
-TYPED_TEST_SUITE(Foots, Families);
+TYPED_TEST_SUITE(Foots, ConvertedReleases);
 
 TYPED_TEST(Foots, ArePadFootingsAndThoseWithoutAType) {
   for (const std::string type :

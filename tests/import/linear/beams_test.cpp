@@ -69,7 +69,7 @@ class Beams : public ConversionTest<Release> {
 
   std::vector<ComPtr<IGeoBeam>> beams;
 };
-TYPED_TEST_SUITE(Beams, Families);
+TYPED_TEST_SUITE(Beams, ConvertedReleases);
 
 TYPED_TEST(Beams, AreReadAsColumnsAre) {
   auto& m = this->model;

@@ -46,7 +46,7 @@ class Columns : public ConversionTest<Release> {
                                                      {-0.2, -0.2}}));
   }
 };
-TYPED_TEST_SUITE(Columns, Families);
+TYPED_TEST_SUITE(Columns, ConvertedReleases);
 
 TYPED_TEST(Columns, StandOnTheAxisOfTheirExtrusion) {
   auto& m = this->model;

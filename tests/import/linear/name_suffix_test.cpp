@@ -1,6 +1,10 @@
+#include "kelifc/import/linear/name_suffix.h"
+
 #include <gtest/gtest.h>
 
-#include "kelifc/import/linear/build_linear.h"
+#include <cstddef>
+#include <memory>
+#include <string>
 
 namespace KelIFC {
 namespace {
@@ -8,10 +12,10 @@ namespace {
 std::string SuffixOf(std::size_t map, std::size_t number, std::size_t count) {
   const auto representation = std::make_shared<RepresentationFacts>();
   representation->itemCount = count;
-  MemberPartFacts part;
+  LinearPartFacts part;
   part.representation = representation;
   part.mappingIndex = map;
-  MemberItemFacts item;
+  LinearItemFacts item;
   item.number = number;
   return NameSuffix(part, item);
 }

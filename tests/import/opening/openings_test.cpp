@@ -64,7 +64,7 @@ class Openings : public ConversionTest<Release> {
 
   Ref wallPlacement = "$";
 };
-TYPED_TEST_SUITE(Openings, Families);
+TYPED_TEST_SUITE(Openings, ConvertedReleases);
 
 TYPED_TEST(Openings, FilledByADoorAreDoorsWithTheirOwnName) {
   auto& m = this->model;

@@ -28,7 +28,7 @@ class Plates : public ConversionTest<Release> {
     return this->model.Outline(this->model.PolyLine({{0, 0}, {4, 0}, {0, 3}, {0, 0}}));
   }
 };
-TYPED_TEST_SUITE(Plates, Families);
+TYPED_TEST_SUITE(Plates, ConvertedReleases);
 
 TYPED_TEST(Plates, LieInTheMiddleOfTheirThickness) {
   auto& m = this->model;

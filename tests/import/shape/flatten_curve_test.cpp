@@ -71,7 +71,7 @@ class FlattenedCurve : public ConversionTest<Release> {
     return this->model.Add("IFCCOMPOSITECURVE(" + ModelBuilder::List(segments) + ",.F.)");
   }
 };
-TYPED_TEST_SUITE(FlattenedCurve, Families);
+TYPED_TEST_SUITE(FlattenedCurve, ConvertedReleases);
 
 TYPED_TEST(FlattenedCurve, OfAPolylineDropsTheLastPointWithoutComparing) {
   const auto line = this->model.PolyLine({{0, 0}, {4, 0}, {4, 3}});

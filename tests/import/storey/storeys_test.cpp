@@ -58,16 +58,16 @@ std::string StoreyWith(const std::string& placement, const std::string& others =
 }
 
 template <class Release>
-class Storeys : public FamilyTest<Release> {
+class Storeys : public ReleaseTest<Release> {
  protected:
   /// The level of the one storey.
   static double LevelOf(const std::string& data) {
-    const auto storeys = ReadStoreys(FamilyTest<Release>::Load(data));
+    const auto storeys = ReadStoreys(ReleaseTest<Release>::Load(data));
     EXPECT_EQ(storeys.size(), 1U);
     return storeys.empty() ? std::nan("") : storeys.front().level;
   }
 };
-TYPED_TEST_SUITE(Storeys, Families);
+TYPED_TEST_SUITE(Storeys, ConvertedReleases);
 
 TYPED_TEST(Storeys, OfAModelWithoutAnyAreNone) {
   EXPECT_TRUE(ReadStoreys(this->Load("#1=IFCCARTESIANPOINT((0.,0.,0.));\n")).empty());

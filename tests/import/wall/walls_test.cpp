@@ -22,7 +22,7 @@ class Walls : public ConversionTest<Release> {
     return walls.size() == 1 ? PointsOf(*walls[0]) : std::vector<Coordinates>();
   }
 };
-TYPED_TEST_SUITE(Walls, Families);
+TYPED_TEST_SUITE(Walls, ConvertedReleases);
 
 TYPED_TEST(Walls, AreTheDiagonalOfTheirAxisPlane) {
   auto& m = this->model;
