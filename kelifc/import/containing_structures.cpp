@@ -7,7 +7,8 @@ namespace KelIFC {
 
 namespace {
 
-/// Gives false if the instance is no element of the release.
+/// Appends the identifiers of the structures that contain the instance. Returns false if the
+/// instance is not an IfcElement of the release.
 template <class Release>
 bool AddContainers(const IfcUnknown& instance, std::vector<_GUID>& containers) {
   const auto* element = dynamic_cast<const typename Release::IfcElement*>(&instance);

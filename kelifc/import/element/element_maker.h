@@ -10,7 +10,8 @@
 
 namespace KelIFC {
 
-/// Makes the elements of one collection, with what every element gets.
+/// Creates the elements of one collection and sets what every element has: name, identifier and
+/// server link. The collection and the server must outlive the maker.
 template <class Element, class Collection>
 class ElementMaker {
  public:
@@ -19,24 +20,24 @@ class ElementMaker {
   ElementMaker(Collection& collection, CoIFCServer& server)
       : collection(collection), server(server), link(server.Link()) {}
 
-  /// Goes ahead of everything else; after a failure nothing can be made.
+  /// Must be called first. If it fails, the maker cannot be used.
   HRESULT Open() {
     const HRESULT status = factory.Open();
     return FAILED(status) ? status : server.get_Structure(structure.Put());
   }
 
-  /// Appends an element to the collection and gives it its identity. On success `element` points to
-  /// it.
+  /// Appends an element, which the collection owns, and sets its identity; `suffix` is that of
+  /// FillIdentity. On success `*element` points to the element; a failure appends nothing.
   HRESULT Make(const IdentityFacts& identity, Element** element, const std::string& suffix = {}) {
     const HRESULT status = factory.Append(collection, element);
     if (SUCCEEDED(status)) FillIdentity(identity, link, **element, suffix);
     return status;
   }
 
-  /// Removes the element that was made last, which is not understood after all.
+  /// Removes the element that was made last, because its shape is not supported.
   void TakeBack() { collection.RemoveLast(); }
 
-  /// What the sections of the elements stand in.
+  /// The structure, which holds the sections of the elements.
   CoGeoStructure& Structure() const { return static_cast<CoGeoStructure&>(*structure); }
 
   const ServerLink& Link() const { return link; }

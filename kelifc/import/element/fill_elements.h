@@ -6,9 +6,10 @@
 
 namespace KelIFC {
 
-/// What all fills of elements begin with: there is no filter by storey, and the model's release
-/// decides which family of classes `convert` runs with. A release that cannot be converted adds
-/// nothing.
+/// Begins the fill of a collection of elements: links the collection to the server and calls
+/// `convert` with the release of the model, such as Release2x3(). Returns what `convert` returns;
+/// S_OK without elements for a release that cannot be converted; E_NOTIMPL for a storey filter
+/// other than kAllStoreys.
 template <class Collection, class Convert>
 HRESULT FillElements(Collection& collection, CoIFCServer& server, SHORT storeyFilter,
                      Convert&& convert) {

@@ -9,8 +9,8 @@
 
 namespace KelIFC {
 
-/// Sets the name, the identifier and the server link of an element. A product without a name is
-/// called NumberName of its instance number, followed by `suffix`.
+/// Sets the name, the identifier and the server link of an element. If the product has no name, the
+/// element is named after the instance number, for example "IFC#123", followed by `suffix`.
 void FillIdentity(const IdentityFacts& facts, const ServerLink& server, CoGeoObject& element,
                   const std::string& suffix = {});
 

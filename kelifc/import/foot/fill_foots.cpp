@@ -11,7 +11,7 @@ namespace {
 
 using FootMaker = ElementMaker<CoGeoFoot, CoGeoFoots>;
 
-/// Strip footings, footing beams and pile caps are not converted.
+/// Whether a footing is converted: strip footings, footing beams and pile caps are not.
 template <class FootingType>
 bool IsFoot(FootingType type) {
   return type == FootingType::IfcFootingTypeEnum_NOTDEFINED ||

@@ -10,14 +10,16 @@
 
 namespace KelIFC {
 
-/// Makes columns or beams, which are read alike, of an open maker: one object for each item that is
-/// understood, in their order. An item that is not understood leaves no object, and the others
-/// carry on. An object that cannot be made is left out.
+/// Makes the elements of linear products. `Maker` is an ElementMaker of columns or beams that was
+/// opened; it must outlive the builder.
 template <class Maker>
 class LinearBuilder {
  public:
   explicit LinearBuilder(Maker& maker) : maker(maker) {}
 
+  /// Makes one element for each item of the product, in the order of the items. An item is skipped
+  /// if its shape is not supported or its element cannot be created. The boundary of an item that
+  /// is not shared is moved into the element.
   void Convert(const LinearFacts& facts) {
     for (const LinearPartFacts& part : facts.parts) ConvertRepresentation(facts, part);
   }

@@ -11,10 +11,11 @@ namespace KelIFC {
 
 namespace {
 
-/// Of figures and of the cosine that tells whether a rectangle lies on its side.
+/// For outlines, a distance in metres; for the direction of a rectangle, a cosine.
 constexpr double kTolerance = 0.001;
 
-/// The section of an outline: that of the figure it is, else one of its own.
+/// Sets a section that elements share if the outline is a regular figure, otherwise a section of
+/// the outline itself.
 HRESULT EnsureOutlineSection(const Mvector<Point2>& outline, CoGeoStructure& structure,
                              CoGeoObject& element) {
   double a = 0.0;
@@ -46,8 +47,8 @@ HRESULT EnsureSection(const ProfileFacts& profile, CoGeoStructure& structure,
   return EnsureOutlineSection(ToPlane(profile.outline), structure, element);
 }
 
-/// The axis in the profile's coordinates. An outline has its axis through the origin of its plane,
-/// wherever it lies.
+/// Returns the axis in the coordinates of the profile. The axis of an outline goes through the
+/// origin of the profile's plane, wherever the outline is.
 Mvector<Point3> AxisOf(const ExtrusionFacts& solid) {
   Mvector<Point3> axis;
   const ProfileFacts& profile = solid.profile;

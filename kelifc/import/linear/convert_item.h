@@ -7,24 +7,28 @@
 
 namespace KelIFC {
 
-/// What an item gives a column or a beam, in world coordinates.
+/// The shape of a column or a beam, in metres and world coordinates.
 struct LinearShape {
-  /// The axis, from the profile's plane to the end of the extrusion. Both ends of a faceted solid
-  /// are at the origin of the world; a circle without position has none.
+  /// The two ends of the axis: in the plane of the profile, and at the end of the extrusion. A
+  /// faceted solid has both ends at the origin of the world. A circle profile without a position
+  /// has no points.
   Mvector<Point3> points;
-  BRep boundary;
+
+  BRep boundary;  ///< of a faceted solid; empty for an extrusion
 };
 
-/// Works out the shape of an item and gives the element its section. `outer` is the frame of the
-/// map that brings the item: it acts inside the solid's own position. An item that no other product
-/// shares gives its boundary away. Gives false if the item is not understood, or its section cannot
-/// be made.
+/// Computes the shape of an item and sets the section of the element. Returns false if the profile
+/// of the item is not supported, or if the section cannot be created.
+///
+/// `outer` is the transform of the representation map that the item comes from. It is applied to
+/// the axis of an extrusion before the position of the solid is. If the item is not shared with
+/// other products, its boundary is moved into `shape`.
 bool ConvertItem(LinearItemFacts& item, bool isShared, const Isometry3& outer,
                  const PlacementChain& chain, CoGeoStructure& structure, CoGeoObject& element,
                  LinearShape& shape);
 
-/// The width and height that a rectangular section gets: the profile's x and y dimensions, changed
-/// over if its reference direction points down.
+/// Returns the width and the height of the section of a rectangle, in metres: its x and y
+/// dimensions, which are swapped if its reference direction points down.
 Vector2 SectionSize(const ProfileFacts& rectangle);
 
 }  // namespace KelIFC

@@ -13,36 +13,39 @@
 
 namespace KelIFC {
 
-/// An item of a representation that can become a column or a beam: an extrusion, that of a clipping
-/// too, or a faceted solid.
+// A linear product is a column, a beam or an IfcMember: it is converted into an axis with a
+// section.
+
+/// An item of a representation that can be converted: an extrusion, the extrusion that a clipping
+/// cuts, or a faceted solid.
 struct LinearItemFacts {
-  std::size_t number = 0;  ///< among the items of its representation, from 1
+  std::size_t number = 0;  ///< position in the representation, from 1
   bool isExtrusion = false;
-  ExtrusionFacts extrusion;
-  BRep boundary;  ///< of a faceted solid, in metres
+  ExtrusionFacts extrusion;  ///< set only if isExtrusion
+  BRep boundary;             ///< of a faceted solid, in metres; empty if isExtrusion
 };
 
-/// A representation: the items that are understood.
+/// A representation and those of its items that can be converted.
 struct RepresentationFacts {
-  std::size_t itemCount = 0;  ///< of all its items
+  std::size_t itemCount = 0;  ///< number of all items, converted or not
   std::vector<LinearItemFacts> items;
 };
 
-/// A representation as a product has it.
+/// A representation as one product uses it.
 struct LinearPartFacts {
-  /// Products may share it, those with a mapped one.
+  /// Not null. Several products share the object if they use the same mapped representation.
   std::shared_ptr<RepresentationFacts> representation;
 
-  bool isShared = false;
+  bool isShared = false;  ///< it is a mapped representation, whether or not others use it
 
-  /// The number of the mapped item that brings it, from 1; 0 if it is the only one, or if it is the
-  /// product's own representation.
+  /// The position of the mapped item in the product's representation, from 1. It is 0 for the only
+  /// mapped item, and for the product's own representation.
   std::size_t mappingIndex = 0;
 
-  Isometry3 outer;  ///< the origin of the map; the identity without one
+  Isometry3 outer;  ///< the origin of the representation map; the identity if there is no map
 };
 
-/// A column or a beam.
+/// A linear product. It has no parts if none of its representations can be converted.
 struct LinearFacts {
   IdentityFacts identity;
   std::vector<LinearPartFacts> parts;

@@ -15,7 +15,7 @@ namespace KelIFC {
 
 namespace {
 
-// The kinds of items that make a representation one to choose, in their order of preference.
+// The kinds of items by which a representation is chosen, the most preferred kind first.
 enum Preference : std::size_t {
   kExtrusion,
   kFacetedBrep,
@@ -30,7 +30,7 @@ bool Is(const IfcRepresentationItem* item) {
   return CachedCast<Class>(item) != nullptr;
 }
 
-/// kPreferences for any other item.
+/// Returns kPreferences for an item of any other kind.
 template <class Release>
 Preference PreferenceOf(const IfcRepresentationItem* item) {
   if (Is<typename Release::IfcExtrudedAreaSolid>(item)) return kExtrusion;
@@ -41,8 +41,7 @@ Preference PreferenceOf(const IfcRepresentationItem* item) {
   return kPreferences;
 }
 
-/// The representation to convert, null if there is none; what it holds does not depend on how it is
-/// called.
+/// Returns the representation to convert, null if there is none. Its identifier plays no role.
 template <class Release>
 const typename Release::IfcRepresentation* ChooseRepresentation(
     const typename Release::IfcProduct& product, bool& isMapped) {
@@ -79,7 +78,7 @@ LinearFacts LinearReader<Release>::Read(const IfcProduct& product) {
   return facts;
 }
 
-/// The target of a map is not looked at.
+/// The target of a mapped item is ignored.
 template <class Release>
 std::vector<LinearPartFacts> LinearReader<Release>::ReadMapped(const IfcRepresentation& chosen) {
   std::vector<LinearPartFacts> parts;
@@ -123,7 +122,7 @@ RepresentationFacts LinearReader<Release>::ReadRepresentation(
   return facts;
 }
 
-/// Gives false for an item that no column or beam is made of.
+/// Returns false for an item that cannot be converted.
 template <class Release>
 bool LinearReader<Release>::ReadItem(const IfcRepresentationItem* item, LinearItemFacts& facts) {
   if (const auto* brep = CachedCast<typename Release::IfcFacetedBrep>(item)) {
@@ -139,8 +138,8 @@ bool LinearReader<Release>::ReadItem(const IfcRepresentationItem* item, LinearIt
   return true;
 }
 
-/// The extrusion that is clipped, through any number of clippings; null if what is clipped is
-/// something else, or is clipped of itself.
+/// Returns the extrusion that a clipping cuts, through any number of nested clippings. Returns null
+/// if the innermost operand is not an extrusion, or if the clippings form a cycle.
 template <class Release>
 const typename Release::IfcExtrudedAreaSolid* LinearReader<Release>::Unclipped(
     const Clipping* clipping) {
@@ -149,7 +148,7 @@ const typename Release::IfcExtrudedAreaSolid* LinearReader<Release>::Unclipped(
   for (const Clipping* at = clipping; at != nullptr;) {
     const auto [known, isNew] = unclipped.try_emplace(at, nullptr);
     solid = known->second;
-    if (!isNew) break;  // one of the path itself is still null
+    if (!isNew) break;  // read before, or still null because of a cycle
     path.push_back(at);
     const IfcBooleanOperand* operand = at->GetFirstOperand();
     solid = dynamic_cast<const Extrusion*>(operand);

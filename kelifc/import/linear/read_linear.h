@@ -12,19 +12,22 @@
 
 namespace KelIFC {
 
-/// Reads columns and beams: which representation they have, and its items. What several products
-/// share is read once. The model must not change meanwhile.
+/// Reads linear products. Placements, mapped representations and clippings that several products
+/// share are read once and kept, so the model must not change during the reader's life. The server
+/// must outlive the reader.
 template <class Release>
 class LinearReader {
  public:
   using IfcProduct = typename Release::IfcProduct;
   using IfcRepresentation = typename Release::IfcRepresentation;
 
-  /// `scale` is the factor from lengths of the file to metres.
+  /// `scale` is the factor from the length unit of the file to metres.
   LinearReader(const IfcServer& server, double scale)
       : server(server), scale(scale), placements(scale) {}
 
-  /// What becomes of a product; no parts if it has no representation that can be used.
+  /// Reads one product. Of its representations it takes one: the first that contains an extrusion,
+  /// otherwise the first with a faceted solid, a mapped item, a clipping or a surface model, in
+  /// this order of preference.
   LinearFacts Read(const IfcProduct& product);
 
  private:

@@ -8,8 +8,8 @@
 
 namespace KelIFC {
 
-/// Runs `act` with the classes of the release that a model is of, and gives its result; `otherwise`
-/// for a release that has no conversion.
+/// Calls `act` with the tag of the release, such as Release2x3(), and returns its result. Returns
+/// `otherwise` for a release that cannot be converted.
 template <class Result, class Act>
 Result ForRelease(IFC_RELEASE release, const Result& otherwise, Act&& act) {
   switch (release) {

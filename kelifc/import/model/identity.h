@@ -9,12 +9,13 @@
 
 namespace KelIFC {
 
-/// What the model says of who a product is.
+/// The name and the identifiers of a product.
 struct IdentityFacts {
-  std::string name;  ///< empty if it is unset
+  std::string name;  ///< empty if unset
   _GUID guid = {};
 
-  /// Its number in the registry, 0 if it has lost it. Told only where there is no name.
+  /// The number in the registry, 0 if the product is no longer registered. It is read only if the
+  /// name is empty.
   std::size_t instanceNumber = 0;
 };
 
@@ -27,7 +28,7 @@ IdentityFacts ReadIdentity(const Root& product, const IfcServer& server) {
   return facts;
 }
 
-/// What an instance without a name of its own is called: "IFC#123".
+/// Returns the name of an instance that has no name of its own, for example "IFC#123".
 std::string NumberName(std::size_t instanceNumber);
 
 }  // namespace KelIFC

@@ -12,14 +12,17 @@
 
 namespace KelIFC {
 
-/// Products of a server, in the order of the registry, to be walked from first to last. While one
-/// is at work the walk asks for the memory of one that comes later, and of what it is made of: most
-/// programs write that right ahead of it.
+/// A list of products of a server, in the order of the registry. Neither the products nor the
+/// server are owned, and the registry must not change while the list is used.
+///
+/// An iteration prefetches the product after the next one, and the instances that come before that
+/// product in the registry: most files write the parts of a product directly before the product.
 template <class Class>
 class Products {
  public:
   explicit Products(const IfcServer& server) : server(&server) {}
 
+  /// Appends a product; `position` is its index in the items of the server.
   void Add(const Class* product, std::uint32_t position) {
     products.push_back(product);
     positions.push_back(position);
@@ -45,7 +48,7 @@ class Products {
 
  private:
   static constexpr std::size_t kAhead = 2;
-  static constexpr std::uint32_t kParts = 40;  // instances that a simple element is made of
+  static constexpr std::uint32_t kParts = 40;  // instances that a simple product consists of
 
   void PrefetchAround(std::size_t index) const {
     if (index >= positions.size()) return;
@@ -61,7 +64,8 @@ class Products {
   std::vector<std::uint32_t> positions;
 };
 
-/// Calls `visit` with each product, null where one was deleted, and its position.
+/// Calls `visit` for each product of the server with the instance, null if it was deleted, and its
+/// index in the items of the server.
 template <class Visit>
 void ForEachProduct(const IfcServer& server, Visit&& visit) {
   constexpr std::size_t kAhead = 16;
@@ -73,7 +77,7 @@ void ForEachProduct(const IfcServer& server, Visit&& visit) {
   }
 }
 
-/// The instances of a class of products, those of its subclasses among them.
+/// Returns the products of a class and of its subclasses.
 template <class Class>
 Products<Class> CollectInstances(const IfcServer& server) {
   Products<Class> found(server);
@@ -84,7 +88,7 @@ Products<Class> CollectInstances(const IfcServer& server) {
   return found;
 }
 
-/// Beams and members alike.
+/// Returns the products of the classes IfcBeam and IfcMember, and of their subclasses.
 template <class Release>
 Products<typename Release::IfcBuildingElement> CollectBeamsAndMembers(const IfcServer& server) {
   Products<typename Release::IfcBuildingElement> found(server);

@@ -7,8 +7,9 @@
 
 namespace KelIFC {
 
-/// Visits the items of all representations of a product in their order; `visit` takes the
-/// representation and the item, and gives false to end the walk. What is missing is left out.
+/// Calls `visit` for each item of each representation of a product, in the order of the file, with
+/// the representation and the item, until `visit` returns false. References that are unset or
+/// dangling are skipped.
 template <class Release, class Visit>
 void ForEachItem(const typename Release::IfcProduct& product, Visit&& visit) {
   const auto* shape = product.GetRepresentation();

@@ -7,8 +7,8 @@
 
 namespace KelIFC {
 
-/// The units that a project assigns, in their order; none for a null project, or one that assigns
-/// none. The kind of a converted unit is that of the SI unit it is converted to.
+/// Returns the units that a project assigns, in the order of the file; an empty list if the project
+/// is null or assigns none. A unit of an unknown kind is in the list, but is no length unit.
 template <class Release>
 std::vector<UnitFacts> ReadUnits(const typename Release::IfcProject* project);
 

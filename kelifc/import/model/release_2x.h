@@ -7,15 +7,15 @@
 
 namespace KelIFC {
 
-// What the import has to know about release 2x in particular. Each release has one such header;
-// they declare the same functions, which are overloaded by release.
+// What is particular to release 2x. Each release has such a header; all of them declare the same
+// functions, overloaded by the tag of the release.
 
-/// The project of the model, null if there is none.
+/// Returns the project of the model, null if there is none.
 inline const KelIFC2x::IfcProject* ProjectOf(const IfcServer& server, Release2x) {
   return server.GetProject2x();
 }
 
-/// The products that become beams. This release has no IfcMember.
+/// Returns the products that become beams. This release has no class IfcMember.
 inline Products<KelIFC2x::IfcBeam> CollectBeams(const IfcServer& server, Release2x) {
   return CollectInstances<KelIFC2x::IfcBeam>(server);
 }

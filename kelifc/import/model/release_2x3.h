@@ -7,15 +7,15 @@
 
 namespace KelIFC {
 
-// What the import has to know about release 2x3 in particular. Each release has one such header;
-// they declare the same functions, which are overloaded by release.
+// What is particular to release 2x3. Each release has such a header; all of them declare the same
+// functions, overloaded by the tag of the release.
 
-/// The project of the model, null if there is none.
+/// Returns the project of the model, null if there is none.
 inline const KelIFC2x3::IfcProject* ProjectOf(const IfcServer& server, Release2x3) {
   return server.GetProject2x3();
 }
 
-/// The products that become beams.
+/// Returns the products that become beams.
 inline Products<KelIFC2x3::IfcBuildingElement> CollectBeams(const IfcServer& server, Release2x3) {
   return CollectBeamsAndMembers<Release2x3>(server);
 }

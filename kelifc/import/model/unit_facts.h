@@ -5,19 +5,20 @@
 
 namespace KelIFC {
 
-/// What the model says of one of its units.
+/// A unit of the model: an SI unit, or a unit that is converted to an SI unit.
 struct UnitFacts {
-  /// An SI unit of lengths, or a unit that is converted to one.
+  /// Whether the SI unit measures lengths.
   bool isLength = false;
 
-  /// The coefficient of the prefix of that SI unit: 0.001 for MILLI.
+  /// The coefficient of the SI unit's prefix, for example 0.001 for MILLI.
   double coefficient = 1.0;
 
-  /// How many of the SI unit make up the unit; 0 if it is the SI unit, or the model does not tell.
+  /// The value of this unit in the SI unit; 0 for the SI unit itself, and if the value is unset.
   double factor = 0.0;
 };
 
-/// The factor from lengths of the file to metres: that of the first length unit, 1 without one.
+/// Returns the factor from the length unit of the file to metres. The first length unit counts; the
+/// factor is 1 if there is none.
 double LengthScale(const std::vector<UnitFacts>& units);
 
 }  // namespace KelIFC

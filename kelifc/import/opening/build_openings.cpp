@@ -10,7 +10,8 @@ namespace KelIFC {
 
 namespace {
 
-/// Makes an object of an opening in the collection that `get` gives of its owner.
+/// Appends an element for an opening to the collection of `owner` that `get` returns. On success
+/// `*element` points to it.
 template <class Element, class Collection, class Owner, class Interface>
 HRESULT Append(Owner& owner, HRESULT (Owner::*get)(Interface**), const OpeningFacts& opening,
                const ServerLink& server, Element** element) {

@@ -10,15 +10,16 @@
 
 namespace KelIFC {
 
-// An opening becomes an object with its own name, identifier and shape, whatever fills it. The
-// objects go into a collection of the element that has the opening. A failure to get the collection
-// or to make an object ends the walk; objects made until then stay.
+// Each opening becomes an element with the name, the identifier and the shape of the opening, not
+// of the product that fills it. The element is appended to a collection of the wall or plate. If
+// the collection or an element cannot be created, the functions return that failure and stop;
+// elements that were appended before remain.
 
-/// Makes a hole of each opening, one without a contour too.
+/// Appends a hole for each opening, even if its contour is empty.
 HRESULT ConvertHoles(CoGeoPlate& plate, const std::vector<OpeningFacts>& openings,
                      const ServerLink& server);
 
-/// Makes a window or a door of each opening that is taken for one.
+/// Appends a window or a door for each opening whose use is one of the two.
 HRESULT ConvertWindowsAndDoors(CoGeoWall& wall, const std::vector<OpeningFacts>& openings,
                                const ServerLink& server);
 

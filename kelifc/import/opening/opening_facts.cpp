@@ -6,8 +6,8 @@ namespace KelIFC {
 
 namespace {
 
-/// The corners of a rectangle: those of the unturned one, turned and moved. Their order is kept,
-/// whatever a turn makes of them.
+/// Returns the lower left and the upper right corner of the rectangle, converted to the plane of
+/// the profile. After a rotation they need not be the minimum and the maximum any more.
 Box2 RectangleBox(const ProfileFacts& rectangle) {
   const Point2 upper(rectangle.xDim * 0.5, rectangle.yDim * 0.5);
   Box2 box;

@@ -9,23 +9,25 @@
 
 namespace KelIFC {
 
-/// What an opening of a wall is taken for.
+/// What an opening of a wall is converted into.
 enum class OpeningUse { kNothing, kWindow, kDoor };
 
-/// An opening of a wall or a slab.
+/// An opening in a wall or a slab.
 struct OpeningFacts {
   IdentityFacts identity;
   OpeningUse use = OpeningUse::kNothing;
-  std::optional<ExtrusionFacts> solid;  ///< the first of its representations
+  std::optional<ExtrusionFacts> solid;  ///< the first extrusion of all its representations
   PlacementChain chain;
 };
 
-/// The contour at the middle of the opening's depth, in the opening's own coordinates; empty if its
-/// profile is not understood. A contour of at most 2 points stays in the profile's plane.
+/// Returns the contour at the middle of the opening's depth, in metres and in the coordinates of
+/// the opening. It is empty if there is no solid or the profile is not supported. A contour of one
+/// or two points is returned in the plane and the coordinates of the profile.
 Mvector<Point3> OpeningContour(const OpeningFacts& opening);
 
-/// Opposite corners of the opening at the middle of its depth, in world coordinates. They stay at
-/// the origin of the world if its profile is not understood.
+/// Computes two opposite corners of the opening at the middle of its depth, in metres and world
+/// coordinates. Leaves `first` and `second` unchanged if there is no solid, or if its profile is
+/// neither a rectangle nor a polyline.
 void OpeningCorners(const OpeningFacts& opening, Point3& first, Point3& second);
 
 }  // namespace KelIFC

@@ -12,11 +12,11 @@ namespace KelIFC {
 
 namespace {
 
-/// An unfilled opening that starts below this is a door; in metres, over what its placement is
-/// relative to.
+/// An unfilled opening whose own placement is lower than this is a door. In metres, above the
+/// placement that it is relative to.
 constexpr double kDoorHeight = 0.001;
 
-/// The first filling that is a window or a door decides.
+/// Returns the use that the first window or door among the fillings implies.
 template <class Fillings, class Release>
 OpeningUse UseByFillings(const Fillings& fillings, Release) {
   for (std::size_t i = 1; i <= fillings.GetSize(); ++i) {
@@ -32,7 +32,7 @@ OpeningUse UseByFillings(const Fillings& fillings, Release) {
   return OpeningUse::kNothing;
 }
 
-/// What the height of the opening's own placement says.
+/// Returns the use that the height of the opening's own placement implies.
 template <class Release>
 OpeningUse UseByHeight(const typename Release::IfcOpeningElement& opening, double scale) {
   const auto* local = CachedCast<typename Release::IfcLocalPlacement>(opening.GetObjectPlacement());

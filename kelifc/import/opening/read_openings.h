@@ -9,8 +9,9 @@
 
 namespace KelIFC {
 
-/// The openings of a wall or a slab, in the order of the relations that tell of them; relations
-/// without an opening are left out. `scale` is the factor from lengths of the file to metres.
+/// Reads the openings of a wall or a slab, in the order of the relations that assign them.
+/// Relations without an opening are skipped. `scale` is the factor from the length unit of the file
+/// to metres.
 template <class Release>
 std::vector<OpeningFacts> ReadOpenings(const typename Release::IfcBuildingElement& element,
                                        const IfcServer& server,

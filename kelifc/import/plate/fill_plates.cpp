@@ -13,7 +13,7 @@ namespace {
 
 using PlateMaker = ElementMaker<CoGeoPlate, CoGeoPlates>;
 
-/// A slab that is not understood leaves no object, nor do its openings.
+/// Adds a plate with its holes. A slab whose profile is not supported adds nothing.
 HRESULT BuildPlate(PlateMaker& maker, const PlateFacts& facts) {
   std::optional<PlateShape> shape = ExtractPlateShape(facts.solid);
   if (!shape) return S_OK;
@@ -27,7 +27,8 @@ HRESULT BuildPlate(PlateMaker& maker, const PlateFacts& facts) {
   return ConvertHoles(*plate, facts.openings, maker.Link());
 }
 
-/// The first slab that has nothing at all to make a plate of ends the conversion, with success.
+/// Stops with S_OK at the first slab whose item is PlateItem::kNone; the slabs after it are not
+/// converted.
 template <class Release>
 HRESULT ConvertPlates(CoGeoPlates& collection, CoIFCServer& server) {
   PlateMaker maker(collection, server);

@@ -11,30 +11,33 @@
 
 namespace KelIFC {
 
-/// What a slab is made of.
+/// The kind of item that decides what becomes of a slab.
 enum class PlateItem {
-  kNone,    ///< nothing that a plate could come from
-  kUnused,  ///< a solid that makes no plate
-  kExtrusion,
+  kNone,       ///< no item of the other kinds
+  kUnused,     ///< a faceted solid, a surface model or a clipping: the slab is skipped
+  kExtrusion,  ///< the slab becomes a plate
 };
 
-/// A slab.
+/// A slab. Only `item` is set unless it is kExtrusion.
 struct PlateFacts {
   PlateItem item = PlateItem::kNone;
   IdentityFacts identity;
-  ExtrusionFacts solid;  ///< of an extrusion
+  ExtrusionFacts solid;
   PlacementChain chain;
   std::vector<OpeningFacts> openings;
 };
 
 /// The middle plane of a plate.
 struct PlateShape {
-  Mvector<Point3> contour;  ///< in the plate's coordinates; it is not closed by a repeated point
-  double thickness = 0.0;   ///< between the faces: less than the depth of a slanted extrusion
+  /// In metres and in the coordinates of the slab. The first point is not repeated at the end.
+  Mvector<Point3> contour;
+
+  /// The distance of the faces in metres. It is less than the depth if the extrusion is oblique.
+  double thickness = 0.0;
 };
 
-/// The shape of a plate; nothing for a profile of at most two points, or one that is not
-/// understood. Holes in the profile are not read.
+/// Computes the shape of a plate. Returns nothing if the profile is not supported, or has fewer
+/// than three points. Holes in the profile are ignored.
 std::optional<PlateShape> ExtractPlateShape(const ExtrusionFacts& solid);
 
 }  // namespace KelIFC

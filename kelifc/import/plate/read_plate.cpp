@@ -10,7 +10,7 @@ namespace KelIFC {
 
 namespace {
 
-/// The solids that a slab may have without becoming a plate.
+/// Whether the item is one of the solids for which a slab is skipped.
 template <class Release>
 bool IsUnusedSolid(const IfcRepresentationItem* item) {
   return CachedCast<typename Release::IfcFacetedBrep>(item) != nullptr ||
@@ -18,7 +18,7 @@ bool IsUnusedSolid(const IfcRepresentationItem* item) {
          CachedCast<typename Release::IfcBooleanClippingResult>(item) != nullptr;
 }
 
-/// The first extrusion goes ahead of all other items; null if there is none.
+/// Returns the first extrusion, null if there is none, and sets the kind of item.
 template <class Release>
 const typename Release::IfcExtrudedAreaSolid* ChoosePlateItem(const typename Release::IfcSlab& slab,
                                                               PlateItem& kind) {

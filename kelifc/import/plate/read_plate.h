@@ -7,8 +7,8 @@
 
 namespace KelIFC {
 
-/// A slab, read whole if it is an extrusion. It is one as soon as any representation holds one.
-/// `scale` is the factor from lengths of the file to metres.
+/// Reads a slab. It takes the first extrusion of all representations, whatever comes before it.
+/// `scale` is the factor from the length unit of the file to metres.
 template <class Release>
 PlateFacts ReadPlate(const typename Release::IfcSlab& slab, const IfcServer& server,
                      PlacementReader<Release>& placements, double scale);

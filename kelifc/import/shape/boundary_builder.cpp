@@ -9,10 +9,10 @@ namespace KelIFC {
 
 namespace {
 
-/// 2 to the power of -23.
+/// For normals of loops: 2 to the power of -23.
 constexpr double kNormalTolerance = 1.1920928955078125e-7;
 
-/// Indices that ascend from `base`, or descend to it.
+/// Returns `count` indices that ascend from `base`, or descend to it.
 Mvector<int> Indices(std::size_t base, std::size_t count, bool isReversed) {
   Mvector<int> indices;
   indices.resize(count);
@@ -25,7 +25,7 @@ Mvector<int> Indices(std::size_t base, std::size_t count, bool isReversed) {
 
 void BoundaryBuilder::AddBound(Mvector<Point3>& loop, bool isOuter, bool isReversed,
                                bool isTurnedOver) {
-  // Of the loop as the file has it; each way of turning it over negates the normal once.
+  // This is the normal of the loop as it is in the file. Each reversal negates it once.
   Vector3 normal = PolygonNormal(loop, kNormalTolerance, plane);
   Normalise(normal);
   if (isReversed) normal = -normal;

@@ -9,14 +9,16 @@
 
 namespace KelIFC {
 
-/// Appends faces to a boundary, bound by bound.
+/// Appends faces to a boundary, one bound after the other.
 ///
-/// Each bound brings vertices of its own, all with the normal of its loop, which is zero for a loop
-/// without one. A reversed bound keeps the order of its vertices; its indices run backwards. Of
-/// several outer bounds of a face the last one counts. A face without bounds adds nothing.
+/// Each bound adds vertices of its own, which all have the normal of its loop. The normal is zero
+/// if the loop has none, for example because its points are on one line. A reversed bound adds its
+/// vertices in the order of the loop and lists their indices backwards. If a face has several outer
+/// bounds, the last one counts. A face without bounds is not added.
 class BoundaryBuilder {
  public:
-  /// The boundary must outlive the builder; `faces` is how many are expected.
+  /// The boundary must outlive the builder. `faces` is the expected number of faces; memory for
+  /// them is reserved.
   BoundaryBuilder(BRep& boundary, std::size_t faces) : boundary(boundary) {
     boundary.faces.reserve(boundary.faces.size() + faces);
   }
@@ -24,15 +26,15 @@ class BoundaryBuilder {
   /// Begins the next face.
   void BeginFace() { faceIndex = boundary.faces.size(); }
 
-  /// Adds a loop, in metres, closed without repeating its first point. One of a face that is turned
-  /// over is reversed in place.
+  /// Adds a bound to the face at hand. The loop is in metres and does not repeat its first point.
+  /// If the face is turned over, the loop is reversed in place and its normal is negated.
   void AddBound(Mvector<Point3>& loop, bool isOuter, bool isReversed, bool isTurnedOver);
 
  private:
   void AddVertices(const Mvector<Point3>& loop, const Vector3& normal);
 
   BRep& boundary;
-  Mvector<Point2> plane;  // of the loop at hand
+  Mvector<Point2> plane;  // buffer for the points of a loop, projected into a plane
   std::size_t faceIndex = 0;
 };
 

@@ -5,30 +5,32 @@
 
 namespace KelIFC {
 
-/// What a trimmed curve is cut from.
+/// The basis curve of a trimmed curve.
 enum class BasisKind { kOther, kLine, kCircle };
 
-/// Which trims of a curve count.
+/// Which pair of trims of a curve is used.
 enum class TrimKind { kNone, kCartesian, kParameter };
 
-/// A trimmed curve of the plane, in metres.
+/// A trimmed curve in the plane. Lengths are in metres.
 struct TrimmedCurveFacts {
   BasisKind basis = BasisKind::kOther;
   TrimKind trim = TrimKind::kNone;
   bool isForward = true;  ///< from the first trim to the second, along the basis
 
-  Point2 start;  ///< the Cartesian trims; at the origin where they are missing
+  Point2 start;  ///< the Cartesian trims, each at the origin if it is unset
   Point2 end;
 
-  double startParameter = 0.0;  ///< degrees on a circle; 0 where they are missing
+  double startParameter = 0.0;  ///< the parameter trims, in degrees; each 0 if it is unset
   double endParameter = 0.0;
 
-  Point2 centre;  ///< of a circle
-  Vector2 xAxis;  ///< of a circle's position, as the file has it; zero if it does not tell
+  // Of a circle.
+  Point2 centre;
+  Vector2 xAxis;  ///< direction of parameter 0, not normalised; zero if it is unset
   double radius = 0.0;
 
+  // Of a line.
   Point2 linePoint;
-  Vector2 lineDirection;  ///< with the length of the line's vector
+  Vector2 lineDirection;  ///< with the magnitude of the line's vector
 };
 
 }  // namespace KelIFC

@@ -6,16 +6,20 @@
 
 namespace KelIFC {
 
-/// A profile moved along a straight line.
+/// An extruded solid: a profile that is moved along a straight line.
 struct ExtrusionFacts {
   ProfileFacts profile;
-  Isometry3 position;  ///< of the profile's plane in the product; the identity without one
-  Vector3 direction;   ///< as the file has it, zero without one
-  double depth = 0.0;  ///< in the unit of the file
-  double scale = 1.0;  ///< from the unit of the file to metres
+
+  /// From the profile's plane to the product, in metres; the identity if unset.
+  Isometry3 position;
+
+  Vector3 direction;   ///< in the coordinates of the profile, not normalised; zero if unset
+  double depth = 0.0;  ///< in the length unit of the file
+  double scale = 1.0;  ///< the factor from that unit to metres
 };
 
-/// From the profile's plane to the end, in metres: the normalised direction times the depth.
+/// Returns the vector from the profile's plane to the end of the extrusion, in metres and in the
+/// coordinates of the profile; zero if the direction is zero.
 inline Vector3 ExtrusionOf(const ExtrusionFacts& solid) {
   Vector3 direction = solid.direction;
   Normalise(direction);

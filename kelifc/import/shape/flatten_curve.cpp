@@ -29,14 +29,15 @@ void FlattenPolyLine(Mvector<Point3>& points, const typename Release::IfcPolyLin
                      double scale, bool dropClosing) {
   const auto corners = polyLine.GetPoints();
   if (corners.GetEmpty()) return;
-  // As the curve itself tells it, by its first point.
+  // The dimension of a polyline is that of its first point.
   const int dimension = corners[1] == nullptr ? 3 : static_cast<int>(corners[1]->GetDim());
   const std::size_t kept = corners.GetSize() - (dropClosing ? 1 : 0);
   points.reserve(kept);
   for (std::size_t i = 1; i <= kept; ++i) points.push_back(PointOf(corners[i], dimension, scale));
 }
 
-/// Without the last point in the walking direction: the next segment brings it.
+/// Leaves out the last point in the direction of the curve, because the next segment starts with
+/// it.
 template <class Release>
 void AddPolyLineSegment(Mvector<Point3>& points, const typename Release::IfcPolyLine& polyLine,
                         bool isForward, double scale) {

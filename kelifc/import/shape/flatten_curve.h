@@ -6,22 +6,22 @@
 
 namespace KelIFC {
 
-/// What every outline is flattened with.
+/// The tolerance for outlines; FlattenTrimmed defines what it means.
 inline constexpr double kFlattenTolerance = 0.001;
 
-/// The points of a curve, in metres, in place of what `points` held; z is 0 for a curve of the
-/// plane. Polylines, trimmed lines and circles, and plane composite curves of these are understood;
-/// any other curve, and null, gives no points.
+/// Replaces `points` by the points of a curve, in metres. For a curve in the plane, z is 0.
+/// Supported curves are polylines, trimmed lines and circles, and composite curves of these in the
+/// plane. For any other curve, and for null, `points` becomes empty.
 ///
-/// `dropClosing` leaves out the last point of a polyline, whether or not it repeats the first: an
-/// outline whose file does not repeat it loses a corner. `scale` is the factor from lengths of the
-/// file to metres.
+/// `dropClosing` leaves out the last point of a polyline, without a check whether it repeats the
+/// first one: an outline that the file does not close loses a corner. `scale` is the factor from
+/// the length unit of the file to metres.
 template <class Release>
 void FlattenCurve(Mvector<Point3>& points, const typename Release::IfcCurve* curve,
                   double tolerance, double scale, bool dropClosing);
 
-/// All points of a polyline of the plane, in metres; a point of fewer than two dimensions is at the
-/// origin.
+/// Returns the x and y of all points of a polyline, in metres. A point that is unset, or has fewer
+/// than two coordinates, becomes the origin.
 template <class Release>
 Mvector<Point2> PolyLinePoints(const typename Release::IfcPolyLine& polyLine, double scale);
 

@@ -13,10 +13,10 @@ namespace {
 
 constexpr double kPi = 3.14159265358979323846;
 
-/// Of an arc between points.
+/// The angle of a chord of an arc between points, in radians.
 constexpr double kArcStep = kPi / 32;
 
-/// Of an arc between parameters.
+/// The number of chords of an arc between parameters.
 constexpr int kChords = 32;
 
 void Add(Mvector<Point3>& points, const Point2& point) {
@@ -29,8 +29,8 @@ void AddLine(Mvector<Point3>& points, Point2 start, Point2 end, bool isForward, 
   Add(points, end);
 }
 
-/// The chords between the start and the end. There is one point at least, which lies behind the end
-/// of an arc that is shorter than a step.
+/// Appends the ends of the chords between the start and the end of an arc. It appends one point at
+/// least; if the arc is shorter than a chord, that point is after the end of the arc.
 void AddChords(Mvector<Point3>& points, const TrimmedCurveFacts& curve, double tolerance) {
   const Vector2 toEnd = curve.end - curve.centre;
   Vector2 toPoint = curve.start - curve.centre;
@@ -47,12 +47,12 @@ void AddChords(Mvector<Point3>& points, const TrimmedCurveFacts& curve, double t
     Add(points, curve.centre + toPoint);
     toPoint = Rotate(toPoint, rotation);
     angle += step;
-    // Angles that are not numbers compare as false, which ends the walk.
+    // A comparison with NaN is false, which ends the loop.
     isInside = curve.isForward ? angle <= endAngle - tolerance : angle >= endAngle + tolerance;
   }
 }
 
-/// Whole degrees as an angle; 0 for what is no 32-bit number.
+/// Returns whole degrees in radians; 0 if they do not fit into 32 bits, or are NaN.
 double AngleOf(double degrees) {
   using Limits = std::numeric_limits<std::int32_t>;
   const double whole = std::trunc(degrees);

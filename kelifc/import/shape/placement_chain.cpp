@@ -21,8 +21,8 @@ void ApplyPlacementChain(const PlacementChain& chain, Mvector<Point3>& target) {
 }
 
 void ApplyPlacementChain(const PlacementChain& chain, BRep& target) {
-  // Vertex by vertex, which does to each what `target <<= frame` does for one frame after the
-  // other. The vertices of a loop have one normal, which is turned once.
+  // All transforms are applied to one vertex before the next, which needs one pass over the memory.
+  // Neighbouring vertices with the same normal are vertices of one loop: the normal is turned once.
   const BRepVertex* turned = nullptr;
   Vector3 normal;
   for (BRepVertex& vertex : target.vertices) {

@@ -10,13 +10,13 @@
 
 namespace KelIFC {
 
-/// The frames of an object placement and of the placements it is relative to, in metres, the own
-/// one first.
+/// The transforms of an object placement and of the placements that it is relative to, in metres.
+/// The object's own placement is the first.
 using PlacementChain = std::vector<Isometry3>;
 
-// Takes a thing from the coordinates of a product to those of the world: one frame after the other
-// acts on the stored data, and no cumulative frame is built. A vector has no place, so it is
-// turned but not moved.
+// These functions convert from the coordinates of a product to those of the world, in place. They
+// apply one transform after the other instead of their product, which would round differently. A
+// vector is turned, but not moved.
 
 void ApplyPlacementChain(const PlacementChain& chain, Point3& target);
 void ApplyPlacementChain(const PlacementChain& chain, Vector3& target);

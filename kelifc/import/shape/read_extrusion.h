@@ -5,8 +5,8 @@
 
 namespace KelIFC {
 
-/// An extruded solid with its profile. `scale` is the factor from lengths of the file to metres;
-/// the corners of the profile are read only if they are wanted.
+/// Reads an extruded solid and its profile. `scale` is the factor from the length unit of the file
+/// to metres. ProfileFacts::corners is filled only if `withCorners` is true.
 template <class Release>
 ExtrusionFacts ReadExtrusion(const typename Release::IfcExtrudedAreaSolid& solid, double scale,
                              bool withCorners = false);

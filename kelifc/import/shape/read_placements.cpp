@@ -10,7 +10,7 @@ namespace KelIFC {
 
 namespace {
 
-/// The frame that acts as `first` and then `second` do.
+/// Returns the transform that applies `first` and then `second`.
 Isometry3 Compose(const Isometry3& first, const Isometry3& second) {
   Isometry3 both;
   both.xAxis = second.Apply(first.xAxis);
@@ -49,7 +49,7 @@ const PlacementChain& PlacementReader<Release>::Read(
   chain.clear();
   const auto* own = CachedCast<Local>(placement);
   if (own == nullptr) return chain;
-  // A product's own placement is its own alone as a rule, and is not kept.
+  // It is not kept in `links`: other products rarely share a product's own placement.
   const Link first = ReadLink(*own);
   if (first.hasFrame) chain.push_back(first.frame);
   ++walk;
@@ -68,8 +68,8 @@ const PlacementChain& PlacementReader<Release>::Read(
   return chain;
 }
 
-/// The ring is what stands in `path` from `first` on: from each of its links the chain goes round
-/// once.
+/// Sets `whole` of the links of a cycle, which are those of `path` from index `first` on. The chain
+/// of each of these links goes round the cycle once.
 template <class Release>
 void PlacementReader<Release>::CloseRing(const Path& path, std::size_t first) {
   Isometry3 toEnd;

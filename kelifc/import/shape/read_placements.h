@@ -9,19 +9,21 @@
 
 namespace KelIFC {
 
-/// Reads chains of placements. The products of a model share most of them, so each placement that
-/// others are relative to is read once. The model must not change meanwhile.
+/// Reads chains of placements. Each placement that others are relative to is read once and kept,
+/// because most products of a model share them. So the model must not change during the reader's
+/// life.
 template <class Release>
 class PlacementReader {
  public:
-  /// `scale` is the factor from lengths of the file to metres.
+  /// `scale` is the factor from the length unit of the file to metres.
   explicit PlacementReader(double scale) : scale(scale) {}
 
-  /// The chain of a placement, valid until the next call. It ends at a placement that is missing or
-  /// not local, and at one that it has met already. A placement in the plane has no frame and is
-  /// left out. A chain of more than kLongestChain placements comes as one frame that does the same,
-  /// so that no file makes the chains of all its products cost more than a fixed number of steps
-  /// each.
+  /// Returns the chain of a placement. The reader owns it, and the next call overwrites it.
+  ///
+  /// The chain ends before a placement that is null, not local, or already in the chain: a cycle is
+  /// followed once. A placement in the plane has no transform and is skipped. A chain of more than
+  /// kLongestChain placements is collapsed into one transform; so is a cycle of that length. This
+  /// limits the cost of each product, however long the chains in the file are.
   const PlacementChain& Read(const typename Release::IfcObjectPlacement* placement);
 
   static constexpr std::size_t kLongestChain = 64;
@@ -33,9 +35,9 @@ class PlacementReader {
     bool hasFrame = false;
     Isometry3 frame;
     const Local* next = nullptr;
-    std::size_t lastWalk = 0;  // the walk that met this link last
+    std::size_t lastWalk = 0;  // the number of the last walk that visited this link
     bool hasWhole = false;
-    Isometry3 whole;  // the chain that begins here, as one frame
+    Isometry3 whole;  // the product of all transforms of the chain that begins here
   };
 
   using Path = std::vector<Link*>;

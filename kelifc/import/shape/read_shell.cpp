@@ -11,13 +11,13 @@ namespace KelIFC {
 
 namespace {
 
-/// The points of a loop, in place of what `points` held. A loop of the plane has z 0. A point that
-/// cannot be read repeats the one before it, the origin at first.
+/// Replaces `points` by the points of a loop. For a loop in the plane, z is 0. A point that cannot
+/// be read becomes a copy of the previous point; if it is the first one, it becomes the origin.
 template <class IfcPolyLoop>
 void ReadLoop(Mvector<Point3>& points, const IfcPolyLoop& loop, double scale) {
   points.clear();
   const auto polygon = loop.GetPolygon();
-  // As the loop itself tells it, by its first point.
+  // The dimension of a loop is that of its first point.
   const std::size_t dimension =
       polygon.GetEmpty() || polygon[1] == nullptr ? 0u : polygon[1]->Coordinates().GetSize();
   points.reserve(polygon.GetSize());
@@ -34,7 +34,7 @@ void ReadLoop(Mvector<Point3>& points, const IfcPolyLoop& loop, double scale) {
   }
 }
 
-/// Adds the bounds of a face once.
+/// Appends a face with all its bounds.
 template <class Release>
 void CaptureFace(const typename Release::IfcFace& face, bool isTurnedOver, double scale,
                  Mvector<Point3>& points, BoundaryBuilder& builder) {
@@ -60,7 +60,7 @@ void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boun
   for (std::size_t i = 1; i <= faces.GetSize(); ++i) {
     if (faces[i] == nullptr) continue;
     CaptureFace<Release>(*faces[i], false, scale, points, builder);
-    // Whatever the file says of the sense of the surface.
+    // The sense of the surface is ignored.
     const bool isOnSurface = CachedCast<typename Release::IfcFaceSurface>(faces[i]) != nullptr;
     if (isOnSurface) CaptureFace<Release>(*faces[i], true, scale, points, builder);
   }

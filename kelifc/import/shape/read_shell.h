@@ -5,9 +5,9 @@
 
 namespace KelIFC {
 
-/// Appends the faces of a shell to a boundary, a face on a surface twice: the second time turned
-/// over. The points stay in the coordinates of the solid: the origin of a map and the placements of
-/// the product act on the boundary. `scale` is the factor from lengths of the file to metres.
+/// Appends the faces of a shell to a boundary, in metres and in the coordinates of the solid. An
+/// IfcFaceSurface is appended twice, the second time turned over. `scale` is the factor from the
+/// length unit of the file to metres.
 template <class Release>
 void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boundary, double scale);
 

@@ -7,17 +7,17 @@
 
 namespace KelIFC {
 
-// The readers of points, directions and placements, whatever family the entity is of. Lengths
-// become metres as they are read: `scale` is the factor from lengths of the file. Directions have
-// no length and are not scaled.
+// Readers of points, directions and placements of any release. Lengths are converted to metres:
+// `scale` is the factor from the length unit of the file. Directions have no unit and are not
+// scaled. Null is allowed for every entity.
 
-/// The point, if it has three coordinates. Otherwise `target` keeps what it held.
+/// Reads a point. Leaves `target` unchanged unless the point has exactly three coordinates.
 void ReadPoint3(const IfcCartesianPoint* point, double scale, Point3& target);
 
-/// The first two coordinates, if there are that many. Otherwise `target` keeps what it held.
+/// Reads the first two coordinates of a point. Leaves `target` unchanged if there are fewer.
 void ReadPoint2(const IfcCartesianPoint* point, double scale, Point2& target);
 
-/// The ratios as they stand, not normalised; zero unless there are three of them.
+/// Reads a direction without normalising it. Sets `target` to zero unless there are three ratios.
 template <class IfcDirection>
 void ReadDirection3(const IfcDirection* direction, Vector3& target) {
   double ratios[3] = {};
@@ -25,7 +25,7 @@ void ReadDirection3(const IfcDirection* direction, Vector3& target) {
   target = isRead ? Vector3(ratios[0], ratios[1], ratios[2]) : Vector3();
 }
 
-/// The same for two ratios.
+/// Reads a direction in the plane in the same way; it must have two ratios.
 template <class IfcDirection>
 void ReadDirection2(const IfcDirection* direction, Vector2& target) {
   double ratios[2] = {};
@@ -33,7 +33,7 @@ void ReadDirection2(const IfcDirection* direction, Vector2& target) {
   target = isRead ? Vector2(ratios[0], ratios[1]) : Vector2();
 }
 
-/// A vector of the plane, in metres; zero unless it has two dimensions.
+/// Reads a vector in the plane, in metres. Sets `target` to zero unless it has two dimensions.
 template <class IfcVector>
 void ReadVector2(const IfcVector* vector, double scale, Vector2& target) {
   target = Vector2();
@@ -43,9 +43,9 @@ void ReadVector2(const IfcVector* vector, double scale, Vector2& target) {
   target = target * vector->GetMagnitude() * scale;
 }
 
-/// The frame of a placement in space. Its z axis is the cross product of the other two; axes that
-/// make no frame leave it a mere move. If the placement, its location or an axis is missing,
-/// `frame` stays as it was.
+/// Reads a placement in space as a transform and returns `frame`. The z axis is the cross product
+/// of the x and y axes. If these are parallel or zero, the transform is a mere translation. Leaves
+/// `frame` unchanged if the placement, its location or an axis is null.
 template <class IfcAxis2Placement3D>
 Isometry3& ReadPlacement(const IfcAxis2Placement3D* placement, double scale, Isometry3& frame) {
   const IfcCartesianPoint* location = placement == nullptr ? nullptr : placement->GetLocation();
@@ -62,7 +62,7 @@ Isometry3& ReadPlacement(const IfcAxis2Placement3D* placement, double scale, Iso
   return frame;
 }
 
-/// The frame of a placement, the identity where ReadPlacement finds none.
+/// Returns a placement in space as a transform; the identity if ReadPlacement changes nothing.
 template <class IfcAxis2Placement3D>
 Isometry3 FrameOf(const IfcAxis2Placement3D* placement, double scale) {
   Isometry3 frame;

@@ -15,17 +15,17 @@ namespace KelIFC {
 
 namespace {
 
-/// A storey is a basement if its level lies below this, in the unit of the file.
+/// A storey with a lower level is a basement. In the length unit of the file.
 constexpr double kBasementLevel = -0.001;
 
-/// What is not a number stands behind all numbers, so that any levels have an order.
+/// Sorts NaN after all numbers: the sort needs a strict weak order for any levels.
 bool IsLower(const StoreyFacts& a, const StoreyFacts& b) {
   if (std::isnan(a.level) || std::isnan(b.level))
     return !std::isnan(a.level) && std::isnan(b.level);
   return a.level < b.level;
 }
 
-/// The number of the lowest storey.
+/// Returns the number of the lowest storey, which is 0 or negative.
 std::ptrdiff_t FirstNumber(const std::vector<StoreyFacts>& sorted) {
   const auto ground = std::find_if(sorted.begin(), sorted.end(), [](const StoreyFacts& storey) {
     return !(storey.level < kBasementLevel);

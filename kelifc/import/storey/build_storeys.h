@@ -8,16 +8,18 @@
 
 namespace KelIFC {
 
-/// Makes the storey objects, from the lowest level to the highest; storeys of one level keep their
-/// order, and one whose level is not a number counts as the highest.
+/// Appends the storeys to the collection, from the lowest level to the highest. Storeys of the same
+/// level keep their order. A storey whose level is NaN is sorted after all others.
 ///
-/// The lowest storey that is not below level 0 by more than a thousandth has the number 0, those
-/// below it -1, -2 and so on. A number that does not fit into 16 bits becomes the nearest that
-/// does; upwards that is the mark for a storey without a number. A storey reaches up to the level
-/// of the next one; the highest has its elevation for height, whatever that says. A storey without
-/// a name is called after its instance number, "IFC#123".
+/// - Number: the lowest storey whose level is -0.001 or more has the number 0; the storeys below it
+///   have -1, -2 and so on. A number that does not fit into 16 bits becomes the nearest one that
+///   does. The largest of these, 32767, is also the number of an element without a storey.
+/// - Height: the distance to the level of the next storey. The height of the highest storey is its
+///   elevation, however large that is.
+/// - Name: if the storey has none, it is named after its instance number, for example "IFC#123".
 ///
-/// Gives the failure of the first object that cannot be made; those ahead of it stay.
+/// Levels and heights are in the length unit of the file. If an object cannot be created, the
+/// function returns that failure; storeys that were appended before remain.
 HRESULT BuildStoreys(CoGeoStoreys& collection, std::vector<StoreyFacts> storeys);
 
 }  // namespace KelIFC

@@ -12,7 +12,8 @@ namespace {
 
 constexpr std::size_t kZ = 3;
 
-/// A point of fewer dimensions has an unset z, which is 0.
+/// Returns 0 if there is no placement in space. The z of a point with two coordinates is unset,
+/// which is 0 as well.
 template <class Release>
 double StoreyLevel(const typename Release::IfcBuildingStorey& storey) {
   const auto* placement =

@@ -8,7 +8,7 @@
 
 namespace KelIFC {
 
-/// The storeys of a model, in the order of its instances.
+/// Reads the storeys of a model, in the order of the registry.
 template <class Release>
 std::vector<StoreyFacts> ReadStoreys(const IfcServer& server);
 

@@ -8,16 +8,18 @@
 
 namespace KelIFC {
 
-/// What the model says of a storey. Heights are in the unit of the file.
+/// A storey of the model. Heights are in the length unit of the file.
 struct StoreyFacts {
-  /// The z of its own placement, in the frame of what it is placed in; 0 where there is none.
+  /// The z of the storey's own placement, relative to the placement that contains it. It is 0 if
+  /// the storey has no placement in space.
   double level = 0.0;
 
-  /// Its attribute of that name, 0 where it is unset.
+  /// The attribute Elevation, 0 if unset.
   double elevation = 0.0;
 
-  std::string name;
+  std::string name;  ///< empty if unset
   _GUID guid = {};
+  /// The number in the registry. It is read only if the name is empty.
   std::size_t instanceNumber = 0;
 };
 

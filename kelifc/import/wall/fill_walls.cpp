@@ -11,7 +11,7 @@ namespace {
 
 using WallMaker = ElementMaker<CoGeoWall, CoGeoWalls>;
 
-/// A wall that is not understood leaves no object, nor do its openings.
+/// Adds a wall with its windows and doors. A wall whose profile is not supported adds nothing.
 HRESULT BuildWall(WallMaker& maker, const WallFacts& facts) {
   const std::optional<WallBox> box = ExtractWallBox(facts.solid);
   if (!box) return S_OK;

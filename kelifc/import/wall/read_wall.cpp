@@ -12,10 +12,10 @@ namespace KelIFC {
 
 namespace {
 
-/// The representation that walls are read from.
+/// The identifier of the representations that walls are read from.
 constexpr char kBody[] = "Body";
 
-/// The first extrusion of the body, which goes ahead of all other items.
+/// Returns the first extrusion of the body, null if there is none. Other items are ignored.
 template <class Release>
 const typename Release::IfcExtrudedAreaSolid* ChooseWallItem(
     const typename Release::IfcWall& wall) {

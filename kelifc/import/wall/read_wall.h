@@ -9,8 +9,8 @@
 
 namespace KelIFC {
 
-/// A wall; nothing if no representation that is called "Body" holds an extrusion. Clippings, boxes
-/// and other solids make no wall. `scale` is the factor from lengths of the file to metres.
+/// Reads a wall. Returns nothing if no representation with the identifier "Body" contains an
+/// extrusion. `scale` is the factor from the length unit of the file to metres.
 template <class Release>
 std::optional<WallFacts> ReadWall(const typename Release::IfcWall& wall, const IfcServer& server,
                                   PlacementReader<Release>& placements, double scale);

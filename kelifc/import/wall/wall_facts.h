@@ -11,7 +11,7 @@
 
 namespace KelIFC {
 
-/// A wall that is an extrusion.
+/// A wall whose body is an extrusion.
 struct WallFacts {
   IdentityFacts identity;
   ExtrusionFacts solid;
@@ -19,17 +19,18 @@ struct WallFacts {
   std::vector<OpeningFacts> openings;
 };
 
-/// A wall as the diagonal of its axis plane: from the foot of one end to the head of the other.
+/// A wall as the diagonal of its middle plane: from the bottom of one end to the top of the other.
+/// In metres and in the coordinates of the wall.
 struct WallBox {
   Point3 first;
   Point3 second;
   double thickness = 0.0;
 };
 
-/// The box of a wall in the wall's coordinates: its length along the x of the profile, whatever is
-/// longer, its thickness along y, its height along the local z, whatever the direction of the
-/// extrusion. A curved or slanted outline counts by its bounding box. Nothing for a profile that is
-/// neither a rectangle nor a polyline.
+/// Computes the box of a wall. The bounding box of the profile gives the length, which is always
+/// along the profile's x axis, and the thickness, which is along y. The height is the depth of the
+/// extrusion, which is always taken along the z axis of the solid. Returns nothing if the profile
+/// is neither a rectangle nor a polyline.
 std::optional<WallBox> ExtractWallBox(const ExtrusionFacts& solid);
 
 }  // namespace KelIFC
