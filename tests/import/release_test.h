@@ -12,15 +12,15 @@
 
 namespace KelIFC {
 
-/// The three families of entity classes that can be converted: every test of a conversion runs for
-/// each, from one text.
+/// The three releases that can be converted. A typed test of the conversion runs once for each of
+/// them, with the same model text.
 using ConvertedReleases = testing::Types<Release2x, Release2x2, Release2x3>;
 
 inline const char* SchemaOf(Release2x) { return "IFC2X_FINAL"; }
 inline const char* SchemaOf(Release2x2) { return "IFC2X2_FINAL"; }
 inline const char* SchemaOf(Release2x3) { return "IFC2X3"; }
 
-/// A test that loads models of one family; it must leave no object behind.
+/// A test that loads models of one release. All objects must be released when it ends.
 template <class Release>
 class ReleaseTest : public HostTest {
  protected:

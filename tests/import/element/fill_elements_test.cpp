@@ -23,7 +23,7 @@ class ElementFill : public HostTest {
   }
 };
 
-TEST_F(ElementFill, KnowsNoFilterByStorey) {
+TEST_F(ElementFill, DoesNotSupportAFilterByStorey) {
   ExpectFilter(FillColumns);
   ExpectFilter(FillBeams);
   ExpectFilter(FillWalls);

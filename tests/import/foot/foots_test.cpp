@@ -61,7 +61,7 @@ TYPED_TEST(Foots, WithoutAPlacementStandAtTheOrigin) {
   EXPECT_THAT(at, IsAt(0, 0, 0));
 }
 
-TYPED_TEST(Foots, SucceedWhenTheLastFootingIsNone) {
+TYPED_TEST(Foots, SucceedIfTheLastFootingIsNotConverted) {
   this->AddFooting(".PAD_FOOTING.", "F");
   this->AddFooting(".PILE_CAP.", "P");
   this->Convert();

@@ -13,7 +13,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using Ref = ModelBuilder::Ref;
 
-/// A face by the numbers of its points, as a host sees it.
+/// A loop as the numbers of its points, as hosts read it.
 using Numbers = std::vector<LONG>;
 
 template <class Release>
@@ -25,7 +25,7 @@ class Beams : public ConversionTest<Release> {
     return this->model.Add("IFCPOLYLOOP((" + list + "))");
   }
 
-  /// A unit square at a height, counter-clockwise seen from above.
+  /// A unit square at height `z`, counter-clockwise seen from above.
   Ref Square(double z) { return Loop({{0, 0, z}, {1, 0, z}, {1, 1, z}, {0, 1, z}}); }
 
   Ref Outer(const Ref& loop, const std::string& orientation = ".T.") {
@@ -40,7 +40,7 @@ class Beams : public ConversionTest<Release> {
     return this->model.Add("IFCFACETEDBREP(" + shell + ")");
   }
 
-  /// The boundary of the only beam, as the conversion left it.
+  /// Returns the boundary of the only beam; the fixture keeps the beam alive.
   const BRep& Boundary() {
     beams = this->GetBeams();
     EXPECT_THAT(beams, SizeIs(1));
@@ -71,7 +71,7 @@ class Beams : public ConversionTest<Release> {
 };
 TYPED_TEST_SUITE(Beams, ConvertedReleases);
 
-TYPED_TEST(Beams, AreReadAsColumnsAre) {
+TYPED_TEST(Beams, AreReadLikeColumns) {
   auto& m = this->model;
   const auto position = m.Placement({0, 0, 0}, m.Direction({1, 0, 0}), m.Direction({0, 1, 0}));
   const auto solid = m.Extrusion(m.Rectangle(0.2, 0.4), position, m.Direction({0, 0, 1}), 6);
@@ -83,7 +83,7 @@ TYPED_TEST(Beams, AreReadAsColumnsAre) {
   EXPECT_EQ(this->SectionOf(*beams[0]), L"IFC_R_20x40");
 }
 
-TYPED_TEST(Beams, AreMembersTooWhereTheReleaseHasThem) {
+TYPED_TEST(Beams, IncludeMembersIfTheReleaseHasThem) {
   auto& m = this->model;
   const auto body = m.Body({m.Extrusion(m.Circle(0.1), 1)});
   m.Beam("$", body, "beam 1");
@@ -170,7 +170,7 @@ TYPED_TEST(Beams, KeepInnerLoopsApart) {
   EXPECT_THAT(this->NormalOf(boundary, 0), IsAt(0, 0, -1));
 }
 
-TYPED_TEST(Beams, MakeNoInnerBoundAnOuterOne) {
+TYPED_TEST(Beams, DoNotTurnAnInnerBoundIntoAnOuterOne) {
   auto& m = this->model;
   m.Beam("$", m.Body({this->Faceted({this->Face({this->Inner(this->Square(0))})})}));
   this->Convert();
@@ -204,7 +204,7 @@ TYPED_TEST(Beams, TurnReversedBoundsByTheirIndices) {
   EXPECT_THAT(this->NormalOf(boundary, 0), IsAt(0, 0, -1));
 }
 
-TYPED_TEST(Beams, HaveAFaceOnASurfaceTwice) {
+TYPED_TEST(Beams, HaveTwoFacesForAFaceOnASurface) {
   auto& m = this->model;
   const auto plane = m.Add("IFCPLANE(" + m.Placement({0, 0, 0}) + ")");
   const auto face =
@@ -230,7 +230,7 @@ TYPED_TEST(Beams, HaveNoNormalForALoopOnALine) {
   for (std::size_t i = 0; i < 3; ++i) EXPECT_THAT(this->NormalOf(boundary, i), IsAt(0, 0, 0));
 }
 
-TYPED_TEST(Beams, HaveNoFaceForOneWithoutLoops) {
+TYPED_TEST(Beams, HaveNoFaceForAFaceWithoutLoops) {
   auto& m = this->model;
   const auto good = this->Face({this->Outer(this->Square(0))});
   const auto solid = this->Faceted({this->Face({}), this->Face({this->Outer("$")}), "$", good});
@@ -250,7 +250,7 @@ TYPED_TEST(Beams, HaveAnEmptyBoundaryForASolidWithoutShell) {
   EXPECT_TRUE(boundary.faces.empty());
 }
 
-TYPED_TEST(Beams, HaveLoopsOfThePlaneAtHeightZero) {
+TYPED_TEST(Beams, HaveLoopsInThePlaneAtHeightZero) {
   auto& m = this->model;
   const auto loop = this->Loop({{0, 0}, {1, 0}, {1, 1}});
   m.Beam("$", m.Body({this->Faceted({this->Face({this->Outer(loop)})})}));
@@ -259,7 +259,7 @@ TYPED_TEST(Beams, HaveLoopsOfThePlaneAtHeightZero) {
               ElementsAre(IsAt(0, 0, 0), IsAt(1, 0, 0), IsAt(1, 1, 0)));
 }
 
-TYPED_TEST(Beams, RepeatAPointInPlaceOfOneThatCannotBeRead) {
+TYPED_TEST(Beams, RepeatThePreviousPointForOneThatCannotBeRead) {
   auto& m = this->model;
   const auto loop = m.Add("IFCPOLYLOOP((" + m.Point({1, 2, 3}) + "," + m.Point({9, 9}) + ",#999))");
   m.Beam("$", m.Body({this->Faceted({this->Face({this->Outer(loop)})})}));
@@ -268,7 +268,7 @@ TYPED_TEST(Beams, RepeatAPointInPlaceOfOneThatCannotBeRead) {
               ElementsAre(IsAt(1, 2, 3), IsAt(1, 2, 3), IsAt(1, 2, 3)));
 }
 
-TYPED_TEST(Beams, ThatAreMappedMoveByTheOriginOfTheMapFirst) {
+TYPED_TEST(Beams, ThatAreMappedApplyTheOriginOfTheMapFirst) {
   auto& m = this->model;
   const auto solid = this->Faceted({this->Face({this->Outer(this->Square(0))})});
   const auto origin = m.Turned({0, 0, 5}, {0, 1, 0});
@@ -279,7 +279,7 @@ TYPED_TEST(Beams, ThatAreMappedMoveByTheOriginOfTheMapFirst) {
               ElementsAre(IsAt(10, 0, 5), IsAt(10, 1, 5), IsAt(9, 1, 5), IsAt(9, 0, 5)));
 }
 
-TYPED_TEST(Beams, ThatAreMappedMoveInsideTheSolidsPosition) {
+TYPED_TEST(Beams, ThatAreMappedApplyTheOriginOfTheMapBeforeThePosition) {
   auto& m = this->model;
   const auto position = m.Turned({10, 0, 0}, {0, 1, 0});
   const auto solid = m.Extrusion(m.Circle(0.1), position, m.Direction({0, 0, 1}), 1);
@@ -291,7 +291,7 @@ TYPED_TEST(Beams, ThatAreMappedMoveInsideTheSolidsPosition) {
   EXPECT_THAT(PointsOf(*beams[0]), ElementsAre(IsAt(10, 1, 0), IsAt(10, 1, 1)));
 }
 
-TYPED_TEST(Beams, ThatAreMappedKeepTheirSizeWhateverTheTargetSays) {
+TYPED_TEST(Beams, ThatAreMappedIgnoreTheTarget) {
   auto& m = this->model;
   const auto target =
       m.Add("IFCCARTESIANTRANSFORMATIONOPERATOR3D($,$," + m.Point({7, 7, 7}) + ",2.,$)");
@@ -327,7 +327,7 @@ TYPED_TEST(Beams, OfOneMapAreNamedByTheItemAlone) {
   EXPECT_THAT(this->NamesOf(this->GetBeams()), ElementsAre(L"IFC#712(1)", L"IFC#712(2)"));
 }
 
-TYPED_TEST(Beams, WithoutASourceOfTheirMapFallBackOnTheRepresentationItself) {
+TYPED_TEST(Beams, WithoutASourceOfTheirMapUseTheRepresentationItself) {
   auto& m = this->model;
   const auto empty = m.Add("IFCMAPPEDITEM($,$)");
   const auto clipping = m.Clipping(m.Extrusion(m.Circle(0.1), 1));
@@ -336,7 +336,7 @@ TYPED_TEST(Beams, WithoutASourceOfTheirMapFallBackOnTheRepresentationItself) {
   EXPECT_EQ(this->GetBeams().size(), 1u);
 }
 
-TYPED_TEST(Beams, AreNotMadeOfAMapThatMapsItself) {
+TYPED_TEST(Beams, AreLeftOutIfTheirMapMapsItself) {
   auto& m = this->model;
   m.AddAs(801, "IFCREPRESENTATIONMAP(" + m.Placement({0, 0, 0}) + ",#802)");
   m.AddAs(802, "IFCSHAPEREPRESENTATION($,'Body','MappedRepresentation',(#803))");
@@ -346,7 +346,7 @@ TYPED_TEST(Beams, AreNotMadeOfAMapThatMapsItself) {
   EXPECT_THAT(this->GetBeams(), IsEmpty());
 }
 
-TYPED_TEST(Beams, OfAMapWithoutARepresentationAreNothing) {
+TYPED_TEST(Beams, AreLeftOutIfTheirMapHasNoRepresentation) {
   auto& m = this->model;
   m.Beam("$", m.Body({m.Mapped("$", "$"), m.Clipping(m.Extrusion(m.Circle(0.1), 1))}));
   this->Convert();

@@ -16,20 +16,20 @@ using testing::IsEmpty;
 template <class Release>
 class Columns : public ConversionTest<Release> {
  protected:
-  /// Adds a column of one item, placed at the origin.
+  /// Adds a column with one item, without a placement.
   void AddColumn(const ModelBuilder::Ref& item, const std::string& name = "A") {
     auto& m = this->model;
     const auto placement = m.Local(m.Placement({0, 0, 0}));
     m.Column(placement, m.Body({item}), name);
   }
 
-  /// A rectangle of 0.3 by 0.5 whose reference direction is `x`.
+  /// A profile of 0.3 by 0.5 whose reference direction is `x`.
   ModelBuilder::Ref Rectangle(ModelBuilder::Numbers x) {
     auto& m = this->model;
     return m.Rectangle(0.3, 0.5, m.Placement2D({0, 0}, m.Direction(x)));
   }
 
-  /// An outline of the shape of an I, which is no regular figure.
+  /// An outline in the shape of an I, which is not a regular figure.
   ModelBuilder::Ref IOutline() {
     return this->model.Outline(this->model.PolyLine({{-0.2, -0.2},
                                                      {0.2, -0.2},
@@ -89,7 +89,7 @@ TYPED_TEST(Columns, GoThroughTheSolidsPositionAndThenThePlacements) {
   EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(94, 10, 1000), IsAt(94, 10, 1003)));
 }
 
-TYPED_TEST(Columns, ChangeWhenTwoOfTheirPlacementsAreExchanged) {
+TYPED_TEST(Columns, DependOnTheOrderOfTheirPlacements) {
   auto& m = this->model;
   const auto turn = m.Turned({0, 0, 0}, {0, 1, 0});
   const auto move = m.Placement({5, 0, 0});
@@ -114,7 +114,7 @@ TYPED_TEST(Columns, LeaveOutPlacementsInThePlane) {
   EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(0, 0, 7), IsAt(0, 0, 8)));
 }
 
-TYPED_TEST(Columns, EndTheirChainAtAPlacementMetAgain) {
+TYPED_TEST(Columns, EndTheirChainAtACycle) {
   auto& m = this->model;
   const auto at = m.Placement({1, 0, 0});
   m.AddAs(901, "IFCLOCALPLACEMENT(#902," + at + ")");
@@ -138,7 +138,7 @@ TYPED_TEST(Columns, AreInMetres) {
   EXPECT_EQ(this->SectionOf(*columns[0]), L"IFC_R_30x50");
 }
 
-TYPED_TEST(Columns, BeginOnTopWhenTheyAreExtrudedDownwards) {
+TYPED_TEST(Columns, StartAtTheTopIfTheyAreExtrudedDownwards) {
   auto& m = this->model;
   const auto position = m.Placement({0, 0, 3});
   this->AddColumn(m.Extrusion(m.Circle(0.2), position, m.Direction({0, 0, -1}), 3));
@@ -148,7 +148,7 @@ TYPED_TEST(Columns, BeginOnTopWhenTheyAreExtrudedDownwards) {
   EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(0, 0, 3), IsAt(0, 0, 0)));
 }
 
-TYPED_TEST(Columns, HaveACircularSectionByTheDiameter) {
+TYPED_TEST(Columns, HaveTheDiameterAsCircularSection) {
   auto& m = this->model;
   const auto profile = m.Circle(0.15, m.Placement2D({2, 3}));
   this->AddColumn(m.Extrusion(profile, 3));
@@ -179,7 +179,7 @@ TYPED_TEST(Columns, ShareASectionWithinAThousandth) {
   EXPECT_THAT(this->SectionNames(), ElementsAre(L"IFC_C_30", L"IFC_C_30.1"));
 }
 
-TYPED_TEST(Columns, ChangeOverTheirSizeOnlyForADirectionThatPointsDown) {
+TYPED_TEST(Columns, SwapTheirSizesOnlyForADirectionThatPointsDown) {
   auto& m = this->model;
   this->AddColumn(m.Extrusion(this->Rectangle({1, 0}), 3), "right");
   this->AddColumn(m.Extrusion(this->Rectangle({0, 1}), 3), "up");
@@ -214,7 +214,7 @@ TYPED_TEST(Columns, AreRecognisedByTheirOutline) {
   this->Convert();
   const auto columns = this->GetColumns();
   ASSERT_EQ(columns.size(), 4u);
-  // The axis goes through the origin of the plane, wherever the outline lies.
+  // The axis goes through the origin of the plane, wherever the outline is.
   EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 3)));
   EXPECT_THAT(this->SectionNames(),
               ElementsAre(L"IFC_R_30x50", L"IFC_N4_200x200", L"IFC_T_20x50", L"IFC_N12_40x40"));
@@ -261,7 +261,7 @@ TYPED_TEST(Columns, OfOtherProfilesAreLeftOut) {
   EXPECT_THAT(this->NamesOf(this->GetColumns()), ElementsAre(L"outline"));
 }
 
-TYPED_TEST(Columns, AreMadeOfEachItemThatIsUnderstood) {
+TYPED_TEST(Columns, AreMadeOfEachSupportedItem) {
   auto& m = this->model;
   const auto box = m.Add("IFCBOUNDINGBOX(" + m.Point({0, 0, 0}) + ",1.,1.,1.)");
   const auto first = m.Extrusion(m.Circle(0.2), 1);
@@ -283,7 +283,7 @@ TYPED_TEST(Columns, OfOneItemHaveNoSuffix) {
   EXPECT_THAT(this->NamesOf(this->GetColumns()), ElementsAre(L"IFC#57"));
 }
 
-TYPED_TEST(Columns, KeepAGivenNameForEachOfTheirItems) {
+TYPED_TEST(Columns, HaveTheNameOfTheProductForEachItem) {
   auto& m = this->model;
   const auto first = m.Extrusion(m.Circle(0.2), 1);
   m.Column("$", m.Body({first, m.Extrusion(m.Circle(0.2), 2)}), "C1");
@@ -327,7 +327,7 @@ TYPED_TEST(Columns, ThatAreClippedHaveTheirFullLength) {
   EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 3)));
 }
 
-TYPED_TEST(Columns, ThatAreClippedOfSomethingElseAreLeftOut) {
+TYPED_TEST(Columns, ThatClipSomethingElseAreLeftOut) {
   auto& m = this->model;
   const auto plane = m.Add("IFCPLANE(" + m.Placement({0, 0, 1}) + ")");
   const auto half = m.Add("IFCHALFSPACESOLID(" + plane + ",.F.)");
@@ -339,7 +339,7 @@ TYPED_TEST(Columns, ThatAreClippedOfSomethingElseAreLeftOut) {
   EXPECT_THAT(this->GetColumns(), IsEmpty());
 }
 
-TYPED_TEST(Columns, ThatAreClippedOfThemselvesAreLeftOut) {
+TYPED_TEST(Columns, ThatClipThemselvesAreLeftOut) {
   auto& m = this->model;
   m.AddAs(801, "IFCBOOLEANCLIPPINGRESULT(.DIFFERENCE.,#802,$)");
   m.AddAs(802, "IFCBOOLEANCLIPPINGRESULT(.DIFFERENCE.,#801,$)");
@@ -367,11 +367,11 @@ TYPED_TEST(Columns, GoThroughAThousandPlacements) {
   this->Convert();
   const auto columns = this->GetColumns();
   ASSERT_EQ(columns.size(), 1u);
-  // Four steps lead back to the start.
+  // Each placement turns by 90 degrees, so that four of them lead back to the start.
   EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(1, 0, 0), IsAt(1, 0, 3)));
 }
 
-TYPED_TEST(Columns, AreConvertedOutsideOfAllStoreys) {
+TYPED_TEST(Columns, AreConvertedWithoutAStorey) {
   auto& m = this->model;
   this->AddColumn(m.Extrusion(m.Circle(0.2), 3));
   this->Convert();
@@ -380,7 +380,7 @@ TYPED_TEST(Columns, AreConvertedOutsideOfAllStoreys) {
   EXPECT_EQ(Get(*columns[0], &IGeoObject::get_StoreyNumber), 32767);
 }
 
-TYPED_TEST(Columns, SurviveMissingParts) {
+TYPED_TEST(Columns, SurviveUnsetAttributes) {
   auto& m = this->model;
   this->AddColumn(m.Add("IFCEXTRUDEDAREASOLID(" + m.Circle(0.2) + ",$,$,$)"));
   this->AddColumn(m.Add("IFCEXTRUDEDAREASOLID(" + m.Rectangle(1, 1, "$") + ",#999,#999,1.)"));
@@ -390,7 +390,7 @@ TYPED_TEST(Columns, SurviveMissingParts) {
   EXPECT_EQ(this->GetColumns().size(), 3u);
 }
 
-TYPED_TEST(Columns, SurviveCoordinatesThatAreNoNumbers) {
+TYPED_TEST(Columns, SurviveCoordinatesThatAreNotNumbers) {
   auto& m = this->model;
   const auto at = m.Add("IFCCARTESIANPOINT((1.E999,-1.E999,0.))");
   const auto position = m.Add("IFCAXIS2PLACEMENT3D(" + at + ",$,$)");

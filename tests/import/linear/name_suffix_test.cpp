@@ -20,11 +20,11 @@ std::string SuffixOf(std::size_t map, std::size_t number, std::size_t count) {
   return NameSuffix(part, item);
 }
 
-TEST(NameSuffix, RepeatsTheMapAndTheItem) { EXPECT_EQ(SuffixOf(2, 3, 4), "(2/3)(2)(3)"); }
+TEST(NameSuffix, HasTheMapAndTheItemTwice) { EXPECT_EQ(SuffixOf(2, 3, 4), "(2/3)(2)(3)"); }
 
-TEST(NameSuffix, TellsTheMapOfASingleItem) { EXPECT_EQ(SuffixOf(2, 1, 1), "(2)"); }
+TEST(NameSuffix, IsTheMapForASingleItem) { EXPECT_EQ(SuffixOf(2, 1, 1), "(2)"); }
 
-TEST(NameSuffix, TellsTheItemWithoutAMap) { EXPECT_EQ(SuffixOf(0, 2, 2), "(2)"); }
+TEST(NameSuffix, IsTheItemWithoutAMap) { EXPECT_EQ(SuffixOf(0, 2, 2), "(2)"); }
 
 TEST(NameSuffix, IsEmptyForASingleItemWithoutAMap) { EXPECT_EQ(SuffixOf(0, 1, 1), ""); }
 

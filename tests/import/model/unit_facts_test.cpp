@@ -14,7 +14,7 @@ TEST(LengthScaleOfFacts, IsThatOfTheFirstLength) {
   EXPECT_EQ(LengthScale({{false, 5.0, 0.0}, {true, 0.001, 0.0}, {true, 1.0, 0.0}}), 0.001);
 }
 
-TEST(LengthScaleOfFacts, TakesTheFactorAlong) {
+TEST(LengthScaleOfFacts, MultipliesByTheFactor) {
   EXPECT_DOUBLE_EQ(LengthScale({{true, 0.001, 25.4}}), 0.0254);
   EXPECT_EQ(LengthScale({{true, 0.001, 0.0}}), 0.001);
 }

@@ -23,10 +23,10 @@ class Openings : public ConversionTest<Release> {
     return m.Slab("$", m.Body({m.Extrusion(m.Rectangle(8, 8), 0.2)}));
   }
 
-  /// A box of 1 by 0.2 by 2, its foot in the middle of its plane.
+  /// A box of 1 by 0.2 by 2; the origin is the centre of its base.
   Ref Box() { return this->model.Extrusion(this->model.Rectangle(1, 0.2), 2); }
 
-  /// Adds an opening at a height to the wall.
+  /// Adds an opening to the wall, at height `z` above the origin of the wall.
   Ref AddOpening(const Ref& wall, double z, const std::string& name = "O") {
     auto& m = this->model;
     const auto placement = m.Local(m.Placement({0, 0, z}), wallPlacement);
@@ -52,7 +52,7 @@ class Openings : public ConversionTest<Release> {
     return ItemsOf<IGeoHole>(*GetObject(plate, &IGeoPlate::get_Holes));
   }
 
-  /// Expects the names of the windows and the doors of the only wall.
+  /// Converts the model and expects these names of the windows and doors of the only wall.
   void ExpectNames(const std::vector<std::wstring>& windows,
                    const std::vector<std::wstring>& doors) {
     this->Convert();
@@ -60,6 +60,14 @@ class Openings : public ConversionTest<Release> {
     ASSERT_EQ(walls.size(), 1u);
     EXPECT_EQ(this->NamesOf(WindowsOf(*walls[0])), windows);
     EXPECT_EQ(this->NamesOf(DoorsOf(*walls[0])), doors);
+  }
+
+  /// Converts the model and returns the points of the only window of the first wall.
+  std::vector<Coordinates> PointsOfWindow() {
+    this->Convert();
+    const auto windows = WindowsOf(*this->GetWalls().at(0));
+    EXPECT_EQ(windows.size(), 1u);
+    return PointsOf(*windows.at(0));
   }
 
   Ref wallPlacement = "$";
@@ -80,7 +88,7 @@ TYPED_TEST(Openings, FilledByAWindowAreWindowsAtAnyHeight) {
   this->ExpectNames({L"opening"}, {});
 }
 
-TYPED_TEST(Openings, WithoutFillingAreToldByTheirHeight) {
+TYPED_TEST(Openings, WithoutAFillingAreDistinguishedByTheirHeight) {
   const auto wall = this->AddWall();
   this->AddOpening(wall, 0.0, "0");
   this->AddOpening(wall, 0.0009, "0.0009");
@@ -90,7 +98,7 @@ TYPED_TEST(Openings, WithoutFillingAreToldByTheirHeight) {
   this->ExpectNames({L"0.001", L"0.5"}, {L"0", L"0.0009", L"-0.2"});
 }
 
-TYPED_TEST(Openings, FilledBySomethingElseAreNothing) {
+TYPED_TEST(Openings, FilledBySomethingElseAreLeftOut) {
   auto& m = this->model;
   const auto wall = this->AddWall();
   const auto opening = this->AddOpening(wall, 0.5);
@@ -98,7 +106,7 @@ TYPED_TEST(Openings, FilledBySomethingElseAreNothing) {
   this->ExpectNames({}, {});
 }
 
-TYPED_TEST(Openings, AreToldByTheFirstWindowOrDoor) {
+TYPED_TEST(Openings, AreDecidedByTheFirstWindowOrDoor) {
   auto& m = this->model;
   const auto wall = this->AddWall();
   const auto first = this->AddOpening(wall, 0.5, "door first");
@@ -110,7 +118,7 @@ TYPED_TEST(Openings, AreToldByTheFirstWindowOrDoor) {
   this->ExpectNames({L"wall, then window"}, {L"door first"});
 }
 
-TYPED_TEST(Openings, WithoutFillingAndPlacementAreNothing) {
+TYPED_TEST(Openings, WithoutAFillingAndAPlacementAreLeftOut) {
   auto& m = this->model;
   const auto wall = this->AddWall();
   m.Voids(wall, m.Opening("$", m.Body({this->Box()}), "unplaced"));
@@ -127,12 +135,7 @@ TYPED_TEST(Openings, AreTheCornersAtTheMiddleOfTheirDepth) {
   const auto solid = m.Extrusion(m.Rectangle(1, 2), position, m.Direction({0, 0, 1}), 0.2);
   const auto placement = m.Local(m.Placement({1, 0, 1.5}), this->wallPlacement);
   m.Voids(wall, m.Opening(placement, m.Body({solid})));
-  this->Convert();
-  const auto walls = this->GetWalls();
-  ASSERT_EQ(walls.size(), 1u);
-  const auto windows = this->WindowsOf(*walls[0]);
-  ASSERT_EQ(windows.size(), 1u);
-  EXPECT_THAT(PointsOf(*windows[0]), ElementsAre(IsAt(100.5, 0, 0.5), IsAt(101.5, 0, 2.5)));
+  EXPECT_THAT(this->PointsOfWindow(), ElementsAre(IsAt(100.5, 0, 0.5), IsAt(101.5, 0, 2.5)));
 }
 
 TYPED_TEST(Openings, OfATurnedRectangleKeepItsTwoCorners) {
@@ -141,10 +144,7 @@ TYPED_TEST(Openings, OfATurnedRectangleKeepItsTwoCorners) {
   const auto profile = m.Rectangle(1, 2, m.Placement2D({5, 0}, m.Direction({0, 1})));
   const auto placement = m.Local(m.Placement({0, 0, 1}));
   m.Voids(wall, m.Opening(placement, m.Body({m.Extrusion(profile, 2)})));
-  this->Convert();
-  const auto windows = this->WindowsOf(*this->GetWalls().at(0));
-  ASSERT_EQ(windows.size(), 1u);
-  EXPECT_THAT(PointsOf(*windows[0]), ElementsAre(IsAt(6, -0.5, 2), IsAt(4, 0.5, 2)));
+  EXPECT_THAT(this->PointsOfWindow(), ElementsAre(IsAt(6, -0.5, 2), IsAt(4, 0.5, 2)));
 }
 
 TYPED_TEST(Openings, OfAnOutlineAreItsBoxWithTheLastPoint) {
@@ -152,10 +152,7 @@ TYPED_TEST(Openings, OfAnOutlineAreItsBoxWithTheLastPoint) {
   const auto wall = this->AddWall();
   const auto outline = m.Outline(m.PolyLine({{0, 0}, {1, 0.5}, {3, -2}}));
   m.Voids(wall, m.Opening(m.Local(m.Placement({0, 0, 1})), m.Body({m.Extrusion(outline, 2)})));
-  this->Convert();
-  const auto windows = this->WindowsOf(*this->GetWalls().at(0));
-  ASSERT_EQ(windows.size(), 1u);
-  EXPECT_THAT(PointsOf(*windows[0]), ElementsAre(IsAt(0, -2, 2), IsAt(3, 0.5, 2)));
+  EXPECT_THAT(this->PointsOfWindow(), ElementsAre(IsAt(0, -2, 2), IsAt(3, 0.5, 2)));
 }
 
 TYPED_TEST(Openings, OfOtherProfilesStayAtTheOriginOfTheWorld) {
@@ -192,7 +189,7 @@ TYPED_TEST(Openings, OfASlabAreHolesWhateverFillsThem) {
             VARIANT_FALSE);
 }
 
-TYPED_TEST(Openings, OfASlabStayWithoutAContour) {
+TYPED_TEST(Openings, OfASlabAreKeptWithoutAContour) {
   auto& m = this->model;
   const auto slab = this->AddSlab();
   m.Voids(slab, m.Opening("$", "$", "no shape"));
@@ -215,7 +212,7 @@ TYPED_TEST(Openings, WithoutADirectionKeepThePlaneOfTheirProfile) {
               ElementsAre(IsAt(-1, -1, 3), IsAt(1, -1, 3), IsAt(1, 1, 3), IsAt(-1, 1, 3)));
 }
 
-TYPED_TEST(Openings, DisappearWithAWallThatIsLeftOut) {
+TYPED_TEST(Openings, AreLeftOutWithTheirWall) {
   auto& m = this->model;
   const auto wall = m.Wall("$", m.Body({m.Clipping(m.Extrusion(m.Rectangle(5, 0.2), 3))}));
   this->AddOpening(wall, 0.5);
@@ -223,7 +220,7 @@ TYPED_TEST(Openings, DisappearWithAWallThatIsLeftOut) {
   EXPECT_THAT(this->GetWalls(), IsEmpty());
 }
 
-TYPED_TEST(Openings, WithoutANameAreCalledAfterTheirNumber) {
+TYPED_TEST(Openings, WithoutANameAreNamedAfterTheirNumber) {
   auto& m = this->model;
   const auto slab = this->AddSlab();
   const auto opening = m.AddAs(99, ModelBuilder::ProductText("IFCOPENINGELEMENT", "$", "$", ""));

@@ -17,7 +17,7 @@ class Plates : public ConversionTest<Release> {
     return this->model.Slab("$", this->model.Body({item}), name);
   }
 
-  /// The points of the only plate.
+  /// Converts the model and returns the points of the only plate.
   std::vector<Coordinates> Contour() {
     const auto plates = this->GetPlates();
     return plates.size() == 1 ? PointsOf(*plates[0]) : std::vector<Coordinates>();
@@ -42,7 +42,7 @@ TYPED_TEST(Plates, LieInTheMiddleOfTheirThickness) {
   EXPECT_EQ(this->SectionOf(*plates[0]), L"IFC_H_30");
 }
 
-TYPED_TEST(Plates, AreThinnerThanTheDepthOfASlantedExtrusion) {
+TYPED_TEST(Plates, AreThinnerThanTheDepthOfAnObliqueExtrusion) {
   auto& m = this->model;
   const auto position = m.Placement({0, 0, 0});
   this->AddSlab(m.Extrusion(this->Triangle(), position, m.Direction({1, 0, 1}), 1));
@@ -70,7 +70,7 @@ TYPED_TEST(Plates, OfARectangleTurnCounterClockwise) {
               ElementsAre(IsAt(11, -2, 0.1), IsAt(11, 2, 0.1), IsAt(9, 2, 0.1), IsAt(9, -2, 0.1)));
 }
 
-TYPED_TEST(Plates, KeepTheSenseOfTheirFile) {
+TYPED_TEST(Plates, KeepTheSenseOfTheOutline) {
   auto& m = this->model;
   const auto line = m.PolyLine({{0, 0}, {0, 3}, {4, 0}, {0, 0}});
   this->AddSlab(m.Extrusion(m.Outline(line), 0.2));
@@ -78,7 +78,7 @@ TYPED_TEST(Plates, KeepTheSenseOfTheirFile) {
   EXPECT_THAT(this->Contour(), ElementsAre(IsAt(0, 0, 0.1), IsAt(0, 3, 0.1), IsAt(4, 0, 0.1)));
 }
 
-TYPED_TEST(Plates, EndAtTheFirstSlabThatHasNothingToMakeThemOf) {
+TYPED_TEST(Plates, StopAtTheFirstSlabWithoutASolid) {
   auto& m = this->model;
   const auto body = m.Body({m.Extrusion(this->Triangle(), 0.2)});
   m.Slab("$", body, "1");
@@ -90,7 +90,7 @@ TYPED_TEST(Plates, EndAtTheFirstSlabThatHasNothingToMakeThemOf) {
   EXPECT_THAT(this->NamesOf(this->GetPlates()), ElementsAre(L"1", L"2"));
 }
 
-TYPED_TEST(Plates, EndAtASlabOfAnotherItem) {
+TYPED_TEST(Plates, StopAtASlabWithAnUnknownItem) {
   auto& m = this->model;
   this->AddSlab(m.Add("IFCBOUNDINGBOX(" + m.Point({0, 0, 0}) + ",1.,1.,1.)"));
   this->AddSlab(m.Extrusion(this->Triangle(), 0.2));
@@ -98,7 +98,7 @@ TYPED_TEST(Plates, EndAtASlabOfAnotherItem) {
   EXPECT_THAT(this->GetPlates(), IsEmpty());
 }
 
-TYPED_TEST(Plates, SkipSlabsOfOtherSolids) {
+TYPED_TEST(Plates, SkipSlabsWithOtherSolids) {
   auto& m = this->model;
   this->AddSlab(m.Add("IFCFACETEDBREP($)"), "faceted");
   this->AddSlab(m.Clipping(m.Extrusion(this->Triangle(), 0.2)), "clipped");

@@ -24,7 +24,7 @@ class FlattenedCurve : public ConversionTest<Release> {
  protected:
   using IfcCurve = typename Release::IfcCurve;
 
-  /// The points of the curve of that reference.
+  /// Returns the points of the curve with this reference.
   std::vector<Coordinates> Flatten(const Ref& curve, bool dropClosing = true, double scale = 1.0) {
     this->server = this->Load(this->model.Data());
     auto& server = static_cast<CoIFCServer&>(*this->server);
@@ -93,7 +93,7 @@ TYPED_TEST(FlattenedCurve, IsInMetres) {
   EXPECT_THAT(this->Flatten(line, true, 0.001), ElementsAre(IsAt(1, 2, 0)));
 }
 
-TYPED_TEST(FlattenedCurve, OfNothingIsEmpty) {
+TYPED_TEST(FlattenedCurve, OfNullIsEmpty) {
   EXPECT_THAT(this->Flatten("#77"), IsEmpty());
   const auto empty = this->model.PolyLine({});
   EXPECT_THAT(this->Flatten(empty), IsEmpty());
@@ -113,14 +113,14 @@ TYPED_TEST(FlattenedCurve, OfAnArcHasAPointForEachStep) {
   const auto circle = this->Circle({10, 0}, 2);
   const auto quarter = this->ByPoints(circle, {12, 0}, {10, 2}, ".T.");
   const auto points = this->Flatten(quarter);
-  // 16 steps of a 64th of the circle: the start, 15 points between, the end.
+  // A quarter of the circle is 16 chords: the start, 15 points between them, and the end.
   ASSERT_EQ(points.size(), 17u);
   EXPECT_THAT(points.front(), IsAt(12, 0, 0));
   EXPECT_THAT(points[8], IsAt(10 + std::sqrt(2), std::sqrt(2), 0));
   EXPECT_THAT(points.back(), IsAt(10, 2, 0));
 }
 
-TYPED_TEST(FlattenedCurve, OfAnArcGoesRoundTheOtherWay) {
+TYPED_TEST(FlattenedCurve, OfAnArcFollowsTheSense) {
   const auto circle = this->Circle({0, 0}, 1);
   const auto arc = this->ByPoints(circle, {1, 0}, {0, 1}, ".F.");
   const auto points = this->Flatten(arc);
@@ -130,7 +130,7 @@ TYPED_TEST(FlattenedCurve, OfAnArcGoesRoundTheOtherWay) {
   EXPECT_THAT(points.back(), IsAt(0, 1, 0));
 }
 
-TYPED_TEST(FlattenedCurve, OfAShortArcHasAPointBehindItsEnd) {
+TYPED_TEST(FlattenedCurve, OfAShortArcHasAPointAfterItsEnd) {
   const auto circle = this->Circle({0, 0}, 1);
   const double angle = kPi / 64;
   const auto arc = this->ByPoints(circle, {1, 0}, {std::cos(angle), std::sin(angle)}, ".T.");
@@ -147,14 +147,14 @@ TYPED_TEST(FlattenedCurve, OfAnArcHasTheRadiusOfItsStart) {
   EXPECT_THAT(points.back(), IsAt(0, 5, 0));
 }
 
-TYPED_TEST(FlattenedCurve, OfAnArcWithoutPositionIsRoundTheOrigin) {
+TYPED_TEST(FlattenedCurve, OfAnArcWithoutAPositionHasItsCentreAtTheOrigin) {
   const auto circle = this->model.Add("IFCCIRCLE($,1.)");
   const auto points = this->Flatten(this->ByPoints(circle, {1, 0}, {0, 1}, ".T."));
   ASSERT_EQ(points.size(), 17u);
   EXPECT_THAT(points[8], IsAt(std::sqrt(0.5), std::sqrt(0.5), 0));
 }
 
-TYPED_TEST(FlattenedCurve, BetweenMissingPointsStaysAtTheOrigin) {
+TYPED_TEST(FlattenedCurve, BetweenUnsetPointsStaysAtTheOrigin) {
   const auto circle = this->Circle({1, 0}, 1);
   const auto arc = this->model.Add("IFCTRIMMEDCURVE(" + circle + ",$,$,.T.,.CARTESIAN.)");
   const auto points = this->Flatten(arc);
@@ -171,7 +171,7 @@ TYPED_TEST(FlattenedCurve, OfAnArcByParametersHasThirtyTwoPointsWithoutTheLast) 
   EXPECT_THAT(points[16], IsAt(1 - std::sqrt(2), 1 + std::sqrt(2), 0));
 }
 
-TYPED_TEST(FlattenedCurve, OfAnArcByParametersTurnsBackAgainstTheSense) {
+TYPED_TEST(FlattenedCurve, OfAnArcByParametersFollowsTheSense) {
   const auto circle = this->Circle({0, 0}, 1, this->model.Direction({1, 0}));
   const auto points = this->Flatten(this->ByParameters(circle, "0.", "90.", ".F."));
   ASSERT_EQ(points.size(), 32u);
@@ -179,20 +179,20 @@ TYPED_TEST(FlattenedCurve, OfAnArcByParametersTurnsBackAgainstTheSense) {
   EXPECT_THAT(points[16], IsAt(std::sqrt(0.5), std::sqrt(0.5), 0));
 }
 
-TYPED_TEST(FlattenedCurve, OfAnArcByParametersFallsOnTheCentreWithoutADirection) {
+TYPED_TEST(FlattenedCurve, OfAnArcByParametersStaysAtTheCentreWithoutADirection) {
   const auto circle = this->Circle({5, 6}, 2);
   const auto points = this->Flatten(this->ByParameters(circle, "0.", "90.", ".T."));
   ASSERT_EQ(points.size(), 32u);
   for (const auto& point : points) EXPECT_THAT(point, IsAt(5, 6, 0));
 }
 
-TYPED_TEST(FlattenedCurve, OfALineByParametersCountsRadians) {
+TYPED_TEST(FlattenedCurve, OfALineByParametersConvertsThemToRadians) {
   const auto line = this->Line({1, 0}, {0, 2}, 3);
   const auto points = this->Flatten(this->ByParameters(line, "45.9", "180.", ".T."));
   EXPECT_THAT(points, ElementsAre(IsAt(1, 3 * kPi / 4, 0), IsAt(1, 3 * kPi, 0)));
 }
 
-TYPED_TEST(FlattenedCurve, TakesParametersOutOfRangeForZero) {
+TYPED_TEST(FlattenedCurve, ReadsParametersOutOfRangeAsZero) {
   const auto line = this->Line({1, 0}, {0, 1}, 1);
   for (const std::string distant : {"3.E9", "-3.E9", "1.E999"}) {
     EXPECT_THAT(this->Flatten(this->ByParameters(line, distant, "180.", ".T.")),
@@ -223,10 +223,10 @@ TYPED_TEST(FlattenedCurve, OfACompositeJoinsItsSegments) {
   const auto third = this->Segment(m.PolyLine({{9, 9}, {0, 0}, {0, 3}}), ".F.");
   const auto last = this->Segment(this->ByPoints(line, {7, 7}, {8, 8}, ".T."));
   EXPECT_THAT(this->Flatten(this->Composite({first, second, third, last})),
-              ElementsAre(IsAt(0, 0, 0), IsAt(4, 0, 0),  // with its start
-                          IsAt(4, 0, 0), IsAt(4, 3, 0),  // without its last point
-                          IsAt(0, 3, 0), IsAt(0, 0, 0),  // backwards, without its first
-                          IsAt(8, 8, 0)));               // without its start
+              ElementsAre(IsAt(0, 0, 0), IsAt(4, 0, 0),  // the first segment has its start
+                          IsAt(4, 0, 0), IsAt(4, 3, 0),  // no last point
+                          IsAt(0, 3, 0), IsAt(0, 0, 0),  // reversed, so no first point
+                          IsAt(8, 8, 0)));               // no start
 }
 
 TYPED_TEST(FlattenedCurve, OfACompositeInSpaceIsEmpty) {
@@ -234,7 +234,7 @@ TYPED_TEST(FlattenedCurve, OfACompositeInSpaceIsEmpty) {
   EXPECT_THAT(this->Flatten(this->Composite({segment})), IsEmpty());
 }
 
-TYPED_TEST(FlattenedCurve, OfACompositeLeavesOutWhatItDoesNotKnow) {
+TYPED_TEST(FlattenedCurve, OfACompositeSkipsUnknownSegments) {
   auto& m = this->model;
   const auto known = this->Segment(m.PolyLine({{0, 0}, {1, 0}, {1, 1}}));
   const auto circle = this->Segment(this->Circle({0, 0}, 1));
@@ -242,7 +242,7 @@ TYPED_TEST(FlattenedCurve, OfACompositeLeavesOutWhatItDoesNotKnow) {
               ElementsAre(IsAt(0, 0, 0), IsAt(1, 0, 0)));
 }
 
-TYPED_TEST(FlattenedCurve, OfPointsThatAreNoNumbersEnds) {
+TYPED_TEST(FlattenedCurve, OfPointsThatAreNotFiniteEnds) {
   auto& m = this->model;
   const auto circle = this->Circle({0, 0}, 1);
   const auto distant = m.Add("IFCCARTESIANPOINT((1.E999,1.E999))");

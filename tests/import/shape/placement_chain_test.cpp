@@ -24,7 +24,7 @@ PlacementChain AnyChain(std::mt19937& random) {
   return chain;
 }
 
-TEST(PlacementChain, ActsOnABoundaryAsOneFrameAfterTheOther) {
+TEST(PlacementChain, TransformsABoundaryByOneTransformAfterTheOther) {
   std::mt19937 random(1);
   for (int round = 0; round < 100; ++round) {
     const PlacementChain chain = AnyChain(random);
@@ -52,7 +52,7 @@ TEST(PlacementChain, TurnsAVectorWithoutMovingIt) {
   EXPECT_NEAR(vector.z, 0, 1e-12);
 }
 
-TEST(PlacementChain, LeavesAllAsItIsIfItIsEmpty) {
+TEST(PlacementChain, ChangesNothingIfItIsEmpty) {
   Point3 point(1, 2, 3);
   Mvector<Point3> points;
   points.push_back(point);

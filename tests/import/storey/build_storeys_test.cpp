@@ -36,7 +36,7 @@ class BuiltStoreys : public HostTest {
   ComPtr<IGeoStoreys> storeys;
 };
 
-TEST_F(BuiltStoreys, OfNoFactsAreNone) {
+TEST_F(BuiltStoreys, AreNoneWithoutFacts) {
   EXPECT_EQ(Build({}), S_OK);
   EXPECT_EQ(CountOf(*storeys), 0);
 }
@@ -70,14 +70,14 @@ TEST_F(BuiltStoreys, ShareTheLowestNumberBelowSixteenBits) {
   EXPECT_EQ(At(32769).number, -1);
 }
 
-TEST_F(BuiltStoreys, StayWhereALaterOneCannotBeMade) {
+TEST_F(BuiltStoreys, RemainIfALaterOneCannotBeCreated) {
   const FailingClass failing(CLSID_CoGeoStorey, 2, E_OUTOFMEMORY);
   EXPECT_EQ(Build(FactsAt({0.0, 3.0, 6.0})), E_OUTOFMEMORY);
   EXPECT_EQ(CountOf(*storeys), 2);
   EXPECT_EQ(At(1).height, 3.0);
 }
 
-TEST_F(BuiltStoreys, AreNoneWithoutTheirClassObject) {
+TEST_F(BuiltStoreys, AreNoneIfTheirClassIsMissing) {
   const MissingClass missing(CLSID_CoGeoStorey);
   EXPECT_EQ(Build(FactsAt({0.0})), E_NOINTERFACE);
   EXPECT_EQ(CountOf(*storeys), 0);

@@ -11,7 +11,7 @@
 namespace KelIFC {
 namespace {
 
-/// A storey as a host sees it.
+/// A storey as hosts read it.
 struct Seen {
   int number;
   double level;
@@ -41,7 +41,8 @@ std::vector<Seen> ReadStoreys(const ComPtr<IIFCServer>& server) {
 
 std::string Number(int number) { return "#" + std::to_string(number); }
 
-/// A storey with the instance number `n`, placed at z; n + 1 to n + 3 are its placement.
+/// Returns the text of a storey with the number `n`. Its placement, whose z is `z`, has the numbers
+/// n + 1 to n + 3.
 std::string StoreyAt(int n, const std::string& z, const std::string& name = "'EG'",
                      const std::string& elevation = "0.") {
   return Number(n) + "=IFCBUILDINGSTOREY('3VvSUbOOfKXvqnv$9xajtg',$," + name + ",$,$," +
@@ -51,7 +52,7 @@ std::string StoreyAt(int n, const std::string& z, const std::string& name = "'EG
          "=IFCCARTESIANPOINT((7.,8.," + z + "));\n";
 }
 
-/// A storey whose placement is what `placement` names, beside other instances.
+/// Returns the text of storey #1, whose placement is the reference `placement`, and of `others`.
 std::string StoreyWith(const std::string& placement, const std::string& others = "") {
   return "#1=IFCBUILDINGSTOREY('3VvSUbOOfKXvqnv$9xajtg',$,'EG',$,$," + placement +
          ",$,$,.ELEMENT.,1.);\n" + others;
@@ -60,7 +61,7 @@ std::string StoreyWith(const std::string& placement, const std::string& others =
 template <class Release>
 class Storeys : public ReleaseTest<Release> {
  protected:
-  /// The level of the one storey.
+  /// Returns the level of the only storey.
   static double LevelOf(const std::string& data) {
     const auto storeys = ReadStoreys(ReleaseTest<Release>::Load(data));
     EXPECT_EQ(storeys.size(), 1U);
@@ -69,12 +70,12 @@ class Storeys : public ReleaseTest<Release> {
 };
 TYPED_TEST_SUITE(Storeys, ConvertedReleases);
 
-TYPED_TEST(Storeys, OfAModelWithoutAnyAreNone) {
+TYPED_TEST(Storeys, AreNoneInAModelWithoutStoreys) {
   EXPECT_TRUE(ReadStoreys(this->Load("#1=IFCCARTESIANPOINT((0.,0.,0.));\n")).empty());
   EXPECT_TRUE(ReadStoreys(this->Load("")).empty());
 }
 
-TYPED_TEST(Storeys, ThatStandAloneHaveTheirElevationForHeight) {
+TYPED_TEST(Storeys, HaveTheirElevationAsHeightIfThereIsOnlyOne) {
   EXPECT_EQ(ReadStoreys(this->Load(StoreyAt(1, "3.", "'EG'", "2.5"))),
             (std::vector<Seen>{{0, 3.0, 2.5, L"EG"}}));
 }
@@ -134,7 +135,7 @@ TYPED_TEST(Storeys, WithoutAPlacementStandAtZero) {
   EXPECT_EQ(storeys[1], (Seen{0, 0.0, 1.0, L"EG"}));
 }
 
-TYPED_TEST(Storeys, WithAPlacementThatDoesNotHoldTogetherStandAtZero) {
+TYPED_TEST(Storeys, WithABrokenPlacementStandAtZero) {
   EXPECT_EQ(this->LevelOf(StoreyWith("#9")), 0.0) << "no such instance";
   EXPECT_EQ(this->LevelOf(StoreyWith("#2", "#2=IFCCARTESIANPOINT((1.,2.,3.));\n")), 0.0)
       << "another class";
@@ -188,7 +189,7 @@ TYPED_TEST(Storeys, KeepTheUnitOfTheFile) {
             3000.0);
 }
 
-TYPED_TEST(Storeys, WithoutANameAreCalledAfterTheirNumber) {
+TYPED_TEST(Storeys, WithoutANameAreNamedAfterTheirNumber) {
   for (const char* name : {"$", "''"}) {
     const auto storeys = ReadStoreys(this->Load(StoreyAt(123, "0.", name)));
     ASSERT_EQ(storeys.size(), 1U);
@@ -202,7 +203,7 @@ TYPED_TEST(Storeys, HaveTheirNamesByteForByte) {
   EXPECT_EQ(storeys.front().name, L"Erdgescho\u00DF \u00FC");
 }
 
-TYPED_TEST(Storeys, HoldTheIdentifiersOfTheirInstances) {
+TYPED_TEST(Storeys, HaveTheIdentifiersOfTheirInstances) {
   const auto server = this->Load(StoreyAt(1, "0."));
   ReadStoreys(server);
   const auto structure = GetObject(*server, &IIFCServer::get_Structure);
@@ -215,7 +216,7 @@ TYPED_TEST(Storeys, HoldTheIdentifiersOfTheirInstances) {
   EXPECT_EQ(model.GetItem(guid), model.GetItem(std::size_t{1}));
 }
 
-TYPED_TEST(Storeys, WithLevelsThatAreNoNumbersComeLast) {
+TYPED_TEST(Storeys, WithLevelsThatAreNotNumbersComeLast) {
   const auto storeys = ReadStoreys(this->Load(
       StoreyAt(10, "nan", "'a'") + StoreyAt(20, "1.", "'b'") + StoreyAt(30, "nan", "'c'") +
       StoreyAt(40, "-1.", "'d'") + StoreyAt(50, "inf", "'e'") + StoreyAt(60, "-inf", "'f'")));
@@ -227,7 +228,7 @@ TYPED_TEST(Storeys, WithLevelsThatAreNoNumbersComeLast) {
   EXPECT_EQ(storeys[5].number, 3);
 }
 
-TYPED_TEST(Storeys, OfSlotsThatWereDeletedAreLeftOut) {
+TYPED_TEST(Storeys, ThatWereDeletedAreLeftOut) {
   const auto server = this->Load(StoreyAt(10, "0.", "'a'") + StoreyAt(20, "3.", "'b'"));
   IfcServer& model = static_cast<CoIFCServer&>(*server).Model();
   model.DeleteItem(model.GetItem(std::size_t{10}));

@@ -11,12 +11,12 @@ using testing::IsEmpty;
 template <class Release>
 class Walls : public ConversionTest<Release> {
  protected:
-  /// Adds a wall with these items, not placed.
+  /// Adds a wall with these items, without a placement.
   ModelBuilder::Ref AddWall(ModelBuilder::Refs items, const std::string& name = "A") {
     return this->model.Wall("$", this->model.Body(items), name);
   }
 
-  /// The points of the only wall.
+  /// Converts the model and returns the points of the only wall.
   std::vector<Coordinates> PointsOfWall() {
     const auto walls = this->GetWalls();
     return walls.size() == 1 ? PointsOf(*walls[0]) : std::vector<Coordinates>();
@@ -24,7 +24,7 @@ class Walls : public ConversionTest<Release> {
 };
 TYPED_TEST_SUITE(Walls, ConvertedReleases);
 
-TYPED_TEST(Walls, AreTheDiagonalOfTheirAxisPlane) {
+TYPED_TEST(Walls, AreTheDiagonalOfTheirMiddlePlane) {
   auto& m = this->model;
   const auto placement = m.Local(m.Turned({10, 0, 0}, {0, 1, 0}));
   m.Wall(placement, m.Body({m.Extrusion(m.Rectangle(5, 0.2), 3)}));
@@ -52,7 +52,7 @@ TYPED_TEST(Walls, RiseAlongZWhateverTheDirectionOfTheirExtrusion) {
   EXPECT_THAT(this->PointsOfWall(), ElementsAre(IsAt(-2.5, 0, 1), IsAt(2.5, 0, 4)));
 }
 
-TYPED_TEST(Walls, TakeTheBoxOfTheirOutline) {
+TYPED_TEST(Walls, HaveTheBoundingBoxOfTheirOutline) {
   auto& m = this->model;
   const auto line = m.PolyLine({{1, 1}, {4, 1}, {4.2, 1.3}, {1.1, 1.3}, {1, 1}});
   this->AddWall({m.Extrusion(m.Outline(line), 3)});
@@ -97,7 +97,7 @@ TYPED_TEST(Walls, OfAnEmptyOutlineHaveNoLength) {
   EXPECT_THAT(this->PointsOfWall(), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 3)));
 }
 
-TYPED_TEST(Walls, ComeFromTheirBodyAlone) {
+TYPED_TEST(Walls, AreReadFromTheirBodyOnly) {
   auto& m = this->model;
   const auto solid = m.Extrusion(m.Rectangle(5, 0.2), 3);
   m.Wall("$", m.Shape({m.Representation({solid}, "Axis")}), "axis");
@@ -109,7 +109,7 @@ TYPED_TEST(Walls, ComeFromTheirBodyAlone) {
   EXPECT_THAT(this->NamesOf(this->GetWalls()), ElementsAre(L"both"));
 }
 
-TYPED_TEST(Walls, OfClippingsAreLeftOutThoughColumnsAreNot) {
+TYPED_TEST(Walls, ThatAreClippedAreLeftOutUnlikeColumns) {
   auto& m = this->model;
   const auto clipping = m.Clipping(m.Extrusion(m.Rectangle(5, 0.2), 3));
   this->AddWall({clipping});
@@ -136,7 +136,7 @@ TYPED_TEST(Walls, OfASubclassAreWalls) {
   EXPECT_THAT(this->NamesOf(this->GetWalls()), ElementsAre(L"standard"));
 }
 
-TYPED_TEST(Walls, WithoutANameAreCalledAfterTheirNumber) {
+TYPED_TEST(Walls, WithoutANameAreNamedAfterTheirNumber) {
   auto& m = this->model;
   const auto body = m.Body({m.Extrusion(m.Rectangle(5, 0.2), 3)});
   m.AddAs(57, ModelBuilder::ProductText("IFCWALL", "$", body, ""));
@@ -144,7 +144,7 @@ TYPED_TEST(Walls, WithoutANameAreCalledAfterTheirNumber) {
   EXPECT_THAT(this->NamesOf(this->GetWalls()), ElementsAre(L"IFC#57"));
 }
 
-TYPED_TEST(Walls, StandAtTheOriginWithoutARectanglesPosition) {
+TYPED_TEST(Walls, StandAtTheOriginIfTheRectangleHasNoPosition) {
   auto& m = this->model;
   this->AddWall({m.Extrusion(m.Rectangle(5, 0.2, "$"), 3)});
   this->Convert();
