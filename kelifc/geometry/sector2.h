@@ -4,11 +4,12 @@
 #include <cstdint>
 
 #include "kelifc/geometry/point.h"
+#include "kelifc/platform/export.h"
 
 namespace KelIFC {
 
 /// A piece of a line of the plane, with the line's equation a * x + b * y + c = 0.
-struct Sector2 {
+struct KELIFC_API Sector2 {
   double a = 0.0;
   double b = 0.0;
   double c = 0.0;
