@@ -22,8 +22,8 @@ struct KELIFC_API Line3 {
   std::int8_t unusedFlag = 0;
   double tolerance;  ///< a shorter direction makes no line; negative stands for 1e-10
 
-  Line3(const Point3& origin, const Vector3& direction, double tolerance)
-      : direction(direction), origin(origin), tolerance(tolerance) {}
+  Line3(const Point3& through, const Vector3& along, double shortest)
+      : direction(along), origin(through), tolerance(shortest) {}
 
   bool IsValid();
 

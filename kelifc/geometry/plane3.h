@@ -19,7 +19,7 @@ struct KELIFC_API Plane3 {
   std::int8_t state = 0;  ///< 0 not yet tested, 1 valid, -1 degenerate
 
   Plane3() = default;
-  Plane3(const Vector3& normal, double offset) : normal(normal), offset(offset) {}
+  Plane3(const Vector3& across, double constant) : normal(across), offset(constant) {}
 
   bool IsValid();
 

@@ -21,7 +21,7 @@ struct KELIFC_API Sector2 {
   Point2 end;
 
   Sector2() = default;
-  Sector2(const Point2& start, const Point2& end) : start(start), end(end) { Update(); }
+  Sector2(const Point2& from, const Point2& to) : start(from), end(to) { Update(); }
 
   void SetStart(const Point2& point);
   void SetEnd(const Point2& point);
