@@ -16,6 +16,7 @@ set(kelifc_public_headers
   kelifc/core/enum.h
   kelifc/core/enum_text.h
   kelifc/core/exception.h
+  kelifc/core/global_id.h
   kelifc/core/integer.h
   kelifc/core/invalid_parameter.h
   kelifc/core/length_measure.h
@@ -35,6 +36,7 @@ set(kelifc_public_headers
   kelifc/core/unit_assignment.h
   kelifc/core/unknown.h
   kelifc/core/value.h
+  kelifc/core/value_member.h
   kelifc/geometry/brep.h
   kelifc/geometry/constants.h
   kelifc/geometry/isometry3.h

@@ -2,7 +2,7 @@
 
 #include <charconv>
 
-#include "kelifc/core/text/global_id.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {

@@ -12,9 +12,9 @@
 #include "kelifc/core/lists/value_lists.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/real.h"
-#include "kelifc/core/references/value_member.h"
 #include "kelifc/core/string.h"
 #include "kelifc/core/unknown.h"
+#include "kelifc/core/value_member.h"
 
 // How the record of an entity is read and written: as a row of parts. A part is an attribute, or
 // one of the classes below for a position that is not simply an attribute.

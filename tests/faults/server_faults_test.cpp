@@ -9,7 +9,7 @@
 #include <string>
 
 #include "kelifc/core/cartesian_point.h"
-#include "kelifc/core/text/global_id.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/server/ifc_server.h"
 
 #include "tests/faults/failing_allocation.h"

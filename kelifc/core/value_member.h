@@ -1,5 +1,5 @@
-#ifndef KELIFC_CORE_REFERENCES_VALUE_MEMBER_H_
-#define KELIFC_CORE_REFERENCES_VALUE_MEMBER_H_
+#ifndef KELIFC_CORE_VALUE_MEMBER_H_
+#define KELIFC_CORE_VALUE_MEMBER_H_
 
 #include <iosfwd>
 
@@ -22,4 +22,4 @@ KELIFC_API std::ostream& WriteValueMember(std::ostream& out, const MEMBER& membe
 
 }  // namespace KelIFC
 
-#endif  // KELIFC_CORE_REFERENCES_VALUE_MEMBER_H_
+#endif  // KELIFC_CORE_VALUE_MEMBER_H_

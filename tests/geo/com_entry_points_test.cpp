@@ -1,4 +1,4 @@
-#include "kelifc/geo/module.h"
+#include "kelifc/platform/com_entry_points.h"
 
 #include <gtest/gtest.h>
 
@@ -7,9 +7,9 @@
 namespace KelIFC {
 namespace {
 
-class ModuleDoors : public HostTest {};
+class EntryPoints : public HostTest {};
 
-TEST_F(ModuleDoors, GiveClassObjects) {
+TEST_F(EntryPoints, ReturnClassObjects) {
   ComPtr<IClassFactory> factory;
   ASSERT_EQ(DllGetClassObject(CLSID_CoIFCServer, IidOf<IClassFactory>(),
                               reinterpret_cast<void**>(factory.Put())),
@@ -20,14 +20,14 @@ TEST_F(ModuleDoors, GiveClassObjects) {
       S_OK);
 }
 
-TEST_F(ModuleDoors, KnowNoOtherClasses) {
+TEST_F(EntryPoints, RefuseUnknownClasses) {
   void* out = &out;
   EXPECT_EQ(DllGetClassObject(CLSID{}, IidOf<IClassFactory>(), &out), CLASS_E_CLASSNOTAVAILABLE);
   EXPECT_EQ(out, nullptr);
   EXPECT_EQ(DllGetClassObject(CLSID_CoIFCServer, IidOf<IClassFactory>(), nullptr), E_POINTER);
 }
 
-TEST_F(ModuleDoors, TellWhetherTheLibraryIsInUse) {
+TEST_F(EntryPoints, ReportWhetherTheLibraryIsInUse) {
   EXPECT_EQ(DllCanUnloadNow(), S_OK);
   auto storey = Create<IGeoStorey>(CLSID_CoGeoStorey);
   EXPECT_EQ(DllCanUnloadNow(), S_FALSE);

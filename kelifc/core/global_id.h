@@ -1,5 +1,5 @@
-#ifndef KELIFC_CORE_TEXT_GLOBAL_ID_H_
-#define KELIFC_CORE_TEXT_GLOBAL_ID_H_
+#ifndef KELIFC_CORE_GLOBAL_ID_H_
+#define KELIFC_CORE_GLOBAL_ID_H_
 
 #include "kelifc/platform/export.h"
 #include "kelifc/platform/guid.h"
@@ -25,4 +25,4 @@ KELIFC_API bool DecodeBase85(const char* text, _GUID& guid);
 
 }  // namespace KelIFC
 
-#endif  // KELIFC_CORE_TEXT_GLOBAL_ID_H_
+#endif  // KELIFC_CORE_GLOBAL_ID_H_

@@ -1,4 +1,4 @@
-#include "kelifc/core/references/value_member.h"
+#include "kelifc/core/value_member.h"
 
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/references/model.h"

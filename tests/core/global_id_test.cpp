@@ -1,4 +1,4 @@
-#include "kelifc/core/text/global_id.h"
+#include "kelifc/core/global_id.h"
 
 #include <gtest/gtest.h>
 
