@@ -5,7 +5,6 @@
 
 #include "kelifc/core/cursor.h"
 #include "kelifc/core/number_text.h"
-#include "kelifc/core/parameter_value.h"
 #include "kelifc/core/parenthesised.h"
 #include "kelifc/core/position_index.h"
 #include "kelifc/core/value.h"
@@ -33,12 +32,6 @@ const char* ReadNumbers(const Parenthesised& inner, IfcUnknown* owner, Items& it
   return nullptr;
 }
 
-// True for a value that looks no further than its own text.
-bool IsTypedValue(const IfcUnknown* value) {
-  return dynamic_cast<const IfcValue*>(value) != nullptr ||
-         dynamic_cast<const IfcParameterValue*>(value) != nullptr;
-}
-
 // Reads elements of every kind from a text of their own, whose end bounds them. An element that
 // does not move the cursor ends the list.
 template <class Items>
@@ -50,6 +43,7 @@ void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
     MEMBER element(owner);
     const char* next = element.Parse(cursor);
     const IfcUnknown* value = element.GetInlineValue();
+    // A typed value looks no further than its own text.
     if (value != nullptr && !IsTypedValue(value)) {
       const auto rest = static_cast<std::size_t>(text.c_str() + text.size() - cursor);
       if (++entities > kMaximumEntitiesInList || rest > allowance) return;
