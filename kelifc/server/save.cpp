@@ -38,7 +38,7 @@ void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view 
          "FILE_DESCRIPTION(('Merrow generated IFC file.'),'2;1');\n"
          "FILE_NAME('"
       << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'" << kWriterName
-      << "','','','');\n"
+      << "','','');\n"
          "FILE_SCHEMA(('"
       << schema
       << "'));\n"

@@ -33,12 +33,6 @@ const char* ReadNumbers(const detail::Parenthesised& inner, IfcUnknown* owner, I
   return nullptr;
 }
 
-// True for a value that looks no further than its own text.
-bool IsTypedValue(const IfcUnknown* value) {
-  return dynamic_cast<const IfcValue*>(value) != nullptr ||
-         dynamic_cast<const IfcParameterValue*>(value) != nullptr;
-}
-
 // Reads elements of every kind from a text of their own, whose end bounds them. An element that
 // does not move the cursor ends the list.
 template <class Items>
@@ -50,6 +44,7 @@ void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
     MEMBER element(owner);
     const char* next = element.Parse(cursor);
     const IfcUnknown* value = element.GetInlineValue();
+    // A typed value looks no further than its own text.
     if (value != nullptr && !IsTypedValue(value)) {
       const auto rest = static_cast<std::size_t>(text.c_str() + text.size() - cursor);
       if (++entities > kMaximumEntitiesInList || rest > allowance) return;
