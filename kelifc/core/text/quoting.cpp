@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/hex.h"
 
 namespace KelIFC {
 
@@ -10,14 +11,6 @@ using detail::PutChar;
 using detail::PutText;
 
 namespace {
-
-// The value of a hexadecimal digit, -1 for any other character.
-int HexDigit(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
 
 // Reads the two characters behind `\X\`. Gives the position behind them, or null if the text ends.
 const char* DecodeByte(const char* text, std::string& out) {
