@@ -8,8 +8,8 @@
 #include "tools/kelifc/structure_format.h"
 #include "tools/kelifc/structure_reader.h"
 
-// A file of any bytes is converted, and all of the structure is read through its interfaces. An
-// operation that fails there throws, which ends the process: none may.
+// Converts a file of arbitrary bytes and reads the whole structure through its interfaces. No
+// operation may fail: a failure throws, which ends the process.
 
 namespace {
 

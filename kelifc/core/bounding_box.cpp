@@ -20,7 +20,7 @@ std::ostream& IfcBoundingBox::Write(std::ostream& out) const {
   IfcUnknown::Write(out);
   corner.Write(out);
   for (const IfcLengthMeasure* measure : {&xDim, &yDim, &zDim}) {
-    PutChar(out, ',');
+    detail::PutChar(out, ',');
     measure->Write(out);
   }
   return out;

@@ -14,7 +14,7 @@ std::ostream& IfcLengthMeasure::Write(std::ostream& out) const { return REAL::Wr
 std::ostream& IfcLengthMeasure::WriteWithName(std::ostream& out) const {
   IfcUnknown::Write(out);
   REAL::Write(out);
-  PutChar(out, ')');
+  detail::PutChar(out, ')');
   return out;
 }
 

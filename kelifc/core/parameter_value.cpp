@@ -15,7 +15,7 @@ const char* IfcParameterValue::Parse(const char* text) {
 std::ostream& IfcParameterValue::Write(std::ostream& out) const {
   IfcUnknown::Write(out);
   REAL::Write(out);
-  PutChar(out, ')');
+  detail::PutChar(out, ')');
   return out;
 }
 

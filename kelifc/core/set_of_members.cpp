@@ -13,7 +13,7 @@ SET_OF_MEMBERS& SET_OF_MEMBERS::operator=(const std::vector<IfcUnknown*>& /*item
 const char* SET_OF_MEMBERS::Parse(const char* text) {
   Clear();
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   return ParseMembers(text, owner, items);
 }
 

@@ -6,11 +6,12 @@
 #include "kelifc/core/mvector.h"
 #include "kelifc/geometry/constants.h"
 #include "kelifc/geometry/point.h"
+#include "kelifc/platform/export.h"
 
 namespace KelIFC {
 
 /// A rigid transform: a frame and where its origin lies. A new one is the identity.
-struct Isometry3 {
+struct KELIFC_API Isometry3 {
   Vector3 xAxis = AxisX;
   Vector3 yAxis = AxisY;
   Vector3 zAxis = AxisZ;

@@ -5,12 +5,13 @@
 
 #include "kelifc/geometry/line3.h"
 #include "kelifc/geometry/point.h"
+#include "kelifc/platform/export.h"
 
 namespace KelIFC {
 
 /// A plane: all points X with normal * X + offset = 0. Whether it is one is tested once and kept,
 /// so a plane that was asked must not be changed.
-struct Plane3 {
+struct KELIFC_API Plane3 {
   Vector3 normal;  ///< of any length
   double offset = 0.0;
   double squaredNorm = 0.0;  ///< of the normal, once the plane was tested
@@ -18,7 +19,7 @@ struct Plane3 {
   std::int8_t state = 0;  ///< 0 not yet tested, 1 valid, -1 degenerate
 
   Plane3() = default;
-  Plane3(const Vector3& normal, double offset) : normal(normal), offset(offset) {}
+  Plane3(const Vector3& across, double constant) : normal(across), offset(constant) {}
 
   bool IsValid();
 

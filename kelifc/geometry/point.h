@@ -13,7 +13,7 @@ struct Vector2 {
   double y = 0.0;
 
   constexpr Vector2() = default;
-  constexpr Vector2(double x, double y) : x(x), y(y) {}
+  constexpr Vector2(double vx, double vy) : x(vx), y(vy) {}
 };
 
 /// A point of the plane.
@@ -22,7 +22,7 @@ struct Point2 {
   double y = 0.0;
 
   constexpr Point2() = default;
-  constexpr Point2(double x, double y) : x(x), y(y) {}
+  constexpr Point2(double px, double py) : x(px), y(py) {}
 };
 
 /// A displacement in space.
@@ -32,7 +32,7 @@ struct Vector3 {
   double z = 0.0;
 
   constexpr Vector3() = default;
-  constexpr Vector3(double x, double y, double z) : x(x), y(y), z(z) {}
+  constexpr Vector3(double vx, double vy, double vz) : x(vx), y(vy), z(vz) {}
 };
 
 /// A point of space.
@@ -42,7 +42,7 @@ struct Point3 {
   double z = 0.0;
 
   constexpr Point3() = default;
-  constexpr Point3(double x, double y, double z) : x(x), y(y), z(z) {}
+  constexpr Point3(double px, double py, double pz) : x(px), y(py), z(pz) {}
 };
 
 constexpr Vector2 operator-(const Point2& a, const Point2& b) { return {a.x - b.x, a.y - b.y}; }

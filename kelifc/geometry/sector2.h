@@ -4,11 +4,12 @@
 #include <cstdint>
 
 #include "kelifc/geometry/point.h"
+#include "kelifc/platform/export.h"
 
 namespace KelIFC {
 
 /// A piece of a line of the plane, with the line's equation a * x + b * y + c = 0.
-struct Sector2 {
+struct KELIFC_API Sector2 {
   double a = 0.0;
   double b = 0.0;
   double c = 0.0;
@@ -20,7 +21,7 @@ struct Sector2 {
   Point2 end;
 
   Sector2() = default;
-  Sector2(const Point2& start, const Point2& end) : start(start), end(end) { Update(); }
+  Sector2(const Point2& from, const Point2& to) : start(from), end(to) { Update(); }
 
   void SetStart(const Point2& point);
   void SetEnd(const Point2& point);

@@ -5,6 +5,7 @@
 // Model, automation strings, variants, the error object, the making of objects, a smart pointer.
 
 #include "kelifc/platform/com_bstr.h"
+#include "kelifc/platform/com_entry_points.h"
 #include "kelifc/platform/com_error.h"
 #include "kelifc/platform/com_factory.h"
 #include "kelifc/platform/com_guid.h"

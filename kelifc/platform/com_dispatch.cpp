@@ -110,6 +110,7 @@ HRESULT FindNames(std::span<const Face> faces, OLECHAR** names, UINT count, DISP
 
 HRESULT InvokeFace(std::span<const Face> faces, DISPID id, WORD flags, DISPPARAMS* arguments,
                    VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
+  VARIANT unused = {};  // a property get needs a place for its value even if nobody wants it
   HRESULT status = DISP_E_MEMBERNOTFOUND;
   for (const Face& face : faces) {
     ITypeInfo* info = nullptr;
@@ -117,9 +118,11 @@ HRESULT InvokeFace(std::span<const Face> faces, DISPID id, WORD flags, DISPPARAM
     if (FAILED(status)) return status;
     if (arguments == nullptr) return E_POINTER;
     SetErrorInfo(0, nullptr);  // what an earlier call reported is not told of this one
-    status = DispInvoke(face.object, info, id, flags, arguments, result, exception, badArgument);
-    if (status != DISP_E_MEMBERNOTFOUND) return status;
+    status = DispInvoke(face.object, info, id, LookupFlags(flags), arguments,
+                        result == nullptr ? &unused : result, exception, badArgument);
+    if (status != DISP_E_MEMBERNOTFOUND) break;
   }
+  VariantClear(&unused);
   return status;
 }
 

@@ -30,8 +30,17 @@ HRESULT GiveTypeInfo(const Face& face, UINT index, ITypeInfo** out);
 /// DISP_E_UNKNOWNNAME if none has.
 HRESULT FindNames(std::span<const Face> faces, OLECHAR** names, UINT count, DISPID* ids);
 
-/// Calls the operation of an identifier in the interface that has it; DISP_E_MEMBERNOTFOUND if none
-/// has.
+/// Returns the flags by which an operation is looked up. A script engine that does not use a result
+/// asks for a method even where it reads a property, and some engines always do for `_NewEnum`. So
+/// a call of a method finds a property too. Flags that set a property stay as they are.
+constexpr WORD LookupFlags(WORD flags) {
+  const bool isPut = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+  const bool isMethod = (flags & DISPATCH_METHOD) != 0;
+  return static_cast<WORD>(isMethod && !isPut ? flags | DISPATCH_PROPERTYGET : flags);
+}
+
+/// Calls the operation of an identifier in the first interface that has it, with LookupFlags of
+/// `flags`. Returns DISP_E_MEMBERNOTFOUND if none has. `result` may be null.
 HRESULT InvokeFace(std::span<const Face> faces, DISPID id, WORD flags, DISPPARAMS* arguments,
                    VARIANT* result, EXCEPINFO* exception, UINT* badArgument);
 

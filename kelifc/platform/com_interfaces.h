@@ -35,6 +35,12 @@ struct KELIFC_API IUnknown {
   ~IUnknown() = default;
 };
 
+// What a caller of Invoke asks for, as bits of its flags.
+inline constexpr WORD DISPATCH_METHOD = 1;
+inline constexpr WORD DISPATCH_PROPERTYGET = 2;
+inline constexpr WORD DISPATCH_PROPERTYPUT = 4;
+inline constexpr WORD DISPATCH_PROPERTYPUTREF = 8;
+
 /// The root of all interfaces that a script host can use by name.
 struct KELIFC_API IDispatch : IUnknown {
   static constexpr IID kIid = {

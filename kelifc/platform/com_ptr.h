@@ -12,7 +12,7 @@ template <class Interface>
 class ComPtr {
  public:
   ComPtr() = default;
-  explicit ComPtr(Interface* object) : object(object) { Hold(); }
+  explicit ComPtr(Interface* counted) : object(counted) { Hold(); }
   ComPtr(const ComPtr& other) : object(other.object) { Hold(); }
   ComPtr(ComPtr&& other) noexcept : object(std::exchange(other.object, nullptr)) {}
   ~ComPtr() { Reset(); }

@@ -12,9 +12,9 @@
 
 #include "kelifc/core/bounding_box.h"
 #include "kelifc/core/cartesian_point.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/core/parameter_value.h"
 #include "kelifc/core/selects.h"
-#include "kelifc/core/text/global_id.h"
 #include "kelifc/core/unit_assignment.h"
 #include "kelifc/schema/record.h"
 #include "kelifc/schema/references.h"

@@ -53,6 +53,23 @@ void AddMember(Members& members, const Type* item, const IfcUnknown& owner) {
   if (number != 0) members.Add(MEMBER(number));
 }
 
+/// Adds an instance that a host passes to an operation of `owner`. MEMBER::Embed decides who owns
+/// the instance afterwards. Nothing is added for null, and for an instance that `members` own
+/// already. A set holds one inline value only: a second one is destroyed, or given back to the
+/// model that holds it.
+template <class Members>
+void EmbedMember(Members& members, IfcUnknown* item, IfcUnknown& owner) {
+  if (item == nullptr) return;
+  for (std::size_t i = 1; i <= members.GetSize(); ++i) {
+    if (members.GetItem(i).GetInlineValue() == item) return;
+  }
+  MEMBER member;
+  member.Embed(item, owner);
+  // A number needs no owner, and the aggregate can outlive this one as part of a copy.
+  const auto number = static_cast<std::size_t>(member);
+  members.Add(number == 0 ? member : MEMBER(number));
+}
+
 /// Replaces the members by references to `items`, leaving out what the model does not hold.
 template <class Members, class Items>
 void ReplaceMembers(Members& members, const Items& items, const IfcUnknown& owner) {

@@ -1,6 +1,6 @@
 #include <string>
 
-#include "kelifc/core/text/global_id.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/platform/new_guid.h"
 #include "kelifc/server/ifc_server.h"
 

@@ -134,7 +134,7 @@ void IfcServer::FillSlot(std::size_t id, IfcUnknown* item) {
   if (item != nullptr && IsProduct(item)) productPositions.push_back(position);
   if (instanceIndex.IsBuilt()) {
     const std::uint32_t earlier = idToIndex.Find(id);
-    if (earlier != NumberIndex::kNone) instanceIndex.DropNumber(earlier);
+    if (earlier != detail::NumberIndex::kNone) instanceIndex.DropNumber(earlier);
     instanceIndex.Append(items.data(), id);
   }
   idToIndex.Set(id, position);
@@ -149,13 +149,13 @@ std::size_t IfcServer::Find(const IfcUnknown* item) const {
   if (item != nullptr && item == load.parsed && !mayRepeat) return load.parsedNumber;
   BuildInstanceIndex();
   const std::uint32_t position = instanceIndex.FindPosition(items.data(), item);
-  return position == InstanceIndex::kNone ? 0 : instanceIndex.GetNumber(position);
+  return position == detail::InstanceIndex::kNone ? 0 : instanceIndex.GetNumber(position);
 }
 
 std::size_t IfcServer::DeleteItem(const IfcUnknown* item) {
   BuildInstanceIndex();
   const std::uint32_t first = instanceIndex.FindPosition(items.data(), item);
-  if (first == InstanceIndex::kNone) return 0;
+  if (first == detail::InstanceIndex::kNone) return 0;
   const std::size_t number = instanceIndex.GetNumber(first);
   IfcUnknown* const doomed = items[first];
   if (doomed == load.parsed) load.parsed = nullptr;
@@ -170,7 +170,7 @@ std::size_t IfcServer::DeleteItem(const IfcUnknown* item) {
 
 IfcUnknown* IfcServer::GetItem(std::size_t id) {
   const std::uint32_t position = idToIndex.Find(id);
-  return position == NumberIndex::kNone ? nullptr : items[position];
+  return position == detail::NumberIndex::kNone ? nullptr : items[position];
 }
 
 // Hosts know this overload as one that finds nothing; what needs an instance asks the other.

@@ -314,7 +314,7 @@ class KELIFC_API IfcServer {
   int TellError(const std::string& message) const;  // gives the code of a failed save
 
   Mvector<IfcUnknown*> items;  // owned; null where deleted
-  NumberIndex idToIndex;
+  detail::NumberIndex idToIndex;
   IFC_RELEASE release = IFC_RELEASE_NONE;
   double eps = 0.001;
   bool supportsFillings = false;
@@ -325,7 +325,7 @@ class KELIFC_API IfcServer {
   using GuidIndex = std::map<_GUID, std::uint32_t, GuidLess>;
   GuidIndex guidIndex;
 
-  mutable InstanceIndex instanceIndex;
+  mutable detail::InstanceIndex instanceIndex;
   bool mayRepeat = false;            // an instance may stand in two slots
   std::size_t slotsWithoutGuid = 0;  // so many slots were seen to hold no global identifier
   std::string fileSchema;

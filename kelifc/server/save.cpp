@@ -40,7 +40,7 @@ void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view 
          "FILE_DESCRIPTION(('Merrow generated IFC file.'),'2;1');\n"
          "FILE_NAME('"
       << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'" << kWriterName
-      << "','','','');\n"
+      << "','','');\n"
          "FILE_SCHEMA(('"
       << schema
       << "'));\n"
@@ -69,7 +69,7 @@ int IfcServer::SaveIfcFile(const char* path) {
   std::ostream& out = file.GetStream();
   WriteHeader(out, GetHeaderText(GetFileName(path), dialect), schema);
   WriteInstances(out);
-  PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
+  detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
   if (!file.Close()) {
     const std::string reason = file.GetFailure();
     TellError(place + "the file could not be written to its end" +
@@ -91,11 +91,11 @@ void IfcServer::WriteInstances(std::ostream& out) {
   for (std::size_t count = kBatch; count == kBatch;) {
     count = 0;
     while (count < kBatch && (last = idToIndex.GetNext(last)) != 0) {
-      Prefetch(&items[idToIndex.Find(last)]);
+      detail::Prefetch(&items[idToIndex.Find(last)]);
       batch[count++] = last;
     }
     for (std::size_t i = 0; i < count; ++i) {
-      PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
+      detail::PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
     }
     for (std::size_t i = 0; i < count; ++i) {
       if (dialect == STEP_DIALECT_CLASSIC) {
@@ -112,11 +112,11 @@ void IfcServer::WriteInstances(std::ostream& out) {
 void IfcServer::WriteInstance(std::ostream& out, std::uint64_t number) {
   const IfcUnknown* instance = IfcServer::GetItem(number);
   if (instance == nullptr) return;  // an earlier one of the batch deleted it
-  PutChar(out, '#');
-  PutNumber(out, number);
-  PutChar(out, '=');
+  detail::PutChar(out, '#');
+  detail::PutNumber(out, number);
+  detail::PutChar(out, '=');
   instance->Write(out);
-  PutText(out, ");\n");
+  detail::PutText(out, ");\n");
 }
 
 int IfcServer::TellError(const std::string& message) const {

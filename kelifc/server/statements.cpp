@@ -100,13 +100,13 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
 // Makes the instance of a statement. An instance of several types has no name in the dialect of
 // ISO 10303-21.
 IfcUnknown* IfcServer::MakeStated(const char* text) {
-  const bool isComplex = IsIso() && *SkipBlanks(text) == '(';
+  const bool isComplex = IsIso() && *detail::SkipBlanks(text) == '(';
   IfcUnknown* const made = isComplex ? MakeByRelease("") : ParseClass(text, nullptr);
   return made == nullptr && load.keepsUnknown ? MakeRaw(isComplex ? "" : text) : made;
 }
 
 void IfcServer::NoteRepeat(std::size_t id) {
-  if (idToIndex.Find(id) == NumberIndex::kNone) return;
+  if (idToIndex.Find(id) == detail::NumberIndex::kNone) return;
   load.findings->Note(LoadFinding::kRepeatedNumber, load.scanner->GetPlace());
   if (IsIso()) ++load.repeats[id];
 }

@@ -19,7 +19,7 @@ class Probe : public IfcUnknown {
   const char* Parse(const char* text) override { return IfcUnknown::Parse(text); }
   std::ostream& Write(std::ostream& out) const override {
     IfcUnknown::Write(out);
-    PutText(out, std::to_string(number) + ")");
+    detail::PutText(out, std::to_string(number) + ")");
     return out;
   }
 

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include "kelifc/core/text/global_id.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/geo/section.h"
 #include "kelifc/geo/sections.h"
 #include "kelifc/geo/structure.h"

@@ -19,6 +19,15 @@ void ExpectField(Interface& section, HRESULT (Interface::*get)(double*),
   EXPECT_EQ((section.*get)(nullptr), E_POINTER);
 }
 
+TEST(SectionKind, HasTheNumbersThatHostsRead) {
+  EXPECT_EQ(static_cast<int>(SECTION_NONE), 0);
+  EXPECT_EQ(static_cast<int>(SECTION_R), 1);
+  EXPECT_EQ(static_cast<int>(SECTION_C), 2);
+  EXPECT_EQ(static_cast<int>(SECTION_T), 3);
+  EXPECT_EQ(static_cast<int>(SECTION_PROFILE), 8);
+  EXPECT_EQ(static_cast<int>(SECTION_THICK), 9);
+}
+
 TEST_F(Section, ThatIsARectangleHasWidthAndHeight) {
   const auto section = CreateOwn<CoGeoSectionR>();
   ExpectField(*section, &IGeoSectionR::get_Width, &IGeoSectionR::put_Width, 0.3);

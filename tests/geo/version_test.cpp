@@ -16,6 +16,13 @@ bool IsServed(const char* text) { return IsCompatible(kOwnVersion, ParseVersionT
 
 TEST(VersionText, IsThatOfTheLibrary) { EXPECT_EQ(VersionText(), "25.0.3857"); }
 
+TEST(VersionRecord, OfTheLibraryHasAServicePackThatTheTextLacks) {
+  EXPECT_EQ(kOwnVersion.major, 25.0);
+  EXPECT_EQ(kOwnVersion.build, 3857.0);
+  EXPECT_EQ(kOwnVersion.servicePack, 5.0);
+  EXPECT_FALSE(kOwnVersion.isDebug);
+}
+
 TEST(VersionText, OfThreePiecesHasNoServicePack) {
   ExpectVersion("25.0.3857", 25.0, 3857.0, 0.0);
   ExpectVersion("15.47.9", 15.47, 9.0, 0.0);

@@ -52,7 +52,7 @@ if(NOT readme MATCHES "```cpp\n([^`]+)```")
   message(FATAL_ERROR "README.md shows no program")
 endif()
 file(WRITE "${WORK_DIR}/readme.cpp" "${CMAKE_MATCH_1}")
-set(strict -std=c++17 -Wall -Wextra -Wpedantic -Werror)
+set(strict -std=c++17 -Wall -Wextra -Wpedantic -Wshadow -Werror)
 foreach(program "${SOURCE_DIR}/examples/host/main.cpp" "${SOURCE_DIR}/examples/walk/main.cpp"
     "${WORK_DIR}/readme.cpp")
   run(ignored "${COMPILER}" ${flags} ${strict} "${program}" -o "${WORK_DIR}/program" ${found}
@@ -61,18 +61,33 @@ foreach(program "${SOURCE_DIR}/examples/host/main.cpp" "${SOURCE_DIR}/examples/w
   expect_storeys("${printed}")
 endforeach()
 
-# Each installed header stands alone, is readable by C++17, and is one that kelifc.h needs.
-set(include_dir "${prefix}/${INCLUDE}")
-file(GLOB_RECURSE headers RELATIVE "${include_dir}" "${include_dir}/*.h")
-run(needed "${COMPILER}" -std=c++17 -MM "-I${include_dir}" "${include_dir}/kelifc/kelifc.h")
-foreach(header IN LISTS headers)
-  string(FIND "${needed}" "${include_dir}/${header}" position)
-  if(position EQUAL -1)
-    message(FATAL_ERROR "${header} is installed, but kelifc.h does not need it")
+# Hosts compile the headers with the warnings of their own projects, by both compilers and standards.
+set(includer "${WORK_DIR}/includer.cpp")
+file(WRITE "${includer}" "#include <kelifc/kelifc.h>\n")
+foreach(name g++ clang++)
+  find_program(compiler_of_host ${name} NO_CACHE)
+  if(compiler_of_host)
+    foreach(standard c++17 c++20)
+      run(ignored "${compiler_of_host}" ${strict} -std=${standard} -fsyntax-only
+        "-I${prefix}/${INCLUDE}" "${includer}")
+    endforeach()
   endif()
+  unset(compiler_of_host)
+endforeach()
+
+# The headers are those of the list. Each compiles alone, twice in one source, as C++17.
+set(include_dir "${prefix}/${INCLUDE}")
+file(GLOB_RECURSE headers RELATIVE "${include_dir}" "${include_dir}/*")
+file(STRINGS "${HEADER_LIST}" listed)
+list(SORT headers)
+list(SORT listed)
+if(NOT headers STREQUAL listed)
+  message(FATAL_ERROR "The installed headers are not those of the list:\n${headers}")
+endif()
+foreach(header IN LISTS headers)
   string(MAKE_C_IDENTIFIER "${header}" name)
   file(WRITE "${WORK_DIR}/headers/${name}.cpp" "#include <${header}>\n#include <${header}>\n")
 endforeach()
-list(JOIN strict " " strict)
+list(JOIN strict " " options)
 run(ignored sh -c "ls '${WORK_DIR}'/headers/*.cpp | xargs -P 2 -n 1 \
-  '${COMPILER}' ${strict} -fsyntax-only '-I${include_dir}'")
+  '${COMPILER}' ${options} -fsyntax-only '-I${include_dir}'")

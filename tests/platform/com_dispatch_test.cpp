@@ -24,5 +24,20 @@ TEST(Dispatch, WantsAPlaceForWhatItGives) {
   EXPECT_EQ(GiveTypeInfo(kFace, 0, nullptr), E_POINTER);
 }
 
+TEST(LookupFlags, LetACallOfAMethodFindAProperty) {
+  constexpr WORD kAny = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
+  EXPECT_EQ(LookupFlags(DISPATCH_METHOD), kAny);
+  EXPECT_EQ(LookupFlags(kAny), kAny);
+}
+
+TEST(LookupFlags, LeaveAllOtherCallsAsTheyAre) {
+  for (const WORD flags :
+       {0, static_cast<int>(DISPATCH_PROPERTYGET), static_cast<int>(DISPATCH_PROPERTYPUT),
+        static_cast<int>(DISPATCH_PROPERTYPUTREF), DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF,
+        DISPATCH_METHOD | DISPATCH_PROPERTYPUT, DISPATCH_METHOD | DISPATCH_PROPERTYPUTREF}) {
+    EXPECT_EQ(LookupFlags(flags), flags);
+  }
+}
+
 }  // namespace
 }  // namespace KelIFC

@@ -4,7 +4,7 @@
 #include <random>
 #include <string>
 
-#include "kelifc/core/text/global_id.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "kelifc/core/text/global_id.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/statements.h"

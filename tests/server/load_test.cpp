@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "kelifc/core/bounding_box.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/core/other.h"
-#include "kelifc/core/text/global_id.h"
 #include "kelifc/server/ifc_server.h"
 
 #include "tests/server/probe.h"

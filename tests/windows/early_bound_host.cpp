@@ -86,6 +86,32 @@ void TryClasses() {
   std::printf("%d classes with %d interfaces\n", classes, interfaces);
 }
 
+/// Calls an operation as a script engine does that does not use its result.
+HRESULT CallMethod(IDispatch& object, DISPID id, LONG argument, UINT count, VARIANT* result) {
+  VARIANT value = {};
+  value.vt = VT_I4;
+  value.lVal = argument;
+  DISPPARAMS arguments = {&value, nullptr, count, 0};
+  EXCEPINFO exception = {};
+  const HRESULT status = object.Invoke(id, IID_NULL, LOCALE_NEUTRAL, DISPATCH_METHOD, &arguments,
+                                       result, &exception, nullptr);
+  for (BSTR text : {exception.bstrSource, exception.bstrDescription, exception.bstrHelpFile}) {
+    SysFreeString(text);
+  }
+  return status == DISP_E_EXCEPTION ? exception.scode : status;
+}
+
+/// A property that is called as a method is read, and what it returns can be left out.
+void CallLate(IDispatch& collection) {
+  Require(CallMethod(collection, DISPID_VALUE, 0, 1, nullptr) == E_INVALIDARG, "Item(0)");
+  Require(CallMethod(collection, DISPID_VALUE, 1, 1, nullptr) == S_OK, "Item(1)");
+  VARIANT items = {};
+  Require(CallMethod(collection, DISPID_NEWENUM, 0, 0, &items) == S_OK, "_NewEnum");
+  Require(items.vt == VT_UNKNOWN && Query(*items.punkVal, IID_IEnumVARIANT) != nullptr,
+          "IEnumVARIANT");
+  VariantClear(&items);
+}
+
 void ReadModel(const wchar_t* path) {
   ComPtr<IIFCServer> server;
   CLSID clsid = {};
@@ -100,6 +126,7 @@ void ReadModel(const wchar_t* path) {
   Check(structure->get_Walls(walls.Put()), "get_Walls");
   LONG count = 0;
   Check(walls->Count(&count), "Count");
+  CallLate(*walls);
   std::printf("%ld walls\n", static_cast<long>(count));
   for (LONG i = 1; i <= count; ++i) {
     ComPtr<IGeoWall> wall;

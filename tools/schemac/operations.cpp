@@ -263,8 +263,10 @@ class OperationWriter {
       resolved.body = {member + ".SetReference(UnknownOf(item));"};
     } else if (attribute->kind == Kind::kValue) {
       resolved.parameters = "IfcValue* item";
-      resolved.doc =
-          "Sets " + attribute->name + " to a value in place, which is owned from now on.";
+      resolved.doc = "Sets " + attribute->name +
+                     " to an inline value. A value that is registered in a model stays the "
+                     "model's; any other value belongs to this instance. The value that was set "
+                     "before belongs to the caller again.";
       resolved.body = {member + " = item;"};
     } else if (IsAggregate(attribute->kind)) {
       resolved.parameters = "const " + Aggregate() + Target(operation) + "*>& items";

@@ -5,7 +5,7 @@
 
 #include "kelifc/platform/export.h"
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 /// Memory of instances and of their aggregates: `size` bytes, aligned for any type. Throws
 /// std::bad_alloc. FreeBlock takes it back.
@@ -14,6 +14,6 @@ namespace KelIFC {
 /// Gives a block back, from any thread. Null is ignored.
 KELIFC_API void FreeBlock(void* block) noexcept;
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_CORE_DETAIL_BLOCK_MEMORY_H_

@@ -7,7 +7,7 @@
 // value takes a cursor and gives back the cursor behind the next comma, or null when no comma
 // follows. A null cursor is accepted everywhere and leaves a value unset.
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 /// White space as the classic locale knows it.
 inline bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
@@ -39,6 +39,6 @@ inline bool SkipOmittedValue(const char*& next, const char* text) {
   return true;
 }
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_CORE_DETAIL_CURSOR_H_

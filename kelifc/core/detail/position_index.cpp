@@ -2,7 +2,7 @@
 
 #include <chrono>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 namespace {
 
@@ -28,4 +28,4 @@ std::size_t PositionIndex::HashKey(std::size_t key) {
   return static_cast<std::size_t>(Mix(key ^ seed));
 }
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

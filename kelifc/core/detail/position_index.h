@@ -7,7 +7,7 @@
 
 #include "kelifc/platform/export.h"
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 /// Finds the first element with a key in a long set. It holds positions alone, eight bytes or fewer
 /// per element in the long run; the keys stay in the elements and are asked for through `keyAt`, a
@@ -71,6 +71,6 @@ class PositionIndex {
   std::uint32_t count = 0;
 };
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_CORE_DETAIL_POSITION_INDEX_H_

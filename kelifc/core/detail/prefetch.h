@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 /// Asks for the memory at `address`, which is needed soon. The address need not be valid. A hint:
 /// where the compiler has no such thing, nothing happens.
@@ -22,6 +22,6 @@ inline void PrefetchInstance(const void* address, std::size_t size = 128) {
   for (std::size_t at = 0; at < size; at += kLine) Prefetch(static_cast<const char*>(address) + at);
 }
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_CORE_DETAIL_PREFETCH_H_

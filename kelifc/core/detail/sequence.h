@@ -10,7 +10,7 @@
 
 #include "kelifc/core/detail/block_memory.h"
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 /// Stands for no header in front of the elements of a Sequence.
 struct NoHeader {
@@ -185,6 +185,6 @@ class Sequence {
   std::uint32_t mark : 1;
 };
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_CORE_DETAIL_SEQUENCE_H_

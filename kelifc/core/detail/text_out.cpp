@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <charconv>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 namespace {
 
@@ -32,4 +32,4 @@ void PutUpperCase(std::ostream& out, std::string_view text, char last) {
   PutText(out, std::string_view(piece, text.size() + 1));
 }
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

@@ -11,7 +11,7 @@
 // characters, so each piece goes straight to the stream's buffer. No width, fill, locale or number
 // format of the stream has any effect.
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 /// Writes one character. A stream that has failed stays untouched; a buffer that refuses sets
 /// badbit.
@@ -35,6 +35,6 @@ KELIFC_API void PutNumber(std::ostream& out, std::uint64_t number);
 /// Writes `text` with its letters a to z in upper case, and then `last`, as one piece.
 KELIFC_API void PutUpperCase(std::ostream& out, std::string_view text, char last);
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_CORE_DETAIL_TEXT_OUT_H_

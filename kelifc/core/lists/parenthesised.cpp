@@ -5,7 +5,7 @@
 
 #include "kelifc/core/detail/cursor.h"
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 namespace {
 
@@ -34,7 +34,7 @@ bool FindParenthesised(const char* text, Parenthesised& inner) {
 }
 
 const char* Parenthesised::BehindNextComma() const {
-  return KelIFC::BehindNextComma(*end == ')' ? end + 1 : end);
+  return detail::BehindNextComma(*end == ')' ? end + 1 : end);
 }
 
 std::size_t Parenthesised::CountCommas(const char* from) const {
@@ -48,4 +48,4 @@ const char* BehindCommaBefore(const char* from, const char* end) {
   return comma == nullptr ? nullptr : static_cast<const char*>(comma) + 1;
 }
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

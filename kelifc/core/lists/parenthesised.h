@@ -3,7 +3,7 @@
 
 #include <cstddef>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 /// The text between an opening parenthesis and its counterpart, in place in a statement.
 struct Parenthesised {
@@ -25,6 +25,6 @@ bool FindParenthesised(const char* text, Parenthesised& inner);
 /// The position behind the first comma of [from, end), or null.
 const char* BehindCommaBefore(const char* from, const char* end);
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_CORE_LISTS_PARENTHESISED_H_

@@ -18,25 +18,19 @@ namespace {
 // no reader of numbers runs past the end. Gives the position of the first element that is neither,
 // or null behind the last.
 template <class Items>
-const char* ReadNumbers(const Parenthesised& inner, IfcUnknown* owner, Items& items) {
+const char* ReadNumbers(const detail::Parenthesised& inner, IfcUnknown* owner, Items& items) {
   const char* cursor = inner.begin;
   while (cursor != nullptr) {
-    const char* first = SkipBlanks(cursor);
+    const char* first = detail::SkipBlanks(cursor);
     if (*first == '#' && first[1] >= '0' && first[1] <= '9') {
       const std::int64_t number = ReadInteger(first + 1, &first);
       items.Append(owner, static_cast<std::size_t>(number));
     } else if (*first != '$' && *first != '*') {
       return cursor;
     }
-    cursor = BehindCommaBefore(first, inner.end);
+    cursor = detail::BehindCommaBefore(first, inner.end);
   }
   return nullptr;
-}
-
-// True for a value that looks no further than its own text.
-bool IsTypedValue(const IfcUnknown* value) {
-  return dynamic_cast<const IfcValue*>(value) != nullptr ||
-         dynamic_cast<const IfcParameterValue*>(value) != nullptr;
 }
 
 // Reads elements of every kind from a text of their own, whose end bounds them. An element that
@@ -50,6 +44,7 @@ void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
     MEMBER element(owner);
     const char* next = element.Parse(cursor);
     const IfcUnknown* value = element.GetInlineValue();
+    // A typed value looks no further than its own text.
     if (value != nullptr && !IsTypedValue(value)) {
       const auto rest = static_cast<std::size_t>(text.c_str() + text.size() - cursor);
       if (++entities > kMaximumEntitiesInList || rest > allowance) return;
@@ -64,10 +59,11 @@ void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
 }  // namespace
 
 template <class Header>
-const char* ParseMembers(const char* text, IfcUnknown* owner, Sequence<MEMBER, Header>& items) {
+const char* ParseMembers(const char* text, IfcUnknown* owner,
+                         detail::Sequence<MEMBER, Header>& items) {
   items.Clear();
-  Parenthesised inner;
-  if (!FindParenthesised(text, inner)) return text;
+  detail::Parenthesised inner;
+  if (!detail::FindParenthesised(text, inner)) return text;
   if (inner.begin != inner.end) {
     // An element takes two characters at least.
     const auto length = static_cast<std::size_t>(inner.end - inner.begin);
@@ -79,7 +75,9 @@ const char* ParseMembers(const char* text, IfcUnknown* owner, Sequence<MEMBER, H
   return inner.BehindNextComma();
 }
 
-template const char* ParseMembers(const char*, IfcUnknown*, Sequence<MEMBER, NoHeader>&);
-template const char* ParseMembers(const char*, IfcUnknown*, Sequence<MEMBER, PositionIndex>&);
+template const char* ParseMembers(const char*, IfcUnknown*,
+                                  detail::Sequence<MEMBER, detail::NoHeader>&);
+template const char* ParseMembers(const char*, IfcUnknown*,
+                                  detail::Sequence<MEMBER, detail::PositionIndex>&);
 
 }  // namespace KelIFC

@@ -20,7 +20,8 @@ constexpr std::size_t kEntityTextAllowance = 65536;
 /// the test for an omitted value. Each reference that is set gets `owner`. Gives the next cursor;
 /// `text` itself if there is no parenthesis.
 template <class Header>
-const char* ParseMembers(const char* text, IfcUnknown* owner, Sequence<MEMBER, Header>& items);
+const char* ParseMembers(const char* text, IfcUnknown* owner,
+                         detail::Sequence<MEMBER, Header>& items);
 
 }  // namespace KelIFC
 

@@ -28,7 +28,7 @@ const char* ReadTexts(LIST<STRING>& texts, const char* cursor) {
     }
     ++cursor;
   }
-  return BehindNextComma(cursor + 1);
+  return detail::BehindNextComma(cursor + 1);
 }
 
 }  // namespace
@@ -36,9 +36,9 @@ const char* ReadTexts(LIST<STRING>& texts, const char* cursor) {
 const char* ParseIntegers(LIST<INTEGER>& numbers, const char* text) {
   Reset(numbers);
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
-  Parenthesised inner;
-  if (!FindParenthesised(text, inner)) return text;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
+  detail::Parenthesised inner;
+  if (!detail::FindParenthesised(text, inner)) return text;
   numbers.SetExists(true);
   // A text of its own bounds the reader of a number.
   const std::string elements(inner.begin, inner.end);
@@ -53,8 +53,8 @@ const char* ParseIntegers(LIST<INTEGER>& numbers, const char* text) {
 const char* ParseTexts(LIST<STRING>& texts, const char* text) {
   Reset(texts);
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
-  const char* first = SkipBlanks(text);
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
+  const char* first = detail::SkipBlanks(text);
   if (*first == '(') {
     texts.SetExists(true);
     return ReadTexts(texts, first + 1);

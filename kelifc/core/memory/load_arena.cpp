@@ -45,7 +45,7 @@ void* AllocateAlone(std::size_t size) {
 
 }  // namespace
 
-void* AllocateBlock(std::size_t size) {
+void* detail::AllocateBlock(std::size_t size) {
   LoadArena* const arena = current;
   if (arena == nullptr) return AllocateAlone(size);
   if (size <= LoadArena::kLargestBlock) return arena->Carve(size);
@@ -53,7 +53,7 @@ void* AllocateBlock(std::size_t size) {
   return AllocateAlone(size);
 }
 
-void FreeBlock(void* block) noexcept {
+void detail::FreeBlock(void* block) noexcept {
   if (block == nullptr) return;
   if (auto* chunk = static_cast<LoadArena::Chunk*>(MarkOf(block))) {
     chunk->Drop(1);

@@ -29,8 +29,8 @@ class LoadArena {
   std::uint64_t GetBytes() const { return bytes; }
 
  private:
-  friend void* AllocateBlock(std::size_t size);
-  friend void FreeBlock(void* block) noexcept;
+  friend void* detail::AllocateBlock(std::size_t size);
+  friend void detail::FreeBlock(void* block) noexcept;
   struct Chunk;
 
   void* Carve(std::size_t size);

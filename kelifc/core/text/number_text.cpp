@@ -142,7 +142,7 @@ double ReadUnsigned(const char* text, const char*& end) {
 }  // namespace
 
 double ReadReal(const char* text, const char** end) {
-  const char* first = SkipBlanks(text);
+  const char* first = detail::SkipBlanks(text);
   const bool isNegative = *first == '-';
   if (*first == '-' || *first == '+') ++first;
   *end = text;
@@ -151,7 +151,7 @@ double ReadReal(const char* text, const char** end) {
 }
 
 std::int32_t ReadInteger(const char* text, const char** end) {
-  const char* at = SkipBlanks(text);
+  const char* at = detail::SkipBlanks(text);
   const bool isNegative = *at == '-';
   if (*at == '-' || *at == '+') ++at;
   if (!IsDigit(*at)) {

@@ -7,6 +7,9 @@
 
 namespace KelIFC {
 
+using detail::PutChar;
+using detail::PutText;
+
 namespace {
 
 // Reads the two characters behind `\X\`. Gives the position behind them, or null if the text ends.

@@ -5,8 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "kelifc/platform/export.h"
-
 // What quotes and escapes mean in a text, in this one place for the values and for the scanner that
 // cuts a file into statements. A text stands between single quotes. A backslash makes a following
 // quote or backslash a plain character; `\X\hh` stands for the byte hh. A doubled quote is the end
@@ -28,11 +26,11 @@ constexpr bool IsEscapable(char c) { return c == kQuote || c == kEscape; }
 ///  - `\X\` with no hexadecimal digit behind it appends nothing; with one or two, their byte. In
 ///    either case the two characters behind it are used up.
 ///  - A `\` ahead of any other character stays.
-KELIFC_API const char* DecodeQuoted(const char* text, std::string& out);
+const char* DecodeQuoted(const char* text, std::string& out);
 
 /// Writes `text` between quotes, up to its first NUL if it has one. Quotes and backslashes are
 /// escaped, bytes above 127 written as `\X\hh`, all others as they are.
-KELIFC_API void EncodeQuoted(std::ostream& out, std::string_view text);
+void EncodeQuoted(std::ostream& out, std::string_view text);
 
 }  // namespace KelIFC
 

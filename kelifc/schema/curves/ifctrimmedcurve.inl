@@ -12,24 +12,6 @@ const Type* FirstOf(const SET_OF_MEMBERS& trims, const IfcUnknown& owner) {
   return nullptr;
 }
 
-/// Adds a value in place to a trim, which owns it from now on.
-void Embed(SET_OF_MEMBERS& trims, IfcUnknown* value, IfcUnknown* owner) {
-  if (value == nullptr) return;
-  value->SetServer(owner->GetServer());
-  MEMBER member(owner);
-  member = value;
-  trims.Add(member);
-}
-
-/// A point of the model stays the model's: a trim refers to it.
-void AddPointTo(SET_OF_MEMBERS& trims, IfcCartesianPoint* point, IfcUnknown* owner) {
-  if (point != nullptr && FindNumber(owner->GetServer(), point) != 0) {
-    AddMember(trims, point, *owner);
-  } else {
-    Embed(trims, point, owner);
-  }
-}
-
 }  // namespace
 
 const char* IfcTrimmedCurve::Parse(const char* cursor) {
@@ -67,10 +49,10 @@ const IfcParameterValue* IfcTrimmedCurve::GetParameterTrim2() const {
   return _GetParameterTrim(trim2);
 }
 
-void IfcTrimmedCurve::AddTrim1(IfcCartesianPoint* item) { AddPointTo(trim1, item, this); }
+void IfcTrimmedCurve::AddTrim1(IfcCartesianPoint* item) { EmbedMember(trim1, item, *this); }
 
-void IfcTrimmedCurve::AddTrim1(IfcParameterValue* item) { Embed(trim1, item, this); }
+void IfcTrimmedCurve::AddTrim1(IfcParameterValue* item) { EmbedMember(trim1, item, *this); }
 
-void IfcTrimmedCurve::AddTrim2(IfcCartesianPoint* item) { AddPointTo(trim2, item, this); }
+void IfcTrimmedCurve::AddTrim2(IfcCartesianPoint* item) { EmbedMember(trim2, item, *this); }
 
-void IfcTrimmedCurve::AddTrim2(IfcParameterValue* item) { Embed(trim2, item, this); }
+void IfcTrimmedCurve::AddTrim2(IfcParameterValue* item) { EmbedMember(trim2, item, *this); }

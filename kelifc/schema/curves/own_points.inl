@@ -1,7 +1,6 @@
 void IfcPolyLine::AddOwnPoint(IfcCartesianPoint* item) {
   if (item == nullptr) return;
-  item->SetServer(GetServer());
-  MEMBER member(this);
-  member = item;
+  MEMBER member;
+  member.Embed(item, *this);
   points.Add(member);
 }

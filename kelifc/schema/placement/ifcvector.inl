@@ -14,9 +14,4 @@ INTEGER IfcVector::GetDim() const {
   return direction == nullptr ? INTEGER(0) : direction->GetDim();
 }
 
-void IfcVector::SetOrientation(IfcDirection* item) {
-  if (item != nullptr) item->SetServer(GetServer());
-  // A vector owns its direction: the one it held so far goes with the reset of the reference.
-  orientation = std::size_t{0};
-  orientation = item;
-}
+void IfcVector::SetOrientation(IfcDirection* item) { orientation.Embed(item, *this); }

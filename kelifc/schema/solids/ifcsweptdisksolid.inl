@@ -3,9 +3,8 @@ namespace {
 /// What a reference to the value would be numbered: a value in place has no number.
 double NumberInPlace(IfcReal* value, IfcUnknown& owner) {
   if (value == nullptr) return 0.0;
-  value->SetServer(owner.GetServer());
-  MEMBER member(&owner);
-  member = value;
+  MEMBER member;
+  member.Embed(value, owner);
   return static_cast<double>(static_cast<std::size_t>(member));
 }
 

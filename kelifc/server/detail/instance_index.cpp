@@ -6,7 +6,7 @@
 #include "kelifc/core/detail/prefetch.h"
 #include "kelifc/server/detail/number_index.h"
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 constexpr unsigned kSmallestTableBits = 6;
@@ -113,4 +113,4 @@ void InstanceIndex::CloseGap(Slots slots, std::size_t gap) {
   table[gap] = kNone;
 }
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

@@ -7,8 +7,11 @@
 #include <vector>
 
 namespace KelIFC {
-
 class IfcUnknown;
+}
+
+namespace KelIFC::detail {
+
 class NumberIndex;
 
 /// The way back from an instance to its position in the registry and its number.
@@ -69,6 +72,6 @@ class InstanceIndex {
   std::multimap<const IfcUnknown*, std::uint32_t> repeats;  // later slots of the same instance
 };
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_SERVER_DETAIL_INSTANCE_INDEX_H_

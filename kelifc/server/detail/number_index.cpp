@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 // The array may be this many times as long as the count of numbers, plus a start for small models.
@@ -89,4 +89,4 @@ std::uint64_t NumberIndex::GetLowestFree() {
   return lowestFreeFloor;
 }
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

@@ -8,7 +8,7 @@
 
 #include "kelifc/core/detail/prefetch.h"
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 /// The ordered map from the number of an instance (the n of #n) to its position in the registry.
 ///
@@ -75,6 +75,6 @@ class NumberIndex {
   std::uint64_t lowestFreeFloor = 1;  // every number below this one, but 0, is there
 };
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail
 
 #endif  // KELIFC_SERVER_DETAIL_NUMBER_INDEX_H_

@@ -2,7 +2,7 @@
 
 #include <gtest/gtest.h>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 TEST(Cursor, KnowsTheBlanksOfTheClassicLocale) {
@@ -49,4 +49,4 @@ TEST(Cursor, StaysWhereAValueStands) {
 }
 
 }  // namespace
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

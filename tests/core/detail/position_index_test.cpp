@@ -4,7 +4,7 @@
 
 #include <vector>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 class PositionIndexTest : public testing::Test {
@@ -53,4 +53,4 @@ TEST_F(PositionIndexTest, ForgetsEverythingWhenItIsDropped) {
 }
 
 }  // namespace
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

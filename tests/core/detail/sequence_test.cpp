@@ -6,7 +6,7 @@
 #include <memory>
 #include <string>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 /// Gives its content away when it is copied.
@@ -150,4 +150,4 @@ TEST(Sequence, HasAHeaderOnlyWhereItIsLong) {
 }
 
 }  // namespace
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

@@ -7,7 +7,7 @@
 #include <limits>
 #include <sstream>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 /// Takes a few characters and refuses the rest.
@@ -75,4 +75,4 @@ TEST(TextOut, ChangesTextOfAnyLength) {
 }
 
 }  // namespace
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

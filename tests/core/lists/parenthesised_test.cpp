@@ -4,7 +4,7 @@
 
 #include <string>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 TEST(Parenthesised, FindsTheCounterpartOfTheFirstParenthesis) {
@@ -52,4 +52,4 @@ TEST(Parenthesised, SearchesACommaUpToTheEndOnly) {
 }
 
 }  // namespace
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

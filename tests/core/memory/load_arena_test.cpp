@@ -17,6 +17,9 @@
 namespace KelIFC {
 namespace {
 
+using detail::AllocateBlock;
+using detail::FreeBlock;
+
 bool IsAligned(const void* block) {
   return reinterpret_cast<std::uintptr_t>(block) % __STDCPP_DEFAULT_NEW_ALIGNMENT__ == 0;
 }

@@ -7,7 +7,7 @@
 #include "kelifc/core/cartesian_point.h"
 #include "kelifc/server/detail/number_index.h"
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 // A registry of slots over points that live elsewhere.
@@ -104,4 +104,4 @@ TEST_F(InstanceIndexTest, IsUnbuiltAfterClear) {
 }
 
 }  // namespace
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

@@ -5,7 +5,7 @@
 #include <map>
 #include <random>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 namespace {
 
 constexpr std::uint64_t kMinusOne = 0xFFFFFFFFFFFFFFFF;
@@ -166,4 +166,4 @@ TEST(NumberIndex, AnswersAsAPlainMapDoes) {
 }
 
 }  // namespace
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

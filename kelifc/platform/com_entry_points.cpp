@@ -1,0 +1,28 @@
+#include "kelifc/platform/com_entry_points.h"
+
+#include "kelifc/platform/com_class.h"
+#include "kelifc/platform/com_module.h"
+
+#ifdef _WIN32
+#include "kelifc/platform/com_registration.h"
+#endif
+
+// The definitions are marked as exported too: the headers of Windows declare them without a mark.
+
+extern "C" {
+
+KELIFC_API HRESULT DllGetClassObject(const CLSID& clsid, const IID& iid, void** out) {
+  return KelIFC::GetClassObject(clsid, iid, out);
+}
+
+KELIFC_API HRESULT DllCanUnloadNow() { return KelIFC::CanUnload() ? S_OK : S_FALSE; }
+
+#ifdef _WIN32
+
+KELIFC_API HRESULT DllRegisterServer() { return KelIFC::RegisterLibrary(); }
+
+KELIFC_API HRESULT DllUnregisterServer() { return KelIFC::UnregisterLibrary(); }
+
+#endif
+
+}  // extern "C"
