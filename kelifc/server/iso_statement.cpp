@@ -139,7 +139,7 @@ class Writer {
       at = FindAnyOf<kQuote, kBinaryQuote>(at, end);
       if (at != end) at = *at == kQuote ? TakeString(at) : TakeBinary(at);
     }
-    PutText(target, Between(kept, end));
+    detail::PutText(target, Between(kept, end));
   }
 
  private:
@@ -164,8 +164,8 @@ class Writer {
   }
 
   const char* Replace(const char* begin, std::string_view text, const char* next) {
-    PutText(target, Between(kept, begin));
-    PutText(target, text);
+    detail::PutText(target, Between(kept, begin));
+    detail::PutText(target, text);
     return kept = next;
   }
 

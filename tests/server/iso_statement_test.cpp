@@ -100,7 +100,8 @@ TEST(IsoStatement, ReportsWhereBadEscapesStand) {
   IsoStatementReader reader(&positions);
   const std::string text = "IFCFOO('a\\b', 'c', '\\X\\4')";
   EXPECT_STREQ(reader.Read(text.data(), text.data() + text.size()),
-               "IFCFOO('a\xEF\xBF\xBD" "b','c','\xEF\xBF\xBD')");
+               "IFCFOO('a\xEF\xBF\xBD"
+               "b','c','\xEF\xBF\xBD')");
   EXPECT_THAT(positions.all, ElementsAre(text.data() + 9, text.data() + 20));
 }
 
@@ -116,10 +117,9 @@ TEST(IsoStatement, UsesOneReaderForManyStatements) {
 
 // What is written in the dialect and read again is what was there, whatever it is.
 TEST(IsoStatement, ReadsBackWhatItWrites) {
-  const std::vector<std::string> pieces = {"'a'",      "'it\\'s'", "'\\\\'", "'T\xC3\xBCr'", "''",
-                                           "'\n\t'",   "#12",      "(",      ")",            ",",
-                                           "\"0101\"", ".T.",      "$",      "'\\X\\29'",    "1.E-5",
-                                           "IFCFOO",   "'(x)'"};
+  const std::vector<std::string> pieces = {
+      "'a'",      "'it\\'s'", "'\\\\'", "'T\xC3\xBCr'", "''",    "'\n\t'", "#12",  "(", ")", ",",
+      "\"0101\"", ".T.",      "$",      "'\\X\\29'",    "1.E-5", "IFCFOO", "'(x)'"};
   std::mt19937 random(7);
   for (int round = 0; round < 5000; ++round) {
     std::string statement;

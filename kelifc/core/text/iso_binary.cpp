@@ -14,7 +14,8 @@ constexpr std::size_t kBitsPerDigit = 4;
 }  // namespace
 
 bool AppendBits(std::string& out, std::string_view digits) {
-  const bool isHex = std::all_of(digits.begin(), digits.end(), [](char c) { return HexDigit(c) >= 0; });
+  const bool isHex =
+      std::all_of(digits.begin(), digits.end(), [](char c) { return HexDigit(c) >= 0; });
   if (digits.empty() || !isHex) return false;
   const auto unused = static_cast<std::size_t>(HexDigit(digits.front()));
   digits.remove_prefix(1);
