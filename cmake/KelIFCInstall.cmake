@@ -25,6 +25,8 @@ install(DIRECTORY "${PROJECT_SOURCE_DIR}/kelifc" DESTINATION "${CMAKE_INSTALL_IN
   FILES_MATCHING PATTERN "*.h"
   REGEX "/kelifc/(${internal_headers})\\.h$" EXCLUDE
   REGEX "/kelifc/(geo|import|schema/[a-z_]+)$" EXCLUDE)  # folders without a public header
+install(FILES "${PROJECT_SOURCE_DIR}/kelifc/geo/storey_number.h"  # but for this one
+  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/kelifc/geo")
 install(DIRECTORY "${PROJECT_BINARY_DIR}/generated/kelifc"
   DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
   FILES_MATCHING PATTERN "*.h"

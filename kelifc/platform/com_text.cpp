@@ -7,12 +7,67 @@
 
 namespace KelIFC {
 
+namespace {
+
+constexpr std::uint32_t kReplacement = 0xFFFD;
+
+/// The two halves of a pair of surrogates each carry ten bits of a character above 0xFFFF.
+constexpr std::uint32_t kHighSurrogate = 0xD800 >> 10;
+constexpr std::uint32_t kLowSurrogate = 0xDC00 >> 10;
+
+bool IsSurrogate(std::uint32_t code) { return code >= 0xD800 && code <= 0xDFFF; }
+
+void AppendUtf8(std::string& out, std::uint32_t code) {
+  const auto tail = [&](int shift) { out += static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
+  if (code < 0x80) {
+    out += static_cast<char>(code);
+  } else if (code < 0x800) {
+    out += static_cast<char>(0xC0 | code >> 6);
+    tail(0);
+  } else if (code < 0x10000) {
+    out += static_cast<char>(0xE0 | code >> 12);
+    tail(6);
+    tail(0);
+  } else {
+    out += static_cast<char>(0xF0 | code >> 18);
+    tail(12);
+    tail(6);
+    tail(0);
+  }
+}
+
+/// Appends a character. A surrogate, and a code above the last character, become U+FFFD.
+void AppendCharacter(std::string& out, std::uint32_t code) {
+  AppendUtf8(out, IsSurrogate(code) || code > 0x10FFFF ? kReplacement : code);
+}
+
+std::uint32_t CodeOf(wchar_t character) {
+  return static_cast<std::make_unsigned_t<wchar_t>>(character);
+}
+
+}  // namespace
+
 std::string NarrowText(BSTR text) {
   std::string narrow(SysStringLen(text), '?');
   for (std::size_t i = 0; i < narrow.size(); ++i) {
     if (static_cast<std::uint32_t>(text[i]) <= 0xFF) narrow[i] = static_cast<char>(text[i]);
   }
   return narrow;
+}
+
+std::string Utf8Text(std::wstring_view text) {
+  std::string out;
+  out.reserve(text.size());
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    std::uint32_t code = CodeOf(text[i]);
+    const std::uint32_t next = i + 1 < text.size() ? CodeOf(text[i + 1]) : 0;
+    if (code >> 10 == kHighSurrogate && next >> 10 == kLowSurrogate) {
+      code = 0x10000 + ((code & 0x3FF) << 10 | (next & 0x3FF));
+      ++i;
+    }
+    AppendCharacter(out, code);
+  }
+  return out;
 }
 
 HRESULT GiveText(std::string_view text, BSTR* out) {
@@ -50,28 +105,6 @@ std::wstring WidePath(std::string_view path) {
 namespace {
 
 constexpr std::uint32_t kByteSurrogate = 0xDC00;  // plus a byte from 0x80 on
-constexpr std::uint32_t kReplacement = 0xFFFD;
-
-bool IsSurrogate(std::uint32_t code) { return code >= 0xD800 && code <= 0xDFFF; }
-
-void AppendUtf8(std::string& out, std::uint32_t code) {
-  const auto tail = [&](int shift) { out += static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
-  if (code < 0x80) {
-    out += static_cast<char>(code);
-  } else if (code < 0x800) {
-    out += static_cast<char>(0xC0 | code >> 6);
-    tail(0);
-  } else if (code < 0x10000) {
-    out += static_cast<char>(0xE0 | code >> 12);
-    tail(6);
-    tail(0);
-  } else {
-    out += static_cast<char>(0xF0 | code >> 18);
-    tail(12);
-    tail(6);
-    tail(0);
-  }
-}
 
 /// How many bytes a lead byte asks for, 0 if it is none.
 std::size_t SequenceLength(unsigned char lead) {
@@ -105,11 +138,11 @@ std::string NarrowPath(std::wstring_view path) {
   std::string narrow;
   narrow.reserve(path.size());
   for (const wchar_t character : path) {
-    const std::uint32_t code = static_cast<std::make_unsigned_t<wchar_t>>(character);
+    const std::uint32_t code = CodeOf(character);
     if (code >= kByteSurrogate + 0x80 && code <= kByteSurrogate + 0xFF) {
       narrow += static_cast<char>(code - kByteSurrogate);
     } else {
-      AppendUtf8(narrow, IsSurrogate(code) || code > 0x10FFFF ? kReplacement : code);
+      AppendCharacter(narrow, code);
     }
   }
   return narrow;
