@@ -24,7 +24,7 @@ void Describe(CLI::App& app, Request& request) {
   app.allow_windows_style_options(false);  // an argument that begins with a slash is a path
   app.require_subcommand(1);
   constexpr auto kModel = "MODEL.ifc";
-  constexpr auto kModelHelp = "the model to read, a STEP file";
+  constexpr auto kModelHelp = "the model to read; - means standard input";
 
   CLI::App* structure = app.add_subcommand("structure", "the converted building structure");
   structure->add_flag("--json", request.structure.json, "print one JSON object instead of a table");
