@@ -7,9 +7,9 @@
 
 namespace KelIFC {
 
-/// The model that a server object holds, for C++ hosts that use both faces of the library: such as
-/// to follow a load, or to look at the instances that the structure was made from. It belongs to
-/// the server object. Null for null, and for an object that is not of this library.
+/// The IfcServer of a server object, for C++ hosts that use both APIs, for example to follow the
+/// progress of a load or to read the instances that the structure was made from. The server object
+/// owns it. Returns null for null and for an object of another library.
 KELIFC_API IfcServer* GetModel(IIFCServer* server);
 
 }  // namespace KelIFC

@@ -1,17 +1,14 @@
 #ifndef KELIFC_GEO_STOREY_H_
 #define KELIFC_GEO_STOREY_H_
 
-#include <limits>
 #include <string>
 
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/fields.h"
+#include "kelifc/geo/storey_number.h"
 #include "kelifc/platform/guid.h"
 
 namespace KelIFC {
-
-/// The number of a storey that has none.
-inline constexpr SHORT kNoStoreyNumber = std::numeric_limits<SHORT>::max();
 
 /// A storey, as import filled it. What a host writes does not go back into the model.
 class CoGeoStorey : public CoGeoStoreyBase {

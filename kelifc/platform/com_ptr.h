@@ -1,6 +1,7 @@
 #ifndef KELIFC_PLATFORM_COM_PTR_H_
 #define KELIFC_PLATFORM_COM_PTR_H_
 
+#include <type_traits>
 #include <utility>
 
 #include "kelifc/platform/com_interfaces.h"
@@ -16,6 +17,11 @@ class ComPtr {
   ComPtr(const ComPtr& other) : object(other.object) { Hold(); }
   ComPtr(ComPtr&& other) noexcept : object(std::exchange(other.object, nullptr)) {}
   ~ComPtr() { Reset(); }
+
+  /// The same object through an interface that `Derived` inherits from, without a query.
+  template <class Derived, class = std::enable_if_t<std::is_convertible_v<Derived*, Interface*>>>
+  ComPtr(const ComPtr<Derived>& other)  // NOLINT(google-explicit-constructor)
+      : ComPtr(other.Get()) {}
 
   ComPtr& operator=(ComPtr other) noexcept {
     std::swap(object, other.object);

@@ -15,6 +15,10 @@ namespace KelIFC {
 /// The bytes of a wide text. A character above 255 becomes '?'; null is the empty text.
 KELIFC_API std::string NarrowText(BSTR text);
 
+/// The text as UTF-8. A pair of surrogates is one character. A surrogate without its partner, and a
+/// code above 0x10FFFF, become U+FFFD.
+KELIFC_API std::string Utf8Text(std::wstring_view text);
+
 /// Gives `text` as a new string. A null `out` gives E_POINTER; without memory `out` is null and the
 /// status E_OUTOFMEMORY.
 KELIFC_API HRESULT GiveText(std::string_view text, BSTR* out);

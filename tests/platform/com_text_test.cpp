@@ -26,6 +26,25 @@ TEST(CrossingText, HasAQuestionMarkForWhatIsNoByte) {
   EXPECT_EQ(NarrowText(Bstr(std::wstring(1, static_cast<wchar_t>(-1))).Get()), "?");
 }
 
+TEST(CrossingText, IsUtf8OnRequest) {
+  EXPECT_EQ(Utf8Text(L"a\u007F\u0080\u07FF\u0800\uFFFF"),
+            "a\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF");
+  EXPECT_EQ(Utf8Text(L"\U00010000\U0010FFFF"), "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF");
+  EXPECT_EQ(Utf8Text(std::wstring_view()), "");
+}
+
+TEST(CrossingText, TakesAPairOfSurrogatesForOneCharacter) {
+  const std::wstring pair = {wchar_t{0xD83C}, wchar_t{0xDFE0}};
+  EXPECT_EQ(Utf8Text(L"<" + pair + L">"), "<\xF0\x9F\x8F\xA0>");
+}
+
+TEST(CrossingText, ReplacesWhatUtf8CannotHold) {
+  const std::string replacement = "\xEF\xBF\xBD";
+  EXPECT_EQ(Utf8Text(std::wstring(1, wchar_t{0xD800})), replacement);
+  EXPECT_EQ(Utf8Text(std::wstring{wchar_t{0xD800}, L'a'}), replacement + "a");
+  EXPECT_EQ(Utf8Text(std::wstring{wchar_t{0xDFE0}, wchar_t{0xD83C}}), replacement + replacement);
+}
+
 TEST(CrossingText, OfNothingIsEmpty) {
   EXPECT_EQ(NarrowText(nullptr), "");
   Bstr wide;

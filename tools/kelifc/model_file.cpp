@@ -8,7 +8,7 @@
 namespace command {
 namespace {
 
-// What LoadIfcFile gives beside 0.
+// The load results of a failure. Any other value except 0 means an unknown schema.
 constexpr int kCannotOpen = 1;
 constexpr int kNoStepFile = 2;
 

@@ -14,8 +14,8 @@
 namespace command {
 namespace {
 
-/// The same bytes on every system.
-void LeaveLineEnds(std::FILE* stream) {
+/// Keeps line ends as they are, so that the output has the same bytes on every system.
+void KeepLineEnds(std::FILE* stream) {
 #ifdef _WIN32
   _setmode(_fileno(stream), _O_BINARY);
 #else
@@ -30,8 +30,8 @@ void WriteOutput(const std::string& path, std::string_view text) {
   std::FILE* file = path.empty() ? stdout : std::fopen(path.c_str(), "wb");
   if (file == nullptr) throw Failure(Status::kFile, name, std::strerror(errno));
 
-  LeaveLineEnds(file);
-  // The first error is the one to tell; closing flushes, so it can be the one that fails.
+  KeepLineEnds(file);
+  // The message names the first error. Closing the file flushes it, so closing can fail as well.
   int error = 0;
   if (std::fwrite(text.data(), 1, text.size(), file) != text.size()) error = errno;
   const int closed = path.empty() ? std::fflush(file) : std::fclose(file);

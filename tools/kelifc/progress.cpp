@@ -13,7 +13,7 @@
 namespace command {
 namespace {
 
-constexpr std::uint64_t kWorthABar = 20'000'000;
+constexpr std::uint64_t kLargeFile = 20'000'000;
 constexpr int kBarWidth = 40;
 
 bool IsTerminal(std::FILE* stream) {
@@ -27,7 +27,7 @@ bool IsTerminal(std::FILE* stream) {
 }  // namespace
 
 ProgressBar::ProgressBar(std::uint64_t fileBytes)
-    : shown(fileBytes > kWorthABar && IsTerminal(stderr)) {}
+    : shown(fileBytes > kLargeFile && IsTerminal(stderr)) {}
 
 ProgressBar::~ProgressBar() {
   if (shown) std::fputs("\r\033[K", stderr);
