@@ -1,16 +1,7 @@
 # Installs into a folder, moves that folder, and uses it as a host's build would: by CMake package
 # and by pkg-config. The README's program and each installed header are compiled as well.
 
-# run(OUTPUT COMMAND...): the command must succeed; what it prints goes to the variable OUTPUT.
-function(run output)
-  execute_process(COMMAND ${ARGN}
-    RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE errors)
-  if(NOT status EQUAL 0)
-    list(JOIN ARGN " " command)
-    message(FATAL_ERROR "${command}\nended with ${status}\n${printed}${errors}")
-  endif()
-  set(${output} "${printed}" PARENT_SCOPE)
-endfunction()
+include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
 # expect_storeys(PRINTED): a host that was given the house must have named its storeys.
 function(expect_storeys printed)
