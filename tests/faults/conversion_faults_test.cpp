@@ -44,7 +44,6 @@ Outcome ReadModel() {
     ComPtr<IGeoStructure> structure;
     if (server->get_Structure(structure.Put()) != S_OK) return outcome;
     outcome.elements = CountElements(command::ReadStructure(structure));
-    outcome.isWhole = true;
   } catch (const std::bad_alloc&) {  // of the host itself
   } catch (const std::runtime_error&) {
   }

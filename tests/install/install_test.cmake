@@ -1,16 +1,7 @@
 # Installs into a folder, moves the folder, and uses it as the build of a host does: by CMake package
 # and by pkg-config. It also compiles each installed header.
 
-# run(OUTPUT COMMAND...): the command must succeed. The variable OUTPUT receives what it prints.
-function(run output)
-  execute_process(COMMAND ${ARGN}
-    RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE errors)
-  if(NOT status EQUAL 0)
-    list(JOIN ARGN " " command)
-    message(FATAL_ERROR "${command}\nended with ${status}\n${printed}${errors}")
-  endif()
-  set(${output} "${printed}" PARENT_SCOPE)
-endfunction()
+include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
 # expect_storeys(PRINTED): a host that read the house must have printed the names of its storeys.
 function(expect_storeys printed)
