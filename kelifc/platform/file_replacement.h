@@ -10,11 +10,12 @@ namespace KelIFC {
 ///
 ///  - A target that is a symbolic link stays one: the file that it leads to is replaced.
 ///  - The new file has the permissions of the old one, and its owner where the system allows that.
-///  - A target that exists and is no ordinary file, such as a pipe or a device, is written directly.
+///  - A target that exists and is no ordinary file, such as a pipe or a device, is written
+///  directly.
 class FileReplacement {
  public:
-  /// Creates the temporary file. A null or empty path, a target that may not be written and a folder
-  /// in which no file can be created are failures.
+  /// Creates the temporary file. A null or empty path, a target that may not be written and a
+  /// folder in which no file can be created are failures.
   explicit FileReplacement(const char* target);
   /// Removes the temporary file, unless it has become the target.
   ~FileReplacement();
