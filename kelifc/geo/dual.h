@@ -26,16 +26,17 @@ class Dual : public Own, public Others..., public ISupportErrorInfo {
   HRESULT GetTypeInfoCount(UINT* count) override { return CountTypeInfo(count); }
 
   HRESULT GetTypeInfo(UINT index, LCID, ITypeInfo** info) override {
-    return GiveTypeInfo(Faces().front(), index, info);
+    return GiveTypeInfo(ScriptInterfaces().front(), index, info);
   }
 
   HRESULT GetIDsOfNames(const IID&, OLECHAR** names, UINT count, LCID, DISPID* ids) override {
-    return FindNames(Faces(), names, count, ids);
+    return FindNames(ScriptInterfaces(), names, count, ids);
   }
 
   HRESULT Invoke(DISPID id, const IID&, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                  EXCEPINFO* exception, UINT* badArgument) override {
-    return InvokeFace(Faces(), id, flags, arguments, result, exception, badArgument);
+    return InvokeOperation(ScriptInterfaces(), id, flags, arguments, result, exception,
+                           badArgument);
   }
 
   /// S_OK for the class's own interface only.
@@ -48,9 +49,9 @@ class Dual : public Own, public Others..., public ISupportErrorInfo {
 
  private:
   /// The interfaces by whose names a script can call: those that hold all operations of the class.
-  std::array<Face, 1 + sizeof...(Others)> Faces() {
-    return {Face{&IidOf<Own>(), static_cast<Own*>(this)},
-            Face{&IidOf<Others>(), static_cast<Others*>(this)}...};
+  std::array<ScriptInterface, 1 + sizeof...(Others)> ScriptInterfaces() {
+    return {ScriptInterface{&IidOf<Own>(), static_cast<Own*>(this)},
+            ScriptInterface{&IidOf<Others>(), static_cast<Others*>(this)}...};
   }
 };
 

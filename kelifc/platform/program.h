@@ -7,18 +7,18 @@
 
 namespace KelIFC {
 
-// What a program on top of the library asks the system for. The functions are linked into programs
-// and are no part of the library.
+// What a program that uses the library asks the system. The functions are linked into programs; the
+// shared library does not contain them.
 
 /// Returns true if the stream is connected to a terminal.
 bool IsTerminal(std::FILE* stream);
 
-/// Makes the stream pass every byte unchanged from now on. Without it Windows translates line ends
-/// and ends an input at the byte 0x1A.
+/// Makes the stream pass each byte unchanged from now on. By default Windows converts line ends,
+/// and an input stream ends at the byte 0x1A.
 void SetBinary(std::FILE* stream);
 
-/// Returns the path of a file name that the command line gave. On Windows such a name is in the
-/// system's ANSI code page.
+/// Returns the path of a file name from the command line. On Windows such a name is in the system's
+/// ANSI code page.
 std::filesystem::path PathOfArgument(std::string_view name);
 
 }  // namespace KelIFC
