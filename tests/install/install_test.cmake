@@ -1,7 +1,8 @@
-# Installs into a folder, moves that folder, and uses it as a host's build would: by CMake package
-# and by pkg-config. The README's program and each installed header are compiled as well.
+# Installs into a folder, moves that folder and uses it as the build of a host does: by the CMake
+# package and by pkg-config. Compiles the program of the README and each installed header as well.
 
-# run(OUTPUT COMMAND...): the command must succeed; what it prints goes to the variable OUTPUT.
+# run(OUTPUT COMMAND...): runs a command, which must succeed. Stores its output in the variable
+# OUTPUT.
 function(run output)
   execute_process(COMMAND ${ARGN}
     RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE errors)
@@ -12,7 +13,7 @@ function(run output)
   set(${output} "${printed}" PARENT_SCOPE)
 endfunction()
 
-# expect_storeys(PRINTED): a host that was given the house must have named its storeys.
+# expect_storeys(PRINTED): fails unless the output of a host contains the storeys of the house.
 function(expect_storeys printed)
   foreach(storey "Ground floor" "Upper floor")
     if(NOT printed MATCHES "${storey}")
@@ -29,11 +30,11 @@ file(REMOVE_RECURSE "${WORK_DIR}")
 run(ignored "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/first")
 file(RENAME "${WORK_DIR}/first" "${prefix}")
 
-# The command finds its library wherever both were moved to.
+# The command finds its library after both were moved.
 run(printed "${prefix}/${BIN}/kelifc" structure "${model}")
 expect_storeys("${printed}")
 
-# By CMake package.
+# With the CMake package.
 foreach(example host walk)
   set(build_dir "${WORK_DIR}/${example}")
   run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples/${example}" -B "${build_dir}" -G Ninja
@@ -43,7 +44,7 @@ foreach(example host walk)
   expect_storeys("${printed}")
 endforeach()
 
-# By pkg-config, and with the program that the README shows.
+# With pkg-config. The program of the README is built as well.
 set(ENV{PKG_CONFIG_PATH} "${prefix}/${LIB}/pkgconfig")
 run(found pkg-config --cflags --libs kelifc)
 separate_arguments(found UNIX_COMMAND "${found}")
@@ -61,7 +62,7 @@ foreach(program "${SOURCE_DIR}/examples/host/main.cpp" "${SOURCE_DIR}/examples/w
   expect_storeys("${printed}")
 endforeach()
 
-# Hosts compile the headers with the warnings of their own projects, by both compilers and standards.
+# A host compiles the headers with its own warnings, with either compiler and standard.
 set(includer "${WORK_DIR}/includer.cpp")
 file(WRITE "${includer}" "#include <kelifc/kelifc.h>\n")
 foreach(name g++ clang++)
@@ -75,7 +76,7 @@ foreach(name g++ clang++)
   unset(compiler_of_host)
 endforeach()
 
-# Each installed header stands alone, is readable by C++17, and is one that kelifc.h needs.
+# Each installed header compiles alone as C++17, and kelifc.h includes it.
 set(include_dir "${prefix}/${INCLUDE}")
 file(GLOB_RECURSE headers RELATIVE "${include_dir}" "${include_dir}/*.h")
 run(needed "${COMPILER}" -std=c++17 -MM "-I${include_dir}" "${include_dir}/kelifc/kelifc.h")
