@@ -11,6 +11,7 @@ struct Box2 {
   /// The corner with the lowest x and the lowest y. The code that fills a box keeps it at or below
   /// `max` in both coordinates; nothing checks that.
   Point2 min;
+
   /// The corner with the highest x and the highest y.
   Point2 max;
 };

@@ -17,6 +17,7 @@ struct KELIFC_API Isometry3 {
   Vector3 yAxis = AxisY;
   Vector3 zAxis = AxisZ;
   Point3 translation;
+
   /// 1 if the axes form a frame. 0 if only the translation is valid; the axes are then those of the
   /// identity.
   std::int16_t isFrame = 1;

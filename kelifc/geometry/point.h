@@ -78,6 +78,7 @@ constexpr Vector3 operator-(const Vector3& v) { return {-v.x, -v.y, -v.z}; }
 constexpr double Dot(const Vector3& a, const Vector3& b) {
   return a.x * b.x + a.y * b.y + a.z * b.z;
 }
+
 /// Right-handed: Cross of x and y is z.
 constexpr Vector3 Cross(const Vector3& a, const Vector3& b) {
   return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};

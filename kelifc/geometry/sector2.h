@@ -22,6 +22,7 @@ struct KELIFC_API Sector2 {
   Point2 end;
 
   Sector2() = default;
+
   /// The segment between two points. They may coincide; then `a`, `b` and `c` are 0.
   Sector2(const Point2& from, const Point2& to) : start(from), end(to) { Update(); }
 

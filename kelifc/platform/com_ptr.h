@@ -13,6 +13,7 @@ template <class Interface>
 class ComPtr {
  public:
   ComPtr() = default;
+
   /// Adds a reference of its own. Null makes an empty pointer.
   explicit ComPtr(Interface* counted) : object(counted) { Hold(); }
   ComPtr(const ComPtr& other) : object(other.object) { Hold(); }

@@ -17,6 +17,7 @@ class FileReplacement {
   /// Creates the temporary file. It is a failure if the path is null or empty, the target may not
   /// be written, or no file can be created in the folder.
   explicit FileReplacement(const char* target);
+
   /// Removes the temporary file unless it has replaced the target.
   ~FileReplacement();
   FileReplacement(const FileReplacement&) = delete;
