@@ -1,8 +1,8 @@
 #ifndef KELIFC_KELIFC_H_
 #define KELIFC_KELIFC_H_
 
-// Everything that a host can use: IfcServer, the values and the entity classes of the five
-// releases, and the object model of the structure.
+// Includes everything that a host can use: the model server, the values and the entity classes of
+// the five releases, and the object model of the converted structure.
 
 #include "kelifc/core/binary.h"
 #include "kelifc/core/boolean.h"

@@ -7,9 +7,10 @@
 
 namespace KelIFC {
 
-/// The IfcServer of a server object, for C++ hosts that use both APIs, for example to follow the
-/// progress of a load or to read the instances that the structure was made from. The server object
-/// owns it. Returns null for null and for an object of another library.
+/// Returns the model of a server object, for C++ hosts that use both the class library and the
+/// object model. A host can then follow a load, or read the instances that the structure was
+/// converted from. The model belongs to the server object. Returns null for null and for an object
+/// of another library.
 KELIFC_API IfcServer* GetModel(IIFCServer* server);
 
 }  // namespace KelIFC

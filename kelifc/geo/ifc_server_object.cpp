@@ -12,7 +12,7 @@ namespace KelIFC {
 
 namespace {
 
-// What LoadIfcFile answers; anything else but 0 means that the file cannot be opened.
+// Results of LoadIfcFile. Any other means that the file cannot be opened.
 constexpr int kLoaded = 0;
 constexpr int kCannotOpen = 1;
 constexpr int kNoStepFile = 2;
@@ -22,7 +22,7 @@ int LoadFile(IfcServer& server, BSTR fileName) {
   const std::string path =
       NarrowPath(fileName == nullptr ? std::wstring_view()
                                      : std::wstring_view(fileName, SysStringLen(fileName)));
-  // No file has such a name; the part ahead of the null character may be that of another one.
+  // No file has a null character in its name. The part before it may be the name of another file.
   if (path.find('\0') != std::string::npos) return kCannotOpen;
   return server.LoadIfcFile(path.c_str());
 }

@@ -10,7 +10,7 @@
 
 namespace KelIFC {
 
-/// A storey, as import filled it. What a host writes does not go back into the model.
+/// A storey. The conversion fills it. What a host writes to it does not change the model.
 class CoGeoStorey : public CoGeoStoreyBase {
  public:
   HRESULT get_Height(double* out) override { return GetField(height, out); }
@@ -24,7 +24,7 @@ class CoGeoStorey : public CoGeoStoreyBase {
   double height = 0.0;  ///< in the unit of the file
   std::string name;
   SHORT number = kNoStoreyNumber;
-  _GUID guid = {};  ///< of the instance in the model; not shown to hosts
+  _GUID guid = {};  ///< of the instance in the model; no operation returns it
 
  protected:
   ~CoGeoStorey() = default;

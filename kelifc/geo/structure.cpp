@@ -11,14 +11,13 @@ namespace KelIFC {
 
 namespace {
 
-/// A child that needs no filling.
+/// Stores a child that is not filled.
 template <class Class>
 HRESULT GiveEmpty(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out) {
   return GiveChild<Class>(child, out, [](Class&) { return S_OK; });
 }
 
-/// A child that is filled from the model. Without a server object there is nothing to fill it from,
-/// and it is not made.
+/// Stores a child that is filled from the model. Without a server object it is not created.
 template <class Class, class Fill>
 HRESULT GiveFilled(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out,
                    const ServerLink& link, Fill&& fill) {
@@ -29,7 +28,7 @@ HRESULT GiveFilled(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out
   return GiveChild<Class>(child, out, [&](Class& made) { return fill(made, *server); });
 }
 
-/// The same for elements, of all storeys.
+/// Stores a collection of the elements of all storeys.
 template <class Class>
 HRESULT GiveElements(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out,
                      const ServerLink& link, HRESULT (*fill)(Class&, CoIFCServer&, SHORT)) {

@@ -13,12 +13,12 @@ namespace {
 constexpr std::string_view kDebugMark = "debug";
 constexpr int kBuild = 3857;
 
-/// Two numbers of versions that are closer are the same.
+/// Numbers of versions are equal if they differ by less than this.
 constexpr double kTolerance = 0.001;
 
 using Pieces = std::array<std::string, 5>;
 
-/// The text between the dots; what stands behind the fifth dot is left out.
+/// Returns the parts between the dots. The part after the fifth dot is ignored.
 Pieces Split(std::string_view text) {
   Pieces pieces;
   for (std::string& piece : pieces) {

@@ -46,7 +46,7 @@ foreach(example read entities)
   expect_storeys("${printed}")
 endforeach()
 
-# Hosts compile the headers with the warnings of their own projects, by both compilers and standards.
+# A host compiles the headers with its own warnings, with either compiler and standard.
 set(includer "${WORK_DIR}/includer.cpp")
 file(WRITE "${includer}" "#include <kelifc/kelifc.h>\n")
 foreach(name g++ clang++)
