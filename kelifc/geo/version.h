@@ -1,7 +1,6 @@
 #ifndef KELIFC_GEO_VERSION_H_
 #define KELIFC_GEO_VERSION_H_
 
-#include <string>
 #include <string_view>
 
 namespace KelIFC {
@@ -14,15 +13,12 @@ struct VersionRecord {
   bool isDebug = false;  ///< takes no part in the test
 };
 
-/// This library's version.
-extern const VersionRecord kOwnVersion;
-
-/// The version as text: "25.0." and the number of the build.
-std::string VersionText();
-
 /// Reads "MAJOR.MINOR.BUILD" or "MAJOR.MINOR.PACK.BUILD". A text of fewer than three pieces stands
 /// for an old version, 15.47 build 1273. Numbers are read as far as they go.
 VersionRecord ParseVersionText(std::string_view text);
+
+/// The version that this library reports, with its service pack.
+VersionRecord GetOwnVersion();
 
 /// True if `own` is at least as new as `other`: a newer major version is, an older one, or an older
 /// service pack, is not, and then the builds decide.
