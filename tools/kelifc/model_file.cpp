@@ -16,10 +16,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// What LoadIfcFile gives beside 0.
-constexpr int kCannotOpen = 1;
-constexpr int kNoStepFile = 2;
-
 /// The path of a name as the command line gives it: of the system's code page on Windows.
 fs::path PathOf(const std::string& name) {
 #ifdef _WIN32
@@ -62,9 +58,13 @@ void LoadModel(KelIFC::IfcServer& server, const std::string& path) {
   }
   const int code = server.LoadIfcFile(path.c_str());
   server.SetProgressHandler(nullptr);
-  if (code == 0) return;
-  if (code == kCannotOpen) throw Failure(Status::kFile, path, "the file cannot be opened");
-  if (code == kNoStepFile) throw Failure(Status::kNoModel, path, "not a STEP file");
+  if (code == KelIFC::LOAD_RESULT_LOADED) return;
+  if (code == KelIFC::LOAD_RESULT_CANNOT_OPEN) {
+    throw Failure(Status::kFile, path, "the file cannot be opened");
+  }
+  if (code == KelIFC::LOAD_RESULT_NO_STEP_FILE) {
+    throw Failure(Status::kNoModel, path, "not a STEP file");
+  }
   const std::string schema = Utf8FromLatin1(server.GetFileSchema());
   throw Failure(Status::kNoModel, path,
                 schema.empty() ? "no schema" : "unknown schema '" + schema + "'");
