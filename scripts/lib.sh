@@ -6,7 +6,7 @@ jobs=$(nproc)
 cd "$root"
 
 build_packages=(g++ cmake ninja-build pkg-config python3 libgtest-dev libgmock-dev libbenchmark-dev
-  libcli11-dev nlohmann-json3-dev)
+  libcli11-dev nlohmann-json3-dev zlib1g-dev libzip-dev)
 
 # Installs those of the named Debian packages that are missing.
 install_missing() {

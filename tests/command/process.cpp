@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -22,7 +23,8 @@ void Redirect(int stream, const std::string& path) {
 
 }  // namespace
 
-Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath) {
+Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath,
+               const std::string& inPath) {
   const TemporaryFolder folder;
   const std::string out = outPath.empty() ? folder.Path("out") : outPath;
   const std::string err = folder.Path("err");
@@ -34,6 +36,7 @@ Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& out
   if (child < 0) throw std::runtime_error("no process could be made");
   if (child == 0) {
     if (chdir(KelIFC::kExamplesDir) != 0) _exit(126);
+    if (std::freopen(inPath.c_str(), "rb", stdin) == nullptr) _exit(126);
     Redirect(STDOUT_FILENO, out);
     Redirect(STDERR_FILENO, err);
     execv(KELIFC_COMMAND, argv.data());

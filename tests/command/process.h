@@ -14,8 +14,10 @@ struct Outcome {
 };
 
 /// Runs the built command with these arguments in the folder of the shipped models. Standard output
-/// goes to the file `outPath` where one is named, and is then not in the result.
-Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath = "");
+/// goes to the file `outPath` where one is named, and is then not in the result. Standard input is
+/// the file `inPath`, empty where none is named.
+Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath = "",
+               const std::string& inPath = "/dev/null");
 
 /// The text of a file; empty for one that is not there.
 std::string ReadFile(const std::string& path);

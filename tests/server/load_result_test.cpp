@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "kelifc/server/ifc_server.h"
+
 #include "tests/server/temp_file.h"
 
 namespace KelIFC {

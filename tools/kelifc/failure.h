@@ -13,6 +13,7 @@ enum class Status {
   kNoModel = 2,         ///< not a STEP file, or of an unknown schema
   kNotConvertible = 3,  ///< of a release that has no structure conversion
   kUsage = 64,          ///< wrong usage
+  kMissing = 69,        ///< a component that this build lacks
 };
 
 /// Ends the command: `main` prints "kelifc: " and the message as one line and exits with the
