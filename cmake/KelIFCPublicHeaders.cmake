@@ -70,7 +70,9 @@ set(kelifc_public_headers
   kelifc/schema/dimensional_exponents.h
   kelifc/server/detail/instance_index.h
   kelifc/server/detail/number_index.h
+  kelifc/server/detail/project_classes.h
   kelifc/server/ifc_server.h
+  kelifc/server/load_result.h
   kelifc/server/release.h)
 
 # The headers that the generators write, below PROJECT_BINARY_DIR/generated. The folders that run a

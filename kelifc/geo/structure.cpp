@@ -6,6 +6,7 @@
 #include "kelifc/geo/sections.h"
 #include "kelifc/geo/storeys.h"
 #include "kelifc/geo/version.h"
+#include "kelifc/server/reported_version.h"
 
 namespace KelIFC {
 
@@ -76,7 +77,7 @@ HRESULT CoGeoStructure::get_Objects(IGeoObjects** out) {
 }
 
 HRESULT CoGeoStructure::get_Version(BSTR* out) {
-  return Guard([&] { return GiveText(VersionText(), out); });
+  return Guard([&] { return GiveText(kReportedVersion, out); });
 }
 
 HRESULT CoGeoStructure::IsCompatible(BSTR version, VARIANT_BOOL* out) {
@@ -84,7 +85,7 @@ HRESULT CoGeoStructure::IsCompatible(BSTR version, VARIANT_BOOL* out) {
   *out = VARIANT_FALSE;
   return Guard([&] {
     const VersionRecord other = ParseVersionText(NarrowText(version));
-    if (KelIFC::IsCompatible(kOwnVersion, other)) *out = VARIANT_TRUE;
+    if (KelIFC::IsCompatible(GetOwnVersion(), other)) *out = VARIANT_TRUE;
     return S_OK;
   });
 }

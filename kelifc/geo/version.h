@@ -1,7 +1,6 @@
 #ifndef KELIFC_GEO_VERSION_H_
 #define KELIFC_GEO_VERSION_H_
 
-#include <string>
 #include <string_view>
 
 namespace KelIFC {
@@ -14,15 +13,12 @@ struct VersionRecord {
   bool isDebug = false;  ///< not compared
 };
 
-/// The version of this library.
-extern const VersionRecord kOwnVersion;
-
-/// Returns the version as text: "25.0." and the number of the build.
-std::string VersionText();
-
 /// Reads "MAJOR.MINOR.BUILD" or "MAJOR.MINOR.PACK.BUILD". A text with fewer than three non-empty
 /// parts means version 15.47, build 1273. Non-numeric text reads as 0.
 VersionRecord ParseVersionText(std::string_view text);
+
+/// Returns the version that this library reports, with its service pack.
+VersionRecord GetOwnVersion();
 
 /// Returns true if `own` is at least as new as `other`. The major version is compared first, then
 /// the service pack, then the build. A newer service pack does not outweigh an older build.

@@ -13,12 +13,6 @@
 namespace KelIFC {
 namespace {
 
-// What LoadIfcFile gives.
-constexpr int kLoaded = 0;
-constexpr int kCannotOpen = 1;
-constexpr int kNoStepFile = 2;
-constexpr int kUnknownSchema = 3;
-
 // Models have a statement per 50 to 60 bytes, and room for the registry is made accordingly. What
 // is not used of it is address space, not memory. A file may claim any size, hence the bound.
 constexpr std::uint64_t kBytesPerStatement = 40;
@@ -29,7 +23,7 @@ constexpr std::uint64_t kMostExpected = std::uint64_t{1} << 24;
 int IfcServer::LoadIfcFile(const char* path) {
   Reset();
   fileSchema.clear();
-  if (path == nullptr || !IsRegularFile(path)) return kCannotOpen;
+  if (path == nullptr || !IsRegularFile(path)) return LOAD_RESULT_CANNOT_OPEN;
   struct LoadEnd {  // also where memory runs out in the middle
     LoadState& load;
     ~LoadEnd() { load = LoadState(); }
@@ -43,7 +37,7 @@ int IfcServer::LoadIfcFile(const char* path) {
     throw;
   }
   Reset();
-  return kCannotOpen;
+  return LOAD_RESULT_CANNOT_OPEN;
 }
 
 int IfcServer::LoadPasses(const char* path) {
@@ -52,19 +46,19 @@ int IfcServer::LoadPasses(const char* path) {
   std::optional<LoadArena> memory;
   if (!kIsMemoryWatched) memory.emplace();
   std::ifstream file(path, std::ios::binary);
-  if (!file) return kCannotOpen;
+  if (!file) return LOAD_RESULT_CANNOT_OPEN;
   schemaRecord.reset();
   headerSeen = false;
   ScanFile(file, this, true);
-  if (!headerSeen) return kNoStepFile;
-  if (GetRelease() == IFC_RELEASE_NONE) return kUnknownSchema;
-  if (load.isStopped) return kCannotOpen;
+  if (!headerSeen) return LOAD_RESULT_NO_STEP_FILE;
+  if (GetRelease() == IFC_RELEASE_NONE) return LOAD_RESULT_UNKNOWN_SCHEMA;
+  if (load.isStopped) return LOAD_RESULT_CANNOT_OPEN;
   load.bytesBefore = load.bytesTotal / 2;
   load.bytesReported = 0;
   std::ifstream again(path, std::ios::binary);
-  if (!again) return kCannotOpen;
+  if (!again) return LOAD_RESULT_CANNOT_OPEN;
   ScanFile(again, this, false);
-  return kLoaded;
+  return LOAD_RESULT_LOADED;
 }
 
 void IfcServer::MakeRoom(std::uint64_t fileSize) {
