@@ -72,6 +72,8 @@ set(kelifc_public_headers
   kelifc/server/detail/number_index.h
   kelifc/server/detail/project_classes.h
   kelifc/server/ifc_server.h
+  kelifc/server/load_findings.h
+  kelifc/server/load_options.h
   kelifc/server/load_result.h
   kelifc/server/release.h)
 

@@ -69,6 +69,11 @@ IfcUnknown* IfcServer::ParseClass(const char* text, const char** end) {
   return MakeByRelease(name);
 }
 
+IfcUnknown* IfcServer::MakeRaw(const char* text) {
+  const char* start = detail::SkipBlanks(text);
+  return MakeOther(std::string(start, GetNameLength(start)).c_str());
+}
+
 IfcUnknown* IfcServer::MakeByRelease(const char* name) {
   switch (release) {
     case IFC_RELEASE_151:

@@ -66,6 +66,7 @@ void IfcServer::Reset() {
   productPositions = {};
   slotsWithoutGuid = 0;
   mayRepeat = false;
+  dialect = STEP_DIALECT_CLASSIC;
 }
 
 // Leaves an instance that was registered twice in its first slot only. Takes no memory: that an

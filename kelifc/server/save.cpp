@@ -12,8 +12,10 @@
 #include "kelifc/platform/path.h"
 #include "kelifc/server/file_output.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/iso_statement.h"
 #include "kelifc/server/reported_version.h"
 #include "kelifc/server/schema_table.h"
+#include "kelifc/server/text_stream.h"
 
 namespace KelIFC {
 namespace {
@@ -47,6 +49,14 @@ void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view 
       << std::flush;
 }
 
+// A text as it stands between the quotes of the header. The classic dialect writes it as it is.
+std::string GetHeaderText(std::string_view text, STEP_DIALECT dialect) {
+  if (dialect == STEP_DIALECT_CLASSIC) return std::string(text);
+  std::string quoted;
+  AppendIsoString(quoted, text);
+  return quoted.substr(1, quoted.size() - 2);
+}
+
 }  // namespace
 
 int IfcServer::SaveIfcFile(const char* path) {
@@ -57,7 +67,7 @@ int IfcServer::SaveIfcFile(const char* path) {
   FileOutput file(path);
   if (!file.IsOpen()) return TellError(place + GetLastSystemError());
   std::ostream& out = file.GetStream();
-  WriteHeader(out, GetFileName(path), schema);
+  WriteHeader(out, GetHeaderText(GetFileName(path), dialect), schema);
   WriteInstances(out);
   detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
   if (!file.Close()) {
@@ -76,6 +86,7 @@ void IfcServer::WriteInstances(std::ostream& out) {
   constexpr std::size_t kBatch = 32;
   constexpr std::size_t kWritten = 256;  // bytes of an instance: all are read
   std::array<std::uint64_t, kBatch> batch = {};
+  TextStream statement;
   std::uint64_t last = 0;
   for (std::size_t count = kBatch; count == kBatch;) {
     count = 0;
@@ -86,7 +97,15 @@ void IfcServer::WriteInstances(std::ostream& out) {
     for (std::size_t i = 0; i < count; ++i) {
       detail::PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
     }
-    for (std::size_t i = 0; i < count; ++i) WriteInstance(out, batch[i]);
+    for (std::size_t i = 0; i < count; ++i) {
+      if (dialect == STEP_DIALECT_CLASSIC) {
+        WriteInstance(out, batch[i]);
+      } else {
+        statement.Clear();
+        WriteInstance(statement, batch[i]);
+        WriteIsoStatement(out, statement.GetText());
+      }
+    }
   }
 }
 

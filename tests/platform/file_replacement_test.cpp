@@ -37,7 +37,10 @@ class FileReplacementTest : public testing::Test {
         std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
   }
 
-  const fs::path folder = fs::path(testing::TempDir()) / "kelifc_file_replacement_test";
+  // Tests may run side by side, so each has a folder of its own.
+  const fs::path folder =
+      fs::path(testing::TempDir()) /
+      (std::string("kelifc_") + testing::UnitTest::GetInstance()->current_test_info()->name());
 };
 
 TEST_F(FileReplacementTest, ReplacesTheTargetWhenItIsCommitted) {

@@ -14,6 +14,9 @@ TEST(LoadResult, HasTheNumbersThatHostsKnow) {
   EXPECT_EQ(static_cast<int>(LOAD_RESULT_CANNOT_OPEN), 1);
   EXPECT_EQ(static_cast<int>(LOAD_RESULT_NO_STEP_FILE), 2);
   EXPECT_EQ(static_cast<int>(LOAD_RESULT_UNKNOWN_SCHEMA), 3);
+  EXPECT_EQ(static_cast<int>(LOAD_RESULT_LIMIT_REACHED), 4);
+  EXPECT_EQ(static_cast<int>(LOAD_RESULT_CANCELLED), 5);
+  EXPECT_EQ(static_cast<int>(LOAD_RESULT_UNSUPPORTED_RELEASE), 6);
 }
 
 int ResultOf(const char* text) { return IfcServer().LoadIfcFile(TempFile(text).GetPath()); }

@@ -47,8 +47,10 @@ void* AllocateAlone(std::size_t size) {
 
 void* detail::AllocateBlock(std::size_t size) {
   LoadArena* const arena = current;
-  return arena == nullptr || size > LoadArena::kLargestBlock ? AllocateAlone(size)
-                                                             : arena->Carve(size);
+  if (arena == nullptr) return AllocateAlone(size);
+  if (size <= LoadArena::kLargestBlock) return arena->Carve(size);
+  arena->bytes += size;
+  return AllocateAlone(size);
 }
 
 void detail::FreeBlock(void* block) noexcept {
@@ -84,6 +86,7 @@ void LoadArena::OpenChunk() {
   chunk = ::new (memory) Chunk{{kOpen}};
   cursor = memory + RoundUp(sizeof(Chunk) + kMark) - kMark;
   end = memory + nextSize;
+  bytes += nextSize;
   nextSize = std::min(2 * nextSize, kLargestChunk);
 }
 

@@ -24,6 +24,10 @@ class LoadArena {
   LoadArena(const LoadArena&) = delete;
   LoadArena& operator=(const LoadArena&) = delete;
 
+  /// The bytes that were taken from the heap for the blocks so far. Blocks that were given back
+  /// count, too.
+  std::uint64_t GetBytes() const { return bytes; }
+
  private:
   friend void* detail::AllocateBlock(std::size_t size);
   friend void detail::FreeBlock(void* block) noexcept;
@@ -39,6 +43,7 @@ class LoadArena {
   char* end = nullptr;
   std::uint32_t carved = 0;  // blocks of the chunk
   std::size_t nextSize;
+  std::uint64_t bytes = 0;
 };
 
 }  // namespace KelIFC
