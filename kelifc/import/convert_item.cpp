@@ -88,6 +88,7 @@ bool ConvertItem(MemberItemFacts& item, bool isShared, const Isometry3& outer,
   if (item.isExtrusion) {
     return ConvertExtrusion(item.extrusion, outer, chain, structure, element, shape);
   }
+  if (!item.hasShell) return true;
   shape.points.resize(2);
   if (isShared) {
     shape.boundary = item.boundary;

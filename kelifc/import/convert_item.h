@@ -10,7 +10,8 @@ namespace KelIFC {
 /// What an item gives a column or a beam, in world coordinates.
 struct MemberShape {
   /// The axis, from the profile's plane to the end of the extrusion. Both ends of a faceted solid
-  /// are at the origin of the world; a circle without position has none.
+  /// are at the origin of the world. A circle without a position and a faceted solid without a
+  /// shell have no axis.
   Mvector<Point3> points;
   BRep boundary;
 };

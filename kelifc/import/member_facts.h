@@ -19,7 +19,8 @@ struct MemberItemFacts {
   std::size_t number = 0;  ///< among the items of its representation, from 1
   bool isExtrusion = false;
   ExtrusionFacts extrusion;
-  BRep boundary;  ///< of a faceted solid, in metres
+  bool hasShell = false;  ///< true if the outer shell of a faceted solid is found
+  BRep boundary;          ///< of a faceted solid, in metres
 };
 
 /// A representation: the items that are understood.

@@ -128,6 +128,7 @@ template <class Release>
 bool MemberReader<Release>::ReadItem(const IfcRepresentationItem* item, MemberItemFacts& facts) {
   if (const auto* brep = CachedCast<typename Release::IfcFacetedBrep>(item)) {
     const auto* outer = brep->GetOuter();
+    facts.hasShell = outer != nullptr;
     if (outer != nullptr) CaptureShell<Release>(*outer, facts.boundary, scale);
     return true;
   }
