@@ -509,8 +509,10 @@ class Structure(Profiles):
             if self.model.kind(item) == "IFCFACETEDBREP":
                 return None
         if self.model.kind(item) == "IFCFACETEDBREP":
-            brep = self.faceted(self.model.args(item)[0], product(world, outer))
-            return "", [[0.0] * 3] * 2, brep
+            shell = self.model.args(item)[0]
+            if self.model.kind(shell) != "IFCCLOSEDSHELL":
+                return "", [], None
+            return "", [[0.0] * 3] * 2, self.faceted(shell, product(world, outer))
         if self.model.kind(item) != "IFCEXTRUDEDAREASOLID":
             return None
         profile, position, direction, depth = self.model.args(item)

@@ -111,6 +111,33 @@ TYPED_TEST(Beams, OfAFacetedSolidHaveABoundaryInTheWorldAndAnAxisAtItsOrigin) {
   EXPECT_EQ(this->SectionOf(*this->beams[0]), L"");
 }
 
+TYPED_TEST(Beams, OfAFacetedSolidWithoutAShellHaveNeitherAxisNorBoundary) {
+  auto& m = this->model;
+  const auto openShell =
+      m.Add("IFCOPENSHELL((" + this->Face({this->Outer(this->Square(0))}) + "))");
+  const auto placement = m.Local(m.Turned({10, 0, 0}, {0, 1, 0}));
+  for (const auto& outer : {Ref("$"), Ref("#99999"), openShell}) {
+    const auto solid = m.Add("IFCFACETEDBREP(" + outer + ")");
+    m.Beam(placement, m.Body({solid}));
+    m.Column(placement, m.Body({solid}));
+    m.Beam(placement, m.Body({m.Mapped(m.Placement({0, 0, 0}), m.Representation({solid}))}));
+  }
+  this->Convert();
+  this->beams = this->GetBeams();
+  EXPECT_THAT(this->beams, SizeIs(6));
+  for (const auto& beam : this->beams) {
+    EXPECT_THAT(PointsOf(*beam), IsEmpty());
+    EXPECT_TRUE(static_cast<CoGeoBeam&>(*beam).boundary.vertices.empty());
+    EXPECT_TRUE(static_cast<CoGeoBeam&>(*beam).boundary.faces.empty());
+  }
+  const auto columns = this->GetColumns();
+  EXPECT_THAT(columns, SizeIs(3));
+  for (const auto& column : columns) {
+    EXPECT_THAT(PointsOf(*column), IsEmpty());
+    EXPECT_TRUE(static_cast<CoGeoColumn&>(*column).boundary.vertices.empty());
+  }
+}
+
 TYPED_TEST(Beams, ShowTheirBoundaryToTheHost) {
   auto& m = this->model;
   const auto top = this->Face({this->Outer(this->Square(1))});
