@@ -8,36 +8,10 @@
 #include <vector>
 
 #include "tools/schemac/diagnostics.h"
+#include "tools/schemac/kinds.h"
 #include "tools/schemac/release_set.h"
 
 namespace schemac {
-
-/// What an attribute holds, or what a position of a record is read as.
-enum class Kind {
-  kString,
-  kLabel,       ///< IfcLabel where the release has it, else STRING
-  kIdentifier,  ///< IfcIdentifier where the release has it, else STRING
-  kReal,
-  kInteger,
-  kBoolean,
-  kLogical,
-  kMeasure,     ///< IfcLengthMeasure, also for measures other than length
-  kScientific,  ///< a REAL that is written with an exponent and never unset
-  kCoordinates,
-  kAngle,       ///< IfcCompoundPlaneAngleMeasure
-  kFlags,       ///< two bits
-  kEnumText,    ///< an enumeration kept as its text
-  kLabels,      ///< a list of labels
-  kIntegers,    ///< a list of whole numbers, as a defined type of its own
-  kReference,   ///< one reference
-  kSet,         ///< a set of references
-  kList,        ///< a list of references
-  kEnum,        ///< an enumeration with a table
-  kValue,       ///< a typed value in place
-  kGlobalId64,  ///< the identifier of 22 characters, checked when read, made when missing
-  kGlobalId85,  ///< the identifier of 20 characters, made when missing
-  kInstance,    ///< an instance held by value, a cache
-};
 
 /// An attribute that a class stores.
 struct Attribute {

@@ -10,6 +10,7 @@
 
 #include "tools/schemac/emitters.h"
 #include "tools/schemac/parser.h"
+#include "tools/schemac/resolver.h"
 #include "tools/schemac/text_files.h"
 
 namespace {

@@ -1,39 +1,15 @@
 #include "tools/schemac/resolver.h"
 
 #include <algorithm>
-#include <array>
 #include <cctype>
 #include <sstream>
 
+#include "tools/schemac/core_classes.h"
 #include "tools/schemac/operations.h"
 
 namespace schemac {
 
 namespace {
-
-constexpr std::string_view kRoot = "IfcUnknown";
-
-constexpr std::array kCoreClasses = {
-    CoreClass{"IfcUnknown", "kelifc/core/unknown.h", true, true},
-    CoreClass{"IfcValue", "kelifc/core/value.h", true, false},
-    CoreClass{"IfcMaterialSelect", "kelifc/core/selects.h", true, false},
-    CoreClass{"IfcActorSelect", "kelifc/core/selects.h", true, false},
-    CoreClass{"IfcTrimmingSelect", "kelifc/core/selects.h", false, false},
-    CoreClass{"IfcBooleanOperand", "kelifc/core/selects.h", false, false},
-    CoreClass{"IfcGeometricSetSelect", "kelifc/core/selects.h", false, false},
-    CoreClass{"IfcUnit", "kelifc/core/selects.h", false, false},
-    CoreClass{"IfcRepresentationItem", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcGeometricRepresentationItem", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcSurface", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcSolidModel", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcPoint", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcCartesianPoint", "kelifc/core/cartesian_point.h", true, true},
-    CoreClass{"IfcBoundingBox", "kelifc/core/bounding_box.h", true, true},
-    CoreClass{"IfcUnitAssignment", "kelifc/core/unit_assignment.h", true, true},
-    CoreClass{"IfcTrimmingPreference", "kelifc/core/trimming_preference.h", false, false},
-    CoreClass{"IfcLengthMeasure", "kelifc/core/length_measure.h", true, true},
-    CoreClass{"IfcParameterValue", "kelifc/core/parameter_value.h", true, true},
-};
 
 std::vector<std::string> Words(const std::string& text) {
   std::istringstream in(text);
@@ -80,9 +56,7 @@ class Resolver {
  private:
   void CollectNames() {
     for (const auto& enumeration : description.enumerations) {
-      if (enumeration.isCore || FindTable(enumeration, release) != nullptr) {
-        AddUnique(model.enumerations, enumeration);
-      }
+      if (model.FindTable(enumeration) != nullptr) AddUnique(model.enumerations, enumeration);
     }
     for (const auto& type : description.definedTypes) {
       if (type.releases.Has(release)) AddUnique(model.definedTypes, type);
@@ -186,7 +160,7 @@ class Resolver {
       throw DescriptionError(step.place, "the class " + step.target + " is not described");
     }
     const bool namesAttribute = step.act == Step::Act::kAttribute || step.act == Step::Act::kLink;
-    if (namesAttribute && FindAttribute(model, type, step.name) == nullptr) {
+    if (namesAttribute && model.FindAttribute(type, step.name) == nullptr) {
       throw DescriptionError(step.place, "no attribute " + step.name + " in this release");
     }
   }
@@ -207,10 +181,9 @@ class Resolver {
   void CheckTypes(const ResolvedClass& type) const {
     for (const Attribute* attribute : type.attributes) {
       if (attribute->type.empty()) continue;
-      const bool isEnumeration =
-          attribute->kind == Kind::kEnum || attribute->kind == Kind::kEnumText;
-      const bool known = isEnumeration ? model.enumerations.count(attribute->type) != 0
-                                       : model.KnowsClass(attribute->type);
+      const bool known = InfoOf(attribute->kind).namesEnumeration
+                             ? model.enumerations.count(attribute->type) != 0
+                             : model.KnowsClass(attribute->type);
       if (!known) {
         throw DescriptionError(attribute->place, attribute->type + " is not described in release " +
                                                      std::string(kReleases[release].mark));
@@ -235,35 +208,6 @@ class Resolver {
 };
 
 }  // namespace
-
-const CoreClass* FindCoreClass(std::string_view name) {
-  for (const auto& row : kCoreClasses) {
-    if (row.name == name) return &row;
-  }
-  return nullptr;
-}
-
-std::set<std::string> CoreHeaders() {
-  std::set<std::string> headers;
-  for (const auto& row : kCoreClasses) headers.emplace(row.header);
-  return headers;
-}
-
-const EnumTable* FindTable(const Enumeration& enumeration, std::size_t release) {
-  for (const auto& table : enumeration.tables) {
-    if (table.releases.Has(release)) return &table;
-  }
-  return nullptr;
-}
-
-const ResolvedClass* ReleaseModel::Find(std::string_view name) const {
-  const auto at = indexOf.find(name);
-  return at == indexOf.end() ? nullptr : &classes[at->second];
-}
-
-bool ReleaseModel::KnowsClass(std::string_view name) const {
-  return Find(name) != nullptr || FindCoreClass(name) != nullptr || definedTypes.count(name) != 0;
-}
 
 ReleaseModel Resolve(const Description& description, std::size_t release) {
   return Resolver(description, release).Run();

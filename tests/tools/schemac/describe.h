@@ -7,6 +7,7 @@
 
 #include "tools/schemac/emitters.h"
 #include "tools/schemac/parser.h"
+#include "tools/schemac/resolver.h"
 
 namespace schemac {
 

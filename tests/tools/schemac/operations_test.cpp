@@ -89,10 +89,5 @@ TEST(ResolveOperations, AddsToAggregatesOnly) {
             "f.schema:5:7: error: X is no aggregate");
 }
 
-TEST(MemberName, StartsInLowerCaseAndIsNoWordOfTheLanguage) {
-  EXPECT_EQ(MemberName("XDim"), "xDim");
-  EXPECT_EQ(MemberName("Operator"), "operatorValue");
-}
-
 }  // namespace
 }  // namespace schemac
