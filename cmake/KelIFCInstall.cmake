@@ -17,7 +17,7 @@ set(internal_headers
   platform/com_class platform/com_dispatch platform/com_guard platform/com_module
   platform/com_object platform/com_registration platform/com_type_library
   platform/local_time platform/memory_watch platform/new_guid platform/path
-  schema/bodies schema/record schema/references
+  schema/bodies schema/body_editing schema/record schema/references
   server/block_search server/file_output server/name_table server/release_tables server/scanner
   server/schema_table server/statements)
 list(JOIN internal_headers "|" internal_headers)

@@ -50,6 +50,10 @@ void TextWriter::Call(const std::string& head, const std::vector<std::string>& a
   Line(line);
 }
 
+std::size_t TextWriter::LineCount() const {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
 std::string FamilyFile(std::string_view releaseFolder, std::string_view family,
                        std::string_view ending) {
   return "kelifc/schema/" + std::string(releaseFolder) + "/" + std::string(family) +

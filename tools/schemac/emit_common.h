@@ -34,6 +34,9 @@ class TextWriter {
 
   const std::string& Text() const { return text; }
 
+  /// How many lines have been ended.
+  std::size_t LineCount() const;
+
  private:
   std::string text;
 };

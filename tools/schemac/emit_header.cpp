@@ -196,7 +196,9 @@ class HeaderEmitter {
     EmitConstructors(type, words);
     if (entity.made.Has(model.release)) out.Fill(kNewItem, words);
     out.Fill(kNames, words);
+    if (type.customParse) EmitPlaces("  ", *type.customParse);
     if (type.hasParse) out.Line("  const char* Parse(const char* cursor) override;");
+    if (type.customWrite) EmitPlaces("  ", *type.customWrite);
     if (type.hasWrite) out.Line("  std::ostream& Write(std::ostream& out) const override;");
     EmitOperations(type);
     EmitFields(type);
@@ -217,9 +219,10 @@ class HeaderEmitter {
   void EmitConstructors(const ResolvedClass& type, const TemplateWords& words) {
     const bool isAbstract = type.entity->isAbstract;
     if (!isAbstract) out.Fill("  @name@();\n", words);
-    for (const auto& parameters : type.constructors) {
-      const bool isSingle = parameters.find(',') == std::string::npos;
-      out.Line((isSingle ? "  explicit " : "  ") + type.entity->name + parameters + ";");
+    for (const auto& constructor : type.constructors) {
+      const bool isSingle = constructor.text.find(',') == std::string::npos;
+      EmitPlaces("  ", constructor);
+      out.Line((isSingle ? "  explicit " : "  ") + type.entity->name + constructor.text + ";");
     }
     out.Fill(kCopy, words);
     if (!isAbstract) out.Fill("  ~@name@() override;\n", words);
@@ -235,6 +238,7 @@ class HeaderEmitter {
         out.Line(isProtected ? " protected:" : " public:");
       }
       if (!operation.doc.empty()) out.Doc("  ", operation.doc);
+      if (operation.body.empty()) EmitPlaces("  ", operation);
       std::string line = operation.isVirtual ? "  virtual " : "  ";
       line += operation.result + " " + operation.name + "(" + operation.parameters + ")";
       if (operation.isConst) line += " const";
@@ -264,13 +268,26 @@ class HeaderEmitter {
   }
 
   void EmitFunctions() {
-    for (const Function* function : model.functions) {
-      if (function->family != family.name) continue;
-      out.Doc("", function->doc);
-      out.Line("KELIFC_API " + function->result + " " + function->name + function->parameters +
-               ";");
+    for (const auto& resolved : model.functions) {
+      const Function& function = *resolved.function;
+      if (function.family != family.name) continue;
+      out.Doc("", function.doc);
+      EmitPlaces("", HandWritten{"", function.place, resolved.bodyPlace});
+      out.Line("KELIFC_API " + function.result + " " + function.name + function.parameters + ";");
       out.Line();
     }
+  }
+
+  /// Where a part that is written by hand is described and defined.
+  template <class Part>
+  void EmitPlaces(const std::string& indent, const Part& part) {
+    if (part.bodyPlace.file.empty()) return;
+    out.Line(indent + "// Description: " + Text(part.place) + ". Body: " + Text(part.bodyPlace) +
+             ".");
+  }
+
+  static std::string Text(const Place& place) {
+    return place.file + ":" + std::to_string(place.line);
   }
 
   const ReleaseModel& model;

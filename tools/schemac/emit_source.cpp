@@ -62,6 +62,11 @@ constexpr std::string_view kNewItem =
     R"(@name@* @name@::NewItem(IfcServer* server) { return MakeItem<@name@>(server); }
 )";
 
+/// The directives give messages and debuggers the places in the file that a body comes from.
+constexpr std::string_view kBody = R"(// The bodies of @name@, from @file@:@line@.
+#line @next@ "@file@"
+@text@)";
+
 constexpr std::string_view kOperation = R"(@result@ @class@::@name@(@parameters@)@const@ {
 @body@}
 
@@ -71,7 +76,10 @@ constexpr std::string_view kOperation = R"(@result@ @class@::@name@(@parameters@
 class SourceEmitter {
  public:
   SourceEmitter(const ReleaseModel& model, const Family& family)
-      : model(model), family(family), info(kReleases[model.release]) {}
+      : model(model),
+        family(family),
+        info(kReleases[model.release]),
+        path(FamilyFile(info.folder, family.name, ".cpp")) {}
 
   std::string Run() {
     TemplateWords words = WordsOf(info);
@@ -84,8 +92,8 @@ class SourceEmitter {
     for (const auto& type : model.classes) {
       if (type.entity->family == family.name) EmitClass(type);
     }
-    for (const Function* function : model.functions) {
-      if (function->family == family.name) IncludeBody(function->name);
+    for (const auto& function : model.functions) {
+      if (function.function->family == family.name) CopyBodies(function.bodies);
     }
     out.Fill("}  // namespace @namespace@\n", words);
     return out.Text();
@@ -126,7 +134,7 @@ class SourceEmitter {
     if (type.hasParse && !type.customParse) EmitParse(type);
     if (type.hasWrite && !type.customWrite) EmitWrite(type);
     for (const auto& operation : type.operations) EmitOperation(type, operation);
-    for (const auto& body : type.bodies) IncludeFile(body);
+    CopyBodies(type.bodies);
   }
 
   void EmitParse(const ResolvedClass& type) {
@@ -191,21 +199,23 @@ class SourceEmitter {
                           {"body", body.Text()}});
   }
 
-  void IncludeBody(const std::string& name) {
-    std::string file;
-    for (const char c : name)
-      file += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    IncludeFile(file + ".inl");
-  }
-
-  void IncludeFile(const std::string& file) {
-    out.Line("#include \"kelifc/schema/" + family.name + "/" + file + "\"");
+  void CopyBodies(const std::vector<const Body*>& bodies) {
+    for (const Body* body : bodies) {
+      out.Fill(kBody, {{"name", body->name},
+                       {"file", body->place.file},
+                       {"line", std::to_string(body->place.line)},
+                       {"next", std::to_string(body->place.line + 1)},
+                       {"text", body->text}});
+    }
+    if (bodies.empty()) return;
+    out.Line("#line " + std::to_string(out.LineCount() + 2) + " \"" + path + "\"");
     out.Line();
   }
 
   const ReleaseModel& model;
   const Family& family;
   const ReleaseInfo& info;
+  const std::string path;
   TextWriter out;
 };
 

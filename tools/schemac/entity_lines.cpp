@@ -52,8 +52,8 @@ class EntityLine {
 
   void ReadBase() { entity.bases.push_back({in.Rest(), releases}); }
   void ReadChain() { entity.chains.push_back({in.Name("a class"), releases}); }
-  void ReadMake() { entity.constructors.push_back({in.Rest(), releases}); }
-  void ReadBodies() { entity.bodies.push_back({in.Rest(), releases}); }
+  void ReadMake() { entity.constructors.push_back(Marked{in.Rest(), releases, line.place}); }
+  void ReadDeparts() { entity.departures.push_back({in.Rest(), releases}); }
 
   void ReadTell() {
     const std::string operation = in.Name("an operation");
@@ -138,17 +138,21 @@ class EntityLine {
     return step;
   }
 
-  void ReadCustom() { AddParseOrWrite(entity.customParse, entity.customWrite); }
-  void ReadWithout() { AddParseOrWrite(entity.noParse, entity.noWrite); }
+  void ReadCustom() {
+    auto& custom = ReadsParse() ? entity.customParse : entity.customWrite;
+    custom.push_back({"", releases, line.place});
+  }
 
-  void AddParseOrWrite(ReleaseSet& parse, ReleaseSet& write) {
-    if (in.Take("Parse")) {
-      parse = parse | releases;
-    } else if (in.Take("Write")) {
-      write = write | releases;
-    } else {
-      in.Fail("expected 'Parse' or 'Write'");
-    }
+  void ReadWithout() {
+    ReleaseSet& without = ReadsParse() ? entity.noParse : entity.noWrite;
+    without = without | releases;
+  }
+
+  /// Reads `Parse`, which gives true, or `Write`.
+  bool ReadsParse() {
+    if (in.Take("Parse")) return true;
+    if (!in.Take("Write")) in.Fail("expected 'Parse' or 'Write'");
+    return false;
   }
 
   /// Getters, then setters, of all attributes described so far.
@@ -186,6 +190,7 @@ class EntityLine {
       operation.place = in.Here();
       operation.name = in.Name("an operation");
       operation.bothForms = in.Take("~");
+      operation.isForward = in.Take("forward");
       if (in.Take("=")) operation.attribute = in.Name("an attribute");
       if (in.Take("(")) {
         operation.hasSignature = true;
@@ -254,7 +259,7 @@ const std::array<EntityLine::Directive, 18> EntityLine::kDirectives = {{
     {"base", &EntityLine::ReadBase},
     {"chain", &EntityLine::ReadChain},
     {"make", &EntityLine::ReadMake},
-    {"bodies", &EntityLine::ReadBodies},
+    {"departs", &EntityLine::ReadDeparts},
     {"tell", &EntityLine::ReadTell},
     {"drop", &EntityLine::ReadDrop},
     {"literal", &EntityLine::ReadLiterals},

@@ -25,6 +25,10 @@ class OperationWriter {
       AddByHand(operation);
       return;
     }
+    if (operation.isForward) {
+      AddForward(operation);
+      return;
+    }
     const Verb* verb = FindVerb(operation);
     if (verb != nullptr) (this->*verb->add)(operation);
   }
@@ -53,8 +57,30 @@ class OperationWriter {
     type.operations.push_back(std::move(resolved));
   }
 
+  /// A const operation that calls the one with '_' in front of its name.
+  void AddForward(const Operation& operation) {
+    const std::string inner = "_" + operation.name;
+    const auto& all = type.operations;
+    const auto found = std::find_if(all.begin(), all.end(), [&](const ResolvedOperation& one) {
+      return one.name == inner && one.parameters.empty();
+    });
+    if (found == all.end()) {
+      throw DescriptionError(operation.place, operation.name + " forwards to " + inner +
+                                                  ", which stands nowhere above it");
+    }
+    ResolvedOperation resolved = Begin(operation);
+    resolved.isConst = true;
+    resolved.doc = found->doc;
+    resolved.result = (found->isConst ? "" : "const ") + found->result;
+    resolved.body = {found->isConst
+                         ? "return " + inner + "();"
+                         : "return const_cast<" + type.entity->name + "*>(this)->" + inner + "();"};
+    type.operations.push_back(std::move(resolved));
+  }
+
   static ResolvedOperation Begin(const Operation& operation) {
     ResolvedOperation resolved;
+    resolved.place = operation.place;
     resolved.name = operation.name;
     resolved.isVirtual = operation.isVirtual && !operation.isOverride;
     resolved.isOverride = operation.isOverride;

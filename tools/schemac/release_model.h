@@ -2,6 +2,7 @@
 #define KELIFC_TOOLS_SCHEMAC_RELEASE_MODEL_H_
 
 #include <map>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -21,6 +22,15 @@ struct ResolvedOperation {
   bool isProtected = false;
   std::string doc;
   std::vector<std::string> body;  ///< statements; empty: written by hand
+  Place place;                    ///< of its description
+  Place bodyPlace;                ///< of its definition, where it is written by hand
+};
+
+/// A constructor, Parse or Write that is written by hand.
+struct HandWritten {
+  std::string text;  ///< the parameters of a constructor, in parentheses
+  Place place;       ///< of its description
+  Place bodyPlace;   ///< of its definition
 };
 
 /// An entity in one release.
@@ -35,12 +45,19 @@ struct ResolvedClass {
   bool isUnknown = false;  ///< derives from IfcUnknown
   bool hasParse = false;
   bool hasWrite = false;
-  bool customParse = false;
-  bool customWrite = false;
+  std::optional<HandWritten> customParse;
+  std::optional<HandWritten> customWrite;
   std::vector<ResolvedOperation> operations;
-  std::vector<std::string> constructors;
+  std::vector<HandWritten> constructors;
   std::vector<std::string> departures;
-  std::vector<std::string> bodies;  ///< files of the operations that are written by hand
+  std::vector<const Body*> bodies;  ///< the sections of code that is written by hand
+};
+
+/// A free function in one release.
+struct ResolvedFunction {
+  const Function* function = nullptr;
+  Place bodyPlace;
+  std::vector<const Body*> bodies;
 };
 
 /// Everything of one release, in the order of the description. It refers to the description, which
@@ -51,7 +68,7 @@ struct ReleaseModel {
   std::map<std::string, std::size_t, std::less<>> indexOf;  ///< from class name into `classes`
   std::map<std::string, const DefinedType*, std::less<>> definedTypes;
   std::map<std::string, const Enumeration*, std::less<>> enumerations;
-  std::vector<const Function*> functions;
+  std::vector<ResolvedFunction> functions;
 
   /// The class of a name; null for a name that the release lacks, and for a class of the core.
   const ResolvedClass* Find(std::string_view name) const;

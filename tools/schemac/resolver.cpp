@@ -1,7 +1,6 @@
 #include "tools/schemac/resolver.h"
 
 #include <algorithm>
-#include <cctype>
 #include <sstream>
 
 #include "tools/schemac/core_classes.h"
@@ -28,11 +27,6 @@ const Marked* LastFor(const std::vector<Marked>& pieces, std::size_t release) {
   return last == pieces.rend() ? nullptr : &*last;
 }
 
-std::string ToLower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
-
 /// Builds the model of one release from the description.
 class Resolver {
  public:
@@ -48,7 +42,6 @@ class Resolver {
     for (auto& type : model.classes) {
       CheckTypes(type);
       ResolveOperations(type, model);
-      CollectBodies(type);
     }
     return std::move(model);
   }
@@ -72,7 +65,7 @@ class Resolver {
       model.classes.push_back(std::move(type));
     }
     for (const auto& function : description.functions) {
-      if (function.releases.Has(release)) model.functions.push_back(&function);
+      if (function.releases.Has(release)) model.functions.push_back({&function, {}, {}});
     }
   }
 
@@ -101,7 +94,7 @@ class Resolver {
       if (attribute.releases.Has(release)) type.attributes.push_back(&attribute);
     }
     for (const auto& piece : entity.constructors) {
-      if (piece.releases.Has(release)) type.constructors.push_back(piece.text);
+      if (piece.releases.Has(release)) type.constructors.push_back({piece.text, piece.place, {}});
     }
     for (const auto& piece : entity.departures) {
       if (piece.releases.Has(release)) type.departures.push_back(piece.text);
@@ -123,8 +116,12 @@ class Resolver {
     }
     for (const auto& step : type.reads) CheckStep(type, step);
     for (const auto& step : type.writes) CheckStep(type, step);
-    type.customParse = entity.customParse.Has(release);
-    type.customWrite = entity.customWrite.Has(release);
+    if (const Marked* parse = LastFor(entity.customParse, release)) {
+      type.customParse = HandWritten{"", parse->place, {}};
+    }
+    if (const Marked* write = LastFor(entity.customWrite, release)) {
+      type.customWrite = HandWritten{"", write->place, {}};
+    }
     type.hasParse = type.customParse || (!type.reads.empty() && !entity.noParse.Has(release));
     type.hasWrite = type.customWrite || (!type.writes.empty() && !entity.noWrite.Has(release));
     type.readBase = Ancestor(type, &ResolvedClass::hasParse);
@@ -188,17 +185,6 @@ class Resolver {
         throw DescriptionError(attribute->place, attribute->type + " is not described in release " +
                                                      std::string(kReleases[release].mark));
       }
-    }
-  }
-
-  void CollectBodies(ResolvedClass& type) const {
-    bool byHand = type.customParse || type.customWrite || !type.constructors.empty();
-    for (const auto& operation : type.operations) byHand |= operation.body.empty();
-    const Marked* named = LastFor(type.entity->bodies, release);
-    if (named != nullptr) {
-      for (const auto& file : Words(named->text)) type.bodies.push_back(file + ".inl");
-    } else if (byHand) {
-      type.bodies.push_back(ToLower(type.entity->name) + ".inl");
     }
   }
 

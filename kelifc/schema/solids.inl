@@ -1,3 +1,5 @@
+// entity IfcAttDrivenExtrudedSolid
+
 namespace {
 
 constexpr double kPi = 3.14159265358979323846;
@@ -109,4 +111,35 @@ const IfcPolyLine* IfcAttDrivenExtrudedSolid::GetPath() const {
     if (polyline != nullptr) outline = *polyline;
   }
   return &outline;
+}
+
+// entity IfcSweptDiskSolid
+
+namespace {
+
+/// What a reference to the value would be numbered: a value in place has no number.
+double NumberInPlace(IfcReal* value, IfcUnknown& owner) {
+  if (value == nullptr) return 0.0;
+  value->SetServer(owner.GetServer());
+  MEMBER member(&owner);
+  member = value;
+  return static_cast<double>(static_cast<std::size_t>(member));
+}
+
+}  // namespace
+
+void IfcSweptDiskSolid::SetStartParam(IfcReal* item) { startParam = NumberInPlace(item, *this); }
+
+void IfcSweptDiskSolid::SetEndParam(IfcReal* item) { endParam = NumberInPlace(item, *this); }
+
+// entity IfcHalfSpaceSolid
+
+INTEGER IfcHalfSpaceSolid::GetDim() const { return INTEGER(3); }
+
+// entity IfcElementarySurface
+
+INTEGER IfcElementarySurface::GetDim() const {
+  const auto* place = dynamic_cast<const IfcAxis2Placement3D*>(FindInstance(
+      const_cast<IfcElementarySurface*>(this)->GetServer(), static_cast<std::size_t>(position)));
+  return place == nullptr ? INTEGER(0) : place->GetDim();
 }

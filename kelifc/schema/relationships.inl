@@ -1,3 +1,5 @@
+// entity IfcRelFillsElement
+
 const char* IfcRelFillsElement::Parse(const char* cursor) {
   cursor =
       ParseRecord(IfcRelationship::Parse(cursor), relatingOpeningElement, relatedBuildingElement);

@@ -1,3 +1,5 @@
+// entity IfcShapeRepresentation [151]
+
 namespace {
 
 /// The first item of a class, null if there is none.

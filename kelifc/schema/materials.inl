@@ -1,3 +1,5 @@
+// entity IfcMaterialLayerSet [2x..]
+
 IfcLengthMeasure IfcMaterialLayerSet::GetTotalThickness() const {
   double sum = 0.0;
   const LIST<const IfcMaterialLayer*> layers = GetMaterialLayers();
