@@ -1,11 +1,13 @@
 # What `cmake --install` lays out: the shared library, its headers in the folders that the includes
-# name, the command, and the two ways a build system finds them: CMake package and pkg-config.
+# name, the command, and the two ways a build system finds them: CMake package and pkg-config. The
+# components are `runtime`, `headers`, `development` and `command`.
 include(CMakePackageConfigHelpers)
+set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME headers)
 
 install(TARGETS kelifc EXPORT KelIFCTargets
-  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}"
-  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT runtime NAMELINK_COMPONENT development
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
+  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
 
 # install_headers(ROOT HEADERS...): installs headers, named by their path below ROOT. The path below
 # the include folder is the same, so an include line works in the tree and in an installation.
@@ -20,41 +22,53 @@ install_headers("${PROJECT_SOURCE_DIR}" ${kelifc_public_headers})
 install_headers("${PROJECT_BINARY_DIR}/generated" ${kelifc_generated_headers})
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/KelIFC")
-install(EXPORT KelIFCTargets NAMESPACE KelIFC:: DESTINATION "${package_dir}")
+install(EXPORT KelIFCTargets NAMESPACE KelIFC:: DESTINATION "${package_dir}" COMPONENT development)
 configure_package_config_file(
   "${CMAKE_CURRENT_LIST_DIR}/KelIFCConfig.cmake.in" "${PROJECT_BINARY_DIR}/KelIFCConfig.cmake"
   INSTALL_DESTINATION "${package_dir}")
 write_basic_package_version_file("${PROJECT_BINARY_DIR}/KelIFCConfigVersion.cmake"
   COMPATIBILITY SameMajorVersion)
 install(FILES "${PROJECT_BINARY_DIR}/KelIFCConfig.cmake"
-  "${PROJECT_BINARY_DIR}/KelIFCConfigVersion.cmake" DESTINATION "${package_dir}")
+  "${PROJECT_BINARY_DIR}/KelIFCConfigVersion.cmake"
+  DESTINATION "${package_dir}" COMPONENT development)
 
 # kelifc.pc names its folders relative to itself, so an installed tree can be moved as a whole.
 set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH pc_prefix "/prefix/${pc_dir}" "/prefix")
 configure_file("${CMAKE_CURRENT_LIST_DIR}/kelifc.pc.in" "${PROJECT_BINARY_DIR}/kelifc.pc" @ONLY)
-install(FILES "${PROJECT_BINARY_DIR}/kelifc.pc" DESTINATION "${pc_dir}")
+install(FILES "${PROJECT_BINARY_DIR}/kelifc.pc" DESTINATION "${pc_dir}" COMPONENT development)
 
+# The command finds its library relative to itself; in a system's own folders the system finds it.
 if(TARGET kelifc_command)
-  file(RELATIVE_PATH bin_to_lib "/prefix/${CMAKE_INSTALL_BINDIR}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
-  set_target_properties(kelifc_command PROPERTIES INSTALL_RPATH "$ORIGIN/${bin_to_lib}")
-  install(TARGETS kelifc_command RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+  if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
+    file(RELATIVE_PATH bin_to_lib "/prefix/${CMAKE_INSTALL_BINDIR}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
+    set_target_properties(kelifc_command PROPERTIES INSTALL_RPATH "$ORIGIN/${bin_to_lib}")
+  endif()
+  install(TARGETS kelifc_command
+    RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT command)
+  if(NOT WIN32)
+    configure_file("${PROJECT_SOURCE_DIR}/tools/kelifc/kelifc.1.in" "${PROJECT_BINARY_DIR}/kelifc.1" @ONLY)
+    install(FILES "${PROJECT_BINARY_DIR}/kelifc.1"
+      DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT command)
+  endif()
 endif()
 
 # On Windows the whole is a folder to unpack: library and command in bin, what script hosts and other
 # compilers build on in share, with examples for both.
 if(WIN32)
   install(FILES "${PROJECT_BINARY_DIR}/generated/kelifc/geo/kelifc.idl"
-    "${PROJECT_BINARY_DIR}/KelIFC.tlb" DESTINATION "${CMAKE_INSTALL_DATADIR}/KelIFC")
-  install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples" DESTINATION "${CMAKE_INSTALL_DATADIR}/KelIFC")
+    "${PROJECT_BINARY_DIR}/KelIFC.tlb"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/KelIFC" COMPONENT development)
+  install(DIRECTORY "${PROJECT_SOURCE_DIR}/examples"
+    DESTINATION "${CMAKE_INSTALL_DATADIR}/KelIFC" COMPONENT development)
   install(FILES "${PROJECT_SOURCE_DIR}/docs/windows.md" "${PROJECT_SOURCE_DIR}/docs/object-model.md"
-    DESTINATION "${CMAKE_INSTALL_DOCDIR}")
-  set(CPACK_GENERATOR ZIP)
-  set(CPACK_PACKAGE_FILE_NAME "KelIFC-${PROJECT_VERSION}-win64")
-  set(CPACK_STRIP_FILES ON)
-  include(CPack)
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)
 endif()
 
 # The reference pages of the entity classes, which schemac leaves beside them.
 install(DIRECTORY "${PROJECT_BINARY_DIR}/generated/docs/reference"
-  DESTINATION "${CMAKE_INSTALL_DOCDIR}")
+  DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)
+
+if(PROJECT_IS_TOP_LEVEL)
+  include(KelIFCPackages)
+endif()

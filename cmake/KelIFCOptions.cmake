@@ -1,7 +1,19 @@
-# Switches of the build, and the compile settings that the targets of the project share.
-option(KELIFC_BUILD_COMMAND "Build the kelifc command" ${PROJECT_IS_TOP_LEVEL})
-option(KELIFC_BUILD_TESTS "Build the tests" ${PROJECT_IS_TOP_LEVEL})
-option(KELIFC_BUILD_BENCHMARKS "Build the benchmarks" OFF)
+# Switches of the build, and the compile settings that the targets of the project share. As a part of
+# another project KelIFC is the library alone, unless that project asks for more.
+include(CMakeDependentOption)
+
+if(PROJECT_IS_TOP_LEVEL)
+  option(BUILD_TESTING "Build the tests" ON)
+elseif(NOT DEFINED BUILD_TESTING)
+  set(BUILD_TESTING ON)  # an outer project that does not use this switch leaves the choice to KelIFC's
+endif()
+
+option(KELIFC_BUILD_SHARED "Build the library as a shared one; OFF builds a static one" ON)
+option(KELIFC_BUILD_COMMAND "Build the kelifc command; needs CLI11 and nlohmann-json"
+  ${PROJECT_IS_TOP_LEVEL})
+cmake_dependent_option(KELIFC_BUILD_TESTS "Build the tests; needs GoogleTest"
+  ${PROJECT_IS_TOP_LEVEL} BUILD_TESTING OFF)
+option(KELIFC_BUILD_BENCHMARKS "Build the benchmarks; needs Google Benchmark and Python" OFF)
 option(KELIFC_BUILD_FUZZERS "Build the fuzz targets, with clang++ and -fsanitize=fuzzer-no-link" OFF)
 option(KELIFC_INSTALL "Make the install rules" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
@@ -31,11 +43,14 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
-# A compiler cache speeds up repeated builds; nothing depends on it.
-find_program(KELIFC_CCACHE ccache)
-mark_as_advanced(KELIFC_CCACHE)
-if(KELIFC_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
-  set(CMAKE_CXX_COMPILER_LAUNCHER "${KELIFC_CCACHE}")
+# A compiler cache speeds up repeated builds; nothing depends on it. An outer project decides for
+# itself.
+if(PROJECT_IS_TOP_LEVEL)
+  find_program(KELIFC_CCACHE ccache)
+  mark_as_advanced(KELIFC_CCACHE)
+  if(KELIFC_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${KELIFC_CCACHE}")
+  endif()
 endif()
 
 # What every program and library here is compiled with. g++ 12 sees an overlap in the joining of

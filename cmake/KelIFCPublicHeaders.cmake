@@ -37,6 +37,7 @@ set(kelifc_public_headers
   kelifc/core/unknown.h
   kelifc/core/value.h
   kelifc/core/value_member.h
+  kelifc/geo/storey_number.h
   kelifc/geometry/brep.h
   kelifc/geometry/constants.h
   kelifc/geometry/isometry3.h
@@ -50,6 +51,7 @@ set(kelifc_public_headers
   kelifc/geometry/set_carver.h
   kelifc/kelifc.h
   kelifc/model_access.h
+  kelifc/object_model.h
   kelifc/platform/com.h
   kelifc/platform/com_bstr.h
   kelifc/platform/com_error.h
@@ -68,9 +70,11 @@ set(kelifc_public_headers
   kelifc/schema/dimensional_exponents.h
   kelifc/server/detail/instance_index.h
   kelifc/server/detail/number_index.h
+  kelifc/server/detail/project_classes.h
   kelifc/server/ifc_server.h
   kelifc/server/load_findings.h
   kelifc/server/load_options.h
+  kelifc/server/load_result.h
   kelifc/server/release.h)
 
 # The headers that the generators write, below PROJECT_BINARY_DIR/generated. The folders that run a

@@ -1,8 +1,8 @@
 #ifndef KELIFC_KELIFC_H_
 #define KELIFC_KELIFC_H_
 
-// All that a host can use: the model server, the values and the entity classes of the five
-// releases, and the object model of the converted structure.
+// Includes everything that a host can use: the model server, the values and the entity classes of
+// the five releases, and the object model of the converted structure.
 
 #include "kelifc/core/binary.h"
 #include "kelifc/core/boolean.h"
@@ -37,6 +37,7 @@
 #include "kelifc/geometry/regular_figure.h"
 #include "kelifc/geometry/set_carver.h"
 #include "kelifc/model_access.h"
+#include "kelifc/object_model.h"
 #include "kelifc/platform/com.h"
 #include "kelifc/schema/ifc151.h"
 #include "kelifc/schema/ifc20.h"

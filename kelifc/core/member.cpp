@@ -38,7 +38,7 @@ class BorrowedInstance final : public IfcUnknown {
   const char* Parse(const char* text) override { return text; }
   std::ostream& Write(std::ostream& out) const override {
     if (const IfcUnknown* instance = Find()) return instance->Write(out);
-    PutChar(out, '*');
+    detail::PutChar(out, '*');
     return out;
   }
 

@@ -7,7 +7,8 @@
 #include "kelifc/platform/com_registration.h"
 #endif
 
-// The definitions are marked as exported too: the headers of Windows declare them without a mark.
+// The headers of Windows declare these functions without a mark for export, so the definitions have
+// it.
 
 extern "C" {
 

@@ -17,6 +17,8 @@ std::string NarrowText(BSTR text) {
   return narrow;
 }
 
+std::string Utf8Text(std::wstring_view text) { return Utf8FromWide(text); }
+
 HRESULT GiveText(std::string_view text, BSTR* out) {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;

@@ -18,7 +18,7 @@
 namespace KelIFC {
 namespace {
 
-constexpr int kMostTries = 16;  // to find a name for the temporary file that nobody has
+constexpr int kMostTries = 16;  // until a name for the temporary file is found that is not in use
 
 #ifdef _WIN32
 constexpr char kSeparators[] = "/\\:";
@@ -26,7 +26,7 @@ constexpr char kSeparators[] = "/\\:";
 constexpr char kSeparators[] = "/";
 #endif
 
-// The folder of a path with its separator; "" for a path without one.
+// Returns the folder of a path with its separator, "" for a path without one.
 std::string FolderOf(const std::string& path) {
   return path.substr(0, path.find_last_of(kSeparators) + 1);
 }
@@ -38,7 +38,8 @@ std::string MakeName() {
 
 #ifdef _WIN32
 
-// The file that a path leads to, links resolved; the path itself if there is no such file.
+// Returns the file that a path leads to, with symbolic links resolved. Returns the path itself if
+// there is no such file.
 std::string Resolve(const std::string& path) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const HANDLE file = CreateFileA(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
@@ -60,7 +61,7 @@ bool IsWritten(const std::string& path) {
   return false;
 }
 
-// Creates a file that was not there before.
+// Creates a file; fails if it exists.
 bool Create(const std::string& path, const std::string&) {
   const HANDLE file = CreateFileA(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_NEW,
                                   FILE_ATTRIBUTE_NORMAL, nullptr);
@@ -83,7 +84,7 @@ bool FlushToDisk(const std::string& path) {
 }
 
 bool Rename(const std::string& from, const std::string& to) {
-  // ReplaceFile keeps the access rights of the file that it replaces, which must exist.
+  // ReplaceFile keeps the access rights of the old file, which must exist.
   if (FileExists(to.c_str()) && ReplaceFileA(to.c_str(), from.c_str(), nullptr,
                                              REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr)) {
     return true;
@@ -101,8 +102,9 @@ void Remove(const std::string& path) { DeleteFileA(path.c_str()); }
 
 namespace fs = std::filesystem;
 
-// The file that a path leads to, which need not exist. A chain of links that is too long or a cycle
-// ends at one of its links, which is then replaced.
+// Returns the file that a path leads to, with symbolic links resolved; the file need not exist. If
+// the links form a cycle or too long a chain, the result is one of the links, which is then
+// replaced.
 std::string Resolve(const std::string& path) {
   constexpr int kMostLinks = 40;
   fs::path place = path;
@@ -110,24 +112,25 @@ std::string Resolve(const std::string& path) {
   for (int i = 0; i < kMostLinks && fs::is_symlink(place, error); ++i) {
     const fs::path next = fs::read_symlink(place, error);
     if (error) break;
-    place = place.parent_path() / next;  // an absolute path replaces the folder
+    place = place.parent_path() / next;  // replaces the folder if `next` is absolute
   }
   return place.string();
 }
 
-// A rename asks for the right to write the folder alone; the file's own mark is respected, too.
+// A rename needs the right to write to the folder only. A file that is marked as read-only is not
+// replaced, though.
 bool IsWritten(const std::string& path) {
   return access(path.c_str(), W_OK) == 0 || errno == ENOENT;
 }
 
-// Creates a file that was not there before, with the rights of `model` if that exists.
+// Creates a file with the permissions of `model`, if that exists. Fails if the new file exists.
 bool Create(const std::string& path, const std::string& model) {
   struct stat facts = {};
   const bool hasModel = stat(model.c_str(), &facts) == 0;
   const int file = open(path.c_str(), O_CREAT | O_EXCL | O_WRONLY | O_CLOEXEC, 0666);
   if (file < 0) return false;
   if (hasModel) {
-    // Only a privileged process can give a file away; without that the user's own file is right.
+    // Only a privileged process can change the owner. Otherwise the file belongs to the user.
     static_cast<void>(fchown(file, facts.st_uid, facts.st_gid) == 0);
     fchmod(file, facts.st_mode & 07777);
   }
@@ -149,7 +152,8 @@ bool FlushToDisk(const std::string& path) { return Flush(path.c_str(), O_WRONLY)
 
 bool Rename(const std::string& from, const std::string& to) {
   if (rename(from.c_str(), to.c_str()) != 0) return false;
-  // The file is in its place; a folder that cannot be flushed only delays when that is on the disk.
+  // The file has been renamed. If the folder cannot be flushed, only the time at which that reaches
+  // the disk is uncertain.
   const std::string folder = FolderOf(to);
   Flush(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY);
   return true;
@@ -181,7 +185,7 @@ bool FileReplacement::Commit() {
   return IsGood();
 }
 
-// Creates the file to write to. Returns false, with the reason in errno, if there is none.
+// Creates the file to write to. Returns false and sets errno if there is none.
 bool FileReplacement::Prepare() {
   errno = ENOENT;
   if (target.empty()) return false;

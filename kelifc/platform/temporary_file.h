@@ -5,8 +5,8 @@
 
 namespace KelIFC {
 
-/// A new, empty file in the system's folder for temporary files, which only the user may read. It is
-/// removed at the end of the object.
+/// A new, empty file in the system's folder for temporary files, which only the user may read. It
+/// is removed at the end of the object.
 class TemporaryFile {
  public:
   TemporaryFile();

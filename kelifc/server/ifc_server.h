@@ -16,25 +16,11 @@
 #include "kelifc/platform/guid.h"
 #include "kelifc/server/detail/instance_index.h"
 #include "kelifc/server/detail/number_index.h"
+#include "kelifc/server/detail/project_classes.h"
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/load_options.h"
+#include "kelifc/server/load_result.h"
 #include "kelifc/server/release.h"
-
-namespace KelIFC151 {
-class IfcProject;
-}
-namespace KelIFC20 {
-class IfcProject;
-}
-namespace KelIFC2x {
-class IfcProject;
-}
-namespace KelIFC2x2 {
-class IfcProject;
-}
-namespace KelIFC2x3 {
-class IfcProject;
-}
 
 namespace KelIFC {
 
@@ -109,11 +95,10 @@ class KELIFC_API IfcServer {
   virtual std::size_t DeleteItem(const IfcUnknown* item);
 
   /// Replaces the model by that of a STEP file, which must be an ordinary file: it is read twice.
-  /// Gives 0 if it was loaded; 1 if it cannot be opened, or if the progress handler stopped the
-  /// load, which leaves the model empty; 2 if it is no STEP file; 3 if its schema is unknown and no
-  /// release was set. What inside a file cannot be understood is left out without a report. An
-  /// instance that there is no memory for is left out, too; where memory is lacking otherwise the
-  /// model is empty and std::bad_alloc is thrown.
+  /// Returns a LOAD_RESULT. A load that the progress handler stops leaves the model empty. What
+  /// inside a file cannot be understood is left out without a report. An instance that there is no
+  /// memory for is left out, too; where memory is lacking otherwise the model is empty and
+  /// std::bad_alloc is thrown.
   virtual int LoadIfcFile(const char* path);
 
   /// Writes all numbered instances to a STEP file, by rising number. Gives 0 if the file was

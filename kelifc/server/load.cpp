@@ -14,15 +14,6 @@
 namespace KelIFC {
 namespace {
 
-// The results of a load.
-constexpr int kLoaded = 0;
-constexpr int kCannotOpen = 1;
-constexpr int kNoStepFile = 2;
-constexpr int kUnknownSchema = 3;
-constexpr int kLimitReached = 4;
-constexpr int kCancelled = 5;
-constexpr int kLaterRelease = 6;
-
 // Models have a statement per 50 to 60 bytes, and room for the registry is made accordingly. What
 // is not used of it is address space, not memory. A file may claim any size, hence the bound.
 constexpr std::uint64_t kBytesPerStatement = 40;
@@ -40,14 +31,14 @@ constexpr bool Exceeds(std::uint64_t value, std::uint64_t limit) {
 
 int IfcServer::LoadIfcFile(const char* path) {
   ForgetLoad();
-  if (path == nullptr || !IsRegularFile(path)) return kCannotOpen;
+  if (path == nullptr || !IsRegularFile(path)) return LOAD_RESULT_CANNOT_OPEN;
   const int result = LoadFrom(FileSource(path), LoadState());
-  return result == kCancelled ? kCannotOpen : result;
+  return result == LOAD_RESULT_CANCELLED ? LOAD_RESULT_CANNOT_OPEN : result;
 }
 
 int IfcServer::LoadIfc(const char* path, const LoadOptions& options) {
   ForgetLoad();
-  if (path == nullptr || !IsRegularFile(path)) return kCannotOpen;
+  if (path == nullptr || !IsRegularFile(path)) return LOAD_RESULT_CANNOT_OPEN;
   return LoadWithOptions(FileSource(path), options);
 }
 
@@ -62,9 +53,9 @@ int IfcServer::LoadIfcStream(std::istream& in, const LoadOptions& options) {
   const SpooledSource source(in, most == 0 ? UINT64_MAX : most);
   switch (source.GetState()) {
     case SpooledSource::State::kTooLong:
-      return kLimitReached;
+      return LOAD_RESULT_LIMIT_REACHED;
     case SpooledSource::State::kFailed:
-      return kCannotOpen;
+      return LOAD_RESULT_CANNOT_OPEN;
     case SpooledSource::State::kWhole:
       break;
   }
@@ -80,14 +71,14 @@ void IfcServer::ForgetLoad() {
 
 int IfcServer::LoadWithOptions(const ModelSource& source, const LoadOptions& options) {
   SetRelease(IFC_RELEASE_NONE);
-  if (Exceeds(source.GetSize(), options.limits.maxBytes)) return kLimitReached;
+  if (Exceeds(source.GetSize(), options.limits.maxBytes)) return LOAD_RESULT_LIMIT_REACHED;
   LoadState initial;
   initial.dialect = options.dialect;
   initial.limits = options.limits;
   initial.findings = &findings;
   initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
   const int result = LoadFrom(source, initial);
-  if (result == kLoaded) dialect = options.dialect;
+  if (result == LOAD_RESULT_LOADED) dialect = options.dialect;
   return result;
 }
 
@@ -106,7 +97,7 @@ int IfcServer::LoadFrom(const ModelSource& source, const LoadState& initial) {
     throw;
   }
   Reset();
-  return load.isStopped ? kCancelled : kLimitReached;
+  return load.isStopped ? LOAD_RESULT_CANCELLED : LOAD_RESULT_LIMIT_REACHED;
 }
 
 int IfcServer::LoadPasses(const ModelSource& source) {
@@ -115,21 +106,22 @@ int IfcServer::LoadPasses(const ModelSource& source) {
   std::optional<LoadArena> memory;
   if (!kIsMemoryWatched) load.memory = &memory.emplace();
   std::unique_ptr<std::istream> in = source.Open();
-  if (!in) return kCannotOpen;
+  if (!in) return LOAD_RESULT_CANNOT_OPEN;
   schemaRecord.reset();
   headerSeen = false;
   ScanFile(*in, this, true);
-  if (load.isStopped || load.isBeyondLimit) return kCannotOpen;
-  if (!headerSeen) return kNoStepFile;
+  if (load.isStopped || load.isBeyondLimit) return LOAD_RESULT_CANNOT_OPEN;
+  if (!headerSeen) return LOAD_RESULT_NO_STEP_FILE;
   if (GetRelease() == IFC_RELEASE_NONE) {
-    return load.isLaterSchema && load.findings != nullptr ? kLaterRelease : kUnknownSchema;
+    return load.isLaterSchema && load.findings != nullptr ? LOAD_RESULT_UNSUPPORTED_RELEASE
+                                                          : LOAD_RESULT_UNKNOWN_SCHEMA;
   }
   load.bytesBefore = load.bytesTotal / 2;
   load.bytesReported = 0;
   in = source.Open();
-  if (!in) return kCannotOpen;
+  if (!in) return LOAD_RESULT_CANNOT_OPEN;
   ScanFile(*in, this, false);
-  return kLoaded;
+  return LOAD_RESULT_LOADED;
 }
 
 void IfcServer::MakeRoom(std::uint64_t fileSize) {

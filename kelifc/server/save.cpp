@@ -13,6 +13,7 @@
 #include "kelifc/server/file_output.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
+#include "kelifc/server/reported_version.h"
 #include "kelifc/server/schema_table.h"
 #include "kelifc/server/text_stream.h"
 
@@ -22,8 +23,6 @@ namespace {
 // What SaveIfcFile gives.
 constexpr int kSaved = 0;
 constexpr int kCannotCreate = 1;
-
-constexpr char kWriterName[] = "KelIFC v. 25.0.3857";
 
 // The time as a file's header has it, such as 2012-03-03T14:05:09.
 std::string FormatTime(const LocalTime& time) {
@@ -39,8 +38,9 @@ void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view 
          "HEADER;\n"
          "FILE_DESCRIPTION(('Merrow generated IFC file.'),'2;1');\n"
          "FILE_NAME('"
-      << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'" << kWriterName
-      << "','','');\n"
+      << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'KelIFC v. "
+      << kReportedVersion
+      << "','','','');\n"
          "FILE_SCHEMA(('"
       << schema
       << "'));\n"

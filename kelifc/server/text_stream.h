@@ -30,6 +30,10 @@ class TextStream : private std::streambuf, public std::ostream {
   }
 
  private:
+  // Both bases have these names.
+  using traits_type = std::streambuf::traits_type;
+  using int_type = std::streambuf::int_type;
+
   static constexpr std::size_t kFirstSize = 1024;
 
   int_type overflow(int_type character) override {

@@ -43,8 +43,8 @@ Outcome ReadModel() {
     outcome.load = server->Load(Bstr(WidePath(ModelPath())).Get());
     ComPtr<IGeoStructure> structure;
     if (server->get_Structure(structure.Put()) != S_OK) return outcome;
-    outcome.elements = CountElements(command::ReadStructure(*structure));
-  } catch (const std::bad_alloc&) {  // thrown by code of the host
+    outcome.elements = CountElements(command::ReadStructure(structure));
+  } catch (const std::bad_alloc&) {  // of the host itself
   } catch (const std::runtime_error&) {
   }
   return outcome;

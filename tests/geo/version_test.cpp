@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include "kelifc/server/reported_version.h"
+
 namespace KelIFC {
 namespace {
 
@@ -12,9 +14,9 @@ void ExpectVersion(const char* text, double major, double build, double serviceP
   EXPECT_EQ(version.servicePack, servicePack) << text;
 }
 
-bool IsServed(const char* text) { return IsCompatible(kOwnVersion, ParseVersionText(text)); }
+bool IsServed(const char* text) { return IsCompatible(GetOwnVersion(), ParseVersionText(text)); }
 
-TEST(VersionText, IsThatOfTheLibrary) { EXPECT_EQ(VersionText(), "25.0.3857"); }
+TEST(ReportedVersion, IsTheOneThatHostsCompare) { EXPECT_STREQ(kReportedVersion, "25.0.3857"); }
 
 TEST(VersionRecord, OfTheLibraryHasAServicePackThatTheTextLacks) {
   EXPECT_EQ(kOwnVersion.major, 25.0);

@@ -20,14 +20,14 @@ class ModelBuilder {
 
   /// Adds an instance from its text, such as "IFCWALL(...)".
   Ref Add(const std::string& instance) {
-    const Ref ref = "#" + std::to_string(next++);
+    Ref ref = "#" + std::to_string(next++);
     data += ref + "=" + instance + ";\n";
     return ref;
   }
 
   /// Adds an instance with the given number.
   Ref AddAs(int number, const std::string& instance) {
-    const Ref ref = "#" + std::to_string(number);
+    Ref ref = "#" + std::to_string(number);
     data += ref + "=" + instance + ";\n";
     return ref;
   }

@@ -54,6 +54,13 @@ std::vector<ComPtr<Item>> ItemsOf(Collection& collection) {
   return items;
 }
 
+/// Returns the only element of a list. The test fails if there are none or several.
+template <class Element>
+ComPtr<Element> Only(const std::vector<ComPtr<Element>>& elements) {
+  EXPECT_EQ(elements.size(), 1u);
+  return elements.at(0);
+}
+
 /// A test that builds a model, converts it, and reads the structure through its interfaces.
 template <class Release>
 class ConversionTest : public ReleaseTest<Release> {

@@ -1,18 +1,9 @@
-# Installs into a folder, moves that folder, and uses it as a host's build would: by CMake package
-# and by pkg-config. The README's program and each installed header are compiled as well.
+# Installs into a folder, moves the folder, and uses it as the build of a host does: by CMake package
+# and by pkg-config. It also compiles each installed header.
 
-# run(OUTPUT COMMAND...): the command must succeed; what it prints goes to the variable OUTPUT.
-function(run output)
-  execute_process(COMMAND ${ARGN}
-    RESULT_VARIABLE status OUTPUT_VARIABLE printed ERROR_VARIABLE errors)
-  if(NOT status EQUAL 0)
-    list(JOIN ARGN " " command)
-    message(FATAL_ERROR "${command}\nended with ${status}\n${printed}${errors}")
-  endif()
-  set(${output} "${printed}" PARENT_SCOPE)
-endfunction()
+include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
-# expect_storeys(PRINTED): a host that was given the house must have named its storeys.
+# expect_storeys(PRINTED): a host that read the house must have printed the names of its storeys.
 function(expect_storeys printed)
   foreach(storey "Ground floor" "Upper floor")
     if(NOT printed MATCHES "${storey}")
@@ -29,39 +20,33 @@ file(REMOVE_RECURSE "${WORK_DIR}")
 run(ignored "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/first")
 file(RENAME "${WORK_DIR}/first" "${prefix}")
 
-# The command finds its library wherever both were moved to.
+# The command finds its library after both were moved.
 run(printed "${prefix}/${BIN}/kelifc" structure "${model}")
 expect_storeys("${printed}")
 
 # By CMake package.
-foreach(example host walk)
-  set(build_dir "${WORK_DIR}/${example}")
-  run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples/${example}" -B "${build_dir}" -G Ninja
-    "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
-  run(ignored "${CMAKE_COMMAND}" --build "${build_dir}")
+set(build_dir "${WORK_DIR}/examples")
+run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples" -B "${build_dir}" -G Ninja
+  "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
+run(ignored "${CMAKE_COMMAND}" --build "${build_dir}")
+foreach(example read entities walk host)
   run(printed "${build_dir}/${example}" "${model}")
   expect_storeys("${printed}")
 endforeach()
 
-# By pkg-config, and with the program that the README shows.
+# By pkg-config.
 set(ENV{PKG_CONFIG_PATH} "${prefix}/${LIB}/pkgconfig")
 run(found pkg-config --cflags --libs kelifc)
 separate_arguments(found UNIX_COMMAND "${found}")
-file(READ "${SOURCE_DIR}/README.md" readme)
-if(NOT readme MATCHES "```cpp\n([^`]+)```")
-  message(FATAL_ERROR "README.md shows no program")
-endif()
-file(WRITE "${WORK_DIR}/readme.cpp" "${CMAKE_MATCH_1}")
 set(strict -std=c++17 -Wall -Wextra -Wpedantic -Wshadow -Werror)
-foreach(program "${SOURCE_DIR}/examples/host/main.cpp" "${SOURCE_DIR}/examples/walk/main.cpp"
-    "${WORK_DIR}/readme.cpp")
-  run(ignored "${COMPILER}" ${flags} ${strict} "${program}" -o "${WORK_DIR}/program" ${found}
-    "-Wl,-rpath,${prefix}/${LIB}")
+foreach(example read entities)
+  run(ignored "${COMPILER}" ${flags} ${strict} "${SOURCE_DIR}/examples/${example}/main.cpp"
+    -o "${WORK_DIR}/program" ${found} "-Wl,-rpath,${prefix}/${LIB}")
   run(printed "${WORK_DIR}/program" "${model}")
   expect_storeys("${printed}")
 endforeach()
 
-# Hosts compile the headers with the warnings of their own projects, by both compilers and standards.
+# A host compiles the headers with its own warnings, with either compiler and standard.
 set(includer "${WORK_DIR}/includer.cpp")
 file(WRITE "${includer}" "#include <kelifc/kelifc.h>\n")
 foreach(name g++ clang++)

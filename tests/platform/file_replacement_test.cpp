@@ -12,7 +12,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// A folder with a target in it, gone after the test.
+/// Creates a folder with a target file, and removes it after the test.
 class FileReplacementTest : public testing::Test {
  protected:
   FileReplacementTest() {
@@ -37,10 +37,13 @@ class FileReplacementTest : public testing::Test {
         std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
   }
 
-  const fs::path folder = fs::path(testing::TempDir()) / "kelifc_file_replacement_test";
+  // Tests may run side by side, so each has a folder of its own.
+  const fs::path folder =
+      fs::path(testing::TempDir()) /
+      (std::string("kelifc_") + testing::UnitTest::GetInstance()->current_test_info()->name());
 };
 
-TEST_F(FileReplacementTest, TakesThePlaceOfTheTargetWhenItIsCommitted) {
+TEST_F(FileReplacementTest, ReplacesTheTargetWhenItIsCommitted) {
   Write(Path("a.ifc"), "old");
   {
     FileReplacement replacement(Path("a.ifc").c_str());
@@ -54,7 +57,7 @@ TEST_F(FileReplacementTest, TakesThePlaceOfTheTargetWhenItIsCommitted) {
   EXPECT_EQ(CountFiles(), 1U);
 }
 
-TEST_F(FileReplacementTest, LeavesTheTargetAloneWithoutACommit) {
+TEST_F(FileReplacementTest, LeavesTheTargetUnchangedWithoutACommit) {
   Write(Path("a.ifc"), "old");
   { Write(FileReplacement(Path("a.ifc").c_str()).GetPath(), "new"); }
   EXPECT_EQ(Read(Path("a.ifc")), "old");
@@ -65,7 +68,7 @@ TEST_F(FileReplacementTest, LeavesNoFileBehindWithoutACommit) {
   EXPECT_EQ(CountFiles(), 0U);
 }
 
-TEST_F(FileReplacementTest, MakesATargetThatIsNotThere) {
+TEST_F(FileReplacementTest, CreatesAMissingTarget) {
   FileReplacement replacement(Path("a.ifc").c_str());
   Write(replacement.GetPath(), "new");
   EXPECT_TRUE(replacement.Commit());
@@ -95,7 +98,7 @@ TEST_F(FileReplacementTest, FollowsSymbolicLinks) {
   EXPECT_EQ(Read(Path("inner/a.ifc")), "new");
 }
 
-TEST_F(FileReplacementTest, MakesTheFileThatALinkLeadsTo) {
+TEST_F(FileReplacementTest, CreatesTheFileThatALinkLeadsTo) {
   fs::create_symlink("b.ifc", Path("link"));
   FileReplacement replacement(Path("link").c_str());
   Write(replacement.GetPath(), "new");
@@ -103,7 +106,7 @@ TEST_F(FileReplacementTest, MakesTheFileThatALinkLeadsTo) {
   EXPECT_EQ(Read(Path("b.ifc")), "new");
 }
 
-TEST_F(FileReplacementTest, WritesATargetThatIsNoOrdinaryFileDirectly) {
+TEST_F(FileReplacementTest, WritesADeviceDirectly) {
   if (!fs::exists("/dev/null")) GTEST_SKIP() << "no such device on this system";
   FileReplacement replacement("/dev/null");
   EXPECT_EQ(replacement.GetPath(), "/dev/null");
@@ -117,7 +120,7 @@ TEST_F(FileReplacementTest, ReportsWhatCannotBeWritten) {
   EXPECT_EQ(FileReplacement(Path("none/a.ifc").c_str()).GetFailure(), "No such file or directory");
 }
 
-TEST_F(FileReplacementTest, LeavesTheTargetAloneIfItsTemporaryFileIsGone) {
+TEST_F(FileReplacementTest, LeavesTheTargetUnchangedIfTheTemporaryFileIsGone) {
   Write(Path("a.ifc"), "old");
   FileReplacement replacement(Path("a.ifc").c_str());
   fs::remove(replacement.GetPath());

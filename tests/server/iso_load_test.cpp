@@ -164,7 +164,8 @@ TEST(IsoLoad, DoesNotMakeUnknownEntitiesByName) {
 
 TEST(IsoLoad, ReadsOnlyTheLastStatementOfANumber) {
   IfcServer server;
-  LoadData(server, "#1=IFCDIRECTION((1.));\n#2=IFCFOO(1);\n #1=IFCFOO(2);\n#1=IFCFOO(3);\n#2=IFCFOO(4);");
+  LoadData(server,
+           "#1=IFCDIRECTION((1.));\n#2=IFCFOO(1);\n #1=IFCFOO(2);\n#1=IFCFOO(3);\n#2=IFCFOO(4);");
   EXPECT_EQ(RecordOf(server, 1), "IFCFOO(3");
   EXPECT_EQ(RecordOf(server, 2), "IFCFOO(4");
   EXPECT_EQ(server.GetItems().size(), 5U);

@@ -109,8 +109,7 @@ TEST(LoadOptions, LimitTheLengthOfAStatement) {
 TEST(LoadOptions, DoNotLimitComments) {
   LoadLimits limits;
   limits.maxStatementBytes = 100;
-  const std::string text =
-      HeadOf("IFC2X3") + "#1=IFCFOO(/*" + std::string(1000000, '*') + "*/1);";
+  const std::string text = HeadOf("IFC2X3") + "#1=IFCFOO(/*" + std::string(1000000, '*') + "*/1);";
   EXPECT_EQ(LoadWith(limits, text), 0);
 }
 

@@ -6,13 +6,6 @@
 #include "tools/kelifc/text.h"
 
 namespace command {
-namespace {
-
-// What LoadIfcFile gives beside 0.
-constexpr int kCannotOpen = 1;
-constexpr int kNoStepFile = 2;
-
-}  // namespace
 
 void LoadModel(KelIFC::IfcServer& server, const std::string& path) {
   const ModelSource source(path);
@@ -25,9 +18,13 @@ void LoadModel(KelIFC::IfcServer& server, const std::string& path) {
   }
   const int code = server.LoadIfcFile(source.GetPath().c_str());
   server.SetProgressHandler(nullptr);
-  if (code == 0) return;
-  if (code == kCannotOpen) throw Failure(Status::kFile, path, "the file cannot be opened");
-  if (code == kNoStepFile) throw Failure(Status::kNoModel, path, "not a STEP file");
+  if (code == KelIFC::LOAD_RESULT_LOADED) return;
+  if (code == KelIFC::LOAD_RESULT_CANNOT_OPEN) {
+    throw Failure(Status::kFile, path, "the file cannot be opened");
+  }
+  if (code == KelIFC::LOAD_RESULT_NO_STEP_FILE) {
+    throw Failure(Status::kNoModel, path, "not a STEP file");
+  }
   const std::string schema = Utf8FromLatin1(server.GetFileSchema());
   throw Failure(Status::kNoModel, path,
                 schema.empty() ? "no schema" : "unknown schema '" + schema + "'");

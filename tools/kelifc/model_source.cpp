@@ -8,7 +8,7 @@
 #include <iostream>
 #include <system_error>
 
-#include "kelifc/kelifc.h"
+#include "kelifc/platform/program.h"
 
 #include "archive/packed_model.h"
 #include "tools/kelifc/failure.h"
@@ -18,21 +18,12 @@ namespace {
 
 namespace fs = std::filesystem;
 
-/// The path of a name as the command line gives it: of the system's code page on Windows.
-fs::path PathOf(const std::string& name) {
-#ifdef _WIN32
-  return KelIFC::WidePath(name);
-#else
-  return name;
-#endif
-}
-
-/// The size of a file of which at least the first byte can be read. The load itself does not report
-/// why a file cannot be read, and would take a folder for a file of the wrong kind. Messages call
-/// the file `name`.
+/// The size of the file in bytes. Throws Failure if the first byte cannot be read. The load itself
+/// does not report why a file cannot be read, and takes a folder for a file of the wrong kind.
+/// Messages call the file `name`.
 std::uint64_t SizeOfReadable(const std::string& name, const std::string& path) {
   std::error_code error;
-  const fs::file_status status = fs::status(PathOf(path), error);
+  const fs::file_status status = fs::status(KelIFC::PathOfArgument(path), error);
   if (status.type() == fs::file_type::directory) {
     throw Failure(Status::kFile, name, std::strerror(EISDIR));
   }
@@ -46,7 +37,7 @@ std::uint64_t SizeOfReadable(const std::string& name, const std::string& path) {
     if (std::ferror(file.get()) != 0) throw Failure(Status::kFile, name, std::strerror(errno));
     throw Failure(Status::kNoModel, name, "the file is empty");
   }
-  return fs::file_size(PathOf(path), error);
+  return fs::file_size(KelIFC::PathOfArgument(path), error);
 }
 
 }  // namespace
@@ -67,11 +58,12 @@ ModelSource::ModelSource(const std::string& name) : path(name) {
   }
 }
 
-// Standard input can be read once only, and a load reads its file twice.
+// A load reads its file twice, but standard input can be read only once.
 void ModelSource::SpoolStandardInput() {
   path = MakeFolder().GetPath("input");
   std::ofstream spool(path, std::ios::binary);
-  // An empty input sets the failure bit, which is no failure of the file.
+  KelIFC::SetBinary(stdin);
+  // Writing an empty input sets the failure bit, although nothing has failed.
   if (std::cin.peek() != std::char_traits<char>::eof()) spool << std::cin.rdbuf();
   spool.flush();
   if (!spool) throw std::system_error(errno, std::generic_category());

@@ -10,13 +10,13 @@
 namespace command {
 
 /// The model that an argument of the command line names, as an ordinary file that can be read more
-/// than once. `-` means standard input; a packed model (.ifczip, .ifc.gz) is expanded. Both go
-/// through a temporary file, which exists as long as the source.
+/// than once. `-` means standard input. A packed model (.ifczip, .ifc.gz) is expanded. Both are
+/// written to a temporary file, which the destructor deletes.
 class ModelSource {
  public:
-  /// Throws Failure: Status::kFile for what cannot be read, Status::kNoModel for an empty file and
-  /// for an archive that is refused, Status::kMissing for an archive in a build that cannot expand
-  /// archives.
+  /// Throws Failure with Status::kFile if the file cannot be read, with Status::kNoModel if it is
+  /// empty or an archive that is refused, and with Status::kMissing if it is an archive and this
+  /// build cannot expand archives.
   explicit ModelSource(const std::string& name);
 
   /// The file to load.

@@ -89,6 +89,7 @@ bool ConvertItem(LinearItemFacts& item, bool isShared, const Isometry3& outer,
   if (item.isExtrusion) {
     return ConvertExtrusion(item.extrusion, outer, chain, structure, element, shape);
   }
+  if (!item.hasShell) return true;
   shape.points.resize(2);
   if (isShared) {
     shape.boundary = item.boundary;

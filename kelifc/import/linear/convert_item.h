@@ -11,10 +11,10 @@ namespace KelIFC {
 struct LinearShape {
   /// The two ends of the axis: in the plane of the profile, and at the end of the extrusion. A
   /// faceted solid has both ends at the origin of the world. A circle profile without a position
-  /// has no points.
+  /// and a faceted solid without a shell have no points.
   Mvector<Point3> points;
 
-  BRep boundary;  ///< of a faceted solid; empty for an extrusion
+  BRep boundary;  ///< of a faceted solid; empty for an extrusion and without a shell
 };
 
 /// Computes the shape of an item and sets the section of the element. Returns false if the profile

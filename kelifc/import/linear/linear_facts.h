@@ -22,6 +22,7 @@ struct LinearItemFacts {
   std::size_t number = 0;  ///< position in the representation, from 1
   bool isExtrusion = false;
   ExtrusionFacts extrusion;  ///< set only if isExtrusion
+  bool hasShell = false;     ///< true if the outer shell of a faceted solid is found
   BRep boundary;             ///< of a faceted solid, in metres; empty if isExtrusion
 };
 

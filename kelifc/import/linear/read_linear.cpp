@@ -127,6 +127,7 @@ template <class Release>
 bool LinearReader<Release>::ReadItem(const IfcRepresentationItem* item, LinearItemFacts& facts) {
   if (const auto* brep = CachedCast<typename Release::IfcFacetedBrep>(item)) {
     const auto* outer = brep->GetOuter();
+    facts.hasShell = outer != nullptr;
     if (outer != nullptr) CaptureShell<Release>(*outer, facts.boundary, scale);
     return true;
   }

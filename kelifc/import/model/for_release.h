@@ -1,6 +1,9 @@
 #ifndef KELIFC_IMPORT_MODEL_FOR_RELEASE_H_
 #define KELIFC_IMPORT_MODEL_FOR_RELEASE_H_
 
+#include "kelifc/schema/ifc2x/release.h"
+#include "kelifc/schema/ifc2x2/release.h"
+#include "kelifc/schema/ifc2x3/release.h"
 #include "kelifc/server/release.h"
 
 namespace KelIFC {

@@ -41,23 +41,21 @@ TYPED_TEST(Foots, StandAtTheOriginOfTheirPlacement) {
   if (!this->kHasFootings) GTEST_SKIP() << "the release converts no footings";
   this->AddFooting(".PAD_FOOTING.", "");
   this->Convert();
-  const auto foots = this->GetFoots();
-  ASSERT_EQ(foots.size(), 1u);
+  const auto foot = Only(this->GetFoots());
   Coordinates at = {};
-  EXPECT_EQ(foots[0].template As<IGeoPoint>()->GetXYZ(&at[0], &at[1], &at[2]), S_OK);
+  EXPECT_EQ(foot.template As<IGeoPoint>()->GetXYZ(&at[0], &at[1], &at[2]), S_OK);
   EXPECT_THAT(at, IsAt(10, 1, -2));
-  EXPECT_EQ(this->SectionOf(*foots[0]), L"");
-  EXPECT_EQ(this->NameOf(*foots[0]).substr(0, 4), L"IFC#");
+  EXPECT_EQ(this->SectionOf(*foot), L"");
+  EXPECT_EQ(this->NameOf(*foot).substr(0, 4), L"IFC#");
 }
 
 TYPED_TEST(Foots, WithoutAPlacementStandAtTheOrigin) {
   if (!this->kHasFootings) GTEST_SKIP() << "the release converts no footings";
   this->model.Product("IFCFOOTING", "$", "$", "F", ".PAD_FOOTING.");
   this->Convert();
-  const auto foots = this->GetFoots();
-  ASSERT_EQ(foots.size(), 1u);
+  const auto foot = Only(this->GetFoots());
   Coordinates at = {1, 1, 1};
-  EXPECT_EQ(foots[0].template As<IGeoPoint>()->GetXYZ(&at[0], &at[1], &at[2]), S_OK);
+  EXPECT_EQ(foot.template As<IGeoPoint>()->GetXYZ(&at[0], &at[1], &at[2]), S_OK);
   EXPECT_THAT(at, IsAt(0, 0, 0));
 }
 

@@ -77,10 +77,9 @@ TYPED_TEST(Beams, AreReadLikeColumns) {
   const auto solid = m.Extrusion(m.Rectangle(0.2, 0.4), position, m.Direction({0, 0, 1}), 6);
   m.Beam(m.Local(m.Placement({0, 0, 3})), m.Body({solid}));
   this->Convert();
-  const auto beams = this->GetBeams();
-  ASSERT_EQ(beams.size(), 1u);
-  EXPECT_THAT(PointsOf(*beams[0]), ElementsAre(IsAt(0, 0, 3), IsAt(6, 0, 3)));
-  EXPECT_EQ(this->SectionOf(*beams[0]), L"IFC_R_20x40");
+  const auto beam = Only(this->GetBeams());
+  EXPECT_THAT(PointsOf(*beam), ElementsAre(IsAt(0, 0, 3), IsAt(6, 0, 3)));
+  EXPECT_EQ(this->SectionOf(*beam), L"IFC_R_20x40");
 }
 
 TYPED_TEST(Beams, IncludeMembersIfTheReleaseHasThem) {
@@ -112,15 +111,41 @@ TYPED_TEST(Beams, OfAFacetedSolidHaveABoundaryInTheWorldAndAnAxisAtItsOrigin) {
   EXPECT_EQ(this->SectionOf(*this->beams[0]), L"");
 }
 
+TYPED_TEST(Beams, OfAFacetedSolidWithoutAShellHaveNeitherAxisNorBoundary) {
+  auto& m = this->model;
+  const auto openShell =
+      m.Add("IFCOPENSHELL((" + this->Face({this->Outer(this->Square(0))}) + "))");
+  const auto placement = m.Local(m.Turned({10, 0, 0}, {0, 1, 0}));
+  for (const auto& outer : {Ref("$"), Ref("#99999"), openShell}) {
+    const auto solid = m.Add("IFCFACETEDBREP(" + outer + ")");
+    m.Beam(placement, m.Body({solid}));
+    m.Column(placement, m.Body({solid}));
+    m.Beam(placement, m.Body({m.Mapped(m.Placement({0, 0, 0}), m.Representation({solid}))}));
+  }
+  this->Convert();
+  this->beams = this->GetBeams();
+  EXPECT_THAT(this->beams, SizeIs(6));
+  for (const auto& beam : this->beams) {
+    EXPECT_THAT(PointsOf(*beam), IsEmpty());
+    EXPECT_TRUE(static_cast<CoGeoBeam&>(*beam).boundary.vertices.empty());
+    EXPECT_TRUE(static_cast<CoGeoBeam&>(*beam).boundary.faces.empty());
+  }
+  const auto columns = this->GetColumns();
+  EXPECT_THAT(columns, SizeIs(3));
+  for (const auto& column : columns) {
+    EXPECT_THAT(PointsOf(*column), IsEmpty());
+    EXPECT_TRUE(static_cast<CoGeoColumn&>(*column).boundary.vertices.empty());
+  }
+}
+
 TYPED_TEST(Beams, ShowTheirBoundaryToTheHost) {
   auto& m = this->model;
   const auto top = this->Face({this->Outer(this->Square(1))});
   const auto bottom = this->Face({this->Outer(this->Square(0), ".F.")});
   m.Beam("$", m.Body({this->Faceted({top, bottom})}));
   this->Convert();
-  const auto beams = this->GetBeams();
-  ASSERT_EQ(beams.size(), 1u);
-  const auto boundary = GetObject(*beams[0], &IGeoBeam::get_BRep);
+  const auto beam = Only(this->GetBeams());
+  const auto boundary = GetObject(*beam, &IGeoBeam::get_BRep);
   const auto points = GetObject(*boundary, &IGeoBRep::get_Points);
   EXPECT_EQ(CountOf(*points), 8);
   std::vector<Numbers> faces;
@@ -286,9 +311,8 @@ TYPED_TEST(Beams, ThatAreMappedApplyTheOriginOfTheMapBeforeThePosition) {
   const auto item = m.Mapped(m.Placement({1, 0, 0}), m.Representation({solid}));
   m.Beam("$", m.Body({item}));
   this->Convert();
-  const auto beams = this->GetBeams();
-  ASSERT_EQ(beams.size(), 1u);
-  EXPECT_THAT(PointsOf(*beams[0]), ElementsAre(IsAt(10, 1, 0), IsAt(10, 1, 1)));
+  const auto beam = Only(this->GetBeams());
+  EXPECT_THAT(PointsOf(*beam), ElementsAre(IsAt(10, 1, 0), IsAt(10, 1, 1)));
 }
 
 TYPED_TEST(Beams, ThatAreMappedIgnoreTheTarget) {
@@ -298,10 +322,9 @@ TYPED_TEST(Beams, ThatAreMappedIgnoreTheTarget) {
   const auto solid = m.Extrusion(m.Circle(0.1), 1);
   m.Beam("$", m.Body({m.Mapped(m.Placement({0, 0, 0}), m.Representation({solid}), target)}));
   this->Convert();
-  const auto beams = this->GetBeams();
-  ASSERT_EQ(beams.size(), 1u);
-  EXPECT_THAT(PointsOf(*beams[0]), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 1)));
-  EXPECT_EQ(this->SectionOf(*beams[0]), L"IFC_C_20");
+  const auto beam = Only(this->GetBeams());
+  EXPECT_THAT(PointsOf(*beam), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 1)));
+  EXPECT_EQ(this->SectionOf(*beam), L"IFC_C_20");
 }
 
 TYPED_TEST(Beams, OfSeveralMapsAreNamedByMapAndItem) {
@@ -358,9 +381,8 @@ TYPED_TEST(Beams, KeepTheSecondItemWhenTheFirstFails) {
   const auto bad = m.Extrusion("$", 1);
   m.Beam("$", m.Body({bad, m.Extrusion(m.Circle(0.1), 2)}));
   this->Convert();
-  const auto beams = this->GetBeams();
-  ASSERT_EQ(beams.size(), 1u);
-  EXPECT_THAT(PointsOf(*beams[0]), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 2)));
+  const auto beam = Only(this->GetBeams());
+  EXPECT_THAT(PointsOf(*beam), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 2)));
 }
 
 }  // namespace

@@ -52,22 +52,20 @@ TYPED_TEST(Columns, StandOnTheAxisOfTheirExtrusion) {
   auto& m = this->model;
   this->AddColumn(m.Extrusion(m.Rectangle(0.3, 0.5), 3));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 3)));
-  EXPECT_EQ(this->SectionOf(*columns[0]), L"IFC_R_30x50");
-  EXPECT_EQ(this->NameOf(*columns[0]), L"A");
+  const auto column = Only(this->GetColumns());
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 3)));
+  EXPECT_EQ(this->SectionOf(*column), L"IFC_R_30x50");
+  EXPECT_EQ(this->NameOf(*column), L"A");
 }
 
 TYPED_TEST(Columns, HaveTheIdentifierOfTheirInstance) {
   auto& m = this->model;
   this->AddColumn(m.Extrusion(m.Circle(0.2), 3));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
+  const auto column = Only(this->GetColumns());
   _GUID guid = {};
   {
-    auto& own = static_cast<CoGeoColumn&>(*columns[0]);
+    auto& own = static_cast<CoGeoColumn&>(*column);
     guid = own.guid;
   }
   auto& object = static_cast<CoIFCServer&>(*this->server);
@@ -83,10 +81,9 @@ TYPED_TEST(Columns, GoThroughTheSolidsPositionAndThenThePlacements) {
   const auto storey = m.Local(m.Turned({100, 0, 0}, {0, 1, 0}), site);
   m.Column(m.Local(m.Placement({0, 5, 0}), storey), m.Body({solid}));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
+  const auto column = Only(this->GetColumns());
   // (1,0) turns to (0,1), moves to (10,1), moves to (10,6), turns to (-6,10), moves to (94,10).
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(94, 10, 1000), IsAt(94, 10, 1003)));
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(94, 10, 1000), IsAt(94, 10, 1003)));
 }
 
 TYPED_TEST(Columns, DependOnTheOrderOfTheirPlacements) {
@@ -109,9 +106,8 @@ TYPED_TEST(Columns, LeaveOutPlacementsInThePlane) {
   const auto flat = m.Local(m.Placement2D({5, 5}), parent);
   m.Column(flat, m.Body({m.Extrusion(m.Circle(0.2), 1)}));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(0, 0, 7), IsAt(0, 0, 8)));
+  const auto column = Only(this->GetColumns());
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(0, 0, 7), IsAt(0, 0, 8)));
 }
 
 TYPED_TEST(Columns, EndTheirChainAtACycle) {
@@ -121,9 +117,8 @@ TYPED_TEST(Columns, EndTheirChainAtACycle) {
   m.AddAs(902, "IFCLOCALPLACEMENT(#901," + at + ")");
   m.Column("#901", m.Body({m.Extrusion(m.Circle(0.2), 1)}));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(2, 0, 0), IsAt(2, 0, 1)));
+  const auto column = Only(this->GetColumns());
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(2, 0, 0), IsAt(2, 0, 1)));
 }
 
 TYPED_TEST(Columns, AreInMetres) {
@@ -132,10 +127,9 @@ TYPED_TEST(Columns, AreInMetres) {
   const auto solid = m.Extrusion(m.Rectangle(300, 500), 3000);
   m.Column(m.Local(m.Placement({1000, 0, 0})), m.Body({solid}));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(1, 0, 0), IsAt(1, 0, 3)));
-  EXPECT_EQ(this->SectionOf(*columns[0]), L"IFC_R_30x50");
+  const auto column = Only(this->GetColumns());
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(1, 0, 0), IsAt(1, 0, 3)));
+  EXPECT_EQ(this->SectionOf(*column), L"IFC_R_30x50");
 }
 
 TYPED_TEST(Columns, StartAtTheTopIfTheyAreExtrudedDownwards) {
@@ -143,9 +137,8 @@ TYPED_TEST(Columns, StartAtTheTopIfTheyAreExtrudedDownwards) {
   const auto position = m.Placement({0, 0, 3});
   this->AddColumn(m.Extrusion(m.Circle(0.2), position, m.Direction({0, 0, -1}), 3));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(0, 0, 3), IsAt(0, 0, 0)));
+  const auto column = Only(this->GetColumns());
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(0, 0, 3), IsAt(0, 0, 0)));
 }
 
 TYPED_TEST(Columns, HaveTheDiameterAsCircularSection) {
@@ -153,20 +146,18 @@ TYPED_TEST(Columns, HaveTheDiameterAsCircularSection) {
   const auto profile = m.Circle(0.15, m.Placement2D({2, 3}));
   this->AddColumn(m.Extrusion(profile, 3));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(2, 3, 0), IsAt(2, 3, 3)));
-  EXPECT_EQ(this->SectionOf(*columns[0]), L"IFC_C_30");
+  const auto column = Only(this->GetColumns());
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(2, 3, 0), IsAt(2, 3, 3)));
+  EXPECT_EQ(this->SectionOf(*column), L"IFC_C_30");
 }
 
 TYPED_TEST(Columns, OfACircleWithoutPositionHaveNoAxisAndNoSection) {
   auto& m = this->model;
   this->AddColumn(m.Extrusion(m.Circle(0.15, "$"), 3));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_THAT(PointsOf(*columns[0]), IsEmpty());
-  EXPECT_EQ(this->SectionOf(*columns[0]), L"");
+  const auto column = Only(this->GetColumns());
+  EXPECT_THAT(PointsOf(*column), IsEmpty());
+  EXPECT_EQ(this->SectionOf(*column), L"");
 }
 
 TYPED_TEST(Columns, ShareASectionWithinAThousandth) {
@@ -310,9 +301,8 @@ TYPED_TEST(Columns, TakeTheRepresentationWithAnExtrusionWhateverItsName) {
   const auto second = m.Representation({m.Extrusion(m.Circle(0.2), 1)}, "Other");
   m.Column("$", m.Shape({first, second}));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_EQ(this->SectionOf(*columns[0]), L"IFC_C_40");
+  const auto column = Only(this->GetColumns());
+  EXPECT_EQ(this->SectionOf(*column), L"IFC_C_40");
 }
 
 TYPED_TEST(Columns, ThatAreClippedHaveTheirFullLength) {
@@ -322,9 +312,8 @@ TYPED_TEST(Columns, ThatAreClippedHaveTheirFullLength) {
   const auto half = m.Add("IFCHALFSPACESOLID(" + plane + ",.F.)");
   this->AddColumn(m.Clipping(m.Clipping(solid, half), half));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 3)));
+  const auto column = Only(this->GetColumns());
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(0, 0, 0), IsAt(0, 0, 3)));
 }
 
 TYPED_TEST(Columns, ThatClipSomethingElseAreLeftOut) {
@@ -365,19 +354,17 @@ TYPED_TEST(Columns, GoThroughAThousandPlacements) {
   for (int i = 0; i < 1001; ++i) placement = m.Local(step, placement);
   m.Column(placement, m.Body({m.Extrusion(m.Circle(0.2), 3)}));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
+  const auto column = Only(this->GetColumns());
   // Each placement turns by 90 degrees, so that four of them lead back to the start.
-  EXPECT_THAT(PointsOf(*columns[0]), ElementsAre(IsAt(1, 0, 0), IsAt(1, 0, 3)));
+  EXPECT_THAT(PointsOf(*column), ElementsAre(IsAt(1, 0, 0), IsAt(1, 0, 3)));
 }
 
 TYPED_TEST(Columns, AreConvertedWithoutAStorey) {
   auto& m = this->model;
   this->AddColumn(m.Extrusion(m.Circle(0.2), 3));
   this->Convert();
-  const auto columns = this->GetColumns();
-  ASSERT_EQ(columns.size(), 1u);
-  EXPECT_EQ(Get(*columns[0], &IGeoObject::get_StoreyNumber), 32767);
+  const auto column = Only(this->GetColumns());
+  EXPECT_EQ(Get(*column, &IGeoObject::get_StoreyNumber), 32767);
 }
 
 TYPED_TEST(Columns, SurviveUnsetAttributes) {

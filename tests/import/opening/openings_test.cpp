@@ -56,18 +56,16 @@ class Openings : public ConversionTest<Release> {
   void ExpectNames(const std::vector<std::wstring>& windows,
                    const std::vector<std::wstring>& doors) {
     this->Convert();
-    const auto walls = this->GetWalls();
-    ASSERT_EQ(walls.size(), 1u);
-    EXPECT_EQ(this->NamesOf(WindowsOf(*walls[0])), windows);
-    EXPECT_EQ(this->NamesOf(DoorsOf(*walls[0])), doors);
+    const auto wall = Only(this->GetWalls());
+    EXPECT_EQ(this->NamesOf(WindowsOf(*wall)), windows);
+    EXPECT_EQ(this->NamesOf(DoorsOf(*wall)), doors);
   }
 
-  /// Converts the model and returns the points of the only window of the first wall.
+  /// Converts the model and returns the points of the only window of the only wall.
   std::vector<Coordinates> PointsOfWindow() {
     this->Convert();
-    const auto windows = WindowsOf(*this->GetWalls().at(0));
-    EXPECT_EQ(windows.size(), 1u);
-    return PointsOf(*windows.at(0));
+    const auto wall = Only(this->GetWalls());
+    return PointsOf(*Only(WindowsOf(*wall)));
   }
 
   Ref wallPlacement = "$";
@@ -177,16 +175,14 @@ TYPED_TEST(Openings, OfASlabAreHolesWhateverFillsThem) {
   m.Voids(slab, opening);
   m.Fills(opening, this->Window());
   this->Convert();
-  const auto plates = this->GetPlates();
-  ASSERT_EQ(plates.size(), 1u);
-  const auto holes = this->HolesOf(*plates[0]);
-  ASSERT_EQ(holes.size(), 1u);
-  EXPECT_EQ(this->NameOf(*holes[0]), L"hole");
-  EXPECT_THAT(PointsOf(*holes[0]), ElementsAre(IsAt(-1, -0.5, 10.2), IsAt(1, -0.5, 10.2),
-                                               IsAt(1, 0.5, 10.2), IsAt(-1, 0.5, 10.2)));
-  EXPECT_EQ(Get(static_cast<IGeoPolyline&>(*holes[0].template As<IGeoPolyline>()),
-                &IGeoPolyline::get_Closed),
-            VARIANT_FALSE);
+  const auto plate = Only(this->GetPlates());
+  const auto hole = Only(this->HolesOf(*plate));
+  EXPECT_EQ(this->NameOf(*hole), L"hole");
+  EXPECT_THAT(PointsOf(*hole), ElementsAre(IsAt(-1, -0.5, 10.2), IsAt(1, -0.5, 10.2),
+                                           IsAt(1, 0.5, 10.2), IsAt(-1, 0.5, 10.2)));
+  EXPECT_EQ(
+      Get(static_cast<IGeoPolyline&>(*hole.template As<IGeoPolyline>()), &IGeoPolyline::get_Closed),
+      VARIANT_FALSE);
 }
 
 TYPED_TEST(Openings, OfASlabAreKeptWithoutAContour) {
@@ -206,9 +202,8 @@ TYPED_TEST(Openings, WithoutADirectionKeepThePlaneOfTheirProfile) {
   const auto solid = m.Extrusion(m.Rectangle(2, 2), m.Placement({0, 0, 3}), "$", 1);
   m.Voids(slab, m.Opening("$", m.Body({solid})));
   this->Convert();
-  const auto holes = this->HolesOf(*this->GetPlates().at(0));
-  ASSERT_EQ(holes.size(), 1u);
-  EXPECT_THAT(PointsOf(*holes[0]),
+  const auto hole = Only(this->HolesOf(*this->GetPlates().at(0)));
+  EXPECT_THAT(PointsOf(*hole),
               ElementsAre(IsAt(-1, -1, 3), IsAt(1, -1, 3), IsAt(1, 1, 3), IsAt(-1, 1, 3)));
 }
 

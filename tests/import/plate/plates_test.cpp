@@ -35,11 +35,10 @@ TYPED_TEST(Plates, LieInTheMiddleOfTheirThickness) {
   const auto placement = m.Local(m.Placement({0, 0, 10}));
   m.Slab(placement, m.Body({m.Extrusion(this->Triangle(), 0.3)}));
   this->Convert();
-  const auto plates = this->GetPlates();
-  ASSERT_EQ(plates.size(), 1u);
-  EXPECT_THAT(PointsOf(*plates[0]),
+  const auto plate = Only(this->GetPlates());
+  EXPECT_THAT(PointsOf(*plate),
               ElementsAre(IsAt(0, 0, 10.15), IsAt(4, 0, 10.15), IsAt(0, 3, 10.15)));
-  EXPECT_EQ(this->SectionOf(*plates[0]), L"IFC_H_30");
+  EXPECT_EQ(this->SectionOf(*plate), L"IFC_H_30");
 }
 
 TYPED_TEST(Plates, AreThinnerThanTheDepthOfAnObliqueExtrusion) {

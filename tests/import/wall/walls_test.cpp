@@ -29,11 +29,10 @@ TYPED_TEST(Walls, AreTheDiagonalOfTheirMiddlePlane) {
   const auto placement = m.Local(m.Turned({10, 0, 0}, {0, 1, 0}));
   m.Wall(placement, m.Body({m.Extrusion(m.Rectangle(5, 0.2), 3)}));
   this->Convert();
-  const auto walls = this->GetWalls();
-  ASSERT_EQ(walls.size(), 1u);
-  EXPECT_THAT(PointsOf(*walls[0]), ElementsAre(IsAt(10, -2.5, 0), IsAt(10, 2.5, 3)));
-  EXPECT_EQ(this->SectionOf(*walls[0]), L"IFC_H_20");
-  EXPECT_EQ(Get(*walls[0], &IGeoWall::get_IsOpen), VARIANT_FALSE);
+  const auto wall = Only(this->GetWalls());
+  EXPECT_THAT(PointsOf(*wall), ElementsAre(IsAt(10, -2.5, 0), IsAt(10, 2.5, 3)));
+  EXPECT_EQ(this->SectionOf(*wall), L"IFC_H_20");
+  EXPECT_EQ(Get(*wall, &IGeoWall::get_IsOpen), VARIANT_FALSE);
 }
 
 TYPED_TEST(Walls, HaveTheirLengthAlongXWhateverIsLonger) {

@@ -1,0 +1,78 @@
+# The packages that cpack makes: an archive for Windows, Debian packages elsewhere. docs/building.md
+# lists what each of them contains.
+set(CPACK_STRIP_FILES ON)
+set(CPACK_PACKAGE_VENDOR "KelIFC")
+set(CPACK_PACKAGE_CONTACT "KelIFC maintainers <maintainers@kelifc.example>")
+
+if(WIN32)
+  set(CPACK_GENERATOR ZIP)
+  set(CPACK_PACKAGE_FILE_NAME "KelIFC-${PROJECT_VERSION}-win64")
+  include(CPack)
+  return()
+endif()
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_DEB_COMPONENT_INSTALL ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
+set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
+set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has a summary of its own
+set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/packages/compress.cmake")
+
+set(package_version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
+set(runtime_package "libkelifc${PROJECT_VERSION_MAJOR}")  # Debian names it after the SONAME
+configure_file("${PROJECT_SOURCE_DIR}/cmake/packages/changelog.in"
+  "${PROJECT_BINARY_DIR}/packages/changelog" @ONLY)
+
+# kelifc_package(COMPONENT NAME SECTION DESCRIPTION): the Debian package of a component, or of a group
+# of components by the same name. It gets the documents that each Debian package must have. Only cpack
+# installs those: it asks for each component by name.
+macro(kelifc_package component name section description)
+  string(TOUPPER "${component}" upper)
+  set(CPACK_DEBIAN_${upper}_PACKAGE_NAME "${name}")
+  set(CPACK_DEBIAN_${upper}_PACKAGE_SECTION "${section}")
+  set(CPACK_DEBIAN_${upper}_DESCRIPTION "${description}")
+  set(folder "${CMAKE_INSTALL_DATAROOTDIR}/doc/${name}")
+  install(FILES "${PROJECT_SOURCE_DIR}/cmake/packages/copyright"
+    DESTINATION "${folder}" COMPONENT ${component} EXCLUDE_FROM_ALL)
+  install(FILES "${PROJECT_SOURCE_DIR}/CHANGELOG.md" RENAME changelog
+    DESTINATION "${folder}" COMPONENT ${component} EXCLUDE_FROM_ALL)
+  install(FILES "${PROJECT_BINARY_DIR}/packages/changelog" RENAME changelog.Debian
+    DESTINATION "${folder}" COMPONENT ${component} EXCLUDE_FROM_ALL)
+endmacro()
+
+set(about "KelIFC reads and writes building models in IFC, in the form of STEP files,
+in the releases 1.5.1, 2.0, 2x, 2x2 and 2x3. It converts a model of the three
+newer releases into a structure of storeys, columns, beams, walls, plates,
+foots and sections.")
+
+kelifc_package(runtime ${runtime_package} libs "library that reads and writes IFC building models
+${about}
+.
+This package contains the shared library.")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)  # programs of others depend on this package by it
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
+set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/packages/triggers")
+
+kelifc_package(development libkelifc-dev libdevel "development files of the IFC library KelIFC
+${about}
+.
+This package contains the headers, the files for CMake and pkg-config, and
+reference pages of all entity classes.")
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${runtime_package} (= ${package_version})")
+
+kelifc_package(command kelifc science "shows and rewrites IFC building models
+${about}
+.
+This package contains the command kelifc, which prints the structure or the
+contents of a model, and which writes a model back.")
+set(CPACK_DEBIAN_COMMAND_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/kelifc")
+set(CPACK_DEBIAN_COMMAND_PACKAGE_DEPENDS "${runtime_package} (= ${package_version})")
+
+include(CPack)
+cpack_add_component_group(development)
+cpack_add_component(headers GROUP development)
+cpack_add_component(development GROUP development)

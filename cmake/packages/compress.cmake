@@ -1,0 +1,11 @@
+# cpack runs this over the files of all packages before it packs them: Debian wants manual pages and
+# changelogs compressed, without a time in them. Other kinds of packages stay as they are.
+if(NOT CPACK_GENERATOR STREQUAL "DEB")
+  return()
+endif()
+set(documents "${CPACK_TEMPORARY_INSTALL_DIRECTORY}/*/usr/share")
+file(GLOB files "${documents}/man/man1/*" "${documents}/doc/*/changelog*")
+if(NOT files)
+  message(FATAL_ERROR "There is no changelog and no manual page in ${documents}")
+endif()
+execute_process(COMMAND gzip -9n ${files} COMMAND_ERROR_IS_FATAL ANY)
