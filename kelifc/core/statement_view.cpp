@@ -50,9 +50,7 @@ std::string_view TrimEnd(std::string_view text) {
 class StatementView::Reader {
  public:
   explicit Reader(Statement& target)
-      : statement(target),
-        at(target.text.c_str()),
-        end(target.text.c_str() + target.text.size()) {}
+      : statement(target), at(target.text.c_str()), end(target.text.c_str() + target.text.size()) {}
 
   /// Returns the place of the attributes of the statement itself.
   std::pair<std::size_t, std::size_t> Run() {
@@ -102,7 +100,8 @@ class StatementView::Reader {
   // Adds an element without a value if there is a position for one.
   void EndElement(bool isPosition) {
     List& list = open.back();
-    if (isPosition && !list.hasElement) elements.push_back({OffsetOf(at), OffsetOf(at), 0, 0, ATTRIBUTE_NONE});
+    if (isPosition && !list.hasElement)
+      elements.push_back({OffsetOf(at), OffsetOf(at), 0, 0, ATTRIBUTE_NONE});
     list.hasElement = list.isTyped = false;
   }
 

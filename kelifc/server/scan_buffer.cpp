@@ -34,20 +34,8 @@ SourcePlace ScanBuffer::GetPlace(std::size_t offset) const {
   return {piece.place.line, piece.place.column + distance};
 }
 
-void ScanBuffer::Begin() {
-  textBegin = textEnd = runBegin = cursor;
-  dropped = 0;
-  NotePiece();
-}
-
-void ScanBuffer::NotePiece() {
-  const std::size_t offset = textEnd - textBegin + cursor - runBegin;
-  if (offset == 0) {
-    start = PlaceOf(cursor);
-    if (!pieces.empty()) pieces.clear();
-  } else if (pieces.size() < kMostPieces) {
-    pieces.push_back({offset, PlaceOf(cursor)});
-  }
+void ScanBuffer::AddPiece(std::size_t offset) {
+  if (pieces.size() < kMostPieces) pieces.push_back({offset, PlaceOf(cursor)});
 }
 
 char* ScanBuffer::Finish(std::size_t next) {
@@ -66,6 +54,7 @@ bool ScanBuffer::Refill() {
   const auto count = static_cast<std::size_t>(input.gcount());
   dataEnd += count;
   bytesRead += count;
+  dataBegin = bytesRead - dataEnd;
   ended = count == 0;
   return !ended;
 }

@@ -53,7 +53,12 @@ class ScanBuffer {
 
  protected:
   // Starts a new statement at the cursor.
-  void Begin();
+  void Begin() {
+    textBegin = textEnd = runBegin = cursor;
+    dropped = 0;
+    if (!pieces.empty()) pieces.clear();
+    start = PlaceOf(cursor);
+  }
 
   // Ends the statement, and moves the cursor to `next`, where the next one starts. There is room
   // for a NUL after the text: `next` is after the cursor, or the run is empty and the text is not.
@@ -97,7 +102,14 @@ class ScanBuffer {
   }
 
   // Notes where the text at the cursor stands in the file.
-  void NotePiece();
+  void NotePiece() {
+    const std::size_t offset = textEnd - textBegin + cursor - runBegin;
+    if (offset == 0) {
+      start = PlaceOf(cursor);
+    } else {
+      AddPiece(offset);
+    }
+  }
 
   SourcePlace PlaceOf(std::size_t position) const {
     return {line, AbsoluteOf(position) - lineStart + 1};
@@ -106,7 +118,7 @@ class ScanBuffer {
   const char* DataAt(std::size_t position) const { return buffer.get() + position; }
 
   // The offset in the stream of a position that is not before the cursor.
-  std::uint64_t AbsoluteOf(std::size_t position) const { return bytesRead - (dataEnd - position); }
+  std::uint64_t AbsoluteOf(std::size_t position) const { return dataBegin + position; }
 
   // Positions in the buffer, in this order. The text of the statement is [textBegin, textEnd) and
   // the run [runBegin, cursor), which joins it as soon as something is left out after it.
@@ -125,6 +137,7 @@ class ScanBuffer {
     SourcePlace place;
   };
 
+  void AddPiece(std::size_t offset);
   void CloseGaps();
   void Grow();
 
@@ -132,6 +145,7 @@ class ScanBuffer {
   std::size_t blockSize;
   std::size_t limit = 0;
   std::uint64_t bytesRead = 0;
+  std::uint64_t dataBegin = 0;  // from a position after all gaps to its offset in the stream
   std::size_t capacity = 0;
   bool ended = false;
   bool isBeyondLimit = false;

@@ -19,7 +19,9 @@ std::vector<ATTRIBUTE_KIND> KindsOf(const StatementView& view) {
   for (std::size_t i = 1; i <= view.GetCount(); ++i) kinds.push_back(view.GetKind(i));
   return kinds;
 }
-std::vector<ATTRIBUTE_KIND> KindsOf(const std::string& text) { return KindsOf(StatementView(text)); }
+std::vector<ATTRIBUTE_KIND> KindsOf(const std::string& text) {
+  return KindsOf(StatementView(text));
+}
 
 std::vector<std::string> SourcesOf(const std::string& text) {
   const StatementView view(text);
@@ -29,11 +31,10 @@ std::vector<std::string> SourcesOf(const std::string& text) {
 }
 
 TEST(StatementView, TellsTheKindOfEachAttribute) {
-  EXPECT_THAT(
-      KindsOf("'a',#12,$,*,7,-1.5,2.E-3,.ELEMENT.,\"0101\",(1,2),IFCLABEL('x'),()"),
-      ElementsAre(ATTRIBUTE_TEXT, ATTRIBUTE_REFERENCE, ATTRIBUTE_UNSET, ATTRIBUTE_DERIVED,
-                  ATTRIBUTE_INTEGER, ATTRIBUTE_REAL, ATTRIBUTE_REAL, ATTRIBUTE_ENUMERATION,
-                  ATTRIBUTE_BINARY, ATTRIBUTE_LIST, ATTRIBUTE_TYPED, ATTRIBUTE_LIST));
+  EXPECT_THAT(KindsOf("'a',#12,$,*,7,-1.5,2.E-3,.ELEMENT.,\"0101\",(1,2),IFCLABEL('x'),()"),
+              ElementsAre(ATTRIBUTE_TEXT, ATTRIBUTE_REFERENCE, ATTRIBUTE_UNSET, ATTRIBUTE_DERIVED,
+                          ATTRIBUTE_INTEGER, ATTRIBUTE_REAL, ATTRIBUTE_REAL, ATTRIBUTE_ENUMERATION,
+                          ATTRIBUTE_BINARY, ATTRIBUTE_LIST, ATTRIBUTE_TYPED, ATTRIBUTE_LIST));
 }
 
 TEST(StatementView, GivesTheValues) {

@@ -148,25 +148,30 @@ TEST_F(IsoRealModels, HaveTheTextsOfTheRooftop) {
   EXPECT_EQ(FirstText(server, 1168), "Farbe, wei\xC3\x9F");
   EXPECT_EQ(FirstText(server, 75168), "Fliesen, wei\xC3\x9F");
   EXPECT_EQ(FirstText(server, 75027), "D\xC3\xA4mmung, hart Holzwolled\xC3\xA4mmplatte");
-  EXPECT_EQ(TextsOf(RecordOf(server, 120434))[1], "Konzeptk\xC3\xBC" "che 20");
+  EXPECT_EQ(TextsOf(RecordOf(server, 120434))[1],
+            "Konzeptk\xC3\xBC"
+            "che 20");
 }
 
 TEST_F(IsoRealModels, HaveTheTextsOfTheCompositeProfile) {
   IfcServer server;
   ASSERT_EQ(Load(server, folder / "composite-profile-quotes.ifc"), 0);
   EXPECT_EQ(NameOf(server, 142), "B\xC3\xA2timent");
-  EXPECT_EQ(NameOf(server, 186), "Donn\xC3\xA9" "es d'identification(Type)");
+  EXPECT_EQ(NameOf(server, 186),
+            "Donn\xC3\xA9"
+            "es d'identification(Type)");
   EXPECT_EQ(TextsOf(RecordOf(server, 345))[1], "Cloison - Stratifi\xC3\xA9");
   EXPECT_EQ(TextsOf(RecordOf(server, 634))[1], "Etanch\xC3\xA9it\xC3\xA9 - Pare pluie");
   EXPECT_EQ(NameOf(server, 777),
-            "Donn\xC3\xA9" "es g\xC3\xA9n\xC3\xA9rales de surfaces (Pour export)");
+            "Donn\xC3\xA9"
+            "es g\xC3\xA9n\xC3\xA9rales de surfaces (Pour export)");
   const auto* property =
       dynamic_cast<const KelIFC2x3::IfcProperty*>(server.GetItem(std::size_t{177}));
   ASSERT_NE(property, nullptr);
   EXPECT_EQ(property->GetName(),
-            "Valeur par d\xC3\xA9" "faut du symbole \xC3\xA0 l'extr\xC3\xA9mit\xC3\xA9 1");
-  EXPECT_EQ(TextsOf(RecordOf(server, 709))[1],
-            "Standard - 290 mm \xC3\x97 100 mm \xC3\x97 190 mm");
+            "Valeur par d\xC3\xA9"
+            "faut du symbole \xC3\xA0 l'extr\xC3\xA9mit\xC3\xA9 1");
+  EXPECT_EQ(TextsOf(RecordOf(server, 709))[1], "Standard - 290 mm \xC3\x97 100 mm \xC3\x97 190 mm");
 }
 
 }  // namespace

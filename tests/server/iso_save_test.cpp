@@ -45,11 +45,13 @@ TEST(IsoSave, WritesRawInstancesInTheDialect) {
 
 TEST(IsoSave, WritesTheSameTextAgain) {
   const std::string data =
-      "#1=IFCMATERIAL('it''s \\X4\\0001F3E0\\X0\\\\X\\0A;');\n#2=IFCBAR();\n#3=IFCFOO(\"0FF\",'/*');\n"
+      "#1=IFCMATERIAL('it''s "
+      "\\X4\\0001F3E0\\X0\\\\X\\0A;');\n#2=IFCBAR();\n#3=IFCFOO(\"0FF\",'/*');\n"
       "#4=(A('''')B(#1));\n";
   const std::string once = Saved(STEP_DIALECT_ISO, data);
   const std::size_t begin = once.find("DATA;\n") + 6;
-  const std::string again = Saved(STEP_DIALECT_ISO, once.substr(begin, once.find("ENDSEC;", begin) - begin));
+  const std::string again =
+      Saved(STEP_DIALECT_ISO, once.substr(begin, once.find("ENDSEC;", begin) - begin));
   EXPECT_EQ(again.substr(again.find("DATA;")), once.substr(once.find("DATA;")));
 }
 
