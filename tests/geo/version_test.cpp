@@ -19,10 +19,11 @@ bool IsServed(const char* text) { return IsCompatible(GetOwnVersion(), ParseVers
 TEST(ReportedVersion, IsTheOneThatHostsCompare) { EXPECT_STREQ(kReportedVersion, "25.0.3857"); }
 
 TEST(VersionRecord, OfTheLibraryHasAServicePackThatTheTextLacks) {
-  EXPECT_EQ(kOwnVersion.major, 25.0);
-  EXPECT_EQ(kOwnVersion.build, 3857.0);
-  EXPECT_EQ(kOwnVersion.servicePack, 5.0);
-  EXPECT_FALSE(kOwnVersion.isDebug);
+  const VersionRecord version = GetOwnVersion();
+  EXPECT_EQ(version.major, 25.0);
+  EXPECT_EQ(version.build, 3857.0);
+  EXPECT_EQ(version.servicePack, 5.0);
+  EXPECT_FALSE(version.isDebug);
 }
 
 TEST(VersionText, OfThreePiecesHasNoServicePack) {
