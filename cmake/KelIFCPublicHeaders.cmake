@@ -54,6 +54,7 @@ set(kelifc_public_headers
   kelifc/object_model.h
   kelifc/platform/com.h
   kelifc/platform/com_bstr.h
+  kelifc/platform/com_entry_points.h
   kelifc/platform/com_error.h
   kelifc/platform/com_factory.h
   kelifc/platform/com_guid.h
