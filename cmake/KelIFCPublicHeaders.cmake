@@ -37,6 +37,7 @@ set(kelifc_public_headers
   kelifc/core/unknown.h
   kelifc/core/value.h
   kelifc/core/value_member.h
+  kelifc/geo/section_kind.h
   kelifc/geo/storey_number.h
   kelifc/geometry/brep.h
   kelifc/geometry/constants.h
