@@ -21,6 +21,7 @@
 #include "kelifc/server/load_options.h"
 #include "kelifc/server/load_result.h"
 #include "kelifc/server/release.h"
+#include "kelifc/server/statement_place.h"
 
 namespace KelIFC {
 
@@ -199,7 +200,8 @@ class KELIFC_API IfcServer {
   int LoadIfcStream(std::istream& in, const LoadOptions& options);
 
   /// The same for `size` bytes of memory, which are not copied. They must not change during the
-  /// load, and are not needed after it.
+  /// load. After it they are needed only by operations that read the source again; a host that
+  /// calls one keeps them until then.
   int LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options);
 
   /// The dialect that the model was loaded in, and in which it is saved. STEP_DIALECT_CLASSIC after
@@ -210,6 +212,14 @@ class KELIFC_API IfcServer {
   /// What LoadIfc, LoadIfcStream or LoadIfcMemory found wrong in the file that was loaded last.
   /// LoadIfcFile leaves it empty.
   const LoadFindings& GetLoadFindings() const { return findings; }
+
+  /// Where the source has the statement of an instance: all 0 for a number that no statement has,
+  /// and for models that LoadIfcFile loaded. Of statements with the same number the last one
+  /// counts. Constant time.
+  StatementPlace GetStatementPlace(std::size_t number) const;
+
+  /// The line of that place, from 1; 0 for none.
+  std::uint32_t GetSourceLine(std::size_t number) const { return GetStatementPlace(number).line; }
 
   /// How many numbers are in use, those of empty slots included.
   std::size_t GetNumberCount() const { return idToIndex.GetCount(); }
@@ -272,9 +282,9 @@ class KELIFC_API IfcServer {
   void BuildGuidIndex();
   void DropRepeatedSlots();
 
-  int LoadWithOptions(const ModelSource& source, const LoadOptions& options);
-  int LoadFrom(const ModelSource& source, const LoadState& initial);
-  int LoadPasses(const ModelSource& source);
+  int LoadWithOptions(std::shared_ptr<const ModelSource> model, const LoadOptions& options);
+  int LoadFrom(const ModelSource& model, const LoadState& initial);
+  int LoadPasses(const ModelSource& model);
   void ForgetLoad();
   void MakeRoom(std::uint64_t fileSize);
   bool GoesOn();
@@ -290,6 +300,7 @@ class KELIFC_API IfcServer {
   IfcUnknown* MakeStated(const char* text);
   IfcUnknown* MakeRaw(const char* text);
   void NoteRepeat(std::size_t id);
+  void NotePlace(std::size_t id);
   bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
@@ -316,6 +327,8 @@ class KELIFC_API IfcServer {
   std::string fileSchema;
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
   LoadFindings findings;
+  std::shared_ptr<const ModelSource> source;  // of the last LoadIfc; null if there is none
+  std::vector<StatementPlace> places;         // by position in `items`; shorter than that
   LoadState load;
   ProgressHandler progressHandler;
   ErrorHandler errorHandler;

@@ -94,7 +94,19 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
   IfcUnknown* const made = MakeStated(assignment.text);
   if (load.findings != nullptr && made != nullptr) NoteRepeat(assignment.number);
   InsertItem(assignment.number, made);
+  if (load.findings != nullptr && made != nullptr) NotePlace(assignment.number);
   return 0;
+}
+
+void IfcServer::NotePlace(std::size_t id) {
+  constexpr std::uint64_t kMost = UINT32_MAX;
+  const std::uint32_t position = idToIndex.Find(id);
+  if (position == detail::NumberIndex::kNone) return;
+  if (places.size() <= position) places.resize(position + std::size_t{1});
+  const ScanBuffer& scanner = *load.scanner;
+  const std::uint64_t begin = scanner.GetBeginOffset();
+  places[position] = {begin, static_cast<std::uint32_t>(std::min(scanner.GetPlace().line, kMost)),
+                      static_cast<std::uint32_t>(std::min(scanner.GetEndOffset() - begin, kMost))};
 }
 
 // Makes the instance of a statement. An instance of several types has no name in the dialect of
