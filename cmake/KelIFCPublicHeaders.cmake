@@ -74,6 +74,7 @@ set(kelifc_public_headers
   kelifc/server/ifc_server.h
   kelifc/server/load_findings.h
   kelifc/server/load_options.h
+  kelifc/server/load_report.h
   kelifc/server/load_result.h
   kelifc/server/release.h
   kelifc/server/statement_place.h)

@@ -19,6 +19,7 @@
 #include "kelifc/server/detail/project_classes.h"
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/load_options.h"
+#include "kelifc/server/load_report.h"
 #include "kelifc/server/load_result.h"
 #include "kelifc/server/release.h"
 #include "kelifc/server/statement_place.h"
@@ -30,6 +31,7 @@ class IfcUnknown;
 class IsoStatementReader;
 class LoadArena;
 class ModelSource;
+class ReportCollector;
 class ScanBuffer;
 class StepFileSchema;
 
@@ -211,7 +213,18 @@ class KELIFC_API IfcServer {
 
   /// What LoadIfc, LoadIfcStream or LoadIfcMemory found wrong in the file that was loaded last.
   /// LoadIfcFile leaves it empty.
-  const LoadFindings& GetLoadFindings() const { return findings; }
+  const LoadFindings& GetLoadFindings() const { return report.findings; }
+
+  /// What LoadIfc, LoadIfcStream or LoadIfcMemory met in the file that was loaded last. LoadIfcFile
+  /// leaves it empty. Of a load that failed it has what was counted up to the failure.
+  const LoadReport& GetLoadReport() const { return report; }
+
+  /// Adds to the report what a load does not look for: references to numbers that no statement has.
+  /// It reads the source twice, in linear time, and takes 4 bytes of memory for each number.
+  /// Returns false, and leaves the report as it was, if no model was loaded with options or if the
+  /// source cannot be read. The second call for a model has nothing to do. Throws std::bad_alloc
+  /// where memory is lacking; the report is then what it was.
+  bool CheckModel();
 
   /// Where the source has the statement of an instance: all 0 for a number that no statement has,
   /// and for models that LoadIfcFile loaded. Of statements with the same number the last one
@@ -220,6 +233,11 @@ class KELIFC_API IfcServer {
 
   /// The line of that place, from 1; 0 for none.
   std::uint32_t GetSourceLine(std::size_t number) const { return GetStatementPlace(number).line; }
+
+  /// True if a number is in use, by an empty slot too.
+  bool HasNumber(std::size_t number) const {
+    return idToIndex.Find(number) != detail::NumberIndex::kNone;
+  }
 
   /// How many numbers are in use, those of empty slots included.
   std::size_t GetNumberCount() const { return idToIndex.GetCount(); }
@@ -250,8 +268,9 @@ class KELIFC_API IfcServer {
   struct LoadState {
     STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
     LoadLimits limits = {0, 0, 0, 0};
-    LoadFindings* findings = nullptr;  // null if nothing is noted
-    bool keepsUnknown = false;         // as IfcOther, where the release has no class
+    LoadFindings* findings = nullptr;      // null if nothing is noted
+    ReportCollector* collector = nullptr;  // null if nothing is counted
+    bool keepsUnknown = false;             // as IfcOther, where the release has no class
 
     bool isRunning = false;
     bool isStopped = false;                // by the progress handler
@@ -265,6 +284,7 @@ class KELIFC_API IfcServer {
     std::unordered_map<std::size_t, std::size_t> repeats;
     const IfcUnknown* parsed = nullptr;  // the instance whose statement is being read,
     std::size_t parsedNumber = 0;        // and its number
+    std::size_t statementNumber = 0;     // of the statement that is being read, for the report
     bool isUnordered = false;            // the last number was far from the one ahead of it
     std::size_t lastNumber = 0;
     std::uint64_t highestNumber = 0;    // of all statements so far, those left out included
@@ -301,6 +321,7 @@ class KELIFC_API IfcServer {
   IfcUnknown* MakeRaw(const char* text);
   void NoteRepeat(std::size_t id);
   void NotePlace(std::size_t id);
+  void NoteStatement(std::size_t id, const IfcUnknown* made, const char* text);
   bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
@@ -326,7 +347,7 @@ class KELIFC_API IfcServer {
   std::size_t slotsWithoutGuid = 0;  // so many slots were seen to hold no global identifier
   std::string fileSchema;
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
-  LoadFindings findings;
+  LoadReport report;
   std::shared_ptr<const ModelSource> source;  // of the last LoadIfc; null if there is none
   std::vector<StatementPlace> places;         // by position in `items`; shorter than that
   LoadState load;

@@ -10,6 +10,7 @@
 #include "kelifc/platform/path.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/model_source.h"
+#include "kelifc/server/report_collector.h"
 #include "kelifc/server/scan_buffer.h"
 #include "kelifc/server/statements.h"
 
@@ -68,7 +69,7 @@ int IfcServer::LoadIfcStream(std::istream& in, const LoadOptions& options) {
 void IfcServer::ForgetLoad() {
   Reset();
   fileSchema.clear();
-  findings = LoadFindings();
+  report = LoadReport();
   dialect = STEP_DIALECT_CLASSIC;
 }
 
@@ -79,10 +80,13 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
   LoadState initial;
   initial.dialect = options.dialect;
   initial.limits = options.limits;
-  initial.findings = &findings;
+  ReportCollector collector(report);
+  initial.findings = &report.findings;
+  initial.collector = &collector;
   initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
   const int result = LoadFrom(*model, initial);
   if (result != LOAD_RESULT_LOADED) return result;
+  collector.EndLoad(*this);
   dialect = options.dialect;
   source = std::move(model);
   return result;
@@ -122,6 +126,7 @@ int IfcServer::LoadPasses(const ModelSource& model) {
     return load.isLaterSchema && load.findings != nullptr ? LOAD_RESULT_UNSUPPORTED_RELEASE
                                                           : LOAD_RESULT_UNKNOWN_SCHEMA;
   }
+  if (load.collector != nullptr) load.collector->EndFirstPass(*this);
   load.bytesBefore = load.bytesTotal / 2;
   load.bytesReported = 0;
   in = model.Open();
@@ -159,7 +164,8 @@ bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
 // Texts stand outside the blocks of instances; the statements that they were read from are longer.
 bool IfcServer::IsWithinMemory() const {
   const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
-  const std::uint64_t taken = blocks + load.statementBytes + kBytesPerSlot * items.size();
+  const std::uint64_t taken = blocks + load.statementBytes + kBytesPerSlot * items.size() +
+                              sizeof(StatementPlace) * places.size();
   return !Exceeds(taken, load.limits.maxMemoryBytes);
 }
 
