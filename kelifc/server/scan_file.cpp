@@ -20,17 +20,19 @@ constexpr std::size_t kHeadLimit = std::size_t{1024} * 1024;
 // Notes the bad escapes of the statement that a scanner has handed out last.
 class EscapeNotes : public BadEscapeSink {
  public:
-  EscapeNotes(const ScanBuffer& source, LoadFindings* target) : scanner(source), findings(target) {}
+  EscapeNotes(const ScanBuffer& source, LoadFindings* target, const std::size_t& statementNumber)
+      : scanner(source), findings(target), number(statementNumber) {}
 
   void NoteBadEscape(const char* escape) override {
     if (findings == nullptr) return;
     const auto offset = static_cast<std::size_t>(escape - scanner.GetText());
-    findings->Note(LoadFinding::kBadEscape, scanner.GetPlace(offset));
+    findings->Note(LoadFinding::kBadEscape, scanner.GetPlace(offset), {number, "", 0});
   }
 
  private:
   const ScanBuffer& scanner;
   LoadFindings* findings;
+  const std::size_t& number;
 };
 
 }  // namespace
@@ -63,7 +65,7 @@ void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
     return;
   }
   IsoScanner scanner(in);
-  EscapeNotes notes(scanner, load.findings);
+  EscapeNotes notes(scanner, load.findings, load.statementNumber);
   IsoStatementReader reader(&notes);
   load.reader = &reader;
   if (firstPass) scanner.SetFindings(load.findings);

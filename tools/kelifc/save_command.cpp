@@ -10,7 +10,7 @@ namespace command {
 
 void RunSave(const SaveOptions& options) {
   KelIFC::IfcServer server;
-  LoadModel(server, options.model);
+  LoadModel(server, options.model, options.reading);
   std::string failure;  // the first report; the others are consequences of it
   server.SetErrorHandler([&failure](const std::string& message) {
     if (failure.empty()) failure = message;
