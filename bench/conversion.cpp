@@ -11,7 +11,7 @@ void Require(HRESULT status) {
   if (FAILED(status)) std::abort();
 }
 
-/// Asks for one collection and gives its count.
+/// Gets one collection, which converts it, and returns the number of its elements.
 template <class Collection>
 LONG Convert(IGeoStructure& structure, HRESULT (IGeoStructure::*get)(Collection**)) {
   ComPtr<Collection> collection;

@@ -6,14 +6,16 @@
 
 namespace bench {
 
-/// A server object without a model. Each function here ends the process where an operation fails.
+// These functions abort the process if an operation fails.
+
+/// Creates a server object without a model.
 KelIFC::ComPtr<IIFCServer> MakeServer();
 
-/// The structure of the model that the server holds.
+/// Returns the structure of the server's model. Nothing is converted yet.
 KelIFC::ComPtr<IGeoStructure> GetStructure(IIFCServer& server);
 
-/// Asks for all collections of elements, which converts them, and gives how many elements there
-/// are.
+/// Converts all collections of the structure and returns the number of their objects, storeys
+/// included.
 LONG ConvertAll(IGeoStructure& structure);
 
 }  // namespace bench

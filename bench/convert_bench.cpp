@@ -15,14 +15,14 @@ void Require(HRESULT status) {
   if (FAILED(status)) std::abort();
 }
 
-/// A server object that holds the model, nothing of it converted.
+/// Returns a server object with the loaded model. Nothing is converted yet.
 ComPtr<IIFCServer> LoadForHost() {
   auto server = bench::MakeServer();
   bench::LoadModel(*GetModel(server.Get()));
   return server;
 }
 
-// The conversion of all collections of a loaded model.
+// Converts all collections of a loaded model.
 void ConvertWholeModel(benchmark::State& state) {
   LONG elements = 0;
   for (auto _ : state) {
@@ -41,7 +41,7 @@ void ConvertWholeModel(benchmark::State& state) {
 }
 BENCHMARK(ConvertWholeModel)->Unit(benchmark::kMillisecond)->Iterations(5);
 
-// The storey of each wall, which is looked for anew at each call.
+// Gets the storey number of each wall. Each call searches for the storey again.
 void FindStoreysOfWalls(benchmark::State& state) {
   const auto server = LoadForHost();
   const auto structure = bench::GetStructure(*server);

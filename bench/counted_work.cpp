@@ -9,8 +9,8 @@
 
 #include "bench/conversion.h"
 
-// Loads a model, converts it, saves it and resets it, once each. The four have functions of their
-// own, whose names scripts/count-instructions knows: a tool that counts instructions watches them.
+// Loads, converts, saves and resets a model, once each. scripts/count-instructions counts the
+// instructions inside the four functions below and knows their names, so they must not be inlined.
 
 namespace {
 

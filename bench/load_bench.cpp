@@ -4,7 +4,7 @@
 
 namespace {
 
-// A whole load; the destruction of the model is not measured.
+// Loads the model. The reset between two loads is not measured.
 void LoadWholeModel(benchmark::State& state) {
   KelIFC::IfcServer server;
   for (auto _ : state) {
@@ -17,7 +17,7 @@ void LoadWholeModel(benchmark::State& state) {
 }
 BENCHMARK(LoadWholeModel)->Unit(benchmark::kMillisecond);
 
-// The destruction of a whole model.
+// Resets a loaded model.
 void ResetWholeModel(benchmark::State& state) {
   KelIFC::IfcServer server;
   for (auto _ : state) {

@@ -1,14 +1,15 @@
 #!/usr/bin/env python3
-"""Writes a building model of any size, the same one for the same options.
+"""Writes a building model of a given size.
 
     python3 bench/make_model.py --megabytes 200 --release 2x2 --shuffled OUT.ifc
 
-The model is a stack of storeys with walls and the doors in them, columns, beams, slabs, footings
-and fittings. Each has a placement, a body and a property set, in about the proportions of models
-that are exchanged in practice: more than half of the statements are points, loops and faces, and
-most of these belong to fittings, which are no structure; of the columns and beams one in ten is
-made of faces.
-Instance numbers rise with a gap here and there, or are shuffled over the whole file.
+The same options always give the same file. The model is a stack of storeys with walls, doors in
+the walls, columns, beams, slabs, footings and fittings. Each element has a placement, a body and a
+property set. The proportions are about those of real models: more than half of the statements are
+points, loops and faces. Most of these belong to fittings, which the library does not convert; of
+the columns and beams, one in ten has a body of faces.
+
+Instance numbers ascend with a few gaps, or are shuffled over the whole file.
 """
 
 import argparse
@@ -17,7 +18,7 @@ import random
 import re
 
 ELEMENTS_PER_STOREY = 400
-BYTES_PER_STATEMENT = 50  # at the least, so that shuffled numbers do not collide
+BYTES_PER_STATEMENT = 50  # a lower bound, so that shuffled numbers are unique
 SCHEMAS = {"2x2": "IFC2X2_FINAL", "2x3": "IFC2X3"}
 REFERENCE = re.compile(r"#(\d+)")
 BASE64 = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_$"
@@ -35,7 +36,7 @@ FOOTER = "ENDSEC;\nEND-ISO-10303-21;\n"
 
 
 def number(value):
-    """A real number as the format has it: always with a point, never with an exponent."""
+    """Returns a real number in the syntax of the format: with a point and without an exponent."""
     text = f"{value:.6f}".rstrip("0")
     return text
 
@@ -45,14 +46,14 @@ def refs(numbers):
 
 
 def prime_above(number):
-    """The least prime above a number."""
+    """Returns the least prime above a number."""
     while True:
         number += 1
         if all(number % divisor for divisor in range(2, math.isqrt(number) + 1)):
             return number
 
 
-# Entity, what stands behind the attributes that all have, and the size in millimetres.
+# Entity, text of the attributes after those of all elements, and width, depth and height in mm.
 KINDS = (("IFCWALLSTANDARDCASE", "", 5000.0, 240.0, 2750.0),
          ("IFCCOLUMN", "", 300.0, 300.0, 2750.0),
          ("IFCBUILDINGELEMENTPROXY", ",$", 800.0, 600.0, 900.0),
@@ -62,11 +63,11 @@ KINDS = (("IFCWALLSTANDARDCASE", "", 5000.0, 240.0, 2750.0),
          ("IFCWALLSTANDARDCASE", "", 4000.0, 115.0, 2750.0),
          ("IFCFOOTING", ",.PAD_FOOTING.", 1500.0, 1500.0, 600.0))
 
-SCALES = (0.5, 0.75, 1.0, 1.25, 1.5)  # of the width: sections that recur
+SCALES = (0.5, 0.75, 1.0, 1.25, 1.5)  # factors of the width; so elements share sections
 
 
 class Model:
-    """Gathers statements and hands out their numbers."""
+    """Writes statements and assigns their numbers."""
 
     def __init__(self, out, size, release, shuffled):
         self.out = out
@@ -78,7 +79,7 @@ class Model:
         self.random = random.Random(2003)
 
     def add(self, text):
-        # Now and then a number is left out, as in models that were edited.
+        # A few numbers are skipped, as in models that were edited.
         self.last += 1 if self.random.random() < 0.97 else 3
         self.lines.append(f"#{self.last}={text};\n")
         return self.last
@@ -91,7 +92,7 @@ class Model:
         self.written += self.out.write(text)
 
     def shuffled(self, reference):
-        """Multiplying by a fixed number modulo a prime puts all numbers in another order."""
+        """Maps a number to another one: multiplication modulo a prime is a permutation."""
         return f"#{int(reference.group(1)) * 7368787 % self.prime}"
 
     def is_full(self):
@@ -161,7 +162,7 @@ class Model:
         return self.add(f"IFCFACE({refs([bound])})")
 
     def brep(self, width, depth, height):
-        """A prism over a polygon with many corners."""
+        """Adds a body of faces: a prism over a polygon with many corners."""
         count = 16
         rings = []
         for level in (0.0, height):
@@ -194,7 +195,7 @@ class Model:
         return self.extrusion(*sizes)
 
     def element(self, kind, tail, place, sizes, index):
-        """Gives the numbers of the element and of its placement."""
+        """Adds an element and returns the numbers of the element and of its placement."""
         x, y = self.random.uniform(0, 50000), self.random.uniform(0, 30000)
         own_place = self.placement(f"#{place}", x, y, 0.0)
         body = self.body(kind, index, sizes)
@@ -206,7 +207,7 @@ class Model:
         return number_, own_place
 
     def door(self, wall, place, index):
-        """An opening in a wall, and the door that fills it."""
+        """Adds an opening in a wall and the door that fills it. Returns the number of the door."""
         opening, own_place = self.element("IFCOPENINGELEMENT", "", place, (1010.0, 400.0, 2135.0),
                                           index)
         self.add(f"IFCRELVOIDSELEMENT({self.root('$')},$,#{wall},#{opening})")
@@ -249,9 +250,10 @@ class Model:
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__.split("\n", maxsplit=1)[0])
-    parser.add_argument("--megabytes", type=float, default=10, help="size of the file, about")
-    parser.add_argument("--release", choices=sorted(SCHEMAS), default="2x3", help="of the schema")
-    parser.add_argument("--shuffled", action="store_true", help="numbers in no order")
+    parser.add_argument("--megabytes", type=float, default=10, help="approximate size of the file")
+    parser.add_argument("--release", choices=sorted(SCHEMAS), default="2x3",
+                        help="release of the schema")
+    parser.add_argument("--shuffled", action="store_true", help="shuffle the instance numbers")
     parser.add_argument("output", metavar="OUT.ifc")
     arguments = parser.parse_args()
     with open(arguments.output, "w", encoding="ascii", newline="\n") as out:

@@ -1,12 +1,12 @@
 #!/usr/bin/env python3
-"""Measures loads, saves, conversions and resets of whole models, and prints a table of them.
+"""Measures loads, saves, conversions and resets of whole models, and prints them as a table.
 
     python3 bench/measure.py BUILD WORK [MODEL.ifc...]
 
-BUILD is a build folder of the preset release; WORK receives the models that are made, and keeps
-them for the next time. Models that are named are measured in place of those that are made. Times
-are processor time, the median of five; memory is the most that `kelifc info`, `kelifc save` and
-`kelifc structure` take, each in a process of its own. Nothing else should run meanwhile.
+BUILD is the build folder of the preset release. Without MODEL arguments the script makes models in
+the folder WORK and keeps them for the next run; with MODEL arguments it measures these instead.
+Times are processor time, the median of five runs. Memory is the peak of `kelifc info`, `kelifc
+save` and `kelifc structure`, each in a process of its own. Nothing else should run meanwhile.
 """
 
 import collections
@@ -28,7 +28,7 @@ MADE = ([Made("2x3", "ascending", size) for size in (10, 50, 200, 500)] +
 
 
 def make(model, folder):
-    """The path of a made model, which is made where it is not there yet."""
+    """Makes a model unless the folder already has it, and returns its path."""
     path = os.path.join(folder, f"{model.release}-{model.order}-{model.megabytes}.ifc")
     if not os.path.exists(path):
         options = ["--shuffled"] if model.order == "shuffled" else []
@@ -40,7 +40,7 @@ def make(model, folder):
 
 
 def run_benchmarks(build, path):
-    """The median of each benchmark: milliseconds for works, nanoseconds for lookups."""
+    """Returns the median of each benchmark: in milliseconds for WORKS, nanoseconds for LOOKUPS."""
     names = "|".join(f"^{name}" for name in WORKS + LOOKUPS)
     done = subprocess.run(
         [os.path.join(build, "bench", "kelifc_bench"), f"--benchmark_filter={names}",
@@ -52,7 +52,7 @@ def run_benchmarks(build, path):
 
 
 def peak_memory(*command):
-    """The most bytes that a process has at once."""
+    """Runs a command and returns its peak memory in bytes."""
     process = subprocess.Popen(command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
     _, _, usage = os.wait4(process.pid, 0)
     return usage.ru_maxrss * 1024

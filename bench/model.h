@@ -8,16 +8,17 @@
 
 namespace bench {
 
-/// The path of the model that is measured with.
+/// Returns the path of the model that the benchmarks use.
 const std::string& GetModelPath();
 
-/// Its size in bytes.
+/// Returns the size of the model's file in bytes, -1 if there is no such file.
 std::int64_t GetModelSize();
 
-/// Loads it. Ends the program if that fails.
+/// Loads the model. Exits the program with an error message if this fails.
 void LoadModel(KelIFC::IfcServer& server);
 
-/// A server that holds the model, for measurements that do not change it.
+/// Returns a server with the loaded model, which all benchmarks of the program share. They must not
+/// change it.
 KelIFC::IfcServer& GetLoadedServer();
 
 }  // namespace bench

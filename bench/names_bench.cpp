@@ -12,7 +12,7 @@ constexpr const char* kNames[] = {
     "IFCCARTESIANPOINT", "IFCDIRECTION",  "IFCPROPERTYSINGLEVALUE", "IFCLOCALPLACEMENT",
     "IFCCARTESIANPOINT", "IFCQUANTITYFOO"};
 
-// From a name to an instance, which is destroyed again.
+// Creates an instance by the name of its class, and destroys it.
 void MakeInstanceByName(benchmark::State& state) {
   KelIFC::IfcServer server;
   std::size_t i = 0;

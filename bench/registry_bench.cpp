@@ -10,7 +10,7 @@ namespace {
 
 using KelIFC::IfcUnknown;
 
-// The number of an instance, for all instances of the model in turn.
+// Finds the number of an instance, for all instances of the model in turn.
 void FindInstance(benchmark::State& state) {
   KelIFC::IfcServer& server = bench::GetLoadedServer();
   const KelIFC::Mvector<IfcUnknown*>& items = server.GetItems();
@@ -22,7 +22,7 @@ void FindInstance(benchmark::State& state) {
 }
 BENCHMARK(FindInstance);
 
-// The instance under a number, for all numbers in turn.
+// Gets the instance with a number, for all numbers in ascending order.
 void GetItemByNumber(benchmark::State& state) {
   KelIFC::IfcServer& server = bench::GetLoadedServer();
   std::size_t number = 0;
@@ -33,7 +33,7 @@ void GetItemByNumber(benchmark::State& state) {
 }
 BENCHMARK(GetItemByNumber);
 
-// The same in no order.
+// Gets the instance with a number, for numbers in pseudo-random order.
 void GetItemByNumberAnywhere(benchmark::State& state) {
   KelIFC::IfcServer& server = bench::GetLoadedServer();
   const std::size_t count = server.GetNumberCount();

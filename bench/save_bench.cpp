@@ -7,7 +7,7 @@
 
 namespace {
 
-// A whole save, to a file beside the model.
+// Saves the model to a file in the folder of the model.
 void SaveWholeModel(benchmark::State& state) {
   const std::string path = bench::GetModelPath() + ".saved";
   for (auto _ : state) bench::GetLoadedServer().SaveIfcFile(path.c_str());

@@ -8,7 +8,7 @@
 
 namespace {
 
-// One pass over the file, with nothing done to its statements.
+// Splits the file into statements, without parsing them.
 void ScanModel(benchmark::State& state) {
   for (auto _ : state) {
     std::ifstream file(bench::GetModelPath(), std::ios::binary);

@@ -9,28 +9,17 @@ install(TARGETS kelifc EXPORT KelIFCTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
 
-# Headers that stay inside; a test holds this list against what kelifc.h reaches.
-set(internal_headers
-  core/cast_cache core/global_id core/load_arena core/model core/number_text core/parenthesised
-  core/parse_members core/quoting core/resolve core/value_lists core/value_member core/write_tolerance
-  geo/class_bases
-  geometry/box2 geometry/polygon2 geometry/polygon_normal geometry/rotation2 geometry/segment2
-  geometry/triangle
-  platform/com_class platform/com_dispatch platform/com_guard platform/com_module
-  platform/com_object platform/com_registration platform/com_type_library
-  platform/local_time platform/memory_watch platform/new_guid platform/path
-  schema/bodies schema/record schema/references
-  server/block_search server/file_output server/name_table server/release_tables server/scanner
-  server/schema_table server/statements)
-list(JOIN internal_headers "|" internal_headers)
-install(DIRECTORY "${PROJECT_SOURCE_DIR}/kelifc" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
-  FILES_MATCHING PATTERN "*.h"
-  REGEX "/kelifc/(${internal_headers})\\.h$" EXCLUDE
-  REGEX "/kelifc/(geo|import|schema/[a-z_]+)$" EXCLUDE)  # folders without a public header
-install(DIRECTORY "${PROJECT_BINARY_DIR}/generated/kelifc"
-  DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}"
-  FILES_MATCHING PATTERN "*.h"
-  REGEX "/kelifc/(${internal_headers})\\.h$" EXCLUDE)
+# install_headers(ROOT HEADERS...): installs headers, named by their path below ROOT. The path below
+# the include folder is the same, so an include line works in the tree and in an installation.
+function(install_headers root)
+  foreach(header IN LISTS ARGN)
+    cmake_path(GET header PARENT_PATH folder)
+    install(FILES "${root}/${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${folder}")
+  endforeach()
+endfunction()
+include(KelIFCPublicHeaders)
+install_headers("${PROJECT_SOURCE_DIR}" ${kelifc_public_headers})
+install_headers("${PROJECT_BINARY_DIR}/generated" ${kelifc_generated_headers})
 
 set(package_dir "${CMAKE_INSTALL_LIBDIR}/cmake/KelIFC")
 install(EXPORT KelIFCTargets NAMESPACE KelIFC:: DESTINATION "${package_dir}" COMPONENT development)

@@ -19,6 +19,20 @@ option(KELIFC_BUILD_DOCS "Build the documentation site; needs Doxygen, MkDocs an
 option(KELIFC_INSTALL "Make the install rules" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
 
+# Packed models need zlib and libzip; without them the command refuses packed models.
+set(archive_default OFF)
+if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_CROSSCOMPILING)
+  find_package(PkgConfig)
+  if(PKG_CONFIG_FOUND)
+    pkg_check_modules(KELIFC_ZLIB IMPORTED_TARGET zlib)
+    pkg_check_modules(KELIFC_LIBZIP IMPORTED_TARGET libzip)
+    if(KELIFC_ZLIB_FOUND AND KELIFC_LIBZIP_FOUND)
+      set(archive_default ON)
+    endif()
+  endif()
+endif()
+option(KELIFC_BUILD_ARCHIVE "Build the component that expands .ifczip and .ifc.gz" ${archive_default})
+
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)
 endif()

@@ -4,26 +4,20 @@
 #include "kelifc/kelifc.h"
 
 #include "fuzz/memory_file.h"
-#include "tools/kelifc/object_model.h"
 #include "tools/kelifc/structure_format.h"
 #include "tools/kelifc/structure_reader.h"
 
-// A file of any bytes is converted, and all of the structure is read through its interfaces. An
-// operation that fails there throws, which ends the process: none may.
+// Converts a file of arbitrary bytes and reads the whole structure through its interfaces. No
+// operation may fail: a failure throws, which ends the process.
 
 namespace {
 
-using KelIFC::ComPtr;
-
 void ReadAll(const char* path) {
   const KelIFC::LocalClasses classes;
-  ComPtr<IIFCServer> server;
-  command::Check(CoCreateInstance(CLSID_CoIFCServer, nullptr, CLSCTX_ALL,
-                                  KelIFC::IidOf<IIFCServer>(),
-                                  reinterpret_cast<void**>(server.Put())));
+  const auto server = KelIFC::CreateServer();
   if (KelIFC::GetModel(server.Get())->LoadIfcFile(path) != 0) return;
-  const auto structure = command::GetObject(*server, &IIFCServer::get_Structure);
-  command::StructureJson("model", command::ReadStructure(*structure));
+  const auto structure = KelIFC::Get(server, &IIFCServer::get_Structure);
+  command::StructureJson("model", command::ReadStructure(structure));
 }
 
 }  // namespace

@@ -7,7 +7,8 @@
 
 #include "fuzz/memory_file.h"
 
-// A file of any bytes: it loads or not, and what was loaded can be asked for.
+// Loads a file of arbitrary bytes. Whether or not the load succeeds, all queries must work
+// afterwards.
 
 namespace {
 

@@ -1,6 +1,6 @@
 #!/usr/bin/env python3
-"""Writes the fuzzer's dictionary: the marks of the file format, the names of all entities, and the
-texts of the enumerations.
+"""Writes the dictionary of the fuzzer: the tokens of the file format, the names of all entities,
+and the values of the enumerations.
 
     make_dictionary.py OUT KELIFC.schema...
 """

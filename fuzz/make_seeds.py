@@ -1,11 +1,10 @@
 #!/usr/bin/env python3
-"""Cuts models into what a fuzzer can begin with: small whole models around one product each, and
-single statements of each class.
+"""Cuts models into seeds for the fuzzers: small models with one product each, and statements.
 
     make_seeds.py OUT MODEL.ifc...
 
-OUT/models and OUT/statements receive a file for each. The fuzzer that reads statements takes the
-release from the first byte.
+Writes each small model to a file in OUT/models, and for each class up to two statements to files in
+OUT/statements. The first byte of a statement file is the release, as statement_fuzz expects it.
 """
 
 import collections
@@ -26,7 +25,7 @@ RELEASES = {"IFC151": 0, "IFC1.5.1": 0, "IFC20": 1, "IFC2.0": 1, "IFC2X": 2, "IF
 
 
 class Source:
-    """The statements of a model and who refers to whom."""
+    """The statements of a model, and the references between them."""
 
     def __init__(self, text):
         found = SCHEMA.search(text)
@@ -41,7 +40,7 @@ class Source:
                 self.sources[target].append(n)
 
     def around(self, product):
-        """The product, all that it refers to, and the relationships that name it."""
+        """Returns the numbers of the product, its relationships and all that these refer to."""
         members = set()
         waiting = [product] + [n for n in self.sources[product]
                                if self.texts[n].startswith("IFCREL")]
@@ -54,7 +53,7 @@ class Source:
             members.add(n)
             if len(members) > 400:
                 break
-            # Of a relationship with many members only the one end that is wanted.
+            # A relationship can have many members. A few targets from both ends are enough.
             targets = self.targets[n]
             waiting += targets[-2:] + targets[:2] if n in relationships else targets
         return sorted(members)

@@ -6,8 +6,8 @@
 
 namespace fuzz {
 
-/// An ordinary file that has a path and no place on a disk. Aborts the process where the system has
-/// none to give.
+/// A file in memory that has a path. All functions abort the process if the system fails to create
+/// or write the file.
 class MemoryFile {
  public:
   MemoryFile();
@@ -16,7 +16,10 @@ class MemoryFile {
   MemoryFile& operator=(const MemoryFile&) = delete;
 
   const char* GetPath() const { return path.c_str(); }
+  /// Replaces the content of the file.
   void Write(std::string_view text);
+
+  /// Returns the content of the file.
   std::string Read() const;
 
  private:

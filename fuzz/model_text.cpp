@@ -15,7 +15,7 @@ namespace {
 
 constexpr int kMostRounds = 6;
 
-/// True if a value stands in place in a record, also one without a name.
+/// Whether a record contains an inline value, with or without the name of its type.
 bool HasValueInPlace(std::string_view statement) {
   int names = 0;
   for (std::size_t i = 1; i < statement.size(); ++i) {

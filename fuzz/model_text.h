@@ -11,24 +11,24 @@
 
 namespace fuzz {
 
-/// The statements of a model as it is saved, without the header, which holds the time. `file` is
-/// overwritten.
+/// Saves a model and returns its statements without the header, which contains the time. Overwrites
+/// `file`. Aborts the process if the save fails.
 std::string SaveToText(KelIFC::IfcServer& server, MemoryFile& file);
 
-/// The record of an instance, with its closing parenthesis.
+/// Returns the record of an instance, `NAME(...)`.
 std::string WriteRecord(const KelIFC::IfcUnknown& instance);
 
-/// True if the record, `NAME(...)`, has as many attributes as one of its class has that holds
-/// nothing, and no value stands in place in it. Others tell of a value in place that holds the rest
-/// of a damaged record: it is written, and then read, as something else each time.
+/// Whether a record `NAME(...)` has as many attributes as its class, and no inline values. The
+/// check for settled texts needs this: in a damaged record an inline value can contain the rest of
+/// the record, and then each round of reading and writing changes the text.
 bool IsRegular(KelIFC::IfcServer& server, const std::string& record);
 
-/// The same for all statements of a saved model.
+/// Whether all statements of a saved model are regular.
 bool AreRegular(KelIFC::IfcServer& server, const std::string& model);
 
-/// Calls `again`, which makes a text from the one before, until that does not change any more or
-/// `again` gives false. Ends the process with the last two on the error stream if that takes more
-/// than a few rounds.
+/// Calls `again`, which replaces a text by its next version, until the text stops changing or
+/// `again` returns false. If this takes more than a few rounds, prints the last two versions to the
+/// error stream and aborts the process.
 void RequireSettled(std::string text, const std::function<bool(std::string&)>& again);
 
 }  // namespace fuzz

@@ -5,7 +5,8 @@
 
 #include "fuzz/model_text.h"
 
-// What was loaded from any file and saved settles, loaded and saved again, within a few rounds.
+// Loads a file of arbitrary bytes and saves it, then loads and saves the result again. The saved
+// file must stop changing after a few rounds.
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   static fuzz::MemoryFile file;
@@ -14,7 +15,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     KelIFC::IfcServer server;
     if (server.LoadIfcFile(file.GetPath()) != 0) return false;
     saved = fuzz::SaveToText(server, file);
-    // Placements in the plane make a direction of their own in each load.
+    // Placements in the plane are excluded: each load creates a new direction for them.
     return saved.find("IFCAXIS2PLACEMENT2D") == std::string::npos &&
            server.GetRelease() >= KelIFC::IFC_RELEASE_2X && fuzz::AreRegular(server, saved);
   });

@@ -7,16 +7,18 @@
 
 #include "fuzz/model_text.h"
 
-// One statement: what was read from any text and written settles, read and written again, within a
-// few rounds. Few rounds, not one: a person of the newer releases loses a name in each. The first
-// byte picks the release, the others are the statement.
+// Reads an arbitrary text as a statement and writes it, then reads and writes the result again. The
+// text must stop changing after a few rounds. One round is not enough: a person of the newer
+// releases loses a name in each round. The first byte selects the release; the other bytes are the
+// statement.
 
 namespace {
 
 using KelIFC::IfcServer;
 using KelIFC::IfcUnknown;
 
-/// A model with the instance of `text` as #1, which is read from it. Null if the name is unknown.
+/// Adds the instance that `text` describes to the model, as #1. The model owns it. Returns null if
+/// the class is unknown.
 IfcUnknown* Read(IfcServer& server, const std::string& text) {
   IfcUnknown* instance = server.ParseClass(text.c_str(), nullptr);
   server.InsertItem(1, instance);

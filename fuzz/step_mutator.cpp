@@ -4,11 +4,13 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "fuzz/step_text.h"
 
-// The engine calls these two; without them it knows bytes alone.
+// The mutator of the fuzzer itself, which changes single bytes. The fuzzer calls the two functions
+// at the end of this file instead.
 extern "C" std::size_t LLVMFuzzerMutate(std::uint8_t* data, std::size_t size, std::size_t maxSize);
 
 namespace fuzz {
@@ -63,7 +65,6 @@ std::string& Pick(Statements& statements, Random& random) {
   return statements[Below(statements.size(), random)];
 }
 
-/// Replaces a stretch of the statement.
 void Replace(std::string& statement, Span span, const std::string& text) {
   statement.replace(span.begin, span.end - span.begin, text);
 }
@@ -72,14 +73,20 @@ std::string TextOf(const std::string& statement, Span span) {
   return statement.substr(span.begin, span.end - span.begin);
 }
 
-void ExchangeReference(Statements& statements, Random& random) {
+/// Returns one of the spans, nothing if there are none.
+std::optional<Span> PickSpan(const std::vector<Span>& spans, Random& random) {
+  if (spans.empty()) return std::nullopt;
+  return spans[Below(spans.size(), random)];
+}
+
+/// Replaces a reference or an argument by one of another statement; `find` says which of the two.
+template <std::vector<Span> (*find)(std::string_view)>
+void Copy(Statements& statements, Random& random) {
   std::string& to = Pick(statements, random);
   const std::string from = Pick(statements, random);
-  const auto targets = FindReferences(to);
-  const auto sources = FindReferences(from);
-  if (targets.empty() || sources.empty()) return;
-  Replace(to, targets[Below(targets.size(), random)],
-          TextOf(from, sources[Below(sources.size(), random)]));
+  const auto target = PickSpan(find(to), random);
+  const auto source = PickSpan(find(from), random);
+  if (target && source) Replace(to, *target, TextOf(from, *source));
 }
 
 void ReferToItself(Statements& statements, Random& random) {
@@ -116,49 +123,35 @@ void Cut(Statements& statements, Random& random) {
 
 void ReplaceArgument(Statements& statements, Random& random) {
   std::string& statement = Pick(statements, random);
-  const auto spans = FindArguments(statement);
-  if (spans.empty()) return;
-  Replace(statement, spans[Below(spans.size(), random)],
-          std::string(kOddValues[Below(kOddValues.size(), random)]));
+  const auto span = PickSpan(FindArguments(statement), random);
+  if (!span) return;
+  Replace(statement, *span, std::string(kOddValues[Below(kOddValues.size(), random)]));
 }
 
-void CopyArgument(Statements& statements, Random& random) {
-  std::string& to = Pick(statements, random);
-  const std::string from = Pick(statements, random);
-  const auto targets = FindArguments(to);
-  const auto sources = FindArguments(from);
-  if (targets.empty() || sources.empty()) return;
-  Replace(to, targets[Below(targets.size(), random)],
-          TextOf(from, sources[Below(sources.size(), random)]));
-}
-
-/// Puts the value of another statement in the place of an argument.
+/// Replaces an argument by the record of another statement.
 void Nest(Statements& statements, Random& random) {
   std::string& to = Pick(statements, random);
   const std::string from = Pick(statements, random);
-  const auto targets = FindArguments(to);
-  if (targets.empty()) return;
-  Replace(to, targets[Below(targets.size(), random)], TextOf(from, FindRightSide(from)));
+  const auto target = PickSpan(FindArguments(to), random);
+  if (target) Replace(to, *target, TextOf(from, FindRightSide(from)));
 }
 
 void WrapArgument(Statements& statements, Random& random) {
   std::string& statement = Pick(statements, random);
-  const auto spans = FindArguments(statement);
-  if (spans.empty()) return;
-  const Span span = spans[Below(spans.size(), random)];
+  const auto span = PickSpan(FindArguments(statement), random);
+  if (!span) return;
   const std::size_t depth = 1 + Below(40, random);
-  Replace(statement, span,
-          std::string(depth, '(') + TextOf(statement, span) + std::string(depth, ')'));
+  Replace(statement, *span,
+          std::string(depth, '(') + TextOf(statement, *span) + std::string(depth, ')'));
 }
 
-/// Repeats an element of a list, or any argument.
+/// Writes an argument, or an element of a list, twice.
 void RepeatArgument(Statements& statements, Random& random) {
   std::string& statement = Pick(statements, random);
-  const auto spans = FindArguments(statement);
-  if (spans.empty()) return;
-  const Span span = spans[Below(spans.size(), random)];
-  const std::string text = TextOf(statement, span);
-  Replace(statement, span, text + "," + text);
+  const auto span = PickSpan(FindArguments(statement), random);
+  if (!span) return;
+  const std::string text = TextOf(statement, *span);
+  Replace(statement, *span, text + "," + text);
 }
 
 void Rename(Statements& statements, Random& random) {
@@ -172,9 +165,9 @@ void Rename(Statements& statements, Random& random) {
 }
 
 using Change = void (*)(Statements&, Random&);
-constexpr std::array<Change, 16> kChanges = {ExchangeReference,
-                                             ExchangeReference,
-                                             ExchangeReference,
+constexpr std::array<Change, 16> kChanges = {Copy<FindReferences>,
+                                             Copy<FindReferences>,
+                                             Copy<FindReferences>,
                                              ReferToItself,
                                              Drop,
                                              Repeat,
@@ -183,7 +176,7 @@ constexpr std::array<Change, 16> kChanges = {ExchangeReference,
                                              ReplaceArgument,
                                              ReplaceArgument,
                                              ReplaceArgument,
-                                             CopyArgument,
+                                             Copy<FindArguments>,
                                              Nest,
                                              WrapArgument,
                                              RepeatArgument,
@@ -214,7 +207,8 @@ std::string CrossModels(std::string_view text, std::string_view other, Random& r
 
 namespace {
 
-/// Copies the text into the engine's buffer, cut where that ends.
+/// Copies the text into the fuzzer's buffer and returns the copied size. A text that is too long is
+/// cut off.
 std::size_t Deliver(const std::string& text, std::uint8_t* data, std::size_t maxSize) {
   const std::size_t size = std::min(text.size(), maxSize);
   std::copy_n(text.begin(), size, data);

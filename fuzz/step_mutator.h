@@ -9,12 +9,12 @@ namespace fuzz {
 
 using Random = std::minstd_rand;
 
-/// Changes one thing about a model that a file of the format can have: references are exchanged,
-/// statements cut, repeated, moved, renamed and nested in each other, values replaced by odd ones.
-/// The text may become longer. An empty one stays as it is.
+/// Returns the text of a model with one to three random changes: references are exchanged;
+/// statements are cut, removed, repeated, moved, renamed or nested in each other; values are
+/// replaced by unusual ones. The text may become longer. Empty text stays empty.
 std::string MutateModel(std::string_view text, Random& random);
 
-/// Statements of one model between those of another.
+/// Returns `text` with up to 12 consecutive statements of `other` inserted.
 std::string CrossModels(std::string_view text, std::string_view other, Random& random);
 
 }  // namespace fuzz

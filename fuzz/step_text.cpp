@@ -7,8 +7,9 @@ namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
-/// The position behind the string that begins at `at`, or the end of the text.
-std::size_t BehindString(std::string_view text, std::size_t at) {
+/// Returns the position after the string that begins at `at`; the end of the text if the string
+/// does not end.
+std::size_t AfterString(std::string_view text, std::size_t at) {
   const std::size_t close = text.find('\'', at + 1);
   return close == std::string_view::npos ? text.size() : close + 1;
 }
@@ -20,7 +21,7 @@ std::vector<std::string> SplitStatements(std::string_view text) {
   std::size_t begin = 0;
   for (std::size_t at = 0; at < text.size();) {
     if (text[at] == '\'') {
-      at = BehindString(text, at);
+      at = AfterString(text, at);
     } else if (text[at++] == ';') {
       while (at < text.size() && (text[at] == '\n' || text[at] == '\r')) ++at;
       statements.emplace_back(text.substr(begin, at - begin));
@@ -41,7 +42,7 @@ std::vector<Span> FindReferences(std::string_view statement) {
   std::vector<Span> spans;
   for (std::size_t at = 0; at < statement.size();) {
     if (statement[at] == '\'') {
-      at = BehindString(statement, at);
+      at = AfterString(statement, at);
     } else if (statement[at++] == '#') {
       const std::size_t begin = at;
       while (at < statement.size() && IsDigit(statement[at])) ++at;
@@ -53,11 +54,11 @@ std::vector<Span> FindReferences(std::string_view statement) {
 
 std::vector<Span> FindArguments(std::string_view statement) {
   std::vector<Span> spans;
-  std::vector<std::size_t> open;  // where the argument of each depth begins
+  std::vector<std::size_t> open;  // the begin of the current argument at each depth
   for (std::size_t at = 0; at < statement.size();) {
     const char c = statement[at];
     if (c == '\'') {
-      at = BehindString(statement, at);
+      at = AfterString(statement, at);
       continue;
     }
     if ((c == ',' || c == ')') && !open.empty()) {
@@ -76,7 +77,7 @@ std::size_t CountAttributes(std::string_view record) {
   std::size_t count = 1;
   for (std::size_t at = 0; at < record.size();) {
     if (record[at] == '\'') {
-      at = BehindString(record, at);
+      at = AfterString(record, at);
       continue;
     }
     const char c = record[at++];

@@ -8,28 +8,29 @@
 
 namespace fuzz {
 
-/// A stretch of a text.
+/// A part of a text: the indices of its first character and of the one after its last.
 struct Span {
   std::size_t begin = 0;
   std::size_t end = 0;
 };
 
-/// Cuts a file into statements, each with its `;` and the line end behind it. Joined again they are
-/// the same text.
+/// Splits a file into statements. Each includes its `;` and the line ends after it, so that
+/// JoinStatements restores the text.
 std::vector<std::string> SplitStatements(std::string_view text);
 
 std::string JoinStatements(const std::vector<std::string>& statements);
 
-/// The digits of the references of a statement; its own number, the first of them, too.
+/// Returns the digits of all references in a statement. The first one is its own number.
 std::vector<Span> FindReferences(std::string_view statement);
 
-/// The arguments of a statement, those within inner parentheses as well as the lists they are in.
+/// Returns all arguments of a statement: lists, and the arguments inside lists and inline values.
 std::vector<Span> FindArguments(std::string_view statement);
 
-/// How many attributes a record `NAME(...)` has; 0 for what does not end with its parenthesis.
+/// Returns the number of attributes of a record `NAME(...)`; 0 if the text does not end with the
+/// closing parenthesis.
 std::size_t CountAttributes(std::string_view record);
 
-/// What stands behind the `=`, without the `;`. All of it where there is no `=`.
+/// Returns what is between the `=` and the last `;`. If there is no `=`, the begin is 0.
 Span FindRightSide(std::string_view statement);
 
 }  // namespace fuzz

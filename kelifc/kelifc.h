@@ -1,8 +1,8 @@
 #ifndef KELIFC_KELIFC_H_
 #define KELIFC_KELIFC_H_
 
-// All that a host can use: the model server, the values and the entity classes of the five
-// releases, and the object model of the converted structure.
+// Includes everything that a host can use: the model server, the values and the entity classes of
+// the five releases, and the object model of the converted structure.
 
 #include "kelifc/core/binary.h"
 #include "kelifc/core/boolean.h"
@@ -11,6 +11,7 @@
 #include "kelifc/core/coordinates.h"
 #include "kelifc/core/enum.h"
 #include "kelifc/core/exception.h"
+#include "kelifc/core/global_id.h"
 #include "kelifc/core/integer.h"
 #include "kelifc/core/invalid_parameter.h"
 #include "kelifc/core/length_measure.h"
@@ -30,11 +31,14 @@
 #include "kelifc/core/unit_assignment.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/core/value.h"
+#include "kelifc/core/value_member.h"
 #include "kelifc/geo/interfaces.h"
+#include "kelifc/geo/section_kind.h"
 #include "kelifc/geometry/brep.h"
 #include "kelifc/geometry/regular_figure.h"
 #include "kelifc/geometry/set_carver.h"
 #include "kelifc/model_access.h"
+#include "kelifc/object_model.h"
 #include "kelifc/platform/com.h"
 #include "kelifc/schema/ifc151.h"
 #include "kelifc/schema/ifc20.h"

@@ -7,9 +7,10 @@
 
 namespace KelIFC {
 
-/// The model that a server object holds, for C++ hosts that use both faces of the library: such as
-/// to follow a load, or to look at the instances that the structure was made from. It belongs to
-/// the server object. Null for null, and for an object that is not of this library.
+/// Returns the model of a server object, for C++ hosts that use both the class library and the
+/// object model. A host can then follow a load, or read the instances that the structure was
+/// converted from. The model belongs to the server object. Returns null for null and for an object
+/// of another library.
 KELIFC_API IfcServer* GetModel(IIFCServer* server);
 
 }  // namespace KelIFC

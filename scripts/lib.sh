@@ -1,4 +1,5 @@
-# Sourced by demo, check and .ci/run: where the tree is, what it needs, how it is built.
+# Functions and variables for the other scripts and .ci/run, which source this file: the root of the
+# tree, the packages that a build needs, and how to build and test.
 set -euo pipefail
 
 root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
@@ -6,9 +7,9 @@ jobs=$(nproc)
 cd "$root"
 
 build_packages=(g++ cmake ninja-build pkg-config python3 libgtest-dev libgmock-dev libbenchmark-dev
-  libcli11-dev nlohmann-json3-dev)
+  libcli11-dev nlohmann-json3-dev zlib1g-dev libzip-dev)
 
-# Installs those of the named Debian packages that are missing.
+# install_missing PACKAGE...: installs those of the Debian packages that are missing.
 install_missing() {
   command -v dpkg-query >/dev/null || return 0
   local package missing=() sudo=()
@@ -24,7 +25,7 @@ install_missing() {
     --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
-# build PRESET [TARGET...]: configures and builds, all targets where none is named.
+# build PRESET [TARGET...]: configures and builds the targets, or all targets if none is given.
 build() {
   local preset=$1
   shift
@@ -32,7 +33,7 @@ build() {
   cmake --build --preset "$preset" --parallel "$jobs" ${1:+--target "$@"}
 }
 
-# run_tests PRESET: the whole suite; ctest's closing lines come last.
+# run_tests PRESET: runs all tests; the summary of ctest comes last.
 run_tests() {
   ctest --preset "$1" --parallel "$jobs" --no-tests=error
 }

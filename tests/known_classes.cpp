@@ -19,7 +19,7 @@ class Classes : public testing::Environment {
  public:
   void SetUp() override {
 #ifdef _WIN32
-    ASSERT_GE(CoInitialize(nullptr), 0);  // stays open while a test changes the classes
+    ASSERT_GE(CoInitialize(nullptr), 0);  // keeps COM initialised while a test changes the classes
 #endif
     KnowClasses();
   }

@@ -3,11 +3,11 @@
 
 namespace KelIFC {
 
-/// Makes the classes of the library known to the thread of the tests, behind those that a test has
-/// put in their place. Every test program begins with it.
+/// Makes the classes of the library known to the thread of the tests. Classes that a test has
+/// registered before are used first. Every test program calls this function at its start.
 void KnowClasses();
 
-/// Takes them back.
+/// Makes the classes unknown again.
 void ForgetClasses();
 
 }  // namespace KelIFC

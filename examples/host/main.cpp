@@ -1,4 +1,5 @@
-// Loads a model through the object model's interfaces and prints its storeys.
+// Prints the storeys of a model. It uses the interfaces of the object model without the C++ layer,
+// as a host of another compiler or language does.
 #include <kelifc/kelifc.h>
 
 #include <cstdio>
@@ -7,7 +8,7 @@ namespace {
 
 using KelIFC::ComPtr;
 
-/// Fetches something that an operation gives; nothing if the operation fails.
+/// The object that an operation returns. It is empty if the operation fails.
 template <class Object, class Result>
 ComPtr<Result> Fetch(Object& object, HRESULT (Object::*operation)(Result**)) {
   ComPtr<Result> result;

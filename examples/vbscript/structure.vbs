@@ -2,7 +2,7 @@
 '
 '   cscript //nologo structure.vbs MODEL.ifc
 '
-' KelIFC.dll must be registered before: regsvr32 KelIFC.dll
+' Register the library first: regsvr32 KelIFC.dll
 Option Explicit
 
 Const NoStorey = 32767
@@ -23,7 +23,7 @@ End If
 On Error GoTo 0
 Set model = server.Structure
 
-' Sections come into being while elements are converted, so they are read last.
+' Sections are created while elements are converted, so they are read last.
 WScript.Echo "{""file"": " & Text(WScript.Arguments(0)) & ","
 WScript.Echo """storeys"": " & All(model.Storeys, "Storey") & ","
 WScript.Echo """columns"": " & All(model.Columns, "Column") & ","
@@ -33,7 +33,7 @@ WScript.Echo """plates"": " & All(model.Plates, "Plate") & ","
 WScript.Echo """foots"": " & All(model.Foots, "Foot") & ","
 WScript.Echo """sections"": " & All(model.Sections, "Section") & "}"
 
-' What is told of each item of a collection.
+' The descriptions of all items of a collection.
 Function All(collection, kind)
   Dim item, result
   result = ""
@@ -74,7 +74,7 @@ Function Storey(item)
       ", ""level"": " & Number(item.Level) & ", ""height"": " & Number(item.Height) & "}"
 End Function
 
-' The members that every element has.
+' The members that every element has, as text.
 Function Common(item)
   Common = """name"": " & Text(item.Name) & ", ""guid"": " & Text(item.GUID) & _
       ", ""section"": " & Text(item.SectionName) & ", ""storey"": " & StoreyOf(item)
@@ -142,14 +142,14 @@ Function Section(item)
   Section = "{""name"": " & Text(item.Name) & ", ""kind"": " & item.Kind & sizes & "}"
 End Function
 
-' The decimal point, whatever the settings of the user say.
+' A number with a decimal point, independent of the settings of the user.
 Function Number(value)
   Number = Replace(CStr(value), ",", ".")
   If Left(Number, 1) = "." Then Number = "0" & Number
   If Left(Number, 2) = "-." Then Number = "-0" & Mid(Number, 2)
 End Function
 
-' A text between quotes.
+' A text in quotes.
 Function Text(value)
   Text = """" & Replace(Replace(value, "\", "\\"), """", "\""") & """"
 End Function

@@ -6,9 +6,9 @@
 #include <type_traits>
 #include <utility>
 
-#include "kelifc/core/position_index.h"
-#include "kelifc/core/sequence.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/position_index.h"
+#include "kelifc/core/detail/sequence.h"
+#include "kelifc/core/detail/text_out.h"
 
 // The aggregates of the schema. Positions count from 1, and 0 means not found. A copy copies each
 // element in turn; see MEMBER for what that does to values in place.
@@ -21,11 +21,19 @@ std::size_t ElementKey(T* item) {
   return reinterpret_cast<std::size_t>(item);
 }
 
+namespace detail {
+
 template <class T, class = void>
 struct HasElementKey : std::false_type {};
 template <class T>
 struct HasElementKey<T, std::void_t<decltype(ElementKey(std::declval<const T&>()))>>
     : std::true_type {};
+
+/// The bookkeeping of a SET: an index where its elements have a key, else nothing.
+template <class T>
+using SetHeader = std::conditional_t<HasElementKey<T>::value, PositionIndex, NoHeader>;
+
+}  // namespace detail
 
 /// What LIST and SET have in common.
 template <class T, class Header>
@@ -77,15 +85,15 @@ class Aggregate {
   ~Aggregate() = default;
 
   void WriteItems(std::ostream& out) const {
-    PutChar(out, '(');
+    detail::PutChar(out, '(');
     for (std::size_t i = 0; i < items.GetSize(); ++i) {
-      if (i != 0) PutText(out, ", ");
+      if (i != 0) detail::PutText(out, ", ");
       items[i].Write(out);
     }
-    PutChar(out, ')');
+    detail::PutChar(out, ')');
   }
 
-  Sequence<T, Header> items;  // its mark is the mark that the aggregate exists
+  detail::Sequence<T, Header> items;  // its mark is the mark that the aggregate exists
 
  private:
   bool IsIn(std::size_t position) const { return position - 1 < items.GetSize(); }
@@ -98,12 +106,12 @@ class Aggregate {
 
 /// An ordered aggregate, which may hold equal elements.
 template <class T>
-class LIST : public Aggregate<T, NoHeader> {
+class LIST : public Aggregate<T, detail::NoHeader> {
  public:
   /// An empty list that is unset.
   LIST() = default;
   /// A list of `count` default elements.
-  explicit LIST(std::size_t count) : Aggregate<T, NoHeader>(count) {}
+  explicit LIST(std::size_t count) : Aggregate<T, detail::NoHeader>(count) {}
   LIST(const LIST&) = default;
   LIST(LIST&&) noexcept = default;
   LIST& operator=(const LIST&) = default;
@@ -118,7 +126,7 @@ class LIST : public Aggregate<T, NoHeader> {
     if (this->GetExists()) {
       this->WriteItems(out);
     } else {
-      PutChar(out, '$');
+      detail::PutChar(out, '$');
     }
     return out;
   }
@@ -127,9 +135,8 @@ class LIST : public Aggregate<T, NoHeader> {
 /// An aggregate without equal elements, as far as Add made it. A long set of references or pointers
 /// keeps an index, so that Add stays fast; access to elements for writing drops it.
 template <class T>
-class SET
-    : public Aggregate<T, std::conditional_t<HasElementKey<T>::value, PositionIndex, NoHeader>> {
-  using Base = Aggregate<T, std::conditional_t<HasElementKey<T>::value, PositionIndex, NoHeader>>;
+class SET : public Aggregate<T, detail::SetHeader<T>> {
+  using Base = Aggregate<T, detail::SetHeader<T>>;
 
  public:
   /// An empty set that is unset.
@@ -145,7 +152,7 @@ class SET
   /// Adds an element unless there is an equal one. Gives the position of the one or the other.
   std::size_t Add(const T& value) {
     this->SetExists(true);
-    if constexpr (HasElementKey<T>::value) {
+    if constexpr (detail::HasElementKey<T>::value) {
       if (auto* index = this->items.GetHeader()) return AddIndexed(*index, value);
     }
     const std::size_t position = this->Find(value);
@@ -159,11 +166,12 @@ class SET
   }
 
  private:
-  std::size_t AddIndexed(PositionIndex& index, const T& value) {
+  std::size_t AddIndexed(detail::PositionIndex& index, const T& value) {
     const auto keyAt = [this](std::size_t i) { return ElementKey(this->items[i]); };
     while (index.GetCount() < this->items.GetSize()) index.Add(keyAt);
     const std::uint32_t position = index.Find(ElementKey(value), keyAt);
-    return position != PositionIndex::kNotFound ? std::size_t{position} + 1 : this->Append(value);
+    return position != detail::PositionIndex::kNotFound ? std::size_t{position} + 1
+                                                        : this->Append(value);
   }
 };
 

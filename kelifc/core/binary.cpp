@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstring>
 
-namespace KelIFC {
+namespace KelIFC::detail {
 
 const char* ReadBits(const char* text, char* flags, std::size_t count) {
   std::fill_n(flags, count, '0');
@@ -18,4 +18,4 @@ const char* ReadBits(const char* text, char* flags, std::size_t count) {
   return BehindNextComma(close + 1);
 }
 
-}  // namespace KelIFC
+}  // namespace KelIFC::detail

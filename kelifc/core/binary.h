@@ -6,16 +6,20 @@
 #include <ostream>
 #include <string_view>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/platform/export.h"
 
 namespace KelIFC {
+
+namespace detail {
 
 /// Fills `count` flags from a bit text between double quotes and gives the next cursor; `text` is
 /// not null. A flag is '1' where the bit text has a '1', else '0'. If no such text stands ahead of
 /// the next comma, all flags are '0' and the result is `text`.
 KELIFC_API const char* ReadBits(const char* text, char* flags, std::size_t count);
+
+}  // namespace detail
 
 /// A bit string of fixed width, or unset. In a file the bits stand one by one as 0 and 1 between
 /// double quotes, which is not the hexadecimal form of the published exchange structure.
@@ -32,20 +36,20 @@ class BINARY {
     flags.fill('0');
     exists = false;
     const char* next = nullptr;
-    if (SkipOmittedValue(next, text) || text == nullptr) return next;
+    if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
     exists = true;
-    return ReadBits(text, flags.data(), N);
+    return detail::ReadBits(text, flags.data(), N);
   }
 
   /// Writes the bits, `$` if unset.
   std::ostream& Write(std::ostream& out) const {
     if (!exists) {
-      PutChar(out, '$');
+      detail::PutChar(out, '$');
       return out;
     }
-    PutChar(out, '"');
-    PutText(out, std::string_view(flags.data(), N));
-    PutChar(out, '"');
+    detail::PutChar(out, '"');
+    detail::PutText(out, std::string_view(flags.data(), N));
+    detail::PutChar(out, '"');
     return out;
   }
 

@@ -1,8 +1,8 @@
 #include "kelifc/core/boolean.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/enum.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/enumerator.h"
 
 namespace KelIFC {
 
@@ -10,7 +10,7 @@ const char* BOOLEAN::Parse(const char* text) {
   value = false;
   exists = false;
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   const EnumText read = ReadEnumText(text);
   exists = true;
   value = read.text == "T";
@@ -18,7 +18,7 @@ const char* BOOLEAN::Parse(const char* text) {
 }
 
 std::ostream& BOOLEAN::Write(std::ostream& out) const {
-  PutText(out, !exists ? "$" : value ? ".T." : ".F.");
+  detail::PutText(out, !exists ? "$" : value ? ".T." : ".F.");
   return out;
 }
 

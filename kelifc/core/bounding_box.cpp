@@ -1,8 +1,8 @@
 #include "kelifc/core/bounding_box.h"
 
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/exception.h"
-#include "kelifc/core/model.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/references/model.h"
 
 namespace KelIFC {
 
@@ -20,7 +20,7 @@ std::ostream& IfcBoundingBox::Write(std::ostream& out) const {
   IfcUnknown::Write(out);
   corner.Write(out);
   for (const IfcLengthMeasure* measure : {&xDim, &yDim, &zDim}) {
-    PutChar(out, ',');
+    detail::PutChar(out, ',');
     measure->Write(out);
   }
   return out;

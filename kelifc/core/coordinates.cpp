@@ -6,10 +6,10 @@
 #include <new>
 #include <string>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/parenthesised.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/lists/parenthesised.h"
+#include "kelifc/core/text/number_text.h"
 
 namespace KelIFC {
 
@@ -91,15 +91,15 @@ void COORDINATES::Resize(std::size_t count) {
 }
 
 // Reads numbers in place. No parenthesis opens among them, so no reader runs past the end.
-void COORDINATES::ReadNumbers(const Parenthesised& inner) {
+void COORDINATES::ReadNumbers(const detail::Parenthesised& inner) {
   const char* cursor = inner.begin;
   while (cursor != nullptr) {
-    const char* first = SkipBlanks(cursor);
+    const char* first = detail::SkipBlanks(cursor);
     if (*first != '$' && *first != '*') {
       if (size == kInside) Reserve(kInside + 1 + inner.CountCommas(cursor));
       Append(StoredOf(ReadReal(cursor, &first)));
     }
-    cursor = BehindCommaBefore(first, inner.end);
+    cursor = detail::BehindCommaBefore(first, inner.end);
   }
 }
 
@@ -115,9 +115,9 @@ void COORDINATES::ReadElements(const std::string& text) {
 const char* COORDINATES::Parse(const char* text) {
   size = 0;
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
-  Parenthesised inner;
-  if (!FindParenthesised(text, inner)) return text;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
+  detail::Parenthesised inner;
+  if (!detail::FindParenthesised(text, inner)) return text;
   if (inner.isNested) {
     ReadElements(std::string(inner.begin, inner.end));
   } else if (inner.begin != inner.end) {
@@ -127,12 +127,12 @@ const char* COORDINATES::Parse(const char* text) {
 }
 
 std::ostream& COORDINATES::Write(std::ostream& out) const {
-  PutChar(out, '(');
+  detail::PutChar(out, '(');
   for (std::uint32_t i = 0; i < size; ++i) {
-    if (i != 0) PutChar(out, ',');
+    if (i != 0) detail::PutChar(out, ',');
     NumberOf(Begin()[i]).Write(out);
   }
-  PutChar(out, ')');
+  detail::PutChar(out, ')');
   return out;
 }
 

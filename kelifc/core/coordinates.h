@@ -11,7 +11,9 @@
 
 namespace KelIFC {
 
+namespace detail {
 struct Parenthesised;
+}
 
 /// The numbers of a point or a direction; each of them may be unset. Positions count from 1. Up to
 /// three numbers stand in the object itself, since nearly every point has no more.
@@ -52,7 +54,7 @@ class KELIFC_API COORDINATES {
   double* Begin() { return capacity > kInside ? heap : inside; }
   const double* Begin() const { return capacity > kInside ? heap : inside; }
   void Append(double stored);
-  void ReadNumbers(const Parenthesised& inner);
+  void ReadNumbers(const detail::Parenthesised& inner);
   void ReadElements(const std::string& text);
 
   // An unset number is stored as one particular nan, which no number that is set is stored as.

@@ -2,22 +2,10 @@
 #define KELIFC_CORE_ENUM_H_
 
 #include <string>
-#include <string_view>
 
 #include "kelifc/platform/export.h"
 
 namespace KelIFC {
-
-/// An enumerator in a statement, not copied out of it.
-struct EnumText {
-  std::string_view text;  ///< what stands between the dots
-  bool exists = false;    ///< false for `$`, `*` and what is no enumerator
-  const char* next = nullptr;
-};
-
-/// Reads an enumerator such as `.NOTDEFINED.` by the rules of ENUM::Parse; `next` is the cursor
-/// that it gives back.
-KELIFC_API EnumText ReadEnumText(const char* text);
 
 /// An enumeration attribute whose text is kept: the enumerator without its dots, or unset.
 class KELIFC_API ENUM : public std::string {

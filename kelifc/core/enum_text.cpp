@@ -1,7 +1,7 @@
 #include "kelifc/core/enum_text.h"
 
-#include "kelifc/core/enum.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/enumerator.h"
 
 namespace KelIFC {
 
@@ -21,12 +21,12 @@ std::ostream& WriteEnumValue(std::ostream& out, std::int32_t value, const EnumTe
                              std::size_t rowCount) {
   for (const EnumTextRow* row = table; row != table + rowCount; ++row) {
     if (row->Value != value) continue;
-    PutChar(out, '.');
-    PutText(out, row->Text);
-    PutChar(out, '.');
+    detail::PutChar(out, '.');
+    detail::PutText(out, row->Text);
+    detail::PutChar(out, '.');
     return out;
   }
-  PutChar(out, '$');
+  detail::PutChar(out, '$');
   return out;
 }
 

@@ -1,8 +1,8 @@
 #include "kelifc/core/integer.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/number_text.h"
 
 namespace KelIFC {
 
@@ -10,17 +10,17 @@ const char* INTEGER::Parse(const char* text) {
   value = 0;
   exists = false;
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   exists = true;
   value = ReadInteger(text, &next);
-  return BehindNextComma(next);
+  return detail::BehindNextComma(next);
 }
 
 std::ostream& INTEGER::Write(std::ostream& out) const {
   if (exists) {
-    PutNumber(out, std::int64_t{value});
+    detail::PutNumber(out, std::int64_t{value});
   } else {
-    PutChar(out, '$');
+    detail::PutChar(out, '$');
   }
   return out;
 }

@@ -1,6 +1,6 @@
 #include "kelifc/core/length_measure.h"
 
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
 
 namespace KelIFC {
 
@@ -14,7 +14,7 @@ std::ostream& IfcLengthMeasure::Write(std::ostream& out) const { return REAL::Wr
 std::ostream& IfcLengthMeasure::WriteWithName(std::ostream& out) const {
   IfcUnknown::Write(out);
   REAL::Write(out);
-  PutChar(out, ')');
+  detail::PutChar(out, ')');
   return out;
 }
 

@@ -1,7 +1,7 @@
 #include "kelifc/core/list_of_members.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/parse_members.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/lists/parse_members.h"
 
 namespace KelIFC {
 
@@ -14,7 +14,7 @@ const char* LIST_OF_MEMBERS::Parse(const char* text) {
   Clear();
   SetExists(false);
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   SetExists(true);
   return ParseMembers(text, owner, items);
 }

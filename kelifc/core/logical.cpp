@@ -1,8 +1,8 @@
 #include "kelifc/core/logical.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/enum.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/enumerator.h"
 
 namespace KelIFC {
 
@@ -10,7 +10,7 @@ const char* LOGICAL::Parse(const char* text) {
   value = LOGICAL_UNKNOWN;
   exists = false;
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   const EnumText read = ReadEnumText(text);
   exists = true;
   value = read.text == "T" ? LOGICAL_TRUE : read.text == "F" ? LOGICAL_FALSE : LOGICAL_UNKNOWN;
@@ -19,9 +19,9 @@ const char* LOGICAL::Parse(const char* text) {
 
 std::ostream& LOGICAL::Write(std::ostream& out) const {
   if (!exists) {
-    PutChar(out, '$');
+    detail::PutChar(out, '$');
   } else {
-    PutText(out, value == LOGICAL_TRUE ? ".T." : value == LOGICAL_FALSE ? ".F." : ".U.");
+    detail::PutText(out, value == LOGICAL_TRUE ? ".T." : value == LOGICAL_FALSE ? ".F." : ".U.");
   }
   return out;
 }

@@ -2,12 +2,14 @@
 
 #include <charconv>
 #include <string_view>
+#include <typeinfo>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/model.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/references/model.h"
+#include "kelifc/core/text/number_text.h"
 #include "kelifc/core/unknown.h"
+#include "kelifc/core/value.h"
 
 namespace KelIFC {
 
@@ -25,6 +27,37 @@ constexpr std::uint64_t kBoxMark = 2;
 
 std::uint64_t WordOfPointer(const void* pointer) {
   return reinterpret_cast<std::uintptr_t>(pointer);
+}
+
+/// The inline value of a reference that borrows an instance from a model. It keeps the number of
+/// the instance, not its address, because the model can delete the instance at any time.
+class BorrowedInstance final : public IfcUnknown {
+ public:
+  BorrowedInstance(IfcServer* lender, std::size_t number) : lender(lender), number(number) {}
+
+  const char* Parse(const char* text) override { return text; }
+  std::ostream& Write(std::ostream& out) const override {
+    if (const IfcUnknown* instance = Find()) return instance->Write(out);
+    detail::PutChar(out, '*');
+    return out;
+  }
+
+  /// Null once the model has deleted the instance.
+  IfcUnknown* Find() const { return FindInstance(lender, number); }
+
+ private:
+  IfcServer* lender;
+  std::size_t number;
+};
+
+const BorrowedInstance* AsBorrowed(const IfcUnknown* value) {
+  if (value == nullptr || typeid(*value) != typeid(BorrowedInstance)) return nullptr;
+  return static_cast<const BorrowedInstance*>(value);
+}
+
+/// The number of an instance in the model that it is registered in; 0 if no model holds it.
+std::size_t FindOwnNumber(const IfcUnknown& instance) {
+  return FindNumber(instance.GetServer(), &instance);
 }
 
 }  // namespace
@@ -93,8 +126,23 @@ MEMBER& MEMBER::operator=(std::size_t number) {
 }
 
 MEMBER& MEMBER::operator=(IfcUnknown* value) {
+  const std::size_t number = value == nullptr ? 0 : FindOwnNumber(*value);
+  if (number != 0) value = new BorrowedInstance(value->GetServer(), number);
+  const BorrowedInstance* const borrowed = AsBorrowed(GetHeapValue());
   ReplaceWord(WordOf(true, 0, value));
+  delete borrowed;
   return *this;
+}
+
+MEMBER& MEMBER::Embed(IfcUnknown* item, IfcUnknown& holder) {
+  if (item != nullptr && item == GetHeapValue()) ReplaceWord(0);
+  owner = &holder;
+  IfcServer* const model = holder.GetServer();
+  const std::size_t number = IsTypedValue(item) ? 0 : FindNumber(model, item);
+  *this = number;
+  if (number != 0) return *this;
+  if (item != nullptr && FindOwnNumber(*item) == 0) item->SetServer(model);
+  return *this = item;
 }
 
 MEMBER& MEMBER::SetReference(const IfcUnknown* target) {
@@ -106,23 +154,29 @@ MEMBER& MEMBER::SetReference(const IfcUnknown* target) {
 
 IfcUnknown* MEMBER::Resolve() const {
   if (!GetExists()) return nullptr;
-  if (IfcUnknown* value = GetHeapValue()) return value;
+  if (IfcUnknown* value = GetHeapValue()) {
+    const BorrowedInstance* const borrowed = AsBorrowed(value);
+    return borrowed == nullptr ? value : borrowed->Find();
+  }
   const auto number = static_cast<std::size_t>(*this);
   if (number == 0 || owner == nullptr) return nullptr;
   return FindInstance(owner->GetServer(), number);
 }
 
-const IfcUnknown* MEMBER::GetInlineValue() const { return GetHeapValue(); }
+const IfcUnknown* MEMBER::GetInlineValue() const {
+  const IfcUnknown* const value = GetHeapValue();
+  return AsBorrowed(value) == nullptr ? value : nullptr;
+}
 
 const char* MEMBER::Parse(const char* text) {
   Unset();
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
-  const char* first = SkipBlanks(text);
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
+  const char* first = detail::SkipBlanks(text);
   if (*first != '#') return ParseInPlace(text, first);
   const std::int64_t number = ReadInteger(first + 1, &next);
   word = WordOf(static_cast<std::size_t>(number));
-  return BehindNextComma(next);
+  return detail::BehindNextComma(next);
 }
 
 const char* MEMBER::ParseInPlace(const char* text, const char* name) {
@@ -141,15 +195,15 @@ const char* MEMBER::ParseInPlace(const char* text, const char* name) {
 std::ostream& MEMBER::Write(std::ostream& out) const {
   const auto number = static_cast<std::size_t>(*this);
   if (!GetExists()) {
-    PutChar(out, '$');
+    detail::PutChar(out, '$');
   } else if (number != 0) {
     char text[24] = {'#'};
     const auto end = std::to_chars(text + 1, text + sizeof text, number);
-    PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
+    detail::PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
   } else if (const IfcUnknown* value = GetHeapValue()) {
     value->Write(out);
   } else {
-    PutChar(out, '*');
+    detail::PutChar(out, '*');
   }
   return out;
 }

@@ -21,6 +21,11 @@ class IfcUnknown;
 ///
 /// A copy takes the value in place away from its source, const or not; the source then is a derived
 /// mark. So aggregates of references are passed by reference, and copied only to be given away.
+///
+/// An inline value belongs to its reference, which destroys it. An instance that is registered in a
+/// model belongs to that model. A reference that receives such an instance as its inline value only
+/// borrows it: the reference returns the instance while the model holds it, null after the model
+/// has deleted it, and never destroys it. The model must outlive the reference.
 class KELIFC_API MEMBER {
  public:
   MEMBER() = default;
@@ -39,8 +44,19 @@ class KELIFC_API MEMBER {
   MEMBER& operator=(const MEMBER& other);
   /// Refers to a number; a value in place is destroyed, the owner stays.
   MEMBER& operator=(std::size_t number);
-  /// Takes a value in place and owns it. The one it held so far is the caller's again.
+  /// Takes an inline value. The reference owns the value, or borrows it if it is registered in a
+  /// model. The value that the reference held before belongs to the caller again.
   MEMBER& operator=(IfcUnknown* value);
+
+  /// Takes an instance that a host passes to an operation of `holder`. `holder` becomes the owner
+  /// of this reference. One rule decides who owns the instance afterwards, for all such operations:
+  ///  - An instance of the model of `holder` stays the model's. The reference keeps its number.
+  ///  - The reference borrows an instance of any other model. It also borrows a typed value of the
+  ///    model of `holder`, because a file has no numbers for typed values.
+  ///  - Any other instance receives the model of `holder` and belongs to the reference.
+  ///  - Null makes the reference a derived mark.
+  /// The inline value that the reference held before is destroyed, unless it is `item` itself.
+  MEMBER& Embed(IfcUnknown* item, IfcUnknown& holder);
 
   /// Refers to an instance of the owner's model. Without owner or model, or if the model does not
   /// hold the instance, the attribute becomes unset. A value in place is left alone.
@@ -54,7 +70,8 @@ class KELIFC_API MEMBER {
   IfcUnknown* GetInstance() { return _GetInstance(); }
   const IfcUnknown* GetInstance() const { return Resolve(); }
 
-  /// The value in place, or null. It stays owned by this attribute.
+  /// The inline value that this attribute owns, or null. A borrowed value is not owned. The value
+  /// stays owned by this attribute.
   const IfcUnknown* GetInlineValue() const;
 
   /// Reads `#n`, or a typed value in place, for which the owner's model is asked. Text that is

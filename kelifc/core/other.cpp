@@ -2,7 +2,7 @@
 
 #include <cstring>
 
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
 
 namespace KelIFC {
 
@@ -17,8 +17,8 @@ const char* IfcOther::Parse(const char* text) {
 }
 
 std::ostream& IfcOther::Write(std::ostream& out) const {
-  PutUpperCase(out, stepEntityName, '(');
-  PutText(out, attributeText);
+  detail::PutUpperCase(out, stepEntityName, '(');
+  detail::PutText(out, attributeText);
   return out;
 }
 

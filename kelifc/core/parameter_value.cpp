@@ -1,6 +1,6 @@
 #include "kelifc/core/parameter_value.h"
 
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
 
 namespace KelIFC {
 
@@ -15,7 +15,7 @@ const char* IfcParameterValue::Parse(const char* text) {
 std::ostream& IfcParameterValue::Write(std::ostream& out) const {
   IfcUnknown::Write(out);
   REAL::Write(out);
-  PutChar(out, ')');
+  detail::PutChar(out, ')');
   return out;
 }
 

@@ -2,10 +2,10 @@
 
 #include <cmath>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/number_text.h"
-#include "kelifc/core/text_out.h"
-#include "kelifc/core/write_tolerance.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/number_text.h"
+#include "kelifc/core/text/write_tolerance.h"
 
 namespace KelIFC {
 
@@ -13,20 +13,20 @@ const char* REAL::Parse(const char* text) {
   value = 0.0;
   exists = false;
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   exists = true;
   value = ReadReal(text, &next);
-  return BehindNextComma(next);
+  return detail::BehindNextComma(next);
 }
 
 std::ostream& REAL::Write(std::ostream& out) const {
   if (!exists) {
-    PutChar(out, '$');
+    detail::PutChar(out, '$');
   } else if (std::fabs(value) <= GetWriteTolerance()) {
-    PutText(out, "0.");
+    detail::PutText(out, "0.");
   } else {
     char buffer[kRealTextSize];
-    PutText(out, FormatReal(value, buffer));
+    detail::PutText(out, FormatReal(value, buffer));
   }
   return out;
 }

@@ -1,7 +1,7 @@
 #include "kelifc/core/set_of_members.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/parse_members.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/lists/parse_members.h"
 
 namespace KelIFC {
 
@@ -13,7 +13,7 @@ SET_OF_MEMBERS& SET_OF_MEMBERS::operator=(const std::vector<IfcUnknown*>& /*item
 const char* SET_OF_MEMBERS::Parse(const char* text) {
   Clear();
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   return ParseMembers(text, owner, items);
 }
 

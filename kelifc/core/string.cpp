@@ -1,8 +1,8 @@
 #include "kelifc/core/string.h"
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/quoting.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/quoting.h"
 
 namespace KelIFC {
 
@@ -16,18 +16,18 @@ const char* STRING::Parse(const char* text) {
   clear();
   exists = false;
   const char* next = nullptr;
-  if (SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   const char* closing = DecodeQuoted(text, *this);
   if (closing == nullptr) return text;
   exists = true;
-  return BehindNextComma(closing + 1);
+  return detail::BehindNextComma(closing + 1);
 }
 
 std::ostream& STRING::Write(std::ostream& out) const {
   if (exists) {
     EncodeQuoted(out, *this);
   } else {
-    PutChar(out, '$');
+    detail::PutChar(out, '$');
   }
   return out;
 }

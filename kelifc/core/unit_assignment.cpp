@@ -1,7 +1,7 @@
 #include "kelifc/core/unit_assignment.h"
 
-#include "kelifc/core/model.h"
-#include "kelifc/core/resolve.h"
+#include "kelifc/core/references/model.h"
+#include "kelifc/core/references/resolve.h"
 
 namespace KelIFC {
 

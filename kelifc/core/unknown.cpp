@@ -2,8 +2,8 @@
 
 #include <cstring>
 
-#include "kelifc/core/cursor.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/text_out.h"
 
 namespace KelIFC {
 
@@ -11,7 +11,7 @@ IfcUnknown::~IfcUnknown() = default;
 
 void* IfcUnknown::operator new(std::size_t size, const std::nothrow_t&) noexcept {
   try {
-    return AllocateBlock(size);
+    return detail::AllocateBlock(size);
   } catch (const std::bad_alloc&) {
     return nullptr;
   }
@@ -27,14 +27,14 @@ const char* IfcUnknown::Parse(const char* text) {
 }
 
 std::ostream& IfcUnknown::Write(std::ostream& out) const {
-  PutUpperCase(out, GetStepName(), '(');
+  detail::PutUpperCase(out, GetStepName(), '(');
   return out;
 }
 
 const char* IfcUnknown::ParseDef(const char* text) {
   if (text == nullptr) return nullptr;
-  text = SkipBlanks(text);
-  return *text == '*' ? BehindNextComma(text) : text;
+  text = detail::SkipBlanks(text);
+  return *text == '*' ? detail::BehindNextComma(text) : text;
 }
 
 IfcServer* IfcUnknown::GetServer() { return server; }

@@ -5,7 +5,7 @@
 #include <iosfwd>
 #include <new>
 
-#include "kelifc/core/block_memory.h"
+#include "kelifc/core/detail/block_memory.h"
 #include "kelifc/platform/export.h"
 
 namespace KelIFC {
@@ -44,12 +44,14 @@ class KELIFC_API IfcUnknown {
   virtual const IfcServer* GetServer() const;
   virtual void SetServer(IfcServer* model);
 
-  /// The memory of an instance; see block_memory.h.
-  static void* operator new(std::size_t size) { return AllocateBlock(size); }
+  /// The memory of an instance; see detail/block_memory.h.
+  static void* operator new(std::size_t size) { return detail::AllocateBlock(size); }
   static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
   static void* operator new(std::size_t, void* place) noexcept { return place; }
-  static void operator delete(void* memory) noexcept { FreeBlock(memory); }
-  static void operator delete(void* memory, const std::nothrow_t&) noexcept { FreeBlock(memory); }
+  static void operator delete(void* memory) noexcept { detail::FreeBlock(memory); }
+  static void operator delete(void* memory, const std::nothrow_t&) noexcept {
+    detail::FreeBlock(memory);
+  }
   static void operator delete(void*, void*) noexcept {}
 
   /// A copy knows the same model, but is not in it.

@@ -28,6 +28,10 @@ class KELIFC_API IfcValue : public IfcUnknown {
   ~IfcValue() override;
 };
 
+/// True for a value of a defined type, which a file writes with the name of its type and which has
+/// no number of its own. False for null.
+KELIFC_API bool IsTypedValue(const IfcUnknown* instance);
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_CORE_VALUE_H_

@@ -1,7 +1,7 @@
 #include "kelifc/core/value_member.h"
 
-#include "kelifc/core/model.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/references/model.h"
 #include "kelifc/core/value.h"
 
 namespace KelIFC {
@@ -24,7 +24,7 @@ std::ostream& WriteValueMember(std::ostream& out, const MEMBER& member) {
   if (const auto* value = dynamic_cast<const IfcValue*>(member.GetInstance())) {
     return value->WriteWithName(out);
   }
-  PutChar(out, '$');
+  detail::PutChar(out, '$');
   return out;
 }
 

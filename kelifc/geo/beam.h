@@ -12,6 +12,8 @@ namespace KelIFC {
 /// A beam: an axis of two points and a section, or a boundary.
 class CoGeoBeam : public PolylineElement<CoGeoBeamBase> {
  public:
+  /// Stores the boundary object, which is created at the first call and has a copy of `boundary`.
+  /// Its lists are empty if the solid of the beam is not faceted.
   HRESULT get_BRep(IGeoBRep** out) override {
     return GiveChild<CoGeoBRep>(boundaryObject, out, [this](CoGeoBRep& made) {
       made.boundary = boundary;
@@ -19,7 +21,7 @@ class CoGeoBeam : public PolylineElement<CoGeoBeamBase> {
     });
   }
 
-  BRep boundary;  ///< of a faceted solid
+  BRep boundary;  ///< of a faceted solid; otherwise empty
 
  protected:
   ~CoGeoBeam() override = default;

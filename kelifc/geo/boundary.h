@@ -7,13 +7,15 @@
 
 namespace KelIFC {
 
-/// The boundary of an element, as a host walks it.
+/// The object that shows the boundary of an element to a host.
 class CoGeoBRep : public CoGeoBRepBase {
  public:
-  /// One face for each of the boundary's, by its outer loop alone.
+  /// Stores the collection of faces, which is created at the first call. A face is shown by its
+  /// outer loop; inner loops are not shown.
   HRESULT get_Faces(IGeoFaces** out) override;
 
-  /// The positions of the vertices, in their order.
+  /// Stores the collection of points, which is created at the first call: the positions of the
+  /// vertices in their order.
   HRESULT get_Points(IGeoPoints** out) override;
 
   BRep boundary;  ///< in metres and world coordinates
@@ -29,10 +31,11 @@ class CoGeoBRep : public CoGeoBRepBase {
 /// A face of a boundary.
 class CoGeoFace : public CoGeoFaceBase {
  public:
-  /// The numbers of the points, from 1, as Item of the points counts.
+  /// Stores the collection of numbers, which is created at the first call: the indices of the
+  /// points in their order, from 1, as Item of the points expects them.
   HRESULT get_Numbers(IGeoNumbers** out) override;
 
-  Mvector<int> vertices;  ///< indices of the boundary's vertices, from 0
+  Mvector<int> vertices;  ///< indices of the vertices of the boundary, from 0
 
  protected:
   ~CoGeoFace() = default;

@@ -13,16 +13,18 @@
 
 namespace KelIFC {
 
-// How a collection keeps an item, and how it gives it away: an interface with one more count, a
-// number as it is.
+// How a collection stores an item and passes it to a host. An item that is an interface is counted
+// once by the collection and once more for each receiver. A number is copied.
 
 template <class Item>
 struct ItemTraits {
   using Stored = ComPtr<Item>;
   using Given = Item*;
 
+  /// Stores the item in `out`, counted for the receiver.
   static void Give(const Stored& item, Given* out) { item.CopyTo(out); }
 
+  /// Returns a variant that owns a reference to the item.
   static VARIANT ToVariant(const Stored& item) {
     Item* counted = nullptr;
     item.CopyTo(&counted);
@@ -48,8 +50,9 @@ struct ItemTraits<LONG> {
   }
 };
 
-/// What all collections share: items in the order in which they were added. Base is the class's
-/// base with its one interface, Element the interface of the items, or LONG.
+/// The part that all collections share: items in the order in which they were added. `Base` is the
+/// generated base of the class with its one interface. `Element` is the interface of the items, or
+/// LONG.
 template <class Base, class Element>
 class ItemList : public Base, private VariantItems {
   using Traits = ItemTraits<Element>;
@@ -57,10 +60,13 @@ class ItemList : public Base, private VariantItems {
  public:
   using Stored = typename Traits::Stored;
 
+  /// Creates an enumerator at the first item. It keeps the collection alive and sees items that are
+  /// added later. On failure `out` is null.
   HRESULT _NewEnum(IUnknown** out) override {
     return MakeEnumerator(static_cast<typename Base::Interfaces::First*>(this), *this, out);
   }
 
+  /// Stores the number of items; at most the largest LONG. Returns E_POINTER if `out` is null.
   HRESULT Count(LONG* out) override {
     if (out == nullptr) return E_POINTER;
     constexpr std::size_t kMost = std::numeric_limits<LONG>::max();
@@ -68,14 +74,19 @@ class ItemList : public Base, private VariantItems {
     return S_OK;
   }
 
+  /// Adds an item at the end. The collection owns the reference of an interface from then on.
   void Append(Stored item) { items.push_back(std::move(item)); }
+
+  /// Removes the last item. The collection must not be empty.
   void RemoveLast() { items.pop_back(); }
   const std::vector<Stored>& Items() const { return items; }
 
  protected:
   ~ItemList() = default;
 
-  /// The item at an index from 1. An index past the end leaves `out` as it was.
+  /// Stores the item at an index from 1. Returns E_POINTER if `out` is null. Returns E_INVALIDARG
+  /// and clears `out` if the index is below 1. Returns E_FAIL and leaves `out` unchanged if the
+  /// index is above the number of items.
   HRESULT GiveItem(LONG index, typename Traits::Given* out) const {
     if (out == nullptr) return E_POINTER;
     if (index < 1) {
@@ -98,6 +109,7 @@ class ItemList : public Base, private VariantItems {
 template <class Base, class Element>
 class Collection : public ItemList<Base, Element> {
  public:
+  /// Stores the item at an index from 1, as GiveItem does.
   HRESULT Item(LONG index, typename ItemTraits<Element>::Given* out) override {
     return this->GiveItem(index, out);
   }
@@ -106,7 +118,8 @@ class Collection : public ItemList<Base, Element> {
   ~Collection() = default;
 };
 
-/// A collection that is filled from a model and knows the server object that holds it.
+/// A collection that the conversion fills from a model. It knows the server object of the model;
+/// the link is empty in a collection that a host created by itself.
 template <class Base, class Element>
 class ModelCollection : public Collection<Base, Element> {
  public:

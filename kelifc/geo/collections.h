@@ -6,7 +6,7 @@
 
 namespace KelIFC {
 
-// The collections of the object model. Those of storeys and sections stand in
+// The collections of the object model. The collections of storeys and sections are defined in
 // storeys.h and sections.h.
 
 using CoGeoColumns = ModelCollection<CoGeoColumnsBase, IGeoColumn>;
@@ -23,7 +23,8 @@ using CoGeoPoints = Collection<CoGeoPointsBase, IGeoPoint>;
 using CoGeoFaces = Collection<CoGeoFacesBase, IGeoFace>;
 using CoGeoNumbers = Collection<CoGeoNumbersBase, LONG>;
 
-/// Materials are found by their index alone. No model fills this collection.
+/// The collection of materials. It is always empty: no material is converted. Its interface has no
+/// Item, so an item is found by ItemByIndex.
 class CoGeoMaterials : public ItemList<CoGeoMaterialsBase, IGeoMaterial> {
  public:
   HRESULT ItemByIndex(LONG index, IGeoMaterial** out) override { return GiveItem(index, out); }

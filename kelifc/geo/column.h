@@ -10,7 +10,7 @@ namespace KelIFC {
 /// A column: an axis of two points and a section.
 class CoGeoColumn : public PolylineElement<CoGeoColumnBase> {
  public:
-  BRep boundary;  ///< of a faceted solid; no operation shows it
+  BRep boundary;  ///< of a faceted solid; no operation returns it
 
  protected:
   ~CoGeoColumn() override = default;

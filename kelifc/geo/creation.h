@@ -9,16 +9,17 @@
 
 namespace KelIFC {
 
-// Objects are made through the identifier of their class, as a host makes them, and are then known
-// to be of that class.
+// Objects are created by the identifier of their class, as a host creates them. So a class object
+// that replaces the one of the library is used here, too. The new object is then cast to the class.
 
-/// The class's own interface.
+/// The interface of the class itself.
 template <class Class>
 using OwnInterface = typename Class::Interfaces::First;
 
-/// Gives a child that its parent makes when it is first asked for, and keeps. A new child goes
-/// through `fill`, a status of Class&. A child that could not be filled stays: the failure is told
-/// once, and later calls give what the child holds. On failure `out` is null.
+/// Stores a child object that its parent creates at the first call and caches in `child`. A new
+/// child is passed to `fill`, which takes a Class& and returns a status. If `fill` fails, its
+/// status is returned once; the child stays, and later calls return it as it is. On failure `out`
+/// is null. Returns E_POINTER if `out` is null.
 template <class Class, class Fill>
 HRESULT GiveChild(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out, Fill&& fill) {
   if (out == nullptr) return E_POINTER;
@@ -36,18 +37,18 @@ HRESULT GiveChild(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out,
   });
 }
 
-/// Makes many objects of one class, all through the class object that it fetches once.
+/// Creates many objects of one class. The class object is fetched once.
 template <class Class>
 class Factory {
  public:
-  /// Fetches the class object; goes ahead of everything else.
+  /// Fetches the class object. Call it before Append.
   HRESULT Open() {
     return CoGetClassObject(Class::kClsid, CLSCTX_SERVER, nullptr, IidOf<IClassFactory>(),
                             reinterpret_cast<void**>(factory.Put()));
   }
 
-  /// Makes an object and appends it to the collection, which owns it from then on. On success
-  /// `item` points to it.
+  /// Creates an object and appends it to the collection, which owns it. On success `item` points to
+  /// it.
   template <class Collection>
   HRESULT Append(Collection& collection, Class** item) {
     ComPtr<OwnInterface<Class>> object;

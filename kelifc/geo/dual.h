@@ -10,14 +10,15 @@
 
 namespace KelIFC {
 
-/// The interfaces of a class of the object model: those described, and what every class has.
+/// The interfaces of a class of the object model: those of the description, and two that every
+/// class has.
 template <class... Interfaces>
 using DualInterfaces = InterfaceList<Interfaces..., IDispatch, ISupportErrorInfo>;
 
-/// What every class of the object model derives from: its interfaces, the class's own first, with
-/// the operations that are the same in all classes.
+/// The base of every class of the object model. It has the interfaces of the class, beginning with
+/// its own, and the operations that are the same in all classes.
 ///
-/// The four operations of IDispatch need the type library: see com_dispatch.h.
+/// The four operations of IDispatch need the type library; see com_dispatch.h.
 template <class Own, class... Others>
 class Dual : public Own, public Others..., public ISupportErrorInfo {
  public:
@@ -26,19 +27,20 @@ class Dual : public Own, public Others..., public ISupportErrorInfo {
   HRESULT GetTypeInfoCount(UINT* count) override { return CountTypeInfo(count); }
 
   HRESULT GetTypeInfo(UINT index, LCID, ITypeInfo** info) override {
-    return GiveTypeInfo(Faces().front(), index, info);
+    return GiveTypeInfo(ScriptInterfaces().front(), index, info);
   }
 
   HRESULT GetIDsOfNames(const IID&, OLECHAR** names, UINT count, LCID, DISPID* ids) override {
-    return FindNames(Faces(), names, count, ids);
+    return FindNames(ScriptInterfaces(), names, count, ids);
   }
 
   HRESULT Invoke(DISPID id, const IID&, LCID, WORD flags, DISPPARAMS* arguments, VARIANT* result,
                  EXCEPINFO* exception, UINT* badArgument) override {
-    return InvokeFace(Faces(), id, flags, arguments, result, exception, badArgument);
+    return InvokeOperation(ScriptInterfaces(), id, flags, arguments, result, exception,
+                           badArgument);
   }
 
-  /// S_OK for the class's own interface only.
+  /// Returns S_OK for the interface of the class itself, and S_FALSE for all others.
   HRESULT InterfaceSupportsErrorInfo(const IID& iid) override {
     return iid == IidOf<Own>() ? S_OK : S_FALSE;
   }
@@ -47,10 +49,11 @@ class Dual : public Own, public Others..., public ISupportErrorInfo {
   ~Dual() = default;
 
  private:
-  /// The interfaces by whose names a script can call: those that hold all operations of the class.
-  std::array<Face, 1 + sizeof...(Others)> Faces() {
-    return {Face{&IidOf<Own>(), static_cast<Own*>(this)},
-            Face{&IidOf<Others>(), static_cast<Others*>(this)}...};
+  /// The interfaces whose operations a script can call. Together they have all operations of the
+  /// class.
+  std::array<ScriptInterface, 1 + sizeof...(Others)> ScriptInterfaces() {
+    return {ScriptInterface{&IidOf<Own>(), static_cast<Own*>(this)},
+            ScriptInterface{&IidOf<Others>(), static_cast<Others*>(this)}...};
   }
 };
 

@@ -11,10 +11,10 @@ namespace KelIFC {
 
 namespace {
 
-/// Of the box of a polygon, in metres.
+/// The tolerance for the box of a polygon, in metres.
 constexpr double kPolygonTolerance = 0.001;
 
-/// The sections of the structure, which are made if there are none yet.
+/// Stores the sections of the structure and keeps them alive by `collection`.
 HRESULT GetSections(CoGeoStructure& structure, ComPtr<IGeoSections>& collection,
                     CoGeoSections** sections) {
   const HRESULT status = structure.get_Sections(collection.Put());
@@ -22,7 +22,7 @@ HRESULT GetSections(CoGeoStructure& structure, ComPtr<IGeoSections>& collection,
   return status;
 }
 
-/// Makes a section, which `fill` gives what it is made of, appends it and gives it to the element.
+/// Creates a section, passes it to `fill`, appends it and makes it the section of the element.
 template <class Section, class Fill>
 HRESULT AddSection(CoGeoSections& sections, CoGeoObject& element, Fill&& fill) {
   ComPtr<OwnInterface<Section>> object;
@@ -36,7 +36,7 @@ HRESULT AddSection(CoGeoSections& sections, CoGeoObject& element, Fill&& fill) {
   return status;
 }
 
-/// Gives the element the first section of these sizes, a new one if there is none.
+/// Gives the element the first section with these sizes, or a new one.
 template <class Section>
 HRESULT EnsureSection(CoGeoStructure& structure, CoGeoObject& element, const SectionSizes& sizes) {
   return Guard([&] {

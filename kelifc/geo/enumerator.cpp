@@ -41,7 +41,7 @@ class Enumerator : public IEnumVARIANT {
   ~Enumerator() = default;
 
  private:
-  /// Steps over up to `count` items and gives how many there were.
+  /// Moves forward by up to `count` items. Returns the number of items passed.
   std::size_t Take(ULONG count) {
     const std::size_t left = items.Size() - std::min(position, items.Size());
     const std::size_t taken = std::min<std::size_t>(count, left);

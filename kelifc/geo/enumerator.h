@@ -7,20 +7,20 @@
 
 namespace KelIFC {
 
-/// The items of a collection as an enumerator sees them.
+/// The items of a collection, as an enumerator needs them.
 class VariantItems {
  public:
   virtual std::size_t Size() const = 0;
 
-  /// The item at an index from 0 that is below Size; what it holds is counted for the caller.
+  /// Returns the item at an index from 0, which must be below Size. The caller owns the variant.
   virtual VARIANT At(std::size_t index) const = 0;
 
  protected:
   ~VariantItems() = default;
 };
 
-/// Makes an enumerator (IEnumVARIANT) that stands at the first item. It holds the collection and
-/// walks its live items. On failure `out` is null.
+/// Creates an enumerator (IEnumVARIANT) at the first item. It keeps `collection` alive, which must
+/// own `items`. On failure `out` is null.
 HRESULT MakeEnumerator(IUnknown* collection, const VariantItems& items, IUnknown** out);
 
 }  // namespace KelIFC

@@ -8,9 +8,9 @@
 
 namespace KelIFC {
 
-// The bodies of the operations that read or write one field of an object.
+// The bodies of operations that read or write one field of an object.
 
-/// Copies a field to `out`; null gives E_POINTER.
+/// Copies a field to `out`. Returns E_POINTER if `out` is null.
 template <class Value>
 HRESULT GetField(const Value& field, Value* out) {
   if (out == nullptr) return E_POINTER;
@@ -18,13 +18,15 @@ HRESULT GetField(const Value& field, Value* out) {
   return S_OK;
 }
 
+/// Writes a field.
 template <class Value>
 HRESULT PutField(const Value& value, Value* field) {
   *field = value;
   return S_OK;
 }
 
-/// Takes over the text of a string; null is the empty text. On failure the field stays.
+/// Writes the text of a string to a field. Null is the empty text. On failure the field is
+/// unchanged.
 inline HRESULT PutText(BSTR text, std::string* field) {
   return Guard([&] {
     *field = NarrowText(text);

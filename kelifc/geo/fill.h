@@ -9,13 +9,14 @@
 
 namespace KelIFC {
 
-// What the objects ask of the conversion. The import folder defines these, so that no include
-// points upwards. Each fill runs once for a collection that is new and empty, and stores the link
-// to the server object in it. A negative status ends it; what it had made until then stays in the
-// collection. A release without a conversion adds nothing, with status 0.
+// What the objects need from the conversion. The folder kelifc/import defines these functions, so
+// no include points to it.
+//
+// Each Fill function is called once for a new, empty collection and stores the link to the server
+// object in it. If it fails, the items that it has added stay. A model of a release without a
+// conversion adds no items, and the status is S_OK.
 
-/// A storey filter that lets every storey pass, the only one that there is: any other gives
-/// E_NOTIMPL.
+/// The storey filter that accepts every storey. The Fill functions return E_NOTIMPL for any other.
 inline constexpr SHORT kAllStoreys = -1;
 
 HRESULT FillStoreys(CoGeoStoreys& collection, CoIFCServer& server);
@@ -25,12 +26,13 @@ HRESULT FillWalls(CoGeoWalls& collection, CoIFCServer& server, SHORT storeyFilte
 HRESULT FillPlates(CoGeoPlates& collection, CoIFCServer& server, SHORT storeyFilter);
 HRESULT FillFoots(CoGeoFoots& collection, CoIFCServer& server, SHORT storeyFilter);
 
-/// The factor from the lengths of the model's file to metres, worked out anew at each call; 1 where
-/// the model does not tell.
+/// Returns the factor from lengths of the file to metres, or 1 if the model does not define its
+/// length unit. It is computed anew at each call.
 double LengthScaleOf(IfcServer& server);
 
-/// The identifiers of the spatial structures that contain an instance of the model, in the order of
-/// the relations that tell of them; none for what is no element of a release with a conversion.
+/// Returns the identifiers of the spatial structures that contain an instance, in the order of the
+/// relations. The result is empty for an instance that is not an element, and for a release without
+/// a conversion.
 std::vector<_GUID> ContainingStructures(const IfcUnknown& instance);
 
 }  // namespace KelIFC

@@ -7,7 +7,7 @@
 
 namespace KelIFC {
 
-/// A foot: where it stands.
+/// A footing, with one point for its location.
 class CoGeoFoot : public GeoElement<LocatedObject<CoGeoFootBase>> {
  protected:
   ~CoGeoFoot() override = default;

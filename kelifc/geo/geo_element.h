@@ -5,8 +5,8 @@
 
 namespace KelIFC {
 
-/// The operations that the interface of every element shares with CoGeoObject, led there. Self
-/// derives from this and from CoGeoObject; Base is the described base of the class.
+/// Forwards the operations that the interface of every element shares with CoGeoObject. `Self`
+/// derives from this class and from CoGeoObject. `Base` is the generated base of the class.
 template <class Self, class Base>
 class ObjectOperations : public Base {
  public:
@@ -25,7 +25,7 @@ class ObjectOperations : public Base {
   CoGeoObject& Element() { return static_cast<Self&>(*this); }
 };
 
-/// An element: its interfaces, and what all elements have.
+/// The base of the element classes: their interfaces, and the part that all elements share.
 template <class Base>
 class GeoElement : public ObjectOperations<GeoElement<Base>, Base>, public CoGeoObject {
  protected:

@@ -16,7 +16,7 @@ namespace {
 
 constexpr LONG kObjectCode = 4;
 
-/// A collection of the server object's structure.
+/// Fetches a collection from the structure of the server object.
 template <class Interface>
 HRESULT GetFromStructure(CoIFCServer* server, HRESULT (IGeoStructure::*get)(Interface**),
                          ComPtr<Interface>& collection) {
@@ -60,9 +60,9 @@ HRESULT CoGeoObject::get_GUID(BSTR* out) {
 }
 
 HRESULT CoGeoObject::put_GUID(BSTR text) {
-  // No text is the empty one, which is no identifier.
+  // A null string is the empty text, which is not an identifier.
   const HRESULT status = CLSIDFromString(text == nullptr ? L"" : text, &guid);
-  if (FAILED(status)) guid = {};  // a system may leave a part of it
+  if (FAILED(status)) guid = {};  // the system may have read a part of it
   return status;
 }
 

@@ -11,13 +11,13 @@
 
 namespace KelIFC {
 
-/// What all elements have. What a host writes into it does not go back into the model.
+/// The part that all elements share. What a host writes to an element does not change the model.
 ///
-/// Its operations stand in an order of their own, which is not that of IGeoObject, and the classes
-/// of elements override none of them: their interfaces lead here.
+/// The order of these operations is fixed and differs from that of IGeoObject. The element classes
+/// override none of them: the operations of their interfaces call these.
 class CoGeoObject {
  public:
-  /// The index of an element without a section.
+  /// The section index of an element without a section.
   static constexpr std::uint64_t kNoSection = std::numeric_limits<std::uint64_t>::max();
 
   CoGeoObject() = default;
@@ -25,6 +25,8 @@ class CoGeoObject {
   CoGeoObject& operator=(const CoGeoObject&) = delete;
 
   virtual ~CoGeoObject();
+
+  // The reserved operations keep the order of the others. They return E_NOTIMPL.
   virtual HRESULT Reserved1(void*);
   virtual HRESULT Reserved2(LONG);
   virtual HRESULT Reserved3(void*);
@@ -33,9 +35,11 @@ class CoGeoObject {
   virtual HRESULT Reserved6(void*);
   virtual HRESULT Reserved7(LONG);
 
-  /// The identifier in its braced form.
+  /// Stores the identifier in braces.
   virtual HRESULT get_GUID(BSTR* out);
-  /// What is no braced form gives CO_E_CLASSSTRING and makes the identifier all zero.
+
+  /// Reads an identifier in braces. For any other text the identifier becomes the null identifier,
+  /// and the status is CO_E_CLASSSTRING.
   virtual HRESULT put_GUID(BSTR text);
   virtual HRESULT Reserved10(void*);
   virtual HRESULT Reserved11(double);
@@ -48,16 +52,18 @@ class CoGeoObject {
   virtual HRESULT Reserved17(void*);
   virtual HRESULT Reserved18(void*);
 
-  /// The name of the section, empty without one. E_POINTER if there is no server object, or no
-  /// longer one.
+  /// Stores the name of the section, "" if the element has none. Returns E_POINTER if there is no
+  /// server object or it has been released.
   virtual HRESULT get_SectionName(BSTR* out);
   virtual HRESULT Reserved20(void*);
 
-  /// Always 4.
+  /// Stores 4 for every element.
   virtual HRESULT get_ObjectCode(LONG* out);
 
-  /// The number of the storey that contains the instance of the identifier, worked out anew at each
-  /// call; kNoStoreyNumber if none does. E_POINTER if the model has no such instance.
+  /// Stores the number of the storey that contains the instance with the identifier of this
+  /// element; kNoStoreyNumber if no storey does. It is computed anew at each call. Returns
+  /// E_POINTER if the model has no such instance, and if there is no server object or it has been
+  /// released.
   virtual HRESULT get_StoreyNumber(SHORT* out);
   virtual HRESULT Reserved23(SHORT);
   virtual HRESULT Reserved24(void*);
@@ -65,7 +71,7 @@ class CoGeoObject {
   virtual HRESULT Reserved26(void*);
 
   _GUID guid = {};
-  std::uint64_t sectionIndex = kNoSection;  ///< in the structure's sections, from 0
+  std::uint64_t sectionIndex = kNoSection;  ///< index in the sections of the structure, from 0
   std::string name;
   ServerLink server;
 };

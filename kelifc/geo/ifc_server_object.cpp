@@ -12,18 +12,12 @@ namespace KelIFC {
 
 namespace {
 
-// What LoadIfcFile answers; anything else but 0 means that the file cannot be opened.
-constexpr int kLoaded = 0;
-constexpr int kCannotOpen = 1;
-constexpr int kNoStepFile = 2;
-constexpr int kUnknownSchema = 3;
-
 int LoadFile(IfcServer& server, BSTR fileName) {
   const std::string path =
       NarrowPath(fileName == nullptr ? std::wstring_view()
                                      : std::wstring_view(fileName, SysStringLen(fileName)));
-  // No file has such a name; the part ahead of the null character may be that of another one.
-  if (path.find('\0') != std::string::npos) return kCannotOpen;
+  // No file has a null character in its name. The part before it may be the name of another file.
+  if (path.find('\0') != std::string::npos) return LOAD_RESULT_CANNOT_OPEN;
   return server.LoadIfcFile(path.c_str());
 }
 
@@ -36,10 +30,10 @@ bool IsConvertible(IFC_RELEASE release) {
 HRESULT CoIFCServer::Load(BSTR fileName) {
   return Guard([&] {
     const int result = LoadFile(server, fileName);
-    if (result == kNoStepFile || result == kUnknownSchema) {
+    if (result == LOAD_RESULT_NO_STEP_FILE || result == LOAD_RESULT_UNKNOWN_SCHEMA) {
       return ReportLoadFailure(LoadFailure::kNoModel, fileName);
     }
-    if (result != kLoaded) return ReportLoadFailure(LoadFailure::kNotFound, fileName);
+    if (result != LOAD_RESULT_LOADED) return ReportLoadFailure(LoadFailure::kNotFound, fileName);
     if (IsConvertible(server.GetRelease())) return S_OK;
     return ReportLoadFailure(LoadFailure::kNotConvertible, fileName);
   });

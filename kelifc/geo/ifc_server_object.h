@@ -8,23 +8,28 @@
 
 namespace KelIFC {
 
-/// The object that a host makes first: it owns the model, and the structure that is made from it.
+/// The server object: the first object that a host creates. It owns the model and the structure
+/// that is converted from it.
 class CoIFCServer : public CoIFCServerBase {
  public:
   CoIFCServer() : links(this) {}
 
-  /// Loads the model. A model of a release that cannot be converted is loaded all the same. The
-  /// structure stays as it is.
+  /// Loads a file in place of the model. Every failure returns the same status and sets the error
+  /// object of the thread. A model of a release without a conversion is loaded, although the status
+  /// is a failure. The structure is not refreshed: collections that were converted before stay as
+  /// they are.
   HRESULT Load(BSTR fileName) override;
 
+  /// Stores the structure, which is created at the first call. Returns E_POINTER if `out` is null.
   HRESULT get_Structure(IGeoStructure** out) override;
 
+  /// Returns the model. It is valid while this object lives.
   IfcServer& Model() { return server; }
 
-  /// The factor from the lengths of the file to metres; 1 where the model does not tell.
+  /// Returns the factor from lengths of the file to metres; see LengthScaleOf.
   double GetLengthScale();
 
-  /// A way back to this object that is null once it is gone.
+  /// Returns a link to this object. The link becomes null when the object is destroyed.
   ServerLink Link() const { return links.Link(); }
 
  protected:
@@ -33,7 +38,7 @@ class CoIFCServer : public CoIFCServerBase {
  private:
   IfcServer server;
   ComPtr<IGeoStructure> structure;
-  ServerLinkOwner links;  // the last member, so that it ends first
+  ServerLinkOwner links;  // declared last, so that it is destroyed first
 };
 
 }  // namespace KelIFC

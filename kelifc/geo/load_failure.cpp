@@ -49,7 +49,7 @@ HRESULT ReportLoadFailure(LoadFailure failure, BSTR fileName) {
   const std::wstring_view name = fileName == nullptr
                                      ? std::wstring_view()
                                      : std::wstring_view(fileName, SysStringLen(fileName));
-  // Without memory for the message the failure is told all the same, by its status.
+  // If there is no memory for the message, the status alone reports the failure.
   static_cast<void>(Guard([&] { return SetError(Format(TextOf(failure), name)); }));
   return STG_E_FILENOTFOUND;
 }

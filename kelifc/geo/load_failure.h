@@ -5,15 +5,15 @@
 
 namespace KelIFC {
 
-/// Why a model was not loaded; the values are the numbers of the messages.
+/// Why a load failed. The values are the numbers of the messages.
 enum class LoadFailure {
   kNotFound = 61858,       ///< the file cannot be opened
-  kNoModel = 61879,        ///< no schema in it, or an unknown one
-  kNotConvertible = 65208  ///< a release that has no conversion
+  kNoModel = 61879,        ///< the file has no schema or an unknown one
+  kNotConvertible = 65208  ///< the release has no conversion
 };
 
-/// Makes the failure, with its message about the file, the error object of the thread. Gives the
-/// status for the host, the same for all failures.
+/// Sets the error object of the thread to a message about the file. Returns the status for the
+/// host, which is the same for all failures.
 HRESULT ReportLoadFailure(LoadFailure failure, BSTR fileName);
 
 }  // namespace KelIFC

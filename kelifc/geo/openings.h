@@ -8,26 +8,26 @@
 
 namespace KelIFC {
 
-/// A window: opposite corners at the middle of the opening's depth.
+/// A window: two opposite corners, in the middle of the depth of the opening.
 class CoGeoWindow : public OpenElement<CoGeoWindowBase> {
  protected:
   ~CoGeoWindow() override = default;
 };
 
-/// A door, told as a window is.
+/// A door: two opposite corners, as for a window.
 class CoGeoDoor : public OpenElement<CoGeoDoorBase> {
  protected:
   ~CoGeoDoor() override = default;
 };
 
-/// A hole: its contour at the middle of the opening's depth.
+/// A hole: its outline, in the middle of the depth of the opening.
 class CoGeoHole : public OpenElement<CoGeoHoleBase> {
  protected:
   ~CoGeoHole() override = default;
 };
 
-/// Gives the collection of openings that `child` caches. It is made empty; the conversion of its
-/// owner adds the items.
+/// Stores the collection of openings that `child` caches. It is created empty at the first call;
+/// the conversion of the wall or plate adds the items.
 template <class Collection>
 HRESULT GiveOpenings(ComPtr<OwnInterface<Collection>>& child, OwnInterface<Collection>** out,
                      const ServerLink& server) {

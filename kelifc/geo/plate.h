@@ -7,7 +7,7 @@
 
 namespace KelIFC {
 
-/// A plate: its contour at the middle of its thickness, a thick section, and holes.
+/// A plate: its outline in the middle of its thickness, a section with the thickness, and holes.
 class CoGeoPlate : public PolylineElement<CoGeoPlateBase> {
  public:
   HRESULT get_Holes(IGeoHoles** out) override {

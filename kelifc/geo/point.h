@@ -9,7 +9,8 @@
 
 namespace KelIFC {
 
-/// The operations of IGeoPoint, over the base of a class that has one place.
+/// The operations of IGeoPoint, for a class with one location. `Base` is the generated base of the
+/// class.
 template <class Base>
 class LocatedObject : public Base {
  public:
@@ -39,13 +40,14 @@ class LocatedObject : public Base {
   ~LocatedObject() = default;
 };
 
-/// A point of an element. It is a copy: to change it changes nothing else.
+/// A point of an element. It is a copy, so a change of it changes nothing else.
 class CoGeoPoint : public LocatedObject<CoGeoPointBase> {
  protected:
   ~CoGeoPoint() = default;
 };
 
-/// Gives the collection of points that `child` caches, made of `points` when it is first asked for.
+/// Stores the collection of points that `child` caches. At the first call it is created with a copy
+/// of `points`.
 HRESULT GivePoints(ComPtr<IGeoPoints>& child, IGeoPoints** out, const Mvector<Point3>& points);
 
 }  // namespace KelIFC

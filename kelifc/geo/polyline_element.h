@@ -6,11 +6,12 @@
 
 namespace KelIFC {
 
-/// An element that is told by points, in metres and world coordinates.
+/// An element with points, in metres and world coordinates.
 template <class Base>
 class PolylineElement : public GeoElement<Base> {
  public:
-  /// A copy that is made once: what a host changes in it stays there.
+  /// Stores the collection of points. It is copied from `points` at the first call. What a host
+  /// changes in it stays there.
   HRESULT get_Points(IGeoPoints** out) override { return GivePoints(pointObjects, out, points); }
 
   Mvector<Point3> points;
@@ -22,7 +23,7 @@ class PolylineElement : public GeoElement<Base> {
   ComPtr<IGeoPoints> pointObjects;
 };
 
-/// Such an element whose points are never joined to a ring.
+/// An element with points whose last point is never connected to the first.
 template <class Base>
 class OpenElement : public PolylineElement<Base> {
  public:

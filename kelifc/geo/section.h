@@ -8,31 +8,23 @@
 
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/fields.h"
+#include "kelifc/geo/section_kind.h"
 
 namespace KelIFC {
 
-/// What a section is, as get_Kind tells it. A new object has none of them.
-enum SectionKind : LONG {
-  SECTION_NONE = 0,
-  SECTION_R = 1,        ///< a rectangle
-  SECTION_C = 2,        ///< a circle
-  SECTION_T = 3,        ///< a T with the flange on top
-  SECTION_PROFILE = 8,  ///< a polygon, of which only the name tells
-  SECTION_THICK = 9,    ///< a thickness
-};
-
-/// The fields that all sections have. They have no connection with the model.
+/// The fields of every section. They are copies, without a connection to the model.
 struct CoGeoSection {
   LONG kind = SECTION_NONE;
   std::string name;
 };
 
-/// Counts how often hosts have changed sizes of the sections of one collection: what was worked out
-/// of the sizes holds while the count stays the same. It outlives the collection for as long as a
-/// section does.
+/// Counts how many times hosts have changed a size of a section of one collection. An index of the
+/// sizes is valid while the count is unchanged. The sections share the counter with the collection,
+/// so it can outlive the collection.
 using SizeChanges = std::shared_ptr<std::uint64_t>;
 
-/// The operations of IGeoSection, over the base of each section class.
+/// The operations of IGeoSection, for each section class. `Base` is the generated base of the
+/// class.
 template <class Base>
 class SectionObject : public Base, public CoGeoSection {
  public:
@@ -44,18 +36,18 @@ class SectionObject : public Base, public CoGeoSection {
   ~SectionObject() = default;
 };
 
-/// A section that has sizes, in metres. A class gives its fields by `Fields`, in the order that
-/// SectionSizes has them.
+/// A section with sizes, in metres. Each class returns its sizes by `Fields`, in the order of
+/// SectionSizes.
 template <class Base>
 class SizedSection : public SectionObject<Base> {
  public:
-  /// Null in a section that a host made by itself.
+  /// The counter of the collection. It is null in a section that a host created by itself.
   SizeChanges changes;
 
  protected:
   ~SizedSection() = default;
 
-  /// Writes a size on behalf of a host.
+  /// Writes a size for a host and counts the change.
   HRESULT PutSize(double value, double* size) {
     *size = value;
     if (changes != nullptr) ++*changes;
@@ -131,7 +123,7 @@ class CoGeoSectionThick : public SizedSection<CoGeoSectionThickBase> {
   ~CoGeoSectionThick() = default;
 };
 
-/// A polygon. Its shape is not kept.
+/// A polygon. Its points are not kept.
 class CoGeoSectionProfile : public SectionObject<CoGeoSectionProfileBase> {
  protected:
   ~CoGeoSectionProfile() = default;

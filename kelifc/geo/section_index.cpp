@@ -9,14 +9,14 @@ namespace KelIFC {
 
 namespace {
 
-/// Twice the tolerance, so that equal sizes stand in one cell or in neighbours even after rounding.
+/// Twice the tolerance: equal sizes are in the same cell or in adjacent cells, even after rounding.
 constexpr double kCellSize = 2 * SectionIndex::kTolerance;
 
-/// From here on neighbouring doubles differ by more than the tolerance, so that each size is equal
-/// to itself alone. It is a cell of its own; its quotient might be infinite, one cell for all.
+/// At this size adjacent doubles differ by more than the tolerance, so a size is equal only to
+/// itself. The size itself then identifies its cell: its quotient could be infinite.
 constexpr double kLonelySize = 0x1p44;
 
-/// Beyond this a cell is no longer much wider than the rounding of a quotient.
+/// Above this size the rounding of a quotient is no longer small against a cell.
 constexpr double kCoarseSize = 0x1p24;
 
 bool AreFinite(const SectionSizes& sizes) {
@@ -28,14 +28,14 @@ double StepOf(double size) {
   return std::abs(size) < kLonelySize ? std::floor(size / kCellSize) : size;
 }
 
-/// The steps of the cells that may hold what is equal to a size.
+/// The positions, in one dimension, of the cells that can contain an equal size.
 struct Steps {
   std::array<double, 3> at = {};
-  int count = 1;  // the own one comes first
+  int count = 1;  // the cell of the size itself comes first
 };
 
-/// What is equal lies less than half a cell away, so one neighbour is enough unless the size is in
-/// the middle of its cell.
+/// Equal sizes differ by less than half a cell. So only the nearer adjacent cell can contain one,
+/// unless the size is in the middle of its cell.
 Steps StepsAround(double size) {
   constexpr double kSlack = 0.01;
   Steps steps;
@@ -78,7 +78,7 @@ void SectionIndex::FindInCell(const Cell& cell, const SectionSizes& sizes,
   const auto found = cells.find(cell);
   if (found == cells.end()) return;
   for (const Entry& entry : found->second) {
-    if (lowest && *lowest <= entry.number) return;  // the numbers of a cell ascend
+    if (lowest && *lowest <= entry.number) return;  // the numbers in a cell ascend
     if (AreEqual(entry.sizes, sizes)) lowest = entry.number;
   }
 }

@@ -12,7 +12,8 @@
 
 namespace KelIFC {
 
-/// What makes two sections one: their kind and sizes, in metres.
+/// The kind and the sizes of a section, in metres. Elements whose sections have the same kind and
+/// equal sizes share one section.
 struct SectionSizes {
   static constexpr std::size_t kMost = 4;
 
@@ -27,17 +28,18 @@ struct SectionSizes {
       : kind(kind), count(sizeof...(Values)), values{values...} {}
 };
 
-/// Finds sections by their sizes, without a walk over all of them.
+/// Finds a section by its kind and sizes in constant time. The index divides the space of sizes
+/// into cells that are twice as wide as the tolerance.
 class SectionIndex {
  public:
-  /// Two sizes that are closer are equal: a millimetre.
+  /// Sizes are equal if they differ by less than a millimetre.
   static constexpr double kTolerance = 0.001;
 
-  /// The lowest number of a section of these sizes; nothing if there is none. A size that is not
-  /// finite is equal to none.
+  /// Returns the lowest number of a section with these sizes, or nothing. A size that is not finite
+  /// is equal to no size.
   std::optional<std::size_t> Find(const SectionSizes& sizes) const;
 
-  /// Adds a section; numbers ascend.
+  /// Adds a section. Its number must be higher than those before.
   void Add(const SectionSizes& sizes, std::size_t number);
 
   void Clear() { cells.clear(); }

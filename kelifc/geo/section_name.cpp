@@ -9,7 +9,7 @@ namespace KelIFC {
 
 namespace {
 
-/// As printf's %g writes it in the classic locale.
+/// Writes a number as printf does for %g in the classic locale.
 std::string ValueText(double length) {
   constexpr int kDigits = 6;
   char text[32];

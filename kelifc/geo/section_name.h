@@ -9,14 +9,15 @@
 
 namespace KelIFC {
 
-/// A length in metres as names tell it: in centimetres, rounded to one decimal.
+/// Converts a length in metres to centimetres and rounds it to one decimal.
 double SectionNameValue(double length);
 
-/// The name of a new section, such as "IFC_R_30x50"; empty for a kind without sizes. A T is named
-/// by its web and height only.
+/// Returns the name of a new section, such as "IFC_R_30x50", or "" for a kind without sizes. The
+/// name of a T shows its web and height only, so different sections can have the same name.
 std::string SectionName(const SectionSizes& sizes);
 
-/// The name of a polygon: its number of points and its extents, such as "IFC_N6_40x30".
+/// Returns the name of a polygon, such as "IFC_N6_40x30": the number of its points and the sides of
+/// its box.
 std::string ProfileName(std::size_t points, const Box2& box);
 
 }  // namespace KelIFC

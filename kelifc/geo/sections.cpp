@@ -19,7 +19,7 @@ std::optional<SectionSizes> ReadSizes(LONG kind, IGeoSection& section) {
                     sized->Fields());
 }
 
-/// The sizes of a section of a kind; nothing for a kind without sizes.
+/// Returns the sizes of a section, or nothing for a kind without sizes.
 std::optional<SectionSizes> SizesOf(LONG kind, IGeoSection& section) {
   switch (kind) {
     case SECTION_R:
@@ -52,7 +52,7 @@ HRESULT CoGeoSections::Item(VARIANT index, IGeoSection** out) {
 
 HRESULT CoGeoSections::Find(const SectionSizes& sizes, std::optional<std::size_t>* found) {
   const HRESULT status = IndexNew();
-  // The index ends ahead of a section that fails, so what it finds stands ahead of that too.
+  // The index ends before a section that fails, so a section that it finds comes before that one.
   *found = bySizes.Find(sizes);
   return *found ? S_OK : status;
 }

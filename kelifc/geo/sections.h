@@ -13,25 +13,28 @@
 
 namespace KelIFC {
 
-/// The sections of a structure, found by their index or their name. The collection only grows, so
-/// the index of a section holds for as long as it lives.
+/// The sections of a structure. They are found by index, by name and by sizes. No section is ever
+/// removed, so the index of a section is constant.
 class CoGeoSections : public ItemList<CoGeoSectionsBase, IGeoSection> {
  public:
-  /// A string finds the first section of exactly that name, E_FAIL if there is none, also where it
-  /// spells a number. A failure of a section to tell its name is handed on. What is no string is
-  /// turned into a number.
+  /// Stores a section, counted. A string finds the first section with exactly this name, even if it
+  /// spells a number; the status is E_FAIL if there is none. Any other index is converted to a
+  /// number for ItemByIndex. If a section fails to return its name, or the index cannot be
+  /// converted, that failure is returned and `out` is null. Returns E_POINTER if `out` is null.
   HRESULT Item(VARIANT index, IGeoSection** out) override;
 
+  /// Stores the section at an index from 1, as GiveItem does.
   HRESULT ItemByIndex(LONG index, IGeoSection** out) override { return GiveItem(index, out); }
 
-  /// Finds the first section of these sizes: its index, from 0, or nothing. A section that fails to
-  /// tell its kind ends the search with its failure.
+  /// Finds the first section with these sizes and stores its index from 0, or nothing. The search
+  /// ends at a section that fails to return its kind; that failure is returned if no earlier
+  /// section fits.
   HRESULT Find(const SectionSizes& sizes, std::optional<std::size_t>* found);
 
-  /// The failure of the first section that does not tell its kind.
+  /// Returns the failure of the first section that fails to return its kind, otherwise S_OK.
   HRESULT CheckKinds() { return IndexNew(); }
 
-  /// What the sections of this collection count the changes of their sizes with.
+  /// Returns the counter that the sections of this collection share.
   const SizeChanges& Changes() const { return changes; }
 
  protected:
@@ -40,13 +43,14 @@ class CoGeoSections : public ItemList<CoGeoSectionsBase, IGeoSection> {
  private:
   HRESULT GiveByName(BSTR name, IGeoSection** out) const;
 
-  /// Brings the index up to date, as far as the sections tell their kinds.
+  /// Adds new sections to the index, up to the first that fails to return its kind. After a change
+  /// of a size the index is built again.
   HRESULT IndexNew();
 
   SizeChanges changes = std::make_shared<std::uint64_t>(0);
   SectionIndex bySizes;
-  std::size_t indexed = 0;           // how many sections `bySizes` knows
-  std::uint64_t indexedChanges = 0;  // how many changes it has seen
+  std::size_t indexed = 0;           // number of sections in `bySizes`
+  std::uint64_t indexedChanges = 0;  // value of `changes` for which `bySizes` is valid
 };
 
 }  // namespace KelIFC

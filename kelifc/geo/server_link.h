@@ -8,14 +8,14 @@ namespace KelIFC {
 
 class CoIFCServer;
 
-/// The way from an object of a structure back to the server object that it came from. It does not
-/// keep the server object alive: once that is gone, the link is null.
+/// A link from an object of a structure to the server object that it came from. It does not keep
+/// the server object alive: when the server object is destroyed, the link becomes null.
 class ServerLink {
  public:
-  /// No server, as in an object that a host made by itself.
+  /// A link to no server object. Objects that a host created by themselves have it.
   ServerLink() = default;
 
-  /// The server object; null if there is none or it is gone.
+  /// Returns the server object, or null if there is none or it has been destroyed.
   CoIFCServer* Get() const { return target == nullptr ? nullptr : *target; }
 
  private:
@@ -25,7 +25,7 @@ class ServerLink {
   std::shared_ptr<CoIFCServer*> target;
 };
 
-/// Held by the server object: hands out links and cuts them all when it ends.
+/// A member of the server object that creates links to it and makes them null at its end.
 class ServerLinkOwner {
  public:
   explicit ServerLinkOwner(CoIFCServer* server) : target(std::make_shared<CoIFCServer*>(server)) {}

@@ -1,19 +1,16 @@
 #ifndef KELIFC_GEO_STOREY_H_
 #define KELIFC_GEO_STOREY_H_
 
-#include <limits>
 #include <string>
 
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/fields.h"
+#include "kelifc/geo/storey_number.h"
 #include "kelifc/platform/guid.h"
 
 namespace KelIFC {
 
-/// The number of a storey that has none.
-inline constexpr SHORT kNoStoreyNumber = std::numeric_limits<SHORT>::max();
-
-/// A storey, as import filled it. What a host writes does not go back into the model.
+/// A storey. The conversion fills it. What a host writes to it does not change the model.
 class CoGeoStorey : public CoGeoStoreyBase {
  public:
   HRESULT get_Height(double* out) override { return GetField(height, out); }
@@ -27,7 +24,7 @@ class CoGeoStorey : public CoGeoStoreyBase {
   double height = 0.0;  ///< in the unit of the file
   std::string name;
   SHORT number = kNoStoreyNumber;
-  _GUID guid = {};  ///< of the instance in the model; not shown to hosts
+  _GUID guid = {};  ///< of the instance in the model; no operation returns it
 
  protected:
   ~CoGeoStorey() = default;

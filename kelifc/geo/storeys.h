@@ -13,11 +13,11 @@
 
 namespace KelIFC {
 
-/// The storeys of a structure, from the lowest to the highest. Once they are filled they stay, and
-/// no host can change their identifiers.
+/// The storeys of a structure, in ascending order of their levels. After the collection is filled,
+/// neither its items nor their identifiers change.
 class CoGeoStoreys : public ModelCollection<CoGeoStoreysBase, IGeoStorey> {
  public:
-  /// The first storey of an identifier; null if there is none.
+  /// Returns the first storey with an identifier, or null.
   const CoGeoStorey* Find(const _GUID& guid);
 
  protected:
@@ -31,7 +31,7 @@ class CoGeoStoreys : public ModelCollection<CoGeoStoreysBase, IGeoStorey> {
   };
 
   std::unordered_map<_GUID, const CoGeoStorey*, Hash> byGuid;
-  std::size_t indexed = 0;  // how many storeys `byGuid` knows
+  std::size_t indexed = 0;  // number of storeys in `byGuid`
 };
 
 }  // namespace KelIFC

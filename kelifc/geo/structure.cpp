@@ -6,19 +6,19 @@
 #include "kelifc/geo/sections.h"
 #include "kelifc/geo/storeys.h"
 #include "kelifc/geo/version.h"
+#include "kelifc/server/reported_version.h"
 
 namespace KelIFC {
 
 namespace {
 
-/// A child that needs no filling.
+/// Stores a child that is not filled.
 template <class Class>
 HRESULT GiveEmpty(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out) {
   return GiveChild<Class>(child, out, [](Class&) { return S_OK; });
 }
 
-/// A child that is filled from the model. Without a server object there is nothing to fill it from,
-/// and it is not made.
+/// Stores a child that is filled from the model. Without a server object it is not created.
 template <class Class, class Fill>
 HRESULT GiveFilled(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out,
                    const ServerLink& link, Fill&& fill) {
@@ -29,7 +29,7 @@ HRESULT GiveFilled(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out
   return GiveChild<Class>(child, out, [&](Class& made) { return fill(made, *server); });
 }
 
-/// The same for elements, of all storeys.
+/// Stores a collection of the elements of all storeys.
 template <class Class>
 HRESULT GiveElements(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out,
                      const ServerLink& link, HRESULT (*fill)(Class&, CoIFCServer&, SHORT)) {
@@ -77,7 +77,7 @@ HRESULT CoGeoStructure::get_Objects(IGeoObjects** out) {
 }
 
 HRESULT CoGeoStructure::get_Version(BSTR* out) {
-  return Guard([&] { return GiveText(VersionText(), out); });
+  return Guard([&] { return GiveText(kReportedVersion, out); });
 }
 
 HRESULT CoGeoStructure::IsCompatible(BSTR version, VARIANT_BOOL* out) {
@@ -85,7 +85,7 @@ HRESULT CoGeoStructure::IsCompatible(BSTR version, VARIANT_BOOL* out) {
   *out = VARIANT_FALSE;
   return Guard([&] {
     const VersionRecord other = ParseVersionText(NarrowText(version));
-    if (KelIFC::IsCompatible(kOwnVersion, other)) *out = VARIANT_TRUE;
+    if (KelIFC::IsCompatible(GetOwnVersion(), other)) *out = VARIANT_TRUE;
     return S_OK;
   });
 }

@@ -3,22 +3,24 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <string>
 
-#include "kelifc/core/number_text.h"
+#include "kelifc/core/text/number_text.h"
+#include "kelifc/server/reported_version.h"
 
 namespace KelIFC {
 
 namespace {
 
 constexpr std::string_view kDebugMark = "debug";
-constexpr int kBuild = 3857;
+constexpr double kServicePack = 5.0;
 
-/// Two numbers of versions that are closer are the same.
+/// Numbers of versions are equal if they differ by less than this.
 constexpr double kTolerance = 0.001;
 
 using Pieces = std::array<std::string, 5>;
 
-/// The text between the dots; what stands behind the fifth dot is left out.
+/// Returns the parts between the dots. The part after the fifth dot is ignored.
 Pieces Split(std::string_view text) {
   Pieces pieces;
   for (std::string& piece : pieces) {
@@ -51,10 +53,6 @@ bool IsDebugText(std::string_view text) {
 
 }  // namespace
 
-const VersionRecord kOwnVersion = {25.0, kBuild, 5.0, false};
-
-std::string VersionText() { return "25.0." + std::to_string(kBuild); }
-
 VersionRecord ParseVersionText(std::string_view text) {
   VersionRecord version = {15.47, 1273.0, 0.0, IsDebugText(text)};
   const Pieces pieces = Split(text);
@@ -65,6 +63,12 @@ VersionRecord ParseVersionText(std::string_view text) {
     version.build = WholeOf(*std::find_if(pieces.rbegin(), pieces.rend(), isGiven));
   }
   if (count >= 4) version.servicePack = RealOf(pieces[2]);
+  return version;
+}
+
+VersionRecord GetOwnVersion() {
+  VersionRecord version = ParseVersionText(kReportedVersion);
+  version.servicePack = kServicePack;
   return version;
 }
 

@@ -1,31 +1,27 @@
 #ifndef KELIFC_GEO_VERSION_H_
 #define KELIFC_GEO_VERSION_H_
 
-#include <string>
 #include <string_view>
 
 namespace KelIFC {
 
-/// A version of the library, as the test of compatibility sees it.
+/// A version of the library, for the test of compatibility.
 struct VersionRecord {
   double major = 0.0;
   double build = 0.0;
   double servicePack = 0.0;
-  bool isDebug = false;  ///< takes no part in the test
+  bool isDebug = false;  ///< not compared
 };
 
-/// This library's version.
-extern const VersionRecord kOwnVersion;
-
-/// The version as text: "25.0." and the number of the build.
-std::string VersionText();
-
-/// Reads "MAJOR.MINOR.BUILD" or "MAJOR.MINOR.PACK.BUILD". A text of fewer than three pieces stands
-/// for an old version, 15.47 build 1273. Numbers are read as far as they go.
+/// Reads "MAJOR.MINOR.BUILD" or "MAJOR.MINOR.PACK.BUILD". A text with fewer than three non-empty
+/// parts means version 15.47, build 1273. Non-numeric text reads as 0.
 VersionRecord ParseVersionText(std::string_view text);
 
-/// True if `own` is at least as new as `other`: a newer major version is, an older one, or an older
-/// service pack, is not, and then the builds decide.
+/// Returns the version that this library reports, with its service pack.
+VersionRecord GetOwnVersion();
+
+/// Returns true if `own` is at least as new as `other`. The major version is compared first, then
+/// the service pack, then the build. A newer service pack does not outweigh an older build.
 bool IsCompatible(const VersionRecord& own, const VersionRecord& other);
 
 }  // namespace KelIFC

@@ -7,8 +7,8 @@
 
 namespace KelIFC {
 
-/// A wall: the foot of one end of its axis and the head of the other, a thick section, windows and
-/// doors.
+/// A wall: the start of its axis at the bottom and the end of its axis at the top, a section with
+/// the thickness, windows and doors.
 class CoGeoWall : public PolylineElement<CoGeoWallBase> {
  public:
   HRESULT get_Windows(IGeoWindows** out) override {
@@ -18,7 +18,7 @@ class CoGeoWall : public PolylineElement<CoGeoWallBase> {
     return GiveOpenings<CoGeoDoors>(doors, out, server);
   }
 
-  /// No wall is open, so every wall is closed.
+  /// Every wall is closed, so none is open.
   HRESULT get_IsOpen(VARIANT_BOOL* out) override { return GetField(VARIANT_FALSE, out); }
   HRESULT get_Closed(VARIANT_BOOL* out) override { return GetField(VARIANT_TRUE, out); }
 

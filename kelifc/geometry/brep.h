@@ -8,21 +8,23 @@
 
 namespace KelIFC {
 
-/// A vertex of one loop, with the normal of that loop.
+/// A vertex of one loop. It has the normal of that loop.
 struct BRepVertex {
   Point3 position;
   Vector3 normal;
 };
 
-/// A face by its loops: indices into the vertices, from 0. Loops are closed without repeating their
-/// first vertex. A face may have no outer loop, and a loop fewer than three vertices.
+/// A face, given by its loops. A loop is a list of indices into the vertices, from 0. It is closed,
+/// but does not repeat its first index. A face may have no outer loop, and a loop may have fewer
+/// than three indices.
 struct BRepFace {
   Mvector<int> outerLoop;
   Mvector<Mvector<int>> innerLoops;
 };
 
-/// The boundary of a solid: vertices, each of one loop, and faces. Vertices at one place are not
-/// merged, and faces need not be plane.
+/// The boundary of a solid: vertices and faces. Each vertex belongs to one loop; vertices at the
+/// same position are not merged. Faces need not be plane. The members are plain data that nothing
+/// checks. A copy is deep.
 struct KELIFC_API BRep {
   Mvector<BRepVertex> vertices;
   Mvector<BRepFace> faces;
@@ -34,7 +36,7 @@ struct KELIFC_API BRep {
   BRep& operator=(BRep&& other) noexcept;
   ~BRep();
 
-  /// Moves all positions, and turns all normals, in place.
+  /// Transforms the boundary in place: positions are rotated and translated, normals are rotated.
   void operator<<=(const Isometry3& isometry);
 };
 

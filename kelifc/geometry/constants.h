@@ -5,7 +5,8 @@
 
 namespace KelIFC {
 
-// Constants of the whole process. They need no order of initialisation.
+// Constants of the whole process. They are constant expressions, so they can be used during the
+// initialisation of other objects.
 
 inline constexpr Vector2 Zero2;
 inline constexpr Vector2 AxisX2(1.0, 0.0);
@@ -18,10 +19,10 @@ inline constexpr Vector3 AxisY(0.0, 1.0, 0.0);
 inline constexpr Vector3 AxisZ(0.0, 0.0, 1.0);
 inline constexpr Point3 Origin3;
 
-/// The origin of a profile's plane.
+/// The origin of the plane in which a profile is drawn.
 inline constexpr Point2 ProfileOrigin;
 
-/// A length below which a direction counts as zero.
+/// A direction shorter than this length counts as zero.
 inline constexpr double kDirectionTolerance = 1e-10;
 
 }  // namespace KelIFC

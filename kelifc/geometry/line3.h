@@ -5,33 +5,37 @@
 
 #include "kelifc/geometry/line_hit3.h"
 #include "kelifc/geometry/point.h"
+#include "kelifc/platform/export.h"
 
 namespace KelIFC {
 
 struct Plane3;
 
-/// A line without ends. Whether it is one is tested once and kept, so a line that was asked must
-/// not be changed.
-struct Line3 {
+/// An infinite line. The first test of its validity is cached in `state`, so the direction and the
+/// tolerance must not change after it. A copy has the cached result, too.
+struct KELIFC_API Line3 {
   Vector3 direction;
   Point3 origin;
-  double squaredLength = 0.0;  ///< of the direction, once the line was tested
+  double squaredLength = 0.0;  ///< square of the length of `direction`; set by the test
   double unused = 0.0;
   std::int8_t state = 0;  ///< 0 not yet tested, 1 valid, -1 degenerate
   std::int8_t unusedFlag = 0;
-  double tolerance;  ///< a shorter direction makes no line; negative stands for 1e-10
+  double tolerance;  ///< least length of a valid direction; a negative value means 1e-10
 
-  Line3(const Point3& origin, const Vector3& direction, double tolerance)
-      : direction(direction), origin(origin), tolerance(tolerance) {}
+  /// The line through a point along a direction of any length. `shortest` becomes the tolerance.
+  Line3(const Point3& through, const Vector3& along, double shortest)
+      : direction(along), origin(through), tolerance(shortest) {}
 
+  /// Returns false if the direction is shorter than the tolerance.
   bool IsValid();
 
-  /// The foot of the perpendicular from a point; none for a degenerate line.
+  /// Returns the foot of the perpendicular from a point to the line. There is no foot on a
+  /// degenerate line.
   LineHit3 Foot(const Point3& point);
 
-  /// Whether line and plane are parallel; false if either is degenerate. A negative `tolerance`
-  /// stands for 1e-10.
-  bool IsParallel(Plane3& plane, double tolerance);
+  /// Returns true if the sine of the angle between line and plane is below `limit`. A negative
+  /// `limit` means 1e-10. Returns false if the line or the plane is degenerate.
+  bool IsParallel(Plane3& plane, double limit);
 };
 
 }  // namespace KelIFC

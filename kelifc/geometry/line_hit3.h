@@ -5,7 +5,7 @@
 
 namespace KelIFC {
 
-/// What an intersection or a projection gives. Without a hit, look at `found` only.
+/// The result of an intersection or a projection. `point` is meaningful only if `found` is true.
 struct LineHit3 {
   Point3 point;
   bool found = false;

@@ -5,7 +5,8 @@
 
 namespace KelIFC {
 
-/// A plane by its frame, which takes (x, y, 0) to the world. A caller makes it.
+/// A plane with a frame of its own: the transform maps (x, y, 0) to world coordinates. The library
+/// reads such planes; only hosts make them.
 struct LocalPlane : Isometry3 {};
 
 }  // namespace KelIFC

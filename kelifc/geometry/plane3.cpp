@@ -8,7 +8,7 @@ namespace {
 
 constexpr double kLeastSquare = kDirectionTolerance * kDirectionTolerance;
 
-/// Asks for the tolerance that is usual for directions.
+/// Makes IsParallel use its default tolerance.
 constexpr double kUsualTolerance = -1.0;
 
 }  // namespace

@@ -5,28 +5,30 @@
 
 #include "kelifc/geometry/line3.h"
 #include "kelifc/geometry/point.h"
+#include "kelifc/platform/export.h"
 
 namespace KelIFC {
 
-/// A plane: all points X with normal * X + offset = 0. Whether it is one is tested once and kept,
-/// so a plane that was asked must not be changed.
-struct Plane3 {
+/// A plane: all points X with normal * X + offset = 0. The first test of its validity is cached in
+/// `state`, so the normal must not change after it. A copy has the cached result, too.
+struct KELIFC_API Plane3 {
   Vector3 normal;  ///< of any length
   double offset = 0.0;
-  double squaredNorm = 0.0;  ///< of the normal, once the plane was tested
+  double squaredNorm = 0.0;  ///< square of the length of `normal`; set by the test
   double unused = 0.0;
   std::int8_t state = 0;  ///< 0 not yet tested, 1 valid, -1 degenerate
 
   Plane3() = default;
-  Plane3(const Vector3& normal, double offset) : normal(normal), offset(offset) {}
+  Plane3(const Vector3& across, double constant) : normal(across), offset(constant) {}
 
+  /// Returns false if the normal is shorter than 1e-10.
   bool IsValid();
 
-  /// 0 for a degenerate plane.
+  /// Returns the square of the distance of a point from the plane, 0 for a degenerate plane.
   double SquaredDistance(const Point3& point);
 
-  /// Where a line meets the plane. A line that is parallel to the plane does not, one inside it
-  /// neither.
+  /// Returns the point at which a line meets the plane. There is none if the line is parallel to
+  /// the plane or inside it, or if one of them is degenerate.
   LineHit3 Intersect(Line3& line);
 };
 

@@ -5,7 +5,8 @@
 
 namespace KelIFC {
 
-// Points and displacements of the plane and of space. New ones are zero.
+// Points and displacements, in the plane and in space, with their arithmetic. A new one is zero. No
+// operation checks its arguments: a coordinate that is not finite makes the result not finite.
 
 /// A displacement in the plane.
 struct Vector2 {
@@ -13,16 +14,16 @@ struct Vector2 {
   double y = 0.0;
 
   constexpr Vector2() = default;
-  constexpr Vector2(double x, double y) : x(x), y(y) {}
+  constexpr Vector2(double vx, double vy) : x(vx), y(vy) {}
 };
 
-/// A point of the plane.
+/// A point in the plane.
 struct Point2 {
   double x = 0.0;
   double y = 0.0;
 
   constexpr Point2() = default;
-  constexpr Point2(double x, double y) : x(x), y(y) {}
+  constexpr Point2(double px, double py) : x(px), y(py) {}
 };
 
 /// A displacement in space.
@@ -32,17 +33,17 @@ struct Vector3 {
   double z = 0.0;
 
   constexpr Vector3() = default;
-  constexpr Vector3(double x, double y, double z) : x(x), y(y), z(z) {}
+  constexpr Vector3(double vx, double vy, double vz) : x(vx), y(vy), z(vz) {}
 };
 
-/// A point of space.
+/// A point in space.
 struct Point3 {
   double x = 0.0;
   double y = 0.0;
   double z = 0.0;
 
   constexpr Point3() = default;
-  constexpr Point3(double x, double y, double z) : x(x), y(y), z(z) {}
+  constexpr Point3(double px, double py, double pz) : x(px), y(py), z(pz) {}
 };
 
 constexpr Vector2 operator-(const Point2& a, const Point2& b) { return {a.x - b.x, a.y - b.y}; }
@@ -77,13 +78,14 @@ constexpr Vector3 operator-(const Vector3& v) { return {-v.x, -v.y, -v.z}; }
 constexpr double Dot(const Vector3& a, const Vector3& b) {
   return a.x * b.x + a.y * b.y + a.z * b.z;
 }
-/// Right-handed: x times y is z.
+
+/// Right-handed: Cross of x and y is z.
 constexpr Vector3 Cross(const Vector3& a, const Vector3& b) {
   return {a.y * b.z - a.z * b.y, a.z * b.x - a.x * b.z, a.x * b.y - a.y * b.x};
 }
 inline double Length(const Vector3& v) { return std::sqrt(Dot(v, v)); }
 
-/// Makes the length 1; a vector of exactly zero length stays as it is.
+/// Scales the vector to length 1. A vector of exactly zero length is left unchanged.
 inline void Normalise(Vector2& v) {
   const double length = Length(v);
   if (length != 0.0) v = {v.x / length, v.y / length};
@@ -93,7 +95,7 @@ inline void Normalise(Vector3& v) {
   if (length != 0.0) v = v / length;
 }
 
-/// The angle between two directions, from 0 to pi; 0 if one of them is zero.
+/// Returns the angle between two directions, in radians from 0 to pi; 0 if one of them is zero.
 inline double Angle(const Vector3& a, const Vector3& b) {
   return std::atan2(Length(Cross(a, b)), Dot(a, b));
 }

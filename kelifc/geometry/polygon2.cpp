@@ -8,23 +8,26 @@ namespace KelIFC {
 
 namespace {
 
-/// The ray of the crossing test, and the sides it meets, are tested exactly.
+/// The tolerance of the crossing test: the ray and the sides are compared exactly.
 constexpr double kExact = 0.0;
 
-/// A true crossing of two segments, as Classify tells it.
+/// The code with which Classify reports that two segments cross.
 constexpr int kCross = 1;
 
+/// The ends of each segment are on different sides of the other segment's line. An end on that line
+/// counts as a side of its own, so a ray through a vertex crosses both sides that meet there.
 bool Crosses(const Segment2& side, const Segment2& ray) {
   return side.OrientationOf(ray.first) != side.OrientationOf(ray.second) &&
          ray.OrientationOf(side.first) != ray.OrientationOf(side.second);
 }
 
-/// What is no number stands behind all numbers, so that any coordinates have an order.
+/// Orders all doubles: an undefined number (NaN) comes after every other number.
 bool IsLower(double a, double b) {
   if (std::isnan(a) || std::isnan(b)) return !std::isnan(a) && std::isnan(b);
   return a < b;
 }
 
+/// By x, then by y.
 bool IsAhead(const Point2& a, const Point2& b) {
   if (IsLower(a.x, b.x)) return true;
   return !IsLower(b.x, a.x) && IsLower(a.y, b.y);
@@ -44,6 +47,8 @@ Box2 Polygon2::BoundingBox() const {
   return box;
 }
 
+// Each side contributes the area between itself and the x axis. Sides that run towards lower x
+// count as positive.
 double Polygon2::SignedArea() const {
   if (points.size() < 3) return 0.0;
   double sum = 0.0;
@@ -55,6 +60,7 @@ double Polygon2::SignedArea() const {
   return 0.5 * sum;
 }
 
+// The area is divided by a length so that it can be compared with the tolerance, which is a length.
 int Polygon2::Orientation() const {
   const Box2 box = BoundingBox();
   const double larger = std::max(box.max.x - box.min.x, box.max.y - box.min.y);
@@ -85,8 +91,17 @@ bool Polygon2::IsInside(const Point2& point, bool strict) const {
   return HasOddCrossings(point, box);
 }
 
+// Counts how often a ray from the point crosses the sides; an odd count means that the point is
+// inside. The walk starts at a vertex that is not on the ray. It passes a run of vertices on the
+// ray in one step, which counts the side that enters the run. If the vertices before and after the
+// run are on the same side of the ray, the outline only touches the ray, and the count is taken
+// back.
+//
+// HasPoint is always false for the exact tolerance, so no vertex counts as one on the ray today. A
+// ray that passes exactly through a vertex therefore crosses both sides that meet there. The
+// results of conversions depend on this rule.
 bool Polygon2::HasOddCrossings(const Point2& point, const Box2& box) const {
-  // Not horizontal, so that it meets fewer vertices of drawn outlines.
+  // The ray is not horizontal: the outlines of building elements have many horizontal sides.
   const Point2 far(box.max.x + tolerance + 1.0, box.max.y);
   const Segment2 ray(point, far, kExact);
   const std::size_t count = points.size();
@@ -108,7 +123,7 @@ bool Polygon2::HasOddCrossings(const Point2& point, const Box2& box) const {
   return crossings % 2 != 0;
 }
 
-/// Adds where sides touch the segment; gives false if a side crosses it.
+// Adds the points at which sides touch the segment. Returns false if a side crosses it.
 bool Polygon2::AddContacts(const Segment2& segment, Mvector<Point2>& contacts) const {
   if (points.empty()) return true;
   const Point2* previous = points.end() - 1;
@@ -123,6 +138,8 @@ bool Polygon2::AddContacts(const Segment2& segment, Mvector<Point2>& contacts) c
   return true;
 }
 
+// A segment that crosses no side is cut at the points where it touches the outline. Each piece is
+// then either inside or outside as a whole, so the test of its midpoint decides.
 bool Polygon2::IsInside(const Segment2& segment, bool strict) const {
   if (!IsInside(segment.first, strict)) return false;
   if (AreCoincident(segment.first, segment.second, tolerance)) return !strict;

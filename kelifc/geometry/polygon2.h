@@ -8,8 +8,9 @@
 
 namespace KelIFC {
 
-/// A view of points as a polygon: the last one is joined to the first, and none is repeated. It
-/// must not outlive the points. All tests are within the tolerance, a length.
+/// A view of points as a closed polygon. The last point is connected to the first, and no point is
+/// repeated. The polygon refers to the points and must not outlive them. All tests use its
+/// tolerance, which is a length in the unit of the points.
 struct Polygon2 {
   const Mvector<Point2>& points;
   double tolerance;
@@ -17,26 +18,30 @@ struct Polygon2 {
   Polygon2(const Mvector<Point2>& points, double tolerance)
       : points(points), tolerance(tolerance) {}
 
-  /// Of no points: the origin twice.
+  /// Returns the box of the points; of an empty polygon, a box at the origin.
   Box2 BoundingBox() const;
 
-  /// Positive if the polygon turns counter-clockwise; 0 for fewer than three points.
+  /// Returns the area: positive if the points turn counter-clockwise, negative if clockwise, and 0
+  /// for fewer than three points.
   double SignedArea() const;
 
-  /// -1 if the polygon turns counter-clockwise, +1 if clockwise, 0 if it has no area to speak of.
+  /// Returns -1 if the points turn counter-clockwise and +1 if clockwise. Returns 0 if the area
+  /// divided by the longer side of the box is within the tolerance.
   int Orientation() const;
 
-  /// On a side or a vertex.
+  /// Returns true for a point on a side or at a vertex.
   bool IsOnBoundary(const Point2& point) const;
 
-  /// The boundary is inside unless the test is strict.
+  /// Returns true for a point inside the polygon. The boundary counts as inside unless the test is
+  /// strict.
   bool IsInside(const Point2& point, bool strict) const;
 
-  /// Whether the segment is inside over its whole length. A segment that is but a point is never
-  /// strictly inside.
+  /// Returns true if the whole segment is inside. A segment whose ends coincide is never strictly
+  /// inside.
   bool IsInside(const Segment2& segment, bool strict) const;
 
-  /// Whether all sides of another polygon are inside; so are those of one without points.
+  /// Returns true if every side of another polygon is inside. An empty polygon is inside every
+  /// polygon.
   bool IsInside(const Polygon2& inner, bool strict) const;
 
  private:

@@ -6,12 +6,13 @@
 
 namespace KelIFC {
 
-/// The normal of a closed polygon in space, of length 1: seen against it the points turn
-/// counter-clockwise. Zero if there are fewer than three points, or if all of them lie on a line
-/// with the first two.
+/// Returns the normal of a closed polygon in space. It has length 1, and the points turn
+/// counter-clockwise when seen from its tip. Returns zero if there are fewer than three points, or
+/// if every point is on one line with the first two. The tolerance is a length.
 Vector3 PolygonNormal(const Mvector<Point3>& points, double tolerance);
 
-/// The same, with a list that is used for the points in the plane, for walks over many polygons.
+/// The same. `plane` is working memory: a caller that passes the same list for many polygons avoids
+/// an allocation for each of them.
 Vector3 PolygonNormal(const Mvector<Point3>& points, double tolerance, Mvector<Point2>& plane);
 
 }  // namespace KelIFC

@@ -20,14 +20,16 @@ Mvector<Point2> Points(std::initializer_list<Point2> list) {
   return points;
 }
 
-/// Each within the other, so that neither the first point nor the sense counts.
+/// Each polygon is inside the other. The result depends neither on the first point nor on the
+/// direction.
 bool AreEqual(const Polygon2& polygon, const Mvector<Point2>& figure) {
   const Polygon2 other(figure, polygon.tolerance);
   return other.IsInside(polygon, false) && polygon.IsInside(other, false);
 }
 
-/// Whether four points are the corners of their box to the last digit, one after the other. Sides
-/// that are long against the tolerance then lie on each other without a further test.
+/// A shortcut for the usual rectangle. Returns true if the four points are exactly the corners of
+/// their box, in order, and the box is much larger than the tolerance. The general test would then
+/// succeed as well.
 bool IsBox(const Polygon2& polygon, const Box2& box) {
   const double least = 10 * polygon.tolerance;
   if (!(box.max.x - box.min.x > least && box.max.y - box.min.y > least)) return false;
@@ -39,7 +41,7 @@ bool IsBox(const Polygon2& polygon, const Box2& box) {
     if (point.y != box.min.y && point.y != box.max.y) return false;
     if ((point.x == next.x) == (point.y == next.y)) return false;
   }
-  // No corner comes twice.
+  // No corner may occur twice.
   return points[0].x != points[2].x && points[0].y != points[2].y && points[1].x != points[3].x &&
          points[1].y != points[3].y;
 }
@@ -50,7 +52,8 @@ bool IsRectangle(const Polygon2& polygon, const Box2& box) {
                   Points({box.min, {box.min.x, box.max.y}, box.max, {box.max.x, box.min.y}}));
 }
 
-/// Takes the web and the flange from the points that are not on the box; the last ones count.
+/// Reads the width of the web and the thickness of the flange from the points that are not on the
+/// box. If they differ, the last point decides.
 void ReadT(const Polygon2& polygon, const Box2& box, double& a, double& d) {
   const double tolerance = polygon.tolerance;
   for (const Point2& point : polygon.points) {

@@ -7,15 +7,16 @@
 
 namespace KelIFC {
 
-/// A turn in the plane, counter-clockwise for a positive angle.
+/// A rotation in the plane. A positive angle turns counter-clockwise.
 struct Rotation2 {
   double sine;
   double cosine;
 
-  /// `angle` in radians.
+  /// `angle` is in radians.
   explicit Rotation2(double angle) : sine(std::sin(angle)), cosine(std::cos(angle)) {}
 };
 
+/// Returns the argument rotated about the origin.
 inline Vector2 Rotate(const Vector2& v, const Rotation2& r) {
   return {v.x * r.cosine - v.y * r.sine, v.x * r.sine + v.y * r.cosine};
 }
@@ -24,13 +25,13 @@ inline Point2 Rotate(const Point2& p, const Rotation2& r) {
   return {p.x * r.cosine - p.y * r.sine, p.x * r.sine + p.y * r.cosine};
 }
 
-/// Turns x and y and keeps z.
+/// Rotates about the z axis: z is left unchanged.
 inline Vector3 Rotate(const Vector3& v, const Rotation2& r) {
   return {v.x * r.cosine - v.y * r.sine, v.x * r.sine + v.y * r.cosine, v.z};
 }
 
-/// The angle of a direction, in radians from -pi to pi; 0 for no direction. A y of zero counts as
-/// positive, whatever its sign.
+/// Returns the angle of a direction, in radians from -pi to pi; 0 for the zero direction. A `y` of
+/// zero counts as positive even if its sign bit is set.
 double DirectionAngle(double x, double y);
 
 }  // namespace KelIFC

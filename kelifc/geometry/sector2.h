@@ -4,11 +4,13 @@
 #include <cstdint>
 
 #include "kelifc/geometry/point.h"
+#include "kelifc/platform/export.h"
 
 namespace KelIFC {
 
-/// A piece of a line of the plane, with the line's equation a * x + b * y + c = 0.
-struct Sector2 {
+/// A segment in the plane, with the equation of its line: a * x + b * y + c = 0. A new one is all
+/// zero.
+struct KELIFC_API Sector2 {
   double a = 0.0;
   double b = 0.0;
   double c = 0.0;
@@ -20,12 +22,15 @@ struct Sector2 {
   Point2 end;
 
   Sector2() = default;
-  Sector2(const Point2& start, const Point2& end) : start(start), end(end) { Update(); }
 
+  /// The segment between two points. They may coincide; then `a`, `b` and `c` are 0.
+  Sector2(const Point2& from, const Point2& to) : start(from), end(to) { Update(); }
+
+  /// Moves an end and computes the equation again.
   void SetStart(const Point2& point);
   void SetEnd(const Point2& point);
 
-  /// Exchanges the ends and turns the equation round.
+  /// Exchanges the ends and negates the equation.
   void Reverse();
 
  private:

@@ -18,7 +18,7 @@ bool IsBetween(double value, double a, double b, double tolerance) {
   return value >= std::min(a, b) - tolerance && value <= std::max(a, b) + tolerance;
 }
 
-/// Whether an end of one segment lies on the line of the other.
+/// Returns true if an end of one segment is on the line of the other.
 bool HasEndOnLine(const Segment2& s, const Segment2& t, double tolerance) {
   return IsDegenerateTriangle(s.first, s.second, t.first, tolerance) ||
          IsDegenerateTriangle(s.first, s.second, t.second, tolerance) ||
@@ -26,7 +26,7 @@ bool HasEndOnLine(const Segment2& s, const Segment2& t, double tolerance) {
          IsDegenerateTriangle(t.first, t.second, s.second, tolerance);
 }
 
-/// The lines as a * x + b * y = c.
+/// The line of a segment: a * x + b * y = c.
 struct Equation {
   double a;
   double b;
@@ -36,7 +36,8 @@ struct Equation {
       : a(s.second.y - s.first.y), b(s.first.x - s.second.x), c(a * s.first.x + b * s.first.y) {}
 };
 
-/// Of two segments on parallel lines, at least one end of which lies on the other line.
+/// Classifies parallel segments, at least one end of which is on the line of the other. The last
+/// end that is in the box of the other segment becomes the point.
 SegmentContact ClassifyOverlap(const Segment2& first, const Segment2& second) {
   SegmentContact contact;
   const auto testEnd = [&contact](const Segment2& segment, const Point2& end) {

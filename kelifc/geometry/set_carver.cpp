@@ -8,7 +8,7 @@ namespace KelIFC {
 
 namespace {
 
-/// A millimetre on values in metres.
+/// A millimetre, for values in metres.
 constexpr double kTolerance = 0.001;
 
 Point2 FromTheSide(const Point3& point) { return {point.x, point.z}; }
@@ -44,7 +44,7 @@ void SetCarver2xx(Point2& a, Point2& b, LocalPlane& localPlane, Plane3& plane, S
     Begin(sector, worldA, worldB);
     return;
   }
-  // The ends of the sector are nodes, what they are compared with are feet.
+  // The ends of the sector are projected points, but they are compared with feet on the line.
   if (sector.start.x > footA.point.x) sector.SetStart(FromTheSide(worldA));
   if (footB.point.x > sector.end.x) sector.SetEnd(FromTheSide(worldB));
 }

@@ -7,7 +7,7 @@ namespace KelIFC {
 
 namespace {
 
-/// By the three sides and the length of the cross product of two of them.
+/// `ab`, `bc` and `ca` are the lengths of the sides.
 bool IsDegenerate(double ab, double bc, double ca, double twiceArea, double tolerance) {
   if (ab < tolerance || bc < tolerance || ca < tolerance) return true;
   return twiceArea / std::max({ab, bc, ca}) < tolerance;

@@ -5,17 +5,17 @@
 
 namespace KelIFC {
 
-// Tests of three points against a tolerance, which is a length.
+// Tests of the triangle of three points. The tolerance is a length in the unit of the points.
 
-/// True if a side, or the height over the longest side, is shorter than the tolerance.
+/// Returns true if a side, or the height over the longest side, is shorter than the tolerance.
 bool IsDegenerateTriangle(const Point2& a, const Point2& b, const Point2& c, double tolerance);
 bool IsDegenerateTriangle(const Point3& a, const Point3& b, const Point3& c, double tolerance);
 
-/// Twice the area, positive if the points turn counter-clockwise.
+/// Returns twice the area of a triangle: positive if the points turn counter-clockwise.
 double SignedTwiceArea(const Point2& a, const Point2& b, const Point2& c);
 
-/// -1 if the points turn counter-clockwise, +1 if clockwise, 0 if they lie on a line within the
-/// tolerance.
+/// Returns -1 if the points turn counter-clockwise and +1 if clockwise. Returns 0 if the height
+/// over the longest side, or that side itself, is within the tolerance.
 int TriangleOrientation(const Point2& a, const Point2& b, const Point2& c, double tolerance);
 
 }  // namespace KelIFC

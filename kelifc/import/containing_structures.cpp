@@ -1,13 +1,14 @@
 #include <cstddef>
 
 #include "kelifc/geo/fill.h"
-#include "kelifc/import/families.h"
+#include "kelifc/import/model/all_releases.h"
 
 namespace KelIFC {
 
 namespace {
 
-/// Gives false if the instance is no element of the release.
+/// Appends the identifiers of the structures that contain the instance. Returns false if the
+/// instance is not an IfcElement of the release.
 template <class Release>
 bool AddContainers(const IfcUnknown& instance, std::vector<_GUID>& containers) {
   const auto* element = dynamic_cast<const typename Release::IfcElement*>(&instance);

@@ -1,7 +1,7 @@
 #include "kelifc/geo/fill.h"
-#include "kelifc/import/families.h"
-#include "kelifc/import/read_units.h"
-#include "kelifc/import/releases.h"
+#include "kelifc/import/model/all_releases.h"
+#include "kelifc/import/model/for_release.h"
+#include "kelifc/import/model/read_units.h"
 
 namespace KelIFC {
 

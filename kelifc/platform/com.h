@@ -1,10 +1,13 @@
 #ifndef KELIFC_PLATFORM_COM_H_
 #define KELIFC_PLATFORM_COM_H_
 
-// What a host of the object model needs beside its interfaces: the types of the Component Object
-// Model, automation strings, variants, the error object, the making of objects, a smart pointer.
+// All that a host of the object model needs in addition to its interfaces: the types of the
+// Component Object Model (COM), automation strings, variants, the error object, the creation of
+// objects and a smart pointer. Off Windows this folder declares what the headers of Windows declare
+// there.
 
 #include "kelifc/platform/com_bstr.h"
+#include "kelifc/platform/com_entry_points.h"
 #include "kelifc/platform/com_error.h"
 #include "kelifc/platform/com_factory.h"
 #include "kelifc/platform/com_guid.h"

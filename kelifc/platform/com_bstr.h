@@ -7,12 +7,12 @@
 
 namespace KelIFC {
 
-/// Holds one automation string, or none, and gives it back at the end.
+/// Owns one automation string or none, and frees it at the end.
 class Bstr {
  public:
   Bstr() = default;
 
-  /// A copy of the text. Without memory for it, none.
+  /// Copies the text. If there is no memory, the object owns no string.
   explicit Bstr(std::wstring_view text)
       : string(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {}
 
@@ -20,15 +20,16 @@ class Bstr {
   Bstr& operator=(const Bstr&) = delete;
   ~Bstr() { SysFreeString(string); }
 
+  /// Returns the string, or null. The object still owns it.
   BSTR Get() const { return string; }
 
-  /// The characters; empty for none.
+  /// Returns a view of the string, empty if there is none. Put and the destructor invalidate it.
   std::wstring_view Text() const {
     return string == nullptr ? std::wstring_view()
                              : std::wstring_view(string, SysStringLen(string));
   }
 
-  /// Where an operation puts a string; the one that was held is given back.
+  /// Frees the string and returns the place at which an operation stores a new one.
   BSTR* Put() {
     SysFreeString(string);
     string = nullptr;

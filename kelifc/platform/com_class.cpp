@@ -31,7 +31,7 @@ class ClassFactory : public IClassFactory {
   const ComClass& type;
 };
 
-/// Held by the process itself, for its whole life.
+/// It lives as long as the process, so it must not keep the library loaded.
 class LocalClassFactory : public ClassFactory {
  public:
   using Counted = UncountedObject;

@@ -7,35 +7,38 @@
 
 namespace KelIFC {
 
-/// A class that hosts can make objects of.
+/// A class of which hosts can create objects.
 struct ComClass {
   CLSID clsid;
 
-  /// Name and version, "KelIFC.GeoStorey.1"; the class is known without the version too.
+  /// The program name with the version, such as "KelIFC.GeoStorey.1". The class is known by the
+  /// name without the version as well.
   const OLECHAR* progId;
 
-  /// Makes an object and gives its interface `iid`, counted.
+  /// Creates an object and stores a counted pointer to its interface `iid`.
   HRESULT (*make)(const IID& iid, void** out);
 };
 
-/// All classes of this library. The object model defines it.
+/// Returns all classes of the library. The folder kelifc/geo defines this function.
 std::span<const ComClass> ComClasses();
 
-/// What a type library is known by.
+/// The identifier and the version of a type library.
 struct TypeLibraryVersion {
   GUID identifier;
   WORD major;
   WORD minor;
 };
 
-/// The type library of these classes. The object model defines it.
+/// Returns the type library of the classes. The folder kelifc/geo defines this function.
 TypeLibraryVersion ComTypeLibrary();
 
-/// The class object of one of these classes, through its interface `iid`. An identifier that is
-/// none of them gives CLASS_E_CLASSNOTAVAILABLE and null; a null `out` gives E_POINTER.
+/// Stores a counted pointer to the interface `iid` of a class object of the library. Returns
+/// CLASS_E_CLASSNOTAVAILABLE and stores null if no class has the identifier. Returns E_POINTER if
+/// `out` is null.
 HRESULT GetClassObject(const CLSID& clsid, const IID& iid, void** out);
 
-/// The class object of a class for use within the process: it does not keep the library in use.
+/// Creates a class object for use inside the process: it does not count as a living object of the
+/// library.
 HRESULT GetLocalClassObject(const ComClass& type, const IID& iid, void** out);
 
 }  // namespace KelIFC

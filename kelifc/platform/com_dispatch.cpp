@@ -14,8 +14,8 @@ namespace KelIFC {
 
 namespace {
 
-/// The type information of the interfaces that were asked for so far. It stays for the life of the
-/// process: at its end the system's own libraries may be gone before this one.
+/// Caches the type information of interfaces. The cache is never destroyed: at the end of the
+/// process the system's libraries may be gone before this one.
 class TypeInfoCache {
  public:
   HRESULT Find(const IID& iid, ITypeInfo** out) {
@@ -47,7 +47,8 @@ class TypeInfoCache {
     return FAILED(status) ? status : GiveInterfaceForm(*info, out);
   }
 
-  /// A dual interface has two forms; that with the order of the operations is the one to call by.
+  /// A dual interface has two forms of type information. Calls need the one with the order of the
+  /// operations.
   static HRESULT GiveInterfaceForm(ITypeInfo& info, ITypeInfo** out) {
     TYPEATTR* attributes = nullptr;
     HRESULT status = info.GetTypeAttr(&attributes);
@@ -69,10 +70,10 @@ class TypeInfoCache {
   std::vector<Entry> entries;
 };
 
-HRESULT FindInfo(const Face& face, ITypeInfo** out) {
+HRESULT FindInfo(const ScriptInterface& target, ITypeInfo** out) {
   static auto* const cache = new TypeInfoCache;
   *out = nullptr;
-  return Guard([&] { return cache->Find(*face.iid, out); });
+  return Guard([&] { return cache->Find(*target.iid, out); });
 }
 
 }  // namespace
@@ -86,20 +87,21 @@ HRESULT CountTypeInfo(UINT* count) {
   return status;
 }
 
-HRESULT GiveTypeInfo(const Face& face, UINT index, ITypeInfo** out) {
+HRESULT GiveTypeInfo(const ScriptInterface& target, UINT index, ITypeInfo** out) {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
   if (index != 0) return DISP_E_BADINDEX;
-  const HRESULT status = FindInfo(face, out);
+  const HRESULT status = FindInfo(target, out);
   if (SUCCEEDED(status)) (*out)->AddRef();
   return status;
 }
 
-HRESULT FindNames(std::span<const Face> faces, OLECHAR** names, UINT count, DISPID* ids) {
+HRESULT FindNames(std::span<const ScriptInterface> interfaces, OLECHAR** names, UINT count,
+                  DISPID* ids) {
   HRESULT status = DISP_E_UNKNOWNNAME;
-  for (const Face& face : faces) {
+  for (const ScriptInterface& target : interfaces) {
     ITypeInfo* info = nullptr;
-    status = FindInfo(face, &info);
+    status = FindInfo(target, &info);
     if (FAILED(status)) return status;
     if (names == nullptr || ids == nullptr) return E_POINTER;
     status = DispGetIDsOfNames(info, names, count, ids);
@@ -108,18 +110,22 @@ HRESULT FindNames(std::span<const Face> faces, OLECHAR** names, UINT count, DISP
   return status;
 }
 
-HRESULT InvokeFace(std::span<const Face> faces, DISPID id, WORD flags, DISPPARAMS* arguments,
-                   VARIANT* result, EXCEPINFO* exception, UINT* badArgument) {
+HRESULT InvokeOperation(std::span<const ScriptInterface> interfaces, DISPID id, WORD flags,
+                        DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* exception,
+                        UINT* badArgument) {
+  VARIANT unused = {};  // a property get needs a place for its value
   HRESULT status = DISP_E_MEMBERNOTFOUND;
-  for (const Face& face : faces) {
+  for (const ScriptInterface& target : interfaces) {
     ITypeInfo* info = nullptr;
-    status = FindInfo(face, &info);
+    status = FindInfo(target, &info);
     if (FAILED(status)) return status;
     if (arguments == nullptr) return E_POINTER;
-    SetErrorInfo(0, nullptr);  // what an earlier call reported is not told of this one
-    status = DispInvoke(face.object, info, id, flags, arguments, result, exception, badArgument);
-    if (status != DISP_E_MEMBERNOTFOUND) return status;
+    SetErrorInfo(0, nullptr);  // the error of an earlier call is not the error of this one
+    status = DispInvoke(target.object, info, id, LookupFlags(flags), arguments,
+                        result == nullptr ? &unused : result, exception, badArgument);
+    if (status != DISP_E_MEMBERNOTFOUND) break;
   }
+  VariantClear(&unused);
   return status;
 }
 
@@ -135,20 +141,20 @@ HRESULT CountTypeInfo(UINT* count) {
   return TYPE_E_LIBNOTREGISTERED;
 }
 
-HRESULT GiveTypeInfo(const Face& /*face*/, UINT /*index*/, ITypeInfo** out) {
+HRESULT GiveTypeInfo(const ScriptInterface& /*target*/, UINT /*index*/, ITypeInfo** out) {
   if (out == nullptr) return E_POINTER;
   *out = nullptr;
   return TYPE_E_LIBNOTREGISTERED;
 }
 
-HRESULT FindNames(std::span<const Face> /*faces*/, OLECHAR** /*names*/, UINT /*count*/,
-                  DISPID* /*ids*/) {
+HRESULT FindNames(std::span<const ScriptInterface> /*interfaces*/, OLECHAR** /*names*/,
+                  UINT /*count*/, DISPID* /*ids*/) {
   return TYPE_E_LIBNOTREGISTERED;
 }
 
-HRESULT InvokeFace(std::span<const Face> /*faces*/, DISPID /*id*/, WORD /*flags*/,
-                   DISPPARAMS* /*arguments*/, VARIANT* /*result*/, EXCEPINFO* /*exception*/,
-                   UINT* /*badArgument*/) {
+HRESULT InvokeOperation(std::span<const ScriptInterface> /*interfaces*/, DISPID /*id*/,
+                        WORD /*flags*/, DISPPARAMS* /*arguments*/, VARIANT* /*result*/,
+                        EXCEPINFO* /*exception*/, UINT* /*badArgument*/) {
   return TYPE_E_LIBNOTREGISTERED;
 }
 

@@ -8,32 +8,45 @@
 
 namespace KelIFC {
 
-// How script hosts reach an object by the names of its operations. A script holds one interface and
-// cannot ask for another, so names are looked up over all interfaces of the class. What stands
-// behind a name is told by the library's type library: without it, and off Windows, each of these
-// gives TYPE_E_LIBNOTREGISTERED.
+// Late binding: script hosts call operations by their names. A script has only one interface of an
+// object and cannot query another, so a name is looked up in all interfaces of the class. The type
+// library describes the names. Without it, and always off Windows, each of these functions returns
+// TYPE_E_LIBNOTREGISTERED.
 
-/// One interface of an object. The class's own stands first in a row of them.
-struct Face {
+/// An interface of an object whose operations scripts can call. Lists of them begin with the
+/// interface of the class itself.
+struct ScriptInterface {
   const IID* iid;
   IDispatch* object;
 };
 
-/// Tells whether there is type information: 1 or 0. A null `count` gives E_POINTER.
+/// Stores 1 if there is type information, otherwise 0. Returns E_POINTER if `count` is null.
 HRESULT CountTypeInfo(UINT* count);
 
-/// Gives the type information of an interface, counted. `index` must be 0: DISP_E_BADINDEX; a null
-/// `out` gives E_POINTER.
-HRESULT GiveTypeInfo(const Face& face, UINT index, ITypeInfo** out);
+/// Stores a counted pointer to the type information of an interface. Returns DISP_E_BADINDEX if
+/// `index` is not 0, and E_POINTER if `out` is null.
+HRESULT GiveTypeInfo(const ScriptInterface& target, UINT index, ITypeInfo** out);
 
-/// Looks up the name of an operation, and of its arguments, in the first interface that has it.
-/// DISP_E_UNKNOWNNAME if none has.
-HRESULT FindNames(std::span<const Face> faces, OLECHAR** names, UINT count, DISPID* ids);
+/// Finds the identifiers of an operation and of its arguments, in the first interface that has the
+/// operation. Returns DISP_E_UNKNOWNNAME if none has it.
+HRESULT FindNames(std::span<const ScriptInterface> interfaces, OLECHAR** names, UINT count,
+                  DISPID* ids);
 
-/// Calls the operation of an identifier in the interface that has it; DISP_E_MEMBERNOTFOUND if none
-/// has.
-HRESULT InvokeFace(std::span<const Face> faces, DISPID id, WORD flags, DISPPARAMS* arguments,
-                   VARIANT* result, EXCEPINFO* exception, UINT* badArgument);
+/// Returns the flags with which an operation is looked up. A script engine sets the method flag
+/// alone where it does not use a result, even if the operation is a property; JScript does so for
+/// `_NewEnum`, too. So the lookup of a method also finds a property. Flags that set a property are
+/// left unchanged.
+constexpr WORD LookupFlags(WORD flags) {
+  const bool isPut = (flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF)) != 0;
+  const bool isMethod = (flags & DISPATCH_METHOD) != 0;
+  return static_cast<WORD>(isMethod && !isPut ? flags | DISPATCH_PROPERTYGET : flags);
+}
+
+/// Calls the operation of an identifier, in the first interface that has it, with the LookupFlags
+/// of `flags`. Returns DISP_E_MEMBERNOTFOUND if none has it. `result` may be null.
+HRESULT InvokeOperation(std::span<const ScriptInterface> interfaces, DISPID id, WORD flags,
+                        DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* exception,
+                        UINT* badArgument);
 
 }  // namespace KelIFC
 

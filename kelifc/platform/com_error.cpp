@@ -40,7 +40,8 @@ HRESULT GiveValue(const Value& value, Value* out) {
 class ErrorInfo : public IErrorInfo, public ICreateErrorInfo {
  public:
   using Interfaces = KelIFC::InterfaceList<IErrorInfo, ICreateErrorInfo>;
-  // The error object of a thread outlives the call that failed.
+  // An error object stays with its thread after the failed call, so it does not keep the library
+  // loaded.
   using Counted = KelIFC::UncountedObject;
 
   HRESULT GetGUID(GUID* out) override { return GiveValue(guid, out); }

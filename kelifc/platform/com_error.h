@@ -7,17 +7,18 @@
 #include <oleauto.h>
 #else
 
-// The error object: what an operation of this thread last reported in words. It stays until another
-// takes its place or somebody fetches it.
+// The error object of a thread: a text about the last failure. It stays until another error object
+// replaces it or GetErrorInfo fetches it.
 
-/// Gives a new error object to be filled in. Null gives E_INVALIDARG.
+/// Creates an empty error object. Returns E_INVALIDARG if `out` is null.
 KELIFC_API HRESULT CreateErrorInfo(ICreateErrorInfo** out);
 
-/// Makes `error` the thread's error object; null takes it away. `reserved` must be 0.
+/// Makes `error` the error object of the thread. Null removes the present one. Returns E_INVALIDARG
+/// if `reserved` is not 0.
 KELIFC_API HRESULT SetErrorInfo(ULONG reserved, IErrorInfo* error);
 
-/// Gives the thread's error object and takes it away from the thread; null and S_FALSE if there is
-/// none. `reserved` must be 0.
+/// Removes the error object from the thread and stores it. Stores null and returns S_FALSE if there
+/// is none. Returns E_INVALIDARG if `reserved` is not 0 or `out` is null.
 KELIFC_API HRESULT GetErrorInfo(ULONG reserved, IErrorInfo** out);
 
 #endif

@@ -20,11 +20,11 @@ struct Registration {
   ComPtr<IUnknown> factory;
 };
 
-/// Held by each thread for itself, as an apartment would.
+/// Each thread has registrations of its own, as a COM apartment has.
 thread_local std::vector<Registration> registrations;
 thread_local DWORD lastCookie = 0;
 
-/// Names are found whatever the case of their letters.
+/// Compares names without regard to the case of letters from A to Z.
 bool IsSameName(std::wstring_view a, std::wstring_view b) {
   const auto lower = [](wchar_t c) { return c >= L'A' && c <= L'Z' ? c - L'A' + L'a' : c + 0; };
   if (a.size() != b.size()) return false;
@@ -88,7 +88,7 @@ HRESULT CoRegisterClassObject(const CLSID& clsid, IUnknown* factory, DWORD /*con
 HRESULT CoRevokeClassObject(DWORD cookie) {
   for (auto at = registrations.begin(); at != registrations.end(); ++at) {
     if (at->cookie != cookie) continue;
-    const ComPtr<IUnknown> last = at->factory;  // let go when the list is whole again
+    const ComPtr<IUnknown> last = at->factory;  // released after the list is consistent again
     registrations.erase(at);
     return S_OK;
   }

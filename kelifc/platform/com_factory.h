@@ -7,32 +7,35 @@
 #include <combaseapi.h>
 #else
 
-// Making objects by the identifier of their class. Without a registry of the system the classes are
-// those of this library, and those that somebody registers on the calling thread.
+// Creation of objects by the identifier of their class. Off Windows there is no registry of
+// classes: the known classes are those of this library and those that the calling thread has
+// registered.
 
-/// The identifier of a class by its program name, with or without the version at its end, in upper
-/// or lower case. An unknown name gives CO_E_CLASSSTRING and the null identifier; a null argument
-/// E_INVALIDARG.
+/// Stores the identifier of the class with a program name. The version at the end of the name may
+/// be missing, and letters match in upper and lower case. For an unknown name the function stores
+/// the null identifier and returns CO_E_CLASSSTRING. Returns E_INVALIDARG if an argument is null.
 KELIFC_API HRESULT CLSIDFromProgID(const OLECHAR* progId, CLSID* out);
 
-/// Gives the object that makes objects of a class, through its interface `iid`. `context` must hold
-/// CLSCTX_INPROC_SERVER, `reserved` be null. A class that is unknown gives REGDB_E_CLASSNOTREG and
-/// null; a null `out` gives E_POINTER.
+/// Stores a counted pointer to the interface `iid` of a class object, which creates objects of the
+/// class. Returns REGDB_E_CLASSNOTREG and stores null if the class is unknown or `context` does not
+/// contain CLSCTX_INPROC_SERVER. Returns E_INVALIDARG if `reserved` is not null, and E_POINTER if
+/// `out` is null.
 KELIFC_API HRESULT CoGetClassObject(const CLSID& clsid, DWORD context, void* reserved,
                                     const IID& iid, void** out);
 
-/// Makes an object of a class and gives its interface `iid`. No class here can be made a part of an
-/// `outer` object: CLASS_E_NOAGGREGATION. Otherwise as above.
+/// Creates an object of a class and stores a counted pointer to its interface `iid`. `outer` must
+/// be null, otherwise the result is CLASS_E_NOAGGREGATION. All else is as for CoGetClassObject.
 KELIFC_API HRESULT CoCreateInstance(const CLSID& clsid, IUnknown* outer, DWORD context,
                                     const IID& iid, void** out);
 
-/// Puts `factory` in the place of the class object of `clsid` on this thread. `cookie` receives
-/// what takes it away again. `context` and `flags` are not used.
+/// Registers `factory` as the class object of `clsid` for the calling thread. The newest
+/// registration of a class is used first. `cookie` receives the key for CoRevokeClassObject.
+/// `context` and `flags` are ignored. Returns E_INVALIDARG if `factory` or `cookie` is null.
 KELIFC_API HRESULT CoRegisterClassObject(const CLSID& clsid, IUnknown* factory, DWORD context,
                                          DWORD flags, DWORD* cookie);
 
-/// Takes a class object away again; CO_E_OBJNOTREG if there is none with this cookie on this
-/// thread.
+/// Removes a registration of the calling thread. Returns CO_E_OBJNOTREG if it has none with this
+/// key.
 KELIFC_API HRESULT CoRevokeClassObject(DWORD cookie);
 
 #endif

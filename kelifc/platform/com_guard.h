@@ -7,8 +7,8 @@
 
 namespace KelIFC {
 
-/// Runs `act`, which gives a status, and turns an exception into one: no exception crosses an
-/// interface.
+/// Calls `act` and returns its status. An exception becomes a status, since no exception may leave
+/// an interface: E_OUTOFMEMORY for std::bad_alloc, E_FAIL for all others.
 template <class Act>
 HRESULT Guard(Act&& act) noexcept {
   try {

@@ -6,8 +6,8 @@
 
 namespace {
 
-/// The braced form, with the position of a byte of the identifier in place of its two digits. The
-/// three numbers stand with their highest byte first.
+/// The form of an identifier in braces. A hexadecimal digit and the point after it are the position
+/// of a byte, whose two digits belong there. The first byte of each number is its highest one.
 constexpr char kForm[] = "{0.1.2.3.-4.5.-6.7.-8.9.-a.b.c.d.e.f.}";
 constexpr int kLength = sizeof kForm - 1;
 
@@ -17,7 +17,7 @@ bool IsByte(char mark) { return (mark >= '0' && mark <= '9') || (mark >= 'a' && 
 
 int ByteOf(char mark) { return mark <= '9' ? mark - '0' : mark - 'a' + 10; }
 
-/// The value of a hexadecimal digit, -1 for anything else.
+/// Returns the value of a hexadecimal digit, -1 for any other character.
 int DigitOf(OLECHAR character) {
   if (character >= L'0' && character <= L'9') return character - L'0';
   if (character >= L'A' && character <= L'F') return character - L'A' + 10;
@@ -71,7 +71,7 @@ HRESULT CLSIDFromString(const OLECHAR* text, CLSID* out) {
   if (text == nullptr || out == nullptr) return E_INVALIDARG;
   *out = {};
   Bytes bytes;
-  // A null character inside the text fits no place of the form, so nothing behind it is read.
+  // A null character matches no position of the form, so the loop never reads beyond it.
   for (int i = 0; i < kLength; ++i) {
     if (!IsByte(kForm[i])) {
       if (text[i] != static_cast<OLECHAR>(kForm[i])) return CO_E_CLASSSTRING;

@@ -8,13 +8,14 @@
 #include <combaseapi.h>
 #else
 
-/// Writes an identifier in its braced form, "{00112233-4455-6677-8899-AABBCCDDEEFF}", and a null
-/// character. Gives the number of characters with that one, 39, or 0 if `size` is smaller or `text`
-/// null.
+/// Writes an identifier in braces, such as "{00112233-4455-6677-8899-AABBCCDDEEFF}", and a null
+/// character. Returns the number of characters written, 39. Returns 0 and writes nothing if `size`
+/// is below 39 or `text` is null.
 KELIFC_API int StringFromGUID2(const GUID& guid, OLECHAR* text, int size);
 
-/// Reads the braced form, in upper or lower case. Anything else gives CO_E_CLASSSTRING and leaves
-/// `out` all zero; a null argument gives E_INVALIDARG.
+/// Reads an identifier in braces. Digits may be in upper or lower case. For any other text the
+/// function stores the null identifier and returns CO_E_CLASSSTRING. Returns E_INVALIDARG if an
+/// argument is null.
 KELIFC_API HRESULT CLSIDFromString(const OLECHAR* text, CLSID* out);
 
 #endif

@@ -15,27 +15,36 @@ struct EXCEPINFO;
 struct VARIANT;
 using BSTR = OLECHAR*;
 
-// The system's own interfaces, in their fixed order of operations. An interface is never deleted;
-// who holds one gives it back with Release.
+// Interfaces of the system, with their operations in the fixed order. A caller never deletes an
+// interface; it calls Release for each counted pointer that it received.
 
-/// The root of all interfaces: counts who holds the object, and finds its other interfaces.
+/// The base of all interfaces: counts references to the object and finds its other interfaces.
 struct KELIFC_API IUnknown {
   static constexpr IID kIid = {
       0x00000000, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 
-  /// Gives the interface `iid` of this object, counted, or null and E_NOINTERFACE.
+  /// Stores a counted pointer to the interface `iid` of this object. Stores null and returns
+  /// E_NOINTERFACE if the object does not have it.
   virtual HRESULT QueryInterface(const IID& iid, void** out) = 0;
 
+  /// Adds one reference and returns the number of references.
   virtual ULONG AddRef() = 0;
 
-  /// Gives one hold back; the last one ends the object. Gives the number of those left.
+  /// Removes one reference; the object destroys itself after the last one. Returns the number of
+  /// references left.
   virtual ULONG Release() = 0;
 
  protected:
   ~IUnknown() = default;
 };
 
-/// The root of all interfaces that a script host can use by name.
+// Flags of IDispatch::Invoke: how the caller uses the operation.
+inline constexpr WORD DISPATCH_METHOD = 1;
+inline constexpr WORD DISPATCH_PROPERTYGET = 2;
+inline constexpr WORD DISPATCH_PROPERTYPUT = 4;
+inline constexpr WORD DISPATCH_PROPERTYPUTREF = 8;
+
+/// The base of all interfaces that scripts can use: finds operations by name and calls them.
 struct KELIFC_API IDispatch : IUnknown {
   static constexpr IID kIid = {
       0x00020400, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
@@ -51,53 +60,54 @@ struct KELIFC_API IDispatch : IUnknown {
   ~IDispatch() = default;
 };
 
-/// Makes objects of one class.
+/// A class object: creates objects of one class.
 struct KELIFC_API IClassFactory : IUnknown {
   static constexpr IID kIid = {
       0x00000001, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 
   virtual HRESULT CreateInstance(IUnknown* outer, const IID& iid, void** out) = 0;
 
-  /// Keeps the library loaded, or lets it go again.
+  /// Keeps the library loaded if `lock` is not 0; otherwise removes one such lock.
   virtual HRESULT LockServer(BOOL lock) = 0;
 
  protected:
   ~IClassFactory() = default;
 };
 
-/// Walks the items of a collection as variants.
+/// Enumerates the items of a collection as variants.
 struct KELIFC_API IEnumVARIANT : IUnknown {
   static constexpr IID kIid = {
       0x00020404, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 
-  /// Gives the next `count` items; S_FALSE if there were fewer. `fetched` may be null for one.
+  /// Stores the next items, `count` at most, and their number. Returns S_FALSE if there were fewer.
+  /// `fetched` may be null if `count` is 1.
   virtual HRESULT Next(ULONG count, VARIANT* items, ULONG* fetched) = 0;
 
-  /// Passes over `count` items; S_FALSE if there were fewer.
+  /// Skips `count` items. Returns S_FALSE if there were fewer.
   virtual HRESULT Skip(ULONG count) = 0;
 
   virtual HRESULT Reset() = 0;
 
-  /// A second walk that stands at the same item.
+  /// Stores a second enumerator at the same position.
   virtual HRESULT Clone(IEnumVARIANT** out) = 0;
 
  protected:
   ~IEnumVARIANT() = default;
 };
 
-/// Tells for which interfaces an object reports failures through the error object.
+/// Reports for which interfaces an object sets the error object.
 struct KELIFC_API ISupportErrorInfo : IUnknown {
   static constexpr IID kIid = {
       0xDF0B3D60, 0x548F, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
 
-  /// S_OK for yes, S_FALSE for no.
+  /// Returns S_OK for yes, S_FALSE for no.
   virtual HRESULT InterfaceSupportsErrorInfo(const IID& iid) = 0;
 
  protected:
   ~ISupportErrorInfo() = default;
 };
 
-/// What failed, in words.
+/// The texts of an error object.
 struct KELIFC_API IErrorInfo : IUnknown {
   static constexpr IID kIid = {
       0x1CF2B120, 0x547D, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
@@ -112,7 +122,7 @@ struct KELIFC_API IErrorInfo : IUnknown {
   ~IErrorInfo() = default;
 };
 
-/// Writes what IErrorInfo of the same object gives.
+/// Sets the texts that IErrorInfo of the same object returns.
 struct KELIFC_API ICreateErrorInfo : IUnknown {
   static constexpr IID kIid = {
       0x22F03340, 0x547D, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
@@ -131,7 +141,7 @@ struct KELIFC_API ICreateErrorInfo : IUnknown {
 
 namespace KelIFC {
 
-/// The identifier of an interface.
+/// Returns the identifier of an interface.
 template <class Interface>
 const IID& IidOf() {
   return Interface::kIid;

@@ -23,7 +23,8 @@ LocalClasses::LocalClasses() {
 
 LocalClasses::~LocalClasses() {
   for (const DWORD cookie : cookies) CoRevokeClassObject(cookie);
-  // S_FALSE, too, wants its counterpart: the thread was open before.
+  // CoInitialize returns S_FALSE on a thread that was initialised before. CoUninitialize is due
+  // then, too.
   if (SUCCEEDED(status) || !cookies.empty()) CoUninitialize();
 }
 

@@ -7,11 +7,12 @@
 
 namespace KelIFC {
 
-/// For hosts that link the library and do not want it in the registry of the system: for as long as
-/// it lives, this thread can make objects of the library's classes by their identifiers. It opens
-/// the thread for the Component Object Model, and closes it again.
+/// Makes the classes of the library known to the calling thread for as long as the object lives. It
+/// is for hosts that link the library and do not enter it in the registry of the system. The
+/// constructor initialises COM on the thread, and the destructor undoes that. Both must run on the
+/// same thread.
 ///
-/// Off Windows the classes are always known, and it does nothing.
+/// Off Windows the classes are always known, so the object does nothing.
 class KELIFC_API LocalClasses {
  public:
   LocalClasses();
@@ -19,7 +20,7 @@ class KELIFC_API LocalClasses {
   LocalClasses& operator=(const LocalClasses&) = delete;
   ~LocalClasses();
 
-  /// S_OK, or the first failure.
+  /// Returns S_OK, or the first failure of the constructor.
   HRESULT GetStatus() const { return status; }
 
  private:

@@ -3,19 +3,20 @@
 
 namespace KelIFC {
 
-// What keeps the library in use: its living objects, and the locks that hosts put on it. Both count
-// over all threads, since trees of different threads live side by side.
+// What keeps the library loaded: its living objects and the locks of hosts. Both are counted for
+// the whole process and can be changed from any thread, since each thread can have objects of its
+// own.
 
-/// The number of objects that the library has made and that still live.
+/// Returns the number of living objects that the library has created.
 long LiveObjectCount();
 
-/// True if neither an object nor a lock is left.
+/// Returns true if there is neither a living object nor a lock.
 bool CanUnload();
 
-/// Puts a lock on the library, or takes one away.
+/// Adds a lock if `lock` is true; otherwise removes one.
 void LockModule(bool lock);
 
-/// Counts one object for as long as it lives.
+/// Counts one object of the library while it lives.
 class LiveObject {
  public:
   LiveObject();
@@ -24,7 +25,7 @@ class LiveObject {
   ~LiveObject();
 };
 
-/// Stands in for LiveObject in objects that are the system's, not the library's.
+/// Replaces LiveObject in objects that do not keep the library loaded.
 class UncountedObject {};
 
 }  // namespace KelIFC

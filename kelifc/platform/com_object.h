@@ -11,13 +11,13 @@
 
 namespace KelIFC {
 
-/// The interfaces of a class, in the order in which a query tries them. The first is the class's
-/// own: it also answers for IUnknown.
+/// The interfaces of a class, in the order in which a query tries them. The first one is the
+/// interface of the class itself. A query for IUnknown returns it, too.
 template <class Own, class... Others>
 struct InterfaceList {
   using First = Own;
 
-  /// The interface `iid` of the object, not counted, or null.
+  /// Returns the interface `iid` of the object without counting, or null.
   template <class Impl>
   static void* Find(Impl* object, const IID& iid) {
     void* found = nullptr;
@@ -27,7 +27,8 @@ struct InterfaceList {
   }
 
  private:
-  /// What the own interface derives from is reached through it, so both are the same pointer.
+  /// A base of the own interface is cast by way of it. So a query for IDispatch or IGeoObject
+  /// returns the same pointer as a query for the own interface.
   template <class Interface, class Impl>
   static Interface* Cast(Impl* object) {
     if constexpr (std::is_base_of_v<Interface, Own>) {
@@ -45,15 +46,14 @@ struct InterfaceList {
   }
 };
 
-/// The living form of a class: Impl, which has the operations, with the three of IUnknown. Impl
-/// names its interfaces as `Impl::Interfaces`, and whether it counts as `Impl::Counted`: LiveObject
-/// or UncountedObject.
+/// The class from which objects are created: Impl with the three operations of IUnknown.
+/// `Impl::Interfaces` is its InterfaceList. `Impl::Counted` is LiveObject or UncountedObject.
 ///
-/// The count is plain: an object belongs to one thread at a time.
+/// The reference count is not atomic: an object belongs to one thread at a time.
 template <class Impl>
 class Object final : public Impl, private Impl::Counted {
  public:
-  /// A new object with one count, which is the caller's. Throws std::bad_alloc.
+  /// Creates an object with one reference, which belongs to the caller. Throws std::bad_alloc.
   template <class... Arguments>
   explicit Object(Arguments&&... arguments) : Impl(std::forward<Arguments>(arguments)...) {}
 
@@ -80,7 +80,8 @@ class Object final : public Impl, private Impl::Counted {
   ULONG references = 1;
 };
 
-/// Makes an object and gives its interface `iid`, counted. On failure `out` is null.
+/// Creates an object and stores a counted pointer to its interface `iid`. On failure it stores
+/// null. Returns E_POINTER if `out` is null.
 template <class Impl, class... Arguments>
 HRESULT MakeObject(const IID& iid, void** out, Arguments&&... arguments) {
   if (out == nullptr) return E_POINTER;

@@ -1,21 +1,30 @@
 #ifndef KELIFC_PLATFORM_COM_PTR_H_
 #define KELIFC_PLATFORM_COM_PTR_H_
 
+#include <type_traits>
 #include <utility>
 
 #include "kelifc/platform/com_interfaces.h"
 
 namespace KelIFC {
 
-/// Holds one count of an object through one of its interfaces, or nothing.
+/// Owns one reference to an object, by one of its interfaces, or is empty. The operators `->` and
+/// `*` must not be used on an empty pointer.
 template <class Interface>
 class ComPtr {
  public:
   ComPtr() = default;
-  explicit ComPtr(Interface* object) : object(object) { Hold(); }
+
+  /// Adds a reference of its own. Null makes an empty pointer.
+  explicit ComPtr(Interface* counted) : object(counted) { Hold(); }
   ComPtr(const ComPtr& other) : object(other.object) { Hold(); }
   ComPtr(ComPtr&& other) noexcept : object(std::exchange(other.object, nullptr)) {}
   ~ComPtr() { Reset(); }
+
+  /// The same object through an interface that `Derived` inherits from, without a query.
+  template <class Derived, class = std::enable_if_t<std::is_convertible_v<Derived*, Interface*>>>
+  ComPtr(const ComPtr<Derived>& other)  // NOLINT(google-explicit-constructor)
+      : ComPtr(other.Get()) {}
 
   ComPtr& operator=(ComPtr other) noexcept {
     std::swap(object, other.object);
@@ -27,24 +36,24 @@ class ComPtr {
   Interface& operator*() const { return *object; }
   explicit operator bool() const { return object != nullptr; }
 
-  /// Lets go of the object.
+  /// Releases the object; the pointer is then empty.
   void Reset() {
     if (Interface* const old = std::exchange(object, nullptr)) old->Release();
   }
 
-  /// Where an operation puts an object that is already counted; what was held is let go.
+  /// Releases the object and returns the place at which an operation stores a counted pointer.
   Interface** Put() {
     Reset();
     return &object;
   }
 
-  /// Gives the object away with one more count; null if nothing is held.
+  /// Stores the pointer and adds a reference for its receiver. Stores null if the pointer is empty.
   void CopyTo(Interface** out) const {
     Hold();
     *out = object;
   }
 
-  /// Another interface of the object; nothing if it has none such.
+  /// Queries another interface of the object. The result is empty if the object does not have it.
   template <class Other>
   ComPtr<Other> As() const {
     ComPtr<Other> other;

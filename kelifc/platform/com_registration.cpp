@@ -22,14 +22,14 @@ std::wstring TextOf(const GUID& guid) {
   return text;
 }
 
-/// A program name without its version.
+/// Returns a program name without its version.
 std::wstring WithoutVersion(std::wstring_view progId) {
   return std::wstring(progId.substr(0, progId.rfind(L'.')));
 }
 
 std::wstring KeyOf(const ComClass& type) { return L"CLSID\\" + TextOf(type.clsid); }
 
-/// The file that this code was loaded from.
+/// Finds the file of the module that contains this code.
 HRESULT FindOwnFile(std::wstring& file) {
   constexpr DWORD kFlags =
       GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT;
@@ -49,10 +49,10 @@ HRESULT FindOwnFile(std::wstring& file) {
   }
 }
 
-/// Writes entries until one cannot be written.
+/// Writes entries of the registry. After a failure it writes nothing more.
 class EntryWriter {
  public:
-  /// Sets a value of a key; a null name is the key's own value.
+  /// Sets a value of a key. A null name is the default value of the key.
   void Set(const std::wstring& key, const wchar_t* name, const std::wstring& text) {
     if (result != ERROR_SUCCESS) return;
     HKEY handle = nullptr;

@@ -3,15 +3,15 @@
 
 #include "kelifc/platform/com_types.h"
 
-// The entries of the library in the registry of the system: for each class its file, its program
-// names and its threading model, and the type library. Windows only.
+// The entries of the library in the registry of Windows: for each class its file, its program names
+// and its threading model, and the type library. The functions exist on Windows only.
 
 namespace KelIFC {
 
-/// Makes all entries. On failure those made so far are taken out again.
+/// Writes all entries. If one cannot be written, all of them are removed again.
 HRESULT RegisterLibrary();
 
-/// Takes all entries out; one that is missing is no failure.
+/// Removes all entries. A missing entry is not a failure.
 HRESULT UnregisterLibrary();
 
 }  // namespace KelIFC

@@ -9,11 +9,12 @@
 
 namespace {
 
-/// What stands ahead of the characters. The limit keeps the size in bytes below 32 bits.
+/// The length precedes the characters in memory.
 struct Prefix {
   std::uint64_t length;
 };
 
+/// The most characters of a string: its size in bytes then fits in 32 bits.
 constexpr UINT kLongest = 0x3FFFFFF0;
 
 Prefix* PrefixOf(BSTR string) { return reinterpret_cast<Prefix*>(string) - 1; }

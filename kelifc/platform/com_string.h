@@ -7,20 +7,21 @@
 #include <oleauto.h>
 #else
 
-// Automation strings: wide text that knows its length and ends with a null character behind it.
-// The text may hold null characters. A null BSTR stands for the empty text.
+// Automation strings: wide text with its length. A null character follows the text, and the text
+// itself may contain null characters. A null BSTR means the empty text.
 
-/// A new string with a copy of the text up to its null character; null for null, or if there is no
-/// memory. Give it back with SysFreeString.
+/// Copies the text up to its null character. Returns null if `text` is null or there is no memory.
+/// The caller frees the string with SysFreeString.
 KELIFC_API BSTR SysAllocString(const OLECHAR* text);
 
-/// A new string of `length` characters; with a null `text` they are not set.
+/// Creates a string of `length` characters. If `text` is null, the characters are not initialised.
+/// Returns null if there is no memory.
 KELIFC_API BSTR SysAllocStringLen(const OLECHAR* text, UINT length);
 
-/// Gives a string back; null does nothing.
+/// Frees a string. Null does nothing.
 KELIFC_API void SysFreeString(BSTR string);
 
-/// The number of characters; 0 for null.
+/// Returns the number of characters, 0 for null.
 KELIFC_API UINT SysStringLen(BSTR string);
 
 #endif

@@ -5,6 +5,8 @@
 #include <limits>
 #include <type_traits>
 
+#include "kelifc/platform/utf8.h"
+
 namespace KelIFC {
 
 std::string NarrowText(BSTR text) {
@@ -14,6 +16,8 @@ std::string NarrowText(BSTR text) {
   }
   return narrow;
 }
+
+std::string Utf8Text(std::wstring_view text) { return Utf8FromWide(text); }
 
 HRESULT GiveText(std::string_view text, BSTR* out) {
   if (out == nullptr) return E_POINTER;
@@ -49,55 +53,7 @@ std::wstring WidePath(std::string_view path) {
 
 namespace {
 
-constexpr std::uint32_t kByteSurrogate = 0xDC00;  // plus a byte from 0x80 on
-constexpr std::uint32_t kReplacement = 0xFFFD;
-
-bool IsSurrogate(std::uint32_t code) { return code >= 0xD800 && code <= 0xDFFF; }
-
-void AppendUtf8(std::string& out, std::uint32_t code) {
-  const auto tail = [&](int shift) { out += static_cast<char>(0x80 | ((code >> shift) & 0x3F)); };
-  if (code < 0x80) {
-    out += static_cast<char>(code);
-  } else if (code < 0x800) {
-    out += static_cast<char>(0xC0 | code >> 6);
-    tail(0);
-  } else if (code < 0x10000) {
-    out += static_cast<char>(0xE0 | code >> 12);
-    tail(6);
-    tail(0);
-  } else {
-    out += static_cast<char>(0xF0 | code >> 18);
-    tail(12);
-    tail(6);
-    tail(0);
-  }
-}
-
-/// How many bytes a lead byte asks for, 0 if it is none.
-std::size_t SequenceLength(unsigned char lead) {
-  if (lead < 0x80) return 1;
-  if (lead >= 0xC2 && lead <= 0xDF) return 2;
-  if (lead >= 0xE0 && lead <= 0xEF) return 3;
-  if (lead >= 0xF0 && lead <= 0xF4) return 4;
-  return 0;
-}
-
-/// Takes one character off the head of `text`, or gives false and leaves it where it is no UTF-8.
-bool TakeUtf8(std::string_view& text, std::uint32_t& code) {
-  const auto lead = static_cast<unsigned char>(text.front());
-  const std::size_t length = SequenceLength(lead);
-  if (length == 0 || length > text.size()) return false;
-  code = length == 1 ? lead : lead & (0x7FU >> length);
-  for (std::size_t i = 1; i < length; ++i) {
-    const auto byte = static_cast<unsigned char>(text[i]);
-    if ((byte & 0xC0) != 0x80) return false;
-    code = code << 6 | (byte & 0x3F);
-  }
-  const bool isLongerThanNeeded = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
-  if (isLongerThanNeeded || IsSurrogate(code) || code > 0x10FFFF) return false;
-  text.remove_prefix(length);
-  return true;
-}
+constexpr char32_t kByteSurrogate = 0xDC00;  // plus a byte from 0x80 on
 
 }  // namespace
 
@@ -105,11 +61,11 @@ std::string NarrowPath(std::wstring_view path) {
   std::string narrow;
   narrow.reserve(path.size());
   for (const wchar_t character : path) {
-    const std::uint32_t code = static_cast<std::make_unsigned_t<wchar_t>>(character);
+    const char32_t code = static_cast<std::make_unsigned_t<wchar_t>>(character);
     if (code >= kByteSurrogate + 0x80 && code <= kByteSurrogate + 0xFF) {
       narrow += static_cast<char>(code - kByteSurrogate);
     } else {
-      AppendUtf8(narrow, IsSurrogate(code) || code > 0x10FFFF ? kReplacement : code);
+      AppendUtf8(narrow, code);
     }
   }
   return narrow;
@@ -119,7 +75,7 @@ std::wstring WidePath(std::string_view path) {
   std::wstring wide;
   wide.reserve(path.size());
   while (!path.empty()) {
-    std::uint32_t code = 0;
+    char32_t code = 0;
     if (!TakeUtf8(path, code)) {
       code = kByteSurrogate + static_cast<unsigned char>(path.front());
       path.remove_prefix(1);

@@ -3,15 +3,17 @@
 
 #include "kelifc/platform/com_interfaces.h"
 
-// The type library of the object model, which lies in the library's own file. Windows only.
+// The type library of the object model. It is a resource of the library's own file. The functions
+// exist on Windows only.
 
 namespace KelIFC {
 
-/// The type library as the registry has it, counted: TYPE_E_LIBNOTREGISTERED where it does not.
+/// Stores a counted pointer to the type library that is registered. Returns TYPE_E_LIBNOTREGISTERED
+/// if there is none.
 HRESULT LoadTypeLibrary(ITypeLib** out);
 
-/// Enters the type library in the registry, and takes it out again; one that is not there is no
-/// failure. `file` is the library's own.
+/// Enters the type library of `file`, the library itself, in the registry, or removes it. Removing
+/// one that is not registered is not a failure.
 HRESULT RegisterTypeLibrary(const wchar_t* file);
 HRESULT UnregisterTypeLibrary();
 

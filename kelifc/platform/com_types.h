@@ -8,8 +8,9 @@
 
 #include "kelifc/platform/guid.h"
 
-// The names and sizes that the Component Object Model gives its basic types. Off Windows they are
-// declared here, as types, constants and functions, so that one text serves both.
+// The basic types of the Component Object Model. Off Windows they are declared here as types,
+// constants and functions with the same names and sizes, so that the same code compiles on all
+// systems.
 
 using BOOL = int;
 using WORD = std::uint16_t;
@@ -24,10 +25,10 @@ using DISPID = std::int32_t;
 using IID = GUID;
 using CLSID = GUID;
 
-/// One character of text that crosses an interface.
+/// A character of text at an interface.
 using OLECHAR = wchar_t;
 
-/// What an operation answers: 0 or above is success, below 0 a failure.
+/// The status that an operation returns. A negative value is a failure.
 using HRESULT = std::int32_t;
 using SCODE = HRESULT;
 
@@ -53,12 +54,12 @@ inline constexpr HRESULT E_INVALIDARG = static_cast<HRESULT>(0x80070057U);
 constexpr bool SUCCEEDED(HRESULT status) { return status >= 0; }
 constexpr bool FAILED(HRESULT status) { return status < 0; }
 
-/// A truth value that crosses an interface: -1 for true, 0 for false.
+/// A truth value at an interface: -1 is true, 0 is false.
 using VARIANT_BOOL = std::int16_t;
 inline constexpr VARIANT_BOOL VARIANT_TRUE = -1;
 inline constexpr VARIANT_BOOL VARIANT_FALSE = 0;
 
-/// Where an object may live, as bits. Off Windows only objects in the process exist.
+/// Where an object may live, as bits. Off Windows objects live in the process only.
 enum CLSCTX : DWORD {
   CLSCTX_INPROC_SERVER = 1,
   CLSCTX_INPROC_HANDLER = 2,

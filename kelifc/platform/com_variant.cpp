@@ -9,10 +9,10 @@
 
 namespace {
 
-/// How many digits of a real number its text shows.
+/// The number of significant digits in the text of a real number.
 constexpr int kRealDigits = 15;
 
-/// Longer text is no number.
+/// The most characters of text that is read as a number.
 constexpr UINT kLongestNumber = 400;
 
 /// Room for a sign, the digits, a point and an exponent.
@@ -35,7 +35,7 @@ HRESULT NumberOfText(BSTR string, double* out) {
   std::string_view text = TrimBlanks({buffer, length});
   const bool isNegative = text.starts_with('-');
   if (isNegative || text.starts_with('+')) text.remove_prefix(1);
-  // Neither "inf" nor "nan" is a number here, nor is one with two signs.
+  // Neither "inf" nor "nan" nor a second sign is allowed.
   if (text.find_first_of(".0123456789") != 0) return DISP_E_TYPEMISMATCH;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), *out);
   if (isNegative) *out = -*out;
@@ -67,7 +67,8 @@ HRESULT NumberOf(const VARIANT& variant, double* out) {
   }
 }
 
-/// The nearest whole number, the even one of two, within the range of the type.
+/// Rounds to the nearest integer, a half to the even one. Returns DISP_E_OVERFLOW if the type
+/// cannot hold it.
 template <class Whole>
 HRESULT Round(double number, Whole* out) {
   using Limits = std::numeric_limits<Whole>;
@@ -121,7 +122,8 @@ HRESULT Turn(const VARIANT& source, VARTYPE type, VARIANT* out) {
   }
 }
 
-/// A second hold on what a variant holds.
+/// Makes a bitwise copy of a variant an owner of its own: copies the string or counts the
+/// reference.
 HRESULT Share(VARIANT* copy) {
   switch (copy->vt) {
     case VT_BSTR:

@@ -9,7 +9,7 @@
 
 using VARTYPE = std::uint16_t;
 
-/// What a variant holds.
+/// The type of the value in a variant.
 enum VARENUM : VARTYPE {
   VT_EMPTY = 0,
   VT_NULL = 1,
@@ -23,14 +23,14 @@ enum VARENUM : VARTYPE {
   VT_UNKNOWN = 13,  ///< punkVal, counted
 };
 
-/// A value that tells its own type. It owns what it holds; VariantClear ends it.
+/// A value with its type. It owns a string and a reference; VariantClear releases them.
 struct VARIANT {
   VARTYPE vt;
   WORD wReserved1;
   WORD wReserved2;
   WORD wReserved3;
   union {
-    std::int64_t llVal;  ///< the widest member stands first, so that `= {}` clears all of them
+    std::int64_t llVal;  ///< the widest member comes first, so that `= {}` clears all of them
     SHORT iVal;
     LONG lVal;
     double dblVal;
@@ -42,22 +42,26 @@ struct VARIANT {
   };
 };
 
-/// Makes fresh memory an empty variant. Null does nothing.
+/// Makes an empty variant of memory that was not initialised. Null does nothing.
 KELIFC_API void VariantInit(VARIANT* variant);
 
-/// Gives back what a variant holds and leaves it empty. A type that is not listed above gives
-/// DISP_E_BADVARTYPE and leaves the variant as it is; null gives E_INVALIDARG.
+/// Releases the value and leaves the variant empty. Returns DISP_E_BADVARTYPE and changes nothing
+/// if the type is not listed above. Returns E_INVALIDARG for null.
 KELIFC_API HRESULT VariantClear(VARIANT* variant);
 
-/// Clears `target` and makes it a copy with its own string or count. On failure `target` is left
-/// as it was or empty.
+/// Clears `target` and copies `source` into it; the copy has a string or a reference of its own. On
+/// failure `target` is unchanged or empty. Returns E_INVALIDARG if an argument is null.
 KELIFC_API HRESULT VariantCopy(VARIANT* target, const VARIANT* source);
 
-/// Clears `target` and makes it `source` turned into another type; both may be the same. Between
-/// numbers, truth values and text: a number is rounded to the nearest whole one, the even one of
-/// two, and DISP_E_OVERFLOW tells that it does not fit; text must be one decimal number, blanks
-/// around it aside. What cannot be turned gives DISP_E_TYPEMISMATCH. On failure `target` is left
-/// as it was. `flags` is not used.
+/// Clears `target` and stores the value of `source` in it, converted to another type. Both may be
+/// the same variant. Numbers, truth values and text can be converted to each other:
+///
+///  - A number is rounded to the nearest integer, a half to the even one. The result is
+///    DISP_E_OVERFLOW if it is out of range.
+///  - Text must contain one decimal number; blanks around it are allowed.
+///
+/// All other conversions return DISP_E_TYPEMISMATCH. On failure `target` is unchanged. `flags` is
+/// ignored. Returns E_INVALIDARG if an argument is null.
 KELIFC_API HRESULT VariantChangeType(VARIANT* target, const VARIANT* source, USHORT flags,
                                      VARTYPE type);
 

@@ -1,7 +1,7 @@
 #ifndef KELIFC_PLATFORM_EXPORT_H_
 #define KELIFC_PLATFORM_EXPORT_H_
 
-/// Marks what the shared library shows to a host; everything else stays inside.
+/// Marks a class or a function that the shared library exports. All others are hidden from hosts.
 #if defined(_WIN32)
 #if defined(KELIFC_BUILDING)
 #define KELIFC_API __declspec(dllexport)
@@ -12,8 +12,9 @@
 #define KELIFC_API __attribute__((visibility("default")))
 #endif
 
-/// Marks an interface, of which the library shows nothing but its form: where a mark is about code,
-/// hosts need none of it.
+/// Marks an interface of the object model. Off Windows it makes the type information of C++ the
+/// same in the library and in its hosts. On Windows an interface needs no mark, since it has no
+/// code.
 #if defined(_WIN32)
 #define KELIFC_INTERFACE
 #else

@@ -7,7 +7,7 @@
 #ifdef _WIN32
 #include <guiddef.h>
 #else
-/// A 128-bit identifier. The three numeric fields hold host byte order.
+/// A 128-bit identifier. The three numeric fields are in the byte order of the machine.
 struct _GUID {
   std::uint32_t Data1;
   std::uint16_t Data2;
@@ -24,7 +24,7 @@ inline bool operator!=(const _GUID& a, const _GUID& b) { return !(a == b); }
 
 namespace KelIFC {
 
-/// True if all 16 bytes are 0: the mark for "no identifier".
+/// Returns true if all 16 bytes are 0. The null identifier means "no identifier".
 inline bool IsNullGuid(const _GUID& guid) {
   const _GUID null = {};
   return std::memcmp(&guid, &null, sizeof guid) == 0;

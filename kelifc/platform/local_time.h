@@ -3,8 +3,8 @@
 
 namespace KelIFC {
 
-/// A moment broken down in the time zone of the machine, each field as people write it:
-/// the year in full, month and day from 1, the hour from 0 to 23.
+/// A time in the time zone of the machine. The year has four digits, month and day count from 1,
+/// and the hour is from 0 to 23.
 struct LocalTime {
   int year = 0;
   int month = 0;
@@ -14,7 +14,7 @@ struct LocalTime {
   int second = 0;  ///< 60 in a leap second
 };
 
-/// The current local time; 1970-01-01T00:00:00 where the machine cannot tell it.
+/// Returns the current local time, or 1970-01-01T00:00:00 if the system does not know it.
 LocalTime GetLocalTimeNow();
 
 }  // namespace KelIFC

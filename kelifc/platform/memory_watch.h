@@ -3,7 +3,7 @@
 
 namespace KelIFC {
 
-/// True where AddressSanitizer watches each block of memory that comes from the heap.
+/// True in a build with AddressSanitizer, which checks each block from the heap.
 #if defined(__SANITIZE_ADDRESS__)
 inline constexpr bool kIsMemoryWatched = true;
 #elif defined(__has_feature)

@@ -16,7 +16,7 @@ namespace KelIFC {
 
 _GUID NewGuid() {
   _GUID guid = {};
-  // Cannot fail in practice: it asks neither the network card nor a service.
+  // CoCreateGuid does not fail in practice: it uses neither the network card nor a service.
   static_cast<void>(CoCreateGuid(&guid));
   return guid;
 }
@@ -25,8 +25,7 @@ _GUID NewGuid() {
 
 namespace {
 
-// The system's own source is asked first: it answers within a microsecond, where the source of the
-// standard library may take a hundred.
+// getentropy answers within a microsecond; std::random_device may take a hundred.
 void FillRandom(_GUID& guid) {
   if (getentropy(&guid, sizeof guid) == 0) return;
   std::random_device device;

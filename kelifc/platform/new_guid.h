@@ -5,8 +5,8 @@
 
 namespace KelIFC {
 
-/// A new random identifier, marked as version 4 of RFC 4122, so it is never the null one.
-/// Two calls never give the same identifier in practice, also not in two processes.
+/// Returns a new random identifier of version 4 (RFC 4122). It is never the null identifier. In
+/// practice no two calls return the same one, not even in different processes.
 _GUID NewGuid();
 
 }  // namespace KelIFC

@@ -7,26 +7,27 @@
 
 namespace KelIFC {
 
-// Paths are narrow text: UTF-8, or whatever bytes the file system holds, off Windows; text in the
-// system's ANSI code page on Windows.
+// Functions on paths. A path is narrow text: on Windows in the system's ANSI code page, elsewhere
+// the bytes of the file system, usually UTF-8.
 
-/// The last component of a path: what stands behind its last separator, the whole of a path
-/// without one, "" behind a trailing one. Both `/` and `\` separate, since models travel between
-/// systems and their paths with them.
+/// Returns the text after the last separator: the whole path if there is no separator, "" if the
+/// path ends with one. Both `/` and `\` are separators on all systems, since models and the paths
+/// in them move between systems.
 std::string_view GetFileName(std::string_view path);
 
-/// True if something is at the path, a device or a pipe too.
+/// Returns true if the path exists. It can be a file, a folder, a device or a pipe.
 bool FileExists(const char* path);
 
-/// True if the path leads to an ordinary file, links followed. A model is read twice, which rules
-/// out pipes and devices.
+/// Returns true if the path leads to a regular file. Symbolic links are followed. A load reads its
+/// file twice, which a pipe or a device does not allow.
 bool IsRegularFile(const char* path);
 
-/// The size of a file in bytes, 0 if it cannot be told.
+/// Returns the size of a file in bytes, 0 if it is unknown.
 std::uint64_t GetFileSize(const char* path);
 
-/// The platform's words for the last failed call to the system on this thread, such as
-/// "Permission denied"; an empty text if none failed. Call it before anything else.
+/// Returns the system's description of the last failure on this thread, such as "Permission
+/// denied", or "" if there was none. Another call of the system can replace it, so call this
+/// function first.
 std::string GetLastSystemError();
 
 }  // namespace KelIFC

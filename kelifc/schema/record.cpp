@@ -32,12 +32,12 @@ void GlobalId85::Write(std::ostream& out) const {
 
 void EnumeratedText::Write(std::ostream& out) const {
   if (!value.GetExists()) {
-    PutChar(out, '$');
+    detail::PutChar(out, '$');
     return;
   }
-  PutChar(out, '.');
-  PutText(out, value);
-  PutChar(out, '.');
+  detail::PutChar(out, '.');
+  detail::PutText(out, value);
+  detail::PutChar(out, '.');
 }
 
 void Scientific::Write(std::ostream& out) const {
@@ -48,7 +48,7 @@ void Scientific::Write(std::ostream& out) const {
   for (char* c = text; c != end.ptr; ++c) {
     if (*c >= 'a' && *c <= 'z') *c = static_cast<char>(*c - 'a' + 'A');
   }
-  PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
+  detail::PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
 }
 
 }  // namespace KelIFC

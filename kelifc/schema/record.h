@@ -6,14 +6,14 @@
 #include <string>
 #include <string_view>
 
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/enum.h"
 #include "kelifc/core/enum_text.h"
+#include "kelifc/core/lists/value_lists.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/real.h"
 #include "kelifc/core/string.h"
-#include "kelifc/core/text_out.h"
 #include "kelifc/core/unknown.h"
-#include "kelifc/core/value_lists.h"
 #include "kelifc/core/value_member.h"
 
 // How the record of an entity is read and written: as a row of parts. A part is an attribute, or
@@ -31,7 +31,7 @@ const char* ParseRecord(const char* cursor, Parts&&... parts) {
 /// Writes a comma and a part for each part: a class whose base has written attributes.
 template <class... Parts>
 std::ostream& WriteNext(std::ostream& out, const Parts&... parts) {
-  ((PutChar(out, ','), parts.Write(out)), ...);
+  ((detail::PutChar(out, ','), parts.Write(out)), ...);
   return out;
 }
 
@@ -55,7 +55,7 @@ struct Dropped {
 /// A position that is written as a fixed text.
 struct Literal {
   explicit constexpr Literal(std::string_view text) : text(text) {}
-  void Write(std::ostream& out) const { PutText(out, text); }
+  void Write(std::ostream& out) const { detail::PutText(out, text); }
   std::string_view text;
 };
 
@@ -152,7 +152,7 @@ template <class Value, class Type>
 std::ostream& WriteNamedValue(const Type& type, std::ostream& out) {
   type.IfcUnknown::Write(out);
   type.Value::Write(out);
-  PutChar(out, ')');
+  detail::PutChar(out, ')');
   return out;
 }
 

@@ -5,11 +5,11 @@
 #include <new>
 #include <type_traits>
 
-#include "kelifc/core/cast_cache.h"
 #include "kelifc/core/list_of_members.h"
 #include "kelifc/core/member.h"
-#include "kelifc/core/model.h"
-#include "kelifc/core/resolve.h"
+#include "kelifc/core/references/cast_cache.h"
+#include "kelifc/core/references/model.h"
+#include "kelifc/core/references/resolve.h"
 #include "kelifc/core/set_of_members.h"
 #include "kelifc/core/unknown.h"
 
@@ -51,6 +51,23 @@ template <class Type, class Members>
 void AddMember(Members& members, const Type* item, const IfcUnknown& owner) {
   const std::size_t number = FindNumber(owner.GetServer(), UnknownOf(item));
   if (number != 0) members.Add(MEMBER(number));
+}
+
+/// Adds an instance that a host passes to an operation of `owner`. MEMBER::Embed decides who owns
+/// the instance afterwards. Nothing is added for null, and for an instance that `members` own
+/// already. A set holds one inline value only: a second one is destroyed, or given back to the
+/// model that holds it.
+template <class Members>
+void EmbedMember(Members& members, IfcUnknown* item, IfcUnknown& owner) {
+  if (item == nullptr) return;
+  for (std::size_t i = 1; i <= members.GetSize(); ++i) {
+    if (members.GetItem(i).GetInlineValue() == item) return;
+  }
+  MEMBER member;
+  member.Embed(item, owner);
+  // A number needs no owner, and the aggregate can outlive this one as part of a copy.
+  const auto number = static_cast<std::size_t>(member);
+  members.Add(number == 0 ? member : MEMBER(number));
 }
 
 /// Replaces the members by references to `items`, leaving out what the model does not hold.

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <typeinfo>
 
-#include "kelifc/core/cast_cache.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/schema/ifc151.h"
 #include "kelifc/schema/ifc20.h"
 #include "kelifc/schema/ifc2x.h"

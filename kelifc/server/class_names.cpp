@@ -4,7 +4,7 @@
 
 #include "kelifc/core/bounding_box.h"
 #include "kelifc/core/cartesian_point.h"
-#include "kelifc/core/cursor.h"
+#include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/length_measure.h"
 #include "kelifc/core/other.h"
 #include "kelifc/core/parameter_value.h"
@@ -48,7 +48,7 @@ IfcUnknown* MakeOther(const char* name) {
 std::size_t GetNameLength(const char* start) {
   const char* end = std::strchr(start, '(');
   if (end == nullptr || end == start) return std::strlen(start);
-  while (IsBlank(end[-1])) --end;
+  while (detail::IsBlank(end[-1])) --end;
   return static_cast<std::size_t>(end - start);
 }
 
@@ -59,7 +59,7 @@ constexpr std::size_t kUsualNameLength = 64;
 
 IfcUnknown* IfcServer::ParseClass(const char* text, const char** end) {
   if (text == nullptr) return nullptr;
-  const char* start = SkipBlanks(text);
+  const char* start = detail::SkipBlanks(text);
   const std::size_t length = GetNameLength(start);
   if (end != nullptr) *end = start + length;
   if (length >= kUsualNameLength) return MakeByRelease(std::string(start, length).c_str());
@@ -67,6 +67,11 @@ IfcUnknown* IfcServer::ParseClass(const char* text, const char** end) {
   std::memcpy(name, start, length);
   name[length] = '\0';
   return MakeByRelease(name);
+}
+
+IfcUnknown* IfcServer::MakeRaw(const char* text) {
+  const char* start = detail::SkipBlanks(text);
+  return MakeOther(std::string(start, GetNameLength(start)).c_str());
 }
 
 IfcUnknown* IfcServer::MakeByRelease(const char* name) {

@@ -6,8 +6,8 @@
 #include <utility>
 
 #include "kelifc/core/step_file_schema.h"
+#include "kelifc/core/text/write_tolerance.h"
 #include "kelifc/core/unknown.h"
-#include "kelifc/core/write_tolerance.h"
 #include "kelifc/server/release_tables.h"
 
 // The registry: what it holds, and how it is asked. Loading, saving and the making of instances by
@@ -66,6 +66,7 @@ void IfcServer::Reset() {
   productPositions = {};
   slotsWithoutGuid = 0;
   mayRepeat = false;
+  dialect = STEP_DIALECT_CLASSIC;
 }
 
 // Leaves an instance that was registered twice in its first slot only. Takes no memory: that an
@@ -133,7 +134,7 @@ void IfcServer::FillSlot(std::size_t id, IfcUnknown* item) {
   if (item != nullptr && IsProduct(item)) productPositions.push_back(position);
   if (instanceIndex.IsBuilt()) {
     const std::uint32_t earlier = idToIndex.Find(id);
-    if (earlier != NumberIndex::kNone) instanceIndex.DropNumber(earlier);
+    if (earlier != detail::NumberIndex::kNone) instanceIndex.DropNumber(earlier);
     instanceIndex.Append(items.data(), id);
   }
   idToIndex.Set(id, position);
@@ -148,13 +149,13 @@ std::size_t IfcServer::Find(const IfcUnknown* item) const {
   if (item != nullptr && item == load.parsed && !mayRepeat) return load.parsedNumber;
   BuildInstanceIndex();
   const std::uint32_t position = instanceIndex.FindPosition(items.data(), item);
-  return position == InstanceIndex::kNone ? 0 : instanceIndex.GetNumber(position);
+  return position == detail::InstanceIndex::kNone ? 0 : instanceIndex.GetNumber(position);
 }
 
 std::size_t IfcServer::DeleteItem(const IfcUnknown* item) {
   BuildInstanceIndex();
   const std::uint32_t first = instanceIndex.FindPosition(items.data(), item);
-  if (first == InstanceIndex::kNone) return 0;
+  if (first == detail::InstanceIndex::kNone) return 0;
   const std::size_t number = instanceIndex.GetNumber(first);
   IfcUnknown* const doomed = items[first];
   if (doomed == load.parsed) load.parsed = nullptr;
@@ -169,7 +170,7 @@ std::size_t IfcServer::DeleteItem(const IfcUnknown* item) {
 
 IfcUnknown* IfcServer::GetItem(std::size_t id) {
   const std::uint32_t position = idToIndex.Find(id);
-  return position == NumberIndex::kNone ? nullptr : items[position];
+  return position == detail::NumberIndex::kNone ? nullptr : items[position];
 }
 
 // Hosts know this overload as one that finds nothing; what needs an instance asks the other.

@@ -8,35 +8,28 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <unordered_map>
 #include <vector>
 
 #include "kelifc/core/mvector.h"
 #include "kelifc/platform/export.h"
 #include "kelifc/platform/guid.h"
-#include "kelifc/server/instance_index.h"
-#include "kelifc/server/number_index.h"
+#include "kelifc/server/detail/instance_index.h"
+#include "kelifc/server/detail/number_index.h"
+#include "kelifc/server/detail/project_classes.h"
+#include "kelifc/server/load_findings.h"
+#include "kelifc/server/load_options.h"
+#include "kelifc/server/load_result.h"
 #include "kelifc/server/release.h"
-
-namespace KelIFC151 {
-class IfcProject;
-}
-namespace KelIFC20 {
-class IfcProject;
-}
-namespace KelIFC2x {
-class IfcProject;
-}
-namespace KelIFC2x2 {
-class IfcProject;
-}
-namespace KelIFC2x3 {
-class IfcProject;
-}
 
 namespace KelIFC {
 
 class IfcServer;
 class IfcUnknown;
+class IsoStatementReader;
+class LoadArena;
+class ModelSource;
+class ScanBuffer;
 class StepFileSchema;
 
 /// The order of global identifiers: by the three numbers, then byte by byte.
@@ -76,7 +69,8 @@ class KELIFC_API IfcServer {
   virtual void SetRelease(IFC_RELEASE release);
 
   /// Destroys all instances, in reverse order of registration, and forgets all numbers and
-  /// identifiers. The release, the tolerance and the switches stay.
+  /// identifiers. The dialect is the classic one from then on. The release, the tolerance and the
+  /// switches stay.
   virtual void Reset();
 
   /// Registers an instance under the number that a file gives it and takes it over. A number that
@@ -101,11 +95,10 @@ class KELIFC_API IfcServer {
   virtual std::size_t DeleteItem(const IfcUnknown* item);
 
   /// Replaces the model by that of a STEP file, which must be an ordinary file: it is read twice.
-  /// Gives 0 if it was loaded; 1 if it cannot be opened, or if the progress handler stopped the
-  /// load, which leaves the model empty; 2 if it is no STEP file; 3 if its schema is unknown and no
-  /// release was set. What inside a file cannot be understood is left out without a report. An
-  /// instance that there is no memory for is left out, too; where memory is lacking otherwise the
-  /// model is empty and std::bad_alloc is thrown.
+  /// Returns a LOAD_RESULT. A load that the progress handler stops leaves the model empty. What
+  /// inside a file cannot be understood is left out without a report. An instance that there is no
+  /// memory for is left out, too; where memory is lacking otherwise the model is empty and
+  /// std::bad_alloc is thrown.
   virtual int LoadIfcFile(const char* path);
 
   /// Writes all numbered instances to a STEP file, by rising number. Gives 0 if the file was
@@ -189,6 +182,35 @@ class KELIFC_API IfcServer {
   /// that load did not come so far.
   const std::string& GetFileSchema() const { return fileSchema; }
 
+  /// Replaces the model by that of a STEP file, as LoadIfcFile does it, by rules that the host
+  /// chooses. What differs:
+  ///  - Only the file decides about the release; one that was set before has no effect.
+  ///  - A limit that is reached returns 4, and a load that the progress handler stopped returns 5.
+  ///    Both leave the model empty.
+  ///  - A schema that belongs to a later release, such as IFC4X3, returns 6. GetFileSchema names
+  ///  it.
+  ///  - GetLoadFindings tells what is wrong in the file.
+  /// In the dialect of ISO 10303-21 texts are UTF-8, the first name in the header that is known, in
+  /// any case, is the schema, and of statements with the same number only the last one is read.
+  int LoadIfc(const char* path, const LoadOptions& options);
+
+  /// The same for what is left of a stream. It is copied to a temporary file first, because a model
+  /// is read twice; progress is reported from then on.
+  int LoadIfcStream(std::istream& in, const LoadOptions& options);
+
+  /// The same for `size` bytes of memory, which are not copied. They must not change during the
+  /// load, and are not needed after it.
+  int LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options);
+
+  /// The dialect that the model was loaded in, and in which it is saved. STEP_DIALECT_CLASSIC after
+  /// Reset and after a load that failed. In the dialect of ISO 10303-21 the texts of attributes are
+  /// UTF-8.
+  STEP_DIALECT GetDialect() const { return dialect; }
+
+  /// What LoadIfc, LoadIfcStream or LoadIfcMemory found wrong in the file that was loaded last.
+  /// LoadIfcFile leaves it empty.
+  const LoadFindings& GetLoadFindings() const { return findings; }
+
   /// How many numbers are in use, those of empty slots included.
   std::size_t GetNumberCount() const { return idToIndex.GetCount(); }
 
@@ -211,13 +233,28 @@ class KELIFC_API IfcServer {
 
  private:
   friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
+  template <class AnyScanner>
+  friend void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass);
   friend std::int16_t RegisterStatement(IfcServer* server, char* statement);
   friend std::int16_t ParseStatement(IfcServer* server, char* statement);
 
   // What a load knows about its file while it runs; all zero outside a load.
   struct LoadState {
+    STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
+    LoadLimits limits = {0, 0, 0, 0};
+    LoadFindings* findings = nullptr;  // null if nothing is noted
+    bool keepsUnknown = false;         // as IfcOther, where the release has no class
+
     bool isRunning = false;
-    bool isStopped = false;              // by the progress handler
+    bool isStopped = false;                // by the progress handler
+    bool isBeyondLimit = false;            // one of the limits was reached
+    bool isLaterSchema = false;            // the schema belongs to a later release
+    const ScanBuffer* scanner = nullptr;   // of the pass that runs
+    IsoStatementReader* reader = nullptr;  // null in the classic dialect
+    const LoadArena* memory = nullptr;     // of the model; null where blocks stand alone
+    std::uint64_t statementBytes = 0;      // of the statements that were read
+    // By number, how many statements follow that have the same one. Only the last one is read.
+    std::unordered_map<std::size_t, std::size_t> repeats;
     const IfcUnknown* parsed = nullptr;  // the instance whose statement is being read,
     std::size_t parsedNumber = 0;        // and its number
     bool isUnordered = false;            // the last number was far from the one ahead of it
@@ -237,11 +274,23 @@ class KELIFC_API IfcServer {
   void BuildGuidIndex();
   void DropRepeatedSlots();
 
-  int LoadPasses(const char* path);
+  int LoadWithOptions(const ModelSource& source, const LoadOptions& options);
+  int LoadFrom(const ModelSource& source, const LoadState& initial);
+  int LoadPasses(const ModelSource& source);
+  void ForgetLoad();
   void MakeRoom(std::uint64_t fileSize);
+  bool GoesOn();
   bool ReportProgress(std::uint64_t bytesRead);
+  bool IsWithinMemory() const;
   std::int16_t ReadHeaderStatement(char* statement);
+  IFC_RELEASE ReadSchema(const char* statement);
+  IFC_RELEASE ReadIsoSchema(const char* statement);
   std::int16_t RegisterInstance(char* statement);
+  bool IsIso() const { return load.reader != nullptr; }
+  IfcUnknown* MakeStated(const char* text);
+  IfcUnknown* MakeRaw(const char* text);
+  void NoteRepeat(std::size_t id);
+  bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
 
@@ -250,7 +299,7 @@ class KELIFC_API IfcServer {
   int TellError(const std::string& message) const;  // gives the code of a failed save
 
   Mvector<IfcUnknown*> items;  // owned; null where deleted
-  NumberIndex idToIndex;
+  detail::NumberIndex idToIndex;
   IFC_RELEASE release = IFC_RELEASE_NONE;
   double eps = 0.001;
   bool supportsFillings = false;
@@ -261,10 +310,12 @@ class KELIFC_API IfcServer {
   using GuidIndex = std::map<_GUID, std::uint32_t, GuidLess>;
   GuidIndex guidIndex;
 
-  mutable InstanceIndex instanceIndex;
+  mutable detail::InstanceIndex instanceIndex;
   bool mayRepeat = false;            // an instance may stand in two slots
   std::size_t slotsWithoutGuid = 0;  // so many slots were seen to hold no global identifier
   std::string fileSchema;
+  STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
+  LoadFindings findings;
   LoadState load;
   ProgressHandler progressHandler;
   ErrorHandler errorHandler;

@@ -1,70 +1,127 @@
 #include <algorithm>
 #include <cstdint>
-#include <fstream>
 #include <optional>
 
-#include "kelifc/core/load_arena.h"
+#include "kelifc/core/memory/load_arena.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/platform/memory_watch.h"
 #include "kelifc/platform/path.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/model_source.h"
+#include "kelifc/server/scan_buffer.h"
 #include "kelifc/server/statements.h"
 
 namespace KelIFC {
 namespace {
-
-// What LoadIfcFile gives.
-constexpr int kLoaded = 0;
-constexpr int kCannotOpen = 1;
-constexpr int kNoStepFile = 2;
-constexpr int kUnknownSchema = 3;
 
 // Models have a statement per 50 to 60 bytes, and room for the registry is made accordingly. What
 // is not used of it is address space, not memory. A file may claim any size, hence the bound.
 constexpr std::uint64_t kBytesPerStatement = 40;
 constexpr std::uint64_t kMostExpected = std::uint64_t{1} << 24;
 
+// Of the registry, for each instance.
+constexpr std::uint64_t kBytesPerSlot = 12;
+
+// A limit of 0 is none.
+constexpr bool Exceeds(std::uint64_t value, std::uint64_t limit) {
+  return limit != 0 && value > limit;
+}
+
 }  // namespace
 
 int IfcServer::LoadIfcFile(const char* path) {
+  ForgetLoad();
+  if (path == nullptr || !IsRegularFile(path)) return LOAD_RESULT_CANNOT_OPEN;
+  const int result = LoadFrom(FileSource(path), LoadState());
+  return result == LOAD_RESULT_CANCELLED ? LOAD_RESULT_CANNOT_OPEN : result;
+}
+
+int IfcServer::LoadIfc(const char* path, const LoadOptions& options) {
+  ForgetLoad();
+  if (path == nullptr || !IsRegularFile(path)) return LOAD_RESULT_CANNOT_OPEN;
+  return LoadWithOptions(FileSource(path), options);
+}
+
+int IfcServer::LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options) {
+  ForgetLoad();
+  return LoadWithOptions(MemorySource(data, data == nullptr ? 0 : size), options);
+}
+
+int IfcServer::LoadIfcStream(std::istream& in, const LoadOptions& options) {
+  ForgetLoad();
+  const std::uint64_t most = options.limits.maxBytes;
+  const SpooledSource source(in, most == 0 ? UINT64_MAX : most);
+  switch (source.GetState()) {
+    case SpooledSource::State::kTooLong:
+      return LOAD_RESULT_LIMIT_REACHED;
+    case SpooledSource::State::kFailed:
+      return LOAD_RESULT_CANNOT_OPEN;
+    case SpooledSource::State::kWhole:
+      break;
+  }
+  return LoadWithOptions(source, options);
+}
+
+void IfcServer::ForgetLoad() {
   Reset();
   fileSchema.clear();
-  if (path == nullptr || !IsRegularFile(path)) return kCannotOpen;
+  findings = LoadFindings();
+  dialect = STEP_DIALECT_CLASSIC;
+}
+
+int IfcServer::LoadWithOptions(const ModelSource& source, const LoadOptions& options) {
+  SetRelease(IFC_RELEASE_NONE);
+  if (Exceeds(source.GetSize(), options.limits.maxBytes)) return LOAD_RESULT_LIMIT_REACHED;
+  LoadState initial;
+  initial.dialect = options.dialect;
+  initial.limits = options.limits;
+  initial.findings = &findings;
+  initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
+  const int result = LoadFrom(source, initial);
+  if (result == LOAD_RESULT_LOADED) dialect = options.dialect;
+  return result;
+}
+
+int IfcServer::LoadFrom(const ModelSource& source, const LoadState& initial) {
   struct LoadEnd {  // also where memory runs out in the middle
     LoadState& load;
     ~LoadEnd() { load = LoadState(); }
   } const end{load};
+  load = initial;
   load.isRunning = true;
   try {
-    const int result = LoadPasses(path);
-    if (!load.isStopped) return result;
+    const int result = LoadPasses(source);
+    if (!load.isStopped && !load.isBeyondLimit) return result;
   } catch (...) {
     Reset();
     throw;
   }
   Reset();
-  return kCannotOpen;
+  return load.isStopped ? LOAD_RESULT_CANCELLED : LOAD_RESULT_LIMIT_REACHED;
 }
 
-int IfcServer::LoadPasses(const char* path) {
-  MakeRoom(GetFileSize(path));
+int IfcServer::LoadPasses(const ModelSource& source) {
+  MakeRoom(source.GetSize());
   // Where memory is watched each block stands alone, so that none can be touched unseen.
   std::optional<LoadArena> memory;
-  if (!kIsMemoryWatched) memory.emplace();
-  std::ifstream file(path, std::ios::binary);
-  if (!file) return kCannotOpen;
+  if (!kIsMemoryWatched) load.memory = &memory.emplace();
+  std::unique_ptr<std::istream> in = source.Open();
+  if (!in) return LOAD_RESULT_CANNOT_OPEN;
   schemaRecord.reset();
   headerSeen = false;
-  ScanFile(file, this, true);
-  if (!headerSeen) return kNoStepFile;
-  if (GetRelease() == IFC_RELEASE_NONE) return kUnknownSchema;
-  if (load.isStopped) return kCannotOpen;
+  ScanFile(*in, this, true);
+  if (load.isStopped || load.isBeyondLimit) return LOAD_RESULT_CANNOT_OPEN;
+  if (!headerSeen) return LOAD_RESULT_NO_STEP_FILE;
+  if (GetRelease() == IFC_RELEASE_NONE) {
+    return load.isLaterSchema && load.findings != nullptr ? LOAD_RESULT_UNSUPPORTED_RELEASE
+                                                          : LOAD_RESULT_UNKNOWN_SCHEMA;
+  }
   load.bytesBefore = load.bytesTotal / 2;
   load.bytesReported = 0;
-  std::ifstream again(path, std::ios::binary);
-  if (!again) return kCannotOpen;
-  ScanFile(again, this, false);
-  return kLoaded;
+  in = source.Open();
+  if (!in) return LOAD_RESULT_CANNOT_OPEN;
+  ScanFile(*in, this, false);
+  return LOAD_RESULT_LOADED;
 }
 
 void IfcServer::MakeRoom(std::uint64_t fileSize) {
@@ -75,14 +132,29 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   idToIndex.Reserve(expected);
 }
 
-// Called for each statement, passes on what is news: once per block that was read.
+// Called after each statement, looks at most things only once per block that was read.
+bool IfcServer::GoesOn() {
+  const ScanBuffer& scanner = *load.scanner;
+  load.isBeyondLimit = Exceeds(items.size(), load.limits.maxInstances);
+  if (load.isBeyondLimit) return false;
+  if (scanner.GetBytesRead() == load.bytesReported || !load.isRunning) return true;
+  load.bytesReported = scanner.GetBytesRead();
+  load.isBeyondLimit = !IsWithinMemory();
+  return !load.isBeyondLimit && ReportProgress(load.bytesReported);
+}
+
 bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
-  if (bytesRead == load.bytesReported || !load.isRunning) return true;
-  load.bytesReported = bytesRead;
   if (!progressHandler) return true;
   const std::uint64_t done = std::min(load.bytesBefore + bytesRead, load.bytesTotal);
   load.isStopped = !progressHandler(done, load.bytesTotal);
   return !load.isStopped;
+}
+
+// Texts stand outside the blocks of instances; the statements that they were read from are longer.
+bool IfcServer::IsWithinMemory() const {
+  const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
+  const std::uint64_t taken = blocks + load.statementBytes + kBytesPerSlot * items.size();
+  return !Exceeds(taken, load.limits.maxMemoryBytes);
 }
 
 }  // namespace KelIFC

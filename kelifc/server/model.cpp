@@ -1,4 +1,4 @@
-#include "kelifc/core/model.h"
+#include "kelifc/core/references/model.h"
 
 #include "kelifc/server/ifc_server.h"
 

@@ -2,22 +2,7 @@
 #define KELIFC_SERVER_RELEASE_TABLES_H_
 
 #include "kelifc/platform/guid.h"
-
-namespace KelIFC151 {
-class IfcProject;
-}
-namespace KelIFC20 {
-class IfcProject;
-}
-namespace KelIFC2x {
-class IfcProject;
-}
-namespace KelIFC2x2 {
-class IfcProject;
-}
-namespace KelIFC2x3 {
-class IfcProject;
-}
+#include "kelifc/server/detail/project_classes.h"
 
 namespace KelIFC {
 

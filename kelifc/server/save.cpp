@@ -5,14 +5,17 @@
 #include <string>
 #include <string_view>
 
-#include "kelifc/core/prefetch.h"
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/prefetch.h"
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/local_time.h"
 #include "kelifc/platform/path.h"
 #include "kelifc/server/file_output.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/iso_statement.h"
+#include "kelifc/server/reported_version.h"
 #include "kelifc/server/schema_table.h"
+#include "kelifc/server/text_stream.h"
 
 namespace KelIFC {
 namespace {
@@ -20,8 +23,6 @@ namespace {
 // What SaveIfcFile gives.
 constexpr int kSaved = 0;
 constexpr int kCannotCreate = 1;
-
-constexpr char kWriterName[] = "KelIFC v. 25.0.3857";
 
 // The time as a file's header has it, such as 2012-03-03T14:05:09.
 std::string FormatTime(const LocalTime& time) {
@@ -37,14 +38,23 @@ void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view 
          "HEADER;\n"
          "FILE_DESCRIPTION(('Merrow generated IFC file.'),'2;1');\n"
          "FILE_NAME('"
-      << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'" << kWriterName
-      << "','','','');\n"
+      << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'KelIFC v. "
+      << kReportedVersion
+      << "','','');\n"
          "FILE_SCHEMA(('"
       << schema
       << "'));\n"
          "ENDSEC;\n"
          "DATA;\n"
       << std::flush;
+}
+
+// A text as it stands between the quotes of the header. The classic dialect writes it as it is.
+std::string GetHeaderText(std::string_view text, STEP_DIALECT dialect) {
+  if (dialect == STEP_DIALECT_CLASSIC) return std::string(text);
+  std::string quoted;
+  AppendIsoString(quoted, text);
+  return quoted.substr(1, quoted.size() - 2);
 }
 
 }  // namespace
@@ -57,9 +67,9 @@ int IfcServer::SaveIfcFile(const char* path) {
   FileOutput file(path);
   if (!file.IsOpen()) return TellError(place + GetLastSystemError());
   std::ostream& out = file.GetStream();
-  WriteHeader(out, GetFileName(path), schema);
+  WriteHeader(out, GetHeaderText(GetFileName(path), dialect), schema);
   WriteInstances(out);
-  PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
+  detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
   if (!file.Close()) {
     const std::string reason = file.GetFailure();
     TellError(place + "the file could not be written to its end" +
@@ -76,28 +86,37 @@ void IfcServer::WriteInstances(std::ostream& out) {
   constexpr std::size_t kBatch = 32;
   constexpr std::size_t kWritten = 256;  // bytes of an instance: all are read
   std::array<std::uint64_t, kBatch> batch = {};
+  TextStream statement;
   std::uint64_t last = 0;
   for (std::size_t count = kBatch; count == kBatch;) {
     count = 0;
     while (count < kBatch && (last = idToIndex.GetNext(last)) != 0) {
-      Prefetch(&items[idToIndex.Find(last)]);
+      detail::Prefetch(&items[idToIndex.Find(last)]);
       batch[count++] = last;
     }
     for (std::size_t i = 0; i < count; ++i) {
-      PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
+      detail::PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
     }
-    for (std::size_t i = 0; i < count; ++i) WriteInstance(out, batch[i]);
+    for (std::size_t i = 0; i < count; ++i) {
+      if (dialect == STEP_DIALECT_CLASSIC) {
+        WriteInstance(out, batch[i]);
+      } else {
+        statement.Clear();
+        WriteInstance(statement, batch[i]);
+        WriteIsoStatement(out, statement.GetText());
+      }
+    }
   }
 }
 
 void IfcServer::WriteInstance(std::ostream& out, std::uint64_t number) {
   const IfcUnknown* instance = IfcServer::GetItem(number);
   if (instance == nullptr) return;  // an earlier one of the batch deleted it
-  PutChar(out, '#');
-  PutNumber(out, number);
-  PutChar(out, '=');
+  detail::PutChar(out, '#');
+  detail::PutNumber(out, number);
+  detail::PutChar(out, '=');
   instance->Write(out);
-  PutText(out, ");\n");
+  detail::PutText(out, ");\n");
 }
 
 int IfcServer::TellError(const std::string& message) const {

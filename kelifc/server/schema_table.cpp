@@ -1,5 +1,7 @@
 #include "kelifc/server/schema_table.h"
 
+#include <string>
+
 namespace KelIFC {
 namespace {
 
@@ -15,6 +17,23 @@ constexpr SchemaRow kSchemaTable[] = {
     {"IFC2X3", IFC_RELEASE_2X3},        {"IFC2X3_FINAL", IFC_RELEASE_2X3},
 };
 
+// What the schema strings of later releases begin with. IFC2X4 was the name of IFC4 while it was
+// drafted.
+constexpr std::string_view kLaterSchemas[] = {"IFC4", "IFC2X4"};
+
+// The first word of a text, in upper case.
+std::string FirstWord(std::string_view text) {
+  std::string word;
+  for (const char c : text) {
+    if (c != ' ') {
+      word += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+    } else if (!word.empty()) {
+      break;
+    }
+  }
+  return word;
+}
+
 }  // namespace
 
 IFC_RELEASE FindRelease(std::string_view schema) {
@@ -22,6 +41,16 @@ IFC_RELEASE FindRelease(std::string_view schema) {
     if (row.schema == schema) return row.release;
   }
   return IFC_RELEASE_NONE;
+}
+
+IFC_RELEASE FindReleaseInAnyCase(std::string_view schema) { return FindRelease(FirstWord(schema)); }
+
+bool IsLaterSchema(std::string_view schema) {
+  const std::string word = FirstWord(schema);
+  for (const std::string_view later : kLaterSchemas) {
+    if (word.compare(0, later.size(), later) == 0) return true;
+  }
+  return false;
 }
 
 std::string_view GetSchemaString(IFC_RELEASE release) {

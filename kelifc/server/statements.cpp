@@ -6,21 +6,18 @@
 #include <memory>
 #include <string_view>
 
+#include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
-#include "kelifc/server/scanner.h"
-#include "kelifc/server/schema_table.h"
+#include "kelifc/server/iso_statement.h"
+#include "kelifc/server/scan_buffer.h"
 
 namespace KelIFC {
 namespace {
 
 constexpr std::string_view kHead = "ISO-10303-21";
-
-// What has no `;` in so many bytes from its start is no STEP file. Without this limit a film or an
-// archive would be read into memory in search of one.
-constexpr std::size_t kHeadLimit = std::size_t{1024} * 1024;
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
@@ -64,18 +61,6 @@ bool BeginsWithHead(const char* statement) {
 
 }  // namespace
 
-void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
-  Scanner scanner(in);
-  const auto handle = firstPass ? RegisterStatement : ParseStatement;
-  if (firstPass) scanner.SetLimit(kHeadLimit);
-  while (char* statement = scanner.Next()) {
-    scanner.SetLimit(0);
-    if (server->load.isUnordered) server->idToIndex.PrefetchNumber(scanner.PeekNumber());
-    if (handle(server, statement) != 0) return;
-    if (!server->ReportProgress(scanner.GetBytesRead())) return;
-  }
-}
-
 std::int16_t RegisterStatement(IfcServer* server, char* statement) {
   if (!server->headerSeen) {
     server->headerSeen = BeginsWithHead(statement);
@@ -95,9 +80,7 @@ std::int16_t IfcServer::ReadHeaderStatement(char* statement) {
   }
   static_cast<void>(instance.release());
   schemaRecord.reset(record);
-  record->Parse(statement);
-  fileSchema.assign(record->GetProtocol());
-  const IFC_RELEASE found = FindRelease(fileSchema);
+  const IFC_RELEASE found = IsIso() ? ReadIsoSchema(statement) : ReadSchema(statement);
   if (found == IFC_RELEASE_NONE) return 2;
   SetRelease(found);
   return 0;
@@ -108,8 +91,34 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
   if (assignment.number == 0) return 0;
   NoteNumber(assignment.number);
   NoteOrder(assignment.number);
-  InsertItem(assignment.number, ParseClass(assignment.text, nullptr));
+  IfcUnknown* const made = MakeStated(assignment.text);
+  if (load.findings != nullptr && made != nullptr) NoteRepeat(assignment.number);
+  InsertItem(assignment.number, made);
   return 0;
+}
+
+// Makes the instance of a statement. An instance of several types has no name in the dialect of
+// ISO 10303-21.
+IfcUnknown* IfcServer::MakeStated(const char* text) {
+  const bool isComplex = IsIso() && *detail::SkipBlanks(text) == '(';
+  IfcUnknown* const made = isComplex ? MakeByRelease("") : ParseClass(text, nullptr);
+  return made == nullptr && load.keepsUnknown ? MakeRaw(isComplex ? "" : text) : made;
+}
+
+void IfcServer::NoteRepeat(std::size_t id) {
+  if (idToIndex.Find(id) == detail::NumberIndex::kNone) return;
+  load.findings->Note(LoadFinding::kRepeatedNumber, load.scanner->GetPlace());
+  if (IsIso()) ++load.repeats[id];
+}
+
+// True if a later statement has the same number. In the dialect of ISO 10303-21 the instance, which
+// is of the last statement, reads that one only.
+bool IfcServer::IsRepeated(std::size_t id) {
+  if (load.repeats.empty()) return false;
+  const auto found = load.repeats.find(id);
+  if (found == load.repeats.end() || found->second == 0) return false;
+  --found->second;
+  return true;
 }
 
 void IfcServer::NoteNumber(std::size_t id) {
@@ -131,11 +140,14 @@ std::int16_t ParseStatement(IfcServer* server, char* statement) {
   if (assignment.number == 0) return 0;
   server->NoteOrder(assignment.number);
   IfcUnknown* const instance = server->GetItem(assignment.number);
-  if (instance == nullptr) return 0;
-  server->load.parsed = instance;
-  server->load.parsedNumber = assignment.number;
-  instance->Parse(assignment.text);
-  server->load.parsed = nullptr;
+  if (instance == nullptr || server->IsRepeated(assignment.number)) return 0;
+  const char* text = assignment.text;
+  IfcServer::LoadState& load = server->load;
+  if (load.reader != nullptr) text = load.reader->Read(text, load.scanner->GetTextEnd());
+  load.parsed = instance;
+  load.parsedNumber = assignment.number;
+  instance->Parse(text);
+  load.parsed = nullptr;
   return 0;
 }
 

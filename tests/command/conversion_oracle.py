@@ -3,10 +3,10 @@
 
     conversion_oracle.py KELIFC MODEL.ifc...
 
-The second computation shares nothing with the library: it reads the STEP text by itself and works
-with homogeneous matrices. Text, counts and orders must agree, coordinates within a nanometre per
-metre of distance. Without models, those of the folder KELIFC_TEST_DATA are taken; without that
-folder the test is skipped (77).
+The second computation shares no code with the library: it parses the STEP text itself and uses
+homogeneous matrices. Texts, counts and orders must be equal. Coordinates may differ by a nanometre
+for each metre of distance. Without models on the command line, it reads those of the folder that
+KELIFC_TEST_DATA names. If that is not set, the test is skipped (status 77).
 """
 
 import glob
@@ -19,7 +19,8 @@ import sys
 
 SKIPPED = 77
 OTHER_FOOTINGS = (".FOOTING_BEAM.", ".PILE_CAP.", ".STRIP_FOOTING.", ".USERDEFINED.")
-# Texts that do not end in this dialect make the library read fewer instances than others do.
+# These files contain strings that never end by the rules of the library, so the library reads fewer
+# instances than this program.
 OTHER_DIALECT = {"archicad-rooftop.ifc", "composite-profile-quotes.ifc"}
 CONVERTIBLE = {"IFC2X_FINAL": "2x", "IFC2X2_FINAL": "2x2", "IFC2X3": "2x3", "IFC2X3_FINAL": "2x3"}
 ALPHABET = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz_$"
@@ -34,7 +35,7 @@ class Ref(int):
 
 
 def decode(text):
-    """The characters that a text writes by their codes."""
+    """The text with its escapes replaced by the characters that they stand for."""
     text = re.sub(r"\\X\\([0-9A-F]{2})", lambda m: chr(int(m[1], 16)), text)
     return re.sub(r"\\S\\(.)", lambda m: chr(ord(m[1]) + 128), text)
 
@@ -119,7 +120,7 @@ def unit(v):
 
 
 class Reader:
-    """Values of a model in metres."""
+    """Reads values of a model, with lengths in metres."""
 
     def __init__(self, model):
         self.model = model
@@ -146,7 +147,7 @@ class Reader:
                 ".KILO.": 1e3}[self.model.args(ref)[2]]
 
     def point(self, ref, dimensions):
-        """None unless the point has that many coordinates."""
+        """The coordinates of a point, or None if it does not have that many."""
         if self.model.kind(ref) != "IFCCARTESIANPOINT":
             return None
         c = self.model.args(ref)[0]
@@ -180,7 +181,7 @@ class Reader:
         return [[xn[i], yn[i], zn[i], origin[i]] for i in range(3)] + [[0, 0, 0, 1]]
 
     def chain(self, ref):
-        """The matrix of a placement with all that it is relative to."""
+        """The matrix of a placement chain."""
         matrix, seen = IDENTITY, set()
         while self.model.kind(ref) == "IFCLOCALPLACEMENT" and ref not in seen:
             seen.add(ref)
@@ -201,7 +202,7 @@ COMPOSITES = ("IFCCOMPOSITECURVE", "IFC2DCOMPOSITECURVE")
 
 class Profiles(Reader):
     def dimension(self, ref):
-        """That of the first point that a curve leads to; 3 where it does not tell."""
+        """The dimension of the first point of a curve, or 3 if there is none."""
         kind, args = self.model.kind(ref), self.model.args(ref) if ref in self.model.items else []
         if kind == "IFCPOLYLINE":
             return len(self.model.args(args[0][0])[0]) if args[0] else 3
@@ -216,7 +217,7 @@ class Profiles(Reader):
         return 3
 
     def flatten(self, ref):
-        """The outline of a curve without its closing point; None for a curve not understood."""
+        """The points of a curve without its closing point. A curve of another kind has no points."""
         kind = self.model.kind(ref)
         if kind == "IFCPOLYLINE":
             points = self.model.args(ref)[0]
@@ -293,7 +294,7 @@ class Profiles(Reader):
         return []
 
     def position2(self, profile):
-        """Location and angle of a profile's position; None without one."""
+        """The location and the angle of the position of a profile, or None if it has no position."""
         position = self.model.args(profile)[2]
         if self.model.kind(position) != "IFCAXIS2PLACEMENT2D":
             return None
@@ -302,7 +303,7 @@ class Profiles(Reader):
         return self.point(location, 2) or [0.0, 0.0], math.atan2(x[1], x[0])
 
     def rectangle(self, profile, corners):
-        """Corners, told in halves of the sizes, in the plane of the profile."""
+        """Points in the plane of the profile. `corners` are in halves of its sizes."""
         x, y = (d * self.scale for d in self.model.args(profile)[3:5])
         (cx, cy), angle = self.position2(profile) or ([0.0, 0.0], 0.0)
         turned = [turn(sx * x / 2, sy * y / 2, angle) for sx, sy in corners]
@@ -329,14 +330,14 @@ def extents(points):
 
 
 def matches(outline, wanted, tolerance=0.001):
-    """Whether two outlines have the same corners, from any of them and in either sense."""
+    """Whether two outlines have the same corners, in either direction and with any first corner."""
     n = len(outline)
     return any(all(math.dist(outline[(s + d * i) % n][:2], wanted[i]) <= tolerance * 1.4
                    for i in range(n)) for s in range(n) for d in (1, -1))
 
 
 def figure(outline):
-    """The section of an outline, as its kind and sizes."""
+    """The kind and the sizes of the section of an outline."""
     x0, x1, y0, y1 = extents(outline)
     width, height = x1 - x0, y1 - y0
     if len(outline) == 4 and matches(outline, [(x0, y0), (x1, y0), (x1, y1), (x0, y1)]):
@@ -356,7 +357,7 @@ def figure(outline):
 
 
 class Sections:
-    """The names of sections in the order in which they come into being."""
+    """The sections in the order of their creation."""
 
     def __init__(self):
         self.all = []
@@ -381,7 +382,7 @@ class Sections:
 # --- Elements ------------------------------------------------------------------------------------
 
 def braced(identifier):
-    """The braced form of an identifier of 22 characters."""
+    """The braced form of a global identifier of 22 characters."""
     bits = 0
     for c in identifier:
         bits = bits << 6 | ALPHABET.index(c)
@@ -508,8 +509,10 @@ class Structure(Profiles):
             if self.model.kind(item) == "IFCFACETEDBREP":
                 return None
         if self.model.kind(item) == "IFCFACETEDBREP":
-            brep = self.faceted(self.model.args(item)[0], product(world, outer))
-            return "", [[0.0] * 3] * 2, brep
+            shell = self.model.args(item)[0]
+            if self.model.kind(shell) != "IFCCLOSEDSHELL":
+                return "", [], None
+            return "", [[0.0] * 3] * 2, self.faceted(shell, product(world, outer))
         if self.model.kind(item) != "IFCEXTRUDEDAREASOLID":
             return None
         profile, position, direction, depth = self.model.args(item)
@@ -614,7 +617,7 @@ class Structure(Profiles):
         return self.middle(opening, both, position, direction, depth)
 
     def middle(self, n, points, position, direction, depth):
-        """Points of a profile, moved by half of the depth and to the world."""
+        """Points of a profile at half of the depth, in world coordinates."""
         half = [c * self.scale * depth / 2 for c in unit(self.direction(direction, 3))]
         matrix = product(self.chain(self.model.args(n)[5]), self.placement(position))
         return [apply(matrix, [a + b for a, b in zip(p, half)]) for p in points]
@@ -651,7 +654,7 @@ class Structure(Profiles):
     def read_foots(self):
         foots = []
         for n in self.model.all("IFCFOOTING") if self.model.release != "2x" else []:
-            # A type that is none of the schema counts as not defined.
+            # A type that the schema does not define counts as NOTDEFINED.
             if self.model.args(n)[8] in OTHER_FOOTINGS:
                 continue
             foot = self.element(n, "", [])
@@ -684,7 +687,7 @@ def differences(wanted, given, path=""):
 
 
 def check(command, path):
-    """The number of differences."""
+    """Compares one model. Returns the number of differences."""
     model = Model(path)
     if model.release is None:
         print("%s: %s is not converted" % (os.path.basename(path), model.schema))

@@ -8,11 +8,11 @@
 namespace command_test {
 namespace {
 
-/// What the command prints of the shipped models, kept as files. `scripts/renew-goldens` writes
-/// them anew after a wanted change; read the difference before you commit it.
+/// The kept outputs for the shipped models. After an intended change `scripts/renew-goldens` writes
+/// them again; review the difference before you commit it.
 class Golden : public testing::TestWithParam<std::tuple<std::string, std::string>> {};
 
-TEST_P(Golden, OutputIsAsKept) {
+TEST_P(Golden, OutputEqualsTheKeptOne) {
   const auto& [command, model] = GetParam();
   const Outcome run = Kelifc({command, "--json", model + ".ifc"});
   ASSERT_EQ(run.status, 0) << run.err;

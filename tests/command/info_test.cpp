@@ -33,14 +33,14 @@ TEST(Info, CountsInstancesByClassAndRawTextByItsName) {
             R"("entities":{"IfcCartesianPoint":1,"IfcDirection":2},"raw":{"IFCNOSUCHTHING":1}})");
 }
 
-TEST(Info, CountsANumberThatStandsTwiceOnce) {
+TEST(Info, CountsANumberThatIsUsedTwiceOnce) {
   const auto info =
       InfoOf(Model("IFC2X_FINAL", "#1=IFCDIRECTION((1.,0.));\n#1=IFCDIRECTION((0.,1.));\n"));
   EXPECT_EQ(info["instances"], 1);
   EXPECT_EQ(info["entities"].dump(), R"({"IfcDirection":1})");
 }
 
-TEST(Info, OldReleasesDropWhatTheyDoNotKnow) {
+TEST(Info, OldReleasesDropEntitiesWithoutAClass) {
   const auto info = InfoOf(Model("IFC20_LONGFORM", "#1=IFCDIRECTION((1.,0.));\n#2=IFCFOO(1);\n"));
   EXPECT_EQ(info["release"], "2.0");
   EXPECT_EQ(info["instances"], 1);
@@ -55,7 +55,7 @@ TEST(Info, NamesTheReleaseOfEachSchema) {
   EXPECT_EQ(InfoOf(Model("IFC2X3", ""))["release"], "2x3");
 }
 
-TEST(Info, TextTellsTheSame) {
+TEST(Info, TextContainsTheSame) {
   const Outcome run = Kelifc({"info", "house.ifc"});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.err, "");

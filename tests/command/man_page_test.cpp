@@ -36,20 +36,23 @@ Words Commands() {
 
 Words OptionsOfTheHelp() {
   Words options = Options(Kelifc({"--help"}).out);
-  for (const std::string& command : Commands()) options.merge(Options(Kelifc({command, "--help"}).out));
+  for (const std::string& command : Commands())
+    options.merge(Options(Kelifc({command, "--help"}).out));
   return options;
 }
 
 /// The page, with a dash where its markup has an escaped one.
 std::string ManPage() {
-  const std::string source = ReadFile(std::string(KelIFC::kSourceDir) + "/tools/kelifc/kelifc.1.in");
+  const std::string source =
+      ReadFile(std::string(KelIFC::kSourceDir) + "/tools/kelifc/kelifc.1.in");
   return std::regex_replace(source, std::regex("\\\\-"), "-");
 }
 
 TEST(ManPage, DescribesEachCommandOfTheHelp) {
   const std::string page = ManPage();
   EXPECT_THAT(Commands(), IsSupersetOf({"structure", "info", "save"}));
-  for (const std::string& command : Commands()) EXPECT_THAT(page, HasSubstr(".TP\n.B " + command + "\n"));
+  for (const std::string& command : Commands())
+    EXPECT_THAT(page, HasSubstr(".TP\n.B " + command + "\n"));
 }
 
 TEST(ManPage, DescribesTheOptionsOfTheHelpAndNoOthers) {

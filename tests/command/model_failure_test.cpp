@@ -23,10 +23,11 @@ std::string ModelOf(const std::string& schema) {
          "'));\nENDSEC;\nDATA;\n#1=IFCPERSON('a','b',$,$,$,$,$,$);\nENDSEC;\nEND-ISO-10303-21;\n";
 }
 
-/// A model that cannot be used, for each of the three commands.
+/// Gives each of the three subcommands a model that it cannot use.
 class ModelFailure : public testing::TestWithParam<std::string> {
  protected:
-  /// Expects the status, nothing on standard output, and one line that names file and cause.
+  /// Expects the status, nothing on standard output, and one line that names the file and the
+  /// cause.
   void ExpectFailure(const std::string& model, int status, const std::string& cause) const {
     std::vector<std::string> arguments = {GetParam(), model};
     if (GetParam() == "save") arguments.push_back(folder.Path("out.ifc"));
@@ -63,12 +64,12 @@ TEST_P(ModelFailure, FileThatMayNotBeRead) {
 }
 
 TEST_P(ModelFailure, FileThatCannotBeRead) {
-  // Opens like any file, but its first bytes belong to no memory.
+  // The file can be opened, but its first bytes are not mapped memory.
   if (!std::filesystem::exists("/proc/self/mem")) GTEST_SKIP() << "no such file on this system";
   ExpectFailure("/proc/self/mem", kFile, "Input/output error");
 }
 
-TEST_P(ModelFailure, PipeSinceAModelIsReadTwice) {
+TEST_P(ModelFailure, PipeBecauseAModelIsReadTwice) {
   const std::string path = folder.Path("pipe");
   ASSERT_EQ(mkfifo(path.c_str(), 0600), 0);
   ExpectFailure(path, kFile, "not a regular file");
@@ -108,7 +109,7 @@ TEST_P(OldRelease, HasNoStructure) {
                              EndsWith(" cannot be converted\n")));
 }
 
-TEST_P(OldRelease, IsToldAndSavedLikeAnyOther) {
+TEST_P(OldRelease, CanBeInspectedAndSaved) {
   const TemporaryFolder folder;
   const std::string path = folder.Path("old.ifc");
   WriteFile(path, ModelOf(GetParam()));

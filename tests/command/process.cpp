@@ -4,6 +4,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <cstdio>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -22,27 +23,35 @@ void Redirect(int stream, const std::string& path) {
 
 }  // namespace
 
-Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath) {
+Outcome Run(const std::string& program, const std::vector<std::string>& arguments,
+            const std::string& outPath, const std::string& inPath) {
   const TemporaryFolder folder;
   const std::string out = outPath.empty() ? folder.Path("out") : outPath;
   const std::string err = folder.Path("err");
-  std::vector<char*> argv{const_cast<char*>(KELIFC_COMMAND)};  // NOLINT: execv takes no const
+  // execv takes pointers that are not const, but changes nothing.
+  std::vector<char*> argv{const_cast<char*>(program.c_str())};
   for (const std::string& argument : arguments) argv.push_back(const_cast<char*>(argument.c_str()));
   argv.push_back(nullptr);
 
   const pid_t child = fork();
-  if (child < 0) throw std::runtime_error("no process could be made");
+  if (child < 0) throw std::runtime_error("fork failed");
   if (child == 0) {
     if (chdir(KelIFC::kExamplesDir) != 0) _exit(126);
+    if (std::freopen(inPath.c_str(), "rb", stdin) == nullptr) _exit(126);
     Redirect(STDOUT_FILENO, out);
     Redirect(STDERR_FILENO, err);
-    execv(KELIFC_COMMAND, argv.data());
+    execv(program.c_str(), argv.data());
     _exit(127);
   }
   int state = 0;
   waitpid(child, &state, 0);
   const int status = WIFEXITED(state) ? WEXITSTATUS(state) : 128 + WTERMSIG(state);
   return {status, outPath.empty() ? ReadFile(out) : "", ReadFile(err)};
+}
+
+Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath,
+               const std::string& inPath) {
+  return Run(KELIFC_COMMAND, arguments, outPath, inPath);
 }
 
 std::string ReadFile(const std::string& path) {

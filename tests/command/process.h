@@ -6,23 +6,28 @@
 
 namespace command_test {
 
-/// What a finished run of the command left behind.
+/// The result of a program that has ended.
 struct Outcome {
   int status = -1;  ///< exit status, or 128 + the signal that ended it
   std::string out;
   std::string err;
 };
 
-/// Runs the built command with these arguments in the folder of the shipped models. Standard output
-/// goes to the file `outPath` where one is named, and is then not in the result.
-Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath = "");
+/// Runs a program in the folder of the shipped models. Standard output goes to the file `outPath`
+/// if that is not empty; then `out` of the result is empty. Standard input is the file `inPath`.
+Outcome Run(const std::string& program, const std::vector<std::string>& arguments,
+            const std::string& outPath = "", const std::string& inPath = "/dev/null");
 
-/// The text of a file; empty for one that is not there.
+/// Runs the command that was built. The other arguments are those of Run.
+Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath = "",
+               const std::string& inPath = "/dev/null");
+
+/// The text of a file; empty if the file does not exist.
 std::string ReadFile(const std::string& path);
 
 void WriteFile(const std::string& path, const std::string& text);
 
-/// A folder for one test, empty at first and gone after it.
+/// A new, empty folder. The destructor deletes it with everything in it.
 class TemporaryFolder {
  public:
   TemporaryFolder();

@@ -16,11 +16,11 @@ using testing::StartsWith;
 
 constexpr int kFile = 1;
 
-/// What a command prints of a model as JSON, without the path of the file.
-ordered_json Told(const std::string& command, const std::string& path) {
-  auto told = ordered_json::parse(Kelifc({command, "--json", path}).out);
-  told.erase("file");
-  return told;
+/// The JSON that a subcommand prints of a model, without the path of the file.
+ordered_json JsonOf(const std::string& command, const std::string& path) {
+  auto json = ordered_json::parse(Kelifc({command, "--json", path}).out);
+  json.erase("file");
+  return json;
 }
 
 class Save : public testing::TestWithParam<std::string> {
@@ -36,8 +36,8 @@ TEST_P(Save, KeepsTheInstancesOfEachClass) {
   const Outcome run = Kelifc({"save", GetParam(), path});
   ASSERT_EQ(run.status, 0) << run.err;
   EXPECT_EQ(run.out + run.err, "");
-  auto before = Told("info", GetParam())["entities"];
-  auto after = Told("info", path)["entities"];
+  auto before = JsonOf("info", GetParam())["entities"];
+  auto after = JsonOf("info", path)["entities"];
   // Each load adds a direction for each placement in the plane.
   before.erase("IfcDirection");
   after.erase("IfcDirection");
@@ -47,16 +47,16 @@ TEST_P(Save, KeepsTheInstancesOfEachClass) {
 TEST_P(Save, KeepsTheStructure) {
   const std::string path = folder.Path("out.ifc");
   Kelifc({"save", GetParam(), path});
-  EXPECT_EQ(Told("structure", GetParam()).dump(1), Told("structure", path).dump(1));
+  EXPECT_EQ(JsonOf("structure", GetParam()).dump(1), JsonOf("structure", path).dump(1));
 }
 
-TEST_P(Save, WritesOverItsModelWhereTheUserNamesItTwice) {
+TEST_P(Save, ReplacesItsModelIfTheUserNamesItTwice) {
   const std::string path = folder.Path("model.ifc");
   WriteFile(path, ReadFile(std::string(KelIFC::kExamplesDir) + "/" + GetParam()));
   ASSERT_EQ(Kelifc({"save", path, path}).status, 0);
   EXPECT_THAT(ReadFile(path), StartsWith("ISO-10303-21;"));
   EXPECT_THAT(ReadFile(path), EndsWith("END-ISO-10303-21;\n"));
-  EXPECT_EQ(Told("structure", GetParam()).dump(1), Told("structure", path).dump(1));
+  EXPECT_EQ(JsonOf("structure", GetParam()).dump(1), JsonOf("structure", path).dump(1));
 }
 
 TEST(SaveCommand, IntoAMissingFolderIsAFailure) {

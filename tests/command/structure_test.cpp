@@ -31,7 +31,7 @@ TEST(Structure, JsonHasItsMembersInTheirOrder) {
   EXPECT_THAT(Members(structure["storeys"][0]), ElementsAre("number", "name", "level", "height"));
 }
 
-TEST(Structure, StoreysComeByLevelWithBasementsBelowZero) {
+TEST(Structure, StoreysAreSortedByLevelAndBasementsAreBelowZero) {
   const auto storeys =
       ordered_json::parse(Kelifc({"structure", "--json", "office.ifc"}).out)["storeys"];
   EXPECT_EQ(storeys.dump(), R"([{"number":-1,"name":"Basement","level":-3200.0,"height":3200.0},)"
@@ -39,14 +39,14 @@ TEST(Structure, StoreysComeByLevelWithBasementsBelowZero) {
                             R"({"number":1,"name":"First floor","level":3400.0,"height":3400.0}])");
 }
 
-TEST(Structure, NamesAreUtf8AndANamelessStoreyHasItsNumber) {
+TEST(Structure, NamesAreUtf8AndAStoreyWithoutANameHasItsNumber) {
   const auto storeys =
       ordered_json::parse(Kelifc({"structure", "--json", "barn.ifc"}).out)["storeys"];
   EXPECT_EQ(storeys[0]["name"], "Erdgescho\xC3\x9F");
   EXPECT_EQ(storeys[1]["name"], "IFC#42");
 }
 
-TEST(Structure, TableTellsReleaseCountsAndStoreys) {
+TEST(Structure, TableContainsReleaseCountsAndStoreys) {
   const Outcome run = Kelifc({"structure", "house.ifc"});
   EXPECT_EQ(run.status, 0);
   EXPECT_EQ(run.err, "");

@@ -191,6 +191,101 @@ TEST_F(Member, IsADerivedMarkWhenItTakesNull) {
   EXPECT_EQ(Text(member), "*");
 }
 
+TEST_F(Member, BorrowsAnInstanceThatAModelHolds) {
+  auto* held = new Probe(5);
+  const std::size_t number = server.AddItem(held);
+  {
+    MEMBER holder;
+    for (MEMBER* each : {&holder, &member}) {
+      *each = held;
+      EXPECT_TRUE(each->GetExists());
+      EXPECT_EQ(static_cast<std::size_t>(*each), 0U);
+      EXPECT_EQ(each->GetInstance(), held);
+      EXPECT_EQ(each->GetInlineValue(), nullptr) << "it is not owned";
+      EXPECT_EQ(Text(*each), "PROBE(5)");
+    }
+    const MEMBER copy(holder);
+    EXPECT_EQ(copy.GetInstance(), held);
+    EXPECT_EQ(holder.GetInstance(), nullptr);
+  }
+  EXPECT_EQ(Probe::alive, 1);
+  EXPECT_EQ(server.GetItem(number), held);
+  server.DeleteItem(held);
+  EXPECT_EQ(Probe::alive, 0);
+  EXPECT_EQ(member.GetInstance(), nullptr);
+  EXPECT_EQ(Text(member), "*");
+}
+
+TEST_F(Member, GivesWhatItBorrowedBackToNobody) {
+  auto* held = new Probe(5);
+  server.AddItem(held);
+  for (int times = 0; times < 2; ++times) member = held;
+  member = new Probe(6);
+  EXPECT_EQ(Text(member), "PROBE(6)");
+  member = std::size_t{0};
+  member = held;
+  member.Parse("#12");
+  EXPECT_EQ(member.GetInstance(), target);
+  EXPECT_EQ(Probe::alive, 1);
+  server.Reset();
+}
+
+TEST_F(Member, EmbedsAnInstanceOfItsModelByNumber) {
+  MEMBER stranger;
+  member = new Probe(3);
+  member.Embed(target, *owner);
+  stranger.Embed(target, *owner);
+  EXPECT_EQ(Probe::alive, 0) << "the value that it held is destroyed";
+  EXPECT_EQ(Text(member), "#12");
+  EXPECT_EQ(Text(stranger), "#12");
+  EXPECT_EQ(stranger.GetInstance(), target);
+}
+
+TEST_F(Member, EmbedsAnInstanceThatNoModelHoldsAsItsOwn) {
+  auto* value = new Probe(3);
+  member.Embed(value, *owner);
+  EXPECT_EQ(value->GetServer(), &server);
+  EXPECT_EQ(member.GetInlineValue(), value);
+  member.Embed(value, *owner);
+  EXPECT_EQ(member.GetInlineValue(), value);
+  EXPECT_EQ(Probe::alive, 1) << "it is handed over a second time";
+  server.AddItem(value);
+  member.Embed(value, *owner);
+  EXPECT_EQ(Text(member), "#13") << "the model has taken it";
+  EXPECT_EQ(Probe::alive, 1);
+  server.Reset();
+}
+
+TEST_F(Member, EmbedsATypedValueOfItsModelAsABorrowedOne) {
+  auto* value = new IfcParameterValue(0.5);
+  server.AddItem(value);
+  member.Embed(value, *owner);
+  EXPECT_EQ(Text(member), "IFCPARAMETERVALUE(0.5)");
+  EXPECT_EQ(member.GetInstance(), value);
+  EXPECT_EQ(member.GetInlineValue(), nullptr);
+}
+
+TEST_F(Member, EmbedsAnInstanceOfAnotherModelAsABorrowedOne) {
+  IfcServer other;
+  auto* held = new Probe(5);
+  other.AddItem(held);
+  member.Embed(held, *owner);
+  EXPECT_EQ(held->GetServer(), &other);
+  EXPECT_EQ(member.GetInstance(), held);
+  EXPECT_EQ(Text(member), "PROBE(5)");
+  other.Reset();
+  EXPECT_EQ(Probe::alive, 0);
+  EXPECT_EQ(member.GetInstance(), nullptr);
+}
+
+TEST_F(Member, EmbedsNullAsADerivedMark) {
+  member = new Probe(3);
+  member.Embed(nullptr, *owner);
+  EXPECT_EQ(Probe::alive, 0);
+  EXPECT_TRUE(member.GetExists());
+  EXPECT_EQ(Text(member), "*");
+}
+
 TEST_F(Member, MovesAValueInPlaceToACopy) {
   const MEMBER* source = &member;
   member = new Probe(3);

@@ -3,7 +3,7 @@
 
 #include <string>
 
-#include "kelifc/core/text_out.h"
+#include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
 
 namespace KelIFC {
@@ -19,7 +19,7 @@ class Probe : public IfcUnknown {
   const char* Parse(const char* text) override { return IfcUnknown::Parse(text); }
   std::ostream& Write(std::ostream& out) const override {
     IfcUnknown::Write(out);
-    PutText(out, std::to_string(number) + ")");
+    detail::PutText(out, std::to_string(number) + ")");
     return out;
   }
 

@@ -7,7 +7,7 @@
 #include <locale>
 #include <string>
 
-#include "kelifc/core/write_tolerance.h"
+#include "kelifc/core/text/write_tolerance.h"
 
 #include "tests/core/text.h"
 

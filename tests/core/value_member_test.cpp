@@ -74,6 +74,12 @@ TEST_F(ValueMember, DestroysTheValueThatItReplaces) {
   EXPECT_EQ(Probe::alive, 0);
 }
 
+TEST_F(ValueMember, WritesAValueThatAModelHolds) {
+  server.InsertItem(4, new IfcLengthMeasure(2.5));
+  member = server.GetItem(std::size_t{4});
+  EXPECT_EQ(Written(), "IFCLENGTHMEASURE(2.5)");
+}
+
 TEST_F(ValueMember, WritesNothingForAReferenceToAnotherClass) {
   auto* point = new IfcCartesianPoint;
   server.InsertItem(4, point);

@@ -2,55 +2,62 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <fstream>
 #include <string>
 #include <vector>
 
 #include "kelifc/kelifc.h"
 
+#include "tests/examples/document.h"
 #include "tests/paths.h"
 
-// The C++ of docs/object-model.md, in use. The first test finds each piece of the page in this
-// file, line by line.
+// The C++ of docs/object-model.md. The first test finds the lines of each block of the page in this
+// file, so that the page shows nothing that is not compiled and run here.
 
 namespace {
 
-std::vector<std::string> LinesOf(const std::string& path) {
-  std::ifstream file(std::string(KelIFC::kSourceDir) + "/" + path);
-  std::vector<std::string> lines;
-  for (std::string line; std::getline(file, line);) {
-    lines.push_back(line.substr(std::min(line.find_first_not_of(' '), line.size())));
-  }
-  return lines;
-}
-
-/// The pieces of C++ of a page.
-std::vector<std::vector<std::string>> PiecesOf(const std::string& path) {
-  std::vector<std::vector<std::string>> pieces;
-  bool isInside = false;
-  for (const std::string& line : LinesOf(path)) {
-    if (line == "```cpp") pieces.emplace_back();
-    if (isInside && line != "```") pieces.back().push_back(line);
-    isInside = line == "```cpp" || (isInside && line != "```");
-  }
-  return pieces;
-}
+using document_test::LinesOf;
+using document_test::ReadSource;
 
 TEST(ObjectModelGuide, ShowsWhatIsTestedHere) {
-  const std::vector<std::string> source = LinesOf("tests/examples/object_model_guide_test.cpp");
-  const auto pieces = PiecesOf("docs/object-model.md");
-  EXPECT_EQ(pieces.size(), 8U);
-  for (const auto& piece : pieces) {
-    EXPECT_NE(std::search(source.begin(), source.end(), piece.begin(), piece.end()), source.end())
-        << piece.front();
+  const auto source = LinesOf(ReadSource("tests/examples/object_model_guide_test.cpp"));
+  const auto blocks = document_test::BlocksOf(ReadSource("docs/object-model.md"), "cpp");
+  EXPECT_EQ(blocks.size(), 10U);
+  for (const std::string& block : blocks) {
+    const auto lines = LinesOf(block);
+    EXPECT_NE(std::search(source.begin(), source.end(), lines.begin(), lines.end()), source.end())
+        << block;
   }
 }
 
-/// A model that ships, and its structure.
+std::string Shipped(const std::string& model) {
+  return std::string(KelIFC::kExamplesDir) + "/" + model;
+}
+
+TEST(ObjectModelGuide, WalksACollectionWithTheCppLayer) {
+  const std::string path = Shipped("house.ifc");
+  std::string names;
+  const auto [server, structure] = KelIFC::OpenModel(path);
+  for (const auto& column : KelIFC::Items(structure, &IGeoStructure::get_Columns)) {
+    names += KelIFC::Get(column, &IGeoColumn::get_Name) + "\n";
+  }
+  EXPECT_EQ(names, "Column A\nIFC#215\n");
+}
+
+TEST(ObjectModelGuide, ReadsAStoreyNumberThatMayBeMissing) {
+  const KelIFC::OpenedModel model = KelIFC::OpenModel(Shipped("house.ifc"));
+  int storey = -1;
+  const auto columns = KelIFC::Get(model.structure, &IGeoStructure::get_Columns);
+  const auto column = KelIFC::ItemAt(columns, 1);
+  const auto number = KelIFC::TryGet(column, &IGeoColumn::get_StoreyNumber);
+  if (number && *number != KelIFC::kNoStoreyNumber) storey = *number;
+  EXPECT_EQ(storey, 0);
+}
+
+/// Opens a shipped model with the interfaces alone.
 class Guide : public testing::Test {
  protected:
   void Open(const std::string& model) {
-    const std::string path = std::string(KelIFC::kExamplesDir) + "/" + model;
+    const std::string path = Shipped(model);
     KelIFC::ComPtr<IIFCServer> server;
     CoCreateInstance(CLSID_CoIFCServer, nullptr, CLSCTX_ALL, KelIFC::IidOf<IIFCServer>(),
                      reinterpret_cast<void**>(server.Put()));
@@ -73,7 +80,7 @@ TEST_F(Guide, LoadsAModel) {
   EXPECT_TRUE(structure);
 }
 
-TEST_F(Guide, TellsWhyNothingWasLoaded) {
+TEST_F(Guide, ReportsWhyNothingWasLoaded) {
   Open("missing.ifc");
   EXPECT_EQ(loaded, STG_E_FILENOTFOUND);
   KelIFC::ComPtr<IErrorInfo> error;
@@ -99,7 +106,7 @@ TEST_F(Guide, WalksACollection) {
   for (LONG i = 1; SUCCEEDED(columns->Item(i, column.Put())); ++i) {
     KelIFC::Bstr name;
     column->get_Name(name.Put());
-    names += KelIFC::NarrowText(name.Get()) + "\n";
+    names += KelIFC::Utf8Text(name.Text()) + "\n";
   }
   EXPECT_EQ(names, "Column A\nIFC#215\n");
 }
@@ -163,7 +170,7 @@ TEST_F(Guide, ReadsTheFacesOfABoundary) {
   EXPECT_EQ(corners, (std::vector<LONG>{1, 2, 3, 4}));
 }
 
-TEST_F(Guide, LetsElementsLiveOnWithoutTheServer) {
+TEST_F(Guide, KeepsElementsAfterTheServerObjectIsReleased) {
   Open("house.ifc");
   KelIFC::ComPtr<IGeoColumns> columns;
   structure->get_Columns(columns.Put());

@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "tests/command/process.h"
+#include "tests/examples/example_program.h"
 #include "tests/paths.h"
 
 namespace command_test {
@@ -11,13 +12,10 @@ namespace {
 
 using testing::HasSubstr;
 
-/// Here the command that is run is the example.
-Outcome Walk(const std::string& model) { return Kelifc({model}); }
-
-/// What the example prints of a shipped model, kept as a file. `scripts/renew-goldens` writes it
-/// anew after a wanted change; read the difference before you commit it.
-TEST(WalkExampleGolden, OfTheHouseIsAsKept) {
-  const Outcome run = Walk("house.ifc");
+/// The kept output of the example. After an intended change `scripts/renew-goldens` writes it
+/// again; review the difference before you commit it.
+TEST(WalkExampleGolden, PrintsWhatIsKeptOfTheHouse) {
+  const Outcome run = RunExample("walk", {"house.ifc"});
   ASSERT_EQ(run.status, 0) << run.err;
   const std::string path =
       std::string(KelIFC::kSourceDir) + "/tests/examples/golden/house.walk.txt";
@@ -29,18 +27,19 @@ TEST(WalkExampleGolden, OfTheHouseIsAsKept) {
 }
 
 TEST(WalkExample, ReachesEachKindOfObject) {
-  const Outcome run = Walk("hall.ifc");
+  const Outcome run = RunExample("walk", {"hall.ifc"});
   ASSERT_EQ(run.status, 0) << run.err;
   for (const char* kind :
-       {"Storey ", "\nColumn ", "\nBeam ", "\n  face 1, 2, 3", "\nWall ", "\n  Window ",
+       {"\nStorey ", "\nColumn ", "\nBeam ", "\n  face 1 2 3", "\nWall ", "\n  Window ",
         "\n  Door ", "\nPlate ", "\n  Hole ", "\nFoot ", "\nSection "}) {
     EXPECT_THAT(run.out, HasSubstr(kind));
   }
 }
 
-TEST(WalkExample, TellsThatItCannotLoad) {
-  EXPECT_EQ(Walk("missing.ifc").status, 1);
-  EXPECT_EQ(Kelifc({}).status, 2);
+TEST(WalkExample, ReportsWhyItCannotLoad) {
+  const Outcome run = RunExample("walk", {"missing.ifc"});
+  EXPECT_EQ(run.status, 1);
+  EXPECT_EQ(run.err, "missing.ifc was not found or cannot be opened.\n");
 }
 
 }  // namespace

@@ -16,11 +16,10 @@ namespace {
 
 std::string ModelPath() { return std::string(kExamplesDir) + "/hall.ifc"; }
 
-/// How a host fared.
+/// What a host got from one run.
 struct Outcome {
-  HRESULT load = E_FAIL;
-  std::size_t elements = 0;
-  bool isWhole = false;
+  HRESULT load = E_FAIL;     ///< the status of the load
+  std::size_t elements = 0;  ///< of the whole structure; 0 if the structure could not be read
 };
 
 std::size_t CountElements(const command::Structure& structure) {
@@ -28,8 +27,8 @@ std::size_t CountElements(const command::Structure& structure) {
          structure.plates.size() + structure.foots.size();
 }
 
-/// Loads the model and reads all that comes of it, and leaves no error object. No exception of its
-/// own crosses an interface: one that did would end the program.
+/// Loads the model and reads its whole structure, as a host does. Afterwards the thread has no
+/// error object. An exception that left an interface would end the program.
 Outcome ReadModel() {
   struct ErrorEnd {
     ~ErrorEnd() { SetErrorInfo(0, nullptr); }
@@ -44,8 +43,7 @@ Outcome ReadModel() {
     outcome.load = server->Load(Bstr(WidePath(ModelPath())).Get());
     ComPtr<IGeoStructure> structure;
     if (server->get_Structure(structure.Put()) != S_OK) return outcome;
-    outcome.elements = CountElements(command::ReadStructure(*structure));
-    outcome.isWhole = true;
+    outcome.elements = CountElements(command::ReadStructure(structure));
   } catch (const std::bad_alloc&) {  // of the host itself
   } catch (const std::runtime_error&) {
   }
@@ -54,11 +52,11 @@ Outcome ReadModel() {
 
 class FaultyConversion : public HostTest {};
 
-TEST_F(FaultyConversion, GivesAllMemoryBack) {
+TEST_F(FaultyConversion, FreesAllMemory) {
   SweepFailures([] { ReadModel(); });
 }
 
-TEST_F(FaultyConversion, GivesElementsOfTheModelAndNoOthers) {
+TEST_F(FaultyConversion, NeverHasMoreElementsThanWithoutAFailure) {
   const Outcome whole = ReadModel();
   ASSERT_EQ(whole.load, S_OK);
   ASSERT_GT(whole.elements, 0u);
@@ -67,7 +65,7 @@ TEST_F(FaultyConversion, GivesElementsOfTheModelAndNoOthers) {
   EXPECT_EQ(most, whole.elements);
 }
 
-TEST_F(FaultyConversion, TellsThatMemoryIsLacking) {
+TEST_F(FaultyConversion, ReportsThatMemoryIsExhausted) {
   auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   const Bstr path(WidePath(ModelPath()));
   {

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <new>
 
-// The program's own operator new. All forms but those for great alignments are here: where memory
-// is watched, a form that is left out stays with the watcher.
+// The program's own operator new. The forms for large alignments are not replaced; nothing here
+// uses them. All other forms are, because AddressSanitizer would serve a missing form itself.
 
 namespace KelIFC {
 namespace {

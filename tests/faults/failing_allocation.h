@@ -8,34 +8,39 @@
 
 namespace KelIFC {
 
-/// Which allocations fail, from the one that is told on.
+/// Which allocations fail.
 enum class Shortage {
-  kOne,   // that one alone: what comes after it goes well again
-  kFrom,  // that one and all behind it
+  kOne,   ///< only the given one
+  kFrom,  ///< the given one and all later ones
 };
 
-/// While it lives, allocations of this program fail with std::bad_alloc. One that is
-/// made later ends the one before it.
+/// As long as this object lives, some allocations of the program throw std::bad_alloc, or return
+/// null from the forms of operator new that do not throw. Only one object works at a time: a new
+/// one replaces an older one.
 class FailingAllocation {
  public:
-  /// `nth` counts the allocations to come, from 1; 0 lets none fail and only counts them.
+  /// `nth` is the number of the allocation that fails, counted from 1 from now on. With 0 no
+  /// allocation fails; they are only counted.
   FailingAllocation(std::size_t nth, Shortage shortage);
   ~FailingAllocation();
   FailingAllocation(const FailingAllocation&) = delete;
   FailingAllocation& operator=(const FailingAllocation&) = delete;
 
-  /// The allocations that were asked for since it was made.
+  /// Returns the number of allocations since the last object was made, failed ones included.
   static std::size_t GetCount();
 };
 
-/// The blocks of memory that this program has and has not given back.
+/// Returns the number of blocks of memory that are allocated and not yet freed.
 std::size_t CountLiveBlocks();
 
-/// Runs `act` without a failure, and then again and again with a failure that comes each time a
-/// little later: some hundred runs, or one for each allocation where those are fewer. `act` makes
-/// what it needs, tells nothing to the test while an allocation may fail, and lets no exception
-/// out. Whatever failed, all memory must be given back; what is kept for later, such as an answer
-/// about a class, is kept only once.
+/// Runs `act` without a failure, and then many times with a failure that comes a little later in
+/// each run: one run for each allocation, but at most 400 or so for each kind of shortage. Expects
+/// that every run frees all memory that it allocates. Memory that the library keeps on purpose,
+/// such as an entry of a cache, is allocated only once; so a run that keeps memory is repeated, and
+/// the second attempt counts.
+///
+/// `act` creates all objects that it needs. It must not use assertions of the test while
+/// allocations fail, because these allocate, and must not throw.
 template <class Act>
 void SweepFailures(Act act) {
   constexpr std::size_t kMostRuns = 400;

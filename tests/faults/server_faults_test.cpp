@@ -16,7 +16,7 @@
 #include "tests/faults/small_model.h"
 #include "tests/server/temp_file.h"
 
-// A host that goes on after a failure must find a model that is whole in itself.
+// A host may continue after an allocation failed. The model must be consistent then.
 
 namespace KelIFC {
 namespace {
@@ -37,7 +37,7 @@ std::string TextOf(IfcServer& server) {
   return text.str();
 }
 
-/// The result of a load, none if memory was lacking.
+/// Returns the result of a load, nothing if it threw std::bad_alloc.
 std::optional<int> TryLoad(IfcServer& server, const char* path) {
   try {
     return server.LoadIfcFile(path);
@@ -46,7 +46,7 @@ std::optional<int> TryLoad(IfcServer& server, const char* path) {
   }
 }
 
-TEST(FaultyLoad, LeavesOutAnInstanceOrEndsWithAnEmptyModel) {
+TEST(FaultyLoad, SkipsAnInstanceOrLeavesAnEmptyModel) {
   const TempFile file(SmallModel());
   IfcServer whole;
   ASSERT_EQ(whole.LoadIfcFile(file.GetPath()), 0);
@@ -75,7 +75,7 @@ TEST(FaultyLoad, LeavesOutAnInstanceOrEndsWithAnEmptyModel) {
   EXPECT_GT(withoutSome, 0);
 }
 
-TEST(FaultyLoad, GivesAllMemoryBack) {
+TEST(FaultyLoad, FreesAllMemory) {
   const TempFile file(SmallModel());
   SweepFailures([&] {
     IfcServer server;
@@ -87,13 +87,13 @@ TEST(FaultyReset, NeedsNoMemory) {
   const TempFile file(SmallModel());
   IfcServer server;
   server.LoadIfcFile(file.GetPath());
-  server.AddItem(server.GetItem(std::size_t{7}));  // an instance in two slots
+  server.AddItem(server.GetItem(std::size_t{7}));  // the same instance under a second number
   const FailingAllocation failing(1, Shortage::kFrom);
   server.Reset();
   EXPECT_EQ(FailingAllocation::GetCount(), 0u);
 }
 
-TEST(FaultySave, IsToldOrComplete) {
+TEST(FaultySave, ReportsAFailureOrWritesTheWholeModel) {
   const TempFile source(SmallModel());
   const TempFile target;
   IfcServer server;
@@ -110,14 +110,14 @@ TEST(FaultySave, IsToldOrComplete) {
       isSaved = server.SaveIfcFile(target.GetPath()) == 0 && told == 0;
     } catch (const std::bad_alloc&) {
     }
-    // Reading takes memory, too; a failure that is left over for it tells nothing of the save.
+    // Reading the file back allocates as well. Its allocations must not fail.
     const FailingAllocation none(0, Shortage::kOne);
     if (isSaved && target.Read().size() != size) ++incomplete;
   });
   EXPECT_EQ(incomplete, 0u);
 }
 
-/// What goes on in a model that a host changes.
+/// Changes of a model by its host.
 class FaultyRegistry : public testing::Test {
  protected:
   void SetUp() override {
@@ -126,8 +126,9 @@ class FaultyRegistry : public testing::Test {
     text = TextOf(server);
   }
 
-  /// Calls an operation of the model until it succeeds, with one more allocation that goes well
-  /// each time. After each failure the model is what it was.
+  /// Calls an operation again and again until it succeeds. In each call one more allocation
+  /// succeeds before all later ones fail. Expects that a call that fails leaves the model
+  /// unchanged.
   template <class Operation>
   void RepeatUntilItSucceeds(Operation operation) {
     for (std::size_t nth = 1; nth < 100; ++nth) {
@@ -144,7 +145,8 @@ class FaultyRegistry : public testing::Test {
     FAIL() << "never succeeds";
   }
 
-  static constexpr std::size_t kIndexBlocks = 4;  // of an index that was made on the way
+  /// An index that a failed call has built may stay: it has at most so many blocks.
+  static constexpr std::size_t kIndexBlocks = 4;
 
   IfcServer server;
   std::string text;
@@ -160,7 +162,7 @@ TEST_F(FaultyRegistry, AddsAnInstanceOrDestroysIt) {
   }
 }
 
-TEST_F(FaultyRegistry, PutsAnInstanceUnderANumberOrLeavesTheOneThatIsThere) {
+TEST_F(FaultyRegistry, InsertsAnInstanceOrKeepsTheOneWithThatNumber) {
   for (const std::size_t number : {std::size_t{12}, std::size_t{20}, SIZE_MAX}) {
     server.Find(nullptr);
     RepeatUntilItSucceeds([&] { server.InsertItem(number, new IfcCartesianPoint); });
@@ -169,7 +171,7 @@ TEST_F(FaultyRegistry, PutsAnInstanceUnderANumberOrLeavesTheOneThatIsThere) {
   }
 }
 
-TEST_F(FaultyRegistry, KeepsAnInstanceThatItHasWhereItCannotBePutUnderASecondNumber) {
+TEST_F(FaultyRegistry, KeepsItsInstanceIfASecondNumberForItFails) {
   IfcUnknown* const point = server.GetItem(std::size_t{7});
   for (std::size_t number = 2000; number < 4000; ++number) {
     RepeatUntilItSucceeds([&] { server.InsertItem(number, point); });
@@ -178,7 +180,7 @@ TEST_F(FaultyRegistry, KeepsAnInstanceThatItHasWhereItCannotBePutUnderASecondNum
   }
 }
 
-TEST_F(FaultyRegistry, FindsAndDeletesInTheEnd) {
+TEST_F(FaultyRegistry, FindsAndDeletesAfterFailures) {
   std::size_t number = 0;
   RepeatUntilItSucceeds([&] { number = server.Find(server.GetItem(std::size_t{12})); });
   EXPECT_EQ(number, 12u);
@@ -189,7 +191,7 @@ TEST_F(FaultyRegistry, FindsAndDeletesInTheEnd) {
   EXPECT_EQ(server.GetItem(std::size_t{60}), nullptr);
 }
 
-TEST_F(FaultyRegistry, KnowsEachGlobalIdentifierOrNone) {
+TEST_F(FaultyRegistry, FindsGlobalIdentifiersAfterFailures) {
   const char* const ids[] = {"0YvctVUKr0kugbFTf53O9L", "0YvctVUKr0kugbFTf53O9M"};
   for (const char* id : ids) {
     _GUID guid = {};
@@ -198,7 +200,7 @@ TEST_F(FaultyRegistry, KnowsEachGlobalIdentifierOrNone) {
   }
 }
 
-TEST_F(FaultyRegistry, MakesAnItemByNameOrNone) {
+TEST_F(FaultyRegistry, CreatesAnItemByNameAfterFailures) {
   IfcUnknown* item = nullptr;
   RepeatUntilItSucceeds([&] {
     item = server.CreateItem("IFCWALL");

@@ -5,7 +5,8 @@
 
 namespace KelIFC {
 
-/// A file of 2x3 with texts, lists, values in place, relationships and a class that is unknown.
+/// Returns the text of a file of release 2x3 with texts, lists, inline values, relationships and an
+/// unknown class.
 inline const std::string& SmallModel() {
   static const std::string text =
       "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\nFILE_SCHEMA(('IFC2X3'));\nENDSEC;\n"

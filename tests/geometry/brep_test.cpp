@@ -14,28 +14,28 @@ BRep OneVertex() {
   return boundary;
 }
 
-TEST(Boundary, IsEmptyWhenNewAndStaysSo) {
+TEST(Boundary, IsEmptyAtFirstAndAfterATransform) {
   BRep boundary;
   boundary <<= Isometry3(Point3(1, 2, 3), Point3(1, 3, 3), Point3(0, 2, 3));
   EXPECT_TRUE(boundary.vertices.empty());
   EXPECT_TRUE(boundary.faces.empty());
 }
 
-TEST(Boundary, KeepsItsNormalsWhenItOnlyMoves) {
+TEST(Boundary, KeepsItsNormalsInATranslation) {
   BRep boundary = OneVertex();
   boundary <<= Isometry3(Point3(1, 2, 3), Point3(1, 2, 3), Point3(1, 2, 3));
   EXPECT_THAT(boundary.vertices[0].position, IsNear3(2, 2, 3));
   EXPECT_THAT(boundary.vertices[0].normal, IsNear3(1, 0, 0));
 }
 
-TEST(Boundary, TurnsPositionsAndNormals) {
+TEST(Boundary, RotatesPositionsAndNormals) {
   BRep boundary = OneVertex();
   boundary <<= Isometry3(Point3(), Point3(0, 1, 0), Point3(-1, 0, 0));
   EXPECT_THAT(boundary.vertices[0].position, IsNear3(0, 1, 0));
   EXPECT_THAT(boundary.vertices[0].normal, IsNear3(0, 1, 0));
 }
 
-TEST(Boundary, IsCopiedWhole) {
+TEST(Boundary, IsCopiedDeeply) {
   const BRep source = OneVertex();
   BRep copy(source);
   BRep assigned;

@@ -7,14 +7,14 @@
 namespace KelIFC {
 namespace {
 
-TEST(Isometry, IsTheIdentityWhenNew) {
+TEST(Isometry, IsTheIdentityAtFirst) {
   const Isometry3 identity;
   EXPECT_EQ(identity.isFrame, 1);
   EXPECT_EQ(identity.tolerance, 1e-10);
   EXPECT_THAT(identity.Apply(Point3(1, 2, 3)), IsNear3(1, 2, 3));
 }
 
-TEST(Isometry, IsAFrameOfThreePoints) {
+TEST(Isometry, IsBuiltFromThreePoints) {
   const Isometry3 frame(Point3(10, 0, 0), Point3(10, 5, 0), Point3(3, 9, 0));
   EXPECT_EQ(frame.isFrame, 1);
   EXPECT_THAT(frame.xAxis, IsNear3(0, 1, 0));
@@ -23,12 +23,12 @@ TEST(Isometry, IsAFrameOfThreePoints) {
   EXPECT_THAT(frame.Apply(Point3(1, 2, 3)), IsNear3(8, 1, 3));
 }
 
-TEST(Isometry, TurnsButDoesNotMoveAVector) {
+TEST(Isometry, RotatesAVectorWithoutTranslation) {
   const Isometry3 frame(Point3(10, 0, 0), Point3(10, 5, 0), Point3(3, 9, 0));
   EXPECT_THAT(frame.Apply(Vector3(1, 2, 3)), IsNear3(-2, 1, 3));
 }
 
-TEST(Isometry, OfCoincidentPointsOnlyMoves) {
+TEST(Isometry, IsATranslationForCoincidentPoints) {
   const Isometry3 frame(Point3(1, 2, 3), Point3(1, 2, 3), Point3(5, 5, 5));
   EXPECT_EQ(frame.isFrame, 0);
   EXPECT_THAT(frame.translation, IsNear3(1, 2, 3));
@@ -37,7 +37,7 @@ TEST(Isometry, OfCoincidentPointsOnlyMoves) {
   EXPECT_THAT(frame.zAxis, IsNear3(0, 0, 1));
 }
 
-TEST(Isometry, OfPointsOnALineOnlyMoves) {
+TEST(Isometry, IsATranslationForPointsOnALine) {
   const Isometry3 frame(Point3(1, 2, 3), Point3(2, 3, 4), Point3(3, 4, 5));
   EXPECT_EQ(frame.isFrame, 0);
   EXPECT_THAT(frame.Apply(Point3(1, 1, 1)), IsNear3(2, 3, 4));

@@ -25,7 +25,7 @@ TEST(Line, IsDegenerateBelowItsTolerance) {
   EXPECT_TRUE(Line3(Point3(), Vector3(), 0.0).IsValid());
 }
 
-TEST(Line, TakesANegativeToleranceForTheUsualOne) {
+TEST(Line, TreatsANegativeToleranceAsTheDefault) {
   EXPECT_FALSE(Line3(Point3(), Vector3(9e-11, 0, 0), -1).IsValid());
   EXPECT_TRUE(Line3(Point3(), Vector3(2e-10, 0, 0), -1).IsValid());
 }

@@ -26,7 +26,7 @@ TEST(Plane, HasADistanceToAPoint) {
   EXPECT_EQ(Plane3().SquaredDistance(Point3(9, 9, 5)), 0);
 }
 
-TEST(Plane, IsMetByALine) {
+TEST(Plane, IntersectsALine) {
   Plane3 plane(Vector3(0, 0, 2), -6);
   Line3 line(Point3(1, 1, 0), Vector3(1, 0, 1), 0.001);
   const LineHit3 hit = plane.Intersect(line);
@@ -34,21 +34,21 @@ TEST(Plane, IsMetByALine) {
   EXPECT_THAT(hit.point, IsNear3(4, 1, 3));
 }
 
-TEST(Plane, IsNotMetByAParallelLine) {
+TEST(Plane, DoesNotIntersectAParallelLine) {
   Plane3 plane(AxisZ, -3);
   Line3 beside(Point3(1, 1, 0), AxisX, 0.001);
   EXPECT_FALSE(plane.Intersect(beside).found);
   EXPECT_THAT(plane.Intersect(beside).point, IsNear3(0, 0, 0));
 }
 
-TEST(Plane, DoesNotCountALineInsideAsMet) {
+TEST(Plane, DoesNotIntersectALineInsideIt) {
   Plane3 plane(AxisZ, -3);
   Line3 inside(Point3(1, 1, 3), AxisX, 0.001);
   EXPECT_FALSE(plane.Intersect(inside).found);
   EXPECT_THAT(plane.Intersect(inside).point, IsNear3(1, 1, 3));
 }
 
-TEST(Plane, IsNotMetIfEitherIsDegenerate) {
+TEST(Plane, DoesNotIntersectIfEitherIsDegenerate) {
   Plane3 plane(AxisZ, -3);
   Plane3 none;
   Line3 line(Point3(1, 1, 0), AxisZ, 0.001);

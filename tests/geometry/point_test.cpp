@@ -9,7 +9,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(Point, IsZeroWhenNew) {
+TEST(Point, IsZeroAtFirst) {
   EXPECT_THAT(Point2(), IsNear2(0, 0));
   EXPECT_THAT(Vector2(), IsNear2(0, 0));
   EXPECT_THAT(Point3(), IsNear3(0, 0, 0));
@@ -52,7 +52,7 @@ TEST(Vector, HasALength) {
   EXPECT_EQ(Distance(Point2(1, 1), Point2(4, 5)), 5);
 }
 
-TEST(Vector, HasLengthOneOnceItIsNormalised) {
+TEST(Vector, HasLengthOneAfterItIsNormalised) {
   Vector3 space(0, 3, 4);
   Normalise(space);
   EXPECT_THAT(space, IsNear3(0, 0.6, 0.8));
@@ -61,7 +61,7 @@ TEST(Vector, HasLengthOneOnceItIsNormalised) {
   EXPECT_THAT(plane, IsNear2(0.6, 0.8));
 }
 
-TEST(Vector, StaysZeroWhenItIsNormalised) {
+TEST(Vector, StaysZeroAfterItIsNormalised) {
   Vector3 space;
   Normalise(space);
   EXPECT_THAT(space, IsNear3(0, 0, 0));
@@ -79,7 +79,7 @@ TEST(Vector, HasAnAngleFromZeroToPi) {
   EXPECT_DOUBLE_EQ(Angle(Vector3(), AxisX), 0);
 }
 
-TEST(Constants, AreUnitsAndZeros) {
+TEST(Constants, AreUnitVectorsAndZeros) {
   EXPECT_THAT(AxisX2, IsNear2(1, 0));
   EXPECT_THAT(AxisY2, IsNear2(0, 1));
   EXPECT_THAT(Zero2, IsNear2(0, 0));

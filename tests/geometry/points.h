@@ -25,7 +25,7 @@ Mvector<Point> Points(std::initializer_list<Point> list) {
 inline Mvector<Point2> Points2(std::initializer_list<Point2> list) { return Points<Point2>(list); }
 inline Mvector<Point3> Points3(std::initializer_list<Point3> list) { return Points<Point3>(list); }
 
-/// The coordinates of a point or a vector, each within a trillionth.
+/// Matches a point or a vector whose coordinates differ by 1e-12 at most.
 MATCHER_P2(IsNear2, x, y, "") {
   const auto isNear = [](double a, double b) { return a == b || std::abs(a - b) < 1e-12; };
   return isNear(arg.x, x) && isNear(arg.y, y);
@@ -36,7 +36,7 @@ MATCHER_P3(IsNear3, x, y, z, "") {
   return isNear(arg.x, x) && isNear(arg.y, y) && isNear(arg.z, z);
 }
 
-// How a failed test prints them.
+// Prints values in messages of failed tests.
 inline void PrintTo(const Point2& p, std::ostream* out) {
   *out << "(" << p.x << ", " << p.y << ")";
 }

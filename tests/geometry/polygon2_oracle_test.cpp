@@ -6,7 +6,8 @@
 
 #include "tests/geometry/points.h"
 
-// The tests of polygons against a second version of them: slow, plain, and of another kind.
+// Compares the tests of polygons with a second implementation, which is slow and simple and uses
+// other methods.
 
 namespace KelIFC {
 namespace {
@@ -14,7 +15,7 @@ namespace {
 constexpr double kTolerance = 0.001;
 const double kPi = std::acos(-1.0);
 
-/// The distance of a point from a segment.
+/// Returns the distance of a point from a segment.
 double DistanceTo(const Point2& point, const Point2& a, const Point2& b) {
   const Vector2 side = b - a;
   const double square = Dot(side, side);
@@ -30,7 +31,7 @@ double DistanceToBoundary(const Mvector<Point2>& polygon, const Point2& point) {
   return least;
 }
 
-/// How often the polygon goes round the point, by the sum of the angles.
+/// Returns how many times the polygon winds around the point, computed from the sum of the angles.
 int WindingNumber(const Mvector<Point2>& polygon, const Point2& point) {
   double sum = 0;
   for (std::size_t i = 0; i < polygon.size(); ++i) {
@@ -43,7 +44,7 @@ int WindingNumber(const Mvector<Point2>& polygon, const Point2& point) {
 
 enum class Side { kOutside, kBoundary, kInside, kUnclear };
 
-/// Unclear is what lies about as far from the boundary as the tolerance.
+/// A point is unclear if its distance from the boundary is about the tolerance.
 Side SideOf(const Mvector<Point2>& polygon, const Point2& point) {
   const double distance = DistanceToBoundary(polygon, point);
   if (distance < 0.5 * kTolerance) return Side::kBoundary;
@@ -51,8 +52,8 @@ Side SideOf(const Mvector<Point2>& polygon, const Point2& point) {
   return WindingNumber(polygon, point) != 0 ? Side::kInside : Side::kOutside;
 }
 
-/// The ray of the crossing test passes a vertex exactly. Its tolerance is 0, so the vertex is not
-/// noticed, and the answer is that of the sides alone.
+/// Returns true if the ray of the crossing test passes exactly through a vertex. The crossing test
+/// then counts both sides that meet there, and its result need not be the true one.
 bool IsRayThroughVertex(const Mvector<Point2>& polygon, const Point2& point) {
   const Box2 box = Polygon2(polygon, kTolerance).BoundingBox();
   const Point2 far(box.max.x + kTolerance + 1.0, box.max.y);
@@ -67,7 +68,7 @@ double Uniform(Random& random, double from, double to) {
   return std::uniform_real_distribution<double>(from, to)(random);
 }
 
-/// A polygon round the origin whose radius changes at random, in either sense.
+/// Returns a polygon around the origin with random radii, in either direction.
 Mvector<Point2> Star(Random& random) {
   const int count = std::uniform_int_distribution<int>(3, 20)(random);
   Mvector<Point2> polygon;
@@ -80,7 +81,8 @@ Mvector<Point2> Star(Random& random) {
   return polygon;
 }
 
-/// Columns of a width of 1 and whole heights, with points in the middle of their sides.
+/// Returns a polygon of columns with the width 1 and integer heights. Its sides have points in
+/// their middle.
 Mvector<Point2> Skyline(Random& random) {
   const int columns = std::uniform_int_distribution<int>(1, 6)(random);
   Mvector<Point2> polygon;
@@ -95,7 +97,7 @@ Mvector<Point2> Skyline(Random& random) {
   return polygon;
 }
 
-/// Compares the tests of a point; gives false if the two versions cannot be compared.
+/// Compares the tests of a point. Returns false if the point is unclear.
 bool Compare(const Mvector<Point2>& polygon, const Point2& point) {
   const Side side = SideOf(polygon, point);
   if (side == Side::kUnclear) return false;
@@ -138,7 +140,8 @@ TEST(PolygonOracle, AgreesOnPointsOfLatticePolygons) {
   EXPECT_GT(compared, 20000);
 }
 
-/// What samples of a segment say. A segment that comes near a vertex without meeting it is unclear.
+/// Classifies samples of a segment. A segment that passes near a vertex without touching it is
+/// unclear.
 Side SideOfSegment(const Mvector<Point2>& polygon, const Point2& from, const Point2& to) {
   constexpr int kSamples = 400;
   bool isUnclear = false;
@@ -181,7 +184,7 @@ TEST(PolygonOracle, FindsAPolygonInsideItselfAndAShrunkOneToo) {
     const Polygon2 view(polygon, kTolerance);
     EXPECT_TRUE(view.IsInside(view, false));
     EXPECT_FALSE(view.IsInside(view, true));
-    // Round the origin every ray meets the polygon once, so a smaller copy is inside.
+    // Each ray from the origin meets the polygon once, so a smaller copy is inside.
     Mvector<Point2> small;
     for (const Point2& point : polygon) small.push_back({point.x / 2, point.y / 2});
     EXPECT_FALSE(Polygon2(small, kTolerance).IsInside(view, false));

@@ -9,7 +9,7 @@ constexpr double kTolerance = 0.001;
 
 const Mvector<Point2> kSquare = Points2({{0, 0}, {4, 0}, {4, 4}, {0, 4}});
 const Mvector<Point2> kClockwise = Points2({{0, 4}, {4, 4}, {4, 0}, {0, 0}});
-/// A square with the upper right quarter missing.
+/// A square without its upper right quarter.
 const Mvector<Point2> kCorner = Points2({{0, 0}, {4, 0}, {4, 2}, {2, 2}, {2, 4}, {0, 4}});
 
 bool HasPoint(const Mvector<Point2>& polygon, Point2 point, bool strict = false) {
@@ -48,13 +48,13 @@ TEST(Polygon, TurnsCounterClockwiseForMinusOne) {
   EXPECT_EQ(Polygon2(kClockwise, kTolerance).Orientation(), 1);
 }
 
-TEST(Polygon, HasNoAreaAndNoTurnForTwoPoints) {
+TEST(Polygon, HasNoAreaAndNoOrientationForTwoPoints) {
   const auto two = Points2({{0, 0}, {4, 4}});
   EXPECT_EQ(Polygon2(two, kTolerance).SignedArea(), 0);
   EXPECT_EQ(Polygon2(two, kTolerance).Orientation(), 0);
 }
 
-TEST(Polygon, HasNoTurnIfItIsFlatterThanItsTolerance) {
+TEST(Polygon, HasNoOrientationIfItIsFlatterThanItsTolerance) {
   const auto flat = Points2({{0, 0}, {4, 0}, {4, 0.0005}, {0, 0.0005}});
   EXPECT_EQ(Polygon2(flat, kTolerance).Orientation(), 0);
   const auto point = Points2({{3, 3}, {3, 3}, {3, 3}});
@@ -129,7 +129,7 @@ TEST(Polygon, HasAPolygonInside) {
   EXPECT_FALSE(HasPolygon(kSquare, kClockwise, true));
 }
 
-TEST(Polygon, SurvivesCoordinatesThatAreNoNumbers) {
+TEST(Polygon, SurvivesUndefinedCoordinates) {
   for (const double bad : {kNoNumber, kInfinity, -kInfinity}) {
     const auto polygon = Points2({{0, 0}, {bad, 0}, {4, bad}, {0, 4}});
     const Polygon2 view(polygon, kTolerance);

@@ -13,7 +13,7 @@ Vector3 NormalOf(std::initializer_list<Point3> points) {
   return PolygonNormal(Points3(points), kTolerance);
 }
 
-TEST(PolygonNormal, OfATriangleHasLengthOne) {
+TEST(PolygonNormal, HasLengthOneForATriangle) {
   EXPECT_THAT(NormalOf({{0, 0, 0}, {3, 0, 0}, {0, 4, 0}}), IsNear3(0, 0, 1));
   EXPECT_THAT(NormalOf({{0, 0, 5}, {0, 4, 5}, {3, 0, 5}}), IsNear3(0, 0, -1));
   EXPECT_THAT(NormalOf({{7, 0, 0}, {7, 1, 0}, {7, 0, 1}}), IsNear3(1, 0, 0));
@@ -35,7 +35,7 @@ TEST(PolygonNormal, SkipsPointsOnALineWithTheFirstTwo) {
 }
 
 TEST(PolygonNormal, IsNegatedWhenThePointsAreReversed) {
-  // The first three points are a reflex corner.
+  // The first three points form a reflex corner.
   auto arrow = Points3({{4, 0, 0}, {1, 0, 0}, {0, -3, 0}, {5, 5, 0}});
   const Vector3 normal = PolygonNormal(arrow, kTolerance);
   std::reverse(arrow.begin(), arrow.end());
@@ -44,14 +44,14 @@ TEST(PolygonNormal, IsNegatedWhenThePointsAreReversed) {
   EXPECT_NEAR(Length(normal), 1, 1e-12);
 }
 
-TEST(PolygonNormal, OfAReflexCornerIsThatOfTheWholePolygon) {
+TEST(PolygonNormal, IgnoresAReflexCornerAtTheStart) {
   EXPECT_THAT(
       NormalOf({{2, 1, 0}, {0, 0, 0}, {1, 2, 0}, {9, 9, 0}, {-9, 9, 0}, {-9, -9, 0}, {9, -9, 0}}),
       IsNear3(0, 0, 1));
 }
 
-TEST(PolygonNormal, OfAPolygonWithoutAreaIsTheNegatedAxis) {
-  // There and back again.
+TEST(PolygonNormal, IsTheNegatedAxisForAPolygonWithoutArea) {
+  // The polygon runs back on its own sides.
   EXPECT_THAT(NormalOf({{0, 0, 0}, {1, 0, 0}, {1, 1, 0}, {1, 0, 0}}), IsNear3(0, 0, -1));
 }
 

@@ -8,7 +8,7 @@
 namespace KelIFC {
 namespace {
 
-/// What the classifier says of an outline; the outputs begin at -1.
+/// The result of Poly2RegularFigure for an outline. The outputs start at -1.
 struct Figure {
   explicit Figure(const Mvector<Point2>& outline)
       : kind(Poly2RegularFigure(outline, 0.001, a, b, c, d)) {}
@@ -20,7 +20,7 @@ struct Figure {
   EGEO_P2RF_PROFILES kind;
 };
 
-/// The same outline from another first point.
+/// Returns the same outline, starting at another point.
 Mvector<Point2> Rotated(Mvector<Point2> outline, std::size_t by) {
   std::rotate(outline.begin(), outline.begin() + by, outline.end());
   return outline;
@@ -73,7 +73,7 @@ TEST(RegularFigure, IsARectangleWithinTheTolerance) {
   EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0.002}, {2, 1}, {0, 1}})).kind, EGEO_P2RF_NONE);
 }
 
-TEST(RegularFigure, IsNoRectangleForCornersOutOfTheirOrder) {
+TEST(RegularFigure, IsNoRectangleForCornersInAnotherOrder) {
   EXPECT_EQ(Figure(Points2({{0, 0}, {2, 1}, {2, 0}, {0, 1}})).kind, EGEO_P2RF_NONE);
   EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0}, {2, 1}, {2, 0}})).kind, EGEO_P2RF_NONE);
   EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0}, {0, 0}, {0, 1}})).kind, EGEO_P2RF_NONE);
@@ -84,7 +84,7 @@ TEST(RegularFigure, IsNoRectangleForARhombus) {
   EXPECT_EQ(Figure(Points2({{0, 0}, {2, 0}, {2, 1}, {0.5, 1}})).kind, EGEO_P2RF_NONE);
 }
 
-TEST(RegularFigure, IsATeeFromAnyPointInEitherSense) {
+TEST(RegularFigure, IsATeeFromAnyPointInEitherDirection) {
   for (std::size_t first = 0; first < 8; ++first) {
     for (const auto& turned : {Rotated(kTee, first), Reversed(Rotated(kTee, first))}) {
       const Figure figure(turned);
@@ -101,7 +101,7 @@ TEST(RegularFigure, IsATeeAtAnyHeight) {
   EXPECT_EQ(Figure(Moved(kTee, 0, -0.25)).kind, EGEO_P2RF_T);
 }
 
-TEST(RegularFigure, IsNoTeeBesideTheAxisOrUpsideDown) {
+TEST(RegularFigure, IsNoTeeIfItIsOffTheAxisOrUpsideDown) {
   const Figure beside(Moved(kTee, 0.2, 0));
   EXPECT_EQ(beside.kind, EGEO_P2RF_NONE);
   EXPECT_NEAR(beside.b, 0.5, 1e-12);
@@ -126,7 +126,7 @@ TEST(RegularFigure, IsACircleOfTenPointsOrMore) {
   EXPECT_EQ(Figure(Round(9, 0.2)).kind, EGEO_P2RF_NONE);
 }
 
-TEST(RegularFigure, IsNoCircleRoundAnotherCentre) {
+TEST(RegularFigure, IsNoCircleAroundAnotherCentre) {
   EXPECT_EQ(Figure(Moved(Round(16, 0.2), 0.1, 0)).kind, EGEO_P2RF_NONE);
 }
 
@@ -136,7 +136,7 @@ TEST(RegularFigure, IsNothingForOtherOutlines) {
   EXPECT_EQ(Figure(Points2({{0, 0}, {1, 0}, {1, 1}, {0.5, 2}, {0, 1}})).kind, EGEO_P2RF_NONE);
 }
 
-TEST(RegularFigure, SurvivesCoordinatesThatAreNoNumbers) {
+TEST(RegularFigure, SurvivesUndefinedCoordinates) {
   for (const double bad : {kNoNumber, kInfinity}) {
     EXPECT_EQ(Figure(Points2({{0, 0}, {bad, 0}, {1, 1}, {0, 1}})).kind, EGEO_P2RF_NONE);
     auto tee = kTee;

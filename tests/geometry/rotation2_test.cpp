@@ -14,7 +14,7 @@ TEST(Rotation, TurnsCounterClockwiseForAPositiveAngle) {
   EXPECT_THAT(Rotate(Vector3(1, 0, 5), quarter), IsNear3(0, 1, 5));
 }
 
-TEST(DirectionAngle, IsZeroForNoDirection) {
+TEST(DirectionAngle, IsZeroForTheZeroDirection) {
   EXPECT_EQ(DirectionAngle(0, 0), 0);
   EXPECT_EQ(DirectionAngle(-0.0, -0.0), 0);
 }
@@ -28,7 +28,7 @@ TEST(DirectionAngle, HasTheSignOfY) {
   EXPECT_DOUBLE_EQ(DirectionAngle(-1, -1), -3 * kPi / 4);
 }
 
-TEST(DirectionAngle, TakesAnyZeroForPositive) {
+TEST(DirectionAngle, TreatsEitherZeroAsPositive) {
   EXPECT_DOUBLE_EQ(DirectionAngle(-1, 0), kPi);
   EXPECT_DOUBLE_EQ(DirectionAngle(-1, -0.0), kPi);
   EXPECT_DOUBLE_EQ(DirectionAngle(1, 0), 0);

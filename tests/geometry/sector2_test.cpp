@@ -5,7 +5,7 @@
 namespace KelIFC {
 namespace {
 
-/// Both ends lie on the line of the equation.
+/// Checks that both ends are on the line of the equation.
 void ExpectEquationHolds(const Sector2& s) {
   EXPECT_DOUBLE_EQ(s.a * s.start.x + s.b * s.start.y + s.c, 0);
   EXPECT_DOUBLE_EQ(s.a * s.end.x + s.b * s.end.y + s.c, 0);
@@ -19,7 +19,7 @@ TEST(Sector, HasTheEquationOfItsEnds) {
   ExpectEquationHolds(sector);
 }
 
-TEST(Sector, FollowsAChangeOfAnEnd) {
+TEST(Sector, UpdatesItsEquationWhenAnEndChanges) {
   Sector2 sector(Point2(1, 2), Point2(4, 6));
   sector.state = 1;
   sector.SetStart(Point2(0, 1));

@@ -7,7 +7,7 @@ namespace {
 
 constexpr double kTolerance = 0.001;
 
-/// Two segments by their ends.
+/// Classifies the segments from `a` to `b` and from `c` to `d`.
 SegmentContact ClassifyEnds(Point2 a, Point2 b, Point2 c, Point2 d, std::int16_t mode = 0) {
   Segment2 first(a, b, kTolerance);
   first.mode = mode;
@@ -59,14 +59,14 @@ TEST(Segment, CoincidesWithAPointInBothCoordinates) {
   EXPECT_FALSE(AreCoincident(Point2(1, 1), Point2(1, 0.4), 0.5));
 }
 
-TEST(SegmentContact, OfAPointIsACrossing) {
+TEST(SegmentContact, IsACrossingForAPoint) {
   EXPECT_EQ(ClassifyEnds({1, 1}, {1, 1}, {5, 5}, {6, 6}).code, 1);
   const auto second = ClassifyEnds({5, 5}, {6, 6}, {2, 1}, {2, 1});
   EXPECT_EQ(second.code, 1);
   EXPECT_THAT(second.point, IsNear2(2, 1));
 }
 
-TEST(SegmentContact, TellsASharedEnd) {
+TEST(SegmentContact, ReportsASharedEnd) {
   const auto first = ClassifyEnds({0, 0}, {1, 0}, {5, 5}, {0, 0});
   EXPECT_EQ(first.code, 2);
   EXPECT_THAT(first.point, IsNear2(0, 0));
@@ -75,13 +75,13 @@ TEST(SegmentContact, TellsASharedEnd) {
   EXPECT_THAT(last.point, IsNear2(1, 0));
 }
 
-TEST(SegmentContact, TellsACrossing) {
+TEST(SegmentContact, ReportsACrossing) {
   const auto contact = ClassifyEnds({0, 0}, {2, 2}, {0, 2}, {2, 0});
   EXPECT_EQ(contact.code, 1);
   EXPECT_THAT(contact.point, IsNear2(1, 1));
 }
 
-TEST(SegmentContact, TellsATouch) {
+TEST(SegmentContact, ReportsATouch) {
   const auto contact = ClassifyEnds({0, 0}, {4, 0}, {2, 0}, {2, 3});
   EXPECT_EQ(contact.code, 3);
   EXPECT_THAT(contact.point, IsNear2(2, 0));
@@ -93,13 +93,13 @@ TEST(SegmentContact, IsNoneForSegmentsThatDoNotMeet) {
   EXPECT_EQ(ClassifyEnds({0, 0}, {4, 0}, {6, 0}, {9, 0}).code, 0);
 }
 
-TEST(SegmentContact, OfWholeLinesIsFoundOutsideOfTheSegments) {
+TEST(SegmentContact, IsFoundOutsideTheSegmentsForWholeLines) {
   const auto contact = ClassifyEnds({0, 0}, {4, 0}, {5, 1}, {5, 3}, 1);
   EXPECT_EQ(contact.code, 1);
   EXPECT_THAT(contact.point, IsNear2(5, 0));
 }
 
-TEST(SegmentContact, OfAnOverlapIsTheLastEndInside) {
+TEST(SegmentContact, IsTheLastEndInsideForAnOverlap) {
   const auto contact = ClassifyEnds({0, 0}, {4, 0}, {2, 0}, {9, 0});
   EXPECT_EQ(contact.code, 3);
   EXPECT_THAT(contact.point, IsNear2(4, 0));

@@ -7,13 +7,13 @@
 namespace KelIFC {
 namespace {
 
-TEST(VerticalProjection, MovesANodeAlongZ) {
+TEST(VerticalProjection, MovesAPointAlongZ) {
   Point3 node(1, 2, 3);
   project_node_vertically2xx(node, Plane3(Vector3(1, 0, 1), -10));
   EXPECT_THAT(node, IsNear3(1, 2, 9));
 }
 
-TEST(VerticalProjection, LeavesTheNodeBeforeAVerticalPlane) {
+TEST(VerticalProjection, LeavesThePointForAVerticalPlane) {
   Point3 node(1, 2, 3);
   project_node_vertically2xx(node, Plane3(AxisX, -1));
   EXPECT_THAT(node, IsNear3(1, 2, 3));
@@ -21,13 +21,13 @@ TEST(VerticalProjection, LeavesTheNodeBeforeAVerticalPlane) {
   EXPECT_THAT(node, IsNear3(1, 2, 3));
 }
 
-TEST(VerticalProjection, LeavesTheNodeWithoutAPlane) {
+TEST(VerticalProjection, LeavesThePointForADegeneratePlane) {
   Point3 node(1, 2, 3);
   project_node_vertically2xx(node, Plane3());
   EXPECT_THAT(node, IsNear3(1, 2, 3));
 }
 
-/// A cut along the x axis of the world, on a plane at height 5.
+/// A cut along the x axis of the world, through a plane at the height 5.
 class Carver : public testing::Test {
  protected:
   void Cut(Point2 a, Point2 b) { SetCarver2xx(a, b, localPlane, plane, sector, line, isSet); }
@@ -39,7 +39,7 @@ class Carver : public testing::Test {
   bool isSet = false;
 };
 
-TEST_F(Carver, BeginsWithTheFirstEdge) {
+TEST_F(Carver, StartsWithTheFirstEdge) {
   Cut({1, 7}, {4, 9});
   EXPECT_TRUE(isSet);
   EXPECT_THAT(sector.start, IsNear2(1, 5));
@@ -62,23 +62,24 @@ TEST_F(Carver, GrowsAtBothEnds) {
   EXPECT_THAT(sector.end, IsNear2(6, 5));
 }
 
-TEST_F(Carver, ComparesItsStartWithTheFirstNodeAndItsEndWithTheSecond) {
+TEST_F(Carver, ComparesItsStartWithTheFirstPointAndItsEndWithTheSecond) {
   Cut({1, 0}, {4, 0});
   Cut({6, 0}, {0, 0});
   EXPECT_THAT(sector.start, IsNear2(1, 5));
   EXPECT_THAT(sector.end, IsNear2(4, 5));
 }
 
-TEST_F(Carver, ComparesWithTheFootAndTakesTheNode) {
+TEST_F(Carver, ComparesTheFootAndStoresThePoint) {
   line.direction = Vector3(1, 1, 0);
   Cut({1, 0}, {4, 0});
-  // The foot of (0, 2) is (1, 1): not below the start, though the node is.
+  // The foot of (0, 2) is (1, 1). It is not before the start of the sector, but the point itself
+  // is.
   Cut({0, 2}, {9, 0});
   EXPECT_THAT(sector.start, IsNear2(1, 5));
   EXPECT_THAT(sector.end, IsNear2(9, 5));
 }
 
-TEST_F(Carver, LeavesEverythingForAnEdgeAcrossTheLine) {
+TEST_F(Carver, ChangesNothingForAnEdgeAcrossTheLine) {
   Cut({1, 0}, {1.001, 9});
   EXPECT_FALSE(isSet);
   EXPECT_THAT(sector.end, IsNear2(0, 0));
@@ -87,7 +88,7 @@ TEST_F(Carver, LeavesEverythingForAnEdgeAcrossTheLine) {
   EXPECT_THAT(sector.start, IsNear2(1, 5));
 }
 
-TEST_F(Carver, LeavesEverythingForADegenerateLine) {
+TEST_F(Carver, ChangesNothingForADegenerateLine) {
   line.direction = Vector3();
   Cut({1, 0}, {4, 0});
   EXPECT_FALSE(isSet);

@@ -16,7 +16,7 @@ TEST(Triangle, IsDegenerateWithASmallHeight) {
   EXPECT_FALSE(IsDegenerateTriangle(Point3(0, 0, 0), Point3(10, 0, 0), Point3(5, 0, 0.3), 0.2));
 }
 
-TEST(Triangle, OfOnePointIsDegenerate) {
+TEST(Triangle, IsDegenerateIfItIsAPoint) {
   EXPECT_TRUE(IsDegenerateTriangle(Point3(), Point3(), Point3(), 1e-7));
 }
 
@@ -33,7 +33,7 @@ TEST(Triangle, TurnsCounterClockwiseForMinusOne) {
   EXPECT_EQ(TriangleOrientation(a, b, Point2(5, 0.1), 0.2), 0);
 }
 
-TEST(Triangle, HasNoTurnIfItIsButAPoint) {
+TEST(Triangle, HasNoOrientationIfItIsAPoint) {
   EXPECT_EQ(TriangleOrientation(Point2(), Point2(0.1, 0), Point2(0, 0.1), 0.2), 0);
   EXPECT_EQ(TriangleOrientation(Point2(), Point2(), Point2(), 0.0), 0);
 }

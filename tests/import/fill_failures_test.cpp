@@ -11,7 +11,8 @@ namespace {
 using testing::ElementsAre;
 using Ref = ModelBuilder::Ref;
 
-/// A model with two elements of each kind, whose objects or sections cannot all be made.
+/// A model with two elements of each kind, called "1" and "2". The tests let the creation of one of
+/// their objects fail.
 class FillFailure : public ConversionTest<Release2x3> {
  protected:
   void SetUp() override {
@@ -31,7 +32,8 @@ class FillFailure : public ConversionTest<Release2x3> {
     Convert();
   }
 
-  /// The status of the first call, and that of the second, which gives what there is.
+  /// Returns the status of the first call of `get`, which fills the collection, and of a second
+  /// one.
   template <class Collection>
   std::vector<HRESULT> AskTwice(HRESULT (IGeoStructure::*get)(Collection**)) {
     ComPtr<Collection> first;
@@ -40,9 +42,16 @@ class FillFailure : public ConversionTest<Release2x3> {
     EXPECT_EQ(first.Get() != nullptr, SUCCEEDED(status));
     return {status, ((*structure).*get)(second.Put())};
   }
+
+  /// Expects an error and these walls if only `successes` objects of a class can be created.
+  void ExpectWalls(const std::vector<std::wstring>& names, const CLSID& failing, int successes) {
+    const FailingClass failure(failing, successes, E_OUTOFMEMORY);
+    EXPECT_THAT(AskTwice(&IGeoStructure::get_Walls), ElementsAre(E_OUTOFMEMORY, S_OK));
+    EXPECT_EQ(NamesOf(GetWalls()), names);
+  }
 };
 
-TEST_F(FillFailure, IsToldOnceIfAClassCannotBeMadeAtAll) {
+TEST_F(FillFailure, IsReportedOnceIfAClassIsMissing) {
   const MissingClass column(CLSID_CoGeoColumn);
   const MissingClass wall(CLSID_CoGeoWall);
   const MissingClass plate(CLSID_CoGeoPlate);
@@ -54,7 +63,7 @@ TEST_F(FillFailure, IsToldOnceIfAClassCannotBeMadeAtAll) {
   EXPECT_TRUE(GetColumns().empty());
 }
 
-TEST_F(FillFailure, LeavesOutAColumnOrABeamThatCannotBeMade) {
+TEST_F(FillFailure, LeavesOutAColumnOrABeamThatCannotBeCreated) {
   const FailingClass column(CLSID_CoGeoColumn, 1, E_OUTOFMEMORY);
   const FailingClass beam(CLSID_CoGeoBeam, 0, E_OUTOFMEMORY);
   EXPECT_THAT(AskTwice(&IGeoStructure::get_Columns), ElementsAre(S_OK, S_OK));
@@ -62,37 +71,27 @@ TEST_F(FillFailure, LeavesOutAColumnOrABeamThatCannotBeMade) {
   EXPECT_TRUE(GetBeams().empty());
 }
 
-TEST_F(FillFailure, LeavesOutAColumnWithoutItsSection) {
+TEST_F(FillFailure, LeavesOutAColumnWhoseSectionCannotBeCreated) {
   const FailingClass section(CLSID_CoGeoSectionC, 1, E_OUTOFMEMORY);
   EXPECT_THAT(AskTwice(&IGeoStructure::get_Columns), ElementsAre(S_OK, S_OK));
   EXPECT_THAT(NamesOf(GetColumns()), ElementsAre(L"1"));
 }
 
-TEST_F(FillFailure, EndsTheWallsAtOneThatCannotBeMade) {
-  const FailingClass wall(CLSID_CoGeoWall, 1, E_OUTOFMEMORY);
-  EXPECT_THAT(AskTwice(&IGeoStructure::get_Walls), ElementsAre(E_OUTOFMEMORY, S_OK));
-  EXPECT_THAT(NamesOf(GetWalls()), ElementsAre(L"1"));
+TEST_F(FillFailure, StopsAtAWallThatCannotBeCreated) { ExpectWalls({L"1"}, CLSID_CoGeoWall, 1); }
+
+TEST_F(FillFailure, StopsAtAWallWhoseSectionCannotBeCreated) {
+  ExpectWalls({L"1"}, CLSID_CoGeoSectionThick, 0);
 }
 
-TEST_F(FillFailure, EndsTheWallsAtOneWithoutItsSection) {
-  const FailingClass section(CLSID_CoGeoSectionThick, 0, E_OUTOFMEMORY);
-  EXPECT_THAT(AskTwice(&IGeoStructure::get_Walls), ElementsAre(E_OUTOFMEMORY, S_OK));
-  EXPECT_THAT(NamesOf(GetWalls()), ElementsAre(L"1"));
+TEST_F(FillFailure, StopsAtAWallWhoseDoorCannotBeCreated) {
+  ExpectWalls({L"1"}, CLSID_CoGeoDoor, 0);
 }
 
-TEST_F(FillFailure, EndsTheWallsAtADoorThatCannotBeMade) {
-  const FailingClass door(CLSID_CoGeoDoor, 0, E_OUTOFMEMORY);
-  EXPECT_THAT(AskTwice(&IGeoStructure::get_Walls), ElementsAre(E_OUTOFMEMORY, S_OK));
-  EXPECT_THAT(NamesOf(GetWalls()), ElementsAre(L"1"));
+TEST_F(FillFailure, StopsAtAWallWhoseCollectionOfDoorsCannotBeCreated) {
+  ExpectWalls({L"1", L"2"}, CLSID_CoGeoDoors, 1);
 }
 
-TEST_F(FillFailure, EndsTheWallsAtDoorsThatCannotBeGathered) {
-  const FailingClass doors(CLSID_CoGeoDoors, 1, E_OUTOFMEMORY);
-  EXPECT_THAT(AskTwice(&IGeoStructure::get_Walls), ElementsAre(E_OUTOFMEMORY, S_OK));
-  EXPECT_THAT(NamesOf(GetWalls()), ElementsAre(L"1", L"2"));
-}
-
-TEST_F(FillFailure, EndsThePlatesAtAHoleThatCannotBeMade) {
+TEST_F(FillFailure, StopsAtAPlateWhoseHoleCannotBeCreated) {
   const FailingClass hole(CLSID_CoGeoHole, 1, E_OUTOFMEMORY);
   EXPECT_THAT(AskTwice(&IGeoStructure::get_Plates), ElementsAre(E_OUTOFMEMORY, S_OK));
   EXPECT_THAT(NamesOf(GetPlates()), ElementsAre(L"1", L"2"));

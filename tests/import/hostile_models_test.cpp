@@ -2,8 +2,8 @@
 
 #include "tests/import/structure_reader.h"
 
-// Models whose parts meet themselves or come in great numbers: the conversion ends, and what it
-// gives is defined. A cost that grows with the square of the model would make these tests last for
+// Models with cycles, or with very many instances of one kind. The conversion must end with a
+// defined result. If its time grew with the square of the size of the model, these tests would take
 // minutes.
 
 namespace KelIFC {
@@ -17,7 +17,7 @@ constexpr int kMany = 20000;
 
 class HostileModel : public ConversionTest<Release2x3> {};
 
-TEST_F(HostileModel, OfPlacementsInARowGivesAColumnForEach) {
+TEST_F(HostileModel, WithALongChainOfPlacementsHasAllColumns) {
   const Ref body = model.Body({model.Extrusion(model.Circle(0.2), 3)});
   const Ref step = model.Turned({1, 0, 0}, {0, 1, 0});
   Ref placement = "$";
@@ -28,12 +28,12 @@ TEST_F(HostileModel, OfPlacementsInARowGivesAColumnForEach) {
   Convert();
   const auto columns = GetColumns();
   ASSERT_THAT(columns, SizeIs(kMany));
-  // Four steps lead back to the start.
+  // Each placement turns by 90 degrees, so that four of them lead back to the start.
   EXPECT_THAT(PointsOf(*columns[4]), testing::ElementsAre(IsAt(1, 0, 0), IsAt(1, 0, 3)));
   EXPECT_THAT(PointsOf(*columns[kMany - 4]), testing::ElementsAre(IsAt(1, 0, 0), IsAt(1, 0, 3)));
 }
 
-TEST_F(HostileModel, OfPlacementsInARingGoesRoundOnce) {
+TEST_F(HostileModel, WithACycleOfPlacementsFollowsItOnce) {
   constexpr int kRing = kMany;
   const Ref body = model.Body({model.Extrusion(model.Circle(0.2), 3)});
   const Ref step = model.Placement({1, 0, 0});
@@ -51,7 +51,7 @@ TEST_F(HostileModel, OfPlacementsInARingGoesRoundOnce) {
   }
 }
 
-TEST_F(HostileModel, OfClippingsInARowGivesAColumnForEach) {
+TEST_F(HostileModel, WithALongChainOfClippingsHasAllColumns) {
   Ref item = model.Extrusion(model.Circle(0.2), 3);
   for (int i = 0; i < kMany; ++i) {
     item = model.Clipping(item);
@@ -61,7 +61,7 @@ TEST_F(HostileModel, OfClippingsInARowGivesAColumnForEach) {
   EXPECT_THAT(GetColumns(), SizeIs(kMany));
 }
 
-TEST_F(HostileModel, OfClippingsInARingGivesNothing) {
+TEST_F(HostileModel, WithACycleOfClippingsHasNoColumns) {
   for (int i = 0; i < kMany; ++i) {
     const Ref next = "#" + std::to_string(100001 + (i + 1) % kMany);
     model.AddAs(100001 + i, "IFCBOOLEANCLIPPINGRESULT(.DIFFERENCE.," + next + "," + next + ")");
@@ -73,7 +73,7 @@ TEST_F(HostileModel, OfClippingsInARingGivesNothing) {
   EXPECT_THAT(GetColumns(), IsEmpty());
 }
 
-TEST_F(HostileModel, OfMapsInARingGivesNothing) {
+TEST_F(HostileModel, WithACycleOfMapsHasNoColumns) {
   for (int i = 0; i < kMany; ++i) {
     const auto number = [](int base, int at) { return "#" + std::to_string(base + at % kMany); };
     model.AddAs(100000 + i, "IFCMAPPEDITEM(" + number(200000, i) + ",$)");
@@ -90,7 +90,7 @@ TEST_F(HostileModel, OfMapsInARingGivesNothing) {
   EXPECT_THAT(GetPlates(), IsEmpty());
 }
 
-TEST_F(HostileModel, OfProfileCurvesThatAreTheirOwnPartsEnds) {
+TEST_F(HostileModel, WithCurvesThatContainThemselvesEnds) {
   model.AddAs(90001, "IFCCOMPOSITECURVE((#90002,#90002),.F.)");
   model.AddAs(90002, "IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#90001)");
   model.AddAs(90003,
@@ -112,7 +112,7 @@ TEST_F(HostileModel, OfProfileCurvesThatAreTheirOwnPartsEnds) {
   EXPECT_LE(GetPlates().size(), 3u);
 }
 
-TEST_F(HostileModel, OfElementsThatVoidAndFillThemselvesEnds) {
+TEST_F(HostileModel, WithElementsThatVoidAndFillThemselvesEnds) {
   const Ref placement = model.Local(model.Placement({0, 0, 0}));
   const Ref box = model.Body({model.Extrusion(model.Rectangle(5, 0.2), 3)});
   const Ref wall = model.Wall(placement, box);
@@ -129,7 +129,7 @@ TEST_F(HostileModel, OfElementsThatVoidAndFillThemselvesEnds) {
   EXPECT_THAT(GetPlates(), SizeIs(1));
 }
 
-TEST_F(HostileModel, OfElementsWithOneGlobalIdentifierGivesThemAll) {
+TEST_F(HostileModel, WithOneIdentifierForAllElementsHasThemAll) {
   const Ref body = model.Body({model.Extrusion(model.Circle(0.2), 3)});
   for (int i = 0; i < kMany; ++i) {
     model.Add(ModelBuilder::ProductText("IFCCOLUMN", "$", body, "C", "", "0YvctVUKr0kugbFTf53O9L"));
@@ -138,7 +138,7 @@ TEST_F(HostileModel, OfElementsWithOneGlobalIdentifierGivesThemAll) {
   EXPECT_THAT(GetColumns(), SizeIs(kMany));
 }
 
-TEST_F(HostileModel, OfManyMapsOfManyUnknownItemsGivesNothing) {
+TEST_F(HostileModel, WithManyMapsOfManyUnknownItemsHasNoColumns) {
   std::string items;
   for (int i = 0; i < kMany; ++i) items += (i == 0 ? "#" : ",#") + std::to_string(500000);
   model.AddAs(500000, "IFCBOUNDINGBOX($,1.,1.,1.)");
@@ -151,7 +151,7 @@ TEST_F(HostileModel, OfManyMapsOfManyUnknownItemsGivesNothing) {
   EXPECT_THAT(GetBeams(), IsEmpty());
 }
 
-TEST_F(HostileModel, OfManySectionsFindsEachOfThem) {
+TEST_F(HostileModel, WithManySectionsFindsEachOfThem) {
   for (int i = 1; i <= kMany; ++i) {
     model.Column("$", model.Body({model.Extrusion(model.Circle(0.01 * i), 3)}));
   }
@@ -160,7 +160,7 @@ TEST_F(HostileModel, OfManySectionsFindsEachOfThem) {
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Sections)), kMany);
 }
 
-TEST_F(HostileModel, OfManyStoreysTellsTheStoreyOfEachElement) {
+TEST_F(HostileModel, WithManyStoreysFindsTheStoreyOfEachElement) {
   const Ref body = model.Body({model.Extrusion(model.Circle(0.2), 3)});
   const auto guid = [](char kind, int i) {
     std::string text = std::to_string(i);
@@ -182,7 +182,7 @@ TEST_F(HostileModel, OfManyStoreysTellsTheStoreyOfEachElement) {
   EXPECT_EQ(number, kMany);
 }
 
-TEST_F(HostileModel, OfNullReferencesGivesWhatIsLeft) {
+TEST_F(HostileModel, WithDanglingReferencesHasOnlyFoots) {
   const std::string classes[] = {"IFCCOLUMN", "IFCBEAM", "IFCWALL", "IFCFOOTING"};
   for (const std::string& entity : classes) {
     model.Product(entity, "#99999", "#99999");
@@ -204,8 +204,8 @@ TEST_F(HostileModel, OfNullReferencesGivesWhatIsLeft) {
   EXPECT_THAT(GetFoots(), SizeIs(4));
 }
 
-TEST_F(HostileModel, OfOnePlaceholderForEverythingGivesNothing) {
-  // A reference to a class that does not belong there.
+TEST_F(HostileModel, WithReferencesToAWrongClassHasNoElements) {
+  // No attribute may refer to an instance of this class.
   const Ref person = model.Add("IFCPERSON($,$,$,$,$,$,$,$)");
   const Ref solid =
       model.Add("IFCEXTRUDEDAREASOLID(" + person + "," + person + "," + person + ",$)");

@@ -2,7 +2,7 @@
 
 #include "kelifc/geo/ifc_server_object.h"
 
-#include "tests/import/family.h"
+#include "tests/import/release_test.h"
 
 namespace KelIFC {
 namespace {
@@ -16,17 +16,17 @@ double ScaleOf(const ComPtr<IIFCServer>& server) {
 }
 
 template <class Release>
-class LengthScale : public FamilyTest<Release> {
+class LengthScale : public ReleaseTest<Release> {
  protected:
-  /// The scale of a project that assigns these units, among instances.
+  /// Returns the scale of a project that assigns `units`; `instances` is the text of the units.
   static double Scale(const std::string& units, const std::string& instances) {
     return ScaleOf(
-        FamilyTest<Release>::Load("#1=IFCPROJECT('3It3CdvhLLoRj6paiTsQpU',$,$,$,$,$,$,(),#2);\n"
-                                  "#2=IFCUNITASSIGNMENT(" +
-                                  units + ");\n" + instances));
+        ReleaseTest<Release>::Load("#1=IFCPROJECT('3It3CdvhLLoRj6paiTsQpU',$,$,$,$,$,$,(),#2);\n"
+                                   "#2=IFCUNITASSIGNMENT(" +
+                                   units + ");\n" + instances));
   }
 
-  /// The scale of an inch-like unit: a value and the unit that it counts.
+  /// Returns the scale of a unit like the inch: `value` times `component`.
   static double Converted(const std::string& value, const std::string& component,
                           const std::string& type = ".LENGTHUNIT.") {
     return Scale("(#20,#11)", std::string(kMetre) + kMillimetre + kRadian +
@@ -36,7 +36,7 @@ class LengthScale : public FamilyTest<Release> {
                                   value + "," + component + ");\n");
   }
 };
-TYPED_TEST_SUITE(LengthScale, Families);
+TYPED_TEST_SUITE(LengthScale, ConvertedReleases);
 
 TYPED_TEST(LengthScale, IsOneWithoutAProject) { EXPECT_EQ(ScaleOf(this->Load(kMillimetre)), 1.0); }
 
@@ -59,7 +59,7 @@ TYPED_TEST(LengthScale, IsThePrefixOfTheUnit) {
   EXPECT_EQ(this->Scale("(#13)", "#13=IFCSIUNIT(*,.LENGTHUNIT.,.KILO.,.METRE.);\n"), 1000.0);
 }
 
-TYPED_TEST(LengthScale, DoesNotAskForTheNameOfTheUnit) {
+TYPED_TEST(LengthScale, IgnoresTheNameOfTheUnit) {
   EXPECT_EQ(this->Scale("(#13)", "#13=IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.GRAM.);\n"), 0.001);
 }
 
@@ -77,17 +77,17 @@ TYPED_TEST(LengthScale, OfAConvertedUnitIsItsValueInMetres) {
   EXPECT_DOUBLE_EQ(this->Converted("IFCRATIOMEASURE(0.0254)", "#10"), 0.0254);
 }
 
-TYPED_TEST(LengthScale, OfAConvertedUnitDoesNotAskForItsOwnType) {
+TYPED_TEST(LengthScale, OfAConvertedUnitIgnoresItsOwnType) {
   EXPECT_DOUBLE_EQ(this->Converted("IFCLENGTHMEASURE(2.)", "#10", ".PLANEANGLEUNIT."), 2.0);
 }
 
-TYPED_TEST(LengthScale, PassesOverConvertedUnitsOfOtherKinds) {
+TYPED_TEST(LengthScale, SkipsConvertedUnitsOfOtherKinds) {
   EXPECT_EQ(this->Converted("IFCLENGTHMEASURE(0.0175)", "#12"), 0.001);
   EXPECT_EQ(this->Converted("IFCLENGTHMEASURE(0.0175)", "$"), 0.001);
   EXPECT_EQ(this->Converted("IFCLENGTHMEASURE(0.0175)", "#20"), 0.001) << "no SI unit";
 }
 
-TYPED_TEST(LengthScale, PassesOverConvertedUnitsWithoutAFactor) {
+TYPED_TEST(LengthScale, SkipsConvertedUnitsWithoutAFactor) {
   EXPECT_EQ(this->Scale("(#20,#11)", std::string(kMillimetre) +
                                          "#20=IFCCONVERSIONBASEDUNIT($,.LENGTHUNIT.,'INCH',$);\n"),
             0.001);
@@ -98,7 +98,7 @@ TYPED_TEST(LengthScale, OfAConvertedUnitWithoutAValueIsThatOfItsComponent) {
   EXPECT_EQ(this->Converted("$", "#11"), 0.001);
 }
 
-TYPED_TEST(LengthScale, IsReadAnewAtEachCall) {
+TYPED_TEST(LengthScale, IsReadAgainByEachCall) {
   const auto server = this->Load(
       "#1=IFCPROJECT('3It3CdvhLLoRj6paiTsQpU',$,$,$,$,$,$,(),#2);\n"
       "#2=IFCUNITASSIGNMENT((#11));\n" +

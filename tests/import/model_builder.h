@@ -7,27 +7,27 @@
 
 namespace KelIFC {
 
-/// Writes the instances of a small model. Each operation adds one and gives its reference, "#12",
-/// which goes into those that refer to it; "$" is a reference to nothing.
+/// Writes the instances of a small model. Each function that returns a Ref adds an instance and
+/// returns its reference, such as "#12", for use in other instances. "$" is an unset reference.
 class ModelBuilder {
  public:
   using Ref = std::string;
   using Numbers = std::initializer_list<double>;
   using Refs = std::initializer_list<Ref>;
 
-  /// The numbers of the instances to come begin here.
+  /// `first` is the number of the first instance that is added.
   explicit ModelBuilder(int first = 1) : next(first) {}
 
-  /// Any instance, as "IFCWALL(...)".
+  /// Adds an instance from its text, such as "IFCWALL(...)".
   Ref Add(const std::string& instance) {
-    const Ref ref = "#" + std::to_string(next++);
+    Ref ref = "#" + std::to_string(next++);
     data += ref + "=" + instance + ";\n";
     return ref;
   }
 
-  /// An instance of that number.
+  /// Adds an instance with the given number.
   Ref AddAs(int number, const std::string& instance) {
-    const Ref ref = "#" + std::to_string(number);
+    Ref ref = "#" + std::to_string(number);
     data += ref + "=" + instance + ";\n";
     return ref;
   }
@@ -56,7 +56,7 @@ class ModelBuilder {
   Ref Point(Numbers coordinates) { return Add("IFCCARTESIANPOINT(" + Reals(coordinates) + ")"); }
   Ref Direction(Numbers ratios) { return Add("IFCDIRECTION(" + Reals(ratios) + ")"); }
 
-  /// A placement in space, by its z and x axes where they are told.
+  /// A placement in space; `axis` and `x` are its z and x axes.
   Ref Placement(Numbers location, const Ref& axis = "$", const Ref& x = "$") {
     return Add("IFCAXIS2PLACEMENT3D(" + Point(location) + "," + axis + "," + x + ")");
   }
@@ -117,23 +117,22 @@ class ModelBuilder {
     return Add("IFCSHAPEREPRESENTATION($,'" + identifier + "','SweptSolid'," + List(items) + ")");
   }
 
-  /// A shape of representations.
+  /// A product shape with these representations.
   Ref Shape(Refs representations) {
     return Add("IFCPRODUCTDEFINITIONSHAPE($,$," + List(representations) + ")");
   }
 
-  /// A shape with one representation, called "Body".
+  /// A product shape with one representation, whose identifier is "Body".
   Ref Body(Refs items) { return Shape({Representation(items)}); }
 
-  /// The items of another representation, as one item.
+  /// A mapped item, which stands for the items of another representation.
   Ref Mapped(const Ref& origin, const Ref& representation, const Ref& target = "$") {
     const Ref map = Add("IFCREPRESENTATIONMAP(" + origin + "," + representation + ")");
     return Add("IFCMAPPEDITEM(" + map + "," + target + ")");
   }
 
-  /// A product of a class with the eight attributes that all have, and `rest` behind them. A name
-  /// of
-  /// "" is unset.
+  /// A product. `rest` is the text of the attributes after the eight that all elements have. The
+  /// name "" is written as unset.
   Ref Product(const std::string& entity, const Ref& placement, const Ref& shape,
               const std::string& name = "A", const std::string& rest = "") {
     return Add(ProductText(entity, placement, shape, name, rest));
@@ -171,7 +170,7 @@ class ModelBuilder {
                ")");
   }
 
-  /// A project whose lengths are in an SI unit with a prefix, such as ".MILLI.".
+  /// A project whose length unit is the metre with a prefix, such as ".MILLI.".
   Ref Project(const std::string& prefix) {
     const Ref unit = Add("IFCSIUNIT(*,.LENGTHUNIT.," + prefix + ",.METRE.)");
     const Ref units = Add("IFCUNITASSIGNMENT((" + unit + "))");

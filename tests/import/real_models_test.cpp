@@ -11,7 +11,7 @@
 namespace KelIFC {
 namespace {
 
-/// Larger files would make the tests slow.
+/// In bytes. Larger files are skipped, because they would make the tests slow.
 constexpr std::uintmax_t kLargestFile = 20'000'000;
 
 LONG CountStatements(const std::filesystem::path& path, const std::string& entity) {
@@ -23,7 +23,7 @@ LONG CountStatements(const std::filesystem::path& path, const std::string& entit
   return count;
 }
 
-/// The storeys are all there, rise, and count without a gap.
+/// Expects that no storey is missing, that the levels ascend, and that the numbers have no gap.
 void ExpectStoreys(IIFCServer& server, const std::filesystem::path& path) {
   const auto structure = GetObject(server, &IIFCServer::get_Structure);
   const auto storeys = GetObject(*structure, &IGeoStructure::get_Storeys);
@@ -47,7 +47,7 @@ void ExpectStoreys(IIFCServer& server, const std::filesystem::path& path) {
 
 class RealModels : public HostTest {};
 
-TEST_F(RealModels, GiveAllTheirStoreysInOrder) {
+TEST_F(RealModels, HaveAllTheirStoreysInOrder) {
   const char* folder = std::getenv("KELIFC_TEST_DATA");
   if (folder == nullptr) GTEST_SKIP() << "KELIFC_TEST_DATA names no folder of models";
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {

@@ -11,20 +11,20 @@
 #include "kelifc/core/mvector.h"
 #include "kelifc/geometry/point.h"
 
-#include "tests/import/family.h"
 #include "tests/import/model_builder.h"
+#include "tests/import/release_test.h"
 
 namespace KelIFC {
 
-/// A point as a host sees it.
+/// The x, y and z of a point.
 using Coordinates = std::array<double, 3>;
 
-/// Each coordinate within a billionth.
+/// Matches Coordinates with a tolerance of 1e-9 for each coordinate.
 inline auto IsAt(double x, double y, double z) {
   return testing::Pointwise(testing::DoubleNear(1e-9), Coordinates{x, y, z});
 }
 
-/// The points of an element.
+/// Returns the points of an element through its interfaces.
 template <class Element>
 std::vector<Coordinates> PointsOf(Element& element) {
   ComPtr<IGeoPolyline> polyline;
@@ -42,7 +42,7 @@ std::vector<Coordinates> PointsOf(Element& element) {
   return read;
 }
 
-/// The items of a collection.
+/// Returns all items of a collection.
 template <class Item, class Collection>
 std::vector<ComPtr<Item>> ItemsOf(Collection& collection) {
   std::vector<ComPtr<Item>> items;
@@ -54,9 +54,16 @@ std::vector<ComPtr<Item>> ItemsOf(Collection& collection) {
   return items;
 }
 
-/// A test of a conversion: it loads a model and reads the structure that comes of it.
+/// Returns the only element of a list. The test fails if there are none or several.
+template <class Element>
+ComPtr<Element> Only(const std::vector<ComPtr<Element>>& elements) {
+  EXPECT_EQ(elements.size(), 1u);
+  return elements.at(0);
+}
+
+/// A test that builds a model, converts it, and reads the structure through its interfaces.
 template <class Release>
-class ConversionTest : public FamilyTest<Release> {
+class ConversionTest : public ReleaseTest<Release> {
  protected:
   void TearDown() override {
     structure.Reset();
@@ -64,7 +71,7 @@ class ConversionTest : public FamilyTest<Release> {
     HostTest::TearDown();
   }
 
-  /// Loads the model that was built so far; once for a test.
+  /// Loads `model` as it is now. Call it once in a test.
   void Convert() {
     server = this->Load(model.Data());
     structure = GetObject(*server, &IIFCServer::get_Structure);
@@ -86,7 +93,7 @@ class ConversionTest : public FamilyTest<Release> {
     return ItemsOf<IGeoFoot>(*GetObject(*structure, &IGeoStructure::get_Foots));
   }
 
-  /// The names of the sections that the conversions so far have made, in their order.
+  /// Returns the names of the sections that exist so far, in the order of the collection.
   std::vector<std::wstring> SectionNames() {
     const auto sections = GetObject(*structure, &IGeoStructure::get_Sections);
     std::vector<std::wstring> names;

@@ -1,9 +1,9 @@
-# Installs into a folder, moves that folder, and uses it as a host's build would: by CMake package
-# and by pkg-config. The README's program and each installed header are compiled as well.
+# Installs into a folder, moves the folder, and uses it as the build of a host does: by CMake package
+# and by pkg-config. It also compiles each installed header.
 
 include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
-# expect_storeys(PRINTED): a host that was given the house must have named its storeys.
+# expect_storeys(PRINTED): a host that read the house must have printed the names of its storeys.
 function(expect_storeys printed)
   foreach(storey "Ground floor" "Upper floor")
     if(NOT printed MATCHES "${storey}")
@@ -20,50 +20,59 @@ file(REMOVE_RECURSE "${WORK_DIR}")
 run(ignored "${CMAKE_COMMAND}" --install "${BUILD_DIR}" --prefix "${WORK_DIR}/first")
 file(RENAME "${WORK_DIR}/first" "${prefix}")
 
-# The command finds its library wherever both were moved to.
+# The command finds its library after both were moved.
 run(printed "${prefix}/${BIN}/kelifc" structure "${model}")
 expect_storeys("${printed}")
 
 # By CMake package.
-foreach(example host walk)
-  set(build_dir "${WORK_DIR}/${example}")
-  run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples/${example}" -B "${build_dir}" -G Ninja
-    "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
-  run(ignored "${CMAKE_COMMAND}" --build "${build_dir}")
+set(build_dir "${WORK_DIR}/examples")
+run(ignored "${CMAKE_COMMAND}" -S "${SOURCE_DIR}/examples" -B "${build_dir}" -G Ninja
+  "-DCMAKE_PREFIX_PATH=${prefix}" "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}")
+run(ignored "${CMAKE_COMMAND}" --build "${build_dir}")
+foreach(example read entities walk host)
   run(printed "${build_dir}/${example}" "${model}")
   expect_storeys("${printed}")
 endforeach()
 
-# By pkg-config, and with the program that the README shows.
+# By pkg-config.
 set(ENV{PKG_CONFIG_PATH} "${prefix}/${LIB}/pkgconfig")
 run(found pkg-config --cflags --libs kelifc)
 separate_arguments(found UNIX_COMMAND "${found}")
-file(READ "${SOURCE_DIR}/README.md" readme)
-if(NOT readme MATCHES "```cpp\n([^`]+)```")
-  message(FATAL_ERROR "README.md shows no program")
-endif()
-file(WRITE "${WORK_DIR}/readme.cpp" "${CMAKE_MATCH_1}")
-set(strict -std=c++17 -Wall -Wextra -Wpedantic -Werror)
-foreach(program "${SOURCE_DIR}/examples/host/main.cpp" "${SOURCE_DIR}/examples/walk/main.cpp"
-    "${WORK_DIR}/readme.cpp")
-  run(ignored "${COMPILER}" ${flags} ${strict} "${program}" -o "${WORK_DIR}/program" ${found}
-    "-Wl,-rpath,${prefix}/${LIB}")
+set(strict -std=c++17 -Wall -Wextra -Wpedantic -Wshadow -Werror)
+foreach(example read entities)
+  run(ignored "${COMPILER}" ${flags} ${strict} "${SOURCE_DIR}/examples/${example}/main.cpp"
+    -o "${WORK_DIR}/program" ${found} "-Wl,-rpath,${prefix}/${LIB}")
   run(printed "${WORK_DIR}/program" "${model}")
   expect_storeys("${printed}")
 endforeach()
 
-# Each installed header stands alone, is readable by C++17, and is one that kelifc.h needs.
-set(include_dir "${prefix}/${INCLUDE}")
-file(GLOB_RECURSE headers RELATIVE "${include_dir}" "${include_dir}/*.h")
-run(needed "${COMPILER}" -std=c++17 -MM "-I${include_dir}" "${include_dir}/kelifc/kelifc.h")
-foreach(header IN LISTS headers)
-  string(FIND "${needed}" "${include_dir}/${header}" position)
-  if(position EQUAL -1)
-    message(FATAL_ERROR "${header} is installed, but kelifc.h does not need it")
+# A host compiles the headers with its own warnings, with either compiler and standard.
+set(includer "${WORK_DIR}/includer.cpp")
+file(WRITE "${includer}" "#include <kelifc/kelifc.h>\n")
+foreach(name g++ clang++)
+  find_program(compiler_of_host ${name} NO_CACHE)
+  if(compiler_of_host)
+    foreach(standard c++17 c++20)
+      run(ignored "${compiler_of_host}" ${strict} -std=${standard} -fsyntax-only
+        "-I${prefix}/${INCLUDE}" "${includer}")
+    endforeach()
   endif()
+  unset(compiler_of_host)
+endforeach()
+
+# The headers are those of the list. Each compiles alone, twice in one source, as C++17.
+set(include_dir "${prefix}/${INCLUDE}")
+file(GLOB_RECURSE headers RELATIVE "${include_dir}" "${include_dir}/*")
+file(STRINGS "${HEADER_LIST}" listed)
+list(SORT headers)
+list(SORT listed)
+if(NOT headers STREQUAL listed)
+  message(FATAL_ERROR "The installed headers are not those of the list:\n${headers}")
+endif()
+foreach(header IN LISTS headers)
   string(MAKE_C_IDENTIFIER "${header}" name)
   file(WRITE "${WORK_DIR}/headers/${name}.cpp" "#include <${header}>\n#include <${header}>\n")
 endforeach()
-list(JOIN strict " " strict)
+list(JOIN strict " " options)
 run(ignored sh -c "ls '${WORK_DIR}'/headers/*.cpp | xargs -P 2 -n 1 \
-  '${COMPILER}' ${strict} -fsyntax-only '-I${include_dir}'")
+  '${COMPILER}' ${options} -fsyntax-only '-I${include_dir}'")

@@ -5,7 +5,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(Bstr, HoldsNothingAtFirst) {
+TEST(Bstr, OwnsNothingAtFirst) {
   const Bstr string;
   EXPECT_EQ(string.Get(), nullptr);
   EXPECT_TRUE(string.Text().empty());
@@ -17,7 +17,7 @@ TEST(Bstr, CopiesAText) {
   EXPECT_EQ(string.Text(), std::wstring_view(L"a\0b", 3));
 }
 
-TEST(Bstr, GivesTheOldStringBackBeforeItTakesANewOne) {
+TEST(Bstr, FreesTheOldStringBeforeItTakesANewOne) {
   Bstr string(L"old");
   *string.Put() = SysAllocString(L"new");
   EXPECT_EQ(string.Text(), L"new");

@@ -27,7 +27,7 @@ ComPtr<IErrorInfo> MakeError() {
   return error.As<IErrorInfo>();
 }
 
-TEST(ErrorInfo, GivesWhatWasWritten) {
+TEST(ErrorInfo, ReturnsWhatWasSet) {
   const ComPtr<IErrorInfo> error = MakeError();
   GUID guid = {};
   Bstr source;
@@ -46,7 +46,7 @@ TEST(ErrorInfo, GivesWhatWasWritten) {
   EXPECT_EQ(helpContext, 17U);
 }
 
-TEST(ErrorInfo, ThatWasNotWrittenIsNullAndZero) {
+TEST(ErrorInfo, IsNullAndZeroUntilItIsSet) {
   ComPtr<ICreateErrorInfo> made;
   ASSERT_EQ(CreateErrorInfo(made.Put()), S_OK);
   const auto error = made.As<IErrorInfo>();
@@ -61,7 +61,7 @@ TEST(ErrorInfo, ThatWasNotWrittenIsNullAndZero) {
   EXPECT_EQ(helpContext, 0U);
 }
 
-TEST(ErrorInfo, TakesATextAwayWithNull) {
+TEST(ErrorInfo, RemovesATextThatIsSetToNull) {
   const auto error = MakeError();
   error.As<ICreateErrorInfo>()->SetSource(nullptr);
   Bstr source;
@@ -69,7 +69,7 @@ TEST(ErrorInfo, TakesATextAwayWithNull) {
   EXPECT_EQ(source.Get(), nullptr);
 }
 
-TEST(ErrorInfo, NeedsAPlaceForWhatItGives) {
+TEST(ErrorInfo, RefusesANullOutput) {
   const auto error = MakeError();
   EXPECT_EQ(error->GetGUID(nullptr), E_INVALIDARG);
   EXPECT_EQ(error->GetSource(nullptr), E_INVALIDARG);
@@ -78,7 +78,7 @@ TEST(ErrorInfo, NeedsAPlaceForWhatItGives) {
   EXPECT_EQ(GetErrorInfo(0, nullptr), E_INVALIDARG);
 }
 
-TEST(ErrorOfTheThread, IsGivenOnce) {
+TEST(ErrorOfTheThread, IsReturnedOnce) {
   const auto error = MakeError();
   ASSERT_EQ(SetErrorInfo(0, error.Get()), S_OK);
   ComPtr<IErrorInfo> found;
@@ -88,7 +88,7 @@ TEST(ErrorOfTheThread, IsGivenOnce) {
   EXPECT_FALSE(found);
 }
 
-TEST(ErrorOfTheThread, GivesWayToTheNextOne) {
+TEST(ErrorOfTheThread, IsReplacedByTheNextOne) {
   SetErrorInfo(0, MakeError().Get());
   const auto second = MakeError();
   SetErrorInfo(0, second.Get());
@@ -97,20 +97,20 @@ TEST(ErrorOfTheThread, GivesWayToTheNextOne) {
   EXPECT_EQ(found.Get(), second.Get());
 }
 
-TEST(ErrorOfTheThread, CanBeTakenAway) {
+TEST(ErrorOfTheThread, CanBeRemoved) {
   SetErrorInfo(0, MakeError().Get());
   EXPECT_EQ(SetErrorInfo(0, nullptr), S_OK);
   ComPtr<IErrorInfo> found;
   EXPECT_EQ(GetErrorInfo(0, found.Put()), S_FALSE);
 }
 
-TEST(ErrorOfTheThread, HasAReservedArgument) {
+TEST(ErrorOfTheThread, RequiresZeroForTheReservedArgument) {
   ComPtr<IErrorInfo> found;
   EXPECT_EQ(SetErrorInfo(1, nullptr), E_INVALIDARG);
   EXPECT_EQ(GetErrorInfo(1, found.Put()), E_INVALIDARG);
 }
 
-TEST(ErrorOfTheThread, IsNotThatOfAnotherThread) {
+TEST(ErrorOfTheThread, IsSeparateForEachThread) {
   SetErrorInfo(0, MakeError().Get());
   std::thread([] {
     ComPtr<IErrorInfo> found;

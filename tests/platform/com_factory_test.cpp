@@ -42,7 +42,7 @@ TEST_F(ClassObjects, AreNotFoundByOtherNames) {
   EXPECT_EQ(CLSIDFromProgID(L"KelIFC.GeoStorey", nullptr), E_INVALIDARG);
 }
 
-TEST_F(ClassObjects, MakeObjects) {
+TEST_F(ClassObjects, CreateObjects) {
   ComPtr<IClassFactory> factory;
   ASSERT_EQ(CoGetClassObject(CLSID_CoGeoStorey, CLSCTX_SERVER, nullptr, IidOf<IClassFactory>(),
                              Out(factory)),
@@ -53,7 +53,7 @@ TEST_F(ClassObjects, MakeObjects) {
   EXPECT_EQ(factory->CreateInstance(nullptr, IidOf<IGeoStorey>(), nullptr), E_POINTER);
 }
 
-TEST_F(ClassObjects, MakeNoPartsOfOtherObjects) {
+TEST_F(ClassObjects, DoNotAggregate) {
   ComPtr<IUnknown> outer;
   ASSERT_EQ(CoCreateInstance(CLSID_CoGeoStorey, nullptr, CLSCTX_ALL, IidOf<IUnknown>(), Out(outer)),
             S_OK);
@@ -74,7 +74,7 @@ TEST_F(ClassObjects, RefuseInterfacesThatTheClassDoesNotHave) {
   EXPECT_EQ(out, nullptr);
 }
 
-TEST_F(ClassObjects, ThatAreUnknownGiveAStatus) {
+TEST_F(ClassObjects, ReturnAStatusForUnknownClasses) {
   void* out = &out;
   EXPECT_EQ(CoCreateInstance(CLSID{}, nullptr, CLSCTX_ALL, IidOf<IUnknown>(), &out),
             REGDB_E_CLASSNOTREG);
@@ -96,7 +96,7 @@ TEST_F(ClassObjects, LiveInTheProcessOnly) {
   EXPECT_EQ(out, nullptr);
 }
 
-TEST_F(ClassObjects, NeedTheirArguments) {
+TEST_F(ClassObjects, RefuseNullArguments) {
   int reserved = 0;
   void* out = &out;
   EXPECT_EQ(CoGetClassObject(CLSID_CoGeoStorey, CLSCTX_ALL, &reserved, IidOf<IUnknown>(), &out),
@@ -142,7 +142,7 @@ TEST_F(ClassObjects, CanBeReplacedOnAThread) {
   EXPECT_EQ(CoRevokeClassObject(second), S_OK);
 }
 
-TEST_F(ClassObjects, AreNotRegisteredWithoutArguments) {
+TEST_F(ClassObjects, AreNotRegisteredWithNullArguments) {
   ComPtr<IClassFactory> factory;
   ASSERT_EQ(GetClassObject(CLSID_CoGeoStorey, IidOf<IClassFactory>(), Out(factory)), S_OK);
   DWORD cookie = 0;

@@ -7,12 +7,12 @@
 namespace KelIFC {
 namespace {
 
-TEST(Guard, GivesTheStatusOfWhatItRuns) {
+TEST(Guard, ReturnsTheStatusOfTheCall) {
   EXPECT_EQ(Guard([] { return S_FALSE; }), S_FALSE);
   EXPECT_EQ(Guard([] { return E_NOTIMPL; }), E_NOTIMPL);
 }
 
-TEST(Guard, TurnsWantOfMemoryIntoItsStatus) {
+TEST(Guard, TurnsBadAllocIntoOutOfMemory) {
   EXPECT_EQ(Guard([]() -> HRESULT { throw std::bad_alloc(); }), E_OUTOFMEMORY);
 }
 

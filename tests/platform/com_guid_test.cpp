@@ -10,13 +10,13 @@ constexpr GUID kGuid = {
     0x00112233, 0x4455, 0x6677, {0x88, 0x99, 0xAA, 0xBB, 0xCC, 0xDD, 0xEE, 0xFF}};
 constexpr wchar_t kText[] = L"{00112233-4455-6677-8899-AABBCCDDEEFF}";
 
-TEST(GuidText, IsTheBracedForm) {
+TEST(GuidText, HasBraces) {
   wchar_t text[39];
   EXPECT_EQ(StringFromGUID2(kGuid, text, 39), 39);
   EXPECT_EQ(std::wstring(text), kText);
 }
 
-TEST(GuidText, NeedsRoomForAllOfIt) {
+TEST(GuidText, IsNotWrittenIntoTooSmallABuffer) {
   wchar_t text[39] = L"kept";
   EXPECT_EQ(StringFromGUID2(kGuid, text, 38), 0);
   EXPECT_EQ(std::wstring(text), L"kept");
@@ -32,7 +32,7 @@ TEST(GuidText, ReadsBackInUpperAndLowerCase) {
   EXPECT_EQ(guid, kGuid);
 }
 
-TEST(GuidText, IsRefusedWhereItDepartsFromTheForm) {
+TEST(GuidText, IsRefusedInAnyOtherForm) {
   for (const wchar_t* text : {
            L"",
            L"{",

@@ -10,7 +10,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(LocalClasses, LetAThreadMakeObjects) {
+TEST(LocalClasses, LetAThreadCreateObjects) {
   const LocalClasses classes;
   ASSERT_EQ(classes.GetStatus(), S_OK);
   for (const ComClass& type : ComClasses()) {
@@ -21,7 +21,7 @@ TEST(LocalClasses, LetAThreadMakeObjects) {
   }
 }
 
-TEST(LocalClassObject, DoesNotKeepTheLibraryInUse) {
+TEST(LocalClassObject, DoesNotKeepTheLibraryLoaded) {
   ComPtr<IClassFactory> factory;
   ASSERT_EQ(GetLocalClassObject(ComClasses().front(), IidOf<IClassFactory>(),
                                 reinterpret_cast<void**>(factory.Put())),

@@ -62,9 +62,9 @@ ComPtr<Interface> MakeSquare(int side = 1) {
   return square;
 }
 
-TEST(Object, IsMadeWithItsArguments) { EXPECT_EQ(MakeSquare<ISquare>(7)->Side(), 7); }
+TEST(Object, IsCreatedWithItsArguments) { EXPECT_EQ(MakeSquare<ISquare>(7)->Side(), 7); }
 
-TEST(Object, AnswersForEachInterfaceOfItsList) {
+TEST(Object, HasEachInterfaceOfItsList) {
   const auto square = MakeSquare<ISquare>();
   EXPECT_EQ(square.As<IShape>()->Corners(), 4);
   EXPECT_STREQ(square.As<INamed>()->Name(), "square");
@@ -101,7 +101,7 @@ TEST(Object, LivesUntilTheLastReferenceIsGone) {
   EXPECT_TRUE(CanUnload());
 }
 
-TEST(Object, ThatCannotBeMadeGivesAStatus) {
+TEST(Object, ReturnsAStatusIfItCannotBeCreated) {
   void* out = &out;
   EXPECT_EQ(MakeObject<Square>(IidOf<ISquare>(), &out, -1), E_FAIL);
   EXPECT_EQ(out, nullptr);
@@ -110,7 +110,7 @@ TEST(Object, ThatCannotBeMadeGivesAStatus) {
   EXPECT_EQ(LiveObjectCount(), 0);
 }
 
-TEST(Object, IsGoneWhereTheWantedInterfaceIsNotItsOwn) {
+TEST(Object, IsDestroyedIfItLacksTheWantedInterface) {
   void* out = &out;
   EXPECT_EQ(MakeObject<Square>(IidOf<IDispatch>(), &out), E_NOINTERFACE);
   EXPECT_EQ(out, nullptr);
@@ -124,7 +124,7 @@ TEST(Module, CannotBeUnloadedWhileItIsLocked) {
   EXPECT_TRUE(CanUnload());
 }
 
-TEST(ComPtr, CopiesAndMovesItsHold) {
+TEST(ComPtr, CountsReferencesOfCopies) {
   {
     auto first = MakeSquare<ISquare>();
     const ComPtr<ISquare> second = first;
@@ -149,7 +149,7 @@ TEST(ComPtr, CopiesAndMovesItsHold) {
   EXPECT_EQ(LiveObjectCount(), 0);
 }
 
-TEST(ComPtr, OfNothingGivesNothing) {
+TEST(ComPtr, IsEmptyForNull) {
   const ComPtr<ISquare> none;
   EXPECT_FALSE(none.As<IShape>());
   const auto square = MakeSquare<ISquare>();

@@ -6,14 +6,14 @@
 
 namespace {
 
-TEST(ComString, CopiesTheTextAndEndsIt) {
+TEST(ComString, CopiesTheTextAndANullCharacter) {
   const BSTR string = SysAllocString(L"Stütze");
   EXPECT_EQ(SysStringLen(string), 6U);
   EXPECT_EQ(std::wstring(string), L"Stütze");
   SysFreeString(string);
 }
 
-TEST(ComString, HoldsNullCharacters) {
+TEST(ComString, CanContainNullCharacters) {
   const BSTR string = SysAllocStringLen(L"a\0b", 3);
   EXPECT_EQ(SysStringLen(string), 3U);
   EXPECT_EQ(std::wstring(string, 3), std::wstring(L"a\0b", 3));
@@ -21,7 +21,7 @@ TEST(ComString, HoldsNullCharacters) {
   SysFreeString(string);
 }
 
-TEST(ComString, OfALengthAloneHasRoomForIt) {
+TEST(ComString, HasRoomForALengthWithoutText) {
   const BSTR string = SysAllocStringLen(nullptr, 2);
   ASSERT_NE(string, nullptr);
   string[0] = L'x';
@@ -31,21 +31,21 @@ TEST(ComString, OfALengthAloneHasRoomForIt) {
   SysFreeString(string);
 }
 
-TEST(ComString, OfNothingIsNull) { EXPECT_EQ(SysAllocString(nullptr), nullptr); }
+TEST(ComString, IsNullForNull) { EXPECT_EQ(SysAllocString(nullptr), nullptr); }
 
-TEST(ComString, OfTheEmptyTextIsNotNull) {
+TEST(ComString, IsNotNullForTheEmptyText) {
   const BSTR string = SysAllocString(L"");
   ASSERT_NE(string, nullptr);
   EXPECT_EQ(SysStringLen(string), 0U);
   SysFreeString(string);
 }
 
-TEST(ComString, ThatIsNullHasNoLengthAndNeedNotBeFreed) {
+TEST(ComString, HasNoLengthIfItIsNull) {
   EXPECT_EQ(SysStringLen(nullptr), 0U);
   SysFreeString(nullptr);
 }
 
-TEST(ComString, ThatIsTooLongIsNotMade) {
+TEST(ComString, IsNotCreatedIfItIsTooLong) {
   EXPECT_EQ(SysAllocStringLen(nullptr, 0xFFFFFFFF), nullptr);
 }
 

@@ -21,19 +21,38 @@ TEST(CrossingText, GoesBothWaysWithoutLossForEveryByte) {
   EXPECT_EQ(NarrowText(wide.Get()), AllBytes());
 }
 
-TEST(CrossingText, HasAQuestionMarkForWhatIsNoByte) {
+TEST(CrossingText, HasAQuestionMarkForACharacterAbove255) {
   EXPECT_EQ(NarrowText(Bstr(L"a\u0100\u20ACb").Get()), "a??b");
   EXPECT_EQ(NarrowText(Bstr(std::wstring(1, static_cast<wchar_t>(-1))).Get()), "?");
 }
 
-TEST(CrossingText, OfNothingIsEmpty) {
+TEST(CrossingText, IsUtf8OnRequest) {
+  EXPECT_EQ(Utf8Text(L"a\u007F\u0080\u07FF\u0800\uFFFF"),
+            "a\x7F\xC2\x80\xDF\xBF\xE0\xA0\x80\xEF\xBF\xBF");
+  EXPECT_EQ(Utf8Text(L"\U00010000\U0010FFFF"), "\xF0\x90\x80\x80\xF4\x8F\xBF\xBF");
+  EXPECT_EQ(Utf8Text(std::wstring_view()), "");
+}
+
+TEST(CrossingText, TakesAPairOfSurrogatesForOneCharacter) {
+  const std::wstring pair = {wchar_t{0xD83C}, wchar_t{0xDFE0}};
+  EXPECT_EQ(Utf8Text(L"<" + pair + L">"), "<\xF0\x9F\x8F\xA0>");
+}
+
+TEST(CrossingText, ReplacesWhatUtf8CannotHold) {
+  const std::string replacement = "\xEF\xBF\xBD";
+  EXPECT_EQ(Utf8Text(std::wstring(1, wchar_t{0xD800})), replacement);
+  EXPECT_EQ(Utf8Text(std::wstring{wchar_t{0xD800}, L'a'}), replacement + "a");
+  EXPECT_EQ(Utf8Text(std::wstring{wchar_t{0xDFE0}, wchar_t{0xD83C}}), replacement + replacement);
+}
+
+TEST(CrossingText, IsEmptyForNull) {
   EXPECT_EQ(NarrowText(nullptr), "");
   Bstr wide;
   ASSERT_EQ(GiveText("", wide.Put()), S_OK);
   EXPECT_NE(wide.Get(), nullptr);
 }
 
-TEST(CrossingText, NeedsAPlaceToGo) { EXPECT_EQ(GiveText("text", nullptr), E_POINTER); }
+TEST(CrossingText, RefusesANullOutput) { EXPECT_EQ(GiveText("text", nullptr), E_POINTER); }
 
 TEST(CrossingPath, IsUtf8) {
   const std::wstring wide = L"A\u00FC\u20AC\U0001F3E0";
@@ -42,31 +61,31 @@ TEST(CrossingPath, IsUtf8) {
   EXPECT_EQ(WidePath(narrow), wide);
 }
 
-TEST(CrossingPath, GoesThereAndBackForEveryByteAlone) {
+TEST(CrossingPath, SurvivesARoundTripForEachByte) {
   for (int i = 0; i < 256; ++i) {
     const std::string path = std::string("x") + static_cast<char>(i) + "y";
     EXPECT_EQ(NarrowPath(WidePath(path)), path) << i;
   }
 }
 
-TEST(CrossingPath, GoesThereAndBackWhereItIsNoUtf8) {
+TEST(CrossingPath, SurvivesARoundTripIfItIsNotUtf8) {
   for (const std::string path : {
-           "\xC3",                  // cut
-           "\xE2\x82",              // cut
-           "\xE2\x28\xA1",          // no tail
-           "\xC0\xAF",              // longer than needed
-           "\xE0\x80\xAF",          // longer than needed
-           "\xF0\x80\x80\xAF",      // longer than needed
+           "\xC3",                  // cut short
+           "\xE2\x82",              // cut short
+           "\xE2\x28\xA1",          // no continuation byte
+           "\xC0\xAF",              // overlong
+           "\xE0\x80\xAF",          // overlong
+           "\xF0\x80\x80\xAF",      // overlong
            "\xED\xB2\x80",          // a surrogate
            "\xF4\x90\x80\x80",      // above the last character
-           "\xF5\x80\x80\x80",      // no lead byte
-           "h\xFCtte/\xE2\x82\xAC"  // both kinds
+           "\xF5\x80\x80\x80",      // not a lead byte
+           "h\xFCtte/\xE2\x82\xAC"  // an invalid and a valid part
        }) {
     EXPECT_EQ(NarrowPath(WidePath(path)), path);
   }
 }
 
-TEST(CrossingPath, ReplacesWhatUtf8CannotHold) {
+TEST(CrossingPath, ReplacesWhatUtf8CannotEncode) {
   EXPECT_EQ(NarrowPath(std::wstring(1, static_cast<wchar_t>(0xD800))), "\xEF\xBF\xBD");
   EXPECT_EQ(NarrowPath(std::wstring(1, static_cast<wchar_t>(0xDC7F))), "\xEF\xBF\xBD");
   EXPECT_EQ(NarrowPath(std::wstring(1, static_cast<wchar_t>(0x110000))), "\xEF\xBF\xBD");

@@ -8,7 +8,7 @@
 
 namespace {
 
-/// A variant that is cleared at the end.
+/// A variant that the destructor clears.
 struct Value : VARIANT {
   Value() : VARIANT{} {}
   explicit Value(LONG number) : VARIANT{} {
@@ -46,7 +46,7 @@ struct Value : VARIANT {
   ~Value() { VariantClear(this); }
 };
 
-/// The number that a variant turns into; -999 where it does not.
+/// Returns the variant as an integer, or -999 if it cannot be converted.
 LONG Long(const Value& value) {
   Value out;
   return SUCCEEDED(VariantChangeType(&out, &value, 0, VT_I4)) ? out.lVal : -999;
@@ -55,7 +55,7 @@ LONG Long(const Value& value) {
 HRESULT Failure(const Value& value, VARTYPE type) {
   Value out(7);
   const HRESULT status = VariantChangeType(&out, &value, 0, type);
-  EXPECT_EQ(out.vt, VT_I4) << "the target is left as it was";
+  EXPECT_EQ(out.vt, VT_I4) << "the target is unchanged";
   EXPECT_EQ(out.lVal, 7);
   return status;
 }
@@ -66,7 +66,7 @@ std::wstring Text(const Value& value) {
   return std::wstring(out.bstrVal, SysStringLen(out.bstrVal));
 }
 
-/// Counts its own references.
+/// An object that shows its number of references.
 struct Counted : IDispatch {
   HRESULT QueryInterface(const IID&, void**) override { return E_NOINTERFACE; }
   ULONG AddRef() override { return ++references; }
@@ -88,7 +88,7 @@ TEST(Variant, IsEmptyAtFirst) {
   VariantInit(nullptr);
 }
 
-TEST(Variant, ThatIsClearedHoldsNoPointer) {
+TEST(Variant, HoldsNoPointerAfterItIsCleared) {
   Value value(L"text");
   VariantClear(&value);
   EXPECT_EQ(value.bstrVal, nullptr);
@@ -103,7 +103,7 @@ TEST(Variant, CopiesItsStringAndKeepsItsOwn) {
   EXPECT_EQ(std::wstring(copy.bstrVal), L"name");
 }
 
-TEST(Variant, CountsTheObjectThatItHolds) {
+TEST(Variant, CountsAReferenceToItsObject) {
   Counted object;
   for (const VARTYPE type : {VT_DISPATCH, VT_UNKNOWN}) {
     Value source = Value::OfType(type);
@@ -134,7 +134,7 @@ TEST(Variant, CopiesOntoItself) {
   EXPECT_EQ(std::wstring(value.bstrVal), L"same");
 }
 
-TEST(Variant, OfAnUnknownTypeIsLeftAlone) {
+TEST(Variant, IsLeftUnchangedIfItsTypeIsUnknown) {
   Value value = Value::OfType(0x4003);
   Value copy(3);
   EXPECT_EQ(VariantClear(&value), DISP_E_BADVARTYPE);
@@ -145,7 +145,7 @@ TEST(Variant, OfAnUnknownTypeIsLeftAlone) {
   value.vt = VT_EMPTY;
 }
 
-TEST(Variant, NeedsItsArguments) {
+TEST(Variant, RefusesNullArguments) {
   Value value;
   EXPECT_EQ(VariantClear(nullptr), E_INVALIDARG);
   EXPECT_EQ(VariantCopy(nullptr, &value), E_INVALIDARG);
@@ -154,7 +154,7 @@ TEST(Variant, NeedsItsArguments) {
   EXPECT_EQ(VariantChangeType(&value, nullptr, 0, VT_I4), E_INVALIDARG);
 }
 
-TEST(VariantChange, ToItsOwnTypeCopies) {
+TEST(VariantChange, CopiesAValueOfTheSameType) {
   const Value source(L"name");
   Value target(5);
   ASSERT_EQ(VariantChangeType(&target, &source, 0, VT_BSTR), S_OK);
@@ -162,14 +162,14 @@ TEST(VariantChange, ToItsOwnTypeCopies) {
   EXPECT_NE(target.bstrVal, source.bstrVal);
 }
 
-TEST(VariantChange, TurnsItselfInPlace) {
+TEST(VariantChange, ConvertsAVariantInPlace) {
   Value value(L"12");
   ASSERT_EQ(VariantChangeType(&value, &value, 0, VT_I4), S_OK);
   EXPECT_EQ(value.vt, VT_I4);
   EXPECT_EQ(value.lVal, 12);
 }
 
-TEST(VariantChange, ToANumberReadsTextThatIsOne) {
+TEST(VariantChange, ReadsANumberFromText) {
   EXPECT_EQ(Long(Value(L"1")), 1);
   EXPECT_EQ(Long(Value(L"  -12 ")), -12);
   EXPECT_EQ(Long(Value(L"+7")), 7);
@@ -177,7 +177,7 @@ TEST(VariantChange, ToANumberReadsTextThatIsOne) {
   EXPECT_EQ(Long(Value(L"-.5e1")), -5);
 }
 
-TEST(VariantChange, ToANumberRefusesOtherText) {
+TEST(VariantChange, RefusesTextThatIsNotANumber) {
   for (const wchar_t* text : {L"", L"  ", L"one", L"1x", L"1 2", L"+-1", L"--1", L"inf", L"-nan",
                               L".", L"0x10", L"\u0661", L"1,5"}) {
     EXPECT_EQ(Failure(Value(text), VT_I4), DISP_E_TYPEMISMATCH) << std::wstring(text).size();
@@ -185,7 +185,7 @@ TEST(VariantChange, ToANumberRefusesOtherText) {
   EXPECT_EQ(Failure(Value(std::wstring(1000, L'1').c_str()), VT_I4), DISP_E_TYPEMISMATCH);
 }
 
-TEST(VariantChange, ToANumberRoundsToTheNearestAndEven) {
+TEST(VariantChange, RoundsToTheNearestAndEven) {
   EXPECT_EQ(Long(Value(2.4)), 2);
   EXPECT_EQ(Long(Value(2.5)), 2);
   EXPECT_EQ(Long(Value(3.5)), 4);
@@ -195,7 +195,7 @@ TEST(VariantChange, ToANumberRoundsToTheNearestAndEven) {
   EXPECT_EQ(Long(Value(-0.5)), 0);
 }
 
-TEST(VariantChange, ToANumberTellsWhatDoesNotFit) {
+TEST(VariantChange, ReportsAnOverflow) {
   EXPECT_EQ(Long(Value(2147483647.4)), 2147483647);
   EXPECT_EQ(Long(Value(-2147483648.5)), std::numeric_limits<LONG>::min());
   EXPECT_EQ(Failure(Value(2147483647.5), VT_I4), DISP_E_OVERFLOW);
@@ -205,7 +205,7 @@ TEST(VariantChange, ToANumberTellsWhatDoesNotFit) {
   EXPECT_EQ(Failure(Value(32768), VT_I2), DISP_E_OVERFLOW);
 }
 
-TEST(VariantChange, ToANumberTakesOtherPlainTypes) {
+TEST(VariantChange, ConvertsOtherPlainTypesToANumber) {
   EXPECT_EQ(Long(Value()), 0);
   EXPECT_EQ(Long(Value::Short(-3)), -3);
   EXPECT_EQ(Long(Value::Bool(true)), -1);
@@ -222,7 +222,7 @@ TEST(VariantChange, RefusesObjectsErrorsAndUnknownTypes) {
   EXPECT_EQ(Failure(Value(2.0), VT_DISPATCH), DISP_E_TYPEMISMATCH);
 }
 
-TEST(VariantChange, ToTextWritesNumbers) {
+TEST(VariantChange, WritesNumbersAsText) {
   EXPECT_EQ(Text(Value(-12)), L"-12");
   EXPECT_EQ(Text(Value::Short(7)), L"7");
   EXPECT_EQ(Text(Value(0.5)), L"0.5");
@@ -230,7 +230,7 @@ TEST(VariantChange, ToTextWritesNumbers) {
   EXPECT_EQ(Text(Value()), L"");
 }
 
-TEST(VariantChange, ToShortRealAndTruthValue) {
+TEST(VariantChange, ConvertsToAShortARealAndATruthValue) {
   const Value seven(L"7");
   Value out;
   ASSERT_EQ(VariantChangeType(&out, &seven, 0, VT_I2), S_OK);

@@ -7,7 +7,7 @@ namespace {
 
 TEST(Guid, HasSixteenBytesWithoutGaps) { EXPECT_EQ(sizeof(_GUID), 16u); }
 
-TEST(Guid, IsNullWithAllBytesZero) {
+TEST(Guid, IsNullIfAllBytesAreZero) {
   _GUID guid = {};
   EXPECT_TRUE(IsNullGuid(guid));
   guid.Data4[7] = 1;

@@ -11,7 +11,7 @@ TEST(NewGuid, IsNeverNull) {
 
 TEST(NewGuid, DiffersFromCallToCall) { EXPECT_NE(NewGuid(), NewGuid()); }
 
-TEST(NewGuid, BearsTheMarksOfARandomIdentifier) {
+TEST(NewGuid, HasTheBitsOfARandomIdentifier) {
   const _GUID guid = NewGuid();
   EXPECT_EQ(guid.Data3 >> 12, 4);
   EXPECT_EQ(guid.Data4[0] >> 6, 2);

@@ -8,7 +8,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(Path, GivesTheLastComponentAsTheFileName) {
+TEST(Path, ReturnsTheLastComponentAsTheFileName) {
   EXPECT_EQ(GetFileName("house.ifc"), "house.ifc");
   EXPECT_EQ(GetFileName("a/b/house.ifc"), "house.ifc");
   EXPECT_EQ(GetFileName("c:\\a\\house.ifc"), "house.ifc");
@@ -18,7 +18,7 @@ TEST(Path, GivesTheLastComponentAsTheFileName) {
   EXPECT_EQ(GetFileName(""), "");
 }
 
-TEST(Path, TellsAnOrdinaryFileFromAllElse) {
+TEST(Path, DistinguishesARegularFileFromEverythingElse) {
   const std::string folder = testing::TempDir();
   const std::string file = folder + "/kelifc_path_test.txt";
   std::ofstream(file) << "four";

@@ -13,6 +13,17 @@ TYPED_TEST(Curves, PolylineWithoutPointsCountsAsSpatial) {
   EXPECT_EQ(static_cast<int>(IfcCurveDim(*model.template Get<typename TypeParam::IfcCurve>(1))), 3);
 }
 
+TYPED_TEST(Curves, PolylineWhoseFirstPointDoesNotResolveCountsAsSpatial) {
+  Model<TypeParam> model({{1, "IFCCARTESIANPOINT((1.,2.))"},
+                          {2, "IFCPOLYLINE((#99,#1))"},
+                          {3, "IFCPOLYLINE((#2,#1))"}});
+  for (const std::size_t number : {2, 3}) {
+    const auto* line = model.template Get<typename TypeParam::IfcCurve>(number);
+    EXPECT_EQ(static_cast<int>(IfcCurveDim(*line)), 3) << number;
+    EXPECT_EQ(static_cast<int>(line->GetDim()), 3) << number;
+  }
+}
+
 TYPED_TEST(Curves, TakeTheirDimensionFromWhatTheyStandOn) {
   Model<TypeParam> model({{1, "IFCCARTESIANPOINT((1.,2.))"},
                           {2, "IFCPOLYLINE((#1,#1))"},

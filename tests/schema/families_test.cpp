@@ -25,6 +25,21 @@ TYPED_TEST(Records, ProfileThatIsReadCountsAsAnArea) {
   EXPECT_EQ(made.GetProfileType(), 0);
 }
 
+TYPED_TEST(Records, ProfileOfAnyTypeButZeroIsWrittenAsAnArea) {
+  using Rectangle = typename TypeParam::IfcRectangleProfileDef;
+  Rectangle made;
+  using Type = decltype(made.GetProfileType());
+  const auto headOf = [&](int type) {
+    made.SetProfileType(static_cast<Type>(type));
+    const std::string text = Text(made);
+    return text.substr(0, text.find(','));
+  };
+  EXPECT_EQ(headOf(0), "IFCRECTANGLEPROFILEDEF(.CURVE.");
+  for (const int type : {1, 2, 7, -1}) {
+    EXPECT_EQ(headOf(type), "IFCRECTANGLEPROFILEDEF(.AREA.") << type;
+  }
+}
+
 TYPED_TEST(Records, BooleanResultKeepsItsOperator) {
   Model<TypeParam> model(
       {{1, "IFCBOOLEANRESULT(.DIFFERENCE.,#2,#3)"}, {2, "IFCHALFSPACESOLID(#9,.F.)"}});

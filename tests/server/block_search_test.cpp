@@ -16,7 +16,7 @@ TEST(BlockSearch, FindsTheFirstHitAtEveryDistanceAndAlignment) {
       const char* begin = text.data() + start;
       const char* end = text.data() + text.size();
       ASSERT_EQ((FindAnyOf<';', '\''>(begin, end)), begin + distance);
-      ASSERT_EQ((FindAnyOfBytewise<';', '\''>(begin, end)), begin + distance);
+      ASSERT_EQ((FindMatchBytewise<Is<';'>, Is<'\''>>(begin, end)), begin + distance);
     }
   }
 }
@@ -36,6 +36,30 @@ TEST(BlockSearch, TellsApartAllBytes) {
     const bool wanted = code == ';' || code == 0 || code == 0xE4;
     const char* expected = wanted ? begin : begin + text.size();
     ASSERT_EQ((FindAnyOf<';', '\0', '\xE4'>(begin, begin + text.size())), expected);
+  }
+}
+
+/// Where a search finds a byte among others, in a block and by itself.
+template <class... Matchers>
+bool Matches(int code) {
+  std::string text(40, 'm');
+  text[5] = static_cast<char>(code);
+  const char* begin = text.data();
+  const bool inBlock = FindMatch<Matchers...>(begin, begin + 40) == begin + 5;
+  const bool alone = FindMatch<Matchers...>(begin + 5, begin + 6) == begin + 5;
+  EXPECT_EQ(inBlock, alone) << code;
+  return inBlock;
+}
+
+TEST(BlockSearch, MatchesRangesOfCharacters) {
+  for (int code = 0; code < 256; ++code) {
+    const auto at = static_cast<unsigned char>(code);
+    EXPECT_EQ((Matches<Within<'\'', ')'>>(code)), at >= '\'' && at <= ')') << code;
+    EXPECT_EQ((Matches<Within<'a', 'l'>, Within<'n', 'z'>>(code)),
+              at >= 'a' && at <= 'z' && at != 'm')
+        << code;
+    EXPECT_EQ((Matches<Below<'#'>>(code)), at < '#' || at > 127) << code;
+    EXPECT_EQ((Matches<Below<'\0'>, Is<'x'>>(code)), at == 'x' || at > 127) << code;
   }
 }
 

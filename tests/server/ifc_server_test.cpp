@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "kelifc/core/write_tolerance.h"
+#include "kelifc/core/text/write_tolerance.h"
 #include "kelifc/schema/ifc2x.h"
 #include "kelifc/schema/ifc2x2.h"
 #include "kelifc/schema/ifc2x3.h"

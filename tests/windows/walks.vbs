@@ -1,5 +1,6 @@
-' Walks each collection of a structure by For Each, by index and by the default member, and looks at
-' what a script sees of errors. Says what differs, and ends with 1 if anything does.
+' Walks each collection of a structure by For Each, by index and by the default member, and checks
+' which errors a script gets. Prints each difference, and ends with 1 if there is one. The last line
+' shows that no error has ended the script before.
 Option Explicit
 
 Dim server, model, failures
@@ -63,6 +64,7 @@ ExpectError "missing file", &H80030002
 server.Load WScript.Arguments(1)
 Expect "words of an error", Err.Description, "The IFC release of " & WScript.Arguments(1) & " cannot be converted."
 ExpectError "file of an old release", &H80030002
+WScript.Echo "The walk has ended."
 WScript.Quit failures
 
 Sub Walk(name, collection)

@@ -5,15 +5,15 @@
 
 namespace command {
 
-// The three commands. Each does its work or throws Failure; paths are as the user gave them.
+// The three subcommands. A function that fails throws Failure. Paths are as the user gave them.
 
 struct StructureOptions {
   std::string model;
-  std::string output;  ///< empty for standard output
+  std::string output;  ///< a path; empty means standard output
   bool json = false;
 };
 
-/// Converts the model and prints its building structure.
+/// Converts the model and prints the structure.
 void RunStructure(const StructureOptions& options);
 
 struct InfoOptions {
@@ -21,7 +21,7 @@ struct InfoOptions {
   bool json = false;
 };
 
-/// Prints what the model holds: release, schema, and how many instances of each class.
+/// Prints the release of the model, its schema string, and the number of instances of each class.
 void RunInfo(const InfoOptions& options);
 
 struct SaveOptions {
@@ -29,7 +29,7 @@ struct SaveOptions {
   std::string output;
 };
 
-/// Loads the model and writes it back.
+/// Loads the model and writes it to `output`.
 void RunSave(const SaveOptions& options);
 
 }  // namespace command

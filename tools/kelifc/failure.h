@@ -6,23 +6,24 @@
 
 namespace command {
 
-/// What the process ends with. Scripts rely on the values.
+/// The exit status of the process. Scripts rely on the values.
 enum class Status {
   kDone = 0,
   kFile = 1,            ///< a file cannot be opened, created or written to its end
-  kNoModel = 2,         ///< not a STEP file, or of an unknown schema
-  kNotConvertible = 3,  ///< of a release that has no structure conversion
-  kUsage = 64,          ///< wrong usage
+  kNoModel = 2,         ///< not a STEP file, or its schema is unknown
+  kNotConvertible = 3,  ///< the release has no conversion
+  kUsage = 64,          ///< the command line is wrong
+  kMissing = 69,        ///< this build lacks a component
 };
 
-/// Ends the command: `main` prints "kelifc: " and the message as one line and exits with the
-/// status.
+/// Thrown to end the command. `main` prints "kelifc: " and the message as one line on standard
+/// error and exits with the status.
 class Failure : public std::runtime_error {
  public:
   Failure(Status status, const std::string& file, const std::string& cause)
       : Failure(status, file + ": " + cause) {}
 
-  /// For a message that names its file itself.
+  /// For a message that already names the file.
   Failure(Status status, const std::string& message)
       : std::runtime_error(message), status(status) {}
 

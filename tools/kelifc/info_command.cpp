@@ -15,14 +15,14 @@ namespace {
 
 using Counts = std::map<std::string, std::size_t>;
 
-/// What a model holds. Text is UTF-8.
+/// The content of a model. Text is UTF-8.
 struct Info {
   std::string file;
   std::string release;
   std::string schema;
-  std::size_t instances = 0;  ///< those that have a number
-  Counts entities;            ///< by class name as the schema spells it
-  Counts raw;                 ///< what is held as raw text, by its name in upper case
+  std::size_t instances = 0;  ///< with an instance number
+  Counts entities;            ///< by the name of the entity as the schema spells it
+  Counts raw;                 ///< raw text, by the name of the entity in upper case
 };
 
 std::string UpperCase(std::string text) {

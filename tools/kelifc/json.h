@@ -6,12 +6,12 @@
 
 namespace command {
 
-/// JSON whose members keep the order in which they were added.
+/// JSON. An object keeps its members in the order in which they were added.
 using Json = nlohmann::ordered_json;
 
-/// One object as UTF-8 text with a line for each member and for each entry of a member that is a
-/// list or an object. Numbers read back as the same double; one that is not finite is null; bytes
-/// that are no UTF-8 become U+FFFD.
+/// Writes an object as UTF-8 text. Each member has a line. If a member is a list or an object, each
+/// of its entries has a line. A number reads back as the same double, and a number that is not
+/// finite becomes null. A byte that is not UTF-8 becomes U+FFFD.
 std::string ToText(const Json& object);
 
 }  // namespace command

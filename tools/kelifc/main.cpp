@@ -12,7 +12,7 @@ namespace {
 
 using command::Status;
 
-/// What the command line asks for.
+/// The options of the subcommands. Parsing fills those of the one that the command line names.
 struct Request {
   command::StructureOptions structure;
   command::InfoOptions info;
@@ -21,24 +21,28 @@ struct Request {
 
 void Describe(CLI::App& app, Request& request) {
   app.set_version_flag("--version", std::string("kelifc ") + KELIFC_VERSION);
-  app.allow_windows_style_options(false);  // a path may begin with a slash
+  app.allow_windows_style_options(false);  // an argument that begins with a slash is a path
   app.require_subcommand(1);
   constexpr auto kModel = "MODEL.ifc";
+  constexpr auto kModelHelp = "the model to read; - means standard input";
 
   CLI::App* structure = app.add_subcommand("structure", "the converted building structure");
-  structure->add_flag("--json", request.structure.json, "print one JSON object");
-  structure->add_option("--output", request.structure.output, "write to FILE")
+  structure->add_flag("--json", request.structure.json, "print one JSON object instead of a table");
+  structure
+      ->add_option("--output", request.structure.output, "write to FILE instead of standard output")
       ->option_text("FILE")
       ->check([](const std::string& file) { return file.empty() ? "FILE is empty" : ""; });
-  structure->add_option(kModel, request.structure.model)->required()->option_text(" ");
+  structure->add_option(kModel, request.structure.model, kModelHelp)->required()->option_text(" ");
 
   CLI::App* info = app.add_subcommand("info", "what the file holds");
-  info->add_flag("--json", request.info.json, "print one JSON object");
-  info->add_option(kModel, request.info.model)->required()->option_text(" ");
+  info->add_flag("--json", request.info.json, "print one JSON object instead of a table");
+  info->add_option(kModel, request.info.model, kModelHelp)->required()->option_text(" ");
 
   CLI::App* save = app.add_subcommand("save", "load and write back");
-  save->add_option(kModel, request.save.model)->required()->option_text(" ");
-  save->add_option("OUT.ifc", request.save.output)->required()->option_text(" ");
+  save->add_option(kModel, request.save.model, kModelHelp)->required()->option_text(" ");
+  save->add_option("OUT.ifc", request.save.output, "the file to write")
+      ->required()
+      ->option_text(" ");
 }
 
 void Run(const CLI::App& app, const Request& request) {
@@ -54,7 +58,7 @@ int Fail(Status status, std::string message) {
 }
 
 int RunMain(int argc, char** argv) {
-  CLI::App app("Reads, shows and writes back IFC building models", "kelifc");
+  CLI::App app("Reads, shows and writes IFC building models", "kelifc");
   Request request;
   Describe(app, request);
   try {
@@ -63,7 +67,7 @@ int RunMain(int argc, char** argv) {
   } catch (const CLI::ParseError& e) {
     if (e.get_exit_code() != 0)
       return Fail(Status::kUsage, std::string(e.what()) + "; see kelifc --help");
-    // Help and version come as exceptions too; the library knows which text they ask for.
+    // Help and version are exceptions too. exit() writes the text that they stand for.
     std::ostringstream text;
     app.exit(e, text, text);
     command::WriteOutput("", text.str());

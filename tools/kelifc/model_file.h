@@ -8,12 +8,12 @@
 
 namespace command {
 
-/// Loads the model at `path` into `server`, with a progress bar where it is worth one.
-/// Throws Failure: Status::kFile for what cannot be read, Status::kNoModel for what is no STEP
-/// file or of no known schema.
+/// Loads the model at `path` into `server`. Shows a progress bar if the file is large and standard
+/// error is a terminal. Throws Failure with Status::kFile if the file cannot be read, and with
+/// Status::kNoModel if it is not a STEP file or its schema is unknown.
 void LoadModel(KelIFC::IfcServer& server, const std::string& path);
 
-/// "1.5.1", "2.0", "2x", "2x2" or "2x3"; "" for no release.
+/// "1.5.1", "2.0", "2x", "2x2" or "2x3". "" for IFC_RELEASE_NONE.
 const char* ReleaseText(KelIFC::IFC_RELEASE release);
 
 }  // namespace command

@@ -4,34 +4,19 @@
 #include <cstdio>
 #include <cstring>
 
-#ifdef _WIN32
-#include <fcntl.h>
-#include <io.h>
-#endif
+#include "kelifc/platform/program.h"
 
 #include "tools/kelifc/failure.h"
 
 namespace command {
-namespace {
-
-/// The same bytes on every system.
-void LeaveLineEnds(std::FILE* stream) {
-#ifdef _WIN32
-  _setmode(_fileno(stream), _O_BINARY);
-#else
-  static_cast<void>(stream);
-#endif
-}
-
-}  // namespace
 
 void WriteOutput(const std::string& path, std::string_view text) {
   const std::string name = path.empty() ? "standard output" : path;
   std::FILE* file = path.empty() ? stdout : std::fopen(path.c_str(), "wb");
   if (file == nullptr) throw Failure(Status::kFile, name, std::strerror(errno));
 
-  LeaveLineEnds(file);
-  // The first error is the one to tell; closing flushes, so it can be the one that fails.
+  KelIFC::SetBinary(file);  // the output has the same bytes on every system
+  // The message names the first error. Closing the file flushes it, so closing can fail as well.
   int error = 0;
   if (std::fwrite(text.data(), 1, text.size(), file) != text.size()) error = errno;
   const int closed = path.empty() ? std::fflush(file) : std::fclose(file);

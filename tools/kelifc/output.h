@@ -6,8 +6,8 @@
 
 namespace command {
 
-/// Writes `text` to the file at `path`, or to standard output where `path` is empty.
-/// Throws Failure with Status::kFile if not all of it reaches the file, a full disk included.
+/// Writes `text` to the file at `path`, or to standard output if `path` is empty. Throws Failure
+/// with Status::kFile if the text is not written completely, for example because the disk is full.
 void WriteOutput(const std::string& path, std::string_view text);
 
 }  // namespace command

@@ -1,33 +1,21 @@
 #include "tools/kelifc/progress.h"
 
-#ifdef _WIN32
-#include <io.h>
-#else
-#include <unistd.h>
-#endif
-
 #include <algorithm>
 #include <cstdio>
 #include <string>
 
+#include "kelifc/platform/program.h"
+
 namespace command {
 namespace {
 
-constexpr std::uint64_t kWorthABar = 20'000'000;
+constexpr std::uint64_t kLargeFile = 20'000'000;
 constexpr int kBarWidth = 40;
-
-bool IsTerminal(std::FILE* stream) {
-#ifdef _WIN32
-  return _isatty(_fileno(stream)) != 0;
-#else
-  return isatty(fileno(stream)) != 0;
-#endif
-}
 
 }  // namespace
 
 ProgressBar::ProgressBar(std::uint64_t fileBytes)
-    : shown(fileBytes > kWorthABar && IsTerminal(stderr)) {}
+    : shown(fileBytes > kLargeFile && KelIFC::IsTerminal(stderr)) {}
 
 ProgressBar::~ProgressBar() {
   if (shown) std::fputs("\r\033[K", stderr);

@@ -5,8 +5,8 @@
 
 namespace command {
 
-/// A bar on standard error that tells how far the reading of a file has come. It shows only where
-/// standard error is a terminal and the file is above 20 MB, and it is gone when it is destroyed.
+/// A bar on standard error that shows the progress of a load. It is shown only if standard error is
+/// a terminal and the file is larger than 20 MB. The destructor removes it.
 class ProgressBar {
  public:
   explicit ProgressBar(std::uint64_t fileBytes);
@@ -16,7 +16,8 @@ class ProgressBar {
 
   bool IsShown() const { return shown; }
 
-  /// `done` of `total` bytes are read, over all passes. Draws at most once per percent.
+  /// Shows that `done` of `total` bytes have been read, counted over all passes. Draws at most once
+  /// for each percent.
   void Update(std::uint64_t done, std::uint64_t total);
 
  private:

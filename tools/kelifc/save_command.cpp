@@ -11,7 +11,7 @@ namespace command {
 void RunSave(const SaveOptions& options) {
   KelIFC::IfcServer server;
   LoadModel(server, options.model);
-  std::string failure;  // the first that is told: what follows from it is no news
+  std::string failure;  // the first report; the others are consequences of it
   server.SetErrorHandler([&failure](const std::string& message) {
     if (failure.empty()) failure = message;
   });

@@ -9,8 +9,8 @@
 
 namespace command {
 
-// The converted structure as plain values, read once from the object model and then printed in
-// either form. Text is UTF-8. Element geometry is in metres and world coordinates; the levels and
+// The structure as plain values. It is read once from the object model and then printed as a table
+// or as JSON. Text is UTF-8. Geometry of elements is in metres and world coordinates. Levels and
 // heights of storeys are in the unit of the file.
 
 using Point = std::array<double, 3>;
@@ -22,18 +22,18 @@ struct Storey {
   double height = 0.0;
 };
 
-/// What every element has.
+/// The values that every element has.
 struct Element {
   std::string name;
-  std::string guid;  ///< braced form
+  std::string guid;  ///< such as "{00112233-4455-6677-8899-AABBCCDDEEFF}"
   std::string section;
-  std::optional<int> storey;  ///< unset for an element in no storey
+  std::optional<int> storey;  ///< unset if no storey contains the element
   std::vector<Point> points;
 };
 
 struct Boundary {
   std::vector<Point> points;
-  std::vector<std::vector<long>> faces;  ///< numbers of points, from 1
+  std::vector<std::vector<long>> faces;  ///< the numbers of the points of each face, from 1
 };
 
 struct Beam : Element {
@@ -50,13 +50,13 @@ struct Plate : Element {
   std::vector<Element> holes;
 };
 
-/// Its one point is where it stands.
+/// It has one point, its location.
 struct Foot : Element {};
 
 struct Section {
   std::string name;
   long kind = 0;
-  /// The dimensions of its kind by the names they have in the output, in their order.
+  /// The names and values of its sizes in metres, in the order of the output. A polygon has none.
   std::vector<std::pair<const char*, double>> sizes;
 };
 

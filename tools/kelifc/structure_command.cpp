@@ -3,7 +3,6 @@
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/failure.h"
 #include "tools/kelifc/model_file.h"
-#include "tools/kelifc/object_model.h"
 #include "tools/kelifc/output.h"
 #include "tools/kelifc/structure_format.h"
 #include "tools/kelifc/structure_reader.h"
@@ -11,18 +10,10 @@
 namespace command {
 namespace {
 
-using KelIFC::ComPtr;
 using KelIFC::IfcServer;
 
-ComPtr<IIFCServer> MakeServer() {
-  ComPtr<IIFCServer> server;
-  Check(CoCreateInstance(CLSID_CoIFCServer, nullptr, CLSCTX_ALL, KelIFC::IidOf<IIFCServer>(),
-                         reinterpret_cast<void**>(server.Put())));
-  return server;
-}
-
-/// Loads into the model of the server object itself: its own Load has one status for all failures,
-/// and tells nobody how far it is.
+/// Loads the file with IfcServer instead of IIFCServer::Load, which returns one status for all
+/// failures and reports no progress.
 void LoadConvertible(IfcServer& model, const std::string& path) {
   LoadModel(model, path);
   const KelIFC::IFC_RELEASE release = model.GetRelease();
@@ -35,12 +26,12 @@ void LoadConvertible(IfcServer& model, const std::string& path) {
 }  // namespace
 
 void RunStructure(const StructureOptions& options) {
-  const KelIFC::LocalClasses classes;  // the command works without an entry in a registry
-  Check(classes.GetStatus());
-  const ComPtr<IIFCServer> server = MakeServer();
+  const KelIFC::LocalClasses classes;  // the command needs no registered library
+  KelIFC::ThrowIfFailed(classes.GetStatus());
+  const auto server = KelIFC::CreateServer();
   IfcServer& model = *KelIFC::GetModel(server.Get());
   LoadConvertible(model, options.model);
-  Structure structure = ReadStructure(*GetObject(*server, &IIFCServer::get_Structure));
+  Structure structure = ReadStructure(KelIFC::Get(server, &IIFCServer::get_Structure));
   structure.release = ReleaseText(model.GetRelease());
   WriteOutput(options.output,
               options.json ? StructureJson(options.model, structure) : StructureTable(structure));

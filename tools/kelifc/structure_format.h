@@ -7,10 +7,10 @@
 
 namespace command {
 
-/// The structure as one JSON object. `file` is the path as the user gave it.
+/// Writes the structure as one JSON object. `file` is the path as the user gave it.
 std::string StructureJson(const std::string& file, const Structure& structure);
 
-/// The structure as tables for a person to read.
+/// Writes the structure as tables for a person.
 std::string StructureTable(const Structure& structure);
 
 }  // namespace command

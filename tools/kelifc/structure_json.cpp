@@ -8,7 +8,7 @@ Json StoreyOf(const Element& element) {
   return element.storey ? Json(*element.storey) : Json(nullptr);
 }
 
-/// What comes first in every element; `Object` adds to it what its kind has on top.
+/// The members that come first in every element. `Object` adds the members of each kind.
 Json Identity(const Element& element) {
   return {{"name", element.name},
           {"guid", element.guid},
@@ -70,7 +70,7 @@ Json Object(const Section& section) {
   return object;
 }
 
-/// Stands behind all forms of Object, so that each kind of element meets its own.
+/// Declared after all overloads of Object, so that it finds the one for each kind of item.
 template <class Item>
 Json List(const std::vector<Item>& items) {
   Json list = Json::array();

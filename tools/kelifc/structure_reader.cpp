@@ -1,101 +1,92 @@
 #include "tools/kelifc/structure_reader.h"
 
+#include <initializer_list>
 #include <optional>
 
-#include "tools/kelifc/object_model.h"
+#include "kelifc/kelifc.h"
 
 namespace command {
 namespace {
 
 using KelIFC::ComPtr;
+using KelIFC::Get;
+using KelIFC::Items;
+using KelIFC::Query;
 
-// The number of a storey, or of an element's storey, where there is none.
-constexpr SHORT kNoStorey = 32767;
-
-// Kinds of sections; a profile has no sizes.
-constexpr LONG kRectangle = 1;
-constexpr LONG kCircle = 2;
-constexpr LONG kT = 3;
-constexpr LONG kThick = 9;
-
-Storey ReadStorey(IGeoStorey& storey) {
-  return {Get(storey, &IGeoStorey::get_Number), GetText(storey, &IGeoStorey::get_Name),
-          Get(storey, &IGeoStorey::get_Level), Get(storey, &IGeoStorey::get_Height)};
-}
-
-Point ReadPoint(IGeoPoint& point) {
-  Point place{};
-  Check(point.GetXYZ(&place[0], &place[1], &place[2]));
-  return place;
-}
-
-std::optional<int> ReadStoreyNumber(IGeoObject& object) {
-  SHORT number = kNoStorey;
-  if (FAILED(object.get_StoreyNumber(&number)) || number == kNoStorey) return std::nullopt;
-  return number;
-}
-
-/// What an element's own interface tells, without its points.
-template <class Interface>
-Element ReadIdentity(Interface& object) {
-  Element element;
-  element.name = GetText(object, &Interface::get_Name);
-  element.guid = GetText(object, &Interface::get_GUID);
-  element.section = GetText(object, &Interface::get_SectionName);
-  element.storey = ReadStoreyNumber(object);
-  return element;
-}
-
-template <class Interface>
-Element ReadElement(Interface& object) {
-  Element element = ReadIdentity(object);
-  const ComPtr<IGeoPolyline> polyline = Query<IGeoPolyline>(object);
-  element.points = ReadAll(*polyline, &IGeoPolyline::get_Points, &IGeoPoints::Item, ReadPoint);
-  return element;
-}
-
-std::vector<long> ReadFace(IGeoFace& face) {
-  const ComPtr<IGeoNumbers> numbers = GetObject(face, &IGeoFace::get_Numbers);
-  const LONG count = Get(*numbers, &IGeoNumbers::Count);
-  std::vector<long> all;
-  for (LONG i = 1; i <= count; ++i) {
-    LONG number = 0;
-    Check(numbers->Item(i, &number));
-    all.push_back(number);
-  }
+/// The results of `read` for the items of a collection, in their order.
+template <class Collection, class Read>
+auto ReadAll(const KelIFC::ItemRange<Collection>& items, Read read) {
+  std::vector<decltype(read(*items.begin()))> all;
+  all.reserve(items.size());
+  for (const auto& item : items) all.push_back(read(item));
   return all;
 }
 
-Beam ReadBeam(IGeoBeam& object) {
+Storey ReadStorey(const ComPtr<IGeoStorey>& storey) {
+  return {Get(storey, &IGeoStorey::get_Number), Get(storey, &IGeoStorey::get_Name),
+          Get(storey, &IGeoStorey::get_Level), Get(storey, &IGeoStorey::get_Height)};
+}
+
+Point ReadPoint(const ComPtr<IGeoPoint>& point) { return KelIFC::GetXYZ(point); }
+
+std::optional<int> ReadStoreyNumber(const ComPtr<IGeoObject>& object) {
+  const auto number = KelIFC::TryGet(object, &IGeoObject::get_StoreyNumber);
+  if (!number || *number == KelIFC::kNoStoreyNumber) return std::nullopt;
+  return *number;
+}
+
+/// Reads an element without its points.
+template <class Interface>
+Element ReadIdentity(const ComPtr<Interface>& object) {
+  return {Get(object, &Interface::get_Name),
+          Get(object, &Interface::get_GUID),
+          Get(object, &Interface::get_SectionName),
+          ReadStoreyNumber(object),
+          {}};
+}
+
+template <class Interface>
+Element ReadElement(const ComPtr<Interface>& object) {
+  Element element = ReadIdentity(object);
+  const auto polyline = Query<IGeoPolyline>(object);
+  element.points = ReadAll(Items(polyline, &IGeoPolyline::get_Points), ReadPoint);
+  return element;
+}
+
+std::vector<long> ReadFace(const ComPtr<IGeoFace>& face) {
+  const auto numbers = Items(face, &IGeoFace::get_Numbers);
+  return {numbers.begin(), numbers.end()};
+}
+
+Beam ReadBeam(const ComPtr<IGeoBeam>& object) {
   Beam beam{ReadElement(object), {}};
-  const ComPtr<IGeoBRep> boundary = GetObject(object, &IGeoBeam::get_BRep);
-  beam.boundary.points = ReadAll(*boundary, &IGeoBRep::get_Points, &IGeoPoints::Item, ReadPoint);
-  beam.boundary.faces = ReadAll(*boundary, &IGeoBRep::get_Faces, &IGeoFaces::Item, ReadFace);
+  const auto boundary = Get(object, &IGeoBeam::get_BRep);
+  beam.boundary.points = ReadAll(Items(boundary, &IGeoBRep::get_Points), ReadPoint);
+  beam.boundary.faces = ReadAll(Items(boundary, &IGeoBRep::get_Faces), ReadFace);
   return beam;
 }
 
-Wall ReadWall(IGeoWall& object) {
+Wall ReadWall(const ComPtr<IGeoWall>& object) {
   Wall wall{ReadElement(object), false, {}, {}};
-  wall.closed = Get(*Query<IGeoPolyline>(object), &IGeoPolyline::get_Closed) != VARIANT_FALSE;
-  wall.windows =
-      ReadAll(object, &IGeoWall::get_Windows, &IGeoWindows::Item, ReadElement<IGeoWindow>);
-  wall.doors = ReadAll(object, &IGeoWall::get_Doors, &IGeoDoors::Item, ReadElement<IGeoDoor>);
+  wall.closed = Get(Query<IGeoPolyline>(object), &IGeoPolyline::get_Closed) != VARIANT_FALSE;
+  wall.windows = ReadAll(Items(object, &IGeoWall::get_Windows), ReadElement<IGeoWindow>);
+  wall.doors = ReadAll(Items(object, &IGeoWall::get_Doors), ReadElement<IGeoDoor>);
   return wall;
 }
 
-Plate ReadPlate(IGeoPlate& object) {
+Plate ReadPlate(const ComPtr<IGeoPlate>& object) {
   Plate plate{ReadElement(object), {}};
-  plate.holes = ReadAll(object, &IGeoPlate::get_Holes, &IGeoHoles::Item, ReadElement<IGeoHole>);
+  plate.holes = ReadAll(Items(object, &IGeoPlate::get_Holes), ReadElement<IGeoHole>);
   return plate;
 }
 
-Foot ReadFoot(IGeoFoot& object) {
+Foot ReadFoot(const ComPtr<IGeoFoot>& object) {
   Foot foot{ReadIdentity(object)};
-  foot.points.push_back(ReadPoint(*Query<IGeoPoint>(object)));
+  foot.points.push_back(ReadPoint(Query<IGeoPoint>(object)));
   return foot;
 }
 
-/// Adds the dimensions that one section interface gives, named as in the output.
+/// A size of a section: its name in the output, and the operation that returns it.
 template <class Interface>
 struct Size {
   const char* name;
@@ -103,24 +94,24 @@ struct Size {
 };
 
 template <class Interface>
-void ReadSizes(IGeoSection& object, std::initializer_list<Size<Interface>> sizes,
+void ReadSizes(const ComPtr<IGeoSection>& object, std::initializer_list<Size<Interface>> sizes,
                Section& section) {
-  const ComPtr<Interface> own = Query<Interface>(object);
-  for (const auto& [name, getter] : sizes) section.sizes.emplace_back(name, Get(*own, getter));
+  const auto own = Query<Interface>(object);
+  for (const auto& [name, getter] : sizes) section.sizes.emplace_back(name, Get(own, getter));
 }
 
-Section ReadSection(IGeoSection& object) {
-  Section section{GetText(object, &IGeoSection::get_Name), Get(object, &IGeoSection::get_Kind), {}};
+Section ReadSection(const ComPtr<IGeoSection>& object) {
+  Section section{Get(object, &IGeoSection::get_Name), Get(object, &IGeoSection::get_Kind), {}};
   switch (section.kind) {
-    case kRectangle:
+    case KelIFC::SECTION_R:
       ReadSizes<IGeoSectionR>(
           object, {{"width", &IGeoSectionR::get_Width}, {"height", &IGeoSectionR::get_Height}},
           section);
       break;
-    case kCircle:
+    case KelIFC::SECTION_C:
       ReadSizes<IGeoSectionC>(object, {{"diameter", &IGeoSectionC::get_Diameter}}, section);
       break;
-    case kT:
+    case KelIFC::SECTION_T:
       ReadSizes<IGeoSectionT>(object,
                               {{"height", &IGeoSectionT::get_Height},
                                {"flangeThickness", &IGeoSectionT::get_FlangeThickness},
@@ -128,7 +119,7 @@ Section ReadSection(IGeoSection& object) {
                                {"flangeWidth", &IGeoSectionT::get_FlangeWidth}},
                               section);
       break;
-    case kThick:
+    case KelIFC::SECTION_THICK:
       ReadSizes<IGeoSectionThick>(object, {{"thickness", &IGeoSectionThick::get_Thickness}},
                                   section);
       break;
@@ -140,18 +131,19 @@ Section ReadSection(IGeoSection& object) {
 
 }  // namespace
 
-Structure ReadStructure(IGeoStructure& structure) {
-  Structure read;
-  read.storeys = ReadAll(structure, &IGeoStructure::get_Storeys, &IGeoStoreys::Item, ReadStorey);
-  read.columns =
-      ReadAll(structure, &IGeoStructure::get_Columns, &IGeoColumns::Item, ReadElement<IGeoColumn>);
-  read.beams = ReadAll(structure, &IGeoStructure::get_Beams, &IGeoBeams::Item, ReadBeam);
-  read.walls = ReadAll(structure, &IGeoStructure::get_Walls, &IGeoWalls::Item, ReadWall);
-  read.plates = ReadAll(structure, &IGeoStructure::get_Plates, &IGeoPlates::Item, ReadPlate);
-  read.foots = ReadAll(structure, &IGeoStructure::get_Foots, &IGeoFoots::Item, ReadFoot);
-  read.sections =
-      ReadAll(structure, &IGeoStructure::get_Sections, &IGeoSections::ItemByIndex, ReadSection);
-  return read;
+Structure ReadStructure(const ComPtr<IGeoStructure>& structure) {
+  const auto read = [&structure](auto getter, auto readItem) {
+    return ReadAll(Items(structure, getter), readItem);
+  };
+  Structure all;
+  all.storeys = read(&IGeoStructure::get_Storeys, ReadStorey);
+  all.columns = read(&IGeoStructure::get_Columns, ReadElement<IGeoColumn>);
+  all.beams = read(&IGeoStructure::get_Beams, ReadBeam);
+  all.walls = read(&IGeoStructure::get_Walls, ReadWall);
+  all.plates = read(&IGeoStructure::get_Plates, ReadPlate);
+  all.foots = read(&IGeoStructure::get_Foots, ReadFoot);
+  all.sections = read(&IGeoStructure::get_Sections, ReadSection);
+  return all;
 }
 
 }  // namespace command

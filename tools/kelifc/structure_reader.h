@@ -7,10 +7,10 @@
 
 namespace command {
 
-/// Reads the whole structure through its interfaces, in the order that fixes the order of its
-/// sections: storeys, columns, beams, walls, plates, foots, and the sections last. The release is
-/// left empty, since no interface tells it. Throws std::runtime_error if an operation fails.
-Structure ReadStructure(IGeoStructure& structure);
+/// Reads the whole structure through its interfaces. The order of the calls fixes the order of the
+/// sections: storeys, columns, beams, walls, plates, foots, and the sections last. `release` stays
+/// empty, because no interface reports it. Throws KelIFC::StatusError if an operation fails.
+Structure ReadStructure(const KelIFC::ComPtr<IGeoStructure>& structure);
 
 }  // namespace command
 

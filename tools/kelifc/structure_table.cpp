@@ -11,7 +11,7 @@ std::string Place(const Point& point) {
   return Brief(point[0]) + " " + Brief(point[1]) + " " + Brief(point[2]);
 }
 
-/// The points that tell where an element is: all of a few, else the first and how many follow.
+/// The first two points of an element, and the number of the others.
 std::string Places(const std::vector<Point>& points) {
   constexpr std::size_t kShown = 2;
   std::string text;

@@ -6,12 +6,8 @@
 
 namespace command {
 
-/// UTF-8 of attribute text, where each byte is the ISO 8859-1 character of its code.
+/// Converts the text of an attribute, in which each byte is an ISO 8859-1 character, to UTF-8.
 std::string Utf8FromLatin1(std::string_view text);
-
-/// UTF-8 of text as the object model's interfaces give it. A code that is no character becomes
-/// U+FFFD.
-std::string Utf8FromWide(std::wstring_view text);
 
 }  // namespace command
 

@@ -9,7 +9,7 @@
 namespace command {
 namespace {
 
-/// Characters, not bytes: a continuation byte of UTF-8 takes no place of its own.
+/// The number of characters of a UTF-8 text. Continuation bytes do not count.
 std::size_t Width(const std::string& cell) {
   return static_cast<std::size_t>(std::count_if(
       cell.begin(), cell.end(), [](char c) { return (static_cast<unsigned char>(c) >> 6) != 2; }));

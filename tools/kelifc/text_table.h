@@ -6,19 +6,20 @@
 
 namespace command {
 
-/// Rows of cells for a person to read. Cells are UTF-8.
+/// A table of text for a person. Cells are UTF-8.
 class TextTable {
  public:
   using Row = std::vector<std::string>;
 
-  /// `heading` fixes the number of columns. The columns marked true in `rightAligned` hold
-  /// numbers; a missing mark means left.
+  /// `heading` decides the number of columns. A column is right-aligned if its entry in
+  /// `rightAligned` is true. Without an entry it is left-aligned.
   explicit TextTable(Row heading, std::vector<bool> rightAligned = {});
 
-  /// A row may be shorter than the heading; its missing cells are empty.
+  /// Adds a row. It may be shorter than the heading; then its last cells are empty.
   void Add(Row row);
 
-  /// The heading and the rows, each column as wide as its widest cell, without trailing blanks.
+  /// The heading and the rows, one line each. A column is as wide as its widest cell. Lines have no
+  /// blanks at their end.
   std::string ToText() const;
 
  private:
@@ -26,7 +27,7 @@ class TextTable {
   std::vector<bool> rightAligned;
 };
 
-/// A number as short as it can be told to six digits, "-" for one that is not finite.
+/// A number with up to six significant digits. "-" for a number that is not finite.
 std::string Brief(double value);
 
 }  // namespace command

@@ -8,36 +8,10 @@
 #include <vector>
 
 #include "tools/schemac/diagnostics.h"
+#include "tools/schemac/kinds.h"
 #include "tools/schemac/release_set.h"
 
 namespace schemac {
-
-/// What an attribute holds, or what a position of a record is read as.
-enum class Kind {
-  kString,
-  kLabel,       ///< IfcLabel where the release has it, else STRING
-  kIdentifier,  ///< IfcIdentifier where the release has it, else STRING
-  kReal,
-  kInteger,
-  kBoolean,
-  kLogical,
-  kMeasure,     ///< IfcLengthMeasure, also for measures other than length
-  kScientific,  ///< a REAL that is written with an exponent and never unset
-  kCoordinates,
-  kAngle,       ///< IfcCompoundPlaneAngleMeasure
-  kFlags,       ///< two bits
-  kEnumText,    ///< an enumeration kept as its text
-  kLabels,      ///< a list of labels
-  kIntegers,    ///< a list of whole numbers, as a defined type of its own
-  kReference,   ///< one reference
-  kSet,         ///< a set of references
-  kList,        ///< a list of references
-  kEnum,        ///< an enumeration with a table
-  kValue,       ///< a typed value in place
-  kGlobalId64,  ///< the identifier of 22 characters, checked when read, made when missing
-  kGlobalId85,  ///< the identifier of 20 characters, made when missing
-  kInstance,    ///< an instance held by value, a cache
-};
 
 /// An attribute that a class stores.
 struct Attribute {
@@ -91,6 +65,7 @@ struct Operation {
   std::string parameters;     ///< in parentheses, for an operation with a signature
   std::string result;         ///< as described; empty: void
   bool bothForms = false;     ///< a writable and a const form
+  bool isForward = false;     ///< calls the operation of the same name with '_' in front
   bool hasSignature = false;  ///< its body is written by hand
   bool isConst = false;
   bool isOverride = false;
@@ -102,6 +77,7 @@ struct Operation {
 struct Marked {
   std::string text;
   ReleaseSet releases = ReleaseSet::None();
+  Place place = {};
 };
 
 /// A class with attributes, or a select.
@@ -120,10 +96,9 @@ struct Entity {
   std::vector<RecordOrder> orders;
   std::vector<Operation> operations;  ///< in slot order
   std::vector<Marked> constructors;   ///< parameter lists; bodies are written by hand
-  std::vector<Marked> bodies;         ///< files with the code written by hand
   std::vector<Marked> chains;         ///< class whose Parse and Write go ahead of its own
-  ReleaseSet customParse = ReleaseSet::None();
-  ReleaseSet customWrite = ReleaseSet::None();
+  std::vector<Marked> customParse;    ///< where Parse is written by hand; no text
+  std::vector<Marked> customWrite;
   ReleaseSet noParse = ReleaseSet::None();
   ReleaseSet noWrite = ReleaseSet::None();
   std::vector<Marked> departures;               ///< reasons that belong to no attribute
@@ -169,6 +144,14 @@ struct Function {
   ReleaseSet releases = ReleaseSet::None();
 };
 
+/// Code that is written by hand for one entity or function.
+struct Body {
+  Place place;  ///< of the line that begins the section; the text begins at the next one
+  std::string name;
+  std::string text;
+  ReleaseSet releases = ReleaseSet::None();
+};
+
 struct Family {
   std::string name;
   std::string title;
@@ -181,6 +164,7 @@ struct Description {
   std::vector<DefinedType> definedTypes;
   std::vector<Enumeration> enumerations;
   std::vector<Function> functions;
+  std::vector<Body> bodies;
 };
 
 }  // namespace schemac

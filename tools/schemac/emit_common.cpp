@@ -4,14 +4,13 @@
 #include <cctype>
 #include <sstream>
 
+#include "tools/schemac/attribute_text.h"
+
 namespace schemac {
 
 namespace {
 
 constexpr std::size_t kLineLength = 100;
-
-/// The enumerator of the value 0 where no row has it.
-constexpr std::string_view kUnsetRow = "NONE";
 
 bool HasZero(const EnumTable& table) {
   return std::any_of(table.rows.begin(), table.rows.end(),
@@ -51,6 +50,10 @@ void TextWriter::Call(const std::string& head, const std::vector<std::string>& a
   Line(line);
 }
 
+std::size_t TextWriter::LineCount() const {
+  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\n'));
+}
+
 std::string FamilyFile(std::string_view releaseFolder, std::string_view family,
                        std::string_view ending) {
   return "kelifc/schema/" + std::string(releaseFolder) + "/" + std::string(family) +
@@ -70,48 +73,55 @@ std::string GeneratedBy(std::string_view source) {
   return "// Made by schemac from " + std::string(source) + "; change the description instead.";
 }
 
+std::string DescriptionFile(std::string_view family) {
+  return "kelifc/schema/" + std::string(family) + ".schema";
+}
+
+std::string GuardedHeader(const std::string& path, std::string_view source,
+                          const std::string& content) {
+  constexpr std::string_view kForm = R"(@generated@
+#ifndef @guard@
+#define @guard@
+
+@content@#endif  // @guard@
+)";
+  return Fill(kForm,
+              {{"generated", GeneratedBy(source)}, {"guard", Guard(path)}, {"content", content}});
+}
+
+TemplateWords WordsOf(const ReleaseInfo& info) {
+  return {{"mark", std::string(info.mark)},
+          {"namespace", std::string(info.nameSpace)},
+          {"folder", std::string(info.folder)},
+          {"suffix", std::string(info.suffix)},
+          {"constant", std::string(info.constant)}};
+}
+
 std::string FamilyOf(const ReleaseModel& model, std::string_view name) {
   if (const ResolvedClass* type = model.Find(name)) return type->entity->family;
   const auto type = model.definedTypes.find(name);
   return type == model.definedTypes.end() ? std::string() : type->second->family;
 }
 
-std::string TableName(const std::string& enumeration) { return "k" + enumeration + "Table"; }
-
-std::string Enumerator(const std::string& enumeration, const std::string& row) {
-  return enumeration + "_" + (row.empty() ? std::string(kUnsetRow) : row);
-}
-
-std::string InitialEnumerator(const ReleaseModel& model, const Attribute& attribute) {
-  if (!attribute.initial.empty()) return Enumerator(attribute.type, attribute.initial);
-  const Enumeration& enumeration = *model.enumerations.at(attribute.type);
-  const EnumTable& table =
-      enumeration.isCore ? enumeration.tables.front() : *FindTable(enumeration, model.release);
-  for (const auto& [text, value] : table.rows) {
-    if (value == 0) return Enumerator(attribute.type, text);
-  }
-  return Enumerator(attribute.type, "");
-}
-
 void EmitEnumeration(TextWriter& out, const Enumeration& enumeration, const EnumTable& table) {
   if (table.rows.empty()) {
     out.Doc("", enumeration.doc + " The text is kept as it stands.");
-    out.Line("using " + enumeration.name + " = ENUM;");
-    out.Line();
+    out.Fill("using @name@ = ENUM;\n\n", {{"name", enumeration.name}});
     return;
   }
+  TemplateWords words = {{"name", enumeration.name},
+                         {"table", TableName(enumeration.name)},
+                         {"none", Enumerator(enumeration.name, "")}};
   out.Doc("", enumeration.doc + " The values are those of the table below.");
-  out.Line("enum " + enumeration.name + " : std::int32_t {");
-  if (!HasZero(table)) {
-    out.Line("  " + Enumerator(enumeration.name, "") + " = 0,  ///< nothing that the table knows");
-  }
+  out.Fill("enum @name@ : std::int32_t {\n", words);
+  if (!HasZero(table)) out.Fill("  @none@ = 0,  ///< nothing that the table knows\n", words);
   for (const auto& [text, value] : table.rows) {
     out.Line("  " + Enumerator(enumeration.name, text) + " = " + std::to_string(value) + ",");
   }
   out.Line("};");
   out.Line();
-  out.Doc("", "The texts of " + enumeration.name + ", in the order in which they are searched.");
-  out.Line("inline constexpr EnumTextRow " + TableName(enumeration.name) + "[] = {");
+  out.Doc("", Fill("The texts of @name@, in the order in which they are searched.", words));
+  out.Fill("inline constexpr EnumTextRow @table@[] = {\n", words);
   for (const auto& [text, value] : table.rows) {
     out.Line("    {\"" + text + "\", " + Enumerator(enumeration.name, text) + "},");
   }

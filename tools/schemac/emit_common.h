@@ -7,7 +7,8 @@
 #include <string_view>
 #include <vector>
 
-#include "tools/schemac/resolver.h"
+#include "tools/schemac/release_model.h"
+#include "tools/schemac/text_template.h"
 
 namespace schemac {
 
@@ -19,6 +20,11 @@ class TextWriter {
  public:
   void Line(const std::string& line = "") { text += line + "\n"; }
 
+  /// A template with its words replaced. It ends its own lines.
+  void Fill(std::string_view form, const TemplateWords& words) {
+    text += schemac::Fill(form, words);
+  }
+
   /// A doc comment, wrapped at the line length.
   void Doc(const std::string& indent, const std::string& comment);
 
@@ -27,6 +33,9 @@ class TextWriter {
             const std::string& tail);
 
   const std::string& Text() const { return text; }
+
+  /// How many lines have been ended.
+  std::size_t LineCount() const;
 
  private:
   std::string text;
@@ -42,17 +51,19 @@ std::string Guard(const std::string& path);
 /// The line at the head of every generated file.
 std::string GeneratedBy(std::string_view source);
 
+/// The description file of a family, from the root of the source tree.
+std::string DescriptionFile(std::string_view family);
+
+/// A whole header: the first line, the include guard of its path, and its content, which ends with
+/// an empty line.
+std::string GuardedHeader(const std::string& path, std::string_view source,
+                          const std::string& content);
+
+/// The words that the templates of one release share: mark, namespace, folder, suffix, constant.
+TemplateWords WordsOf(const ReleaseInfo& info);
+
 /// The family in which the release describes a class or defined type; empty for core classes.
 std::string FamilyOf(const ReleaseModel& model, std::string_view name);
-
-/// The name of the row table of an enumeration.
-std::string TableName(const std::string& enumeration);
-
-/// The enumerator of a row; an empty row is the value 0 that no row has.
-std::string Enumerator(const std::string& enumeration, const std::string& row);
-
-/// The enumerator that an attribute starts with and that a missing text gives.
-std::string InitialEnumerator(const ReleaseModel& model, const Attribute& attribute);
 
 /// Writes an enumeration and its table.
 void EmitEnumeration(TextWriter& out, const Enumeration& enumeration, const EnumTable& table);

@@ -1,32 +1,81 @@
-#include <algorithm>
-
+#include "tools/schemac/attribute_text.h"
+#include "tools/schemac/core_classes.h"
 #include "tools/schemac/emitters.h"
-#include "tools/schemac/operations.h"
 
 namespace schemac {
 
 namespace {
 
-struct ValueBase {
-  Kind kind;
-  std::string_view type;
-  std::string_view parameter;
+constexpr std::string_view kDefinedType =
+    R"(class KELIFC_API @name@ : public @base@, public @value@ {
+ public:
+  @name@();
+  @name@(@bare@);
+  @name@(const @value@& value);
+@fromText@  @name@(const @name@&);
+  @name@& operator=(const @name@&);
+@assignText@  ~@name@() override;
+
+  /// The name as the schema spells it.
+  static const char* GetItemName();
+  const char* GetStepName() const override;
+  /// Reads and writes the bare value, as it stands in an attribute.
+  const char* Parse(const char* cursor) override;
+  std::ostream& Write(std::ostream& out) const override;
+  /// Reads and writes the value with the name of its type, as it stands in a select.
+  std::ostream& WriteWithName(std::ostream& out) const override;
+  const char* ParseBody(const char* cursor) override;
 };
 
-/// The values that a defined type can hold, and what it is made from.
-constexpr ValueBase kValueBases[] = {
-    {Kind::kString, "STRING", "const std::string& text"},
-    {Kind::kReal, "REAL", "double value"},
-    {Kind::kInteger, "INTEGER", "int value"},
-    {Kind::kBoolean, "BOOLEAN", "bool value"},
+)";
+
+constexpr std::string_view kIntegers = R"(class KELIFC_API @name@ : public LIST<INTEGER> {
+ public:
+  @name@();
+  @name@(const @name@&);
+  @name@& operator=(const @name@&);
+  ~@name@() override;
+
+  /// Reads whole numbers between parentheses; without any it stays unset.
+  const char* Parse(const char* cursor);
 };
 
-const ValueBase& ValueBaseOf(const DefinedType& type) {
-  for (const auto& row : kValueBases) {
-    if (row.kind == type.kind) return row;
-  }
-  throw DescriptionError(type.place, "a defined type cannot hold this kind");
-}
+)";
+
+/// A select without IfcUnknown in it only marks the classes it may hold.
+constexpr std::string_view kSelectBody = R"( public:
+  @name@(const @name@&) = default;
+  @name@& operator=(const @name@&) = default;
+
+ protected:
+  @name@() = default;
+  virtual ~@name@();
+};
+
+)";
+
+constexpr std::string_view kCopy = R"(  @name@(const @name@&);
+  @name@& operator=(const @name@&);
+)";
+
+constexpr std::string_view kNewItem =
+    R"(  /// Makes an instance and registers it; without a server the caller owns it.
+  static @name@* NewItem(IfcServer* server);
+)";
+
+constexpr std::string_view kNames = R"(  /// The name as the schema spells it.
+  static const char* GetItemName();
+  const char* GetStepName() const override;
+)";
+
+/// What every header of a family includes.
+constexpr std::string_view kUsualHeaders[] = {
+    "kelifc/core/aggregate.h",   "kelifc/core/binary.h",         "kelifc/core/boolean.h",
+    "kelifc/core/coordinates.h", "kelifc/core/enum.h",           "kelifc/core/enum_text.h",
+    "kelifc/core/integer.h",     "kelifc/core/length_measure.h", "kelifc/core/list_of_members.h",
+    "kelifc/core/logical.h",     "kelifc/core/member.h",         "kelifc/core/set_of_members.h",
+    "kelifc/core/string.h",      "kelifc/core/unknown.h",        "kelifc/platform/export.h",
+    "kelifc/platform/guid.h",    "kelifc/schema/common.h"};
 
 /// Writes the header of one family.
 class HeaderEmitter {
@@ -35,14 +84,10 @@ class HeaderEmitter {
       : model(model), family(family), info(kReleases[model.release]) {}
 
   std::string Run(const std::string& path) {
-    out.Line(GeneratedBy("kelifc/schema/" + family.name + ".schema"));
-    out.Line("#ifndef " + Guard(path));
-    out.Line("#define " + Guard(path));
-    out.Line();
     EmitIncludes(path);
-    out.Line("/// " + family.title + ", release " + std::string(info.mark) + ".");
-    out.Line("namespace " + std::string(info.nameSpace) + " {");
-    out.Line();
+    TemplateWords words = WordsOf(info);
+    words["title"] = family.title;
+    out.Fill("/// @title@, release @mark@.\nnamespace @namespace@ {\n\n", words);
     EmitEnumerations();
     for (const auto& [name, type] : model.definedTypes) {
       if (type->family == family.name && name != family.name) EmitDefinedTypeAfterBase(*type);
@@ -53,32 +98,18 @@ class HeaderEmitter {
       EmitWaitingTypes(type.entity->name);
     }
     EmitFunctions();
-    out.Line("}  // namespace " + std::string(info.nameSpace));
-    out.Line();
-    out.Line("#endif  // " + Guard(path));
-    return out.Text();
+    out.Fill("}  // namespace @namespace@\n\n", words);
+    return GuardedHeader(path, DescriptionFile(family.name), out.Text());
   }
 
  private:
+  using Headers = std::set<std::string>;
+
   void EmitIncludes(const std::string& path) {
-    std::set<std::string> headers = {
-        "kelifc/core/enum_text.h",   "kelifc/core/list_of_members.h",
-        "kelifc/core/member.h",      "kelifc/core/set_of_members.h",
-        "kelifc/core/coordinates.h", "kelifc/core/enum.h",
-        "kelifc/core/integer.h",     "kelifc/core/boolean.h",
-        "kelifc/core/logical.h",     "kelifc/core/length_measure.h",
-        "kelifc/core/binary.h",      "kelifc/core/aggregate.h",
-        "kelifc/core/string.h",      "kelifc/core/unknown.h",
-        "kelifc/platform/export.h",  "kelifc/platform/guid.h",
-        "kelifc/schema/common.h",    "kelifc/schema/" + std::string(info.folder) + "/fwd.h"};
+    Headers headers(std::begin(kUsualHeaders), std::end(kUsualHeaders));
+    headers.insert(Fill("kelifc/schema/@folder@/fwd.h", WordsOf(info)));
     for (const auto& type : model.classes) {
-      if (type.entity->family != family.name) continue;
-      for (const auto& base : type.bases) AddHeader(headers, base);
-      for (const Attribute* attribute : type.attributes) {
-        AddHeader(headers, StoredType(*attribute, model.release));
-        if (attribute->kind == Kind::kLabels) AddHeader(headers, "IfcLabel");
-      }
-      for (const auto& operation : type.operations) AddHeader(headers, operation.result);
+      if (type.entity->family == family.name) AddHeadersOf(type, headers);
     }
     for (const auto& [name, type] : model.definedTypes) {
       if (type->family == family.name) AddHeader(headers, type->base);
@@ -93,7 +124,17 @@ class HeaderEmitter {
     out.Line();
   }
 
-  void AddHeader(std::set<std::string>& headers, const std::string& name) const {
+  void AddHeadersOf(const ResolvedClass& type, Headers& headers) const {
+    for (const auto& base : type.bases) AddHeader(headers, base);
+    for (const Attribute* attribute : type.attributes) {
+      const std::string stored = StoredType(*attribute, model.release);
+      const auto element = stored.find('<') + 1;  // 0 for a type without elements
+      AddHeader(headers, stored.substr(element, stored.find('>') - element));
+    }
+    for (const auto& operation : type.operations) AddHeader(headers, operation.result);
+  }
+
+  void AddHeader(Headers& headers, const std::string& name) const {
     if (const CoreClass* core = FindCoreClass(name)) headers.emplace(core->header);
     const std::string other = FamilyOf(model, name);
     if (!other.empty()) headers.insert(FamilyFile(info.folder, other, ".h"));
@@ -102,7 +143,7 @@ class HeaderEmitter {
   void EmitEnumerations() {
     for (const auto& [name, enumeration] : model.enumerations) {
       if (enumeration->family != family.name || enumeration->isCore) continue;
-      EmitEnumeration(out, *enumeration, *FindTable(*enumeration, model.release));
+      EmitEnumeration(out, *enumeration, *model.FindTable(*enumeration));
     }
   }
 
@@ -122,79 +163,42 @@ class HeaderEmitter {
   }
 
   void EmitDefinedType(const DefinedType& type) {
+    const KindInfo& value = InfoOf(type.kind);
+    TemplateWords words = {{"name", type.name},
+                           {"base", type.base},
+                           {"value", std::string(value.type)},
+                           {"bare", std::string(value.bare)}};
     if (type.kind == Kind::kIntegers) {
-      EmitIntegers(type);
+      out.Doc("", type.doc);
+      out.Fill(kIntegers, words);
       return;
     }
     if (type.base.empty())
       throw DescriptionError(type.place, type.name + " stands behind no select");
-    const ValueBase& value = ValueBaseOf(type);
-    const std::string base(value.type);
+    if (value.bare.empty())
+      throw DescriptionError(type.place, "a defined type cannot hold this kind");
+    const bool isText = type.kind == Kind::kString;
+    words["fromText"] = isText ? Fill("  @name@(const char* text);\n", words) : "";
+    words["assignText"] = isText ? Fill("  @name@& operator=(const char* text);\n", words) : "";
     out.Doc("", type.doc);
-    out.Line("class KELIFC_API " + type.name + " : public " + type.base + ", public " + base +
-             " {");
-    out.Line(" public:");
-    out.Line("  " + type.name + "();");
-    out.Line("  " + type.name + "(" + std::string(value.parameter) + ");");
-    out.Line("  " + type.name + "(const " + base + "& value);");
-    if (type.kind == Kind::kString) out.Line("  " + type.name + "(const char* text);");
-    out.Line("  " + type.name + "(const " + type.name + "&);");
-    out.Line("  " + type.name + "& operator=(const " + type.name + "&);");
-    if (type.kind == Kind::kString) out.Line("  " + type.name + "& operator=(const char* text);");
-    out.Line("  ~" + type.name + "() override;");
-    out.Line();
-    out.Doc("  ", "The name as the schema spells it.");
-    out.Line("  static const char* GetItemName();");
-    out.Line("  const char* GetStepName() const override;");
-    out.Doc("  ", "Reads and writes the bare value, as it stands in an attribute.");
-    out.Line("  const char* Parse(const char* cursor) override;");
-    out.Line("  std::ostream& Write(std::ostream& out) const override;");
-    out.Doc("  ",
-            "Reads and writes the value with the name of its type, as it stands in a select.");
-    out.Line("  std::ostream& WriteWithName(std::ostream& out) const override;");
-    out.Line("  const char* ParseBody(const char* cursor) override;");
-    out.Line("};");
-    out.Line();
-  }
-
-  void EmitIntegers(const DefinedType& type) {
-    out.Doc("", type.doc);
-    out.Line("class KELIFC_API " + type.name + " : public LIST<INTEGER> {");
-    out.Line(" public:");
-    out.Line("  " + type.name + "();");
-    EmitCopy(type.name);
-    out.Line("  ~" + type.name + "() override;");
-    out.Line();
-    out.Doc("  ", "Reads whole numbers between parentheses; without any it stays unset.");
-    out.Line("  const char* Parse(const char* cursor);");
-    out.Line("};");
-    out.Line();
+    out.Fill(kDefinedType, words);
   }
 
   void EmitClass(const ResolvedClass& type) {
     EmitClassHead(type);
+    const Entity& entity = *type.entity;
+    const TemplateWords words = {{"name", entity.name}};
     if (!type.isUnknown) {
-      EmitSelectBody(type);
+      out.Fill(kSelectBody, words);
       return;
     }
-    const Entity& entity = *type.entity;
     out.Line(" public:");
-    if (!entity.isAbstract) out.Line("  " + entity.name + "();");
-    for (const auto& parameters : type.constructors) {
-      const bool isSingle = parameters.find(',') == std::string::npos;
-      out.Line("  " + std::string(isSingle ? "explicit " : "") + entity.name + parameters + ";");
-    }
-    EmitCopy(entity.name);
-    if (!entity.isAbstract) out.Line("  ~" + entity.name + "() override;");
-    out.Line();
-    if (entity.made.Has(model.release)) {
-      out.Doc("  ", "Makes an instance and registers it; without a server the caller owns it.");
-      out.Line("  static " + entity.name + "* NewItem(IfcServer* server);");
-    }
-    out.Doc("  ", "The name as the schema spells it.");
-    out.Line("  static const char* GetItemName();");
-    out.Line("  const char* GetStepName() const override;");
+    EmitConstructors(type, words);
+    if (entity.made.Has(model.release)) out.Fill(kNewItem, words);
+    out.Fill(kNames, words);
+    if (type.customParse) EmitPlaces("  ", *type.customParse);
     if (type.hasParse) out.Line("  const char* Parse(const char* cursor) override;");
+    if (type.customWrite) EmitPlaces("  ", *type.customWrite);
     if (type.hasWrite) out.Line("  std::ostream& Write(std::ostream& out) const override;");
     EmitOperations(type);
     EmitFields(type);
@@ -212,36 +216,29 @@ class HeaderEmitter {
     out.Line(head + " {");
   }
 
-  /// A select without IfcUnknown in it only marks the classes it may hold.
-  void EmitSelectBody(const ResolvedClass& type) {
-    const std::string& name = type.entity->name;
-    out.Line(" public:");
-    out.Line("  " + name + "(const " + name + "&) = default;");
-    out.Line("  " + name + "& operator=(const " + name + "&) = default;");
+  void EmitConstructors(const ResolvedClass& type, const TemplateWords& words) {
+    const bool isAbstract = type.entity->isAbstract;
+    if (!isAbstract) out.Fill("  @name@();\n", words);
+    for (const auto& constructor : type.constructors) {
+      const bool isSingle = constructor.text.find(',') == std::string::npos;
+      EmitPlaces("  ", constructor);
+      out.Line((isSingle ? "  explicit " : "  ") + type.entity->name + constructor.text + ";");
+    }
+    out.Fill(kCopy, words);
+    if (!isAbstract) out.Fill("  ~@name@() override;\n", words);
     out.Line();
-    out.Line(" protected:");
-    out.Line("  " + name + "() = default;");
-    out.Line("  virtual ~" + name + "();");
-    out.Line("};");
-    out.Line();
-  }
-
-  void EmitCopy(const std::string& name) {
-    out.Line("  " + name + "(const " + name + "&);");
-    out.Line("  " + name + "& operator=(const " + name + "&);");
   }
 
   void EmitOperations(const ResolvedClass& type) {
     bool isProtected = false;
     for (const auto& operation : type.operations) {
+      out.Line();
       if (operation.isProtected != isProtected) {
         isProtected = operation.isProtected;
-        out.Line();
         out.Line(isProtected ? " protected:" : " public:");
-      } else {
-        out.Line();
       }
       if (!operation.doc.empty()) out.Doc("  ", operation.doc);
+      if (operation.body.empty()) EmitPlaces("  ", operation);
       std::string line = operation.isVirtual ? "  virtual " : "  ";
       line += operation.result + " " + operation.name + "(" + operation.parameters + ")";
       if (operation.isConst) line += " const";
@@ -251,54 +248,46 @@ class HeaderEmitter {
   }
 
   void EmitFields(const ResolvedClass& type) {
-    const std::string& name = type.entity->name;
     const bool isAbstract = type.entity->isAbstract;
     if (type.attributes.empty() && !isAbstract) return;
     out.Line();
     out.Line(" protected:");
     if (isAbstract) {
-      out.Line("  " + name + "();");
-      out.Line("  ~" + name + "() override;");
+      out.Fill("  @name@();\n  ~@name@() override;\n", {{"name", type.entity->name}});
       if (!type.attributes.empty()) out.Line();
     }
     for (const Attribute* attribute : type.attributes) EmitField(*attribute);
   }
 
   void EmitField(const Attribute& attribute) {
-    const std::string declaration =
-        StoredType(attribute, model.release) + " " + MemberName(attribute.name);
-    std::string line = "  " + declaration + Initializer(attribute) + ";";
     std::string comment = attribute.reason;
     if (comment.empty() && attribute.isInverse) comment = "inverse, filled by relationships";
     if (!comment.empty()) out.Doc("  ", comment);
-    out.Line(line);
-  }
-
-  std::string Initializer(const Attribute& attribute) const {
-    switch (attribute.kind) {
-      case Kind::kReference:
-      case Kind::kValue:
-        return attribute.isOwnerless ? "" : "{this}";
-      case Kind::kSet:
-      case Kind::kList:
-        return "{this}";
-      case Kind::kEnum:
-        return " = " + InitialEnumerator(model, attribute);
-      case Kind::kInstance:
-        return "{}";
-      default:
-        return attribute.initial.empty() ? "" : "{\"" + attribute.initial + "\"}";
-    }
+    out.Line("  " + StoredType(attribute, model.release) + " " + MemberName(attribute.name) +
+             FieldInitializer(model, attribute) + ";");
   }
 
   void EmitFunctions() {
-    for (const Function* function : model.functions) {
-      if (function->family != family.name) continue;
-      out.Doc("", function->doc);
-      out.Line("KELIFC_API " + function->result + " " + function->name + function->parameters +
-               ";");
+    for (const auto& resolved : model.functions) {
+      const Function& function = *resolved.function;
+      if (function.family != family.name) continue;
+      out.Doc("", function.doc);
+      EmitPlaces("", HandWritten{"", function.place, resolved.bodyPlace});
+      out.Line("KELIFC_API " + function.result + " " + function.name + function.parameters + ";");
       out.Line();
     }
+  }
+
+  /// Where a part that is written by hand is described and defined.
+  template <class Part>
+  void EmitPlaces(const std::string& indent, const Part& part) {
+    if (part.bodyPlace.file.empty()) return;
+    out.Line(indent + "// Description: " + Text(part.place) + ". Body: " + Text(part.bodyPlace) +
+             ".");
+  }
+
+  static std::string Text(const Place& place) {
+    return place.file + ":" + std::to_string(place.line);
   }
 
   const ReleaseModel& model;

@@ -7,6 +7,34 @@ namespace schemac {
 
 namespace {
 
+constexpr std::string_view kHead = R"(@generated@
+#include "kelifc/schema/@folder@.h"
+#include "kelifc/server/name_table.h"
+#include "kelifc/server/release_tables.h"
+
+namespace KelIFC {
+
+)";
+
+constexpr std::string_view kNoNames =
+    R"(IfcUnknown* MakeInstance@suffix@(const char*) { return nullptr; }
+)";
+
+constexpr std::string_view kTable = R"(namespace {
+
+constexpr NameRow kRows[] = {
+@rows@};
+
+constexpr NameTable kTable(kRows);
+
+}  // namespace
+
+IfcUnknown* MakeInstance@suffix@(const char* name) { return kTable.Make(name); }
+)";
+
+constexpr std::string_view kRow = R"(    {"@upper@", MakeNew<@namespace@::@name@>},
+)";
+
 std::string ToUpper(std::string text) {
   for (char& c : text) c = static_cast<char>(std::toupper(static_cast<unsigned char>(c)));
   return text;
@@ -28,39 +56,22 @@ std::vector<std::string> FileNames(const ReleaseModel& model) {
 }  // namespace
 
 void EmitNames(const ReleaseModel& model, Files& files) {
-  const ReleaseInfo& info = kReleases[model.release];
   const auto names = FileNames(model);
-  TextWriter out;
-  out.Line(GeneratedBy("the descriptions in kelifc/schema"));
-  out.Line("#include \"kelifc/schema/" + std::string(info.folder) + ".h\"");
-  out.Line("#include \"kelifc/server/name_table.h\"");
-  out.Line("#include \"kelifc/server/release_tables.h\"");
-  out.Line();
-  out.Line("namespace KelIFC {");
-  out.Line();
-  if (names.empty()) {
-    out.Line("IfcUnknown* MakeInstance" + std::string(info.suffix) +
-             "(const char*) { return nullptr; }");
-  } else {
-    out.Line("namespace {");
-    out.Line();
-    out.Line("constexpr NameRow kRows[] = {");
-    for (const auto& name : names) {
-      out.Line("    {\"" + ToUpper(name) + "\", MakeNew<" + std::string(info.nameSpace) +
-               "::" + name + ">},");
-    }
-    out.Line("};");
-    out.Line();
-    out.Line("constexpr NameTable kTable(kRows);");
-    out.Line();
-    out.Line("}  // namespace");
-    out.Line();
-    out.Line("IfcUnknown* MakeInstance" + std::string(info.suffix) +
-             "(const char* name) { return kTable.Make(name); }");
+  TemplateWords words = WordsOf(kReleases[model.release]);
+  words["generated"] = GeneratedBy("the descriptions in kelifc/schema");
+  TextWriter rows;
+  for (const auto& name : names) {
+    words["name"] = name;
+    words["upper"] = ToUpper(name);
+    rows.Fill(kRow, words);
   }
+  words["rows"] = rows.Text();
+  TextWriter out;
+  out.Fill(kHead, words);
+  out.Fill(names.empty() ? kNoNames : kTable, words);
   out.Line();
   out.Line("}  // namespace KelIFC");
-  files["kelifc/schema/" + std::string(info.folder) + "/names.cpp"] = out.Text();
+  files[Fill("kelifc/schema/@folder@/names.cpp", words)] = out.Text();
 }
 
 }  // namespace schemac

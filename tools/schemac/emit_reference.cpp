@@ -1,8 +1,8 @@
 #include <algorithm>
 #include <array>
 
+#include "tools/schemac/attribute_text.h"
 #include "tools/schemac/emitters.h"
-#include "tools/schemac/operations.h"
 
 namespace schemac {
 
@@ -100,7 +100,7 @@ class PageWriter {
     out.Line("## " + type.name);
     out.Line();
     const std::string bases = type.base.empty() ? " A `" : " A `" + type.base + "` and a `";
-    out.Line(type.doc + bases + ValueType(type.kind, 0) + "`. Releases: " +
+    out.Line(type.doc + bases + std::string(InfoOf(type.kind).type) + "`. Releases: " +
              Releases(type.releases) + "; a file can name it in: " + Releases(type.file) + ".");
   }
 
@@ -170,7 +170,7 @@ class PageWriter {
     for (const auto& step : type->writes) {
       std::string item = step.act == Step::Act::kStar ? "*" : step.literal;
       if (step.act == Step::Act::kAttribute) {
-        const Attribute& attribute = *FindAttribute(model, *type, step.name);
+        const Attribute& attribute = *model.FindAttribute(*type, step.name);
         item = attribute.writtenAs.empty() ? step.name : attribute.writtenAs;
       }
       record += (record.size() > head ? ", " : "") + item;
@@ -194,8 +194,7 @@ class PageWriter {
       if (attribute.releases.Has(release) && entity.releases.Has(release)) newest = release;
     }
     std::string held = "`" + StoredType(attribute, newest) + "`";
-    const bool isNarrowed = !attribute.type.empty() && attribute.kind != Kind::kEnum &&
-                            attribute.kind != Kind::kInstance;
+    const bool isNarrowed = !attribute.type.empty() && !InfoOf(attribute.kind).holdsNamedType;
     return isNarrowed ? held + " to `" + attribute.type + "`" : held;
   }
 

@@ -1,8 +1,62 @@
+#include "tools/schemac/core_classes.h"
 #include "tools/schemac/emitters.h"
 
 namespace schemac {
 
 namespace {
+
+constexpr std::string_view kAllDescriptions = "the descriptions in kelifc/schema";
+
+constexpr std::string_view kForward = R"(namespace KelIFC {
+class BOOLEAN;
+}
+
+/// The classes of release @mark@.
+namespace @namespace@ {
+
+using namespace KelIFC;
+using KelIFC::BOOLEAN;  // a system may have a global type of this name
+
+@classes@
+}  // namespace @namespace@
+
+)";
+
+constexpr std::string_view kClassList = R"(#include "kelifc/schema/@folder@/fwd.h"
+#include "kelifc/server/release.h"
+
+namespace KelIFC {
+
+/// The classes of release @mark@ under one name, for logic that is written once over the releases.
+struct Release@suffix@ {
+  static constexpr IFC_RELEASE kRelease = @constant@;
+
+@uses@
+  /// Calls `visit.template operator()<Class>()` for each class.
+  template <class Visitor>
+  static void ForEachClass(Visitor&& visit) {
+@visits@  }
+};
+
+}  // namespace KelIFC
+
+)";
+
+constexpr std::string_view kUmbrella =
+    R"(// Every class of release @mark@, those of all releases included.
+@includes@#include "kelifc/schema/@folder@/release.h"
+
+)";
+
+constexpr std::string_view kCoreEnumerations = R"(#include <cstdint>
+
+#include "kelifc/core/enum_text.h"
+
+namespace KelIFC {
+
+@enumerations@}  // namespace KelIFC
+
+)";
 
 std::vector<std::string> ClassNames(const ReleaseModel& model) {
   std::vector<std::string> names;
@@ -11,123 +65,58 @@ std::vector<std::string> ClassNames(const ReleaseModel& model) {
   return names;
 }
 
-void EmitForward(const ReleaseModel& model, Files& files) {
-  const ReleaseInfo& info = kReleases[model.release];
-  const std::string path = "kelifc/schema/" + std::string(info.folder) + "/fwd.h";
+/// `form`, a template of one line, for each name.
+std::string ForEach(const std::vector<std::string>& names, std::string_view form,
+                    TemplateWords words) {
   TextWriter out;
-  out.Line(GeneratedBy("the descriptions in kelifc/schema"));
-  out.Line("#ifndef " + Guard(path));
-  out.Line("#define " + Guard(path));
-  out.Line();
-  out.Line("namespace KelIFC {");
-  out.Line("class BOOLEAN;");
-  out.Line("}");
-  out.Line();
-  out.Line("/// The classes of release " + std::string(info.mark) + ".");
-  out.Line("namespace " + std::string(info.nameSpace) + " {");
-  out.Line();
-  out.Line("using namespace KelIFC;");
-  out.Line("using KelIFC::BOOLEAN;  // a system may have a global type of this name");
-  out.Line();
-  for (const auto& name : ClassNames(model)) out.Line("class " + name + ";");
-  out.Line();
-  out.Line("}  // namespace " + std::string(info.nameSpace));
-  out.Line();
-  out.Line("#endif  // " + Guard(path));
-  files[path] = out.Text();
+  for (const auto& name : names) {
+    words["name"] = name;
+    out.Fill(form, words);
+  }
+  return out.Text();
 }
 
-void EmitClassList(const ReleaseModel& model, Files& files) {
-  const ReleaseInfo& info = kReleases[model.release];
-  const std::string path = "kelifc/schema/" + std::string(info.folder) + "/release.h";
-  const std::string name = "Release" + std::string(info.suffix);
-  TextWriter out;
-  out.Line(GeneratedBy("the descriptions in kelifc/schema"));
-  out.Line("#ifndef " + Guard(path));
-  out.Line("#define " + Guard(path));
-  out.Line();
-  out.Line("#include \"kelifc/schema/" + std::string(info.folder) + "/fwd.h\"");
-  out.Line("#include \"kelifc/server/release.h\"");
-  out.Line();
-  out.Line("namespace KelIFC {");
-  out.Line();
-  out.Doc("", "The classes of release " + std::string(info.mark) +
-                  " under one name, for logic that is written once over the releases.");
-  out.Line("struct " + name + " {");
-  out.Line("  static constexpr IFC_RELEASE kRelease = " + std::string(info.constant) + ";");
-  out.Line();
-  for (const auto& type : ClassNames(model)) {
-    out.Line("  using " + type + " = " + std::string(info.nameSpace) + "::" + type + ";");
-  }
-  out.Line();
-  out.Doc("  ", "Calls `visit.template operator()<Class>()` for each class.");
-  out.Line("  template <class Visitor>");
-  out.Line("  static void ForEachClass(Visitor&& visit) {");
-  for (const auto& type : ClassNames(model)) {
-    out.Line("    visit.template operator()<" + type + ">();");
-  }
-  out.Line("  }");
-  out.Line("};");
-  out.Line();
-  out.Line("}  // namespace KelIFC");
-  out.Line();
-  out.Line("#endif  // " + Guard(path));
-  files[path] = out.Text();
+void AddHeader(Files& files, const std::string& path, std::string_view form,
+               const TemplateWords& words) {
+  files[path] = GuardedHeader(path, kAllDescriptions, Fill(form, words));
 }
 
-void EmitUmbrella(const Description& description, const ReleaseModel& model, Files& files) {
-  const ReleaseInfo& info = kReleases[model.release];
-  const std::string folder(info.folder);
-  const std::string path = "kelifc/schema/" + folder + ".h";
-  TextWriter out;
-  out.Line(GeneratedBy("the descriptions in kelifc/schema"));
-  out.Line("#ifndef " + Guard(path));
-  out.Line("#define " + Guard(path));
-  out.Line();
-  out.Line("// Every class of release " + std::string(info.mark) +
-           ", those of all releases included.");
-  for (const auto& header : CoreHeaders()) out.Line("#include \"" + header + "\"");
+std::vector<std::string> HeadersOf(const Description& description, const ReleaseInfo& info) {
+  const auto core = CoreHeaders();
+  std::vector<std::string> headers(core.begin(), core.end());
   for (const auto& family : description.families) {
-    out.Line("#include \"" + FamilyFile(folder, family.name, ".h") + "\"");
+    headers.push_back(FamilyFile(info.folder, family.name, ".h"));
   }
-  out.Line("#include \"kelifc/schema/" + folder + "/release.h\"");
-  out.Line();
-  out.Line("#endif  // " + Guard(path));
-  files[path] = out.Text();
+  return headers;
 }
 
 }  // namespace
 
 void EmitRelease(const Description& description, const ReleaseModel& model, Files& files) {
-  EmitForward(model, files);
-  EmitClassList(model, files);
-  EmitUmbrella(description, model, files);
+  const ReleaseInfo& info = kReleases[model.release];
+  const std::vector<std::string> names = ClassNames(model);
+  TemplateWords words = WordsOf(info);
+  words["classes"] = ForEach(names, "class @name@;\n", words);
+  words["uses"] = ForEach(names, "  using @name@ = @namespace@::@name@;\n", words);
+  words["visits"] = ForEach(names, "    visit.template operator()<@name@>();\n", words);
+  words["includes"] = ForEach(HeadersOf(description, info), "#include \"@name@\"\n", words);
+  AddHeader(files, Fill("kelifc/schema/@folder@/fwd.h", words), kForward, words);
+  AddHeader(files, Fill("kelifc/schema/@folder@/release.h", words), kClassList, words);
+  AddHeader(files, Fill("kelifc/schema/@folder@.h", words), kUmbrella, words);
 }
 
 void EmitCoreEnumerations(const Description& description, Files& files) {
   for (const auto& family : description.families) {
-    const std::string path = FamilyFile("core", family.name, ".h");
-    TextWriter out;
-    out.Line(GeneratedBy("kelifc/schema/" + family.name + ".schema"));
-    out.Line("#ifndef " + Guard(path));
-    out.Line("#define " + Guard(path));
-    out.Line();
-    out.Line("#include <cstdint>");
-    out.Line();
-    out.Line("#include \"kelifc/core/enum_text.h\"");
-    out.Line();
-    out.Line("namespace KelIFC {");
-    out.Line();
-    bool hasAny = false;
+    TextWriter enumerations;
     for (const auto& enumeration : description.enumerations) {
-      if (!enumeration.isCore || enumeration.family != family.name) continue;
-      EmitEnumeration(out, enumeration, enumeration.tables.front());
-      hasAny = true;
+      const bool isShared = enumeration.isCore && enumeration.family == family.name;
+      if (!isShared || enumeration.tables.empty()) continue;
+      EmitEnumeration(enumerations, enumeration, enumeration.tables.front());
     }
-    out.Line("}  // namespace KelIFC");
-    out.Line();
-    out.Line("#endif  // " + Guard(path));
-    if (hasAny) files[path] = out.Text();
+    if (enumerations.Text().empty()) continue;
+    const std::string path = FamilyFile("core", family.name, ".h");
+    files[path] = GuardedHeader(path, DescriptionFile(family.name),
+                                Fill(kCoreEnumerations, {{"enumerations", enumerations.Text()}}));
   }
 }
 

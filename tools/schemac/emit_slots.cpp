@@ -4,56 +4,68 @@ namespace schemac {
 
 namespace {
 
-/// The type of a pointer to an operation of a class.
-std::string PointerType(const ResolvedOperation& operation, const std::string& type) {
-  return operation.result + " (" + type + "::*)(" + operation.parameters + ")" +
-         (operation.isConst ? " const" : "");
-}
+constexpr std::string_view kHead = R"(@generated@
+#include "kelifc/schema/@folder@.h"
+#include "tests/schema/slot_order.h"
 
-/// The pointers are taken in a class derived from the tested one, which may see what is protected.
+namespace @namespace@ {
+namespace {
+
+)";
+
+constexpr std::string_view kTail = R"(}  // namespace
+}  // namespace @namespace@
+)";
+
+/// The pointers are taken in a class derived from the tested one, which can see what is protected.
+constexpr std::string_view kClass = R"(struct @name@Slots : @name@ {
+@uses@  static std::vector<std::ptrdiff_t> Read() {
+    return {
+@slots@    };
+  }
+};
+
+TEST(SlotOrder@suffix@, Of@name@IsAsDescribed) { ExpectRising(@name@Slots::Read()); }
+
+)";
+
+constexpr std::string_view kSlot =
+    R"(        SlotOf(static_cast<@result@ (@name@::*)(@parameters@)@const@>(&@name@Slots::@operation@)),
+)";
+
 void EmitClassSlots(TextWriter& out, const ReleaseModel& model, const ResolvedClass& type) {
-  const std::string& name = type.entity->name;
-  std::vector<const ResolvedOperation*> operations;
+  TemplateWords words = WordsOf(kReleases[model.release]);
+  words["name"] = type.entity->name;
+  TextWriter uses;
+  TextWriter slots;
+  std::size_t count = 0;
   for (const auto& operation : type.operations) {
-    if (operation.isVirtual) operations.push_back(&operation);
+    if (!operation.isVirtual) continue;
+    ++count;
+    words["result"] = operation.result;
+    words["parameters"] = operation.parameters;
+    words["const"] = operation.isConst ? " const" : "";
+    words["operation"] = operation.name;
+    if (operation.isProtected) uses.Fill("  using @name@::@operation@;\n", words);
+    slots.Fill(kSlot, words);
   }
-  if (operations.size() < 2) return;
-  out.Line("struct " + name + "Slots : " + name + " {");
-  for (const auto* operation : operations) {
-    if (operation->isProtected) out.Line("  using " + name + "::" + operation->name + ";");
-  }
-  out.Line("  static std::vector<std::ptrdiff_t> Read() {");
-  out.Line("    return {");
-  for (const auto* operation : operations) {
-    out.Line("        SlotOf(static_cast<" + PointerType(*operation, name) + ">(&" + name +
-             "Slots::" + operation->name + ")),");
-  }
-  out.Line("    };");
-  out.Line("  }");
-  out.Line("};");
-  out.Line();
-  out.Line("TEST(SlotOrder" + std::string(kReleases[model.release].suffix) + ", Of" + name +
-           "IsAsDescribed) { ExpectRising(" + name + "Slots::Read()); }");
-  out.Line();
+  if (count < 2) return;
+  words["uses"] = uses.Text();
+  words["slots"] = slots.Text();
+  out.Fill(kClass, words);
 }
 
 }  // namespace
 
 void EmitSlots(const std::vector<ReleaseModel>& models, Files& files) {
   for (const auto& model : models) {
-    const ReleaseInfo& info = kReleases[model.release];
+    TemplateWords words = WordsOf(kReleases[model.release]);
+    words["generated"] = GeneratedBy("the descriptions in kelifc/schema");
     TextWriter out;
-    out.Line(GeneratedBy("the descriptions in kelifc/schema"));
-    out.Line("#include \"kelifc/schema/" + std::string(info.folder) + ".h\"");
-    out.Line("#include \"tests/schema/slot_order.h\"");
-    out.Line();
-    out.Line("namespace " + std::string(info.nameSpace) + " {");
-    out.Line("namespace {");
-    out.Line();
+    out.Fill(kHead, words);
     for (const auto& type : model.classes) EmitClassSlots(out, model, type);
-    out.Line("}  // namespace");
-    out.Line("}  // namespace " + std::string(info.nameSpace));
-    files["tests/schema/slots_" + std::string(info.folder) + "_test.cpp"] = out.Text();
+    out.Fill(kTail, words);
+    files[Fill("tests/schema/slots_@folder@_test.cpp", words)] = out.Text();
   }
 }
 

@@ -1,119 +1,140 @@
+#include "tools/schemac/attribute_text.h"
+#include "tools/schemac/core_classes.h"
 #include "tools/schemac/emitters.h"
-#include "tools/schemac/operations.h"
 
 namespace schemac {
 
 namespace {
 
-constexpr std::string_view kRoot = "IfcUnknown";
+constexpr std::string_view kHead = R"(@generated@
+#include "@header@"
+
+#include "kelifc/schema/bodies.h"
+#include "kelifc/schema/@folder@.h"
+
+namespace @namespace@ {
+
+)";
+
+constexpr std::string_view kDefinedTypeHead = R"(@name@::@name@() = default;
+@name@::@name@(@bare@) : @value@(@argument@) {}
+@name@::@name@(const @value@& value) : @value@(value) {}
+)";
+
+constexpr std::string_view kFromText =
+    R"(@name@::@name@(const char* text) { STRING::operator=(text); }
+@name@& @name@::operator=(const char* text) {
+  STRING::operator=(text);
+  return *this;
+}
+)";
+
+constexpr std::string_view kDefinedTypeRecord =
+    R"(const char* @name@::Parse(const char* cursor) { return @value@::Parse(cursor); }
+std::ostream& @name@::Write(std::ostream& out) const { return @value@::Write(out); }
+std::ostream& @name@::WriteWithName(std::ostream& out) const {
+  return WriteNamedValue<@value@>(*this, out);
+}
+const char* @name@::ParseBody(const char* cursor) {
+  return @value@::Parse(IfcUnknown::Parse(cursor));
+}
+
+)";
+
+constexpr std::string_view kParseIntegers =
+    R"(const char* @name@::Parse(const char* cursor) { return ParseIntegers(*this, cursor); }
+
+)";
+
+constexpr std::string_view kDefault = "@name@::@name@() = default;\n";
+
+constexpr std::string_view kCopy = R"(@name@::@name@(const @name@&) = default;
+@name@& @name@::operator=(const @name@&) = default;
+@name@::~@name@() = default;
+)";
+
+constexpr std::string_view kNames =
+    R"(const char* @name@::GetItemName() { return "@name@"; }
+const char* @name@::GetStepName() const { return GetItemName(); }
+)";
+
+constexpr std::string_view kNewItem =
+    R"(@name@* @name@::NewItem(IfcServer* server) { return MakeItem<@name@>(server); }
+)";
+
+/// The directives give messages and debuggers the places in the file that a body comes from.
+constexpr std::string_view kBody = R"(// The bodies of @name@, from @file@:@line@.
+#line @next@ "@file@"
+@text@)";
+
+constexpr std::string_view kOperation = R"(@result@ @class@::@name@(@parameters@)@const@ {
+@body@}
+
+)";
 
 /// Writes the source of one family.
 class SourceEmitter {
  public:
   SourceEmitter(const ReleaseModel& model, const Family& family)
-      : model(model), family(family), info(kReleases[model.release]) {}
+      : model(model),
+        family(family),
+        info(kReleases[model.release]),
+        path(FamilyFile(info.folder, family.name, ".cpp")) {}
 
   std::string Run() {
-    out.Line(GeneratedBy("kelifc/schema/" + family.name + ".schema"));
-    out.Line("#include \"" + FamilyFile(info.folder, family.name, ".h") + "\"");
-    out.Line();
-    out.Line("#include \"kelifc/schema/bodies.h\"");
-    out.Line("#include \"kelifc/schema/" + std::string(info.folder) + ".h\"");
-    out.Line();
-    out.Line("namespace " + std::string(info.nameSpace) + " {");
-    out.Line();
+    TemplateWords words = WordsOf(info);
+    words["generated"] = GeneratedBy(DescriptionFile(family.name));
+    words["header"] = FamilyFile(info.folder, family.name, ".h");
+    out.Fill(kHead, words);
     for (const auto& [name, type] : model.definedTypes) {
       if (type->family == family.name) EmitDefinedType(*type);
     }
     for (const auto& type : model.classes) {
       if (type.entity->family == family.name) EmitClass(type);
     }
-    for (const Function* function : model.functions) {
-      if (function->family == family.name) IncludeBody(function->name);
+    for (const auto& function : model.functions) {
+      if (function.function->family == family.name) CopyBodies(function.bodies);
     }
-    out.Line("}  // namespace " + std::string(info.nameSpace));
+    out.Fill("}  // namespace @namespace@\n", words);
     return out.Text();
   }
 
  private:
   void EmitDefinedType(const DefinedType& type) {
-    const std::string& name = type.name;
+    const KindInfo& value = InfoOf(type.kind);
+    const TemplateWords words = {
+        {"name", type.name},
+        {"value", std::string(value.type)},
+        {"bare", std::string(value.bare)},
+        {"argument", std::string(value.bare.substr(value.bare.rfind(' ') + 1))}};
     if (type.kind == Kind::kIntegers) {
-      EmitIntegers(name);
+      out.Fill(kDefault, words);
+      out.Fill(kCopy, words);
+      out.Fill(kParseIntegers, words);
       return;
     }
-    const std::string value = ValueType(type.kind, 0);
-    const bool isText = type.kind == Kind::kString;
-    const std::string bare = isText ? "const std::string& text" : Bare(type.kind) + " value";
-    out.Line(name + "::" + name + "() = default;");
-    out.Line(name + "::" + name + "(" + bare + ") : " + value + "(" + (isText ? "text" : "value") +
-             ") {}");
-    out.Line(name + "::" + name + "(const " + value + "& value) : " + value + "(value) {}");
-    if (isText) {
-      out.Line(name + "::" + name + "(const char* text) { STRING::operator=(text); }");
-      out.Line(name + "& " + name + "::operator=(const char* text) {");
-      out.Line("  STRING::operator=(text);");
-      out.Line("  return *this;");
-      out.Line("}");
-    }
-    EmitCopy(name);
-    EmitNames(name);
-    out.Line("const char* " + name + "::Parse(const char* cursor) { return " + value +
-             "::Parse(cursor); }");
-    out.Line("std::ostream& " + name + "::Write(std::ostream& out) const { return " + value +
-             "::Write(out); }");
-    out.Line("std::ostream& " + name + "::WriteWithName(std::ostream& out) const {");
-    out.Line("  return WriteNamedValue<" + value + ">(*this, out);");
-    out.Line("}");
-    out.Line("const char* " + name + "::ParseBody(const char* cursor) {");
-    out.Line("  return " + value + "::Parse(IfcUnknown::Parse(cursor));");
-    out.Line("}");
-    out.Line();
-  }
-
-  void EmitIntegers(const std::string& name) {
-    out.Line(name + "::" + name + "() = default;");
-    EmitCopy(name);
-    out.Line("const char* " + name +
-             "::Parse(const char* cursor) { return ParseIntegers(*this, cursor); }");
-    out.Line();
-  }
-
-  static std::string Bare(Kind kind) {
-    if (kind == Kind::kReal) return "double";
-    return kind == Kind::kInteger ? "int" : "bool";
-  }
-
-  void EmitCopy(const std::string& name) {
-    out.Line(name + "::" + name + "(const " + name + "&) = default;");
-    out.Line(name + "& " + name + "::operator=(const " + name + "&) = default;");
-    out.Line(name + "::~" + name + "() = default;");
-  }
-
-  void EmitNames(const std::string& name) {
-    out.Line("const char* " + name + "::GetItemName() { return \"" + name + "\"; }");
-    out.Line("const char* " + name + "::GetStepName() const { return GetItemName(); }");
+    out.Fill(kDefinedTypeHead, words);
+    if (type.kind == Kind::kString) out.Fill(kFromText, words);
+    out.Fill(kCopy, words);
+    out.Fill(kNames, words);
+    out.Fill(kDefinedTypeRecord, words);
   }
 
   void EmitClass(const ResolvedClass& type) {
-    const std::string& name = type.entity->name;
+    const TemplateWords words = {{"name", type.entity->name}};
     if (!type.isUnknown) {
-      out.Line(name + "::~" + name + "() = default;");
-      out.Line();
+      out.Fill("@name@::~@name@() = default;\n\n", words);
       return;
     }
-    out.Line(name + "::" + name + "() = default;");
-    EmitCopy(name);
-    EmitNames(name);
-    if (type.entity->made.Has(model.release)) {
-      out.Line(name + "* " + name + "::NewItem(IfcServer* server) { return MakeItem<" + name +
-               ">(server); }");
-    }
+    out.Fill(kDefault, words);
+    out.Fill(kCopy, words);
+    out.Fill(kNames, words);
+    if (type.entity->made.Has(model.release)) out.Fill(kNewItem, words);
     out.Line();
     if (type.hasParse && !type.customParse) EmitParse(type);
     if (type.hasWrite && !type.customWrite) EmitWrite(type);
-    for (const auto& operation : type.operations) EmitOperation(name, operation);
-    for (const auto& body : type.bodies) IncludeFile(body);
+    for (const auto& operation : type.operations) EmitOperation(type, operation);
+    CopyBodies(type.bodies);
   }
 
   void EmitParse(const ResolvedClass& type) {
@@ -123,7 +144,7 @@ class SourceEmitter {
     bool hasLinks = false;
     for (const auto& step : type.reads) {
       if (step.act != Step::Act::kLink) {
-        parts.push_back(ReadPart(type, step));
+        parts.push_back(ReadPartOf(type, step));
         isPending = true;
         continue;
       }
@@ -143,91 +164,58 @@ class SourceEmitter {
     out.Line();
   }
 
-  std::string ReadPart(const ResolvedClass& type, const Step& step) const {
-    if (step.act == Step::Act::kDrop) {
-      return "Dropped<" + ValueType(step.kind, model.release) + ">()";
-    }
+  std::string ReadPartOf(const ResolvedClass& type, const Step& step) const {
     if (step.act == Step::Act::kStar) return "Redeclared(*this)";
-    const Attribute& attribute = *FindAttribute(model, type, step.name);
-    std::string member = MemberName(attribute.name);
-    switch (attribute.kind) {
-      case Kind::kEnum:
-        return "Enumerated(" + EnumArguments(attribute) + ")";
-      case Kind::kValue:
-        return "ValueInPlace(" + member + ", *this)";
-      case Kind::kGlobalId64:
-        return "GlobalId64(" + member + ")";
-      case Kind::kLabels:
-        return "Texts(" + member + ")";
-      default:
-        return member;
+    if (step.act == Step::Act::kDrop) {
+      return "Dropped<" + std::string(ValueType(InfoOf(step.kind), model.release)) + ">()";
     }
-  }
-
-  std::string EnumArguments(const Attribute& attribute) const {
-    std::string arguments = MemberName(attribute.name) + ", " + TableName(attribute.type);
-    if (!attribute.initial.empty()) arguments += ", " + InitialEnumerator(model, attribute);
-    return arguments;
+    return ReadPart(model, *model.FindAttribute(type, step.name));
   }
 
   void EmitWrite(const ResolvedClass& type) {
     out.Line("std::ostream& " + type.entity->name + "::Write(std::ostream& out) const {");
     std::vector<std::string> parts = {type.writeBase + "::Write(out)"};
-    for (const auto& step : type.writes) parts.push_back(WritePart(type, step));
+    for (const auto& step : type.writes) parts.push_back(WritePartOf(type, step));
     out.Call(type.writeBase == kRoot ? "  return WriteFirst" : "  return WriteNext", parts, ";");
     out.Line("}");
     out.Line();
   }
 
-  std::string WritePart(const ResolvedClass& type, const Step& step) const {
+  std::string WritePartOf(const ResolvedClass& type, const Step& step) const {
     if (step.act == Step::Act::kStar) return "Literal(\"*\")";
     if (step.act != Step::Act::kAttribute) return "Literal(\"" + step.literal + "\")";
-    const Attribute& attribute = *FindAttribute(model, type, step.name);
-    std::string member = MemberName(attribute.name);
-    if (!attribute.writtenAs.empty()) return "Literal(\"" + attribute.writtenAs + "\")";
-    switch (attribute.kind) {
-      case Kind::kEnum:
-        return "Enumerated(" + EnumArguments(attribute) + ")";
-      case Kind::kEnumText:
-        return "EnumeratedText(" + member + ")";
-      case Kind::kScientific:
-        return "Scientific(" + member + ")";
-      case Kind::kValue:
-        return "ValueInPlace(" + member + ", *this)";
-      case Kind::kGlobalId64:
-        return "GlobalId64(" + member + ")";
-      case Kind::kGlobalId85:
-        return "GlobalId85(" + member + ")";
-      default:
-        return member;
-    }
+    return WritePart(model, *model.FindAttribute(type, step.name));
   }
 
-  void EmitOperation(const std::string& name, const ResolvedOperation& operation) {
+  void EmitOperation(const ResolvedClass& type, const ResolvedOperation& operation) {
     if (operation.body.empty()) return;
-    const std::string head = operation.result + " " + name + "::" + operation.name + "(" +
-                             operation.parameters + ")" + (operation.isConst ? " const" : "");
-    out.Line(head + " {");
-    for (const auto& statement : operation.body) out.Line("  " + statement);
-    out.Line("}");
-    out.Line();
+    TextWriter body;
+    for (const auto& statement : operation.body) body.Line("  " + statement);
+    out.Fill(kOperation, {{"result", operation.result},
+                          {"class", type.entity->name},
+                          {"name", operation.name},
+                          {"parameters", operation.parameters},
+                          {"const", operation.isConst ? " const" : ""},
+                          {"body", body.Text()}});
   }
 
-  void IncludeBody(const std::string& name) {
-    std::string file;
-    for (const char c : name)
-      file += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-    IncludeFile(file + ".inl");
-  }
-
-  void IncludeFile(const std::string& file) {
-    out.Line("#include \"kelifc/schema/" + family.name + "/" + file + "\"");
+  void CopyBodies(const std::vector<const Body*>& bodies) {
+    for (const Body* body : bodies) {
+      out.Fill(kBody, {{"name", body->name},
+                       {"file", body->place.file},
+                       {"line", std::to_string(body->place.line)},
+                       {"next", std::to_string(body->place.line + 1)},
+                       {"text", body->text}});
+    }
+    if (bodies.empty()) return;
+    out.Line("#line " + std::to_string(out.LineCount() + 2) + " \"" + path + "\"");
     out.Line();
   }
 
   const ReleaseModel& model;
   const Family& family;
   const ReleaseInfo& info;
+  const std::string path;
   TextWriter out;
 };
 

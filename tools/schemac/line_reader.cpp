@@ -50,12 +50,14 @@ std::vector<Line> ReadLines(const std::string& file, std::string_view text) {
       reason = raw.substr(mark + kReasonMark.size());
       raw = TrimRight(raw.substr(0, mark));
     }
+    place.column = static_cast<int>(indent) + 1;
     if (indent >= kContinuationIndent && !lines.empty()) {
-      Append(lines.back().text, raw);
-      Append(lines.back().reason, reason);
+      Line& line = lines.back();
+      Append(line.text, raw);
+      Append(line.reason, reason);
+      line.continuations.push_back({line.text.size() - raw.size(), place});
       continue;
     }
-    place.column = static_cast<int>(indent) + 1;
     lines.push_back({place, indent > 0, std::string(raw), std::string(reason)});
   }
   return lines;

@@ -1,15 +1,19 @@
 // Makes the entity classes from their descriptions:
 //
-//   schemac OUTPUT-FOLDER DESCRIPTION...
+//   schemac OUTPUT-FOLDER FILE...
 //
+// A file NAME.schema describes entities; NAME.inl holds the code that is written by hand for
+// entities and functions that the files named earlier describe.
 // Every file that would be the same keeps its time, so that what depends on it is not built again.
 
 #include <exception>
 #include <filesystem>
 #include <iostream>
 
+#include "tools/schemac/bodies.h"
 #include "tools/schemac/emitters.h"
 #include "tools/schemac/parser.h"
+#include "tools/schemac/resolver.h"
 #include "tools/schemac/text_files.h"
 
 namespace {
@@ -19,6 +23,7 @@ schemac::Files Emit(const schemac::Description& description) {
   std::vector<schemac::ReleaseModel> models;
   for (std::size_t release = 0; release < schemac::kReleaseCount; ++release) {
     models.push_back(schemac::Resolve(description, release));
+    schemac::AttachBodies(description, models.back());
     for (const auto& family : description.families) {
       schemac::EmitHeader(models.back(), family, files);
       schemac::EmitSource(models.back(), family, files);
@@ -37,13 +42,15 @@ schemac::Files Emit(const schemac::Description& description) {
 
 int main(int argc, char** argv) {
   if (argc < 3) {
-    std::cerr << "usage: schemac OUTPUT-FOLDER DESCRIPTION...\n";
+    std::cerr << "usage: schemac OUTPUT-FOLDER FILE...\n";
     return 64;
   }
   try {
     schemac::Description description;
     for (int i = 2; i < argc; ++i) {
-      schemac::ParseDescription(argv[i], schemac::ReadTextFile(argv[i]), description);
+      const bool isCode = std::filesystem::path(argv[i]).extension() == ".inl";
+      const auto read = isCode ? schemac::ParseBodies : schemac::ParseDescription;
+      read(argv[i], schemac::ReadTextFile(argv[i]), description);
     }
     for (const auto& [path, text] : Emit(description)) {
       schemac::WriteIfChanged(std::filesystem::path(argv[1]) / path, text);

@@ -1,39 +1,14 @@
 #include "tools/schemac/resolver.h"
 
 #include <algorithm>
-#include <array>
-#include <cctype>
 #include <sstream>
 
+#include "tools/schemac/core_classes.h"
 #include "tools/schemac/operations.h"
 
 namespace schemac {
 
 namespace {
-
-constexpr std::string_view kRoot = "IfcUnknown";
-
-constexpr std::array kCoreClasses = {
-    CoreClass{"IfcUnknown", "kelifc/core/unknown.h", true, true},
-    CoreClass{"IfcValue", "kelifc/core/value.h", true, false},
-    CoreClass{"IfcMaterialSelect", "kelifc/core/selects.h", true, false},
-    CoreClass{"IfcActorSelect", "kelifc/core/selects.h", true, false},
-    CoreClass{"IfcTrimmingSelect", "kelifc/core/selects.h", false, false},
-    CoreClass{"IfcBooleanOperand", "kelifc/core/selects.h", false, false},
-    CoreClass{"IfcGeometricSetSelect", "kelifc/core/selects.h", false, false},
-    CoreClass{"IfcUnit", "kelifc/core/selects.h", false, false},
-    CoreClass{"IfcRepresentationItem", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcGeometricRepresentationItem", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcSurface", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcSolidModel", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcPoint", "kelifc/core/representation_item.h", true, false},
-    CoreClass{"IfcCartesianPoint", "kelifc/core/cartesian_point.h", true, true},
-    CoreClass{"IfcBoundingBox", "kelifc/core/bounding_box.h", true, true},
-    CoreClass{"IfcUnitAssignment", "kelifc/core/unit_assignment.h", true, true},
-    CoreClass{"IfcTrimmingPreference", "kelifc/core/trimming_preference.h", false, false},
-    CoreClass{"IfcLengthMeasure", "kelifc/core/length_measure.h", true, true},
-    CoreClass{"IfcParameterValue", "kelifc/core/parameter_value.h", true, true},
-};
 
 std::vector<std::string> Words(const std::string& text) {
   std::istringstream in(text);
@@ -52,11 +27,6 @@ const Marked* LastFor(const std::vector<Marked>& pieces, std::size_t release) {
   return last == pieces.rend() ? nullptr : &*last;
 }
 
-std::string ToLower(std::string text) {
-  for (char& c : text) c = static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
-  return text;
-}
-
 /// Builds the model of one release from the description.
 class Resolver {
  public:
@@ -72,7 +42,6 @@ class Resolver {
     for (auto& type : model.classes) {
       CheckTypes(type);
       ResolveOperations(type, model);
-      CollectBodies(type);
     }
     return std::move(model);
   }
@@ -80,9 +49,7 @@ class Resolver {
  private:
   void CollectNames() {
     for (const auto& enumeration : description.enumerations) {
-      if (enumeration.isCore || FindTable(enumeration, release) != nullptr) {
-        AddUnique(model.enumerations, enumeration);
-      }
+      if (model.FindTable(enumeration) != nullptr) AddUnique(model.enumerations, enumeration);
     }
     for (const auto& type : description.definedTypes) {
       if (type.releases.Has(release)) AddUnique(model.definedTypes, type);
@@ -98,7 +65,7 @@ class Resolver {
       model.classes.push_back(std::move(type));
     }
     for (const auto& function : description.functions) {
-      if (function.releases.Has(release)) model.functions.push_back(&function);
+      if (function.releases.Has(release)) model.functions.push_back({&function, {}, {}});
     }
   }
 
@@ -127,7 +94,7 @@ class Resolver {
       if (attribute.releases.Has(release)) type.attributes.push_back(&attribute);
     }
     for (const auto& piece : entity.constructors) {
-      if (piece.releases.Has(release)) type.constructors.push_back(piece.text);
+      if (piece.releases.Has(release)) type.constructors.push_back({piece.text, piece.place, {}});
     }
     for (const auto& piece : entity.departures) {
       if (piece.releases.Has(release)) type.departures.push_back(piece.text);
@@ -149,8 +116,12 @@ class Resolver {
     }
     for (const auto& step : type.reads) CheckStep(type, step);
     for (const auto& step : type.writes) CheckStep(type, step);
-    type.customParse = entity.customParse.Has(release);
-    type.customWrite = entity.customWrite.Has(release);
+    if (const Marked* parse = LastFor(entity.customParse, release)) {
+      type.customParse = HandWritten{"", parse->place, {}};
+    }
+    if (const Marked* write = LastFor(entity.customWrite, release)) {
+      type.customWrite = HandWritten{"", write->place, {}};
+    }
     type.hasParse = type.customParse || (!type.reads.empty() && !entity.noParse.Has(release));
     type.hasWrite = type.customWrite || (!type.writes.empty() && !entity.noWrite.Has(release));
     type.readBase = Ancestor(type, &ResolvedClass::hasParse);
@@ -186,7 +157,7 @@ class Resolver {
       throw DescriptionError(step.place, "the class " + step.target + " is not described");
     }
     const bool namesAttribute = step.act == Step::Act::kAttribute || step.act == Step::Act::kLink;
-    if (namesAttribute && FindAttribute(model, type, step.name) == nullptr) {
+    if (namesAttribute && model.FindAttribute(type, step.name) == nullptr) {
       throw DescriptionError(step.place, "no attribute " + step.name + " in this release");
     }
   }
@@ -207,25 +178,13 @@ class Resolver {
   void CheckTypes(const ResolvedClass& type) const {
     for (const Attribute* attribute : type.attributes) {
       if (attribute->type.empty()) continue;
-      const bool isEnumeration =
-          attribute->kind == Kind::kEnum || attribute->kind == Kind::kEnumText;
-      const bool known = isEnumeration ? model.enumerations.count(attribute->type) != 0
-                                       : model.KnowsClass(attribute->type);
+      const bool known = InfoOf(attribute->kind).namesEnumeration
+                             ? model.enumerations.count(attribute->type) != 0
+                             : model.KnowsClass(attribute->type);
       if (!known) {
         throw DescriptionError(attribute->place, attribute->type + " is not described in release " +
                                                      std::string(kReleases[release].mark));
       }
-    }
-  }
-
-  void CollectBodies(ResolvedClass& type) const {
-    bool byHand = type.customParse || type.customWrite || !type.constructors.empty();
-    for (const auto& operation : type.operations) byHand |= operation.body.empty();
-    const Marked* named = LastFor(type.entity->bodies, release);
-    if (named != nullptr) {
-      for (const auto& file : Words(named->text)) type.bodies.push_back(file + ".inl");
-    } else if (byHand) {
-      type.bodies.push_back(ToLower(type.entity->name) + ".inl");
     }
   }
 
@@ -235,35 +194,6 @@ class Resolver {
 };
 
 }  // namespace
-
-const CoreClass* FindCoreClass(std::string_view name) {
-  for (const auto& row : kCoreClasses) {
-    if (row.name == name) return &row;
-  }
-  return nullptr;
-}
-
-std::set<std::string> CoreHeaders() {
-  std::set<std::string> headers;
-  for (const auto& row : kCoreClasses) headers.emplace(row.header);
-  return headers;
-}
-
-const EnumTable* FindTable(const Enumeration& enumeration, std::size_t release) {
-  for (const auto& table : enumeration.tables) {
-    if (table.releases.Has(release)) return &table;
-  }
-  return nullptr;
-}
-
-const ResolvedClass* ReleaseModel::Find(std::string_view name) const {
-  const auto at = indexOf.find(name);
-  return at == indexOf.end() ? nullptr : &classes[at->second];
-}
-
-bool ReleaseModel::KnowsClass(std::string_view name) const {
-  return Find(name) != nullptr || FindCoreClass(name) != nullptr || definedTypes.count(name) != 0;
-}
 
 ReleaseModel Resolve(const Description& description, std::size_t release) {
   return Resolver(description, release).Run();

@@ -68,7 +68,13 @@ std::string TokenReader::Until(std::string_view stops) {
 Place TokenReader::Here() {
   SkipBlanks();
   Place place = line.place;
-  place.column += static_cast<int>(at);
+  std::size_t begin = 0;
+  for (const auto& continuation : line.continuations) {
+    if (continuation.offset > at) break;
+    place = continuation.place;
+    begin = continuation.offset;
+  }
+  place.column += static_cast<int>(at - begin);
   return place;
 }
 

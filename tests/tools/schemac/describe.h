@@ -5,8 +5,10 @@
 
 #include <string>
 
+#include "tools/schemac/bodies.h"
 #include "tools/schemac/emitters.h"
 #include "tools/schemac/parser.h"
+#include "tools/schemac/resolver.h"
 
 namespace schemac {
 
@@ -16,17 +18,25 @@ inline constexpr std::size_t k2x = 2;
 inline constexpr std::size_t k2x2 = 3;
 inline constexpr std::size_t k2x3 = 4;
 
-/// A description of one family `f` with this body.
-inline Description Describe(const std::string& body) {
+/// A description of one family `f` with this body, and with this code written by hand.
+inline Description Describe(const std::string& body, const std::string& code = "") {
   Description description;
   ParseDescription("f.schema", "family f : A family\n" + body, description);
+  ParseBodies("f.inl", code, description);
   return description;
 }
 
-/// What the release makes of the body; `generated` keeps the description alive.
+/// What the release makes of the body. The description lives as long as the model that refers to
+/// it.
 struct Resolved {
   explicit Resolved(const std::string& body, std::size_t release = k2x3)
       : description(Describe(body)), model(Resolve(description, release)) {}
+
+  /// The same with code that is written by hand. All of it has to be there.
+  Resolved(const std::string& body, const std::string& code, std::size_t release = k2x3)
+      : description(Describe(body, code)), model(Resolve(description, release)) {
+    AttachBodies(description, model);
+  }
 
   std::string Header() const {
     Files files;

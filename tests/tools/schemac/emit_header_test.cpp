@@ -66,5 +66,29 @@ TEST(EmitHeader, KeepsOpenEnumerationsUnderTheirName) {
             "f.schema:4:3: error: IfcKind is not described in release 2x3");
 }
 
+TEST(EmitHeader, NamesThePlacesOfWhatIsWrittenByHand) {
+  const std::string header =
+      Resolved(
+          "entity IfcA : IfcUnknown all file\n  doc A.\n  make (REAL x, REAL y)\n  custom Parse\n"
+          "  ops GetN: integer,\n      GetM: integer\n  tell GetN N.\n  tell GetM M.\n"
+          "function IfcTurn(const IfcA& a): REAL\n  doc Turns.\n",
+          "// entity IfcA\n\nIfcA::IfcA(REAL x, REAL y) {}\nINTEGER IfcA::GetN() const {}\n"
+          "INTEGER IfcA::GetM() const {}\nconst char* IfcA::Parse(const char* cursor) {}\n"
+          "// function IfcTurn\nREAL IfcTurn(const IfcA& a) {}\n")
+          .Header();
+  EXPECT_TRUE(
+      Holds(header, "  // Description: f.schema:4. Body: f.inl:3.\n  IfcA(REAL x, REAL y);\n"));
+  EXPECT_TRUE(Holds(header,
+                    "  // Description: f.schema:5. Body: f.inl:6.\n"
+                    "  const char* Parse(const char* cursor) override;\n"));
+  EXPECT_TRUE(Holds(header,
+                    "  /// N.\n  // Description: f.schema:6. Body: f.inl:4.\n"
+                    "  virtual INTEGER GetN() const;\n"));
+  EXPECT_TRUE(Holds(header, "  // Description: f.schema:7. Body: f.inl:5.\n"));
+  EXPECT_TRUE(Holds(header,
+                    "// Description: f.schema:10. Body: f.inl:8.\n"
+                    "KELIFC_API REAL IfcTurn(const IfcA& a);\n"));
+}
+
 }  // namespace
 }  // namespace schemac

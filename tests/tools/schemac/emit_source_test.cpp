@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "tests/tools/schemac/describe.h"
 
 namespace schemac {
@@ -46,12 +48,31 @@ TEST(EmitSource, WritesALiteralForWhatIsReadOnly) {
             "return WriteFirst(IfcUnknown::Write(out), Literal(\"$\"));"));
 }
 
-TEST(EmitSource, IncludesTheBodiesWrittenByHand) {
+TEST(EmitSource, CopiesTheBodiesWrittenByHand) {
   const std::string body =
-      "entity IfcA : IfcUnknown all file\n  doc A.\n  [151] bodies one two\n  custom Parse\n";
-  EXPECT_TRUE(Holds(Resolved(body).Source(), "#include \"kelifc/schema/f/ifca.inl\""));
-  EXPECT_TRUE(Holds(Resolved(body, k151).Source(), "#include \"kelifc/schema/f/two.inl\""));
-  EXPECT_FALSE(Holds(Resolved(body, k151).Source(), "ifca.inl"));
+      "entity IfcA : IfcUnknown all\n  doc A.\n  ops GetN: integer\n  tell GetN N.\n";
+  const std::string code =
+      "// entity IfcA [..2x]\nint old;\n// entity IfcA\nINTEGER IfcA::GetN() const { return 1; }\n";
+  const std::string source = Resolved(body, code).Source();
+  EXPECT_TRUE(Holds(source,
+                    "// The bodies of IfcA, from f.inl:3.\n#line 4 \"f.inl\"\n"
+                    "INTEGER IfcA::GetN() const { return 1; }\n"));
+  EXPECT_FALSE(Holds(source, "int old;"));
+  EXPECT_TRUE(Holds(Resolved(body, code, k2x).Source(), "#line 2 \"f.inl\"\nint old;\n"));
+}
+
+TEST(EmitSource, CountsItsOwnLinesAgainAfterABody) {
+  const std::string source =
+      Resolved("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetN: integer\n  tell GetN N.\n",
+               "// entity IfcA\nINTEGER IfcA::GetN() const { return 1; }\n")
+          .Source();
+  const auto directive = source.find("#line ", source.find("f.inl\"\n"));
+  ASSERT_NE(directive, std::string::npos);
+  const auto next = static_cast<std::size_t>(
+      std::count(source.begin(), source.begin() + static_cast<std::ptrdiff_t>(directive), '\n') +
+      2);
+  EXPECT_EQ(source.substr(directive, source.find('\n', directive) - directive),
+            "#line " + std::to_string(next) + " \"kelifc/schema/ifc2x3/f.cpp\"");
 }
 
 TEST(EmitSource, WritesTheTextOfAnEnumerationAsItIs) {

@@ -69,6 +69,36 @@ TEST(ResolveOperations, TranslatesSignatures) {
                    "IfcT* Find(const IfcT& item)"}));
 }
 
+TEST(ResolveOperations, ForwardsToTheOperationWithAnUnderscore) {
+  const Resolved resolved(
+      "entity IfcA : IfcUnknown all\n  doc A.\n"
+      "  ops _GetN: integer, _GetP: IfcA*, GetN forward, GetP forward\n"
+      "  tell _GetN N.\n  tell _GetP P.\n");
+  const auto& operations = resolved.model.Find("IfcA")->operations;
+  ASSERT_EQ(operations.size(), 4u);
+  EXPECT_EQ(operations[2].result, "INTEGER");
+  EXPECT_EQ(operations[2].doc, "N.");
+  EXPECT_TRUE(operations[2].isConst);
+  EXPECT_EQ(operations[2].body, Texts{"return _GetN();"});
+  EXPECT_EQ(operations[3].result, "const IfcA*");
+  EXPECT_EQ(operations[3].body, Texts{"return const_cast<IfcA*>(this)->_GetP();"});
+}
+
+TEST(ResolveOperations, ForwardsOnlyToAnOperationWithoutParametersAboveIt) {
+  const std::string message =
+      "f.schema:4:7: error: GetN forwards to _GetN, which stands nowhere above it";
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetN forward\n"), message);
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
+                    "  ops GetN forward, _GetN: integer\n  tell _GetN N.\n"),
+            message);
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
+                    "  ops [2x] _GetN: integer, [2x3] GetN forward\n  tell _GetN N.\n"),
+            "f.schema:4:34: error: GetN forwards to _GetN, which stands nowhere above it");
+  EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
+                    "  ops _GetN(index): integer, GetN forward\n  tell _GetN N.\n"),
+            "f.schema:4:30: error: GetN forwards to _GetN, which stands nowhere above it");
+}
+
 TEST(ResolveOperations, WantsASignatureOrAnAttribute) {
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetX\n"),
             "f.schema:4:7: error: GetX of IfcA names no attribute and has no signature");
@@ -87,11 +117,6 @@ TEST(ResolveOperations, WantsAClassForAReferenceThatIsShown) {
 TEST(ResolveOperations, AddsToAggregatesOnly) {
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  X real\n  ops AddX\n"),
             "f.schema:5:7: error: X is no aggregate");
-}
-
-TEST(MemberName, StartsInLowerCaseAndIsNoWordOfTheLanguage) {
-  EXPECT_EQ(MemberName("XDim"), "xDim");
-  EXPECT_EQ(MemberName("Operator"), "operatorValue");
 }
 
 }  // namespace

@@ -42,5 +42,19 @@ TEST(TokenReader, NamesTheColumnOfWhatItRefuses) {
   }
 }
 
+TEST(TokenReader, NamesTheLineThatAContinuationIsIn) {
+  const auto lines = ReadLines("f", "  ops A,\n      B,\n        C");
+  TokenReader in(lines.front());
+  const auto place = [&](std::string_view text) {
+    in.Expect(text);
+    const Place here = in.Here();
+    return std::to_string(here.line) + ":" + std::to_string(here.column);
+  };
+  EXPECT_EQ(place("ops"), "1:7");
+  EXPECT_EQ(place("A,"), "2:7");
+  EXPECT_EQ(place("B,"), "3:9");
+  EXPECT_EQ(place("C"), "3:10");
+}
+
 }  // namespace
 }  // namespace schemac

@@ -1,0 +1,83 @@
+#include "kelifc/core/lists/parse_members.h"
+
+#include <algorithm>
+#include <string>
+
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/detail/position_index.h"
+#include "kelifc/core/lists/parenthesised.h"
+#include "kelifc/core/parameter_value.h"
+#include "kelifc/core/text/number_text.h"
+#include "kelifc/core/value.h"
+
+namespace KelIFC {
+
+namespace {
+
+// Reads `#n` and unset elements in place, as long as no other parenthesis stands among them: then
+// no reader of numbers runs past the end. Gives the position of the first element that is neither,
+// or null behind the last.
+template <class Items>
+const char* ReadNumbers(const detail::Parenthesised& inner, IfcUnknown* owner, Items& items) {
+  const char* cursor = inner.begin;
+  while (cursor != nullptr) {
+    const char* first = detail::SkipBlanks(cursor);
+    if (*first == '#' && first[1] >= '0' && first[1] <= '9') {
+      const std::int64_t number = ReadInteger(first + 1, &first);
+      items.Append(owner, static_cast<std::size_t>(number));
+    } else if (*first != '$' && *first != '*') {
+      return cursor;
+    }
+    cursor = detail::BehindCommaBefore(first, inner.end);
+  }
+  return nullptr;
+}
+
+// Reads elements of every kind from a text of their own, whose end bounds them. An element that
+// does not move the cursor ends the list.
+template <class Items>
+void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
+  int entities = 0;
+  std::size_t allowance = kEntityTextFactor * text.size() + kEntityTextAllowance;
+  const char* cursor = text.c_str();
+  while (cursor != nullptr) {
+    MEMBER element(owner);
+    const char* next = element.Parse(cursor);
+    const IfcUnknown* value = element.GetInlineValue();
+    // A typed value looks no further than its own text.
+    if (value != nullptr && !IsTypedValue(value)) {
+      const auto rest = static_cast<std::size_t>(text.c_str() + text.size() - cursor);
+      if (++entities > kMaximumEntitiesInList || rest > allowance) return;
+      allowance -= rest;
+    }
+    if (element.GetExists()) items.Append(element);
+    if (next == cursor) return;
+    cursor = next;
+  }
+}
+
+}  // namespace
+
+template <class Header>
+const char* ParseMembers(const char* text, IfcUnknown* owner,
+                         detail::Sequence<MEMBER, Header>& items) {
+  items.Clear();
+  detail::Parenthesised inner;
+  if (!detail::FindParenthesised(text, inner)) return text;
+  if (inner.begin != inner.end) {
+    // An element takes two characters at least.
+    const auto length = static_cast<std::size_t>(inner.end - inner.begin);
+    items.Reserve(std::min(inner.CountCommas(inner.begin), length / 2) + 1);
+    const char* rest = inner.isNested ? inner.begin : ReadNumbers(inner, owner, items);
+    if (rest != nullptr) ReadElements(std::string(rest, inner.end), owner, items);
+    if (items.GetSize() < items.GetCapacity() / 2) items.ShrinkToFit();
+  }
+  return inner.BehindNextComma();
+}
+
+template const char* ParseMembers(const char*, IfcUnknown*,
+                                  detail::Sequence<MEMBER, detail::NoHeader>&);
+template const char* ParseMembers(const char*, IfcUnknown*,
+                                  detail::Sequence<MEMBER, detail::PositionIndex>&);
+
+}  // namespace KelIFC

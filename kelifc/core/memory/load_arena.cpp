@@ -1,0 +1,100 @@
+#include "kelifc/core/memory/load_arena.h"
+
+#include <algorithm>
+#include <atomic>
+#include <new>
+
+namespace KelIFC {
+
+/// Heads a chunk and counts its blocks. As long as it is carved from, it counts as many more that
+/// nobody has, so that the last block that goes does not take it along.
+struct LoadArena::Chunk {
+  std::atomic<std::uint32_t> blocks;
+
+  void Drop(std::uint32_t count) noexcept {
+    if (blocks.fetch_sub(count, std::memory_order_acq_rel) == count) ::operator delete(this);
+  }
+};
+
+namespace {
+
+constexpr std::uint32_t kOpen = 0x80000000;
+
+// A small model takes little; a large one comes to chunks that the heap takes from the system and
+// gives back to it.
+constexpr std::size_t kFirstChunk = std::size_t{16} * 1024;
+constexpr std::size_t kLargestChunk = std::size_t{1024} * 1024;
+
+constexpr std::size_t kAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
+constexpr std::size_t kMark = sizeof(void*);  // in front of a block: its chunk, or null
+static_assert(kAlignment % kMark == 0);
+
+constexpr std::size_t RoundUp(std::size_t size) {
+  return (size + kAlignment - 1) / kAlignment * kAlignment;
+}
+
+thread_local LoadArena* current = nullptr;
+
+void*& MarkOf(void* block) { return static_cast<void**>(block)[-1]; }
+
+void* AllocateAlone(std::size_t size) {
+  void* const block = static_cast<char*>(::operator new(kAlignment + size)) + kAlignment;
+  MarkOf(block) = nullptr;
+  return block;
+}
+
+}  // namespace
+
+void* detail::AllocateBlock(std::size_t size) {
+  LoadArena* const arena = current;
+  if (arena == nullptr) return AllocateAlone(size);
+  if (size <= LoadArena::kLargestBlock) return arena->Carve(size);
+  arena->bytes += size;
+  return AllocateAlone(size);
+}
+
+void detail::FreeBlock(void* block) noexcept {
+  if (block == nullptr) return;
+  if (auto* chunk = static_cast<LoadArena::Chunk*>(MarkOf(block))) {
+    chunk->Drop(1);
+  } else {
+    ::operator delete(static_cast<char*>(block) - kAlignment);
+  }
+}
+
+LoadArena::LoadArena() : outer(current), nextSize(kFirstChunk) { current = this; }
+
+LoadArena::~LoadArena() {
+  CloseChunk();
+  current = outer;
+}
+
+// The cursor stands where the next mark goes, right ahead of an aligned block.
+void* LoadArena::Carve(std::size_t size) {
+  const std::size_t taken = RoundUp(kMark + size);
+  if (static_cast<std::size_t>(end - cursor) < taken) OpenChunk();
+  void* const block = cursor + kMark;
+  MarkOf(block) = chunk;
+  cursor += taken;
+  ++carved;
+  return block;
+}
+
+void LoadArena::OpenChunk() {
+  CloseChunk();
+  char* const memory = static_cast<char*>(::operator new(nextSize));
+  chunk = ::new (memory) Chunk{{kOpen}};
+  cursor = memory + RoundUp(sizeof(Chunk) + kMark) - kMark;
+  end = memory + nextSize;
+  bytes += nextSize;
+  nextSize = std::min(2 * nextSize, kLargestChunk);
+}
+
+void LoadArena::CloseChunk() noexcept {
+  if (chunk != nullptr) chunk->Drop(kOpen - carved);
+  chunk = nullptr;
+  cursor = end = nullptr;
+  carved = 0;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,90 @@
+#include "kelifc/core/text/quoting.h"
+
+#include <cstring>
+
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/hex.h"
+
+namespace KelIFC {
+
+using detail::PutChar;
+using detail::PutText;
+
+namespace {
+
+// Reads the two characters behind `\X\`. Gives the position behind them, or null if the text ends.
+const char* DecodeByte(const char* text, std::string& out) {
+  const int first = HexDigit(text[0]);
+  const int second = first < 0 ? -1 : HexDigit(text[1]);
+  if (first >= 0) out.push_back(static_cast<char>(second < 0 ? first : 16 * first + second));
+  return text[0] == '\0' || text[1] == '\0' ? nullptr : text + 2;
+}
+
+// Resolves the escape at `text`. Gives the position behind it, or null if the text ends in it. A
+// `\X` that no backslash follows vanishes alone.
+const char* DecodeEscape(const char* text, std::string& out) {
+  const char c = text[1];
+  if (c == '\0') return nullptr;
+  if (c == 'X' || c == 'x') return text[2] == kEscape ? DecodeByte(text + 3, out) : text + 2;
+  if (!IsEscapable(c)) out.push_back(kEscape);
+  out.push_back(c);
+  return text + 2;
+}
+
+constexpr char kUpperDigits[] = "0123456789ABCDEF";
+
+bool IsPlain(char c) { return static_cast<unsigned char>(c) < 0x80 && !IsEscapable(c); }
+
+void EncodeCharacter(std::ostream& out, char c) {
+  const auto byte = static_cast<unsigned char>(c);
+  if (byte < 0x80) {
+    const char pair[] = {kEscape, c};
+    PutText(out, std::string_view(pair, sizeof pair));
+  } else {
+    const char code[] = {kEscape, 'X', kEscape, kUpperDigits[byte / 16], kUpperDigits[byte % 16]};
+    PutText(out, std::string_view(code, sizeof code));
+  }
+}
+
+}  // namespace
+
+const char* DecodeQuoted(const char* text, std::string& out) {
+  const char* cursor = std::strchr(text, kQuote);
+  if (cursor == nullptr) return nullptr;
+  ++cursor;
+  // Each byte is looked at once by either search: the next quote is searched anew only behind one
+  // that an escape has used up.
+  const char* quote = std::strchr(cursor, kQuote);
+  const char* end = quote != nullptr ? quote : cursor + std::strlen(cursor);
+  while (true) {
+    const auto length = static_cast<std::size_t>(end - cursor);
+    const auto* escape = static_cast<const char*>(std::memchr(cursor, kEscape, length));
+    if (escape == nullptr) {
+      out.append(cursor, length);
+      return quote;
+    }
+    out.append(cursor, static_cast<std::size_t>(escape - cursor));
+    cursor = DecodeEscape(escape, out);
+    if (cursor == nullptr) return nullptr;
+    if (cursor > end) {
+      quote = std::strchr(cursor, kQuote);
+      end = quote != nullptr ? quote : cursor + std::strlen(cursor);
+    }
+  }
+}
+
+void EncodeQuoted(std::ostream& out, std::string_view text) {
+  text = text.substr(0, text.find('\0'));
+  PutChar(out, kQuote);
+  std::size_t begin = 0;
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    if (IsPlain(text[i])) continue;
+    if (i != begin) PutText(out, text.substr(begin, i - begin));
+    EncodeCharacter(out, text[i]);
+    begin = i + 1;
+  }
+  PutText(out, text.substr(begin));
+  PutChar(out, kQuote);
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,48 @@
+#ifndef KELIFC_IMPORT_LINEAR_BUILD_LINEAR_H_
+#define KELIFC_IMPORT_LINEAR_BUILD_LINEAR_H_
+
+#include <utility>
+
+#include "kelifc/import/element/element_maker.h"
+#include "kelifc/import/linear/convert_item.h"
+#include "kelifc/import/linear/linear_facts.h"
+#include "kelifc/import/linear/name_suffix.h"
+
+namespace KelIFC {
+
+/// Makes the elements of linear products. `Maker` is an ElementMaker of columns or beams that was
+/// opened; it must outlive the builder.
+template <class Maker>
+class LinearBuilder {
+ public:
+  explicit LinearBuilder(Maker& maker) : maker(maker) {}
+
+  /// Makes one element for each item of the product, in the order of the items. An item is skipped
+  /// if its shape is not supported or its element cannot be created. The boundary of an item that
+  /// is not shared is moved into the element.
+  void Convert(const LinearFacts& facts) {
+    for (const LinearPartFacts& part : facts.parts) ConvertRepresentation(facts, part);
+  }
+
+ private:
+  void ConvertRepresentation(const LinearFacts& facts, const LinearPartFacts& part) {
+    for (LinearItemFacts& item : part.representation->items) {
+      typename Maker::Made* element = nullptr;
+      if (FAILED(maker.Make(facts.identity, &element, NameSuffix(part, item)))) continue;
+      LinearShape shape;
+      if (ConvertItem(item, part.isShared, part.outer, facts.chain, maker.Structure(), *element,
+                      shape)) {
+        element->points = std::move(shape.points);
+        element->boundary = std::move(shape.boundary);
+      } else {
+        maker.TakeBack();
+      }
+    }
+  }
+
+  Maker& maker;
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_IMPORT_LINEAR_BUILD_LINEAR_H_

@@ -1,0 +1,16 @@
+#ifndef KELIFC_IMPORT_SHAPE_READ_SHELL_H_
+#define KELIFC_IMPORT_SHAPE_READ_SHELL_H_
+
+#include "kelifc/geometry/brep.h"
+
+namespace KelIFC {
+
+/// Appends the faces of a shell to a boundary, in metres and in the coordinates of the solid. An
+/// IfcFaceSurface is appended twice, the second time turned over. `scale` is the factor from the
+/// length unit of the file to metres.
+template <class Release>
+void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boundary, double scale);
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_IMPORT_SHAPE_READ_SHELL_H_

@@ -1,3 +1,0 @@
-void IfcOrganization::SetAddresses(const std::vector<IfcUnknown*>& items) { addresses = items; }
-
-void IfcOrganization::SetRoles(const std::vector<IfcUnknown*>& items) { roles = items; }

@@ -1,1 +1,0 @@
-void IfcPersonAndOrganization::SetRoles(const std::vector<IfcUnknown*>& items) { roles = items; }

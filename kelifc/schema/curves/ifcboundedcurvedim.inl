@@ -1,1 +1,0 @@
-INTEGER IfcBoundedCurveDim(const IfcBoundedCurve& curve) { return IfcCurveDim(curve); }

@@ -1,1 +1,0 @@
-INTEGER IfcHalfSpaceSolid::GetDim() const { return INTEGER(3); }

@@ -1,6 +1,0 @@
-INTEGER IfcPolyLoop::_GetDim() const {
-  const LIST<const IfcCartesianPoint*> points = GetPolygon();
-  return points.GetEmpty() || points[1] == nullptr ? INTEGER(0) : points[1]->GetDim();
-}
-
-INTEGER IfcPolyLoop::GetDim() const { return _GetDim(); }

@@ -1,0 +1,5 @@
+// entity IfcSiUnit
+
+IfcDimensionalExponents IfcSiUnit::GetDimensions() const { return DimensionsForSiUnit(name); }
+
+double IfcSiUnit::GetPrefixCoefficient() const { return CoefficientOfPrefix(prefix); }

@@ -1,3 +1,0 @@
-IfcDimensionalExponents IfcSiUnit::GetDimensions() const { return DimensionsForSiUnit(name); }
-
-double IfcSiUnit::GetPrefixCoefficient() const { return CoefficientOfPrefix(prefix); }

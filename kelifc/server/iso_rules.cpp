@@ -1,0 +1,215 @@
+#include "kelifc/server/iso_rules.h"
+
+#include <cstddef>
+
+#include "kelifc/core/text/iso8859.h"
+#include "kelifc/core/text/iso_text.h"
+#include "kelifc/server/block_search.h"
+
+namespace KelIFC {
+namespace {
+
+constexpr bool IsLineEnd(int c) { return c == '\n' || c == '\r'; }
+constexpr bool IsGap(int c) { return IsLineEnd(c) || c == '\0'; }
+constexpr bool IsDigit(int c) { return c >= '0' && c <= '9'; }
+
+}  // namespace
+
+bool IsoRules::FindMark() {
+  if (!isStarted) SkipByteOrderMark();
+  do {
+    const char* from = DataAt(cursor);
+    const char* end = DataAt(dataEnd);
+    const char* mark = from;
+    if (!inString) {
+      mark = FindAnyOf<';', kQuote, '/', '\n', '\r', '\0'>(from, end);
+    } else if (escape == Escape::kNone) {
+      mark = FindAnyOf<kQuote, kEscape, '\n', '\r', '\0'>(from, end);
+    }
+    cursor += static_cast<std::size_t>(mark - from);
+  } while (cursor == dataEnd && Refill());
+  return cursor < dataEnd;
+}
+
+void IsoRules::SkipByteOrderMark() {
+  isStarted = true;
+  if (Peek(0) != 0xEF || Peek(1) != 0xBB || Peek(2) != 0xBF) return;
+  cursor += 3;
+  Begin();
+}
+
+char* IsoRules::TakeMark() {
+  const char c = buffer[cursor];
+  if (IsGap(c)) return TakeGap(c);
+  if (inString) {
+    TakeInString(c);
+  } else if (c == ';') {
+    return FinishTrimmed(cursor + 1);
+  } else if (c == kQuote) {
+    inString = true;
+    ++cursor;
+  } else if (!SkipComment()) {
+    ++cursor;
+  }
+  return nullptr;
+}
+
+// Leaves out a character that means nothing, and looks at the line that begins after a line end.
+char* IsoRules::TakeGap(char c) {
+  const bool endsLine = c == '\n' || (c == '\r' && Peek(1) != '\n');
+  FlushRun(cursor);
+  if (endsLine) BeginLine(cursor + 1);
+  SkipTo(cursor + 1);
+  const bool hasText = textBegin != textEnd;
+  return endsLine && hasText && IsAtNewStatement() ? EndBeforeNewStatement() : nullptr;
+}
+
+void IsoRules::TakeInString(char c) {
+  if (escape == Escape::kShifted && c == kQuote) {
+    escape = Escape::kNone;
+    quotesOfText = CountQuotesOfText();
+  } else if (escape != Escape::kNone && StepOn(escape, c)) {
+    ++cursor;
+    return;
+  }
+  if (c == kEscape) escape = Escape::kOpen;
+  if (c == kQuote) {
+    if (quotesOfText == 0) {
+      inString = false;
+    } else {
+      --quotesOfText;
+    }
+  }
+  ++cursor;
+}
+
+// Goes on with an escape. Returns false if the character is not a part of it; the escape is then
+// at its end, too.
+bool IsoRules::StepOn(Escape& escape, char c) {
+  const Escape before = escape;
+  escape = Escape::kNone;
+  switch (before) {
+    case Escape::kOpen:
+      if (c == 'S') escape = Escape::kShift;
+      if (c == 'X') escape = Escape::kExtended;
+      if (c == 'P') escape = Escape::kPage;
+      return c == kEscape || escape != Escape::kNone;
+    case Escape::kShift:
+      if (c == kEscape) escape = Escape::kShifted;
+      return c == kEscape;
+    case Escape::kShifted:
+      return true;
+    case Escape::kExtended:
+      if (c == '0' || c == '2' || c == '4') escape = Escape::kClosing;
+      return c == kEscape || escape != Escape::kNone;
+    case Escape::kPage:
+      if (c >= kFirstIsoPage && c <= kLastIsoPage) escape = Escape::kClosing;
+      return escape != Escape::kNone;
+    case Escape::kClosing:
+      return c == kEscape;
+    case Escape::kNone:
+      break;
+  }
+  return false;
+}
+
+// With the cursor on the first quote after `\S\`. What follows is looked at for no more than a
+// megabyte, all of which has to be in the buffer.
+std::size_t IsoRules::CountQuotesOfText() {
+  constexpr std::size_t kFurthest = std::size_t{1024} * 1024;
+  std::size_t distance = 0;
+  return CountQuotesAfterShift([&] {
+    int c = 0;
+    while (IsGap(c) && distance < kFurthest) c = Peek(distance++);
+    return IsGap(c) || c < 0 ? '\0' : static_cast<char>(c);
+  });
+}
+
+// With the cursor on a slash: steps over the comment that begins there, if one does.
+bool IsoRules::SkipComment() {
+  if (Peek(1) != '*') return false;
+  FlushRun(cursor);
+  const SourcePlace begin = PlaceOf(cursor);
+  MoveTo(cursor + 2);
+  SkipCommentBody(begin);
+  NotePiece();
+  return true;
+}
+
+void IsoRules::SkipCommentBody(const SourcePlace& begin) {
+  while (true) {
+    const char* from = DataAt(cursor);
+    const char* mark = FindAnyOf<'*', '\n'>(from, DataAt(dataEnd));
+    MoveTo(cursor + static_cast<std::size_t>(mark - from));
+    if (cursor == dataEnd) {
+      if (Refill()) continue;
+      return Report(begin);
+    }
+    const bool isEnd = *mark == '*' && Peek(1) == '/';
+    if (buffer[cursor] == '\n') BeginLine(cursor + 1);
+    MoveTo(cursor + (isEnd ? 2 : 1));
+    if (isEnd) return;
+  }
+}
+
+// True if the line at the cursor begins with `#`, digits and `=`, with blanks between.
+bool IsoRules::IsAtNewStatement() {
+  constexpr std::size_t kFurthest = 64;
+  std::size_t distance = 0;
+  const auto skipBlanks = [&] {
+    while (distance < kFurthest && (Peek(distance) == ' ' || Peek(distance) == '\t')) ++distance;
+  };
+  skipBlanks();
+  if (Peek(distance) != '#') return false;
+  const std::size_t digits = ++distance;
+  while (distance < kFurthest && IsDigit(Peek(distance))) ++distance;
+  if (distance == digits) return false;
+  skipBlanks();
+  return Peek(distance) == '=';
+}
+
+// Ends the statement ahead of the line at the cursor, unless its text is of blanks only.
+char* IsoRules::EndBeforeNewStatement() {
+  const std::size_t blanks = CountLeadingBlanks();
+  if (blanks == GetLength()) {
+    Begin();
+    return nullptr;
+  }
+  Report(GetPlace(blanks));
+  if (!inString) return FinishTrimmed(cursor);
+  Abandon();
+  return nullptr;
+}
+
+char* IsoRules::FinishTrimmed(std::size_t next) {
+  Finish(next);
+  const std::size_t blanks = CountLeadingBlanks();
+  DropFront(blanks);
+  return &buffer[textBegin];
+}
+
+std::size_t IsoRules::CountLeadingBlanks() const {
+  std::size_t count = 0;
+  while (textBegin + count < textEnd && IsIsoBlank(buffer[textBegin + count])) ++count;
+  return count;
+}
+
+void IsoRules::Abandon() {
+  inString = false;
+  escape = Escape::kNone;
+  quotesOfText = 0;
+  Begin();
+}
+
+void IsoRules::TakeEnd() {
+  FlushRun(cursor);
+  const std::size_t blanks = CountLeadingBlanks();
+  if (blanks != GetLength() && !IsBeyondLimit()) Report(GetPlace(blanks));
+  Abandon();
+}
+
+void IsoRules::Report(const SourcePlace& place) {
+  if (findings != nullptr) findings->Note(LoadFinding::kStatementWithoutEnd, place);
+}
+
+}  // namespace KelIFC

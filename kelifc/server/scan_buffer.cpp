@@ -1,0 +1,105 @@
+#include "kelifc/server/scan_buffer.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace KelIFC {
+namespace {
+
+constexpr std::size_t kLongestPeek = 16;
+
+}  // namespace
+
+std::uint64_t ScanBuffer::PeekNumber() const {
+  const char* at = buffer.get() + cursor;
+  const char* const last = at + std::min(kLongestPeek, dataEnd - cursor);
+  while (at < last && (*at == '\n' || *at == '\r')) ++at;
+  if (at == last || *at != '#') return 0;
+  std::uint64_t number = 0;
+  for (++at; at < last && *at >= '0' && *at <= '9'; ++at) {
+    number = 10 * number + static_cast<std::uint64_t>(*at - '0');
+  }
+  return number;
+}
+
+SourcePlace ScanBuffer::GetPlace(std::size_t offset) const {
+  offset += dropped;
+  const auto next = std::upper_bound(
+      pieces.begin(), pieces.end(), offset,
+      [](std::size_t wanted, const Piece& piece) { return wanted < piece.offset; });
+  if (next == pieces.begin()) return {start.line, start.column + offset};
+  const Piece& piece = next[-1];
+  const bool isLast = next == pieces.end() && pieces.size() == kMostPieces;
+  const std::size_t distance = isLast ? 0 : offset - piece.offset;
+  return {piece.place.line, piece.place.column + distance};
+}
+
+void ScanBuffer::Begin() {
+  textBegin = textEnd = runBegin = cursor;
+  dropped = 0;
+  NotePiece();
+}
+
+void ScanBuffer::NotePiece() {
+  const std::size_t offset = textEnd - textBegin + cursor - runBegin;
+  if (offset == 0) {
+    start = PlaceOf(cursor);
+    if (!pieces.empty()) pieces.clear();
+  } else if (pieces.size() < kMostPieces) {
+    pieces.push_back({offset, PlaceOf(cursor)});
+  }
+}
+
+char* ScanBuffer::Finish(std::size_t next) {
+  FlushRun(cursor);
+  buffer[textEnd] = '\0';
+  MoveTo(next);
+  return &buffer[textBegin];
+}
+
+bool ScanBuffer::Refill() {
+  if (limit != 0 && textEnd - textBegin + cursor - runBegin > limit) ended = isBeyondLimit = true;
+  if (ended) return false;
+  CloseGaps();
+  if (capacity - dataEnd < blockSize) Grow();
+  input.read(&buffer[dataEnd], static_cast<std::streamsize>(blockSize));
+  const auto count = static_cast<std::size_t>(input.gcount());
+  dataEnd += count;
+  bytesRead += count;
+  ended = count == 0;
+  return !ended;
+}
+
+// Moves the text to the front of the buffer and all that follows after it. A text is moved at most
+// once, since it then stays at the front. One character stays between a text and what follows, for
+// the NUL that ends the text.
+void ScanBuffer::CloseGaps() {
+  const std::size_t length = textEnd - textBegin;
+  const std::size_t begin = length == 0 ? 0 : length + 1;
+  if (runBegin <= begin) return;
+  const std::size_t gap = runBegin - begin;
+  if (textBegin != 0) std::memmove(&buffer[0], &buffer[textBegin], length);
+  std::memmove(&buffer[begin], &buffer[runBegin], dataEnd - runBegin);
+  textBegin = 0;
+  textEnd = length;
+  runBegin = begin;
+  cursor -= gap;
+  dataEnd -= gap;
+}
+
+void ScanBuffer::Grow() {
+  const std::size_t wanted = std::max(2 * capacity, dataEnd + 2 * blockSize);
+  std::unique_ptr<char[]> larger(new char[wanted]);
+  if (dataEnd != 0) std::memcpy(larger.get(), buffer.get(), dataEnd);
+  buffer = std::move(larger);
+  capacity = wanted;
+}
+
+void ScanBuffer::FlushRun(std::size_t end) {
+  const std::size_t length = end - runBegin;
+  if (textEnd == textBegin) textBegin = textEnd = runBegin;
+  if (textEnd != runBegin) std::memmove(&buffer[textEnd], &buffer[runBegin], length);
+  textEnd += length;
+}
+
+}  // namespace KelIFC

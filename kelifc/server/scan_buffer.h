@@ -1,0 +1,148 @@
+#ifndef KELIFC_SERVER_SCAN_BUFFER_H_
+#define KELIFC_SERVER_SCAN_BUFFER_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <istream>
+#include <memory>
+#include <vector>
+
+#include "kelifc/server/load_findings.h"
+
+namespace KelIFC {
+
+/// The part of a scanner that does not depend on the dialect: a stream in blocks, the text of one
+/// statement that is gathered in place in them, and where it stood in the file.
+///
+/// The buffer is as long as two blocks, or as the longest statement. All work is linear in the
+/// length of the stream.
+class ScanBuffer {
+ public:
+  static constexpr std::size_t kBlockSize = std::size_t{256} * 1024;
+
+  /// Reads `source`, which must outlive the buffer, `size` bytes at a time.
+  explicit ScanBuffer(std::istream& source, std::size_t size = kBlockSize)
+      : input(source), blockSize(size) {}
+
+  /// The number of characters of the last statement.
+  std::size_t GetLength() const { return textEnd - textBegin; }
+
+  /// The begin and the end of the text of the last statement.
+  const char* GetText() const { return buffer.get() + textBegin; }
+  const char* GetTextEnd() const { return buffer.get() + textEnd; }
+
+  /// The number of the next statement, as far as it can be told without parsing: 0 unless it begins
+  /// with `#` and digits and is in the buffer.
+  std::uint64_t PeekNumber() const;
+
+  /// The number of bytes that have been read from the stream.
+  std::uint64_t GetBytesRead() const { return bytesRead; }
+
+  /// A statement that grows beyond `bytes` ends the input from now on; 0 removes the limit. The
+  /// length is looked at when another block is read, so a statement may exceed it by a block.
+  void SetLimit(std::size_t bytes) { limit = bytes; }
+
+  /// True if a statement exceeded the limit.
+  bool IsBeyondLimit() const { return isBeyondLimit; }
+
+  /// The position in the file of a character of the last statement. Of a statement that is made of
+  /// more than kMostPieces pieces, all characters of the rest have the position of the last piece.
+  SourcePlace GetPlace(std::size_t offset = 0) const;
+
+  static constexpr std::size_t kMostPieces = 65536;
+
+ protected:
+  // Starts a new statement at the cursor.
+  void Begin();
+
+  // Ends the statement, and moves the cursor to `next`, where the next one starts. There is room
+  // for a NUL after the text: `next` is after the cursor, or the run is empty and the text is not.
+  char* Finish(std::size_t next);
+
+  // Removes characters from the front of the text of a statement that is finished.
+  void DropFront(std::size_t count) {
+    textBegin += count;
+    dropped = count;
+  }
+
+  // The character at a distance from the cursor, or -1 at the end of the input. Reads on where
+  // needed, so that positions may move, all by the same distance. Nothing may be flushed and not
+  // skipped at this moment.
+  int Peek(std::size_t distance) {
+    while (dataEnd - cursor <= distance) {
+      if (!Refill()) return -1;
+    }
+    return static_cast<unsigned char>(buffer[cursor + distance]);
+  }
+
+  // Reads one more block after the data. Returns false at the end of the input; positions may move.
+  bool Refill();
+
+  // Joins the run up to `end` to the text, in most cases without moving a byte.
+  void FlushRun(std::size_t end);
+
+  // Leaves out what stands between the text and `position`.
+  void SkipTo(std::size_t position) {
+    MoveTo(position);
+    NotePiece();
+  }
+
+  // The same for a part of what is left out.
+  void MoveTo(std::size_t position) { runBegin = cursor = position; }
+
+  // Notes that a line begins at `position`, which is not before the cursor.
+  void BeginLine(std::size_t position) {
+    ++line;
+    lineStart = AbsoluteOf(position);
+  }
+
+  // Notes where the text at the cursor stands in the file.
+  void NotePiece();
+
+  SourcePlace PlaceOf(std::size_t position) const {
+    return {line, AbsoluteOf(position) - lineStart + 1};
+  }
+
+  const char* DataAt(std::size_t position) const { return buffer.get() + position; }
+
+  // The offset in the stream of a position that is not before the cursor.
+  std::uint64_t AbsoluteOf(std::size_t position) const { return bytesRead - (dataEnd - position); }
+
+  // Positions in the buffer, in this order. The text of the statement is [textBegin, textEnd) and
+  // the run [runBegin, cursor), which joins it as soon as something is left out after it.
+  std::size_t textBegin = 0;
+  std::size_t textEnd = 0;
+  std::size_t runBegin = 0;
+  std::size_t cursor = 0;
+  std::size_t dataEnd = 0;
+
+  std::unique_ptr<char[]> buffer;
+
+ private:
+  // A part of the text that stood in one piece in the file.
+  struct Piece {
+    std::size_t offset = 0;  // in the text
+    SourcePlace place;
+  };
+
+  void CloseGaps();
+  void Grow();
+
+  std::istream& input;
+  std::size_t blockSize;
+  std::size_t limit = 0;
+  std::uint64_t bytesRead = 0;
+  std::size_t capacity = 0;
+  bool ended = false;
+  bool isBeyondLimit = false;
+
+  std::uint64_t line = 1;
+  std::uint64_t lineStart = 0;  // offset in the stream
+  SourcePlace start;            // of the first piece
+  std::vector<Piece> pieces;    // the other ones; in most statements there are none
+  std::size_t dropped = 0;      // characters from the front of the text
+};
+
+}  // namespace KelIFC
+
+#endif  // KELIFC_SERVER_SCAN_BUFFER_H_

@@ -1,0 +1,74 @@
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+
+#include "kelifc/core/step_file_schema.h"
+#include "kelifc/server/ifc_server.h"
+#include "kelifc/server/iso_statement.h"
+#include "kelifc/server/scanner.h"
+#include "kelifc/server/statements.h"
+
+// One pass of a load over its file.
+
+namespace KelIFC {
+namespace {
+
+// What has no `;` in so many bytes from its start is no STEP file. Without this limit a film or an
+// archive would be read into memory in search of one.
+constexpr std::size_t kHeadLimit = std::size_t{1024} * 1024;
+
+// Notes the bad escapes of the statement that a scanner has handed out last.
+class EscapeNotes : public BadEscapeSink {
+ public:
+  EscapeNotes(const ScanBuffer& source, LoadFindings* target) : scanner(source), findings(target) {}
+
+  void NoteBadEscape(const char* escape) override {
+    if (findings == nullptr) return;
+    const auto offset = static_cast<std::size_t>(escape - scanner.GetText());
+    findings->Note(LoadFinding::kBadEscape, scanner.GetPlace(offset));
+  }
+
+ private:
+  const ScanBuffer& scanner;
+  LoadFindings* findings;
+};
+
+}  // namespace
+
+// Hands the statements of a file to the pass, until the file, the pass or a limit ends it.
+template <class AnyScanner>
+void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {
+  IfcServer::LoadState& load = server.load;
+  const auto handle = firstPass ? RegisterStatement : ParseStatement;
+  const auto longest =
+      static_cast<std::size_t>(std::min<std::uint64_t>(load.limits.maxStatementBytes, SIZE_MAX));
+  load.scanner = &scanner;
+  scanner.SetLimit(firstPass ? kHeadLimit : longest);
+  while (char* statement = scanner.Next()) {
+    scanner.SetLimit(longest);
+    if (load.isUnordered) server.idToIndex.PrefetchNumber(scanner.PeekNumber());
+    load.isBeyondLimit = longest != 0 && scanner.GetLength() > longest;
+    if (load.isBeyondLimit || handle(&server, statement) != 0) return;
+    if (!firstPass) load.statementBytes += scanner.GetLength();
+    if (!server.GoesOn()) return;
+  }
+  load.isBeyondLimit = (scanner.IsBeyondLimit() && server.headerSeen) || !server.IsWithinMemory();
+}
+
+void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
+  IfcServer::LoadState& load = server->load;
+  if (load.dialect == STEP_DIALECT_CLASSIC) {
+    Scanner scanner(in);
+    ScanStatements(*server, scanner, firstPass);
+    return;
+  }
+  IsoScanner scanner(in);
+  EscapeNotes notes(scanner, load.findings);
+  IsoStatementReader reader(&notes);
+  load.reader = &reader;
+  if (firstPass) scanner.SetFindings(load.findings);
+  ScanStatements(*server, scanner, firstPass);
+  load.reader = nullptr;
+}
+
+}  // namespace KelIFC

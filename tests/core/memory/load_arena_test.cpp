@@ -1,0 +1,130 @@
+#include "kelifc/core/memory/load_arena.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <memory>
+#include <thread>
+#include <utility>
+#include <vector>
+
+#include "kelifc/core/list_of_members.h"
+#include "kelifc/core/other.h"
+
+namespace KelIFC {
+namespace {
+
+using detail::AllocateBlock;
+using detail::FreeBlock;
+
+bool IsAligned(const void* block) {
+  return reinterpret_cast<std::uintptr_t>(block) % __STDCPP_DEFAULT_NEW_ALIGNMENT__ == 0;
+}
+
+std::ptrdiff_t Distance(const void* from, const void* to) {
+  return static_cast<const char*>(to) - static_cast<const char*>(from);
+}
+
+/// Blocks of many sizes, each filled with a byte of its own.
+class Blocks {
+ public:
+  Blocks() {
+    for (std::size_t i = 0; i < 5000; ++i) {
+      const std::size_t size = i * 7919 % 3000;
+      void* const block = AllocateBlock(size);
+      std::memset(block, static_cast<int>(i % 251), size);
+      blocks.push_back({static_cast<unsigned char*>(block), size});
+    }
+  }
+  ~Blocks() {
+    for (const auto& [block, size] : blocks) FreeBlock(block);
+  }
+  Blocks(const Blocks&) = delete;
+  Blocks& operator=(const Blocks&) = delete;
+
+  void ExpectWhole() const {
+    for (std::size_t i = 0; i < blocks.size(); ++i) {
+      const auto& [block, size] = blocks[i];
+      ASSERT_TRUE(IsAligned(block));
+      ASSERT_EQ(std::count(block, block + size, i % 251), static_cast<std::ptrdiff_t>(size));
+    }
+  }
+
+ private:
+  std::vector<std::pair<unsigned char*, std::size_t>> blocks;
+};
+
+TEST(BlockMemory, HoldsBlocksOfAnySizeApart) { Blocks().ExpectWhole(); }
+
+TEST(BlockMemory, IgnoresANullBlock) { FreeBlock(nullptr); }
+
+TEST(LoadArena, HoldsBlocksOfAnySizeApart) {
+  const LoadArena arena;
+  Blocks().ExpectWhole();
+}
+
+TEST(LoadArena, PutsBlocksOneBehindTheOther) {
+  const LoadArena arena;
+  void* const first = AllocateBlock(40);
+  void* const second = AllocateBlock(8);
+  void* const third = AllocateBlock(1);
+  EXPECT_EQ(Distance(first, second), 48);
+  EXPECT_EQ(Distance(second, third), 16);
+  for (void* block : {first, second, third}) FreeBlock(block);
+}
+
+TEST(LoadArena, LeavesBlocksBehindThatOutliveIt) {
+  std::unique_ptr<Blocks> blocks;
+  {
+    const LoadArena arena;
+    blocks = std::make_unique<Blocks>();
+  }
+  blocks->ExpectWhole();
+}
+
+TEST(LoadArena, LeavesTheOuterOneAtWorkWhenItEnds) {
+  const LoadArena outer;
+  void* const first = AllocateBlock(8);
+  void* within = nullptr;
+  {
+    const LoadArena inner;
+    within = AllocateBlock(8);
+  }
+  void* const second = AllocateBlock(8);
+  EXPECT_EQ(Distance(first, second), 16);
+  for (void* block : {first, within, second}) FreeBlock(block);
+}
+
+TEST(LoadArena, IsOfItsThreadAlone) {
+  const LoadArena arena;
+  void* const first = AllocateBlock(8);
+  std::thread([] { FreeBlock(AllocateBlock(8)); }).join();
+  void* const second = AllocateBlock(8);
+  EXPECT_EQ(Distance(first, second), 16);
+  std::thread([&] {
+    FreeBlock(first);
+    FreeBlock(second);
+  }).join();
+}
+
+TEST(LoadArena, HoldsInstancesAndTheirAggregates) {
+  std::vector<std::unique_ptr<IfcUnknown>> instances;
+  {
+    const LoadArena arena;
+    for (int i = 0; i < 1000; ++i) {
+      instances.push_back(std::make_unique<IfcOther>());
+      instances.back()->Parse("IFCTHING((#1,#2),'text',IFCLABEL('label'))");
+    }
+  }
+  // Half of them grow and go while the others stay.
+  for (std::size_t i = 0; i < instances.size(); i += 2) instances[i].reset();
+  for (std::size_t i = 1; i < instances.size(); i += 2) {
+    EXPECT_STREQ(instances[i]->GetStepName(), instances[1]->GetStepName());
+  }
+}
+
+}  // namespace
+}  // namespace KelIFC

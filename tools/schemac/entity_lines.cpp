@@ -1,0 +1,294 @@
+#include "tools/schemac/entity_lines.h"
+
+#include <algorithm>
+#include <array>
+
+#include "tools/schemac/marks.h"
+
+namespace schemac {
+
+namespace {
+
+/// The word of a target that is not narrowed to a class.
+constexpr std::string_view kAnyType = "any";
+
+/// Reads one line and adds what it says to an entity.
+class EntityLine {
+ public:
+  EntityLine(const Line& line, TokenReader& in, Entity& entity)
+      : line(line), in(in), entity(entity), releases(entity.releases) {}
+
+  void Read() {
+    const Place place = in.Here();
+    if (const auto mark = ReadMark(in)) releases = *mark;
+    if (!entity.releases.Contains(releases)) {
+      throw DescriptionError(place, "a release that the entity does not have");
+    }
+    const auto* const directive =
+        std::find_if(kDirectives.begin(), kDirectives.end(),
+                     [this](const Directive& row) { return in.Take(row.word); });
+    if (directive == kDirectives.end()) {
+      ReadAttribute();
+      return;
+    }
+    (this->*directive->read)();
+    if (!in.AtEnd()) in.Fail("expected the end of the line");
+    if (!line.reason.empty()) entity.departures.push_back({line.reason, releases});
+  }
+
+ private:
+  /// A word that begins a line, and what reads the rest of the line.
+  struct Directive {
+    std::string_view word;
+    void (EntityLine::*read)();
+  };
+  static const std::array<Directive, 18> kDirectives;
+
+  struct Modifier {
+    std::string_view word;
+    void (EntityLine::*read)(Attribute&);
+  };
+  static const std::array<Modifier, 6> kModifiers;
+
+  void ReadBase() { entity.bases.push_back({in.Rest(), releases}); }
+  void ReadChain() { entity.chains.push_back({in.Name("a class"), releases}); }
+  void ReadMake() { entity.constructors.push_back(Marked{in.Rest(), releases, line.place}); }
+  void ReadDeparts() { entity.departures.push_back({in.Rest(), releases}); }
+
+  void ReadTell() {
+    const std::string operation = in.Name("an operation");
+    entity.comments[operation] = in.Rest();
+  }
+
+  Step NewStep(Step::Act act) {
+    Step step;
+    step.place = in.Here();
+    step.act = act;
+    step.releases = releases;
+    step.reason = line.reason;
+    return step;
+  }
+
+  void ReadDrop() { entity.steps.push_back(ReadDropped(in)); }
+
+  /// A kind and the literal that is written.
+  Step ReadDropped(TokenReader& from) {
+    Step step = NewStep(Step::Act::kDrop);
+    step.place = from.Here();
+    const std::string word = from.Word("a kind");
+    const KindInfo* kind = FindKind(word);
+    if (kind == nullptr || !kind->isDroppable) {
+      throw DescriptionError(step.place, "'" + word + "' cannot be read and dropped");
+    }
+    step.kind = kind->kind;
+    step.literal = from.Word("the literal that is written");
+    return step;
+  }
+
+  void ReadLiterals() {
+    while (!in.AtEnd()) {
+      Step step = NewStep(Step::Act::kLiteral);
+      step.literal = in.Word("a literal");
+      entity.steps.push_back(std::move(step));
+    }
+  }
+
+  void ReadRedeclared() { entity.steps.push_back(NewStep(Step::Act::kStar)); }
+
+  void ReadLink() {
+    Step step = NewStep(Step::Act::kLink);
+    step.name = in.Name("an attribute");
+    in.Expect("as");
+    step.target = in.Name("the class that is reached");
+    step.operation = in.Name("the operation that is called");
+    entity.steps.push_back(std::move(step));
+  }
+
+  void ReadOrder() { AddOrder(true, true); }
+  void ReadReads() { AddOrder(true, false); }
+  void ReadWrites() { AddOrder(false, true); }
+
+  void AddOrder(bool forReading, bool forWriting) {
+    RecordOrder order;
+    order.forReading = forReading;
+    order.forWriting = forWriting;
+    order.releases = releases;
+    while (!in.AtEnd()) order.steps.push_back(ReadOrderItem());
+    entity.orders.push_back(std::move(order));
+  }
+
+  /// An attribute, `*`, `kind>literal` or a literal.
+  Step ReadOrderItem() {
+    Step step = NewStep(Step::Act::kAttribute);
+    const std::string word = in.Word("an item");
+    const auto arrow = word.find('>');
+    const char first = word.front();
+    if (word == "*") {
+      step.act = Step::Act::kStar;
+    } else if (arrow != std::string::npos) {
+      Line dropped{step.place, true, word.substr(0, arrow) + " " + word.substr(arrow + 1), ""};
+      TokenReader parts(dropped);
+      step = ReadDropped(parts);
+    } else if (first == '$' || first == '.' || first == '(' || first == '\'') {
+      step.act = Step::Act::kLiteral;
+      step.literal = word;
+    } else {
+      step.name = word;
+    }
+    return step;
+  }
+
+  void ReadCustom() {
+    auto& custom = ReadsParse() ? entity.customParse : entity.customWrite;
+    custom.push_back({"", releases, line.place});
+  }
+
+  void ReadWithout() {
+    ReleaseSet& without = ReadsParse() ? entity.noParse : entity.noWrite;
+    without = without | releases;
+  }
+
+  /// Reads `Parse`, which gives true, or `Write`.
+  bool ReadsParse() {
+    if (in.Take("Parse")) return true;
+    if (!in.Take("Write")) in.Fail("expected 'Parse' or 'Write'");
+    return false;
+  }
+
+  /// Getters, then setters, of all attributes described so far.
+  void ReadAccessors() {
+    for (const std::string verb : {"Get", "Set"}) {
+      for (const auto& attribute : entity.attributes) {
+        Operation operation;
+        operation.place = attribute.place;
+        operation.name = verb + attribute.name;
+        operation.releases = attribute.releases;
+        entity.operations.push_back(std::move(operation));
+      }
+    }
+  }
+
+  void ReadOps() { AddOperations({}); }
+
+  void ReadPlain() {
+    Operation plain;
+    plain.isVirtual = false;
+    AddOperations(plain);
+  }
+
+  void ReadOverride() {
+    Operation override;
+    override.isOverride = true;
+    AddOperations(override);
+  }
+
+  void AddOperations(const Operation& pattern) {
+    do {
+      Operation operation = pattern;
+      const auto mark = ReadMark(in);
+      operation.releases = mark ? *mark : releases;
+      operation.place = in.Here();
+      operation.name = in.Name("an operation");
+      operation.bothForms = in.Take("~");
+      operation.isForward = in.Take("forward");
+      if (in.Take("=")) operation.attribute = in.Name("an attribute");
+      if (in.Take("(")) {
+        operation.hasSignature = true;
+        operation.parameters = in.Until(")");
+        in.Expect(")");
+      }
+      operation.isConst = in.Take("const");
+      if (in.Take(":")) {
+        operation.hasSignature = true;
+        operation.result = in.Until(",");
+      }
+      entity.operations.push_back(std::move(operation));
+    } while (in.Take(","));
+  }
+
+  void ReadAttribute() {
+    Attribute attribute;
+    attribute.place = in.Here();
+    attribute.releases = releases;
+    attribute.reason = line.reason;
+    attribute.name = in.Name("an attribute or a directive");
+    const Place place = in.Here();
+    const std::string word = in.Name("the kind of the attribute");
+    const KindInfo* kind = FindKind(word);
+    if (kind == nullptr) throw DescriptionError(place, "'" + word + "' is no kind");
+    attribute.kind = kind->kind;
+    attribute.inFile = kind->isInFile;
+    if (kind->takesName) attribute.type = in.Name("the class or enumeration");
+    if (attribute.type == kAnyType) attribute.type.clear();
+    while (!in.AtEnd()) ReadModifier(attribute);
+    if (attribute.inFile) {
+      Step step = NewStep(Step::Act::kAttribute);
+      step.place = attribute.place;
+      step.name = attribute.name;
+      entity.steps.push_back(std::move(step));
+    }
+    entity.attributes.push_back(std::move(attribute));
+  }
+
+  void ReadModifier(Attribute& attribute) {
+    for (const auto& modifier : kModifiers) {
+      if (!in.Take(modifier.word)) continue;
+      (this->*modifier.read)(attribute);
+      return;
+    }
+    in.Fail("expected '=', 'inverse', 'memory', 'ownerless', 'absent' or 'as'");
+  }
+
+  void ReadInitial(Attribute& attribute) { attribute.initial = in.Word("a row or a text"); }
+  void ReadInverse(Attribute& attribute) {
+    attribute.inFile = false;
+    attribute.isInverse = true;
+  }
+  void ReadMemory(Attribute& attribute) { attribute.inFile = false; }
+  void ReadOwnerless(Attribute& attribute) { attribute.isOwnerless = true; }
+  void ReadAbsent(Attribute& attribute) { attribute.absent = in.Word("a number"); }
+  void ReadAs(Attribute& attribute) { attribute.writtenAs = in.Word("a literal"); }
+
+  const Line& line;
+  TokenReader& in;
+  Entity& entity;
+  ReleaseSet releases;
+};
+
+const std::array<EntityLine::Directive, 18> EntityLine::kDirectives = {{
+    {"base", &EntityLine::ReadBase},
+    {"chain", &EntityLine::ReadChain},
+    {"make", &EntityLine::ReadMake},
+    {"departs", &EntityLine::ReadDeparts},
+    {"tell", &EntityLine::ReadTell},
+    {"drop", &EntityLine::ReadDrop},
+    {"literal", &EntityLine::ReadLiterals},
+    {"redeclared", &EntityLine::ReadRedeclared},
+    {"link", &EntityLine::ReadLink},
+    {"order", &EntityLine::ReadOrder},
+    {"reads", &EntityLine::ReadReads},
+    {"writes", &EntityLine::ReadWrites},
+    {"custom", &EntityLine::ReadCustom},
+    {"without", &EntityLine::ReadWithout},
+    {"accessors", &EntityLine::ReadAccessors},
+    {"ops", &EntityLine::ReadOps},
+    {"plain", &EntityLine::ReadPlain},
+    {"override", &EntityLine::ReadOverride},
+}};
+
+const std::array<EntityLine::Modifier, 6> EntityLine::kModifiers = {{
+    {"=", &EntityLine::ReadInitial},
+    {"inverse", &EntityLine::ReadInverse},
+    {"memory", &EntityLine::ReadMemory},
+    {"ownerless", &EntityLine::ReadOwnerless},
+    {"absent", &EntityLine::ReadAbsent},
+    {"as", &EntityLine::ReadAs},
+}};
+
+}  // namespace
+
+void ReadEntityLine(const Line& line, TokenReader& in, Entity& entity) {
+  EntityLine(line, in, entity).Read();
+}
+
+}  // namespace schemac

@@ -1,0 +1,236 @@
+#include "tools/schemac/kinds.h"
+
+#include <algorithm>
+#include <array>
+
+#include "tools/schemac/release_set.h"
+
+namespace schemac {
+
+constexpr GetterForm kPlainGetter = {"@stored@", "@Name@, unset if absent.", "return @member@;"};
+constexpr SetterForm kValueSetter = {"@stored@ value", "Sets @Name@.", "@member@ = value;"};
+
+namespace {
+
+constexpr GetterForm kEnumGetter = {"@stored@", "@Name@.", "return @member@;"};
+constexpr GetterForm kPointerGetter = {
+    .result = "@const@@target@*",
+    .doc = "@Name@; null if it is unset or does not lead to an instance of @target@.",
+    .body = "return InstanceOf<@target@>(@member@);",
+    .isPointer = true,
+    .usesInner = true};
+constexpr GetterForm kViewGetter = {
+    .result = "@view@<@const@@target@*>",
+    .doc = "The instances of @Name@, as many as it has members; null for one that is no @target@.",
+    .body = "return ViewOf<@result@>(@member@, *this);",
+    .isPointer = true};
+
+constexpr SetterForm kTextSetter = {"const char* text", "Sets @Name@; null makes it unset.",
+                                    "@member@ = text;"};
+constexpr SetterForm kBooleanSetter = {"bool value", "Sets @Name@.", "@member@ = BOOLEAN(value);"};
+/// For values that own memory: a copy costs an allocation.
+constexpr SetterForm kLargeSetter = {"const @stored@& value", "Sets @Name@.", "@member@ = value;"};
+constexpr SetterForm kReferenceSetter = {
+    "@const@@target@* item",
+    "Refers @Name@ to an instance of the model; null or one that the model does not hold makes it "
+    "unset.",
+    "@member@.SetReference(UnknownOf(item));"};
+constexpr SetterForm kInlineSetter = {
+    "@target@* item",
+    "Sets @Name@ to an inline value. A value that is registered in a model stays the model's; any "
+    "other value belongs to this instance. The value that was set before belongs to the caller "
+    "again.",
+    "@member@ = item;"};
+constexpr SetterForm kAggregateSetter = {
+    "const @view@<@target@*>& items", "Replaces @Name@; what the model does not hold is left out.",
+    "ReplaceMembers(@member@, items, *this);"};
+
+constexpr std::string_view kEnumerated = "Enumerated(@member@, @table@@missing@)";
+constexpr std::string_view kOwnedMember = "{this}";
+
+constexpr SampleTexts kTextSample = {"'text @n@'"};
+constexpr SampleTexts kNumberSample = {"@n@.5"};
+constexpr SampleTexts kEnumTextSample = {".SAMPLE."};
+constexpr SampleTexts kId64Sample = {"'0123456789ABCDEFGHIJ_$'", "", "'0123456789ABCDEFGHIJ_$'",
+                                     "'0123456789ABCDEFGHIJ_$'"};
+constexpr SampleTexts kId85Sample = {"'0123456789ABCDEFGHIJ'", "", "'0123456789ABCDEFGHIJ'",
+                                     "'0123456789ABCDEFGHIJ'"};
+
+constexpr std::array kKinds = {
+    KindInfo{.kind = Kind::kString,
+             .word = "string",
+             .type = "STRING",
+             .bare = "const std::string& text",
+             .setter = &kTextSetter,
+             .sample = kTextSample},
+    KindInfo{.kind = Kind::kLabel,
+             .word = "label",
+             .type = "STRING",
+             .labelled = "IfcLabel",
+             .setter = &kTextSetter,
+             .sample = kTextSample},
+    KindInfo{.kind = Kind::kIdentifier,
+             .word = "identifier",
+             .type = "STRING",
+             .labelled = "IfcIdentifier",
+             .setter = &kTextSetter,
+             .sample = kTextSample},
+    KindInfo{.kind = Kind::kReal,
+             .word = "real",
+             .type = "REAL",
+             .bare = "double value",
+             .sample = kNumberSample},
+    KindInfo{.kind = Kind::kInteger,
+             .word = "integer",
+             .type = "INTEGER",
+             .bare = "int value",
+             .sample = {"@n@"}},
+    KindInfo{.kind = Kind::kBoolean,
+             .word = "boolean",
+             .type = "BOOLEAN",
+             .bare = "bool value",
+             .setter = &kBooleanSetter,
+             .sample = {".T."}},
+    KindInfo{.kind = Kind::kLogical, .word = "logical", .type = "LOGICAL", .sample = {".U."}},
+    KindInfo{.kind = Kind::kMeasure,
+             .word = "measure",
+             .type = "IfcLengthMeasure",
+             .sample = kNumberSample},
+    KindInfo{.kind = Kind::kScientific,
+             .word = "scientific",
+             .type = "REAL",
+             .writer = "Scientific(@member@)",
+             .sample = {"0.0012", "1.2E-03", "$", "0.0E+00"}},
+    KindInfo{.kind = Kind::kCoordinates,
+             .word = "coordinates",
+             .type = "COORDINATES",
+             .setter = &kLargeSetter,
+             .sample = {"(1.,2.5)", "", "$", "()"}},
+    KindInfo{.kind = Kind::kAngle,
+             .word = "angle",
+             .type = "IfcCompoundPlaneAngleMeasure",
+             .setter = &kLargeSetter,
+             .sample = {"(49,6,-12)", "(49, 6, -12)"}},
+    KindInfo{.kind = Kind::kFlags, .word = "flags", .type = "BINARY<2>", .sample = {R"(\"10\")"}},
+    KindInfo{.kind = Kind::kIntegers, .word = "integers", .type = "LIST<INTEGER>", .sample = {"$"}},
+    KindInfo{.kind = Kind::kEnumText,
+             .word = "enumtext",
+             .type = "ENUM",
+             .writer = "EnumeratedText(@member@)",
+             .setter = &kLargeSetter,
+             .sample = kEnumTextSample},
+    KindInfo{.kind = Kind::kOpenEnum,
+             .word = "openenum",
+             .type = "ENUM",
+             .takesName = true,
+             .namesEnumeration = true,
+             .holdsNamedType = true,
+             .writer = "EnumeratedText(@member@)",
+             .setter = &kLargeSetter,
+             .sample = kEnumTextSample},
+    KindInfo{.kind = Kind::kLabels,
+             .word = "labels",
+             .type = "LIST<STRING>",
+             .labelled = "LIST<IfcLabel>",
+             .isDroppable = false,
+             .reader = "Texts(@member@)",
+             .setter = &kLargeSetter,
+             .sample = {"('a,b','c)')", "('a,b', 'c)')"}},
+    KindInfo{.kind = Kind::kReference,
+             .word = "ref",
+             .type = "MEMBER",
+             .takesName = true,
+             .initializer = kOwnedMember,
+             .getter = &kPointerGetter,
+             .setter = &kReferenceSetter,
+             .sample = {"#90@n@"}},
+    KindInfo{.kind = Kind::kSet,
+             .word = "set",
+             .type = "SET_OF_MEMBERS",
+             .takesName = true,
+             .initializer = kOwnedMember,
+             .view = "SET",
+             .getter = &kViewGetter,
+             .setter = &kAggregateSetter,
+             .sample = {"(#90@n@,#91@n@)", "(#90@n@, #91@n@)", "$", "()"}},
+    KindInfo{.kind = Kind::kList,
+             .word = "list",
+             .type = "LIST_OF_MEMBERS",
+             .takesName = true,
+             .initializer = kOwnedMember,
+             .view = "LIST",
+             .getter = &kViewGetter,
+             .setter = &kAggregateSetter,
+             .sample = {"(#90@n@,#91@n@)", "(#90@n@, #91@n@)"}},
+    KindInfo{.kind = Kind::kEnum,
+             .word = "enum",
+             .type = "ENUM",
+             .takesName = true,
+             .namesEnumeration = true,
+             .holdsNamedType = true,
+             .reader = kEnumerated,
+             .writer = kEnumerated,
+             .initializer = " = @start@",
+             .getter = &kEnumGetter,
+             .sample = {".@row@.", "", "$", "@emptied@"}},
+    KindInfo{.kind = Kind::kValue,
+             .word = "value",
+             .type = "MEMBER",
+             .isDroppable = false,
+             .reader = "ValueInPlace(@member@, *this)",
+             .writer = "ValueInPlace(@member@, *this)",
+             .initializer = kOwnedMember,
+             .target = "IfcValue",
+             .getter = &kPointerGetter,
+             .setter = &kInlineSetter,
+             .sample = {"IFCLENGTHMEASURE(@n@.5)"}},
+    KindInfo{.kind = Kind::kGlobalId64,
+             .word = "guid64",
+             .type = "STRING",
+             .isDroppable = false,
+             .reader = "GlobalId64(@member@)",
+             .writer = "GlobalId64(@member@)",
+             .setter = &kTextSetter,
+             .sample = kId64Sample},
+    KindInfo{.kind = Kind::kGlobalId85,
+             .word = "guid85",
+             .type = "STRING",
+             .isDroppable = false,
+             .writer = "GlobalId85(@member@)",
+             .setter = &kTextSetter,
+             .sample = kId85Sample},
+    KindInfo{.kind = Kind::kInstance,
+             .word = "cache",
+             .takesName = true,
+             .holdsNamedType = true,
+             .isDroppable = false,
+             .isInFile = false,
+             .initializer = "{}",
+             .sample = {"$"}},
+};
+
+/// InfoOf takes the row at the place of the kind.
+constexpr bool IsInOrder() {
+  for (std::size_t i = 0; i < kKinds.size(); ++i) {
+    if (static_cast<std::size_t>(kKinds[i].kind) != i) return false;
+  }
+  return true;
+}
+static_assert(IsInOrder());
+
+}  // namespace
+
+const KindInfo& InfoOf(Kind kind) { return kKinds[static_cast<std::size_t>(kind)]; }
+
+const KindInfo* FindKind(std::string_view word) {
+  const auto* const row = std::find_if(kKinds.begin(), kKinds.end(),
+                                       [&](const KindInfo& info) { return info.word == word; });
+  return row == kKinds.end() ? nullptr : row;
+}
+
+std::string_view ValueType(const KindInfo& info, std::size_t release) {
+  const bool isLabelled = release >= kFirstWithLabels && !info.labelled.empty();
+  return isLabelled ? info.labelled : info.type;
+}
+
+}  // namespace schemac

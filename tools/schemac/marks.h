@@ -1,0 +1,25 @@
+#ifndef KELIFC_TOOLS_SCHEMAC_MARKS_H_
+#define KELIFC_TOOLS_SCHEMAC_MARKS_H_
+
+#include <optional>
+
+#include "tools/schemac/release_set.h"
+#include "tools/schemac/token_reader.h"
+
+namespace schemac {
+
+// How a line names releases. Each function throws DescriptionError for a text that names none.
+
+/// Reads releases: `2x..`.
+ReleaseSet ReadReleases(TokenReader& in);
+
+/// Reads a mark in brackets, `[2x..]`, if one comes next.
+std::optional<ReleaseSet> ReadMark(TokenReader& in);
+
+/// Reads the releases that follow a flag. Without any the flag holds for all of `whole`. A release
+/// outside of `whole` is refused.
+ReleaseSet ReadFlagReleases(TokenReader& in, ReleaseSet whole);
+
+}  // namespace schemac
+
+#endif  // KELIFC_TOOLS_SCHEMAC_MARKS_H_
