@@ -12,8 +12,8 @@ namespace KelIFC {
 struct FoundReference {
   const char* at = nullptr;   ///< its `#`
   std::size_t number = 0;     ///< that it refers to
-  std::size_t attribute = 0;  ///< the position of the attribute that holds it, from 1; 0 if there is
-                              ///< none because the instance is of several types
+  std::size_t attribute = 0;  ///< the position of the attribute that holds it, from 1; 0 if there
+                              ///< is none because the instance is of several types
 };
 
 /// Finds the references in the text of a statement: the `#` and digits outside strings.

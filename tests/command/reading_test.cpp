@@ -110,8 +110,10 @@ TEST_F(Reading, AFileBeyondTheLimitIsRefused) {
 TEST_F(Reading, TheOtherOptionsDoNotChangeTheOutput) {
   const std::string model = Model("IFC2X3", kData);
   const Outcome plain = Kelifc({"info", "--json", model});
-  for (const auto& options : {std::vector<std::string>{"--quiet"}, {"--no-progress"},
-                              {"--threads", "3"}, {"--dialect", "classic"}}) {
+  for (const auto& options : {std::vector<std::string>{"--quiet"},
+                              {"--no-progress"},
+                              {"--threads", "3"},
+                              {"--dialect", "classic"}}) {
     std::vector<std::string> arguments = {"info", "--json", model};
     arguments.insert(arguments.end(), options.begin(), options.end());
     const Outcome run = Kelifc(arguments);

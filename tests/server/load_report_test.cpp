@@ -61,9 +61,9 @@ TEST_P(LoadReportInDialect, CountsStatementsNumbersAndInstances) {
 }
 
 TEST_P(LoadReportInDialect, CountsTheInstancesThatClassesAdd) {
-  const Loaded model(ModelOf("IFC2X3",
-                             "#1=IFCCARTESIANPOINT((0.,0.));\n#2=IFCAXIS2PLACEMENT2D(#1,$);\n"),
-                     GetParam());
+  const Loaded model(
+      ModelOf("IFC2X3", "#1=IFCCARTESIANPOINT((0.,0.));\n#2=IFCAXIS2PLACEMENT2D(#1,$);\n"),
+      GetParam());
   ASSERT_EQ(model.result, 0);
   EXPECT_EQ(model.Report().statements, 2U);
   EXPECT_EQ(model.Report().made, 2U);
@@ -100,9 +100,10 @@ TEST_P(LoadReportInDialect, FindsReferencesToNumbersWithoutAStatement) {
     EXPECT_EQ(findings.GetCount(LoadFinding::kDanglingReference), 3U);
     EXPECT_THAT(findings.GetPlaces(LoadFinding::kDanglingReference),
                 ElementsAre(SourcePlace{2, 21}, SourcePlace{3, 3}, SourcePlace{5, 31}));
-    EXPECT_THAT(findings.GetSubjects(LoadFinding::kDanglingReference),
-                ElementsAre(FindingSubject{1, "IFCPOLYLINE", 1}, FindingSubject{1, "IFCPOLYLINE", 1},
-                            FindingSubject{5, "IFCNOTHING", 3}));
+    EXPECT_THAT(
+        findings.GetSubjects(LoadFinding::kDanglingReference),
+        ElementsAre(FindingSubject{1, "IFCPOLYLINE", 1}, FindingSubject{1, "IFCPOLYLINE", 1},
+                    FindingSubject{5, "IFCNOTHING", 3}));
     ASSERT_EQ(model.Report().danglingByAttribute.size(), 2U);
     EXPECT_EQ(model.Report().danglingByAttribute.at({"IFCPOLYLINE", 1}), 2U);
     EXPECT_EQ(model.Report().danglingByAttribute.at({"IFCNOTHING", 3}), 1U);
@@ -113,8 +114,9 @@ TEST_P(LoadReportInDialect, ReferencesToLaterAndToDroppedStatementsAreNotDanglin
   LoadOptions options;
   options.dialect = GetParam();
   options.keepUnknown = false;
-  const std::string text = ModelOf("IFC2X_FINAL", "#1=IFCPOLYLINE((#2,#3));\n#2=IFCNOTHING();\n"
-                                                  "#3=IFCCARTESIANPOINT((0.));\n");
+  const std::string text = ModelOf("IFC2X_FINAL",
+                                   "#1=IFCPOLYLINE((#2,#3));\n#2=IFCNOTHING();\n"
+                                   "#3=IFCCARTESIANPOINT((0.));\n");
   IfcServer server;
   ASSERT_EQ(server.LoadIfcMemory(text.data(), text.size(), options), 0);
   ASSERT_TRUE(server.CheckModel());
@@ -125,9 +127,10 @@ TEST_P(LoadReportInDialect, CountsWhatIsDroppedByItsEntity) {
   LoadOptions options;
   options.dialect = GetParam();
   options.keepUnknown = false;
-  const std::string text = ModelOf(
-      "IFC2X_FINAL", "#1=IFCFOO(1);\n#2=IFCFOO(1);\n#2=IFCBAR ();\n#3=IFCBAZ();\n#4=IFCBAR();\n"
-                     "#3=IFCDIRECTION((1.));\n");
+  const std::string text =
+      ModelOf("IFC2X_FINAL",
+              "#1=IFCFOO(1);\n#2=IFCFOO(1);\n#2=IFCBAR ();\n#3=IFCBAZ();\n#4=IFCBAR();\n"
+              "#3=IFCDIRECTION((1.));\n");
   IfcServer server;
   ASSERT_EQ(server.LoadIfcMemory(text.data(), text.size(), options), 0);
   const LoadReport& report = server.GetLoadReport();

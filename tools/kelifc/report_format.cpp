@@ -31,7 +31,7 @@ constexpr std::array<KindName, KelIFC::kLoadFindingKinds> kKinds = {{
 struct Count {
   const char* name;   ///< in the JSON
   const char* title;  ///< in the table
-  std::uint64_t LoadReport::* value;
+  std::uint64_t LoadReport::*value;
 };
 constexpr std::array<Count, 6> kCounts = {{
     {"statements", "Numbered statements", &LoadReport::statements},
@@ -63,9 +63,8 @@ Json FindingsJson(const LoadReport& report, LoadFinding kind) {
 Json DanglingJson(const LoadReport& report) {
   Json list = Json::array();
   for (const auto& [at, count] : report.danglingByAttribute) {
-    list.push_back({{"entity", Utf8FromLatin1(at.entity)},
-                    {"attribute", at.attribute},
-                    {"count", count}});
+    list.push_back(
+        {{"entity", Utf8FromLatin1(at.entity)}, {"attribute", at.attribute}, {"count", count}});
   }
   return list;
 }
@@ -108,7 +107,8 @@ Json ReportJson(const LoadReport& report) {
 
 std::string ReportText(const LoadReport& report) {
   TextTable table({"Report", "count"}, {false, true});
-  for (const auto& [name, title, value] : kCounts) table.Add({title, std::to_string(report.*value)});
+  for (const auto& [name, title, value] : kCounts)
+    table.Add({title, std::to_string(report.*value)});
   std::string text = "\n" + table.ToText();
   if (!report.droppedByEntity.empty()) {
     TextTable dropped({"Left out", "count"}, {false, true});
