@@ -37,6 +37,7 @@ set(kelifc_public_headers
   kelifc/core/unknown.h
   kelifc/core/value.h
   kelifc/core/value_member.h
+  kelifc/geo/section_kind.h
   kelifc/geo/storey_number.h
   kelifc/geometry/brep.h
   kelifc/geometry/constants.h
@@ -54,6 +55,7 @@ set(kelifc_public_headers
   kelifc/object_model.h
   kelifc/platform/com.h
   kelifc/platform/com_bstr.h
+  kelifc/platform/com_entry_points.h
   kelifc/platform/com_error.h
   kelifc/platform/com_factory.h
   kelifc/platform/com_guid.h

@@ -261,6 +261,8 @@ class KELIFC_API IfcServer {
 
  private:
   friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
+  template <class AnyScanner>
+  friend void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass);
   friend std::int16_t RegisterStatement(IfcServer* server, char* statement);
   friend std::int16_t ParseStatement(IfcServer* server, char* statement);
 
@@ -310,8 +312,6 @@ class KELIFC_API IfcServer {
   bool GoesOn();
   bool ReportProgress(std::uint64_t bytesRead);
   bool IsWithinMemory() const;
-  template <class AnyScanner>
-  void ScanStatements(AnyScanner& scanner, bool firstPass);
   std::int16_t ReadHeaderStatement(char* statement);
   IFC_RELEASE ReadSchema(const char* statement);
   IFC_RELEASE ReadIsoSchema(const char* statement);

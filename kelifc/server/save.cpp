@@ -40,7 +40,7 @@ void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view 
          "FILE_NAME('"
       << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'KelIFC v. "
       << kReportedVersion
-      << "','','','');\n"
+      << "','','');\n"
          "FILE_SCHEMA(('"
       << schema
       << "'));\n"

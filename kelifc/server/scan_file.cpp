@@ -37,24 +37,10 @@ class EscapeNotes : public BadEscapeSink {
 
 }  // namespace
 
-void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
-  IfcServer::LoadState& load = server->load;
-  if (load.dialect == STEP_DIALECT_CLASSIC) {
-    Scanner scanner(in);
-    server->ScanStatements(scanner, firstPass);
-    return;
-  }
-  IsoScanner scanner(in);
-  EscapeNotes notes(scanner, load.findings, load.statementNumber);
-  IsoStatementReader reader(&notes);
-  load.reader = &reader;
-  if (firstPass) scanner.SetFindings(load.findings);
-  server->ScanStatements(scanner, firstPass);
-  load.reader = nullptr;
-}
-
+// Hands the statements of a file to the pass, until the file, the pass or a limit ends it.
 template <class AnyScanner>
-void IfcServer::ScanStatements(AnyScanner& scanner, bool firstPass) {
+void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {
+  IfcServer::LoadState& load = server.load;
   const auto handle = firstPass ? RegisterStatement : ParseStatement;
   const auto longest =
       static_cast<std::size_t>(std::min<std::uint64_t>(load.limits.maxStatementBytes, SIZE_MAX));
@@ -62,13 +48,29 @@ void IfcServer::ScanStatements(AnyScanner& scanner, bool firstPass) {
   scanner.SetLimit(firstPass ? kHeadLimit : longest);
   while (char* statement = scanner.Next()) {
     scanner.SetLimit(longest);
-    if (load.isUnordered) idToIndex.PrefetchNumber(scanner.PeekNumber());
+    if (load.isUnordered) server.idToIndex.PrefetchNumber(scanner.PeekNumber());
     load.isBeyondLimit = longest != 0 && scanner.GetLength() > longest;
-    if (load.isBeyondLimit || handle(this, statement) != 0) return;
+    if (load.isBeyondLimit || handle(&server, statement) != 0) return;
     if (!firstPass) load.statementBytes += scanner.GetLength();
-    if (!GoesOn()) return;
+    if (!server.GoesOn()) return;
   }
-  load.isBeyondLimit = (scanner.IsBeyondLimit() && headerSeen) || !IsWithinMemory();
+  load.isBeyondLimit = (scanner.IsBeyondLimit() && server.headerSeen) || !server.IsWithinMemory();
+}
+
+void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
+  IfcServer::LoadState& load = server->load;
+  if (load.dialect == STEP_DIALECT_CLASSIC) {
+    Scanner scanner(in);
+    ScanStatements(*server, scanner, firstPass);
+    return;
+  }
+  IsoScanner scanner(in);
+  EscapeNotes notes(scanner, load.findings, load.statementNumber);
+  IsoStatementReader reader(&notes);
+  load.reader = &reader;
+  if (firstPass) scanner.SetFindings(load.findings);
+  ScanStatements(*server, scanner, firstPass);
+  load.reader = nullptr;
 }
 
 }  // namespace KelIFC
