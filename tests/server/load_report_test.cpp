@@ -99,7 +99,7 @@ TEST_P(LoadReportInDialect, FindsReferencesToNumbersWithoutAStatement) {
     const LoadFindings& findings = model.Report().findings;
     EXPECT_EQ(findings.GetCount(LoadFinding::kDanglingReference), 3U);
     EXPECT_THAT(findings.GetPlaces(LoadFinding::kDanglingReference),
-                ElementsAre(SourcePlace{2, 21}, SourcePlace{3, 3}, SourcePlace{5, 31}));
+                ElementsAre(SourcePlace{2, 20}, SourcePlace{3, 3}, SourcePlace{5, 32}));
     EXPECT_THAT(
         findings.GetSubjects(LoadFinding::kDanglingReference),
         ElementsAre(FindingSubject{1, "IFCPOLYLINE", 1}, FindingSubject{1, "IFCPOLYLINE", 1},
