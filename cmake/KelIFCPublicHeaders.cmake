@@ -38,6 +38,7 @@ set(kelifc_public_headers
   kelifc/core/unknown.h
   kelifc/core/value.h
   kelifc/core/value_member.h
+  kelifc/geo/section_kind.h
   kelifc/geo/storey_number.h
   kelifc/geometry/brep.h
   kelifc/geometry/constants.h
@@ -55,6 +56,7 @@ set(kelifc_public_headers
   kelifc/object_model.h
   kelifc/platform/com.h
   kelifc/platform/com_bstr.h
+  kelifc/platform/com_entry_points.h
   kelifc/platform/com_error.h
   kelifc/platform/com_factory.h
   kelifc/platform/com_guid.h
@@ -75,8 +77,11 @@ set(kelifc_public_headers
   kelifc/server/ifc_server.h
   kelifc/server/load_findings.h
   kelifc/server/load_options.h
+  kelifc/server/load_report.h
   kelifc/server/load_result.h
-  kelifc/server/release.h)
+  kelifc/server/release.h
+  kelifc/server/save_options.h
+  kelifc/server/statement_place.h)
 
 # The headers that the generators write, below PROJECT_BINARY_DIR/generated. The folders that run a
 # generator add the full paths to the property.

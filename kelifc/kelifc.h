@@ -34,6 +34,7 @@
 #include "kelifc/core/value.h"
 #include "kelifc/core/value_member.h"
 #include "kelifc/geo/interfaces.h"
+#include "kelifc/geo/section_kind.h"
 #include "kelifc/geometry/brep.h"
 #include "kelifc/geometry/regular_figure.h"
 #include "kelifc/geometry/set_carver.h"

@@ -30,7 +30,7 @@ class KELIFC_API IfcValue : public IfcUnknown {
 
 /// True for a value of a defined type, which a file writes with the name of its type and which has
 /// no number of its own. False for null.
-bool IsTypedValue(const IfcUnknown* instance);
+KELIFC_API bool IsTypedValue(const IfcUnknown* instance);
 
 }  // namespace KelIFC
 

@@ -8,18 +8,9 @@
 
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/fields.h"
+#include "kelifc/geo/section_kind.h"
 
 namespace KelIFC {
-
-/// The kind of a section, as get_Kind returns it. A new object has the kind SECTION_NONE.
-enum SectionKind : LONG {
-  SECTION_NONE = 0,
-  SECTION_R = 1,        ///< a rectangle
-  SECTION_C = 2,        ///< a circle
-  SECTION_T = 3,        ///< a T with the flange on top
-  SECTION_PROFILE = 8,  ///< a polygon, of which only the name is known
-  SECTION_THICK = 9,    ///< a thickness
-};
 
 /// The fields of every section. They are copies, without a connection to the model.
 struct CoGeoSection {

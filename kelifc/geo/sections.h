@@ -44,7 +44,7 @@ class CoGeoSections : public ItemList<CoGeoSectionsBase, IGeoSection> {
   HRESULT GiveByName(BSTR name, IGeoSection** out) const;
 
   /// Adds new sections to the index, up to the first that fails to return its kind. After a change
-  /// of a size the index is built anew.
+  /// of a size the index is built again.
   HRESULT IndexNew();
 
   SizeChanges changes = std::make_shared<std::uint64_t>(0);

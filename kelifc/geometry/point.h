@@ -6,7 +6,7 @@
 namespace KelIFC {
 
 // Points and displacements, in the plane and in space, with their arithmetic. A new one is zero. No
-// operation checks its arguments: infinite and undefined coordinates give such results.
+// operation checks its arguments: a coordinate that is not finite makes the result not finite.
 
 /// A displacement in the plane.
 struct Vector2 {

@@ -1,9 +1,11 @@
 #include "kelifc/geometry/rotation2.h"
 
+#include <numbers>
+
 namespace KelIFC {
 
 double DirectionAngle(double x, double y) {
-  constexpr double kHalfPi = 1.57079632679489661923;
+  constexpr double kHalfPi = std::numbers::pi / 2;
   if (x == 0.0) {
     if (y == 0.0) return 0.0;
     return y < 0.0 ? -kHalfPi : kHalfPi;

@@ -1,9 +1,10 @@
 #ifndef KELIFC_PLATFORM_COM_H_
 #define KELIFC_PLATFORM_COM_H_
 
-// All that a host of the object model needs beside its interfaces: the types of the Component
-// Object Model (COM), automation strings, variants, the error object, the creation of objects and a
-// smart pointer. Off Windows this folder declares what the headers of Windows declare there.
+// All that a host of the object model needs in addition to its interfaces: the types of the
+// Component Object Model (COM), automation strings, variants, the error object, the creation of
+// objects and a smart pointer. Off Windows this folder declares what the headers of Windows declare
+// there.
 
 #include "kelifc/platform/com_bstr.h"
 #include "kelifc/platform/com_entry_points.h"

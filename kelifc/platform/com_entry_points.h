@@ -13,9 +13,9 @@
 // Windows the headers of the system declare them. There the library also has DllRegisterServer and
 // DllUnregisterServer, which `regsvr32` calls.
 
-/// Returns the class object of a class of this library through its interface `iid`. The caller
-/// releases it. An unknown class gives CLASS_E_CLASSNOTAVAILABLE and a null `out`; a null `out`
-/// argument gives E_POINTER.
+/// Stores a counted pointer to the interface `iid` of a class object of the library. Returns
+/// CLASS_E_CLASSNOTAVAILABLE and stores null if no class has the identifier. Returns E_POINTER if
+/// `out` is null.
 extern "C" KELIFC_API HRESULT DllGetClassObject(const CLSID& clsid, const IID& iid, void** out);
 
 /// Returns S_OK if the library can be unloaded: none of its objects is alive and no host has locked

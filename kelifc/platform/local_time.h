@@ -14,7 +14,7 @@ struct LocalTime {
   int second = 0;  ///< 60 in a leap second
 };
 
-/// Returns the current local time, or 1970-01-01T00:00:00 if the system cannot tell it.
+/// Returns the current local time, or 1970-01-01T00:00:00 if the system does not know it.
 LocalTime GetLocalTimeNow();
 
 }  // namespace KelIFC

@@ -64,6 +64,8 @@ void IfcServer::Reset() {
   instanceIndex.Clear();  // a destructor may have asked for it
   guidIndex.clear();
   productPositions = {};
+  places = {};
+  source.reset();
   slotsWithoutGuid = 0;
   mayRepeat = false;
   dialect = STEP_DIALECT_CLASSIC;
@@ -194,6 +196,11 @@ void IfcServer::BuildGuidIndex() {
   }
   guidIndex.swap(made);
   if (guidIndex.empty()) slotsWithoutGuid = items.size();
+}
+
+StatementPlace IfcServer::GetStatementPlace(std::size_t number) const {
+  const std::uint32_t position = idToIndex.Find(number);  // kNone is beyond all places
+  return position < places.size() ? places[position] : StatementPlace();
 }
 
 std::size_t IfcServer::GetNextNumber(std::size_t number) const { return idToIndex.GetNext(number); }

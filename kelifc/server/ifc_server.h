@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -19,8 +20,11 @@
 #include "kelifc/server/detail/project_classes.h"
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/load_options.h"
+#include "kelifc/server/load_report.h"
 #include "kelifc/server/load_result.h"
 #include "kelifc/server/release.h"
+#include "kelifc/server/save_options.h"
+#include "kelifc/server/statement_place.h"
 
 namespace KelIFC {
 
@@ -29,6 +33,7 @@ class IfcUnknown;
 class IsoStatementReader;
 class LoadArena;
 class ModelSource;
+class ReportCollector;
 class ScanBuffer;
 class StepFileSchema;
 
@@ -199,8 +204,16 @@ class KELIFC_API IfcServer {
   int LoadIfcStream(std::istream& in, const LoadOptions& options);
 
   /// The same for `size` bytes of memory, which are not copied. They must not change during the
-  /// load, and are not needed after it.
+  /// load. After it they are needed only by operations that read the source again; a host that
+  /// calls one keeps them until then.
   int LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options);
+
+  /// Writes all numbered instances to a STEP file, as SaveIfcFile does it, and returns a
+  /// SAVE_RESULT. What differs:
+  ///  - The file is written beside `path` and replaces it at the end, as FileReplacement defines. A
+  ///    failure at any time leaves the old file as it was.
+  ///  - Every failure has a result other than 0. The error handler receives one message.
+  int SaveIfc(const char* path, const SaveOptions& options);
 
   /// The dialect that the model was loaded in, and in which it is saved. STEP_DIALECT_CLASSIC after
   /// Reset and after a load that failed. In the dialect of ISO 10303-21 the texts of attributes are
@@ -209,7 +222,31 @@ class KELIFC_API IfcServer {
 
   /// What LoadIfc, LoadIfcStream or LoadIfcMemory found wrong in the file that was loaded last.
   /// LoadIfcFile leaves it empty.
-  const LoadFindings& GetLoadFindings() const { return findings; }
+  const LoadFindings& GetLoadFindings() const { return report.findings; }
+
+  /// What LoadIfc, LoadIfcStream or LoadIfcMemory met in the file that was loaded last. LoadIfcFile
+  /// leaves it empty. Of a load that failed it has what was counted up to the failure.
+  const LoadReport& GetLoadReport() const { return report; }
+
+  /// Adds to the report what a load does not look for: references to numbers that no statement has.
+  /// It reads the source twice, in linear time, and takes 4 bytes of memory for each number.
+  /// Returns false, and leaves the report as it was, if no model was loaded with options or if the
+  /// source cannot be read. The second call for a model has nothing to do. Throws std::bad_alloc
+  /// where memory is lacking; the report is then what it was.
+  bool CheckModel();
+
+  /// Where the source has the statement of an instance: all 0 for a number that no statement has,
+  /// and for models that LoadIfcFile loaded. Of statements with the same number the last one
+  /// counts. Constant time.
+  StatementPlace GetStatementPlace(std::size_t number) const;
+
+  /// The line of that place, from 1; 0 for none.
+  std::uint32_t GetSourceLine(std::size_t number) const { return GetStatementPlace(number).line; }
+
+  /// True if a number is in use, by an empty slot too.
+  bool HasNumber(std::size_t number) const {
+    return idToIndex.Find(number) != detail::NumberIndex::kNone;
+  }
 
   /// How many numbers are in use, those of empty slots included.
   std::size_t GetNumberCount() const { return idToIndex.GetCount(); }
@@ -233,6 +270,8 @@ class KELIFC_API IfcServer {
 
  private:
   friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
+  template <class AnyScanner>
+  friend void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass);
   friend std::int16_t RegisterStatement(IfcServer* server, char* statement);
   friend std::int16_t ParseStatement(IfcServer* server, char* statement);
 
@@ -240,8 +279,9 @@ class KELIFC_API IfcServer {
   struct LoadState {
     STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
     LoadLimits limits = {0, 0, 0, 0};
-    LoadFindings* findings = nullptr;  // null if nothing is noted
-    bool keepsUnknown = false;         // as IfcOther, where the release has no class
+    LoadFindings* findings = nullptr;      // null if nothing is noted
+    ReportCollector* collector = nullptr;  // null if nothing is counted
+    bool keepsUnknown = false;             // as IfcOther, where the release has no class
 
     bool isRunning = false;
     bool isStopped = false;                // by the progress handler
@@ -255,6 +295,7 @@ class KELIFC_API IfcServer {
     std::unordered_map<std::size_t, std::size_t> repeats;
     const IfcUnknown* parsed = nullptr;  // the instance whose statement is being read,
     std::size_t parsedNumber = 0;        // and its number
+    std::size_t statementNumber = 0;     // of the statement that is being read, for the report
     bool isUnordered = false;            // the last number was far from the one ahead of it
     std::size_t lastNumber = 0;
     std::uint64_t highestNumber = 0;    // of all statements so far, those left out included
@@ -272,16 +313,14 @@ class KELIFC_API IfcServer {
   void BuildGuidIndex();
   void DropRepeatedSlots();
 
-  int LoadWithOptions(const ModelSource& source, const LoadOptions& options);
-  int LoadFrom(const ModelSource& source, const LoadState& initial);
-  int LoadPasses(const ModelSource& source);
+  int LoadWithOptions(std::shared_ptr<const ModelSource> model, const LoadOptions& options);
+  int LoadFrom(const ModelSource& model, const LoadState& initial);
+  int LoadPasses(const ModelSource& model);
   void ForgetLoad();
   void MakeRoom(std::uint64_t fileSize);
   bool GoesOn();
   bool ReportProgress(std::uint64_t bytesRead);
   bool IsWithinMemory() const;
-  template <class AnyScanner>
-  void ScanStatements(AnyScanner& scanner, bool firstPass);
   std::int16_t ReadHeaderStatement(char* statement);
   IFC_RELEASE ReadSchema(const char* statement);
   IFC_RELEASE ReadIsoSchema(const char* statement);
@@ -290,10 +329,14 @@ class KELIFC_API IfcServer {
   IfcUnknown* MakeStated(const char* text);
   IfcUnknown* MakeRaw(const char* text);
   void NoteRepeat(std::size_t id);
+  void NotePlace(std::size_t id);
+  void NoteStatement(std::size_t id, const IfcUnknown* made, const char* text);
   bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
 
+  int SaveModel(const char* path, std::string_view schema, std::string& reason);
+  void WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema);
   void WriteInstances(std::ostream& out);
   void WriteInstance(std::ostream& out, std::uint64_t number);
   int TellError(const std::string& message) const;  // gives the code of a failed save
@@ -315,7 +358,9 @@ class KELIFC_API IfcServer {
   std::size_t slotsWithoutGuid = 0;  // so many slots were seen to hold no global identifier
   std::string fileSchema;
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
-  LoadFindings findings;
+  LoadReport report;
+  std::shared_ptr<const ModelSource> source;  // of the last LoadIfc; null if there is none
+  std::vector<StatementPlace> places;         // by position in `items`; shorter than that
   LoadState load;
   ProgressHandler progressHandler;
   ErrorHandler errorHandler;

@@ -1,6 +1,8 @@
 #include <algorithm>
 #include <cstdint>
+#include <memory>
 #include <optional>
+#include <utility>
 
 #include "kelifc/core/memory/load_arena.h"
 #include "kelifc/core/step_file_schema.h"
@@ -8,6 +10,7 @@
 #include "kelifc/platform/path.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/model_source.h"
+#include "kelifc/server/report_collector.h"
 #include "kelifc/server/scan_buffer.h"
 #include "kelifc/server/statements.h"
 
@@ -39,19 +42,20 @@ int IfcServer::LoadIfcFile(const char* path) {
 int IfcServer::LoadIfc(const char* path, const LoadOptions& options) {
   ForgetLoad();
   if (path == nullptr || !IsRegularFile(path)) return LOAD_RESULT_CANNOT_OPEN;
-  return LoadWithOptions(FileSource(path), options);
+  return LoadWithOptions(std::make_shared<FileSource>(path), options);
 }
 
 int IfcServer::LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options) {
   ForgetLoad();
-  return LoadWithOptions(MemorySource(data, data == nullptr ? 0 : size), options);
+  const std::size_t count = data == nullptr ? 0 : size;
+  return LoadWithOptions(std::make_shared<MemorySource>(data, count), options);
 }
 
 int IfcServer::LoadIfcStream(std::istream& in, const LoadOptions& options) {
   ForgetLoad();
   const std::uint64_t most = options.limits.maxBytes;
-  const SpooledSource source(in, most == 0 ? UINT64_MAX : most);
-  switch (source.GetState()) {
+  const auto spooled = std::make_shared<SpooledSource>(in, most == 0 ? UINT64_MAX : most);
+  switch (spooled->GetState()) {
     case SpooledSource::State::kTooLong:
       return LOAD_RESULT_LIMIT_REACHED;
     case SpooledSource::State::kFailed:
@@ -59,30 +63,36 @@ int IfcServer::LoadIfcStream(std::istream& in, const LoadOptions& options) {
     case SpooledSource::State::kWhole:
       break;
   }
-  return LoadWithOptions(source, options);
+  return LoadWithOptions(spooled, options);
 }
 
 void IfcServer::ForgetLoad() {
   Reset();
   fileSchema.clear();
-  findings = LoadFindings();
+  report = LoadReport();
   dialect = STEP_DIALECT_CLASSIC;
 }
 
-int IfcServer::LoadWithOptions(const ModelSource& source, const LoadOptions& options) {
+int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
+                               const LoadOptions& options) {
   SetRelease(IFC_RELEASE_NONE);
-  if (Exceeds(source.GetSize(), options.limits.maxBytes)) return LOAD_RESULT_LIMIT_REACHED;
+  if (Exceeds(model->GetSize(), options.limits.maxBytes)) return LOAD_RESULT_LIMIT_REACHED;
   LoadState initial;
   initial.dialect = options.dialect;
   initial.limits = options.limits;
-  initial.findings = &findings;
+  ReportCollector collector(report);
+  initial.findings = &report.findings;
+  initial.collector = &collector;
   initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
-  const int result = LoadFrom(source, initial);
-  if (result == LOAD_RESULT_LOADED) dialect = options.dialect;
+  const int result = LoadFrom(*model, initial);
+  if (result != LOAD_RESULT_LOADED) return result;
+  collector.EndLoad(*this);
+  dialect = options.dialect;
+  source = std::move(model);
   return result;
 }
 
-int IfcServer::LoadFrom(const ModelSource& source, const LoadState& initial) {
+int IfcServer::LoadFrom(const ModelSource& model, const LoadState& initial) {
   struct LoadEnd {  // also where memory runs out in the middle
     LoadState& load;
     ~LoadEnd() { load = LoadState(); }
@@ -90,7 +100,7 @@ int IfcServer::LoadFrom(const ModelSource& source, const LoadState& initial) {
   load = initial;
   load.isRunning = true;
   try {
-    const int result = LoadPasses(source);
+    const int result = LoadPasses(model);
     if (!load.isStopped && !load.isBeyondLimit) return result;
   } catch (...) {
     Reset();
@@ -100,12 +110,12 @@ int IfcServer::LoadFrom(const ModelSource& source, const LoadState& initial) {
   return load.isStopped ? LOAD_RESULT_CANCELLED : LOAD_RESULT_LIMIT_REACHED;
 }
 
-int IfcServer::LoadPasses(const ModelSource& source) {
-  MakeRoom(source.GetSize());
+int IfcServer::LoadPasses(const ModelSource& model) {
+  MakeRoom(model.GetSize());
   // Where memory is watched each block stands alone, so that none can be touched unseen.
   std::optional<LoadArena> memory;
   if (!kIsMemoryWatched) load.memory = &memory.emplace();
-  std::unique_ptr<std::istream> in = source.Open();
+  std::unique_ptr<std::istream> in = model.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
   schemaRecord.reset();
   headerSeen = false;
@@ -116,10 +126,11 @@ int IfcServer::LoadPasses(const ModelSource& source) {
     return load.isLaterSchema && load.findings != nullptr ? LOAD_RESULT_UNSUPPORTED_RELEASE
                                                           : LOAD_RESULT_UNKNOWN_SCHEMA;
   }
+  if (load.collector != nullptr) load.collector->EndFirstPass(*this);
   load.bytesBefore = load.bytesTotal / 2;
   load.bytesReported = 0;
   load.statementBytes = 0;
-  in = source.Open();
+  in = model.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
   ScanFile(*in, this, false);
   return LOAD_RESULT_LOADED;
@@ -153,7 +164,8 @@ bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
 bool IfcServer::IsWithinMemory() const {
   const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
   const std::uint64_t texts = load.bytesBefore == 0 ? 0 : load.statementBytes;
-  const std::uint64_t taken = blocks + texts + kBytesPerSlot * items.size();
+  const std::uint64_t taken =
+      blocks + texts + kBytesPerSlot * items.size() + sizeof(StatementPlace) * places.size();
   return !Exceeds(taken, load.limits.maxMemoryBytes);
 }
 

@@ -4,6 +4,8 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <string>
+#include <utility>
 #include <vector>
 
 namespace KelIFC {
@@ -23,6 +25,30 @@ enum class LoadFinding {
   kBadEscape,            ///< an escape in a string that cannot be read; the place of its backslash
   kStatementWithoutEnd,  ///< a statement, string or comment that does not end; where it begins
   kRepeatedNumber,       ///< a statement whose number an earlier one has; where it begins
+  kDanglingReference,  ///< a reference to a number that no statement has; only CheckModel notes it
+};
+
+/// How many kinds of findings there are. Their values are the numbers from 0 on.
+constexpr std::size_t kLoadFindingKinds =
+    static_cast<std::size_t>(LoadFinding::kDanglingReference) + 1;
+
+/// What a finding of a kind is, for people.
+constexpr const char* GetFindingText(LoadFinding kind) {
+  constexpr std::array<const char*, kLoadFindingKinds> kTexts = {
+      "bad escape in a string", "statement without an end", "number used twice",
+      "reference to a number that no statement has"};
+  return kTexts.at(static_cast<std::size_t>(kind));
+}
+
+/// The instance that a finding is about, as far as it is known.
+struct FindingSubject {
+  std::size_t number = 0;     ///< of the instance; 0 if it is not known
+  std::string entity;         ///< in upper case; empty if it is not known
+  std::size_t attribute = 0;  ///< the position in the statement, from 1; 0 if it is not known
+
+  friend bool operator==(const FindingSubject& a, const FindingSubject& b) {
+    return a.number == b.number && a.entity == b.entity && a.attribute == b.attribute;
+  }
 };
 
 /// Collects what a load finds: how often each kind occurs, and where it occurs first.
@@ -31,10 +57,12 @@ class LoadFindings {
   /// So many places are kept of each kind.
   static constexpr std::size_t kMostPlaces = 100;
 
-  void Note(LoadFinding kind, const SourcePlace& place) {
+  void Note(LoadFinding kind, const SourcePlace& place, FindingSubject subject = {}) {
     Row& row = rows[static_cast<std::size_t>(kind)];
     ++row.count;
-    if (row.places.size() < kMostPlaces) row.places.push_back(place);
+    if (row.places.size() == kMostPlaces) return;
+    row.subjects.push_back(std::move(subject));
+    row.places.push_back(place);
   }
 
   std::uint64_t GetCount(LoadFinding kind) const { return RowOf(kind).count; }
@@ -42,16 +70,21 @@ class LoadFindings {
   /// The first places, in the order in which they were noted.
   const std::vector<SourcePlace>& GetPlaces(LoadFinding kind) const { return RowOf(kind).places; }
 
+  /// The instances that the places belong to, in the same order.
+  const std::vector<FindingSubject>& GetSubjects(LoadFinding kind) const {
+    return RowOf(kind).subjects;
+  }
+
  private:
   struct Row {
     std::uint64_t count = 0;
     std::vector<SourcePlace> places;
+    std::vector<FindingSubject> subjects;
   };
-  static constexpr std::size_t kKinds = static_cast<std::size_t>(LoadFinding::kRepeatedNumber) + 1;
 
   const Row& RowOf(LoadFinding kind) const { return rows[static_cast<std::size_t>(kind)]; }
 
-  std::array<Row, kKinds> rows;
+  std::array<Row, kLoadFindingKinds> rows;
 };
 
 }  // namespace KelIFC

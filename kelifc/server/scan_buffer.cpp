@@ -22,20 +22,30 @@ std::uint64_t ScanBuffer::PeekNumber() const {
   return number;
 }
 
-SourcePlace ScanBuffer::GetPlace(std::size_t offset) const {
-  offset += dropped;
+// The piece that holds a character of the text, counted with the characters that were removed.
+const ScanBuffer::Piece& ScanBuffer::FindPiece(std::size_t offset) const {
   const auto next = std::upper_bound(
       pieces.begin(), pieces.end(), offset,
       [](std::size_t wanted, const Piece& piece) { return wanted < piece.offset; });
-  if (next == pieces.begin()) return {start.line, start.column + offset};
-  const Piece& piece = next[-1];
-  const bool isLast = next == pieces.end() && pieces.size() == kMostPieces;
-  const std::size_t distance = isLast ? 0 : offset - piece.offset;
+  return next == pieces.begin() ? start : next[-1];
+}
+
+SourcePlace ScanBuffer::GetPlace(std::size_t offset) const {
+  const Piece& piece = FindPiece(offset + dropped);
+  const bool isRest = pieces.size() == kMostPieces && &piece == &pieces.back();
+  const std::size_t distance = isRest ? 0 : offset + dropped - piece.offset;
   return {piece.place.line, piece.place.column + distance};
 }
 
 void ScanBuffer::AddPiece(std::size_t offset) {
-  if (pieces.size() < kMostPieces) pieces.push_back({offset, PlaceOf(cursor)});
+  if (pieces.size() < kMostPieces) {
+    pieces.push_back({offset, PlaceOf(cursor), AbsoluteOf(cursor)});
+  }
+}
+
+std::uint64_t ScanBuffer::GetBeginOffset() const {
+  const Piece& piece = FindPiece(dropped);
+  return piece.absolute + dropped - piece.offset;
 }
 
 char* ScanBuffer::Finish(std::size_t next) {

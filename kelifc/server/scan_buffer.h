@@ -49,6 +49,12 @@ class ScanBuffer {
   /// more than kMostPieces pieces, all characters of the rest have the position of the last piece.
   SourcePlace GetPlace(std::size_t offset = 0) const;
 
+  /// The offset in the stream of the first character of the last statement.
+  std::uint64_t GetBeginOffset() const;
+
+  /// The offset in the stream of what follows the last statement and its `;`.
+  std::uint64_t GetEndOffset() const { return AbsoluteOf(cursor); }
+
   static constexpr std::size_t kMostPieces = 65536;
 
  protected:
@@ -57,7 +63,7 @@ class ScanBuffer {
     textBegin = textEnd = runBegin = cursor;
     dropped = 0;
     if (!pieces.empty()) pieces.clear();
-    start = PlaceOf(cursor);
+    start = {0, PlaceOf(cursor), AbsoluteOf(cursor)};
   }
 
   // Ends the statement, and moves the cursor to `next`, where the next one starts. There is room
@@ -105,7 +111,7 @@ class ScanBuffer {
   void NotePiece() {
     const std::size_t offset = textEnd - textBegin + cursor - runBegin;
     if (offset == 0) {
-      start = PlaceOf(cursor);
+      start = {0, PlaceOf(cursor), AbsoluteOf(cursor)};
     } else {
       AddPiece(offset);
     }
@@ -135,8 +141,10 @@ class ScanBuffer {
   struct Piece {
     std::size_t offset = 0;  // in the text
     SourcePlace place;
+    std::uint64_t absolute = 0;  // offset in the stream
   };
 
+  const Piece& FindPiece(std::size_t offset) const;
   void AddPiece(std::size_t offset);
   void CloseGaps();
   void Grow();
@@ -152,7 +160,7 @@ class ScanBuffer {
 
   std::uint64_t line = 1;
   std::uint64_t lineStart = 0;  // offset in the stream
-  SourcePlace start;            // of the first piece
+  Piece start;                  // the first piece
   std::vector<Piece> pieces;    // the other ones; in most statements there are none
   std::size_t dropped = 0;      // characters from the front of the text
 };

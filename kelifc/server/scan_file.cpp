@@ -25,39 +25,27 @@ std::size_t AsSize(std::uint64_t limit) {
 // Notes the bad escapes of the statement that a scanner has handed out last.
 class EscapeNotes : public BadEscapeSink {
  public:
-  EscapeNotes(const ScanBuffer& source, LoadFindings* target) : scanner(source), findings(target) {}
+  EscapeNotes(const ScanBuffer& source, LoadFindings* target, const std::size_t& statementNumber)
+      : scanner(source), findings(target), number(statementNumber) {}
 
   void NoteBadEscape(const char* escape) override {
     if (findings == nullptr) return;
     const auto offset = static_cast<std::size_t>(escape - scanner.GetText());
-    findings->Note(LoadFinding::kBadEscape, scanner.GetPlace(offset));
+    findings->Note(LoadFinding::kBadEscape, scanner.GetPlace(offset), {number, "", 0});
   }
 
  private:
   const ScanBuffer& scanner;
   LoadFindings* findings;
+  const std::size_t& number;
 };
 
 }  // namespace
 
-void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
-  IfcServer::LoadState& load = server->load;
-  if (load.dialect == STEP_DIALECT_CLASSIC) {
-    Scanner scanner(in);
-    server->ScanStatements(scanner, firstPass);
-    return;
-  }
-  IsoScanner scanner(in);
-  EscapeNotes notes(scanner, load.findings);
-  IsoStatementReader reader(&notes);
-  load.reader = &reader;
-  if (firstPass) scanner.SetFindings(load.findings);
-  server->ScanStatements(scanner, firstPass);
-  load.reader = nullptr;
-}
-
+// Hands the statements of a file to the pass, until the file, the pass or a limit ends it.
 template <class AnyScanner>
-void IfcServer::ScanStatements(AnyScanner& scanner, bool firstPass) {
+void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {
+  IfcServer::LoadState& load = server.load;
   const auto handle = firstPass ? RegisterStatement : ParseStatement;
   const std::size_t longest = AsSize(load.limits.maxStatementBytes);
   const std::size_t mostItems = AsSize(load.limits.maxInstances);
@@ -65,15 +53,31 @@ void IfcServer::ScanStatements(AnyScanner& scanner, bool firstPass) {
   scanner.SetLimit(firstPass ? kHeadLimit : longest);
   while (char* statement = scanner.Next()) {
     scanner.SetLimit(longest);
-    if (load.isUnordered) idToIndex.PrefetchNumber(scanner.PeekNumber());
+    if (load.isUnordered) server.idToIndex.PrefetchNumber(scanner.PeekNumber());
     load.isBeyondLimit = scanner.GetLength() > longest;
-    if (load.isBeyondLimit || handle(this, statement) != 0) return;
-    load.isBeyondLimit = items.size() > mostItems;
+    if (load.isBeyondLimit || handle(&server, statement) != 0) return;
+    load.isBeyondLimit = server.items.size() > mostItems;
     if (load.isBeyondLimit) return;
     load.statementBytes += scanner.GetLength();
-    if (scanner.GetBytesRead() != load.bytesReported && !GoesOn()) return;
+    if (scanner.GetBytesRead() != load.bytesReported && !server.GoesOn()) return;
   }
-  load.isBeyondLimit = (scanner.IsBeyondLimit() && headerSeen) || !IsWithinMemory();
+  load.isBeyondLimit = (scanner.IsBeyondLimit() && server.headerSeen) || !server.IsWithinMemory();
+}
+
+void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
+  IfcServer::LoadState& load = server->load;
+  if (load.dialect == STEP_DIALECT_CLASSIC) {
+    Scanner scanner(in);
+    ScanStatements(*server, scanner, firstPass);
+    return;
+  }
+  IsoScanner scanner(in);
+  EscapeNotes notes(scanner, load.findings, load.statementNumber);
+  IsoStatementReader reader(&notes);
+  load.reader = &reader;
+  if (firstPass) scanner.SetFindings(load.findings);
+  ScanStatements(*server, scanner, firstPass);
+  load.reader = nullptr;
 }
 
 }  // namespace KelIFC

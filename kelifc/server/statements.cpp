@@ -12,6 +12,7 @@
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
+#include "kelifc/server/report_collector.h"
 #include "kelifc/server/scan_buffer.h"
 
 namespace KelIFC {
@@ -20,12 +21,6 @@ namespace {
 constexpr std::string_view kHead = "ISO-10303-21";
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
-
-// A statement `#n=...` cut in two at its first `=`.
-struct Assignment {
-  std::size_t number = 0;  // 0 if the statement is none or its left side is not `#n`
-  char* text = nullptr;    // the right side
-};
 
 // Reads the left side of nearly every statement: `#`, up to nine digits and the `=`, with nothing
 // between. Any other form leaves the result at 0, whatever it means.
@@ -39,6 +34,15 @@ Assignment ReadPlainAssignment(char* statement) {
   return {number, at + 1};
 }
 
+// True if the statement begins with the head of a STEP file, in any case.
+bool BeginsWithHead(const char* statement) {
+  return std::equal(kHead.begin(), kHead.end(), statement, [](char wanted, char found) {
+    return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
+  });
+}
+
+}  // namespace
+
 Assignment CutAssignment(char* statement) {
   Assignment assignment = ReadPlainAssignment(statement);
   if (assignment.number != 0) return assignment;
@@ -51,15 +55,6 @@ Assignment CutAssignment(char* statement) {
   assignment.text = sign + 1;
   return assignment;
 }
-
-// True if the statement begins with the head of a STEP file, in any case.
-bool BeginsWithHead(const char* statement) {
-  return std::equal(kHead.begin(), kHead.end(), statement, [](char wanted, char found) {
-    return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
-  });
-}
-
-}  // namespace
 
 std::int16_t RegisterStatement(IfcServer* server, char* statement) {
   if (!server->headerSeen) {
@@ -75,7 +70,9 @@ std::int16_t IfcServer::ReadHeaderStatement(char* statement) {
   auto* record = dynamic_cast<StepFileSchema*>(instance.get());
   if (record == nullptr) {
     // An instance ahead of the schema is lost, yet the second pass will come across its number.
-    NoteNumber(CutAssignment(statement).number);
+    const Assignment assignment = CutAssignment(statement);
+    NoteNumber(assignment.number);
+    NoteStatement(assignment.number, nullptr, assignment.text);
     return 0;
   }
   static_cast<void>(instance.release());
@@ -93,8 +90,25 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
   NoteOrder(assignment.number);
   IfcUnknown* const made = MakeStated(assignment.text);
   if (load.findings != nullptr && made != nullptr) NoteRepeat(assignment.number);
+  NoteStatement(assignment.number, made, assignment.text);
   InsertItem(assignment.number, made);
+  if (load.findings != nullptr && made != nullptr) NotePlace(assignment.number);
   return 0;
+}
+
+void IfcServer::NotePlace(std::size_t id) {
+  constexpr std::uint64_t kMost = UINT32_MAX;
+  const std::uint32_t position = idToIndex.Find(id);
+  if (position == detail::NumberIndex::kNone) return;
+  if (places.size() <= position) places.resize(position + std::size_t{1});
+  const ScanBuffer& scanner = *load.scanner;
+  const std::uint64_t begin = scanner.GetBeginOffset();
+  places[position] = {begin, static_cast<std::uint32_t>(std::min(scanner.GetPlace().line, kMost)),
+                      static_cast<std::uint32_t>(std::min(scanner.GetEndOffset() - begin, kMost))};
+}
+
+void IfcServer::NoteStatement(std::size_t id, const IfcUnknown* made, const char* text) {
+  if (load.collector != nullptr && id != 0) load.collector->NoteStatement(id, made, text);
 }
 
 // Makes the instance of a statement. An instance of several types has no name in the dialect of
@@ -107,7 +121,7 @@ IfcUnknown* IfcServer::MakeStated(const char* text) {
 
 void IfcServer::NoteRepeat(std::size_t id) {
   if (idToIndex.Find(id) == detail::NumberIndex::kNone) return;
-  load.findings->Note(LoadFinding::kRepeatedNumber, load.scanner->GetPlace());
+  load.findings->Note(LoadFinding::kRepeatedNumber, load.scanner->GetPlace(), {id, "", 0});
   if (IsIso()) ++load.repeats[id];
 }
 
@@ -143,6 +157,7 @@ std::int16_t ParseStatement(IfcServer* server, char* statement) {
   if (instance == nullptr || server->IsRepeated(assignment.number)) return 0;
   const char* text = assignment.text;
   IfcServer::LoadState& load = server->load;
+  load.statementNumber = assignment.number;
   if (load.reader != nullptr) text = load.reader->Read(text, load.scanner->GetTextEnd());
   load.parsed = instance;
   load.parsedNumber = assignment.number;

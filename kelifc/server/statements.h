@@ -1,6 +1,7 @@
 #ifndef KELIFC_SERVER_STATEMENTS_H_
 #define KELIFC_SERVER_STATEMENTS_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 
@@ -22,6 +23,15 @@ std::int16_t RegisterStatement(IfcServer* server, char* statement);
 /// Takes one statement in the second pass: lets the instance under its number read the attributes.
 /// The text is cut on the way. Gives 0.
 std::int16_t ParseStatement(IfcServer* server, char* statement);
+
+/// A statement `#n=...` cut in two at its first `=`.
+struct Assignment {
+  std::size_t number = 0;  ///< 0 if the statement is none or its left side is not `#n`
+  char* text = nullptr;    ///< the right side
+};
+
+/// Cuts a statement. The text is written to on the way.
+Assignment CutAssignment(char* statement);
 
 }  // namespace KelIFC
 

@@ -18,7 +18,7 @@ BRepFace Face(std::initializer_list<int> outer) {
   return face;
 }
 
-/// Two triangles over four vertices, the second with a hole that hosts do not see.
+/// Two triangles with four vertices. The second one has a hole, which hosts do not see.
 BRep Triangles() {
   BRep boundary;
   for (int i = 0; i < 4; ++i) boundary.vertices.push_back({Point3(i, 10 + i, 20 + i), {}});
@@ -32,7 +32,7 @@ class Boundary : public HostTest {
  protected:
   static ComPtr<IGeoBRep> Make(const BRep& boundary) {
     auto object = CreateOwn<CoGeoBRep>();
-    Behind<CoGeoBRep>(object).boundary = boundary;
+    ObjectOf<CoGeoBRep>(object).boundary = boundary;
     return object;
   }
 
@@ -52,7 +52,7 @@ class Boundary : public HostTest {
   }
 };
 
-TEST_F(Boundary, ThatAHostMadeIsEmpty) {
+TEST_F(Boundary, IsEmptyIfAHostCreatedIt) {
   const auto boundary = CreateOwn<CoGeoBRep>();
   EXPECT_EQ(CountOf(*GetObject(*boundary, &IGeoBRep::get_Faces)), 0);
   EXPECT_EQ(CountOf(*GetObject(*boundary, &IGeoBRep::get_Points)), 0);
@@ -80,7 +80,7 @@ TEST_F(Boundary, ShowsTheNumbersOfAFaceFromOne) {
   EXPECT_EQ(NumbersOf(*FaceAt(*boundary, 1)), (std::vector<LONG>{1, 2, 3}));
 }
 
-TEST_F(Boundary, ShowsTheOuterLoopOfAFaceAlone) {
+TEST_F(Boundary, ShowsTheOuterLoopOfAFaceOnly) {
   const auto boundary = Make(Triangles());
   EXPECT_EQ(NumbersOf(*FaceAt(*boundary, 2)), (std::vector<LONG>{4, 2, 1}));
 }
@@ -92,7 +92,7 @@ TEST_F(Boundary, ShowsAFaceWithoutALoop) {
   EXPECT_TRUE(NumbersOf(*FaceAt(*boundary, 1)).empty());
 }
 
-TEST_F(Boundary, MakesEachChildOnce) {
+TEST_F(Boundary, CreatesEachChildOnce) {
   const auto boundary = Make(Triangles());
   EXPECT_EQ(GetObject(*boundary, &IGeoBRep::get_Faces).Get(),
             GetObject(*boundary, &IGeoBRep::get_Faces).Get());
@@ -103,14 +103,14 @@ TEST_F(Boundary, MakesEachChildOnce) {
             GetObject(*face, &IGeoFace::get_Numbers).Get());
 }
 
-TEST_F(Boundary, NeedsAPlaceForEachChild) {
+TEST_F(Boundary, RefusesANullOutput) {
   const auto boundary = Make(Triangles());
   EXPECT_EQ(boundary->get_Faces(nullptr), E_POINTER);
   EXPECT_EQ(boundary->get_Points(nullptr), E_POINTER);
   EXPECT_EQ(FaceAt(*boundary, 1)->get_Numbers(nullptr), E_POINTER);
 }
 
-TEST_F(Boundary, KeepsTheFacesThatWereMadeAheadOfAFailure) {
+TEST_F(Boundary, KeepsTheFacesThatWereCreatedBeforeAFailure) {
   const auto boundary = Make(Triangles());
   {
     const FailingClass failing(CLSID_CoGeoFace, 1, DISP_E_OVERFLOW);
@@ -122,7 +122,7 @@ TEST_F(Boundary, KeepsTheFacesThatWereMadeAheadOfAFailure) {
   EXPECT_EQ(NumbersOf(*FaceAt(*boundary, 1)), (std::vector<LONG>{1, 2, 3}));
 }
 
-TEST_F(Boundary, KeepsThePointsThatWereMadeAheadOfAFailure) {
+TEST_F(Boundary, KeepsThePointsThatWereCreatedBeforeAFailure) {
   const auto boundary = Make(Triangles());
   {
     const FailingClass failing(CLSID_CoGeoPoint, 3, DISP_E_OVERFLOW);
@@ -132,7 +132,7 @@ TEST_F(Boundary, KeepsThePointsThatWereMadeAheadOfAFailure) {
   EXPECT_EQ(CountOf(*GetObject(*boundary, &IGeoBRep::get_Points)), 3);
 }
 
-TEST_F(Boundary, HandsOnThatFacesHaveNoClassObject) {
+TEST_F(Boundary, ReturnsTheFailureIfFacesHaveNoClassObject) {
   const auto boundary = Make(Triangles());
   {
     const MissingClass missing(CLSID_CoGeoFace);
@@ -142,7 +142,7 @@ TEST_F(Boundary, HandsOnThatFacesHaveNoClassObject) {
   EXPECT_EQ(CountOf(*GetObject(*boundary, &IGeoBRep::get_Faces)), 0);
 }
 
-TEST_F(Boundary, TriesAnewToMakeACollection) {
+TEST_F(Boundary, TriesAgainToCreateACollection) {
   const auto boundary = Make(Triangles());
   const auto face = FaceAt(*boundary, 1);
   {
@@ -157,7 +157,7 @@ TEST_F(Boundary, TriesAnewToMakeACollection) {
   EXPECT_EQ(NumbersOf(*face).size(), 3U);
 }
 
-TEST_F(Boundary, LeavesFacesUsableThatOutliveIt) {
+TEST_F(Boundary, LeavesFacesUsableAfterItsEnd) {
   auto boundary = Make(Triangles());
   const auto face = FaceAt(*boundary, 2);
   boundary.Reset();
@@ -176,7 +176,7 @@ class Beam : public HostTest {};
 
 TEST_F(Beam, ShowsACopyOfItsBoundary) {
   auto beam = CreateOwn<CoGeoBeam>();
-  Behind<CoGeoBeam>(beam).boundary = Triangles();
+  ObjectOf<CoGeoBeam>(beam).boundary = Triangles();
   const auto boundary = GetObject(*beam, &IGeoBeam::get_BRep);
   EXPECT_EQ(GetObject(*beam, &IGeoBeam::get_BRep).Get(), boundary.Get());
   EXPECT_EQ(CountOf(*GetObject(*boundary, &IGeoBRep::get_Faces)), 2);
@@ -189,7 +189,7 @@ TEST_F(Beam, HasAnEmptyBoundaryAtFirst) {
   EXPECT_EQ(CountOf(*GetObject(*boundary, &IGeoBRep::get_Faces)), 0);
 }
 
-TEST_F(Beam, TriesAnewToMakeItsBoundary) {
+TEST_F(Beam, TriesAgainToCreateItsBoundary) {
   const auto beam = CreateOwn<CoGeoBeam>();
   EXPECT_EQ(beam->get_BRep(nullptr), E_POINTER);
   {
@@ -207,9 +207,9 @@ TEST_F(Beam, ReservesTheOtherOperations) {
   EXPECT_EQ(beam->Reserved41(0), E_NOTIMPL);
 }
 
-TEST_F(Boundary, OfAColumnIsNotShown) {
+TEST_F(Boundary, IsNotShownByAColumn) {
   const auto column = CreateOwn<CoGeoColumn>();
-  Behind<CoGeoColumn>(column).boundary = Triangles();
+  ObjectOf<CoGeoColumn>(column).boundary = Triangles();
   EXPECT_FALSE(column.As<IGeoBRep>());
   EXPECT_EQ(column->Reserved16(nullptr), E_NOTIMPL);
   EXPECT_EQ(column->Reserved17(0.0), E_NOTIMPL);

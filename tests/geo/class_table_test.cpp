@@ -36,7 +36,7 @@ using Classes =
                    CoGeoSectionC, CoGeoSectionT, CoGeoBRep, CoGeoFace, CoGeoFaces, CoGeoNumbers>;
 TYPED_TEST_SUITE(EachClass, Classes);
 
-/// The way to another interface and back leads to the same pointer.
+/// Queries another interface and back, and expects the same pointer.
 template <class Other, class Own>
 void ExpectInterface(const ComPtr<Own>& object) {
   const auto other = object.template As<Other>();
@@ -79,7 +79,7 @@ TYPED_TEST(EachClass, ReportsErrorsForItsOwnInterfaceOnly) {
   }
 }
 
-TYPED_TEST(EachClass, HasNoTypeLibraryToDispatchBy) {
+TYPED_TEST(EachClass, HasNoTypeLibrary) {
   const auto object = CreateOwn<TypeParam>();
   UINT count = 7;
   EXPECT_EQ(object->GetTypeInfoCount(&count), TYPE_E_LIBNOTREGISTERED);
@@ -97,9 +97,9 @@ TYPED_TEST(EachClass, HasNoTypeLibraryToDispatchBy) {
             TYPE_E_LIBNOTREGISTERED);
 }
 
-TYPED_TEST(EachClass, IsMadeByItsProgramNames) {
+TYPED_TEST(EachClass, IsCreatedByItsProgramNames) {
 #ifdef _WIN32
-  GTEST_SKIP() << "the registry of the system has the names";
+  GTEST_SKIP() << "the registry contains the names";
 #endif
   const std::wstring name = TypeParam::kProgId;
   for (const std::wstring& progId : {name, name.substr(0, name.size() - 2)}) {
@@ -110,14 +110,14 @@ TYPED_TEST(EachClass, IsMadeByItsProgramNames) {
   }
 }
 
-TYPED_TEST(EachClass, CountsAsLivingUntilItIsReleased) {
+TYPED_TEST(EachClass, CountsAsAliveUntilItIsReleased) {
   auto object = CreateOwn<TypeParam>();
   EXPECT_EQ(LiveObjectCount(), 1);
   object.Reset();
   EXPECT_EQ(LiveObjectCount(), 0);
 }
 
-TEST(ClassTable, HoldsEachClassOnce) {
+TEST(ClassTable, ContainsEachClassOnce) {
   std::set<std::wstring> names;
   for (const ComClass& type : ComClasses()) {
     EXPECT_TRUE(names.insert(type.progId).second);

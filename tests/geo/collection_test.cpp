@@ -11,7 +11,7 @@
 namespace KelIFC {
 namespace {
 
-/// A collection of `count` storeys with the numbers 0, 1, 2 ...
+/// Creates a collection of `count` storeys with the numbers 0, 1, 2 ...
 ComPtr<IGeoStoreys> MakeStoreys(int count) {
   auto storeys = CreateOwn<CoGeoStoreys>();
   for (int i = 0; i < count; ++i) {
@@ -26,7 +26,7 @@ ComPtr<IEnumVARIANT> Enumerate(IGeoStoreys& storeys) {
   return GetObject(storeys, &IGeoStoreys::_NewEnum).As<IEnumVARIANT>();
 }
 
-/// The number of the storey that a variant holds, which it then gives back.
+/// Returns the number of the storey in a variant and clears the variant.
 SHORT TakeNumber(VARIANT& variant) {
   EXPECT_EQ(variant.vt, VT_DISPATCH);
   const SHORT number =
@@ -46,7 +46,7 @@ TEST_F(CollectionOfStoreys, CountsItsItems) {
   EXPECT_EQ(MakeStoreys(1)->Count(nullptr), E_POINTER);
 }
 
-TEST_F(CollectionOfStoreys, GivesItsItemsFromTheFirstToTheLast) {
+TEST_F(CollectionOfStoreys, ReturnsItsItemsInOrder) {
   const auto storeys = MakeStoreys(3);
   for (LONG i = 1; i <= 3; ++i) {
     ComPtr<IGeoStorey> storey;
@@ -55,7 +55,7 @@ TEST_F(CollectionOfStoreys, GivesItsItemsFromTheFirstToTheLast) {
   }
 }
 
-TEST_F(CollectionOfStoreys, GivesTheSameObjectEachTime) {
+TEST_F(CollectionOfStoreys, ReturnsTheSameObjectEachTime) {
   const auto storeys = MakeStoreys(1);
   ComPtr<IGeoStorey> first;
   ComPtr<IGeoStorey> second;
@@ -73,7 +73,7 @@ TEST_F(CollectionOfStoreys, RefusesIndicesBelowOne) {
   }
 }
 
-TEST_F(CollectionOfStoreys, LeavesTheResultAloneForAnIndexPastTheEnd) {
+TEST_F(CollectionOfStoreys, LeavesTheOutputUnchangedForAnIndexAboveTheCount) {
   const auto storeys = MakeStoreys(2);
   auto* const before = reinterpret_cast<IGeoStorey*>(this);
   for (const LONG index : std::initializer_list<LONG>{3, std::numeric_limits<LONG>::max()}) {
@@ -85,12 +85,12 @@ TEST_F(CollectionOfStoreys, LeavesTheResultAloneForAnIndexPastTheEnd) {
   EXPECT_EQ(MakeStoreys(0)->Item(1, &out), E_FAIL);
 }
 
-TEST_F(CollectionOfStoreys, NeedsAPlaceForAnItem) {
+TEST_F(CollectionOfStoreys, RefusesANullOutput) {
   EXPECT_EQ(MakeStoreys(1)->Item(1, nullptr), E_POINTER);
   EXPECT_EQ(MakeStoreys(1)->Item(0, nullptr), E_POINTER);
 }
 
-TEST_F(CollectionOfStoreys, LetsItemsLiveOnThatAHostHolds) {
+TEST_F(CollectionOfStoreys, KeepsItemsAliveForAHost) {
   auto storeys = MakeStoreys(2);
   ComPtr<IGeoStorey> storey;
   storeys->Item(2, storey.Put());
@@ -105,7 +105,7 @@ TEST_F(CollectionOfStoreys, ReservesTheOtherOperations) {
   EXPECT_EQ(storeys->Reserved9(nullptr, nullptr), E_NOTIMPL);
 }
 
-TEST_F(EnumeratorOfStoreys, GivesItemsOneByOne) {
+TEST_F(EnumeratorOfStoreys, ReturnsItemsOneByOne) {
   const auto storeys = MakeStoreys(2);
   const auto enumerator = Enumerate(*storeys);
   VARIANT item = {};
@@ -119,7 +119,7 @@ TEST_F(EnumeratorOfStoreys, GivesItemsOneByOne) {
   EXPECT_EQ(fetched, 0U);
 }
 
-TEST_F(EnumeratorOfStoreys, GivesAsManyAsThereAre) {
+TEST_F(EnumeratorOfStoreys, ReturnsAsManyItemsAsThereAre) {
   const auto storeys = MakeStoreys(3);
   VARIANT items[5] = {};
   ULONG fetched = 0;
@@ -128,7 +128,7 @@ TEST_F(EnumeratorOfStoreys, GivesAsManyAsThereAre) {
   for (SHORT i = 0; i < 3; ++i) EXPECT_EQ(TakeNumber(items[i]), i);
 }
 
-TEST_F(EnumeratorOfStoreys, OfAnEmptyCollectionGivesNothing) {
+TEST_F(EnumeratorOfStoreys, ReturnsNothingForAnEmptyCollection) {
   VARIANT item = {};
   ULONG fetched = 9;
   EXPECT_EQ(Enumerate(*MakeStoreys(0))->Next(1, &item, &fetched), S_FALSE);
@@ -136,12 +136,12 @@ TEST_F(EnumeratorOfStoreys, OfAnEmptyCollectionGivesNothing) {
   EXPECT_EQ(item.vt, VT_EMPTY);
 }
 
-TEST_F(EnumeratorOfStoreys, OfNoItemsAtAllSucceeds) {
+TEST_F(EnumeratorOfStoreys, SucceedsForZeroItems) {
   VARIANT item = {};
   EXPECT_EQ(Enumerate(*MakeStoreys(1))->Next(0, &item, nullptr), S_OK);
 }
 
-TEST_F(EnumeratorOfStoreys, NeedsItsPlaces) {
+TEST_F(EnumeratorOfStoreys, RefusesNullOutputs) {
   const auto storeys = MakeStoreys(3);
   const auto enumerator = Enumerate(*storeys);
   VARIANT items[2] = {};
@@ -152,7 +152,7 @@ TEST_F(EnumeratorOfStoreys, NeedsItsPlaces) {
   EXPECT_EQ(storeys->_NewEnum(nullptr), E_POINTER);
 }
 
-TEST_F(EnumeratorOfStoreys, SkipsAndStartsAnew) {
+TEST_F(EnumeratorOfStoreys, SkipsAndResets) {
   const auto storeys = MakeStoreys(3);
   const auto enumerator = Enumerate(*storeys);
   VARIANT item = {};
@@ -166,7 +166,7 @@ TEST_F(EnumeratorOfStoreys, SkipsAndStartsAnew) {
   EXPECT_EQ(TakeNumber(item), 0);
 }
 
-TEST_F(EnumeratorOfStoreys, CopiesItselfWhereItStands) {
+TEST_F(EnumeratorOfStoreys, IsClonedAtItsPosition) {
   const auto storeys = MakeStoreys(2);
   const auto enumerator = Enumerate(*storeys);
   enumerator->Skip(1);
@@ -178,7 +178,7 @@ TEST_F(EnumeratorOfStoreys, CopiesItselfWhereItStands) {
   EXPECT_EQ(TakeNumber(item), 1);
 }
 
-TEST_F(EnumeratorOfStoreys, SeesItemsThatAreAddedMeanwhile) {
+TEST_F(EnumeratorOfStoreys, SeesItemsThatAreAddedLater) {
   const auto storeys = MakeStoreys(1);
   const auto enumerator = Enumerate(*storeys);
   EXPECT_EQ(enumerator->Skip(1), S_OK);
@@ -188,7 +188,7 @@ TEST_F(EnumeratorOfStoreys, SeesItemsThatAreAddedMeanwhile) {
   EXPECT_EQ(TakeNumber(item), kNoStoreyNumber);
 }
 
-TEST_F(EnumeratorOfStoreys, GivesNothingMoreWhereItemsWereRemoved) {
+TEST_F(EnumeratorOfStoreys, ReturnsNothingMoreAfterItemsWereRemoved) {
   const auto storeys = MakeStoreys(2);
   const auto enumerator = Enumerate(*storeys);
   EXPECT_EQ(enumerator->Skip(2), S_OK);
@@ -206,7 +206,7 @@ TEST_F(EnumeratorOfStoreys, KeepsTheCollectionAlive) {
   EXPECT_EQ(TakeNumber(item), 0);
 }
 
-TEST_F(CollectionOfNumbers, GivesNumbers) {
+TEST_F(CollectionOfNumbers, ReturnsNumbers) {
   const auto numbers = CreateOwn<CoGeoNumbers>();
   static_cast<CoGeoNumbers&>(*numbers).Append(17);
   LONG out = 0;

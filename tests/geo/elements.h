@@ -15,25 +15,25 @@
 
 namespace KelIFC {
 
-/// All classes of elements.
+/// All element classes.
 using ElementClasses = testing::Types<CoGeoColumn, CoGeoBeam, CoGeoPlate, CoGeoWall, CoGeoWindow,
                                       CoGeoDoor, CoGeoHole, CoGeoFoot>;
 
-/// Those with points.
+/// The element classes with several points.
 using PolylineClasses = testing::Types<CoGeoColumn, CoGeoBeam, CoGeoPlate, CoGeoWall, CoGeoWindow,
                                        CoGeoDoor, CoGeoHole>;
 
-/// What stands behind an interface, known to be of the class.
+/// Casts an interface to the class of its object.
 template <class Class, class Interface>
-Class& Behind(const ComPtr<Interface>& object) {
+Class& ObjectOf(const ComPtr<Interface>& object) {
   return static_cast<Class&>(*object);
 }
 
-/// An element that belongs to a server object, as the conversion makes it.
+/// Creates an element with a link to a server object, as the conversion does.
 template <class Class>
 ComPtr<typename Class::Interfaces::First> CreateElement(const ComPtr<IIFCServer>& server) {
   auto element = CreateOwn<Class>();
-  Behind<Class>(element).server = Behind<CoIFCServer>(server).Link();
+  ObjectOf<Class>(element).server = ObjectOf<CoIFCServer>(server).Link();
   return element;
 }
 

@@ -15,7 +15,7 @@
 namespace KelIFC {
 namespace {
 
-/// A structure and an element that gets sections.
+/// Has a structure and an element.
 class EnsureSection : public HostTest {
  protected:
   void TearDown() override {
@@ -24,8 +24,8 @@ class EnsureSection : public HostTest {
     HostTest::TearDown();
   }
 
-  CoGeoStructure& Structure() { return Behind<CoGeoStructure>(structure); }
-  CoGeoColumn& Element() { return Behind<CoGeoColumn>(element); }
+  CoGeoStructure& Structure() { return ObjectOf<CoGeoStructure>(structure); }
+  CoGeoColumn& Element() { return ObjectOf<CoGeoColumn>(element); }
   ComPtr<IGeoSections> Sections() { return GetObject(*structure, &IGeoStructure::get_Sections); }
 
   std::uint64_t Circle(double diameter) {
@@ -75,7 +75,7 @@ class EnsureSection : public HostTest {
   ComPtr<IGeoColumn> element = CreateOwn<CoGeoColumn>();
 };
 
-/// A section that does not tell its kind.
+/// A section that fails to return its kind.
 class UnkindSection : public CoGeoSectionC {
  public:
   HRESULT get_Kind(LONG*) override { return DISP_E_OVERFLOW; }
@@ -87,7 +87,7 @@ class UnkindSection : public CoGeoSectionC {
 const std::initializer_list<Point2> kHexagon = {{0.0, 0.0}, {0.4, 0.0}, {0.4, 0.1},
                                                 {0.2, 0.1}, {0.2, 0.3}, {0.0, 0.3}};
 
-TEST_F(EnsureSection, MakesSectionsInTheOrderInWhichTheyAreAskedFor) {
+TEST_F(EnsureSection, AddsSectionsInTheOrderOfTheCalls) {
   EXPECT_EQ(Rectangle(0.3, 0.5), 0U);
   EXPECT_EQ(Circle(0.1), 1U);
   EXPECT_EQ(T(0.25, 0.6, 1.2, 0.15), 2U);
@@ -97,7 +97,7 @@ TEST_F(EnsureSection, MakesSectionsInTheOrderInWhichTheyAreAskedFor) {
                                                 L"IFC_N6_40x30", L"IFC_H_123.5"}));
 }
 
-TEST_F(EnsureSection, GivesEachSectionItsKind) {
+TEST_F(EnsureSection, SetsTheKindOfEachSection) {
   Rectangle(0.3, 0.5);
   Circle(0.1);
   T(0.25, 0.6, 1.2, 0.15);
@@ -110,7 +110,7 @@ TEST_F(EnsureSection, GivesEachSectionItsKind) {
   EXPECT_EQ(kinds, (std::vector<LONG>{1, 2, 3, 8, 9}));
 }
 
-TEST_F(EnsureSection, GivesEachSectionItsSizes) {
+TEST_F(EnsureSection, SetsTheSizesOfEachSection) {
   Rectangle(0.3, 0.5);
   Circle(0.1);
   T(0.25, 0.6, 1.2, 0.15);
@@ -132,13 +132,13 @@ TEST_F(EnsureSection, SharesASectionAmongSizesWithinAThousandth) {
   EXPECT_EQ(CountOf(*Sections()), 2);
 }
 
-TEST_F(EnsureSection, TakesTheFirstOfSeveralThatMatch) {
+TEST_F(EnsureSection, UsesTheFirstSectionThatMatches) {
   Circle(0.3000);
   Circle(0.3015);
   EXPECT_EQ(Circle(0.3008), 0U);
 }
 
-TEST_F(EnsureSection, TellsTsOfOneNameApart) {
+TEST_F(EnsureSection, DistinguishesTsWithTheSameName) {
   EXPECT_EQ(T(0.25, 0.6, 1.2, 0.15), 0U);
   EXPECT_EQ(T(0.25, 0.6, 1.2, 0.20), 1U);
   EXPECT_EQ(T(0.25, 0.6, 1.3, 0.15), 2U);
@@ -146,12 +146,12 @@ TEST_F(EnsureSection, TellsTsOfOneNameApart) {
   EXPECT_EQ(Names(), std::vector<std::wstring>(3, L"IFC_T_25x60"));
 }
 
-TEST_F(EnsureSection, TellsWidthFromHeight) {
+TEST_F(EnsureSection, DistinguishesWidthFromHeight) {
   EXPECT_EQ(Rectangle(0.3, 0.5), 0U);
   EXPECT_EQ(Rectangle(0.5, 0.3), 1U);
 }
 
-TEST_F(EnsureSection, GivesEachPolygonASectionOfItsOwn) {
+TEST_F(EnsureSection, AddsASectionForEachPolygon) {
   EXPECT_EQ(Profile(kHexagon), 0U);
   EXPECT_EQ(Profile(kHexagon), 1U);
   EXPECT_EQ(Names(), std::vector<std::wstring>(2, L"IFC_N6_40x30"));
@@ -199,14 +199,14 @@ TEST_F(EnsureSection, ComparesWithEverySizeThatAHostHasWritten) {
   EXPECT_EQ(Thick(0.9), 2U);
 }
 
-TEST_F(EnsureSection, LooksAtSizesNotAtNames) {
+TEST_F(EnsureSection, ComparesSizesAndNotNames) {
   Circle(0.3);
   At<IGeoSection>(1)->put_Name(Bstr(L"round").Get());
   EXPECT_EQ(Circle(0.3), 0U);
   EXPECT_EQ(Names(), std::vector<std::wstring>{L"round"});
 }
 
-TEST_F(EnsureSection, LeavesTheElementAsItWasWhereNoSectionCanBeMade) {
+TEST_F(EnsureSection, LeavesTheElementUnchangedIfNoSectionCanBeCreated) {
   Element().sectionIndex = 7;
   const FailingClass r(CLSID_CoGeoSectionR, 0, DISP_E_OVERFLOW);
   const FailingClass c(CLSID_CoGeoSectionC, 0, DISP_E_OVERFLOW);
@@ -222,28 +222,28 @@ TEST_F(EnsureSection, LeavesTheElementAsItWasWhereNoSectionCanBeMade) {
   EXPECT_EQ(CountOf(*Sections()), 0);
 }
 
-TEST_F(EnsureSection, HandsOnThatThereIsNoCollection) {
+TEST_F(EnsureSection, ReturnsTheFailureIfThereIsNoCollection) {
   const FailingClass failing(CLSID_CoGeoSections, 0, DISP_E_OVERFLOW);
   EXPECT_EQ(Structure().EnsureSectionC(Element(), 1), DISP_E_OVERFLOW);
   EXPECT_EQ(Structure().AddSectionProfile(Element(), {}), DISP_E_OVERFLOW);
   EXPECT_EQ(Element().sectionIndex, CoGeoObject::kNoSection);
 }
 
-TEST_F(EnsureSection, HandsOnThatASectionAheadDoesNotTellItsKind) {
+TEST_F(EnsureSection, ReturnsTheFailureOfASectionToReturnItsKind) {
   Circle(0.3);
   ComPtr<IGeoSection> unkind;
   MakeObject<UnkindSection>(IidOf<IGeoSection>(), reinterpret_cast<void**>(unkind.Put()));
-  Behind<CoGeoSections>(Sections()).Append(unkind);
+  ObjectOf<CoGeoSections>(Sections()).Append(unkind);
   Element().sectionIndex = 7;
   EXPECT_EQ(Structure().EnsureSectionC(Element(), 0.4), DISP_E_OVERFLOW);
   EXPECT_EQ(Structure().EnsureSectionR(Element(), 0.4, 0.4), DISP_E_OVERFLOW);
   EXPECT_EQ(Structure().AddSectionProfile(Element(), {}), DISP_E_OVERFLOW);
   EXPECT_EQ(Element().sectionIndex, 7U);
   EXPECT_EQ(CountOf(*Sections()), 2);
-  EXPECT_EQ(Circle(0.3), 0U) << "the walk ends ahead of the section that fails";
+  EXPECT_EQ(Circle(0.3), 0U) << "the search ends before the section that fails";
 }
 
-TEST_F(EnsureSection, MakesManySectionsInLittleTime) {
+TEST_F(EnsureSection, AddsManySectionsInLinearTime) {
   constexpr int kCount = 100'000;
   for (int round = 0; round < 2; ++round) {
     for (int i = 0; i < kCount; ++i) {
@@ -253,10 +253,10 @@ TEST_F(EnsureSection, MakesManySectionsInLittleTime) {
   EXPECT_EQ(CountOf(*Sections()), kCount);
 }
 
-TEST_F(EnsureSection, IsNotSlowedDownByTheSectionsOfAnotherStructure) {
+TEST_F(EnsureSection, DoesNotSearchTheSectionsOfAnotherStructure) {
   constexpr int kCount = 20'000;
   const auto other = Create<IGeoStructure>(CLSID_CoGeoStructure);
-  ASSERT_EQ(Behind<CoGeoStructure>(other).EnsureSectionC(Element(), 1.0), S_OK);
+  ASSERT_EQ(ObjectOf<CoGeoStructure>(other).EnsureSectionC(Element(), 1.0), S_OK);
   ComPtr<IGeoSection> section;
   GetObject(*other, &IGeoStructure::get_Sections)->ItemByIndex(1, section.Put());
   const auto circle = section.As<IGeoSectionC>();
@@ -266,7 +266,7 @@ TEST_F(EnsureSection, IsNotSlowedDownByTheSectionsOfAnotherStructure) {
   }
 }
 
-TEST_F(EnsureSection, LeavesSectionsUsableThatOutliveTheStructure) {
+TEST_F(EnsureSection, LeavesSectionsUsableAfterTheEndOfTheStructure) {
   Circle(0.3);
   const auto section = At<IGeoSectionC>(1);
   structure.Reset();

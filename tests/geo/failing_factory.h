@@ -13,10 +13,10 @@
 
 namespace KelIFC {
 
-/// REGCLS_MULTIPLEUSE: one class object makes any number of objects.
+/// REGCLS_MULTIPLEUSE: a class object creates any number of objects.
 inline constexpr DWORD kManyUses = 1;
 
-/// Makes some objects of a class, and then gives a failure.
+/// Creates some objects of a class and then fails.
 class FailingFactoryObject : public IClassFactory {
  public:
   using Interfaces = InterfaceList<IClassFactory>;
@@ -43,8 +43,8 @@ class FailingFactoryObject : public IClassFactory {
   HRESULT failure;
 };
 
-/// Puts a class object in the place of the library's own. Where the one that was registered first
-/// is found first, the library's come anew behind it.
+/// Registers a class object that replaces the one of the library. Some systems use the first
+/// registration of a class, so the library's own classes are registered again after it.
 inline DWORD RegisterAhead(const CLSID& clsid, IUnknown& factory) {
   DWORD cookie = 0;
   ForgetClasses();
@@ -53,14 +53,14 @@ inline DWORD RegisterAhead(const CLSID& clsid, IUnknown& factory) {
   return cookie;
 }
 
-/// Gives the library's own class object its place back.
+/// Makes the class object of the library the first one again.
 inline void Revoke(DWORD cookie) {
   EXPECT_EQ(CoRevokeClassObject(cookie), S_OK);
   ForgetClasses();
   KnowClasses();
 }
 
-/// For as long as it lives, the creation of a class fails on this thread after some successes.
+/// While it lives, the creation of a class fails on this thread after some successes.
 class FailingClass {
  public:
   FailingClass(const CLSID& clsid, int successes, HRESULT failure) {
@@ -79,8 +79,8 @@ class FailingClass {
   DWORD cookie = 0;
 };
 
-/// For as long as it lives, a class has no class object on this thread: what stands in its place
-/// has no interface to make objects with.
+/// While it lives, a class has no class object on this thread: the object that replaces it does not
+/// have the interface that creates objects.
 class MissingClass {
  public:
   explicit MissingClass(const CLSID& clsid) {

@@ -22,7 +22,7 @@ constexpr char kUnknownId[] = "0VvSUbOOfKXvqnv$9xajtg";
 
 constexpr wchar_t kBraced[] = L"{01234567-89AB-CDEF-0123-456789ABCDEF}";
 
-/// Two columns and two storeys at the levels 0 and 3.
+/// Two columns, and two storeys at the levels 0 and 3.
 const std::string kBuilding =
     "#1=IFCCOLUMN('1VvSUbOOfKXvqnv$9xajtg',$,'A',$,$,$,$,$);\n"
     "#2=IFCCOLUMN('2VvSUbOOfKXvqnv$9xajtg',$,'B',$,$,$,$,$);\n"
@@ -33,7 +33,7 @@ const std::string kBuilding =
     "#7=IFCBUILDINGSTOREY('3VvSUbOOfKXvqnv$9xajtg',$,'EG',$,$,$,$,$,.ELEMENT.,0.);\n"
     "#8=IFCBUILDINGSTOREY('2UPNrouxHRe8xN_Pksy8Kq',$,'OG',$,$,#6,$,$,.ELEMENT.,3.);\n";
 
-/// That a spatial structure contains elements.
+/// Returns a relation by which a spatial structure contains elements.
 std::string Contains(int number, const std::string& elements, const std::string& structure) {
   return "#" + std::to_string(number) +
          "=IFCRELCONTAINEDINSPATIALSTRUCTURE('2UPNrouxHRe8xN_Pksy8Ks',$,$,$," + elements + "," +
@@ -46,16 +46,16 @@ _GUID GuidOf(const char* id) {
   return guid;
 }
 
-/// A column of the model's instance of an identifier.
+/// Creates a column for the instance with an identifier.
 ComPtr<IGeoColumn> CreateColumn(const ComPtr<IIFCServer>& server, const char* id = kColumnId) {
   auto column = CreateElement<CoGeoColumn>(server);
-  Behind<CoGeoColumn>(column).guid = GuidOf(id);
+  ObjectOf<CoGeoColumn>(column).guid = GuidOf(id);
   return column;
 }
 
 SHORT StoreyOf(IGeoObject& element) { return Get(element, &IGeoObject::get_StoreyNumber); }
 
-TEST(GeoObjectOperations, StandInAnOrderOfTheirOwn) {
+TEST(GeoObjectOperations, HaveAnOrderOfTheirOwn) {
   using O = CoGeoObject;
   ExpectRising({
       SlotOf(&O::Reserved1),        SlotOf(&O::Reserved2),  SlotOf(&O::Reserved3),
@@ -68,7 +68,7 @@ TEST(GeoObjectOperations, StandInAnOrderOfTheirOwn) {
       SlotOf(&O::get_StoreyNumber), SlotOf(&O::Reserved23), SlotOf(&O::Reserved24),
       SlotOf(&O::Reserved25),       SlotOf(&O::Reserved26),
   });
-  // The two forms of the destructor stand ahead.
+  // The two slots of the destructor come first.
   EXPECT_EQ(SlotOf(&O::Reserved1), static_cast<std::ptrdiff_t>(2 * sizeof(void*)));
 }
 
@@ -77,16 +77,16 @@ class EachElement : public HostTest {};
 
 TYPED_TEST_SUITE(EachElement, ElementClasses);
 
-TYPED_TEST(EachElement, HasOneInterfacePointerForItselfAndAsAnObject) {
+TYPED_TEST(EachElement, HasTheSamePointerAsAnObject) {
   const auto element = CreateOwn<TypeParam>();
   EXPECT_EQ(static_cast<void*>(element.template As<IGeoObject>().Get()),
             static_cast<void*>(element.Get()));
 }
 
-TYPED_TEST(EachElement, BeginsWithoutNameIdentifierAndSection) {
+TYPED_TEST(EachElement, HasNoNameIdentifierAndSectionAtFirst) {
   const auto element = CreateOwn<TypeParam>();
   EXPECT_EQ(GetText(*element, &IGeoObject::get_Name), L"");
-  const auto& object = Behind<TypeParam>(element);
+  const auto& object = ObjectOf<TypeParam>(element);
   EXPECT_EQ(object.sectionIndex, 0xFFFFFFFFFFFFFFFFu);
   EXPECT_TRUE(IsNullGuid(object.guid));
   EXPECT_EQ(object.server.Get(), nullptr);
@@ -96,7 +96,7 @@ TYPED_TEST(EachElement, KeepsAName) {
   const auto element = CreateOwn<TypeParam>();
   EXPECT_EQ(element->put_Name(Bstr(L"St\u00fctze \u4e00").Get()), S_OK);
   EXPECT_EQ(GetText(*element, &IGeoObject::get_Name), L"St\u00fctze ?");
-  EXPECT_EQ(Behind<TypeParam>(element).name, "St\xfctze ?");
+  EXPECT_EQ(ObjectOf<TypeParam>(element).name, "St\xfctze ?");
   EXPECT_EQ(element->put_Name(nullptr), S_OK);
   EXPECT_EQ(GetText(*element, &IGeoObject::get_Name), L"");
   EXPECT_EQ(element->get_Name(nullptr), E_POINTER);
@@ -111,18 +111,18 @@ TYPED_TEST(EachElement, KeepsAnIdentifier) {
   Bstr text;
   EXPECT_EQ(element->get_GUID(text.Put()), S_OK);
   EXPECT_EQ(text.Text(), kBraced);
-  EXPECT_EQ(Behind<TypeParam>(element).guid.Data1, 0x01234567u);
+  EXPECT_EQ(ObjectOf<TypeParam>(element).guid.Data1, 0x01234567u);
   EXPECT_EQ(element->get_GUID(nullptr), E_POINTER);
 }
 
-TYPED_TEST(EachElement, RefusesWhatIsNoIdentifierAndThenHasNone) {
+TYPED_TEST(EachElement, RefusesABadIdentifierAndThenHasNone) {
   const auto element = CreateOwn<TypeParam>();
   for (const wchar_t* text :
        {L"", L"{}", L"3VvSUbOOfKXvqnv$9xajtg", L"{01234567-89AB-CDEF-0123-456789ABCDE}",
         L"{01234567-89AB-CDEF-0123-456789ABCDEG}"}) {
     element->put_GUID(Bstr(kBraced).Get());
     EXPECT_EQ(element->put_GUID(Bstr(text).Get()), CO_E_CLASSSTRING);
-    EXPECT_TRUE(IsNullGuid(Behind<TypeParam>(element).guid));
+    EXPECT_TRUE(IsNullGuid(ObjectOf<TypeParam>(element).guid));
   }
   EXPECT_EQ(element->put_GUID(nullptr), CO_E_CLASSSTRING);
 }
@@ -133,7 +133,7 @@ TYPED_TEST(EachElement, HasTheObjectCodeFour) {
   EXPECT_EQ(element->get_ObjectCode(nullptr), E_POINTER);
 }
 
-TYPED_TEST(EachElement, ThatAHostMadeHasNoServerToAsk) {
+TYPED_TEST(EachElement, HasNoServerIfAHostCreatedIt) {
   const auto element = CreateOwn<TypeParam>();
   auto name = reinterpret_cast<BSTR>(this);
   EXPECT_EQ(element->get_SectionName(&name), E_POINTER);
@@ -145,10 +145,10 @@ TYPED_TEST(EachElement, ThatAHostMadeHasNoServerToAsk) {
   EXPECT_EQ(element->get_StoreyNumber(nullptr), E_POINTER);
 }
 
-TYPED_TEST(EachElement, ThatOutlivesItsServerHasNoneToAskAnyMore) {
+TYPED_TEST(EachElement, HasNoServerAfterTheEndOfTheServer) {
   auto server = LoadModel("IFC2X3", kBuilding + Contains(9, "(#1)", "#7"));
   const auto element = CreateElement<TypeParam>(server);
-  Behind<TypeParam>(element).guid = GuidOf(kColumnId);
+  ObjectOf<TypeParam>(element).guid = GuidOf(kColumnId);
   EXPECT_EQ(StoreyOf(*element), 0);
   EXPECT_EQ(GetText(*element, &IGeoObject::get_SectionName), L"");
   server.Reset();
@@ -171,7 +171,7 @@ TYPED_TEST(EachElement, ReservesTheOtherOperationsOfAnObject) {
 
 TYPED_TEST(EachElement, ReservesTheOtherOperationsOfItsBase) {
   const auto element = CreateOwn<TypeParam>();
-  CoGeoObject& object = Behind<TypeParam>(element);
+  CoGeoObject& object = ObjectOf<TypeParam>(element);
   EXPECT_EQ(object.Reserved1(nullptr), E_NOTIMPL);
   EXPECT_EQ(object.Reserved2(0), E_NOTIMPL);
   for (const auto operation :
@@ -188,9 +188,9 @@ TYPED_TEST(EachElement, ReservesTheOtherOperationsOfItsBase) {
   EXPECT_EQ(object.Reserved23(0), E_NOTIMPL);
 }
 
-TYPED_TEST(EachElement, TellsTheSameThroughItsBase) {
+TYPED_TEST(EachElement, ReturnsTheSameByItsBase) {
   const auto element = CreateOwn<TypeParam>();
-  CoGeoObject& object = Behind<TypeParam>(element);
+  CoGeoObject& object = ObjectOf<TypeParam>(element);
   EXPECT_EQ(object.put_Name(Bstr(L"A").Get()), S_OK);
   EXPECT_EQ(GetText(*element, &IGeoObject::get_Name), L"A");
   EXPECT_EQ(GetText(object, &CoGeoObject::get_Name), L"A");
@@ -201,22 +201,22 @@ TYPED_TEST(EachElement, TellsTheSameThroughItsBase) {
 
 class SectionNameOfAnElement : public HostTest {};
 
-TEST_F(SectionNameOfAnElement, IsThatOfItsSection) {
+TEST_F(SectionNameOfAnElement, IsTheNameOfItsSection) {
   const auto server = LoadModel("IFC2X3", "");
   const auto structure = GetObject(*server, &IIFCServer::get_Structure);
   const auto column = CreateColumn(server);
-  auto& sections = Behind<CoGeoStructure>(structure);
-  ASSERT_EQ(sections.EnsureSectionC(Behind<CoGeoColumn>(column), 0.1), S_OK);
+  auto& sections = ObjectOf<CoGeoStructure>(structure);
+  ASSERT_EQ(sections.EnsureSectionC(ObjectOf<CoGeoColumn>(column), 0.1), S_OK);
   EXPECT_EQ(GetText(*column, &IGeoObject::get_SectionName), L"IFC_C_10");
-  ASSERT_EQ(sections.EnsureSectionR(Behind<CoGeoColumn>(column), 0.3, 0.5), S_OK);
+  ASSERT_EQ(sections.EnsureSectionR(ObjectOf<CoGeoColumn>(column), 0.3, 0.5), S_OK);
   EXPECT_EQ(GetText(*column, &IGeoObject::get_SectionName), L"IFC_R_30x50");
 }
 
-TEST_F(SectionNameOfAnElement, FollowsTheNameThatAHostGivesTheSection) {
+TEST_F(SectionNameOfAnElement, FollowsANewNameOfTheSection) {
   const auto server = LoadModel("IFC2X3", "");
   const auto structure = GetObject(*server, &IIFCServer::get_Structure);
   const auto column = CreateColumn(server);
-  Behind<CoGeoStructure>(structure).EnsureSectionC(Behind<CoGeoColumn>(column), 0.1);
+  ObjectOf<CoGeoStructure>(structure).EnsureSectionC(ObjectOf<CoGeoColumn>(column), 0.1);
   ComPtr<IGeoSection> section;
   GetObject(*structure, &IGeoStructure::get_Sections)->ItemByIndex(1, section.Put());
   section->put_Name(Bstr(L"round").Get());
@@ -228,18 +228,18 @@ TEST_F(SectionNameOfAnElement, IsEmptyWithoutASection) {
   EXPECT_EQ(GetText(*CreateColumn(server), &IGeoObject::get_SectionName), L"");
 }
 
-TEST_F(SectionNameOfAnElement, IsEmptyForASectionThatIsNotThere) {
+TEST_F(SectionNameOfAnElement, IsEmptyForAMissingSection) {
   const auto server = LoadModel("IFC2X3", "");
   const auto structure = GetObject(*server, &IIFCServer::get_Structure);
   const auto column = CreateColumn(server);
-  Behind<CoGeoStructure>(structure).EnsureSectionC(Behind<CoGeoColumn>(column), 0.1);
+  ObjectOf<CoGeoStructure>(structure).EnsureSectionC(ObjectOf<CoGeoColumn>(column), 0.1);
   for (const std::uint64_t index : {std::uint64_t{1}, std::uint64_t{1} << 32, ~std::uint64_t{0}}) {
-    Behind<CoGeoColumn>(column).sectionIndex = index;
+    ObjectOf<CoGeoColumn>(column).sectionIndex = index;
     EXPECT_EQ(GetText(*column, &IGeoObject::get_SectionName), L"");
   }
 }
 
-TEST_F(SectionNameOfAnElement, HandsOnThatThereAreNoSections) {
+TEST_F(SectionNameOfAnElement, ReturnsTheFailureIfThereAreNoSections) {
   const auto server = LoadModel("IFC2X3", "");
   const auto column = CreateColumn(server);
   Bstr name;
@@ -254,7 +254,7 @@ TEST_F(SectionNameOfAnElement, HandsOnThatThereAreNoSections) {
   EXPECT_EQ(column->get_SectionName(name.Put()), S_OK);
 }
 
-/// The storeys of all three families are told alike.
+/// The parameter is the schema: all releases must give the same results.
 class StoreyNumberOfAnElement : public HostTest, public testing::WithParamInterface<const char*> {
  protected:
   static ComPtr<IIFCServer> Load(const std::string& more) {
@@ -265,28 +265,28 @@ class StoreyNumberOfAnElement : public HostTest, public testing::WithParamInterf
 INSTANTIATE_TEST_SUITE_P(Releases, StoreyNumberOfAnElement,
                          testing::Values("IFC2X_FINAL", "IFC2X2_FINAL", "IFC2X3"));
 
-TEST_P(StoreyNumberOfAnElement, IsThatOfTheStoreyThatContainsIt) {
+TEST_P(StoreyNumberOfAnElement, IsTheNumberOfTheStoreyThatContainsIt) {
   const auto server = Load(Contains(9, "(#1)", "#7") + Contains(10, "(#2)", "#8"));
   EXPECT_EQ(StoreyOf(*CreateColumn(server)), 0);
   EXPECT_EQ(StoreyOf(*CreateColumn(server, kOtherColumnId)), 1);
 }
 
-TEST_P(StoreyNumberOfAnElement, IsNoneForWhatNothingContains) {
+TEST_P(StoreyNumberOfAnElement, IsNoneIfNothingContainsTheElement) {
   const auto server = Load("");
   EXPECT_EQ(StoreyOf(*CreateColumn(server)), 32767);
 }
 
-TEST_P(StoreyNumberOfAnElement, IsNoneForWhatABuildingContains) {
+TEST_P(StoreyNumberOfAnElement, IsNoneIfABuildingContainsTheElement) {
   const auto server = Load(Contains(9, "(#1)", "#3"));
   EXPECT_EQ(StoreyOf(*CreateColumn(server)), 32767);
 }
 
-TEST_P(StoreyNumberOfAnElement, IsNoneForWhatIsNoElement) {
+TEST_P(StoreyNumberOfAnElement, IsNoneForAnInstanceThatIsNotAnElement) {
   const auto server = Load(Contains(9, "(#1)", "#7"));
   EXPECT_EQ(StoreyOf(*CreateColumn(server, kStoreyId)), 32767);
 }
 
-TEST_P(StoreyNumberOfAnElement, IsThatOfTheFirstRelationThatNamesAStorey) {
+TEST_P(StoreyNumberOfAnElement, IsTakenFromTheFirstRelationWithAStorey) {
   const auto server =
       Load(Contains(9, "(#1)", "$") + Contains(10, "(#1)", "#99") + Contains(11, "(#1)", "#3") +
            Contains(12, "(#1)", "#8") + Contains(13, "(#1)", "#7"));
@@ -303,7 +303,7 @@ TEST_P(StoreyNumberOfAnElement, FollowsTheIdentifierThatAHostWrites) {
   EXPECT_EQ(StoreyOf(*column), 1);
 }
 
-TEST_P(StoreyNumberOfAnElement, CannotBeToldWithoutAnInstance) {
+TEST_P(StoreyNumberOfAnElement, FailsWithoutAnInstance) {
   const auto server = Load(Contains(9, "(#1)", "#7"));
   for (const char* id : {kUnknownId, "0000000000000000000000"}) {
     SHORT number = 7;
@@ -312,7 +312,7 @@ TEST_P(StoreyNumberOfAnElement, CannotBeToldWithoutAnInstance) {
   }
 }
 
-TEST_P(StoreyNumberOfAnElement, FillsTheStoreys) {
+TEST_P(StoreyNumberOfAnElement, ConvertsTheStoreys) {
   const auto server = Load(Contains(9, "(#1)", "#7"));
   const auto column = CreateColumn(server);
   SHORT number = 7;
@@ -321,17 +321,17 @@ TEST_P(StoreyNumberOfAnElement, FillsTheStoreys) {
     EXPECT_EQ(column->get_StoreyNumber(&number), DISP_E_OVERFLOW);
     EXPECT_EQ(number, 0);
   }
-  EXPECT_EQ(StoreyOf(*column), 0) << "of the storeys that were made";
+  EXPECT_EQ(StoreyOf(*column), 0) << "the storeys that were converted";
 }
 
-TEST_P(StoreyNumberOfAnElement, HandsOnThatThereIsNoStructure) {
+TEST_P(StoreyNumberOfAnElement, ReturnsTheFailureIfThereIsNoStructure) {
   const auto server = Load(Contains(9, "(#1)", "#7"));
   const FailingClass failing(CLSID_CoGeoStructure, 0, DISP_E_OVERFLOW);
   SHORT number = 7;
   EXPECT_EQ(CreateColumn(server)->get_StoreyNumber(&number), DISP_E_OVERFLOW);
 }
 
-TEST_P(StoreyNumberOfAnElement, IsToldOfTheModelOfTheMoment) {
+TEST_P(StoreyNumberOfAnElement, IsReadFromTheCurrentModel) {
   const auto server = Load(Contains(9, "(#1)", "#7"));
   const auto column = CreateColumn(server);
   EXPECT_EQ(StoreyOf(*column), 0);
@@ -344,7 +344,7 @@ TEST_P(StoreyNumberOfAnElement, IsToldOfTheModelOfTheMoment) {
   EXPECT_EQ(column->get_StoreyNumber(&number), E_POINTER);
 }
 
-TEST_F(StoreyNumberOfAnElement, CannotBeToldOfAnOlderRelease) {
+TEST_F(StoreyNumberOfAnElement, IsNotFoundInAnOlderRelease) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   const TemporaryFile file(ModelText("IFC20_LONGFORM", kBuilding));
   EXPECT_EQ(LoadFile(*server, file.Path()), STG_E_FILENOTFOUND);

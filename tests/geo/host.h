@@ -11,13 +11,13 @@
 
 namespace KelIFC {
 
-/// A test that stands in for a host; it must leave no object behind.
+/// A test that acts as a host. It must leave no object behind.
 class HostTest : public testing::Test {
  protected:
   void TearDown() override { EXPECT_EQ(LiveObjectCount(), 0); }
 };
 
-/// Makes an object by its class identifier, as a host does.
+/// Creates an object by the identifier of its class, as a host does.
 template <class Interface>
 ComPtr<Interface> Create(const CLSID& clsid) {
   ComPtr<Interface> object;
@@ -27,13 +27,13 @@ ComPtr<Interface> Create(const CLSID& clsid) {
   return object;
 }
 
-/// Creates an object of a class of the library, for tests that look inside.
+/// Creates an object of a class of the library, for tests that read its fields.
 template <class Class>
 ComPtr<typename Class::Interfaces::First> CreateOwn() {
   return Create<typename Class::Interfaces::First>(Class::kClsid);
 }
 
-/// What an operation gives, which must succeed: Get(*storey, &IGeoStorey::get_Height).
+/// Returns the result of an operation, which must succeed: Get(*storey, &IGeoStorey::get_Height).
 template <class Interface, class Object, class Value>
 Value Get(Object& object, HRESULT (Interface::*operation)(Value*)) {
   Value value = {};
@@ -55,7 +55,7 @@ std::wstring GetText(Object& object, HRESULT (Interface::*operation)(BSTR*)) {
   return std::wstring(text.Text());
 }
 
-/// The number of items of a collection.
+/// Returns the number of items of a collection.
 template <class Collection>
 LONG CountOf(Collection& collection) {
   LONG count = -1;

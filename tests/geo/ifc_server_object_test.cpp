@@ -19,7 +19,7 @@ class ServerObject : public HostTest {
 
 std::wstring Wide(const std::string& path) { return WidePath(path); }
 
-/// The load fails with this message about its file.
+/// Expects that a load fails with this message about its file.
 void ExpectFailure(const std::string& path, const std::wstring& message) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   EXPECT_EQ(LoadFile(*server, path), STG_E_FILENOTFOUND);
@@ -28,17 +28,17 @@ void ExpectFailure(const std::string& path, const std::wstring& message) {
   EXPECT_EQ(GetText(*error, &IErrorInfo::GetDescription), message);
 }
 
-TEST_F(ServerObject, TellsThatAFileIsNotThere) {
+TEST_F(ServerObject, ReportsAMissingFile) {
   ExpectFailure("/no/such/file.ifc", L"/no/such/file.ifc was not found or cannot be opened.");
   ExpectFailure("", L" was not found or cannot be opened.");
 }
 
-TEST_F(ServerObject, TellsThatAFolderCannotBeOpened) {
+TEST_F(ServerObject, ReportsAFolder) {
   const std::string folder = testing::TempDir();
   ExpectFailure(folder, Wide(folder) + L" was not found or cannot be opened.");
 }
 
-TEST_F(ServerObject, TellsThatAFileIsNoModel) {
+TEST_F(ServerObject, ReportsAFileThatIsNotAModel) {
   const std::string text = ModelText("IFC2X3", "");
   const auto schema = text.find("FILE_SCHEMA");
   for (const std::string& bad :
@@ -49,7 +49,7 @@ TEST_F(ServerObject, TellsThatAFileIsNoModel) {
   }
 }
 
-TEST_F(ServerObject, TellsThatAReleaseCannotBeConverted) {
+TEST_F(ServerObject, ReportsAReleaseThatCannotBeConverted) {
   for (const char* schema : {"IFC151", "IFC20_LONGFORM"}) {
     const TemporaryFile file(ModelText(schema, ""));
     ExpectFailure(file.Path(),
@@ -68,7 +68,7 @@ TEST_F(ServerObject, KeepsAModelThatItCannotConvert) {
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Storeys)), 0);
 }
 
-TEST_F(ServerObject, FillsTheErrorObjectWithItsNameAndNoHelp) {
+TEST_F(ServerObject, SetsTheErrorObjectWithItsNameAndNoHelp) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   EXPECT_EQ(server->Load(nullptr), STG_E_FILENOTFOUND);
   ComPtr<IErrorInfo> error;
@@ -83,11 +83,11 @@ TEST_F(ServerObject, FillsTheErrorObjectWithItsNameAndNoHelp) {
   EXPECT_EQ(Get(*error, &IErrorInfo::GetHelpContext), 0U);
 }
 
-TEST_F(ServerObject, PutsTheNameInItsPlaceAsItStands) {
+TEST_F(ServerObject, InsertsTheNameUnchanged) {
   ExpectFailure("/%1/%2", L"/%1/%2 was not found or cannot be opened.");
 }
 
-TEST_F(ServerObject, FillsNoErrorObjectWhereALoadSucceeds) {
+TEST_F(ServerObject, SetsNoErrorObjectIfALoadSucceeds) {
   const auto server = LoadModel("IFC2X3", kStorey);
   ComPtr<IErrorInfo> error;
   EXPECT_EQ(GetErrorInfo(0, error.Put()), S_FALSE);
@@ -101,30 +101,30 @@ TEST_F(ServerObject, LoadsTheThreeReleasesThatCanBeConverted) {
   }
 }
 
-TEST_F(ServerObject, OpensFilesOfAnyName) {
+TEST_F(ServerObject, OpensFilesWithAnyName) {
   for (const char* name : {"h\xC3\xBCtte \xE2\x82\xAC", "h\xFCtte"}) {
-    if (NarrowPath(WidePath(name)) != name) continue;  // not in the code page of the system
+    if (NarrowPath(WidePath(name)) != name) continue;  // the code page lacks a character
     const TemporaryFile file(ModelText("IFC2X3", kStorey), name);
     const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
     EXPECT_EQ(LoadFile(*server, file.Path()), S_OK);
   }
 }
 
-TEST_F(ServerObject, DoesNotTakeTheHeadOfANameForTheName) {
+TEST_F(ServerObject, DoesNotCutANameAtANullCharacter) {
   const TemporaryFile file(ModelText("IFC2X3", kStorey));
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   const std::wstring name = Wide(file.Path()) + L'\0' + L"more";
   EXPECT_EQ(server->Load(Bstr(name).Get()), STG_E_FILENOTFOUND);
 }
 
-TEST_F(ServerObject, HandsOutOneStructure) {
+TEST_F(ServerObject, ReturnsTheSameStructure) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   const auto first = GetObject(*server, &IIFCServer::get_Structure);
   EXPECT_EQ(GetObject(*server, &IIFCServer::get_Structure).Get(), first.Get());
   EXPECT_EQ(server->get_Structure(nullptr), E_POINTER);
 }
 
-TEST_F(ServerObject, HandsOnTheFailureToMakeAStructure) {
+TEST_F(ServerObject, ReturnsTheFailureToCreateAStructure) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   auto* out = reinterpret_cast<IGeoStructure*>(this);
   {
@@ -139,7 +139,7 @@ TEST_F(ServerObject, ReservesTheOtherOperation) {
   EXPECT_EQ(Create<IIFCServer>(CLSID_CoIFCServer)->Reserved2(nullptr), E_NOTIMPL);
 }
 
-TEST_F(ServerObject, TakesItsStructureAlongUnlessAHostHoldsIt) {
+TEST_F(ServerObject, ReleasesItsStructureAtItsEnd) {
   auto server = LoadModel("IFC2X3", kStorey);
   auto structure = GetObject(*server, &IIFCServer::get_Structure);
   auto storeys = GetObject(*structure, &IGeoStructure::get_Storeys);

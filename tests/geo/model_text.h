@@ -12,7 +12,7 @@
 
 namespace KelIFC {
 
-/// A file with a text, gone at the end of the test.
+/// A file with a text. The destructor removes it.
 class TemporaryFile {
  public:
   explicit TemporaryFile(const std::string& text, const std::string& name = "model") {
@@ -31,19 +31,19 @@ class TemporaryFile {
   std::string path;
 };
 
-/// A STEP file of a schema with these instances.
+/// Returns the text of a STEP file with a schema and instances.
 inline std::string ModelText(const std::string& schema, const std::string& data) {
   return "ISO-10303-21;\nHEADER;\nFILE_DESCRIPTION((''),'2;1');\n"
          "FILE_NAME('','',(''),(''),'','','');\nFILE_SCHEMA(('" +
          schema + "'));\nENDSEC;\nDATA;\n" + data + "ENDSEC;\nEND-ISO-10303-21;\n";
 }
 
-/// Loads a file, whatever comes of it.
+/// Loads a file and returns the status.
 inline HRESULT LoadFile(IIFCServer& server, const std::string& path) {
   return server.Load(Bstr(WidePath(path)).Get());
 }
 
-/// A server object with a model of a schema.
+/// Returns a server object that has loaded a model.
 inline ComPtr<IIFCServer> LoadModel(const std::string& schema, const std::string& data) {
   const TemporaryFile file(ModelText(schema, data));
   auto server = Create<IIFCServer>(CLSID_CoIFCServer);

@@ -8,7 +8,7 @@
 namespace KelIFC {
 namespace {
 
-/// One kind of openings, and the element that has them.
+/// A kind of openings, and the element that has them.
 struct HolesOfAPlate {
   using Owner = CoGeoPlate;
   using Collection = CoGeoHoles;
@@ -41,11 +41,11 @@ TYPED_TEST(EachOpening, HasNoItemsAtFirst) {
   EXPECT_EQ(CountOf(*GetObject(*owner, TypeParam::kGet)), 0);
 }
 
-TYPED_TEST(EachOpening, ShowsWhatWasAddedThroughTheSameOperation) {
+TYPED_TEST(EachOpening, ReturnsItemsThatWereAddedLater) {
   const auto owner = CreateOwn<typename TypeParam::Owner>();
   const auto collection = GetObject(*owner, TypeParam::kGet);
   const auto element = CreateOwn<typename TypeParam::Element>();
-  Behind<typename TypeParam::Collection>(collection).Append(element);
+  ObjectOf<typename TypeParam::Collection>(collection).Append(element);
   const auto again = GetObject(*owner, TypeParam::kGet);
   EXPECT_EQ(again.Get(), collection.Get());
   typename std::remove_const_t<decltype(element)> item;
@@ -57,13 +57,13 @@ TYPED_TEST(EachOpening, KnowsTheServerOfItsOwner) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   const auto owner = CreateElement<typename TypeParam::Owner>(server);
   const auto collection = GetObject(*owner, TypeParam::kGet);
-  EXPECT_EQ(Behind<typename TypeParam::Collection>(collection).Server().Get(),
-            &Behind<CoIFCServer>(server));
+  EXPECT_EQ(ObjectOf<typename TypeParam::Collection>(collection).Server().Get(),
+            &ObjectOf<CoIFCServer>(server));
   const auto alone = GetObject(*CreateOwn<typename TypeParam::Owner>(), TypeParam::kGet);
-  EXPECT_EQ(Behind<typename TypeParam::Collection>(alone).Server().Get(), nullptr);
+  EXPECT_EQ(ObjectOf<typename TypeParam::Collection>(alone).Server().Get(), nullptr);
 }
 
-TYPED_TEST(EachOpening, TriesAnewToMakeTheCollection) {
+TYPED_TEST(EachOpening, TriesAgainToCreateTheCollection) {
   const auto owner = CreateOwn<typename TypeParam::Owner>();
   EXPECT_EQ(((*owner).*TypeParam::kGet)(nullptr), E_POINTER);
   {
@@ -75,7 +75,7 @@ TYPED_TEST(EachOpening, TriesAnewToMakeTheCollection) {
   EXPECT_EQ(CountOf(*GetObject(*owner, TypeParam::kGet)), 0);
 }
 
-/// A window or a door has the interface of a point, and none of its operations.
+/// A window and a door have the interface of a point, but all its operations are reserved.
 template <class Class>
 class FilledOpening : public HostTest {};
 
@@ -125,7 +125,7 @@ TEST_F(Opening, ReservesTheOtherOperations) {
   EXPECT_FALSE(hole.As<IGeoPoint>());
 }
 
-TEST_F(Opening, OfAPlateReservesTheOtherOperations) {
+TEST_F(Opening, InAPlateReservesTheOtherOperations) {
   const auto plate = CreateOwn<CoGeoPlate>();
   EXPECT_EQ(plate->Reserved19(nullptr), E_NOTIMPL);
   EXPECT_EQ(plate->Reserved20(0), E_NOTIMPL);

@@ -8,10 +8,10 @@
 
 #include "tests/schema/slot_order.h"
 
-/// The operations of IUnknown and IDispatch, which every interface begins with.
+/// The number of operations of IUnknown and IDispatch, with which every interface begins.
 inline constexpr std::size_t kDispatchOperations = 7;
 
-/// The operations stand one behind the other, the first behind those of IDispatch.
+/// Expects the operations in adjacent slots, starting after those of IDispatch.
 inline void ExpectOrder(const std::vector<std::ptrdiff_t>& slots) {
   for (std::size_t i = 0; i < slots.size(); ++i) {
     EXPECT_EQ(slots[i], static_cast<std::ptrdiff_t>((kDispatchOperations + i) * sizeof(void*)))

@@ -7,7 +7,7 @@
 namespace KelIFC {
 namespace {
 
-/// What has a place: a point, and an element that is told by one.
+/// A class with a location: a point, or an element with one point.
 template <class Class>
 class Located : public HostTest {
  protected:
@@ -17,7 +17,7 @@ class Located : public HostTest {
 using LocatedClasses = testing::Types<CoGeoPoint, CoGeoFoot>;
 TYPED_TEST_SUITE(Located, LocatedClasses);
 
-TYPED_TEST(Located, BeginsAtTheOrigin) {
+TYPED_TEST(Located, IsAtTheOriginAtFirst) {
   const auto point = this->MakePoint();
   double x = 7;
   double y = 7;
@@ -38,7 +38,7 @@ TYPED_TEST(Located, KeepsEachCoordinate) {
   EXPECT_EQ(Get(*point, &IGeoPoint::get_Z), 3.0);
 }
 
-TYPED_TEST(Located, TakesAndGivesAllCoordinatesAtOnce) {
+TYPED_TEST(Located, SetsAndReturnsAllCoordinates) {
   const auto point = this->MakePoint();
   EXPECT_EQ(point->SetXYZ(1, 2, 3), S_OK);
   double x = 0;
@@ -50,7 +50,7 @@ TYPED_TEST(Located, TakesAndGivesAllCoordinatesAtOnce) {
   EXPECT_EQ(z, 3.0);
 }
 
-TYPED_TEST(Located, NeedsAPlaceForEachCoordinate) {
+TYPED_TEST(Located, RefusesNullOutputs) {
   const auto point = this->MakePoint();
   double place = 7;
   EXPECT_EQ(point->get_X(nullptr), E_POINTER);
@@ -66,7 +66,7 @@ class Foot : public HostTest {};
 
 TEST_F(Foot, IsAtItsLocation) {
   const auto foot = CreateOwn<CoGeoFoot>();
-  Behind<CoGeoFoot>(foot).location = Point3(1, 2, 3);
+  ObjectOf<CoGeoFoot>(foot).location = Point3(1, 2, 3);
   EXPECT_EQ(Get(*foot.As<IGeoPoint>(), &IGeoPoint::get_Y), 2.0);
 }
 

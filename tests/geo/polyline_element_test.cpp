@@ -17,9 +17,9 @@ class EachPolyline : public HostTest {
     HostTest::TearDown();
   }
 
-  /// Gives the element the points (1,0,0), (2,0,0) ...
+  /// Adds the points (1,0,0), (2,0,0) ... to the element.
   void AddPoints(int count) {
-    Mvector<Point3>& points = Behind<Class>(element).points;
+    Mvector<Point3>& points = ObjectOf<Class>(element).points;
     for (int i = 1; i <= count; ++i) points.push_back(Point3(i, 0, 0));
   }
 
@@ -47,7 +47,7 @@ TYPED_TEST(EachPolyline, ShowsItsPointsInTheirOrder) {
   }
 }
 
-TYPED_TEST(EachPolyline, MakesItsPointsOnce) {
+TYPED_TEST(EachPolyline, CreatesItsPointsOnce) {
   this->AddPoints(1);
   const auto points = this->Points();
   this->AddPoints(1);
@@ -55,14 +55,14 @@ TYPED_TEST(EachPolyline, MakesItsPointsOnce) {
   EXPECT_EQ(CountOf(*points), 1);
 }
 
-TYPED_TEST(EachPolyline, KeepsWhatAHostChangesInACopyOfItsPoints) {
+TYPED_TEST(EachPolyline, KeepsChangesOfAHostInACopyOfItsPoints) {
   this->AddPoints(1);
   this->PointAt(1)->put_X(7);
   EXPECT_EQ(Get(*this->PointAt(1), &IGeoPoint::get_X), 7.0);
-  EXPECT_EQ(Behind<TypeParam>(this->element).points[0].x, 1.0);
+  EXPECT_EQ(ObjectOf<TypeParam>(this->element).points[0].x, 1.0);
 }
 
-TYPED_TEST(EachPolyline, NeedsAPlaceForItsPoints) {
+TYPED_TEST(EachPolyline, RefusesANullOutput) {
   EXPECT_EQ(this->polyline->get_Points(nullptr), E_POINTER);
 }
 
@@ -88,7 +88,7 @@ TYPED_TEST(EachPolyline, KeepsTheCollectionWhosePointsHaveNoClassObject) {
   EXPECT_EQ(CountOf(*this->Points()), 0);
 }
 
-TYPED_TEST(EachPolyline, TriesAnewToMakeTheCollection) {
+TYPED_TEST(EachPolyline, TriesAgainToCreateTheCollection) {
   this->AddPoints(3);
   {
     const FailingClass failing(CLSID_CoGeoPoints, 0, DISP_E_OVERFLOW);
@@ -98,7 +98,7 @@ TYPED_TEST(EachPolyline, TriesAnewToMakeTheCollection) {
   EXPECT_EQ(CountOf(*this->Points()), 3);
 }
 
-TYPED_TEST(EachPolyline, LeavesPointsUsableThatOutliveIt) {
+TYPED_TEST(EachPolyline, LeavesPointsUsableAfterItsEnd) {
   this->AddPoints(2);
   auto points = this->Points();
   const auto point = this->PointAt(2);
@@ -115,7 +115,7 @@ TYPED_TEST(EachPolyline, ReservesTheOtherOperation) {
 
 class Closed : public HostTest {};
 
-/// What an element answers when it is asked whether it is closed.
+/// Returns what get_Closed of an element stores.
 template <class Class>
 HRESULT AskClosed(VARIANT_BOOL* out) {
   return CreateOwn<Class>().template As<IGeoPolyline>()->get_Closed(out);
@@ -129,9 +129,9 @@ VARIANT_BOOL IsClosed() {
   return closed;
 }
 
-TEST_F(Closed, IsTrueOfAWall) { EXPECT_EQ(IsClosed<CoGeoWall>(), -1); }
+TEST_F(Closed, IsTrueForAWall) { EXPECT_EQ(IsClosed<CoGeoWall>(), -1); }
 
-TEST_F(Closed, IsFalseOfOpenings) {
+TEST_F(Closed, IsFalseForOpenings) {
   EXPECT_EQ(IsClosed<CoGeoWindow>(), 0);
   EXPECT_EQ(IsClosed<CoGeoDoor>(), 0);
   EXPECT_EQ(IsClosed<CoGeoHole>(), 0);

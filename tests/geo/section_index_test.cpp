@@ -16,7 +16,7 @@ using Found = std::optional<std::size_t>;
 
 SectionSizes Circle(double diameter) { return SectionSizes(SECTION_C, diameter); }
 
-/// Sections in a row, found by a walk over all of them.
+/// Finds sections by comparing with all of them.
 class PlainIndex {
  public:
   void Add(const SectionSizes& sizes) { all.push_back(sizes); }
@@ -67,7 +67,7 @@ TEST(SectionIndex, FindsTheLowestNumberAmongSeveral) {
   EXPECT_EQ(index.Find(Circle(0.2996)), Found(1));
 }
 
-TEST(SectionIndex, TellsKindsApart) {
+TEST(SectionIndex, DistinguishesKinds) {
   SectionIndex index;
   index.Add(Circle(0.3), 0);
   EXPECT_EQ(index.Find(SectionSizes(SECTION_THICK, 0.3)), std::nullopt);
@@ -83,7 +83,7 @@ TEST(SectionIndex, ComparesAllSizes) {
   EXPECT_EQ(index.Find(SectionSizes(SECTION_T, 0.2, 0.5, 0.6, 0.11)), std::nullopt);
 }
 
-TEST(SectionIndex, FindsNothingForWhatIsNotFinite) {
+TEST(SectionIndex, FindsNothingForSizesThatAreNotFinite) {
   constexpr double kInfinite = std::numeric_limits<double>::infinity();
   constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
   for (const double size : {kInfinite, -kInfinite, kNan}) {
@@ -94,7 +94,7 @@ TEST(SectionIndex, FindsNothingForWhatIsNotFinite) {
   }
 }
 
-TEST(SectionIndex, TellsSizesBeyondAllMeasureApart) {
+TEST(SectionIndex, DistinguishesHugeSizes) {
   for (const double size : {1e12, 0x1p43, 0x1p44, 1e20, 1e300, 1.7e308}) {
     SectionIndex index;
     index.Add(Circle(size), 0);
@@ -104,8 +104,8 @@ TEST(SectionIndex, TellsSizesBeyondAllMeasureApart) {
   }
 }
 
-TEST(SectionIndex, HoldsManyHugeSizesInLittleTime) {
-  // All their quotients are infinite; in one cell the search would be quadratic.
+TEST(SectionIndex, HandlesManyHugeSizesInLinearTime) {
+  // The quotients of all sizes are infinite. In one cell the search would take quadratic time.
   constexpr std::size_t kCount = 100'000;
   const auto at = [](std::size_t i) {
     return Circle(1e307 * (1.0 + 1e-6 * static_cast<double>(i)));
@@ -115,16 +115,16 @@ TEST(SectionIndex, HoldsManyHugeSizesInLittleTime) {
   for (std::size_t i = 0; i < kCount; ++i) ASSERT_EQ(index.Find(at(i)), Found(i));
 }
 
-TEST(SectionIndex, FindsNothingAfterItWasCleared) {
+TEST(SectionIndex, FindsNothingAfterClear) {
   SectionIndex index;
   index.Add(Circle(0.3), 0);
   index.Clear();
   EXPECT_EQ(index.Find(Circle(0.3)), std::nullopt);
 }
 
-TEST(SectionIndex, AgreesWithAWalkOverAllSections) {
+TEST(SectionIndex, AgreesWithALinearSearch) {
   std::mt19937 random(7);
-  // From sizes so close that neighbours matter, on both sides of zero, to large ones.
+  // The sizes range from close ones around zero, where adjacent cells matter, to large ones.
   for (const double spread : {0.004, 0.05, 1e6}) {
     std::uniform_real_distribution<double> size(-spread, spread);
     std::uniform_int_distribution<int> kind(0, 3);

@@ -9,7 +9,7 @@ namespace {
 
 class Section : public HostTest {};
 
-/// The operation pair reads and writes one field, which is 0 in a new object.
+/// Checks that two operations read and write one field, which is 0 in a new object.
 template <class Interface>
 void ExpectField(Interface& section, HRESULT (Interface::*get)(double*),
                  HRESULT (Interface::*put)(double), double value) {
@@ -28,7 +28,7 @@ TEST(SectionKind, HasTheNumbersThatHostsRead) {
   EXPECT_EQ(static_cast<int>(SECTION_THICK), 9);
 }
 
-TEST_F(Section, ThatIsARectangleHasWidthAndHeight) {
+TEST_F(Section, HasWidthAndHeightAsARectangle) {
   const auto section = CreateOwn<CoGeoSectionR>();
   ExpectField(*section, &IGeoSectionR::get_Width, &IGeoSectionR::put_Width, 0.3);
   ExpectField(*section, &IGeoSectionR::get_Height, &IGeoSectionR::put_Height, 0.5);
@@ -37,12 +37,12 @@ TEST_F(Section, ThatIsARectangleHasWidthAndHeight) {
   EXPECT_EQ(object.b, 0.5);
 }
 
-TEST_F(Section, ThatIsACircleHasADiameter) {
+TEST_F(Section, HasADiameterAsACircle) {
   const auto section = CreateOwn<CoGeoSectionC>();
   ExpectField(*section, &IGeoSectionC::get_Diameter, &IGeoSectionC::put_Diameter, 0.3);
 }
 
-TEST_F(Section, ThatIsATHasFourSizes) {
+TEST_F(Section, HasFourSizesAsAT) {
   const auto section = CreateOwn<CoGeoSectionT>();
   using T = IGeoSectionT;
   ExpectField(*section, &T::get_Height, &T::put_Height, 0.5);
@@ -56,19 +56,19 @@ TEST_F(Section, ThatIsATHasFourSizes) {
   EXPECT_EQ(object.d, 0.1);
 }
 
-TEST_F(Section, ThatIsAThicknessHasIt) {
+TEST_F(Section, HasAThickness) {
   const auto section = CreateOwn<CoGeoSectionThick>();
   ExpectField(*section, &IGeoSectionThick::get_Thickness, &IGeoSectionThick::put_Thickness, 0.2);
 }
 
-TEST_F(Section, ThatIsAPolygonReservesItsOperations) {
+TEST_F(Section, ReservesItsOperationsAsAPolygon) {
   const auto section = CreateOwn<CoGeoSectionProfile>();
   EXPECT_EQ(section->Reserved1(nullptr), E_NOTIMPL);
   EXPECT_EQ(section->Reserved2(nullptr), E_NOTIMPL);
   EXPECT_EQ(section->Reserved3(nullptr), E_NOTIMPL);
 }
 
-TEST_F(Section, OfAnyKindHasANameAndAKind) {
+TEST_F(Section, HasANameAndAKind) {
   for (const CLSID& clsid : {CLSID_CoGeoSectionR, CLSID_CoGeoSectionC, CLSID_CoGeoSectionT,
                              CLSID_CoGeoSectionProfile, CLSID_CoGeoSectionThick}) {
     const auto section = Create<IGeoSection>(clsid);

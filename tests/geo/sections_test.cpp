@@ -10,7 +10,7 @@
 namespace KelIFC {
 namespace {
 
-/// Circles of these names.
+/// Creates circles with these names.
 ComPtr<IGeoSections> MakeSections(std::initializer_list<const wchar_t*> names) {
   auto sections = CreateOwn<CoGeoSections>();
   for (const wchar_t* name : names) {
@@ -35,7 +35,7 @@ VARIANT Number(LONG number) {
   return variant;
 }
 
-/// The position of the section that an index finds, 0 if it finds none.
+/// Returns the position of the section that an index finds, or 0.
 int Find(IGeoSections& sections, const VARIANT& index) {
   ComPtr<IGeoSection> found;
   if (FAILED(sections.Item(index, found.Put()))) return 0;
@@ -70,12 +70,12 @@ TEST_F(Sections, AreFoundByTheirNumber) {
   EXPECT_EQ(Find(*sections, Number(2)), 2);
 }
 
-TEST_F(Sections, TakeATextThatSpellsANumberForAName) {
+TEST_F(Sections, TreatATextThatSpellsANumberAsAName) {
   const auto sections = MakeSections({L"a", L"b"});
   EXPECT_EQ(Find(*sections, Name(Bstr(L"1"))), 0);
 }
 
-TEST_F(Sections, TurnOtherIndicesIntoNumbers) {
+TEST_F(Sections, ConvertOtherIndicesToNumbers) {
   const auto sections = MakeSections({L"a", L"b"});
   VARIANT index = {};
   index.vt = VT_R8;
@@ -87,7 +87,7 @@ TEST_F(Sections, TurnOtherIndicesIntoNumbers) {
   EXPECT_EQ(Find(*sections, index), 1);
 }
 
-TEST_F(Sections, RefuseIndicesThatAreNoNumber) {
+TEST_F(Sections, RefuseIndicesThatCannotBeConverted) {
   const auto sections = MakeSections({L"a"});
   VARIANT index = {};
   index.vt = VT_DISPATCH;
@@ -102,7 +102,7 @@ TEST_F(Sections, RefuseIndicesThatAreNoNumber) {
   EXPECT_EQ(sections->Item(index, &out), DISP_E_OVERFLOW);
 }
 
-TEST_F(Sections, AnswerForBadNumbersAsByIndex) {
+TEST_F(Sections, TreatBadNumbersAsItemByIndexDoes) {
   const auto sections = MakeSections({L"a"});
   auto* const before = reinterpret_cast<IGeoSection*>(this);
   IGeoSection* out = before;
@@ -116,7 +116,7 @@ TEST_F(Sections, AnswerForBadNumbersAsByIndex) {
   EXPECT_EQ(sections->ItemByIndex(1, nullptr), E_POINTER);
 }
 
-TEST_F(Sections, AreFoundByANewNameAndNoLongerByTheOld) {
+TEST_F(Sections, AreFoundByANewNameOnly) {
   const auto sections = MakeSections({L"old"});
   ComPtr<IGeoSection> section;
   ASSERT_EQ(sections->ItemByIndex(1, section.Put()), S_OK);
@@ -125,7 +125,7 @@ TEST_F(Sections, AreFoundByANewNameAndNoLongerByTheOld) {
   EXPECT_EQ(Find(*sections, Name(Bstr(L"old"))), 0);
 }
 
-TEST_F(Sections, WithoutANameAreFoundByTheEmptyText) {
+TEST_F(Sections, AreFoundByTheEmptyTextIfTheyHaveNoName) {
   const auto sections = MakeSections({L"a", L""});
   EXPECT_EQ(Find(*sections, Name(Bstr(L""))), 2);
   VARIANT null = {};
@@ -143,7 +143,7 @@ TEST_F(Sections, ReserveTheOtherOperations) {
   EXPECT_EQ(sections->Reserved8(nullptr), E_NOTIMPL);
 }
 
-/// A section that does not tell its name.
+/// A section that fails to return its name.
 class NamelessSection : public CoGeoSectionC {
  public:
   HRESULT get_Name(BSTR*) override { return E_OUTOFMEMORY; }
@@ -152,7 +152,7 @@ class NamelessSection : public CoGeoSectionC {
   ~NamelessSection() = default;
 };
 
-TEST_F(Sections, HandOnTheFailureOfASectionToTellItsName) {
+TEST_F(Sections, ReturnTheFailureOfASectionToReturnItsName) {
   const auto sections = MakeSections({L"first"});
   ComPtr<IGeoSection> nameless;
   MakeObject<NamelessSection>(IidOf<IGeoSection>(), reinterpret_cast<void**>(nameless.Put()));

@@ -9,7 +9,7 @@ namespace {
 
 class Storey : public HostTest {};
 
-TEST_F(Storey, ThatAHostMadeIsEmptyAndHasNoNumber) {
+TEST_F(Storey, IsEmptyAndHasNoNumberIfAHostCreatedIt) {
   const auto storey = Create<IGeoStorey>(CLSID_CoGeoStorey);
   EXPECT_EQ(Get(*storey, &IGeoStorey::get_Height), 0.0);
   EXPECT_EQ(Get(*storey, &IGeoStorey::get_Level), 0.0);
@@ -17,7 +17,7 @@ TEST_F(Storey, ThatAHostMadeIsEmptyAndHasNoNumber) {
   EXPECT_EQ(GetText(*storey, &IGeoStorey::get_Name), L"");
 }
 
-TEST_F(Storey, GivesWhatImportWrote) {
+TEST_F(Storey, ReturnsWhatTheConversionWrote) {
   const auto storey = CreateOwn<CoGeoStorey>();
   auto& object = static_cast<CoGeoStorey&>(*storey);
   object.level = 3.0;
@@ -30,7 +30,7 @@ TEST_F(Storey, GivesWhatImportWrote) {
   EXPECT_EQ(GetText(*storey, &IGeoStorey::get_Name), L"Erdgescho\u00DF");
 }
 
-TEST_F(Storey, TakesAnotherNameAndHeight) {
+TEST_F(Storey, CanGetAnotherNameAndHeight) {
   const auto storey = Create<IGeoStorey>(CLSID_CoGeoStorey);
   EXPECT_EQ(storey->put_Name(Bstr(L"1\u20AC\u00FC").Get()), S_OK);
   EXPECT_EQ(GetText(*storey, &IGeoStorey::get_Name), L"1?\u00FC");
@@ -40,7 +40,7 @@ TEST_F(Storey, TakesAnotherNameAndHeight) {
   EXPECT_EQ(Get(*storey, &IGeoStorey::get_Height), 4.5);
 }
 
-TEST_F(Storey, NeedsAPlaceForWhatItGives) {
+TEST_F(Storey, RefusesNullOutputs) {
   const auto storey = Create<IGeoStorey>(CLSID_CoGeoStorey);
   EXPECT_EQ(storey->get_Height(nullptr), E_POINTER);
   EXPECT_EQ(storey->get_Level(nullptr), E_POINTER);

@@ -24,7 +24,7 @@ ComPtr<IGeoStructure> StructureOf(const ComPtr<IIFCServer>& server) {
   return GetObject(*server, &IIFCServer::get_Structure);
 }
 
-/// One collection of a structure, seen without its type.
+/// A collection of a structure, without its type.
 struct Child {
   const char* name;
   bool isFilled;
@@ -54,7 +54,7 @@ constexpr Child kChildren[] = {
     {"objects", false, CLSID_CoGeoObjects, GetChild<IGeoObjects, &IGeoStructure::get_Objects>},
 };
 
-TEST_F(Structure, GivesEachCollectionAsOneObject) {
+TEST_F(Structure, ReturnsTheSameObjectForACollection) {
   const auto server = LoadModel("IFC2X3", kStorey);
   const auto structure = StructureOf(server);
   for (const Child& child : kChildren) {
@@ -67,13 +67,13 @@ TEST_F(Structure, GivesEachCollectionAsOneObject) {
   }
 }
 
-TEST_F(Structure, NeedsAPlaceForACollection) {
+TEST_F(Structure, RefusesNullOutputs) {
   const auto server = LoadModel("IFC2X3", kStorey);
   const auto structure = StructureOf(server);
   for (const Child& child : kChildren) EXPECT_EQ(child.get(*structure, nullptr), E_POINTER);
 }
 
-TEST_F(Structure, HandsOnTheFailureToMakeACollectionAndTriesAgain) {
+TEST_F(Structure, ReturnsTheFailureToCreateACollectionAndTriesAgain) {
   const auto server = LoadModel("IFC2X3", kStorey);
   const auto structure = StructureOf(server);
   for (const Child& child : kChildren) {
@@ -87,7 +87,7 @@ TEST_F(Structure, HandsOnTheFailureToMakeACollectionAndTriesAgain) {
   }
 }
 
-TEST_F(Structure, BeforeAnyLoadHasEmptyCollections) {
+TEST_F(Structure, HasEmptyCollectionsBeforeALoad) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   const auto structure = StructureOf(server);
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Storeys)), 0);
@@ -95,7 +95,7 @@ TEST_F(Structure, BeforeAnyLoadHasEmptyCollections) {
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Sections)), 0);
 }
 
-TEST_F(Structure, KeepsACollectionWhoseFillFailed) {
+TEST_F(Structure, KeepsACollectionWhoseConversionFailed) {
   const auto server = LoadModel("IFC2X3", kTwoStoreys);
   const auto structure = StructureOf(server);
   auto* out = reinterpret_cast<IGeoStoreys*>(this);
@@ -107,7 +107,7 @@ TEST_F(Structure, KeepsACollectionWhoseFillFailed) {
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Storeys)), 1);
 }
 
-TEST_F(Structure, HandsOnThatTheItemsHaveNoClassObject) {
+TEST_F(Structure, ReturnsTheFailureIfItemsHaveNoClassObject) {
   const auto server = LoadModel("IFC2X3", kTwoStoreys);
   const auto structure = StructureOf(server);
   {
@@ -118,7 +118,7 @@ TEST_F(Structure, HandsOnThatTheItemsHaveNoClassObject) {
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Storeys)), 0);
 }
 
-TEST_F(Structure, StaysAsItIsWhereAnotherModelIsLoaded) {
+TEST_F(Structure, IsUnchangedAfterAnotherLoad) {
   const auto server = LoadModel("IFC2X3", kStorey);
   const auto structure = StructureOf(server);
   const auto storeys = GetObject(*structure, &IGeoStructure::get_Storeys);
@@ -129,7 +129,7 @@ TEST_F(Structure, StaysAsItIsWhereAnotherModelIsLoaded) {
   EXPECT_EQ(CountOf(*storeys), 1);
 }
 
-TEST_F(Structure, FillsACollectionFromTheModelOfTheMoment) {
+TEST_F(Structure, ConvertsACollectionFromTheCurrentModel) {
   const auto server = LoadModel("IFC2X3", kStorey);
   const auto structure = StructureOf(server);
   const TemporaryFile other(ModelText("IFC2X2_FINAL", kTwoStoreys));
@@ -137,7 +137,7 @@ TEST_F(Structure, FillsACollectionFromTheModelOfTheMoment) {
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Storeys)), 2);
 }
 
-/// A round column and a beam that is a rectangle.
+/// Returns a round column and a rectangular beam.
 std::string MakeColumnAndBeam(double radius, double width) {
   ModelBuilder model;
   const auto placement = model.Local(model.Placement({0, 0, 0}));
@@ -147,7 +147,7 @@ std::string MakeColumnAndBeam(double radius, double width) {
   return model.Data();
 }
 
-/// The names of the sections so far, in their order.
+/// Returns the names of the sections in their order.
 std::wstring SectionsOf(IGeoStructure& structure) {
   const auto sections = GetObject(structure, &IGeoStructure::get_Sections);
   std::wstring names;
@@ -159,7 +159,7 @@ std::wstring SectionsOf(IGeoStructure& structure) {
   return names;
 }
 
-TEST_F(Structure, GainsSectionsWhileElementsAreConverted) {
+TEST_F(Structure, GetsSectionsWhenElementsAreConverted) {
   const auto server = LoadModel("IFC2X3", MakeColumnAndBeam(0.05, 0.3));
   const auto structure = StructureOf(server);
   const auto sections = GetObject(*structure, &IGeoStructure::get_Sections);
@@ -169,7 +169,7 @@ TEST_F(Structure, GainsSectionsWhileElementsAreConverted) {
   EXPECT_EQ(GetObject(*structure, &IGeoStructure::get_Sections).Get(), sections.Get());
 }
 
-TEST_F(Structure, OrdersSectionsByWhatWasAskedForFirst) {
+TEST_F(Structure, OrdersSectionsByTheOrderOfTheCalls) {
   for (const bool isBeamFirst : {false, true}) {
     const auto server = LoadModel("IFC2X3", MakeColumnAndBeam(0.05, 0.3));
     const auto structure = StructureOf(server);
@@ -181,7 +181,7 @@ TEST_F(Structure, OrdersSectionsByWhatWasAskedForFirst) {
   }
 }
 
-TEST_F(Structure, AddsTheSectionsOfAnotherModelToThoseThatItHas) {
+TEST_F(Structure, AddsTheSectionsOfAnotherModel) {
   const auto server = LoadModel("IFC2X3", MakeColumnAndBeam(0.05, 0.3));
   const auto structure = StructureOf(server);
   const auto columns = GetObject(*structure, &IGeoStructure::get_Columns);
@@ -197,7 +197,7 @@ TEST_F(Structure, AddsTheSectionsOfAnotherModelToThoseThatItHas) {
   EXPECT_EQ(GetText(*beam, &IGeoObject::get_SectionName), L"IFC_R_20x50");
 }
 
-TEST_F(Structure, ThatAHostMadeHasNothingToFillFrom) {
+TEST_F(Structure, CannotConvertIfAHostCreatedIt) {
   const auto structure = Create<IGeoStructure>(CLSID_CoGeoStructure);
   for (const Child& child : kChildren) {
     for (int call = 0; call < 2; ++call) {
@@ -208,7 +208,7 @@ TEST_F(Structure, ThatAHostMadeHasNothingToFillFrom) {
   }
 }
 
-TEST_F(Structure, ThatOutlivesItsServerKeepsWhatItHasAndFillsNothing) {
+TEST_F(Structure, KeepsItsCollectionsAfterTheEndOfItsServer) {
   auto server = LoadModel("IFC2X3", kStorey);
   const auto structure = StructureOf(server);
   const auto storeys = GetObject(*structure, &IGeoStructure::get_Storeys);
@@ -222,7 +222,7 @@ TEST_F(Structure, ThatOutlivesItsServerKeepsWhatItHasAndFillsNothing) {
   }
 }
 
-TEST_F(Structure, TellsTheVersion) {
+TEST_F(Structure, ReturnsTheVersion) {
   const auto version = Create<IGeoVersion>(CLSID_CoGeoStructure);
   EXPECT_EQ(GetText(*version, &IGeoVersion::get_Version), L"25.0.3857");
   EXPECT_EQ(version->get_Version(nullptr), E_POINTER);

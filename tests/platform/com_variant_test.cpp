@@ -55,7 +55,7 @@ LONG Long(const Value& value) {
 HRESULT Failure(const Value& value, VARTYPE type) {
   Value out(7);
   const HRESULT status = VariantChangeType(&out, &value, 0, type);
-  EXPECT_EQ(out.vt, VT_I4) << "the target is left as it was";
+  EXPECT_EQ(out.vt, VT_I4) << "the target is unchanged";
   EXPECT_EQ(out.lVal, 7);
   return status;
 }

@@ -1,4 +1,5 @@
 #include "tests/schema/model.h"
+#include "tests/schema/slot_order.h"
 
 // Departures of single classes, each as a record that is read and written again.
 
@@ -103,6 +104,17 @@ TYPED_TEST(Records, StairIsWrittenAsAStraightRun) {
             "IFCSTAIR(" + kElement + ",.STRAIGHT_RUN_STAIR.)");
 }
 
+TYPED_TEST(Records, StairKeepsTheShapeThatAHostSets) {
+  using Stair = typename TypeParam::IfcStair;
+  Stair stair;
+  ENUM shape;
+  shape.Parse(".SPIRAL_STAIR.");
+  stair.SetShapeType(shape);
+  EXPECT_EQ(stair.GetShapeType(), std::string("SPIRAL_STAIR"));
+  EXPECT_NE(Text(stair).find(",.STRAIGHT_RUN_STAIR.)"), std::string::npos);
+  EXPECT_EQ(SlotOf(&Stair::SetShapeType), -1) << "no slot of a derived class moves";
+}
+
 TYPED_TEST(Records, ProxyWithoutCompositionIsWrittenWithoutOne) {
   EXPECT_EQ(Rewritten<TypeParam>("IFCBUILDINGELEMENTPROXY(" + kElement + ",$)"),
             "IFCBUILDINGELEMENTPROXY(" + kElement + ",$)");
@@ -148,6 +160,27 @@ TYPED_TEST(NewestRecords, LiningGivesTheUsualValuesForWhatIsUnset) {
   EXPECT_EQ(static_cast<double>(lining->GetFirstMullionOffset()), 0.5);
   EXPECT_EQ(static_cast<double>(lining->GetSecondMullionOffset()), 0.75);
   EXPECT_EQ(model.TextOf(1), text);
+}
+
+/// The class reads the reference in its last position, `unset` behind other ones.
+template <class R, class Properties>
+void ExpectShapeAspectStyle(const std::string& entity, int unset) {
+  std::string text = entity + "(" + kRoot;
+  for (int i = 0; i < unset; ++i) text += ",$";
+  Model<R> model({{1, text + ",#2)"}, {2, "IFCSHAPEASPECT((#3),$,$,.T.,#4)"}});
+  const auto* properties = model.template Get<Properties>(1);
+  ASSERT_NE(properties, nullptr) << entity;
+  EXPECT_EQ(properties->GetShapeAspectStyle(), model.server.GetItem(std::size_t{2})) << entity;
+  EXPECT_EQ(Properties().GetShapeAspectStyle(), nullptr) << entity;
+  EXPECT_EQ(SlotOf(&Properties::GetShapeAspectStyle), -1) << entity;
+}
+
+TYPED_TEST(NewestRecords, LiningsAndPanelsGiveTheirStyle) {
+  using R = TypeParam;
+  ExpectShapeAspectStyle<R, typename R::IfcWindowLiningProperties>("IFCWINDOWLININGPROPERTIES", 8);
+  ExpectShapeAspectStyle<R, typename R::IfcWindowPanelProperties>("IFCWINDOWPANELPROPERTIES", 4);
+  ExpectShapeAspectStyle<R, typename R::IfcDoorLiningProperties>("IFCDOORLININGPROPERTIES", 10);
+  ExpectShapeAspectStyle<R, typename R::IfcDoorPanelProperties>("IFCDOORPANELPROPERTIES", 4);
 }
 
 TYPED_TEST(NewestRecords, DoorLiningHasNoUsualValues) {

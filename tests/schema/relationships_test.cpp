@@ -1,4 +1,5 @@
 #include "tests/schema/model.h"
+#include "tests/schema/slot_order.h"
 
 namespace KelIFC {
 namespace {
@@ -156,6 +157,56 @@ TYPED_TEST(Relationships, TakeTypedSetsFromAHost) {
   relation->SetRelatedObjects(objects);
   ASSERT_EQ(relation->GetRelatedObjects().GetSize(), 1u) << "the model does not hold the stranger";
   EXPECT_EQ(relation->GetRelatedObjects()[1], column);
+}
+
+TYPED_TEST(Relationships, OfTouchingElementsGiveTheGeometryOfTheConnection) {
+  using Touching = typename TypeParam::IfcRelConnectsElements;
+  Model<TypeParam> model({{1, "IFCRELCONNECTSELEMENTS(" + kRoot + ",#2,$,$)"},
+                          {2, "IFCDIRECTION((1.,0.))"},
+                          {3, "IFCRELCONNECTSPATHELEMENTS(" + kRoot + ",#99,$,$)"}});
+  auto* touching = model.template Get<Touching>(1);
+  auto* path = model.template Get<Touching>(3);
+  IfcUnknown* geometry = model.server.GetItem(std::size_t{2});
+  EXPECT_EQ(touching->GetConnectionGeometry(), geometry);
+  EXPECT_EQ(path->GetConnectionGeometry(), nullptr);
+  path->SetConnectionGeometry(geometry);
+  EXPECT_EQ(path->GetConnectionGeometry(), geometry);
+  touching->SetConnectionGeometry(nullptr);
+  EXPECT_EQ(touching->GetConnectionGeometry(), nullptr);
+  EXPECT_EQ(SlotOf(&Touching::GetConnectionGeometry), -1) << "no slot of a derived class moves";
+  EXPECT_EQ(SlotOf(&Touching::SetConnectionGeometry), -1);
+}
+
+TEST(OlderRelationships, OfTouchingElementsGiveTheGeometryOfTheConnection) {
+  const std::string record = "IFCRELCONNECTSELEMENTS('01234567890123456789',";
+  Model<Release151> oldest({{1, record + "#9,$,.T.,.F.,#2,$,$)"}, {2, "IFCDIRECTION((1.,0.))"}});
+  EXPECT_EQ(oldest.Get<KelIFC151::IfcRelConnectsElements>(1)->GetConnectionGeometry(),
+            oldest.server.GetItem(std::size_t{2}));
+  Model<Release20> older({{1, record + "$,$,.T.,.F.,#2,$,$)"}, {2, "IFCDIRECTION((1.,0.))"}});
+  auto* touching = older.Get<KelIFC20::IfcRelConnectsElements>(1);
+  EXPECT_EQ(touching->GetConnectionGeometry(), nullptr) << "a direction is no such geometry";
+  auto* line = new KelIFC20::IfcLineConnectionGeometry;
+  older.server.AddItem(line);
+  touching->SetConnectionGeometry(line);
+  EXPECT_EQ(touching->GetConnectionGeometry(), line);
+}
+
+TYPED_TEST(NewestRelationships, OfAnActivityGiveTheActivity) {
+  using Acting = typename TypeParam::IfcRelConnectsStructuralActivity;
+  using Action = typename TypeParam::IfcStructuralPointAction;
+  Model<TypeParam> model({{1, "IFCRELCONNECTSSTRUCTURALACTIVITY(" + kRoot + ",#2,#3)"},
+                          {2, kWall},
+                          {3, "IFCSTRUCTURALPOINTACTION(" + kProduct + ",$,$,$,$,$)"}});
+  auto* acting = model.template Get<Acting>(1);
+  auto* action = model.template Get<Action>(3);
+  EXPECT_EQ(acting->GetRelatedStructuralActivity(), action);
+  acting->SetRelatedStructuralActivity(nullptr);
+  EXPECT_EQ(acting->GetRelatedStructuralActivity(), nullptr);
+  EXPECT_EQ(model.TextOf(1), "IFCRELCONNECTSSTRUCTURALACTIVITY(" + kRoot + ",#2,$)");
+  acting->SetRelatedStructuralActivity(action);
+  EXPECT_EQ(model.TextOf(1), "IFCRELCONNECTSSTRUCTURALACTIVITY(" + kRoot + ",#2,#3)");
+  EXPECT_EQ(SlotOf(&Acting::GetRelatedStructuralActivity), -1);
+  EXPECT_EQ(SlotOf(&Acting::SetRelatedStructuralActivity), -1);
 }
 
 }  // namespace

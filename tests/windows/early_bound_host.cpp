@@ -1,6 +1,6 @@
-// A host that is compiled against the interfaces: makes an object of each class that the type
-// library tells of and asks it for each of its interfaces, then reads a model. It links nothing of
-// the library; the system finds it by its registry.
+// A host that is compiled with the interfaces. It creates an object of each class in the type
+// library, queries each of its interfaces, and reads a model. It is not linked with the library:
+// the system finds the library by the registry.
 
 #include <cstdio>
 #include <stdexcept>
@@ -26,7 +26,7 @@ void Require(bool holds, const char* what) {
   if (!holds) throw std::runtime_error(what);
 }
 
-/// The attributes of a type, given back at the end.
+/// The attributes of a type. The destructor releases them.
 class Attributes {
  public:
   explicit Attributes(ITypeInfo& info) : info(info) {
@@ -49,7 +49,7 @@ void* Query(IUnknown& object, const IID& iid) {
   return found;
 }
 
-/// Gives how many interfaces the class has.
+/// Returns the number of interfaces of the class.
 int TryClass(ITypeInfo& type) {
   const Attributes attributes(type);
   ComPtr<IUnknown> object;
@@ -86,7 +86,7 @@ void TryClasses() {
   std::printf("%d classes with %d interfaces\n", classes, interfaces);
 }
 
-/// Calls an operation as a script engine does that does not use its result.
+/// Calls an operation as a script engine does if it does not use the result.
 HRESULT CallMethod(IDispatch& object, DISPID id, LONG argument, UINT count, VARIANT* result) {
   VARIANT value = {};
   value.vt = VT_I4;
@@ -101,7 +101,7 @@ HRESULT CallMethod(IDispatch& object, DISPID id, LONG argument, UINT count, VARI
   return status == DISP_E_EXCEPTION ? exception.scode : status;
 }
 
-/// A property that is called as a method is read, and what it returns can be left out.
+/// Reads properties with the method flag alone, with and without a place for the value.
 void CallLate(IDispatch& collection) {
   Require(CallMethod(collection, DISPID_VALUE, 0, 1, nullptr) == E_INVALIDARG, "Item(0)");
   Require(CallMethod(collection, DISPID_VALUE, 1, 1, nullptr) == S_OK, "Item(1)");

@@ -1,4 +1,5 @@
-"""The library on Windows: its entries in the registry, a script host, a compiled host, the command.
+"""Tests the library on Windows: its entries in the registry, script hosts, a compiled host, and the
+command.
 
     hosts_test.py WINE KelIFC.dll kelifc.exe early_bound_host.exe EXAMPLES PREFIX
 """
@@ -19,7 +20,7 @@ ENVIRONMENT = dict(os.environ, WINEPREFIX=PREFIX, WINEDEBUG="-all", LANG="C.UTF-
 
 
 def wine(*arguments, check=True):
-    """What a program writes. A failure that is not expected ends the test."""
+    """Runs a program and returns the result. A failure ends the test, unless `check` is false."""
     run = subprocess.run([WINE, *arguments], env=ENVIRONMENT, capture_output=True, timeout=300)
     if check and run.returncode != 0:
         raise AssertionError("%s: status %d\n%s%s" % (
@@ -40,8 +41,7 @@ def example(name):
 
 
 def registry():
-    """What the registry holds of classes and interfaces: the values of each key. Their order is by
-    chance."""
+    """Returns the entries of classes and interfaces in the registry: the set of values of each key."""
     target = os.path.join(PREFIX, "export.reg")
     wine("regedit", "/E", windows_path(target), "HKEY_LOCAL_MACHINE\\Software\\Classes")
     keys = {}
@@ -55,7 +55,7 @@ def registry():
 
 
 def settled_registry():
-    """The same once the system has finished its own entries, which it makes in the background."""
+    """Returns the same after the system has made its own entries, which it does in the background."""
     last = registry()
     for _ in range(30):
         time.sleep(1)
@@ -63,11 +63,11 @@ def settled_registry():
         if now == last:
             return now
         last = now
-    raise AssertionError("the registry does not come to rest")
+    raise AssertionError("the registry keeps changing")
 
 
 def differences(wanted, given, path=""):
-    """Where two structures differ: numbers by more than the digits that a script shows."""
+    """Returns where two structures differ. Numbers are compared to the digits that a script shows."""
     if isinstance(wanted, dict) and isinstance(given, dict):
         if list(wanted) != list(given):
             return ["%s: members %s, not %s" % (path, list(given), list(wanted))]
@@ -88,11 +88,11 @@ class Hosts(unittest.TestCase):
     def setUpClass(cls):
         shutil.rmtree(PREFIX, ignore_errors=True)
         wine("wineboot", "-i", check=False)
-        # The library lies in a folder whose name has a blank.
+        # The name of the folder of the library contains a blank.
         cls.dll = os.path.join(PREFIX, "a folder", "KelIFC.dll")
         os.makedirs(os.path.dirname(cls.dll))
         shutil.copy(DLL, cls.dll)
-        # The script host makes entries of its own when it runs for the first time.
+        # The script host makes entries of its own at its first run.
         empty = os.path.join(PREFIX, "empty.vbs")
         with open(empty, "w", encoding="ascii") as file:
             file.write("WScript.Quit 0\n")

@@ -1,4 +1,4 @@
-"""The package for Windows: what it holds, and that it works where it is unpacked.
+"""Tests the content of the package for Windows, and that it works where it is unpacked.
 
     package_test.py WINE CPACK BUILD-FOLDER VERSION
 """

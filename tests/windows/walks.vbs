@@ -1,6 +1,6 @@
-' Walks each collection of a structure by For Each, by index and by the default member, and looks at
-' what a script sees of errors. Says what differs, and ends with 1 if anything does. The last line
-' tells that no error has ended the script before.
+' Walks each collection of a structure by For Each, by index and by the default member, and checks
+' which errors a script gets. Prints each difference, and ends with 1 if there is one. The last line
+' shows that no error has ended the script before.
 Option Explicit
 
 Dim server, model, failures

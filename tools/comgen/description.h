@@ -6,43 +6,44 @@
 
 #include "tools/schemac/diagnostics.h"
 
-// What a description of an object model says. It is text, one entry after the other; the lines of
-// an entry are indented:
+// The content of the description of an object model. The text consists of entries; the lines of an
+// entry after the first are indented:
 //
 //   library NAME {IDENTIFIER}
 //   interface NAME [: BASE] {IDENTIFIER}
 //   collection NAME of ITEM {IDENTIFIER}        an interface that begins with the three operations
 //                                               of a collection
-//     get NAME: KIND                            get_NAME, which gives a value
-//     put NAME: KIND                            put_NAME, which takes one
+//     get NAME: KIND                            get_NAME, which returns a value
+//     put NAME: KIND                            put_NAME, which sets a value
 //     getput NAME: KIND                         both, in this order
 //     NAME(ARGUMENT: KIND, out ARGUMENT: KIND)  an operation with its arguments
-//     reserved [COUNT] (KIND, ...)              places without an operation: they answer E_NOTIMPL
+//     reserved [COUNT] (KIND, ...)              operations that return E_NOTIMPL
 //   class NAME "PROGID" {IDENTIFIER} : INTERFACE, ...
-//     header PATH                               where its C++ class stands; without, none is made
+//     header PATH                               the header that declares its C++ class; without it
+//                                               no objects can be created
 //     reserved INTERFACE[.OPERATION]            operations that this class does not offer
 //
-// A KIND is the name of an interface or one of the words below. ` -- ` begins the doc comment of
-// the entry or operation, `#` at the head of a line a comment; six blanks or more go on with the
-// line above.
+// A KIND is the name of an interface or one of the words below. ` -- ` starts the doc comment of an
+// entry or an operation. `#` at the start of a line starts a comment. A line that begins with six
+// blanks or more continues the line above.
 
 namespace comgen {
 
 using schemac::Place;
 
 enum class Kind {
-  kPointer,  ///< "pointer", in reserved places
+  kPointer,  ///< "pointer", in reserved operations
   kLong,     ///< "long", 32 bits
   kShort,    ///< "short", 16 bits
   kDouble,   ///< "double"
   kBool,     ///< "bool", -1 or 0 in 16 bits
   kString,   ///< "string"
   kVariant,  ///< "variant"
-  kUnknown,  ///< "unknown", the root interface
+  kUnknown,  ///< "unknown", IUnknown
   kInterface,
 };
 
-/// What an argument or an item is.
+/// The type of an argument or an item.
 struct Type {
   Place place;
   Kind kind = Kind::kPointer;
@@ -51,7 +52,7 @@ struct Type {
 
 struct Argument {
   Type type;
-  std::string name;  ///< empty in reserved places
+  std::string name;  ///< empty in reserved operations
   bool isOut = false;
 };
 
@@ -60,7 +61,7 @@ struct Operation {
 
   Place place;
   Role role = Role::kMethod;
-  std::string name;  ///< as in C++; a reserved place gets one when the description is resolved
+  std::string name;  ///< as in C++; Resolve names reserved operations
   std::vector<Argument> arguments;
   std::string doc;
 };
@@ -68,17 +69,17 @@ struct Operation {
 struct Interface {
   Place place;
   std::string name;
-  std::string base;        ///< empty for IDispatch
+  std::string base;        ///< empty if the base is IDispatch
   std::string identifier;  ///< 36 characters, without braces
   std::string doc;
-  std::vector<Operation> operations;  ///< its own, in order
+  std::vector<Operation> operations;  ///< without those of the base, in order
 };
 
-/// Operations that a class leaves out although its interface has them.
+/// Operations of an interface that a class does not offer.
 struct Omission {
   Place place;
   std::string interface;
-  std::string operation;  ///< empty for all
+  std::string operation;  ///< empty for all of them
 };
 
 struct Class {
@@ -86,7 +87,7 @@ struct Class {
   std::string name;
   std::string progId;
   std::string identifier;
-  std::vector<std::string> interfaces;  ///< in the order of a query
+  std::vector<std::string> interfaces;  ///< in the order in which a query tries them
   std::string header;
   std::vector<Omission> omissions;
 };
@@ -103,20 +104,20 @@ struct Description {
   std::vector<Interface> interfaces;
   std::vector<Class> classes;
 
-  /// The interface of a name, null if there is none.
+  /// Returns the interface with a name, or null.
   const Interface* Find(const std::string& name) const;
 
-  /// All operations of an interface in order, those of its bases first.
+  /// Returns all operations of an interface in order, beginning with those of its bases.
   std::vector<const Operation*> AllOperations(const Interface& interface) const;
 
-  /// The interfaces of a class that are no base of another one of them: what the class derives
-  /// from.
+  /// Returns the interfaces of a class that are not bases of another of its interfaces. The class
+  /// derives from them.
   std::vector<const Interface*> Roots(const Class& type) const;
 
-  /// True if the interface is, or derives from, the one named.
+  /// Returns true if the interface has the name or derives from an interface that has it.
   bool Has(const Interface& interface, const std::string& name) const;
 
-  /// True if some interface derives from the one named.
+  /// Returns true if an interface derives from the one with the name.
   bool IsBase(const std::string& name) const;
 };
 

@@ -8,15 +8,15 @@ namespace {
 
 constexpr std::string_view kPath = "kelifc/geo/class_bases.h";
 
-/// What a class that has the interface derives from.
+/// Returns the base of a class that has the interface.
 std::string BaseOf(const Description& description, const Interface& interface) {
   if (!HasReserved(description, interface)) return interface.name;
   const std::string name = ReservedName(interface);
   return description.IsBase(interface.name) ? name + "<" + interface.name + ">" : name;
 }
 
-/// An interface that others derive from gets a template over the interface at hand, since its
-/// operations stand in each of them.
+/// If other interfaces derive from the interface, the class is a template: each of those interfaces
+/// has operations of its base of its own.
 void EmitReserved(TextWriter& out, const Description& description, const Interface& interface) {
   const bool isTemplate = description.IsBase(interface.name);
   const std::string derived = isTemplate ? "Interface" : interface.name;
@@ -42,7 +42,7 @@ void EmitReserved(TextWriter& out, const Description& description, const Interfa
 void EmitOmissions(TextWriter& out, const Description& description, const Class& type) {
   if (type.omissions.empty()) return;
   out.Line();
-  out.Line("  // Not offered by this class.");
+  out.Line("  // Operations that this class does not offer.");
   for (const Omission& omission : type.omissions) {
     for (const Operation* operation :
          description.AllOperations(*description.Find(omission.interface))) {
@@ -64,7 +64,7 @@ void EmitClass(TextWriter& out, const Description& description, const Class& typ
   const std::string name = type.name + "Base";
   std::vector<std::string> bases;
   for (const Interface* root : description.Roots(type)) bases.push_back(BaseOf(description, *root));
-  out.Doc("", "What the class " + type.name + " has by its description.");
+  out.Doc("", "The generated base of " + type.name + ".");
   out.Line("class " + name + " : public Dual<" + Joined(bases) + "> {");
   out.Line(" public:");
   out.Line("  using Interfaces = DualInterfaces<" + Joined(type.interfaces) + ">;");

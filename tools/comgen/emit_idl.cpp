@@ -2,19 +2,20 @@
 
 #include "tools/comgen/emit_text.h"
 
-// The interface definition from which a type library is made, for script hosts and for other
+// The interface definition, from which a type library is compiled: for script hosts and for other
 // compilers on Windows.
 
 namespace comgen {
 
 namespace {
 
-/// Identifiers of the operations of the n-th interface stand behind n times this.
+/// The identifiers of the operations of interface n, counted from 1, start after n times this
+/// number.
 constexpr std::size_t kIdentifiersPerInterface = 0x100;
 
 std::string_view ValueType(const Type& type) {
   switch (type.kind) {
-    case Kind::kPointer:  // of reserved places: any pointer that a script can hold
+    case Kind::kPointer:  // in reserved operations: any pointer that a script can hold
     case Kind::kUnknown:
       return "IUnknown*";
     case Kind::kLong:
@@ -42,7 +43,7 @@ std::string TypeOf(const Argument& argument) {
   return argument.isOut ? value + "*" : value;
 }
 
-/// A text between double quotes.
+/// Returns a text in double quotes.
 std::string Quoted(const std::string& text) {
   std::string quoted = "\"";
   for (const char c : text) {
@@ -59,19 +60,19 @@ std::string Hexadecimal(std::size_t number) {
   return "0x" + text;
 }
 
-/// The operations that a script host knows by their number, and that it reads like properties.
+/// Operations with an identifier that scripts know. A script uses them as properties.
 bool IsEnumerator(const Operation& operation) { return operation.name == "_NewEnum"; }
 bool IsItem(const Operation& operation) { return operation.name.rfind("Item", 0) == 0; }
 bool IsCount(const Operation& operation) { return operation.name == "Count"; }
 
-/// The name of a property behind get_ or put_.
+/// Returns the name of an operation for scripts: a property has no get_ or put_.
 std::string ScriptName(const Operation& operation) {
   const bool isProperty =
       operation.role == Operation::Role::kGet || operation.role == Operation::Role::kPut;
   return isProperty ? operation.name.substr(4) : operation.name;
 }
 
-/// Writes one interface; its operations are numbered from `first`.
+/// Writes one interface. The identifiers of its operations start after `first`.
 class InterfaceWriter {
  public:
   InterfaceWriter(TextWriter& out, const Interface& interface, std::size_t first)
@@ -107,7 +108,7 @@ class InterfaceWriter {
     out.Line("    HRESULT " + ScriptName(operation) + "(" + arguments + ");");
   }
 
-  /// A property that is read and written has one identifier.
+  /// The two operations of a property share one identifier.
   std::string Identifier(std::size_t position) const {
     const Operation& operation = interface.operations[position];
     if (IsEnumerator(operation)) return "DISPID_NEWENUM";
@@ -117,7 +118,7 @@ class InterfaceWriter {
     return Hexadecimal(first + position + (isSecond ? 0 : 1));
   }
 
-  /// Where an interface has two, that of the plain name.
+  /// If an interface has two such operations, the one named Item is the default.
   bool IsDefaultItem(const Operation& operation) const {
     const auto& all = interface.operations;
     const bool hasPlain = std::any_of(all.begin(), all.end(),
@@ -125,7 +126,7 @@ class InterfaceWriter {
     return operation.name == "Item" || !hasPlain;
   }
 
-  /// The last argument is the result if it is the only one that is given out.
+  /// The last argument is the result if no other is an output.
   static std::string ArgumentAt(const Operation& operation, std::size_t index) {
     const Argument& argument = operation.arguments[index];
     const auto outs = std::count_if(operation.arguments.begin(), operation.arguments.end(),

@@ -8,6 +8,13 @@ namespace {
 
 constexpr std::string_view kPath = "kelifc/geo/interfaces.h";
 
+constexpr char kRules[] =
+    R"(// The object model for hosts. Every operation returns a status: S_OK, or a negative code for a
+// failure. A null pointer for a result returns E_POINTER. The caller owns what an operation stores:
+// it releases an interface with Release and frees a string with SysFreeString. Reserved operations
+// keep the order of the others; they change nothing and return E_NOTIMPL.
+)";
+
 void EmitForward(TextWriter& out, const Description& description) {
   std::vector<std::string> names;
   for (const Interface& interface : description.interfaces) names.push_back(interface.name);
@@ -68,24 +75,14 @@ void EmitInterfaces(const Description& description, Files& files) {
   out.Line("#include \"kelifc/platform/com_variant.h\"");
   out.Line("#include \"kelifc/platform/export.h\"");
   out.Line();
-  out.Line(
-      "// The object model for hosts. Every operation gives a status: 0, or a negative code. A "
-      "null");
-  out.Line(
-      "// result argument gives E_POINTER. What an operation gives is counted, and is the "
-      "caller's: an");
-  out.Line(
-      "// interface goes back with Release, a string with SysFreeString. Reserved operations keep "
-      "their");
-  out.Line("// place, touch nothing and answer E_NOTIMPL.");
-  out.Line();
+  out.Line(kRules);
   EmitForward(out, description);
   for (const Interface& interface : description.interfaces) EmitInterface(out, interface);
-  out.Doc("", description.library.doc + " The identifier of the type library.");
+  out.Doc("", "The identifier of the type library. " + description.library.doc);
   EmitConstant(out, "GUID", "LIBID_" + description.library.name, description.library.identifier);
   out.Line();
   out.Line(
-      "// The classes of the objects, by which a host makes them; behind each its program name.");
+      "// The identifiers of the classes, by which hosts create objects, with the program names.");
   for (const Class& type : description.classes) {
     out.Line();
     out.Doc("", type.progId);

@@ -7,22 +7,23 @@
 
 namespace comgen {
 
-/// The line at the head of every generated file.
+/// Returns the first line of every generated file.
 std::string GeneratedBy(const Description& description);
 
-/// An identifier as the members of a GUID, without the outer braces.
+/// Returns an identifier as the initialisers of the members of a GUID, without the outer braces.
 std::string IdentifierMembers(const std::string& identifier);
 
-/// The C++ type of an argument.
+/// Returns the C++ type of an argument.
 std::string ArgumentType(const Argument& argument);
 
-/// The name of the class template or class that answers the reserved operations of an interface.
+/// Returns the name of the class or class template that implements the reserved operations of an
+/// interface.
 std::string ReservedName(const Interface& interface);
 
-/// True if an interface or one of its bases has reserved operations.
+/// Returns true if an interface or one of its bases has reserved operations.
 bool HasReserved(const Description& description, const Interface& interface);
 
-/// Writes an operation that answers E_NOTIMPL.
+/// Writes an operation that returns E_NOTIMPL.
 void EmitNotImplemented(TextWriter& out, const Operation& operation);
 
 }  // namespace comgen

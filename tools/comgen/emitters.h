@@ -11,22 +11,22 @@ namespace comgen {
 using schemac::Files;
 using schemac::TextWriter;
 
-/// The header for hosts: interfaces and identifiers.
+/// Generates the header for hosts: interfaces and identifiers.
 void EmitInterfaces(const Description& description, Files& files);
 
-/// What the classes derive from: their interfaces with the reserved operations answered.
+/// Generates the bases of the classes: their interfaces, with the reserved operations implemented.
 void EmitBases(const Description& description, Files& files);
 
-/// The table of the classes that can be made, and the version, "MAJOR.MINOR", of their type
-/// library.
+/// Generates the table of the classes of which objects can be created, and the version of their
+/// type library, "MAJOR.MINOR".
 void EmitClassTable(const Description& description, const std::string& version, Files& files);
 
-/// The interface definition for a type library of this version, "MAJOR.MINOR". Every operation has
-/// an identifier of its own over the whole library, so that a name can be looked up over the
+/// Generates the interface definition for a type library of this version, "MAJOR.MINOR". The
+/// identifiers of operations are unique in the library, so that a name can be looked up in all
 /// interfaces of a class.
 void EmitIdl(const Description& description, const std::string& version, Files& files);
 
-/// A test that compares the order of the operations with the compiler's layout.
+/// Generates a test that compares the order of the operations with the layout of the compiler.
 void EmitOrderTest(const Description& description, Files& files);
 
 }  // namespace comgen

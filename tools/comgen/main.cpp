@@ -1,8 +1,9 @@
-// Makes the C++ side of an object model from its description:
+// Generates the C++ code of an object model from its description:
 //
 //   comgen OUTPUT-FOLDER DESCRIPTION VERSION
 //
-// Every file that would be the same keeps its time, so that what depends on it is not built again.
+// A file whose text does not change is not written, so that nothing that depends on it is built
+// again.
 
 #include <exception>
 #include <filesystem>

@@ -22,11 +22,12 @@ constexpr std::pair<std::string_view, Kind> kKinds[] = {
     {"variant", Kind::kVariant}, {"unknown", Kind::kUnknown},
 };
 
-/// The form of an identifier; 'x' stands for a hexadecimal digit.
+/// The form of an identifier; 'x' is a hexadecimal digit.
 constexpr std::string_view kIdentifierForm = "xxxxxxxx-xxxx-xxxx-xxxx-xxxxxxxxxxxx";
 
-/// No line stands for more reserved places.
+/// The most reserved operations that one line can stand for.
 constexpr int kMostReserved = 99;
+constexpr char kNoCount[] = "expected a count from 1 to 99";
 
 bool IsIdentifier(std::string_view text) {
   const auto fits = [](char form, char c) {
@@ -39,7 +40,8 @@ std::string ReadIdentifier(TokenReader& in) {
   in.Expect("{");
   const Place place = in.Here();
   std::string identifier = in.Until("}");
-  if (!IsIdentifier(identifier)) throw DescriptionError(place, "no identifier in upper case");
+  if (!IsIdentifier(identifier))
+    throw DescriptionError(place, "expected an identifier in upper case");
   in.Expect("}");
   return identifier;
 }
@@ -59,11 +61,11 @@ Type ReadType(TokenReader& in) {
 }
 
 void ExpectEnd(TokenReader& in) {
-  if (!in.AtEnd()) in.Fail("nothing more is expected here");
+  if (!in.AtEnd()) in.Fail("expected the end of the line");
 }
 
-/// A name with a small letter at its head, as arguments have: "Height" gives "height", "GUID"
-/// "guid", "BRep" "bRep".
+/// Returns a name as arguments have it, starting in lower case: "height" for "Height", "guid" for
+/// "GUID", "bRep" for "BRep".
 std::string ArgumentName(std::string name) {
   const auto isUpper = [&](std::size_t i) {
     return i < name.size() && std::isupper(static_cast<unsigned char>(name[i])) != 0;
@@ -89,7 +91,7 @@ Operation MakeProperty(Operation::Role role, const Line& line, const std::string
   return operation;
 }
 
-/// "get NAME: KIND", with the word already taken.
+/// Reads "get NAME: KIND" after its first word.
 void ReadProperty(TokenReader& in, const Line& line, bool gets, bool puts, Interface& interface) {
   const std::string name = in.Name("a name");
   in.Expect(":");
@@ -99,7 +101,7 @@ void ReadProperty(TokenReader& in, const Line& line, bool gets, bool puts, Inter
   }
   if (puts) {
     interface.operations.push_back(MakeProperty(Operation::Role::kPut, line, name, type));
-    if (gets) interface.operations.back().doc = "Sets it.";
+    if (gets) interface.operations.back().doc = "Sets the value.";
   }
 }
 
@@ -128,10 +130,10 @@ int ReadCount(TokenReader& in) {
   const std::string word = in.Word("a count or arguments");
   int count = 0;
   for (const char c : word) {
-    if (c < '0' || c > '9' || count > kMostReserved) throw DescriptionError(place, "no count");
+    if (c < '0' || c > '9' || count > kMostReserved) throw DescriptionError(place, kNoCount);
     count = count * 10 + (c - '0');
   }
-  if (count < 1 || count > kMostReserved) throw DescriptionError(place, "no count");
+  if (count < 1 || count > kMostReserved) throw DescriptionError(place, kNoCount);
   return count;
 }
 
@@ -170,7 +172,13 @@ void ReadOperation(const Line& line, Interface& interface) {
   ExpectEnd(in);
 }
 
-/// The three operations that every collection begins with.
+constexpr char kEnumeratorDoc[] = "An enumerator of the items as variants (IEnumVARIANT).";
+constexpr char kItemDoc[] =
+    "The item at an index, from 1. Returns E_INVALIDARG for an index below 1. Returns E_FAIL for "
+    "an "
+    "index above the number of items, and leaves `item` unchanged.";
+
+/// Adds the three operations with which every collection begins.
 void AddCollectionOperations(const Line& line, const Type& item, Interface& interface) {
   const auto add = [&](const std::string& name, std::vector<Argument> arguments,
                        const std::string& doc) {
@@ -182,13 +190,10 @@ void AddCollectionOperations(const Line& line, const Type& item, Interface& inte
     interface.operations.push_back(operation);
   };
   const Type number{line.place, Kind::kLong, ""};
-  add("_NewEnum", {{{line.place, Kind::kUnknown, ""}, "enumerator", true}},
-      "An enumerator over the items, for hosts that walk them as variants (IEnumVARIANT).");
+  add("_NewEnum", {{{line.place, Kind::kUnknown, ""}, "enumerator", true}}, kEnumeratorDoc);
   add("Item", {{number, "index", false}, {item, "item", true}},
-      std::string("The item at an index, from 1") +
-          (item.kind == Kind::kInterface ? ", counted" : "") +
-          ". E_INVALIDARG for an index below 1; E_FAIL for one past the end, which leaves `item` "
-          "as it was.");
+      item.kind == Kind::kInterface ? std::string(kItemDoc) + " The caller releases it."
+                                    : kItemDoc);
   add("Count", {{number, "count", true}}, "The number of items.");
 }
 
@@ -238,7 +243,7 @@ void ReadClassLine(const Line& line, Class& type) {
   ExpectEnd(in);
 }
 
-/// Reads the lines one by one; the indented ones belong to the entry above them.
+/// Reads line after line. An indented line belongs to the last entry.
 class Parser {
  public:
   explicit Parser(const std::string& file) { description.file = file; }
@@ -251,7 +256,7 @@ class Parser {
     } else if (isInInterface) {
       ReadOperation(line, description.interfaces.back());
     } else {
-      throw DescriptionError(line.place, "a line that belongs to no interface and no class");
+      throw DescriptionError(line.place, "expected an interface or a class before this line");
     }
   }
 

@@ -8,8 +8,8 @@
 
 namespace comgen {
 
-/// Reads a description. Throws schemac::DescriptionError, which names file, line and column, for a
-/// text that does not follow the notation. Names are not looked up yet: see Resolve.
+/// Reads a description. Throws schemac::DescriptionError for a text that does not follow the
+/// notation; the error contains file, line and column. Names are not looked up; Resolve does that.
 Description ParseDescription(const std::string& file, std::string_view text);
 
 }  // namespace comgen

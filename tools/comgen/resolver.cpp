@@ -9,12 +9,12 @@ namespace {
 
 using schemac::DescriptionError;
 
-/// Names and identifiers that are taken.
+/// A set of names or identifiers that are in use.
 class Taken {
  public:
   void Add(const Place& place, const std::string& what, const std::string& text) {
     if (!texts.insert(text).second) {
-      throw DescriptionError(place, what + " '" + text + "' stands twice");
+      throw DescriptionError(place, what + " '" + text + "' is defined twice");
     }
   }
 
@@ -24,10 +24,11 @@ class Taken {
 
 void CheckType(const Description& description, const Type& type, bool isReserved) {
   if (type.kind == Kind::kPointer && !isReserved) {
-    throw DescriptionError(type.place, "a plain pointer outside reserved places");
+    throw DescriptionError(type.place, "a pointer is allowed in reserved operations only");
   }
   if (type.kind == Kind::kInterface && description.Find(type.interface) == nullptr) {
-    throw DescriptionError(type.place, "no kind and no interface '" + type.interface + "'");
+    throw DescriptionError(type.place,
+                           "expected a kind or an interface, not '" + type.interface + "'");
   }
 }
 
@@ -56,12 +57,12 @@ void NameReserved(const Description& description, Interface& interface) {
   }
 }
 
-/// `known` are the names of the interfaces ahead of this one.
+/// `known` contains the names of the interfaces that were described before this one.
 void ResolveInterface(const Description& description, const std::set<std::string>& known,
                       Interface& interface) {
   if (!interface.base.empty() && known.count(interface.base) == 0) {
     throw DescriptionError(interface.place, "the base '" + interface.base + "' of '" +
-                                                interface.name + "' is not described ahead of it");
+                                                interface.name + "' is not described before it");
   }
   NameReserved(description, interface);
   for (const Operation& operation : interface.operations) CheckOperation(description, operation);
@@ -103,7 +104,7 @@ void CheckClass(const Description& description, const Class& type) {
   Taken interfaces;
   for (const std::string& name : type.interfaces) {
     if (description.Find(name) == nullptr) {
-      throw DescriptionError(type.place, "no interface '" + name + "'");
+      throw DescriptionError(type.place, "there is no interface '" + name + "'");
     }
     interfaces.Add(type.place, "the interface", name);
   }
@@ -124,7 +125,7 @@ void CheckClass(const Description& description, const Class& type) {
 
 void Resolve(Description& description) {
   if (description.library.name.empty()) {
-    throw DescriptionError({description.file, 1, 1}, "no library");
+    throw DescriptionError({description.file, 1, 1}, "there is no library");
   }
   Taken names;
   Taken identifiers;

@@ -7,7 +7,16 @@ namespace command {
 
 // The three subcommands. A function that fails throws Failure. Paths are as the user gave them.
 
+/// How a command reads its model.
+struct Reading {
+  std::string dialect = "classic";  ///< or "iso": the rules of ISO 10303-21
+  bool quiet = false;               ///< no messages but failures, and no progress bar
+  bool hidesProgress = false;       ///< no progress bar
+  unsigned threads = 0;             ///< 0 means one for each processor
+};
+
 struct StructureOptions {
+  Reading reading;
   std::string model;
   std::string output;  ///< a path; empty means standard output
   bool json = false;
@@ -17,14 +26,18 @@ struct StructureOptions {
 void RunStructure(const StructureOptions& options);
 
 struct InfoOptions {
+  Reading reading;
   std::string model;
   bool json = false;
+  bool report = false;
 };
 
 /// Prints the release of the model, its schema string, and the number of instances of each class.
+/// With `report`, prints what is wrong in the file, too.
 void RunInfo(const InfoOptions& options);
 
 struct SaveOptions {
+  Reading reading;
   std::string model;
   std::string output;
 };

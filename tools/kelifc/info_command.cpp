@@ -1,13 +1,14 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
+#include <optional>
 #include <string>
 
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/json.h"
 #include "tools/kelifc/model_file.h"
 #include "tools/kelifc/output.h"
-#include "tools/kelifc/text.h"
+#include "tools/kelifc/report_format.h"
 #include "tools/kelifc/text_table.h"
 
 namespace command {
@@ -20,9 +21,10 @@ struct Info {
   std::string file;
   std::string release;
   std::string schema;
-  std::size_t instances = 0;  ///< with an instance number
-  Counts entities;            ///< by the name of the entity as the schema spells it
-  Counts raw;                 ///< raw text, by the name of the entity in upper case
+  std::size_t instances = 0;                 ///< with an instance number
+  Counts entities;                           ///< by the name of the entity as the schema spells it
+  Counts raw;                                ///< raw text, by the name of the entity in upper case
+  std::optional<KelIFC::LoadReport> report;  ///< if the user asked for it
 };
 
 std::string UpperCase(std::string text) {
@@ -32,20 +34,29 @@ std::string UpperCase(std::string text) {
   return text;
 }
 
-Info ReadInfo(const std::string& path) {
+void Load(KelIFC::IfcServer& server, const InfoOptions& options) {
+  if (options.report) {
+    LoadModelWithReport(server, options.model, options.reading);
+  } else {
+    LoadModel(server, options.model, options.reading);
+  }
+}
+
+Info ReadInfo(const InfoOptions& options) {
   KelIFC::IfcServer server;
-  LoadModel(server, path);
+  Load(server, options);
   Info info;
-  info.file = path;
+  if (options.report) info.report = server.GetLoadReport();
+  info.file = options.model;
   info.release = ReleaseText(server.GetRelease());
-  info.schema = Utf8FromLatin1(server.GetFileSchema());
+  info.schema = Utf8FromModel(server, server.GetFileSchema());
   for (std::size_t number = server.GetNextNumber(0); number != 0;
        number = server.GetNextNumber(number)) {
     const KelIFC::IfcUnknown* instance = server.GetItem(number);
     if (instance == nullptr) continue;
     ++info.instances;
     if (const auto* other = dynamic_cast<const KelIFC::IfcOther*>(instance)) {
-      ++info.raw[Utf8FromLatin1(UpperCase(other->GetStepEntityName()))];
+      ++info.raw[Utf8FromModel(server, UpperCase(other->GetStepEntityName()))];
     } else {
       ++info.entities[instance->GetStepName()];
     }
@@ -54,12 +65,11 @@ Info ReadInfo(const std::string& path) {
 }
 
 std::string InfoJson(const Info& info) {
-  return ToText({{"file", info.file},
-                 {"release", info.release},
-                 {"schema", info.schema},
-                 {"instances", info.instances},
-                 {"entities", Json(info.entities)},
-                 {"raw", Json(info.raw)}});
+  Json object = {
+      {"file", info.file},           {"release", info.release},         {"schema", info.schema},
+      {"instances", info.instances}, {"entities", Json(info.entities)}, {"raw", Json(info.raw)}};
+  if (info.report) object["report"] = ReportJson(*info.report);
+  return ToText(object);
 }
 
 std::string CountTable(const char* title, const Counts& counts) {
@@ -75,13 +85,13 @@ std::string InfoText(const Info& info) {
   head.Add({"Schema", info.schema});
   head.Add({"Instances", std::to_string(info.instances)});
   return head.ToText() + CountTable("Entity", info.entities) +
-         CountTable("Kept as raw text", info.raw);
+         CountTable("Kept as raw text", info.raw) + (info.report ? ReportText(*info.report) : "");
 }
 
 }  // namespace
 
 void RunInfo(const InfoOptions& options) {
-  const Info info = ReadInfo(options.model);
+  const Info info = ReadInfo(options);
   WriteOutput("", options.json ? InfoJson(info) : InfoText(info));
 }
 

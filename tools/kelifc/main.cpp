@@ -19,6 +19,22 @@ struct Request {
   command::SaveOptions save;
 };
 
+/// The options that all subcommands have.
+void DescribeReading(CLI::App& subcommand, command::Reading& reading) {
+  subcommand
+      .add_option("--dialect", reading.dialect,
+                  "the rules for strings and statements: classic or iso (default: classic)")
+      ->option_text("NAME")
+      ->check([](const std::string& name) {
+        return name == "classic" || name == "iso" ? "" : "the dialect is neither classic nor iso";
+      });
+  subcommand.add_option("--threads", reading.threads, "use N threads (default: one per processor)")
+      ->option_text("N")
+      ->check(CLI::Range(1U, 1024U, "N"));
+  subcommand.add_flag("--quiet", reading.quiet, "no messages but failures, no progress bar");
+  subcommand.add_flag("--no-progress", reading.hidesProgress, "no progress bar");
+}
+
 void Describe(CLI::App& app, Request& request) {
   app.set_version_flag("--version", std::string("kelifc ") + KELIFC_VERSION);
   app.allow_windows_style_options(false);  // an argument that begins with a slash is a path
@@ -32,13 +48,17 @@ void Describe(CLI::App& app, Request& request) {
       ->add_option("--output", request.structure.output, "write to FILE instead of standard output")
       ->option_text("FILE")
       ->check([](const std::string& file) { return file.empty() ? "FILE is empty" : ""; });
+  DescribeReading(*structure, request.structure.reading);
   structure->add_option(kModel, request.structure.model, kModelHelp)->required()->option_text(" ");
 
   CLI::App* info = app.add_subcommand("info", "what the file holds");
   info->add_flag("--json", request.info.json, "print one JSON object instead of a table");
+  info->add_flag("--report", request.info.report, "print what is wrong in the file, too");
+  DescribeReading(*info, request.info.reading);
   info->add_option(kModel, request.info.model, kModelHelp)->required()->option_text(" ");
 
   CLI::App* save = app.add_subcommand("save", "load and write back");
+  DescribeReading(*save, request.save.reading);
   save->add_option(kModel, request.save.model, kModelHelp)->required()->option_text(" ");
   save->add_option("OUT.ifc", request.save.output, "the file to write")
       ->required()

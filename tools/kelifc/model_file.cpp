@@ -7,27 +7,77 @@
 
 namespace command {
 
-void LoadModel(KelIFC::IfcServer& server, const std::string& path) {
+namespace {
+
+using KelIFC::IfcServer;
+using KelIFC::LoadOptions;
+
+constexpr const char* kIso = "iso";
+
+LoadOptions OptionsOf(const Reading& reading) {
+  LoadOptions options;
+  options.dialect =
+      reading.dialect == kIso ? KelIFC::STEP_DIALECT_ISO : KelIFC::STEP_DIALECT_CLASSIC;
+  options.threads = reading.threads;
+  return options;
+}
+
+/// Why a load failed that did not fail to open its file.
+std::string CauseOf(int code, const std::string& schema) {
+  switch (code) {
+    case KelIFC::LOAD_RESULT_NO_STEP_FILE:
+      return "not a STEP file";
+    case KelIFC::LOAD_RESULT_LIMIT_REACHED:
+      return "the model exceeds a limit";
+    case KelIFC::LOAD_RESULT_UNSUPPORTED_RELEASE:
+      return "the release " + schema + " is not supported";
+    default:
+      return schema.empty() ? "no schema" : "unknown schema '" + schema + "'";
+  }
+}
+
+/// Calls `load` with the path of an ordinary file, and throws if it does not return 0.
+template <class Load>
+void LoadWithProgress(IfcServer& server, const std::string& path, const Reading& reading,
+                      Load load) {
   const ModelSource source(path);
   ProgressBar bar(source.GetSize());
-  if (bar.IsShown()) {
+  if (bar.IsShown() && !reading.quiet && !reading.hidesProgress) {
     server.SetProgressHandler([&bar](std::uint64_t done, std::uint64_t total) {
       bar.Update(done, total);
       return true;
     });
   }
-  const int code = server.LoadIfcFile(source.GetPath().c_str());
+  const int code = load(source.GetPath().c_str());
   server.SetProgressHandler(nullptr);
   if (code == KelIFC::LOAD_RESULT_LOADED) return;
   if (code == KelIFC::LOAD_RESULT_CANNOT_OPEN) {
     throw Failure(Status::kFile, path, "the file cannot be opened");
   }
-  if (code == KelIFC::LOAD_RESULT_NO_STEP_FILE) {
-    throw Failure(Status::kNoModel, path, "not a STEP file");
-  }
-  const std::string schema = Utf8FromLatin1(server.GetFileSchema());
   throw Failure(Status::kNoModel, path,
-                schema.empty() ? "no schema" : "unknown schema '" + schema + "'");
+                CauseOf(code, Utf8FromModel(server, server.GetFileSchema())));
+}
+
+}  // namespace
+
+void LoadModel(IfcServer& server, const std::string& path, const Reading& reading) {
+  LoadWithProgress(server, path, reading, [&](const char* file) {
+    const LoadOptions options = OptionsOf(reading);
+    const bool isClassic = options.dialect == KelIFC::STEP_DIALECT_CLASSIC;
+    return isClassic ? server.LoadIfcFile(file) : server.LoadIfc(file, options);
+  });
+}
+
+void LoadModelWithReport(IfcServer& server, const std::string& path, const Reading& reading) {
+  LoadWithProgress(server, path, reading, [&](const char* file) {
+    const int code = server.LoadIfc(file, OptionsOf(reading));
+    if (code != KelIFC::LOAD_RESULT_LOADED || server.CheckModel()) return code;
+    return static_cast<int>(KelIFC::LOAD_RESULT_CANNOT_OPEN);  // the file is gone meanwhile
+  });
+}
+
+std::string Utf8FromModel(const IfcServer& server, std::string_view text) {
+  return server.GetDialect() == KelIFC::STEP_DIALECT_ISO ? std::string(text) : Utf8FromLatin1(text);
 }
 
 const char* ReleaseText(KelIFC::IFC_RELEASE release) {

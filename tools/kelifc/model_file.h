@@ -3,15 +3,26 @@
 
 #include <cstdint>
 #include <string>
+#include <string_view>
 
 #include "kelifc/kelifc.h"
 
+#include "tools/kelifc/commands.h"
+
 namespace command {
 
-/// Loads the model at `path` into `server`. Shows a progress bar if the file is large and standard
-/// error is a terminal. Throws Failure with Status::kFile if the file cannot be read, and with
-/// Status::kNoModel if it is not a STEP file or its schema is unknown.
-void LoadModel(KelIFC::IfcServer& server, const std::string& path);
+/// Loads the model at `path` into `server`. Shows a progress bar if the file is large, standard
+/// error is a terminal, and `reading` allows it. Throws Failure with Status::kFile if the file
+/// cannot be read, and with Status::kNoModel if it is not a STEP file, its schema cannot be read,
+/// or a limit is reached. A load in the classic dialect without a report has no limits.
+void LoadModel(KelIFC::IfcServer& server, const std::string& path, const Reading& reading);
+
+/// The same, and collects the load report with all its checks. Both dialects have limits.
+void LoadModelWithReport(KelIFC::IfcServer& server, const std::string& path,
+                         const Reading& reading);
+
+/// Converts a text that the server returns, such as a schema or a name, to UTF-8.
+std::string Utf8FromModel(const KelIFC::IfcServer& server, std::string_view text);
 
 /// "1.5.1", "2.0", "2x", "2x2" or "2x3". "" for IFC_RELEASE_NONE.
 const char* ReleaseText(KelIFC::IFC_RELEASE release);

@@ -14,8 +14,8 @@ using KelIFC::IfcServer;
 
 /// Loads the file with IfcServer instead of IIFCServer::Load, which returns one status for all
 /// failures and reports no progress.
-void LoadConvertible(IfcServer& model, const std::string& path) {
-  LoadModel(model, path);
+void LoadConvertible(IfcServer& model, const std::string& path, const Reading& reading) {
+  LoadModel(model, path, reading);
   const KelIFC::IFC_RELEASE release = model.GetRelease();
   if (release < KelIFC::IFC_RELEASE_2X) {
     throw Failure(Status::kNotConvertible, path,
@@ -30,7 +30,7 @@ void RunStructure(const StructureOptions& options) {
   KelIFC::ThrowIfFailed(classes.GetStatus());
   const auto server = KelIFC::CreateServer();
   IfcServer& model = *KelIFC::GetModel(server.Get());
-  LoadConvertible(model, options.model);
+  LoadConvertible(model, options.model, options.reading);
   Structure structure = ReadStructure(KelIFC::Get(server, &IIFCServer::get_Structure));
   structure.release = ReleaseText(model.GetRelease());
   WriteOutput(options.output,

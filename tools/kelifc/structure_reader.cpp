@@ -13,12 +13,6 @@ using KelIFC::Get;
 using KelIFC::Items;
 using KelIFC::Query;
 
-// The kinds of sections that have sizes. A profile has none.
-constexpr LONG kRectangle = 1;
-constexpr LONG kCircle = 2;
-constexpr LONG kT = 3;
-constexpr LONG kThick = 9;
-
 /// The results of `read` for the items of a collection, in their order.
 template <class Collection, class Read>
 auto ReadAll(const KelIFC::ItemRange<Collection>& items, Read read) {
@@ -109,15 +103,15 @@ void ReadSizes(const ComPtr<IGeoSection>& object, std::initializer_list<Size<Int
 Section ReadSection(const ComPtr<IGeoSection>& object) {
   Section section{Get(object, &IGeoSection::get_Name), Get(object, &IGeoSection::get_Kind), {}};
   switch (section.kind) {
-    case kRectangle:
+    case KelIFC::SECTION_R:
       ReadSizes<IGeoSectionR>(
           object, {{"width", &IGeoSectionR::get_Width}, {"height", &IGeoSectionR::get_Height}},
           section);
       break;
-    case kCircle:
+    case KelIFC::SECTION_C:
       ReadSizes<IGeoSectionC>(object, {{"diameter", &IGeoSectionC::get_Diameter}}, section);
       break;
-    case kT:
+    case KelIFC::SECTION_T:
       ReadSizes<IGeoSectionT>(object,
                               {{"height", &IGeoSectionT::get_Height},
                                {"flangeThickness", &IGeoSectionT::get_FlangeThickness},
@@ -125,7 +119,7 @@ Section ReadSection(const ComPtr<IGeoSection>& object) {
                                {"flangeWidth", &IGeoSectionT::get_FlangeWidth}},
                               section);
       break;
-    case kThick:
+    case KelIFC::SECTION_THICK:
       ReadSizes<IGeoSectionThick>(object, {{"thickness", &IGeoSectionThick::get_Thickness}},
                                   section);
       break;

@@ -30,34 +30,34 @@ TEST(EmitIdl, WritesDualInterfacesWithTheirIdentifiers) {
   EXPECT_THAT(idl, HasSubstr("version(25.1)"));
 }
 
-TEST(EmitIdl, GivesAPropertyOneIdentifierForBothWays) {
+TEST(EmitIdl, GivesBothOperationsOfAPropertyOneIdentifier) {
   const std::string idl = Emitted(EmitIdl, kThing);
   EXPECT_THAT(idl, HasSubstr("[id(0x101), propget, helpstring(\"Its name.\")]\n"
                              "    HRESULT Name([out, retval] BSTR* name);"));
-  EXPECT_THAT(idl, HasSubstr("[id(0x101), propput, helpstring(\"Sets it.\")]\n"
+  EXPECT_THAT(idl, HasSubstr("[id(0x101), propput, helpstring(\"Sets the value.\")]\n"
                              "    HRESULT Name([in] BSTR name);"));
 }
 
-TEST(EmitIdl, HidesReservedPlaces) {
+TEST(EmitIdl, HidesReservedOperations) {
   EXPECT_THAT(Emitted(EmitIdl, kThing),
               HasSubstr("[id(0x103), hidden, restricted]\n"
                         "    HRESULT Reserved3([in] IUnknown* argument1, [in] long argument2);"));
 }
 
-TEST(EmitIdl, MakesTheOnlyValueThatIsGivenTheResult) {
+TEST(EmitIdl, MakesTheOnlyOutputTheResult) {
   const std::string idl = Emitted(EmitIdl, kThing);
   EXPECT_THAT(idl, HasSubstr("Read([in] long index, [out] double* x, [out] double* y);"));
   EXPECT_THAT(idl, HasSubstr("IsOld([out, retval] VARIANT_BOOL* isOld);"));
 }
 
-TEST(EmitIdl, GivesCollectionsWhatScriptsWalkThemBy) {
+TEST(EmitIdl, MarksTheOperationsByWhichScriptsEnumerate) {
   const std::string idl = Emitted(EmitIdl, kThing + kThings);
   EXPECT_THAT(idl, HasSubstr("[id(DISPID_NEWENUM), propget, restricted"));
   EXPECT_THAT(idl, HasSubstr("[id(DISPID_VALUE), propget"));
   EXPECT_THAT(idl, HasSubstr("HRESULT Count([out, retval] long* count);"));
 }
 
-TEST(EmitIdl, GivesEveryOperationAnIdentifierOfItsOwn) {
+TEST(EmitIdl, GivesEachOperationItsOwnIdentifier) {
   const std::string idl = Emitted(EmitIdl, kThing + kThings);
   const std::regex pattern(R"(\[id\((0x[0-9a-f]+)\), (?!propput))");
   std::set<std::string> identifiers;
@@ -70,7 +70,7 @@ TEST(EmitIdl, GivesEveryOperationAnIdentifierOfItsOwn) {
   EXPECT_GT(count, 3U);
 }
 
-TEST(EmitIdl, ListsTheClassesThatCanBeMade) {
+TEST(EmitIdl, ListsTheClassesThatCanBeCreated) {
   const std::string idl = Emitted(EmitIdl, kThing + kThings + kClass);
   EXPECT_THAT(idl, HasSubstr("  coclass CoThing {\n"
                              "    [default] interface IThing;\n"

@@ -7,19 +7,20 @@
 #include "tests/paths.h"
 #include "tests/tools/comgen/describe.h"
 
-// The object model as hosts are compiled against it, told a second time and in another form, so
-// that a change of its description does not go unnoticed.
+// A second description of the object model with which hosts are compiled, in another form. A change
+// of the first one that hosts would notice fails here.
 
 namespace comgen {
 namespace {
 
-/// The operations that IGeoObject has and every element interface begins with.
+/// The operations of IGeoObject, with which every element interface begins.
 constexpr char kElement[] =
     "get_SectionName (p) (p) (p) get_ObjectCode get_StoreyNumber (s) (p) (p) (p) (p) (s) get_Name "
     "put_Name (p)";
 
-/// An interface: its operations by name, and reserved places by the kinds of their arguments (p a
-/// pointer, i 32 bits, s 16 bits, d a double). "@" stands for those of IGeoObject.
+/// An interface: the names of its operations. A reserved operation is written as the kinds of its
+/// arguments (p is a pointer, i is 32 bits, s is 16 bits, d is a double). "@" means the operations
+/// of IGeoObject.
 struct InterfaceRow {
   const char* name;
   const char* identifier;
@@ -207,7 +208,7 @@ TEST(ObjectModel, HasItsInterfacesWithTheirOperationsInOrder) {
   }
 }
 
-TEST(ObjectModel, HasNoOtherInterfacesButThatOfMaterials) {
+TEST(ObjectModel, HasNoOtherInterfaceExceptIGeoMaterial) {
   const Description description = ReadDescription();
   EXPECT_EQ(description.interfaces.size(), std::size(kInterfaces) + 1);
   const Interface* material = description.Find("IGeoMaterial");
@@ -242,7 +243,7 @@ TEST(ObjectModel, HasItsClasses) {
 
 TEST(ObjectModel, HasALibrary) { EXPECT_EQ(ReadDescription().library.name, "KELIFCLib"); }
 
-/// The part of the guide for hosts below the heading that names an interface; empty if none does.
+/// Returns the part of the guide below the heading that names an interface, or "".
 std::string PartOfGuide(const std::string& guide, const std::string& interface) {
   for (std::size_t head = guide.find("\n### "); head != std::string::npos;) {
     const std::size_t text = guide.find('\n', head + 1);
@@ -255,7 +256,7 @@ std::string PartOfGuide(const std::string& guide, const std::string& interface) 
   return "";
 }
 
-TEST(ObjectModel, IsToldWholeInTheGuideForHosts) {
+TEST(ObjectModel, IsDescribedCompletelyInTheGuide) {
   const Description description = ReadDescription();
   const std::string guide = ReadText(std::string(KelIFC::kSourceDir) + "/docs/object-model.md");
   for (const Interface& interface : description.interfaces) {

@@ -10,7 +10,7 @@ namespace {
 
 using testing::HasSubstr;
 
-/// The one interface of a body.
+/// Returns the only interface of a body.
 Interface ReadInterface(const std::string& lines) {
   return Describe("interface IThing " + kId1 + " -- A thing.\n" + lines).interfaces.front();
 }
@@ -60,7 +60,7 @@ TEST(ComgenParser, ReadsProperties) {
   EXPECT_EQ(operations[1].role, Operation::Role::kPut);
   EXPECT_FALSE(operations[1].arguments.at(0).isOut);
   EXPECT_EQ(operations[2].doc, "A number.");
-  EXPECT_EQ(operations[3].doc, "Sets it.");
+  EXPECT_EQ(operations[3].doc, "Sets the value.");
 }
 
 TEST(ComgenParser, NamesTheArgumentOfAPropertyAfterIt) {
@@ -89,7 +89,7 @@ TEST(ComgenParser, ReadsOperationsWithArguments) {
   EXPECT_TRUE(interface.operations[1].arguments.empty());
 }
 
-TEST(ComgenParser, ReadsReservedPlacesOneByOneAndInRows) {
+TEST(ComgenParser, ReadsReservedOperationsWithAndWithoutACount) {
   const Interface interface =
       ReadInterface("  reserved (pointer)\n  reserved 3 (long, short)\n  reserved 2 ()\n");
   EXPECT_EQ(NamesOf(interface), (std::vector<std::string>{"Reserved1", "Reserved2", "Reserved3",
@@ -98,7 +98,7 @@ TEST(ComgenParser, ReadsReservedPlacesOneByOneAndInRows) {
   EXPECT_EQ(interface.operations[5].arguments.size(), 0U);
 }
 
-TEST(ComgenParser, TellsAnOperationFromTheWordsOfTheNotation) {
+TEST(ComgenParser, DistinguishesAnOperationFromAKeyword) {
   EXPECT_EQ(NamesOf(ReadInterface("  getter() -- .\n  reservedPlace() -- .\n  putter() -- .\n")),
             (std::vector<std::string>{"getter", "reservedPlace", "putter"}));
 }
@@ -112,8 +112,8 @@ TEST(ComgenParser, BeginsACollectionWithItsThreeOperations) {
   const Operation& item = description.interfaces[2].operations[1];
   EXPECT_EQ(item.arguments.at(1).type.kind, Kind::kLong);
   EXPECT_TRUE(item.arguments.at(1).isOut);
-  EXPECT_THAT(description.interfaces[1].operations[1].doc, HasSubstr("counted"));
-  EXPECT_THAT(item.doc, testing::Not(HasSubstr("counted")));
+  EXPECT_THAT(description.interfaces[1].operations[1].doc, HasSubstr("The caller releases it."));
+  EXPECT_THAT(item.doc, testing::Not(HasSubstr("The caller releases it.")));
 }
 
 TEST(ComgenParser, ReadsAClass) {
@@ -135,24 +135,24 @@ TEST(ComgenParser, ReadsAClass) {
   EXPECT_EQ(type.omissions[1].operation, "");
 }
 
-TEST(ComgenParser, NamesThePlaceOfAnError) {
+TEST(ComgenParser, ReportsThePlaceOfAnError) {
   EXPECT_EQ(Refusal("type IThing\n"),
             "f.objects:2:1: error: expected 'library', 'interface', 'collection' or 'class'");
   EXPECT_EQ(RefusedLine("  get Name: string more\n"),
-            "f.objects:3:20: error: nothing more is expected here");
+            "f.objects:3:20: error: expected the end of the line");
 }
 
-TEST(ComgenParser, RefusesLinesThatBelongToNothing) {
+TEST(ComgenParser, RefusesLinesWithoutAnEntry) {
   EXPECT_THAT(Refusal("  get Name: string -- .\n"),
-              HasSubstr("belongs to no interface and no class"));
+              HasSubstr("expected an interface or a class before this line"));
 }
 
-TEST(ComgenParser, RefusesTextThatIsNoIdentifier) {
+TEST(ComgenParser, RefusesTextThatIsNotAnIdentifier) {
   for (const char* identifier :
        {"{}", "{11111111-1111-1111-1111-1111111111}", "{11111111-1111-1111-1111-11111111aaaa}",
         "{11111111-1111-1111-1111-11111111AAAAA}", "{11111111x1111-1111-1111-11111111AAAA}"}) {
     EXPECT_THAT(Refusal("interface IThing " + std::string(identifier) + " -- .\n"),
-                HasSubstr("f.objects:2:19: error: no identifier in upper case"))
+                HasSubstr("f.objects:2:19: error: expected an identifier in upper case"))
         << identifier;
   }
   EXPECT_THAT(Refusal("interface IThing 1111 -- .\n"), HasSubstr("expected '{'"));
@@ -162,7 +162,7 @@ TEST(ComgenParser, RefusesInterfacesWithoutAComment) {
   EXPECT_THAT(Refusal("interface IThing " + kId1 + "\n"), HasSubstr("a doc comment is missing"));
 }
 
-TEST(ComgenParser, RefusesWhatIsCutShort) {
+TEST(ComgenParser, RefusesIncompleteLines) {
   EXPECT_THAT(RefusedLine("  get\n"), HasSubstr("expected a name"));
   EXPECT_THAT(RefusedLine("  get Name\n"), HasSubstr("expected ':'"));
   EXPECT_THAT(RefusedLine("  get Name:\n"), HasSubstr("expected a kind"));
@@ -175,10 +175,10 @@ TEST(ComgenParser, RefusesWhatIsCutShort) {
   EXPECT_THAT(Refusal("collection IThings " + kId1 + " -- .\n"), HasSubstr("expected 'of'"));
 }
 
-TEST(ComgenParser, RefusesCountsThatAreNone) {
+TEST(ComgenParser, RefusesBadCounts) {
   for (const char* count : {"0", "100", "x", "-1", "99999999999999999999"}) {
     EXPECT_THAT(RefusedLine("  reserved " + std::string(count) + " (pointer)\n"),
-                HasSubstr("f.objects:3:12: error: no count"))
+                HasSubstr("f.objects:3:12: error: expected a count from 1 to 99"))
         << count;
   }
 }

@@ -1,0 +1,68 @@
+#include "kelifc/server/report_collector.h"
+
+#include <algorithm>
+#include <string>
+#include <typeinfo>
+
+#include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/other.h"
+#include "kelifc/server/ifc_server.h"
+
+namespace KelIFC {
+namespace {
+
+std::string UpperCase(std::string text) {
+  std::transform(text.begin(), text.end(), text.begin(), [](char c) {
+    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+  });
+  return text;
+}
+
+bool IsRaw(const IfcUnknown& instance) { return typeid(instance) == typeid(IfcOther); }
+
+}  // namespace
+
+std::string EntityNameAt(const char* text) {
+  const char* begin = detail::SkipBlanks(text);
+  const char* end = begin;
+  while (*end != '\0' && *end != '(' && !detail::IsBlank(*end)) ++end;
+  return UpperCase(std::string(begin, end));
+}
+
+void ReportCollector::NoteStatement(std::size_t number, const IfcUnknown* made, const char* text) {
+  ++report.statements;
+  if (made == nullptr) {
+    droppedNumbers[number] = report.droppedByEntity.try_emplace(EntityNameAt(text)).first;
+  } else if (IsRaw(*made)) {
+    rawNumbers.push_back(number);
+  }
+}
+
+void ReportCollector::EndFirstPass(const IfcServer& server) {
+  slots = server.GetItems().size();
+  for (const auto& [number, count] : droppedNumbers) {
+    if (server.HasNumber(number)) continue;  // another statement with it has an instance
+    ++count->second;
+    ++report.dropped;
+  }
+  for (auto at = report.droppedByEntity.begin(); at != report.droppedByEntity.end();) {
+    at = at->second == 0 ? report.droppedByEntity.erase(at) : std::next(at);
+  }
+  report.made = server.GetNumberCount();
+  report.numbers = report.made + report.dropped;
+}
+
+void ReportCollector::EndLoad(IfcServer& server) {
+  report.added = server.GetItems().size() - slots;
+  std::sort(rawNumbers.begin(), rawNumbers.end());
+  rawNumbers.erase(std::unique(rawNumbers.begin(), rawNumbers.end()), rawNumbers.end());
+  for (const std::size_t number : rawNumbers) {
+    const auto* other = dynamic_cast<const IfcOther*>(server.GetItem(number));
+    if (other == nullptr) continue;  // the last statement with the number is of another class
+    ++report.rawByEntity[UpperCase(other->GetStepEntityName())];
+    ++report.raw;
+  }
+  report.made -= report.raw;
+}
+
+}  // namespace KelIFC
