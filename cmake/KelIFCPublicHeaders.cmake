@@ -80,6 +80,7 @@ set(kelifc_public_headers
   kelifc/server/load_result.h
   kelifc/server/release.h
   kelifc/server/report_format.h
+  kelifc/server/save_options.h
   kelifc/server/statement_place.h)
 
 # The headers that the generators write, below PROJECT_BINARY_DIR/generated. The folders that run a

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <cstddef>
 #include <memory>
+#include <numbers>
 
 #include "kelifc/core/bounding_box.h"
 #include "kelifc/core/cartesian_point.h"

@@ -2,8 +2,7 @@
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-constexpr double kArcStep = kPi / 32;
+constexpr double kArcStep = std::numbers::pi / 32;
 constexpr double kAngleTolerance = 0.001;
 constexpr IfcTrimmingPreference kByPoint = IfcTrimmingPreference(1);
 
@@ -61,8 +60,8 @@ class OutlineWriter {
     double y = first.y - centre.y;
     double from = std::atan2(y, x);
     double to = std::atan2(second.y - centre.y, second.x - centre.x);
-    if (sense && to < from) to += 2 * kPi;
-    if (!sense && from < to) to -= 2 * kPi;
+    if (sense && to < from) to += 2 * std::numbers::pi;
+    if (!sense && from < to) to -= 2 * std::numbers::pi;
     const double step = sense ? kArcStep : -kArcStep;
     const double sine = std::sin(step);
     const double cosine = std::cos(step);

@@ -1,5 +1,6 @@
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <random>
 
 #include "kelifc/geometry/polygon2.h"
@@ -13,7 +14,7 @@ namespace KelIFC {
 namespace {
 
 constexpr double kTolerance = 0.001;
-const double kPi = std::acos(-1.0);
+constexpr double kPi = std::numbers::pi;
 
 /// Returns the distance of a point from a segment.
 double DistanceTo(const Point2& point, const Point2& a, const Point2& b) {

@@ -1,11 +1,13 @@
 #include "kelifc/geometry/rotation2.h"
 
+#include <numbers>
+
 #include "tests/geometry/points.h"
 
 namespace KelIFC {
 namespace {
 
-const double kPi = std::acos(-1.0);
+constexpr double kPi = std::numbers::pi;
 
 TEST(Rotation, TurnsCounterClockwiseForAPositiveAngle) {
   const Rotation2 quarter(kPi / 2);

@@ -22,9 +22,9 @@ INCLUDE = os.path.join(PREFIX, INCLUDE_NAME)
 LIBRARY = os.path.join(PREFIX, LIBRARY_NAME, "libkelifc.so")
 SYNTAX = "clang++"  # reads the headers, also where another compiler made the library
 
-# Classes that public classes have as members. A host needs their size and calls none of their
-# functions, which stay inside the library.
-INTERNAL = re.compile(r"\bKelIFC::(detail::|NumberIndex\b|InstanceIndex\b|NoHeader\b)")
+# Helpers of public headers. A host needs the size of those that public classes have as members, but
+# calls none of their functions, which may stay inside the library.
+INTERNAL = re.compile(r"\bKelIFC::detail::")
 
 # Thunks, and instances of templates of the standard library.
 BY_PRODUCTS = re.compile(r"(virtual thunk to |non-virtual thunk to |(\S+ )?std::)")

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <numbers>
 #include <utility>
 
 #include "kelifc/geometry/rotation2.h"
@@ -11,10 +12,8 @@ namespace KelIFC {
 
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-
 /// The angle of a chord of an arc between points, in radians.
-constexpr double kArcStep = kPi / 32;
+constexpr double kArcStep = std::numbers::pi / 32;
 
 /// The number of chords of an arc between parameters.
 constexpr int kChords = 32;
@@ -36,7 +35,7 @@ void AddChords(Mvector<Point3>& points, const TrimmedCurveFacts& curve, double t
   Vector2 toPoint = curve.start - curve.centre;
   const double startAngle = DirectionAngle(toPoint.x, toPoint.y);
   double endAngle = DirectionAngle(toEnd.x, toEnd.y);
-  const double turn = curve.isForward ? 2 * kPi : -2 * kPi;
+  const double turn = curve.isForward ? 2 * std::numbers::pi : -2 * std::numbers::pi;
   if (curve.isForward ? endAngle < startAngle : startAngle < endAngle) endAngle += turn;
   const double step = curve.isForward ? kArcStep : -kArcStep;
   const Rotation2 rotation(step);
@@ -57,7 +56,7 @@ double AngleOf(double degrees) {
   using Limits = std::numeric_limits<std::int32_t>;
   const double whole = std::trunc(degrees);
   const bool isNumber = whole >= Limits::min() && whole <= Limits::max();
-  return isNumber ? whole * kPi / 180 : 0.0;
+  return isNumber ? whole * std::numbers::pi / 180 : 0.0;
 }
 
 void AddParameterArc(Mvector<Point3>& points, const TrimmedCurveFacts& curve) {

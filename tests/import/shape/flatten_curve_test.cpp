@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 
 #include "kelifc/geo/ifc_server_object.h"
 #include "kelifc/import/model/all_releases.h"
@@ -17,7 +18,7 @@ using testing::IsEmpty;
 using testing::SizeIs;
 using Ref = ModelBuilder::Ref;
 
-constexpr double kPi = 3.14159265358979323846;
+constexpr double kPi = std::numbers::pi;
 
 template <class Release>
 class FlattenedCurve : public ConversionTest<Release> {
