@@ -30,6 +30,7 @@ set(kelifc_public_headers
   kelifc/core/representation_item.h
   kelifc/core/selects.h
   kelifc/core/set_of_members.h
+  kelifc/core/statement_view.h
   kelifc/core/step_file_schema.h
   kelifc/core/string.h
   kelifc/core/trimming_preference.h

@@ -25,6 +25,7 @@
 #include "kelifc/core/representation_item.h"
 #include "kelifc/core/selects.h"
 #include "kelifc/core/set_of_members.h"
+#include "kelifc/core/statement_view.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/core/string.h"
 #include "kelifc/core/trimming_preference.h"
@@ -46,6 +47,8 @@
 #include "kelifc/schema/ifc2x2.h"
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/load_findings.h"
+#include "kelifc/server/load_options.h"
 #include "kelifc/server/report_format.h"
 
 #endif  // KELIFC_KELIFC_H_

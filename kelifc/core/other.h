@@ -3,6 +3,7 @@
 
 #include <string>
 
+#include "kelifc/core/statement_view.h"
 #include "kelifc/core/unknown.h"
 
 namespace KelIFC {
@@ -25,6 +26,9 @@ class KELIFC_API IfcOther : public IfcUnknown {
   /// The entity name as the file has it.
   const std::string& GetStepEntityName() const { return stepEntityName; }
   void SetStepEntityName(const char* name);
+
+  /// The attributes by their positions. Linear in the length of the statement.
+  StatementView GetAttributes() const { return StatementView(attributeText); }
 
  private:
   std::string stepEntityName;

@@ -5,7 +5,6 @@
 #include <ostream>
 
 #include "kelifc/core/detail/text_out.h"
-#include "kelifc/core/text/hex.h"
 #include "kelifc/core/text/iso_binary.h"
 #include "kelifc/core/text/quoting.h"
 #include "kelifc/platform/utf8.h"
@@ -24,16 +23,6 @@ bool IsLowerCase(char c) { return c >= 'a' && c <= 'z'; }
 
 std::string_view Between(const char* begin, const char* end) {
   return {begin, static_cast<std::size_t>(end - begin)};
-}
-
-// True if each parenthesis of a text has its counterpart in the text.
-bool HasMatchedParentheses(std::string_view text) {
-  std::size_t open = 0;
-  for (const char c : text) {
-    if (c == '(') ++open;
-    if (c == ')' && open-- == 0) return false;
-  }
-  return open == 0;
 }
 
 }  // namespace
@@ -69,22 +58,10 @@ const char* IsoStatementReader::TakeLowerCase(const char* at) {
 
 // Steps over a string that means the same in both notations, and replaces any other.
 const char* IsoStatementReader::TakeString(const char* quote) {
-  std::size_t open = 0;
-  bool hasUpperBytes = false;
-  const char* at = quote + 1;
-  for (;; ++at) {
-    // A quote and the two parentheses are neighbours.
-    at = FindMatch<Within<kQuote, ')'>, Is<kEscape>, UpperByte>(at, limit);
-    if (at == limit || *at == kQuote || *at == kEscape) break;
-    if (*at == '(') {
-      ++open;
-    } else if (*at != ')') {
-      hasUpperBytes = true;
-    } else if (open-- == 0) {
-      break;
-    }
-  }
-  const bool isSame = at != limit && *at == kQuote && at[1] != kQuote && open == 0 &&
+  const char* at = FindMatch<Is<kQuote>, Is<kEscape>, UpperByte>(quote + 1, limit);
+  const bool hasUpperBytes = at != limit && *at != kQuote && *at != kEscape;
+  if (hasUpperBytes) at = FindAnyOf<kQuote, kEscape>(at, limit);
+  const bool isSame = at != limit && *at == kQuote && at[1] != kQuote &&
                       (!hasUpperBytes || IsValidUtf8(Between(quote + 1, at)));
   return isSame ? at + 1 : ReplaceString(quote);
 }
@@ -99,16 +76,10 @@ const char* IsoStatementReader::ReplaceString(const char* quote) {
 }
 
 void IsoStatementReader::AppendQuoted(std::string_view text) {
-  const bool isMatched = HasMatchedParentheses(text);
   out += kQuote;
   for (const char c : text) {
-    if (!isMatched && (c == '(' || c == ')')) {
-      out += "\\X\\";
-      AppendHex(out, static_cast<unsigned char>(c), 2);
-    } else {
-      if (IsEscapable(c)) out += kEscape;
-      out += c;
-    }
+    if (IsEscapable(c)) out += kEscape;
+    out += c;
   }
   out += kQuote;
 }

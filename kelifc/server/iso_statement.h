@@ -24,8 +24,7 @@ class IsoStatementReader {
   /// valid until the next call. There is a NUL at `end`, and at the end of the result.
   ///  - What may stand between tokens is removed.
   ///  - Letters outside strings become upper case.
-  ///  - Strings are decoded. Parentheses in a string that do not match each other are escaped,
-  ///    because readers of lists count parentheses without regard to strings.
+  ///  - Strings are decoded.
   ///  - Binary values become one character per bit.
   ///  - A string without an end is removed with all that follows.
   const char* Read(const char* text, const char* end);

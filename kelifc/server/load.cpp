@@ -129,6 +129,7 @@ int IfcServer::LoadPasses(const ModelSource& model) {
   if (load.collector != nullptr) load.collector->EndFirstPass(*this);
   load.bytesBefore = load.bytesTotal / 2;
   load.bytesReported = 0;
+  load.statementBytes = 0;
   in = model.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
   ScanFile(*in, this, false);
@@ -143,13 +144,10 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   idToIndex.Reserve(expected);
 }
 
-// Called after each statement, looks at most things only once per block that was read.
+// Called once for each block that was read, looks at what changes slowly.
 bool IfcServer::GoesOn() {
-  const ScanBuffer& scanner = *load.scanner;
-  load.isBeyondLimit = Exceeds(items.size(), load.limits.maxInstances);
-  if (load.isBeyondLimit) return false;
-  if (scanner.GetBytesRead() == load.bytesReported || !load.isRunning) return true;
-  load.bytesReported = scanner.GetBytesRead();
+  if (!load.isRunning) return true;
+  load.bytesReported = load.scanner->GetBytesRead();
   load.isBeyondLimit = !IsWithinMemory();
   return !load.isBeyondLimit && ReportProgress(load.bytesReported);
 }
@@ -162,10 +160,13 @@ bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
 }
 
 // Texts stand outside the blocks of instances; the statements that they were read from are longer.
+// The statements of the first pass do not count.
 bool IfcServer::IsWithinMemory() const {
   const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
-  const std::uint64_t taken = blocks + load.statementBytes + kBytesPerSlot * items.size() +
-                              sizeof(StatementPlace) * places.size();
+  const std::uint64_t texts = load.bytesBefore == 0 ? 0 : load.statementBytes;
+  const std::uint64_t registry =
+      kBytesPerSlot * items.size() + sizeof(StatementPlace) * places.size();
+  const std::uint64_t taken = blocks + texts + registry;
   return !Exceeds(taken, load.limits.maxMemoryBytes);
 }
 

@@ -42,18 +42,8 @@ std::uint64_t ScanBuffer::GetBeginOffset() const {
   return piece.absolute + dropped - piece.offset;
 }
 
-void ScanBuffer::Begin() {
-  textBegin = textEnd = runBegin = cursor;
-  dropped = 0;
-  NotePiece();
-}
-
-void ScanBuffer::NotePiece() {
-  const std::size_t offset = textEnd - textBegin + cursor - runBegin;
-  if (offset == 0) {
-    start = {0, PlaceOf(cursor), AbsoluteOf(cursor)};
-    if (!pieces.empty()) pieces.clear();
-  } else if (pieces.size() < kMostPieces) {
+void ScanBuffer::AddPiece(std::size_t offset) {
+  if (pieces.size() < kMostPieces) {
     pieces.push_back({offset, PlaceOf(cursor), AbsoluteOf(cursor)});
   }
 }
@@ -74,6 +64,7 @@ bool ScanBuffer::Refill() {
   const auto count = static_cast<std::size_t>(input.gcount());
   dataEnd += count;
   bytesRead += count;
+  dataBegin = bytesRead - dataEnd;
   ended = count == 0;
   return !ended;
 }

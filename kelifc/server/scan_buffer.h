@@ -59,7 +59,12 @@ class ScanBuffer {
 
  protected:
   // Starts a new statement at the cursor.
-  void Begin();
+  void Begin() {
+    textBegin = textEnd = runBegin = cursor;
+    dropped = 0;
+    if (!pieces.empty()) pieces.clear();
+    start = {0, PlaceOf(cursor), AbsoluteOf(cursor)};
+  }
 
   // Ends the statement, and moves the cursor to `next`, where the next one starts. There is room
   // for a NUL after the text: `next` is after the cursor, or the run is empty and the text is not.
@@ -103,7 +108,14 @@ class ScanBuffer {
   }
 
   // Notes where the text at the cursor stands in the file.
-  void NotePiece();
+  void NotePiece() {
+    const std::size_t offset = textEnd - textBegin + cursor - runBegin;
+    if (offset == 0) {
+      start = {0, PlaceOf(cursor), AbsoluteOf(cursor)};
+    } else {
+      AddPiece(offset);
+    }
+  }
 
   SourcePlace PlaceOf(std::size_t position) const {
     return {line, AbsoluteOf(position) - lineStart + 1};
@@ -112,7 +124,7 @@ class ScanBuffer {
   const char* DataAt(std::size_t position) const { return buffer.get() + position; }
 
   // The offset in the stream of a position that is not before the cursor.
-  std::uint64_t AbsoluteOf(std::size_t position) const { return bytesRead - (dataEnd - position); }
+  std::uint64_t AbsoluteOf(std::size_t position) const { return dataBegin + position; }
 
   // Positions in the buffer, in this order. The text of the statement is [textBegin, textEnd) and
   // the run [runBegin, cursor), which joins it as soon as something is left out after it.
@@ -133,7 +145,7 @@ class ScanBuffer {
   };
 
   const Piece& FindPiece(std::size_t offset) const;
-
+  void AddPiece(std::size_t offset);
   void CloseGaps();
   void Grow();
 
@@ -141,6 +153,7 @@ class ScanBuffer {
   std::size_t blockSize;
   std::size_t limit = 0;
   std::uint64_t bytesRead = 0;
+  std::uint64_t dataBegin = 0;  // from a position after all gaps to its offset in the stream
   std::size_t capacity = 0;
   bool ended = false;
   bool isBeyondLimit = false;

@@ -17,6 +17,11 @@ namespace {
 // archive would be read into memory in search of one.
 constexpr std::size_t kHeadLimit = std::size_t{1024} * 1024;
 
+// A limit as a number of bytes or items. 0 is no limit.
+std::size_t AsSize(std::uint64_t limit) {
+  return limit == 0 ? SIZE_MAX : static_cast<std::size_t>(std::min<std::uint64_t>(limit, SIZE_MAX));
+}
+
 // Notes the bad escapes of the statement that a scanner has handed out last.
 class EscapeNotes : public BadEscapeSink {
  public:
@@ -42,17 +47,19 @@ template <class AnyScanner>
 void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {
   IfcServer::LoadState& load = server.load;
   const auto handle = firstPass ? RegisterStatement : ParseStatement;
-  const auto longest =
-      static_cast<std::size_t>(std::min<std::uint64_t>(load.limits.maxStatementBytes, SIZE_MAX));
+  const std::size_t longest = AsSize(load.limits.maxStatementBytes);
+  const std::size_t mostItems = AsSize(load.limits.maxInstances);
   load.scanner = &scanner;
   scanner.SetLimit(firstPass ? kHeadLimit : longest);
   while (char* statement = scanner.Next()) {
     scanner.SetLimit(longest);
     if (load.isUnordered) server.idToIndex.PrefetchNumber(scanner.PeekNumber());
-    load.isBeyondLimit = longest != 0 && scanner.GetLength() > longest;
+    load.isBeyondLimit = scanner.GetLength() > longest;
     if (load.isBeyondLimit || handle(&server, statement) != 0) return;
-    if (!firstPass) load.statementBytes += scanner.GetLength();
-    if (!server.GoesOn()) return;
+    load.isBeyondLimit = server.items.size() > mostItems;
+    if (load.isBeyondLimit) return;
+    load.statementBytes += scanner.GetLength();
+    if (scanner.GetBytesRead() != load.bytesReported && !server.GoesOn()) return;
   }
   load.isBeyondLimit = (scanner.IsBeyondLimit() && server.headerSeen) || !server.IsWithinMemory();
 }
