@@ -80,6 +80,7 @@ set(kelifc_public_headers
   kelifc/server/load_report.h
   kelifc/server/load_result.h
   kelifc/server/release.h
+  kelifc/server/report_format.h
   kelifc/server/save_options.h
   kelifc/server/statement_place.h)
 

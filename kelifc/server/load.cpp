@@ -164,8 +164,9 @@ bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
 bool IfcServer::IsWithinMemory() const {
   const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
   const std::uint64_t texts = load.bytesBefore == 0 ? 0 : load.statementBytes;
-  const std::uint64_t taken =
-      blocks + texts + kBytesPerSlot * items.size() + sizeof(StatementPlace) * places.size();
+  const std::uint64_t registry =
+      kBytesPerSlot * items.size() + sizeof(StatementPlace) * places.size();
+  const std::uint64_t taken = blocks + texts + registry;
   return !Exceeds(taken, load.limits.maxMemoryBytes);
 }
 
