@@ -91,8 +91,11 @@ class KELIFC_API IfcServer {
   /// Throws as InsertItem does.
   virtual std::size_t AddItem(IfcUnknown* item);
 
-  /// Makes an instance by the name of its entity in the server's release and registers it. Gives
-  /// the instance, which stays the server's, or null for a name that the release does not know.
+  /// Makes an instance of an entity of the server's release, by its name, and registers it. Returns
+  /// the instance, which belongs to the server, or null for a name that the release does not know.
+  /// All attributes are unset, and so is the global identifier. The object model finds the storey
+  /// of an element by the global identifiers of both. So in a model that is built in memory, no
+  /// element belongs to a storey until the host has set these identifiers.
   virtual IfcUnknown* CreateItem(const char* name);
 
   /// Destroys an instance and gives the number it had, 0 if it had none or is not here. Its slot
@@ -129,7 +132,8 @@ class KELIFC_API IfcServer {
   /// The tolerance of the model, 0.001 in a new server.
   virtual double GetEps() const;
 
-  /// Always null. Use the overload that is not const.
+  /// Always returns null, even if the model has the number. A call through a const server or a
+  /// pointer to one selects this overload; use the overload that is not const.
   virtual const IfcUnknown* GetItem(std::size_t id) const;
 
   /// The first instance with a global identifier, null if there is none; releases 2x, 2x2 and 2x3
