@@ -1,4 +1,4 @@
-# The packages that cpack makes: an archive for Windows, Debian packages elsewhere. docs/building.md
+# The packages that cpack makes: an archive for Windows, Debian packages elsewhere. docs/installation.md
 # lists what each of them contains.
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGE_VENDOR "KelIFC")
