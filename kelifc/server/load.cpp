@@ -14,15 +14,15 @@
 namespace KelIFC {
 namespace {
 
-// Models have a statement per 50 to 60 bytes, and room for the registry is made accordingly. What
-// is not used of it is address space, not memory. A file may claim any size, hence the bound.
+// Models have one statement per 50 to 60 bytes, and the registry allocates memory for that number.
+// The unused part is address space, not memory. The bound exists because a file can claim any size.
 constexpr std::uint64_t kBytesPerStatement = 40;
 constexpr std::uint64_t kMostExpected = std::uint64_t{1} << 24;
 
-// Of the registry, for each instance.
+// The memory that the registry needs for each instance.
 constexpr std::uint64_t kBytesPerSlot = 12;
 
-// A limit of 0 is none.
+// A limit of 0 means no limit.
 constexpr bool Exceeds(std::uint64_t value, std::uint64_t limit) {
   return limit != 0 && value > limit;
 }
@@ -83,7 +83,7 @@ int IfcServer::LoadWithOptions(const ModelSource& source, const LoadOptions& opt
 }
 
 int IfcServer::LoadFrom(const ModelSource& source, const LoadState& initial) {
-  struct LoadEnd {  // also where memory runs out in the middle
+  struct LoadEnd {  // also runs if an allocation fails
     LoadState& load;
     ~LoadEnd() { load = LoadState(); }
   } const end{load};
@@ -102,7 +102,8 @@ int IfcServer::LoadFrom(const ModelSource& source, const LoadState& initial) {
 
 int IfcServer::LoadPasses(const ModelSource& source) {
   MakeRoom(source.GetSize());
-  // Where memory is watched each block stands alone, so that none can be touched unseen.
+  // If a tool checks memory accesses, each block is a heap allocation of its own, so that the tool
+  // sees every invalid access.
   std::optional<LoadArena> memory;
   if (!kIsMemoryWatched) load.memory = &memory.emplace();
   std::unique_ptr<std::istream> in = source.Open();
@@ -132,7 +133,7 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   idToIndex.Reserve(expected);
 }
 
-// Called after each statement, looks at most things only once per block that was read.
+// Called after each statement. Checks most limits only once for each block of the file.
 bool IfcServer::GoesOn() {
   const ScanBuffer& scanner = *load.scanner;
   load.isBeyondLimit = Exceeds(items.size(), load.limits.maxInstances);
@@ -150,7 +151,7 @@ bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
   return !load.isStopped;
 }
 
-// Texts stand outside the blocks of instances; the statements that they were read from are longer.
+// Texts are not part of the blocks of instances; the statements that contained them are longer.
 bool IfcServer::IsWithinMemory() const {
   const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
   const std::uint64_t taken = blocks + load.statementBytes + kBytesPerSlot * items.size();

@@ -21,14 +21,14 @@ constexpr std::string_view kHead = "ISO-10303-21";
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
-// A statement `#n=...` cut in two at its first `=`.
+// A statement `#n=...`, split at its first `=`.
 struct Assignment {
-  std::size_t number = 0;  // 0 if the statement is none or its left side is not `#n`
+  std::size_t number = 0;  // 0 if there is no `=`, or if the left side is not `#n`
   char* text = nullptr;    // the right side
 };
 
-// Reads the left side of nearly every statement: `#`, up to nine digits and the `=`, with nothing
-// between. Any other form leaves the result at 0, whatever it means.
+// Parses the common form of the left side: `#`, up to nine digits and the `=`, without blanks. For
+// any other form the result stays 0.
 Assignment ReadPlainAssignment(char* statement) {
   constexpr std::ptrdiff_t kMostDigits = 9;
   if (*statement != '#') return {};
@@ -52,7 +52,7 @@ Assignment CutAssignment(char* statement) {
   return assignment;
 }
 
-// True if the statement begins with the head of a STEP file, in any case.
+// Returns true if the statement begins with the head of a STEP file, in any case.
 bool BeginsWithHead(const char* statement) {
   return std::equal(kHead.begin(), kHead.end(), statement, [](char wanted, char found) {
     return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
@@ -74,7 +74,7 @@ std::int16_t IfcServer::ReadHeaderStatement(char* statement) {
   std::unique_ptr<IfcUnknown> instance(ParseClass(statement, nullptr));
   auto* record = dynamic_cast<StepFileSchema*>(instance.get());
   if (record == nullptr) {
-    // An instance ahead of the schema is lost, yet the second pass will come across its number.
+    // An instance before the schema is lost, but the second pass reads its number.
     NoteNumber(CutAssignment(statement).number);
     return 0;
   }
@@ -97,8 +97,8 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
   return 0;
 }
 
-// Makes the instance of a statement. An instance of several types has no name in the dialect of
-// ISO 10303-21.
+// Makes the instance of a statement. In the dialect of ISO 10303-21, an instance with several types
+// has no name.
 IfcUnknown* IfcServer::MakeStated(const char* text) {
   const bool isComplex = IsIso() && *detail::SkipBlanks(text) == '(';
   IfcUnknown* const made = isComplex ? MakeByRelease("") : ParseClass(text, nullptr);
@@ -111,8 +111,8 @@ void IfcServer::NoteRepeat(std::size_t id) {
   if (IsIso()) ++load.repeats[id];
 }
 
-// True if a later statement has the same number. In the dialect of ISO 10303-21 the instance, which
-// is of the last statement, reads that one only.
+// Returns true if a later statement has the same number. In the dialect of ISO 10303-21, the
+// instance is that of the last such statement and reads only that one.
 bool IfcServer::IsRepeated(std::size_t id) {
   if (load.repeats.empty()) return false;
   const auto found = load.repeats.find(id);
@@ -128,7 +128,7 @@ void IfcServer::NoteNumber(std::size_t id) {
   }
 }
 
-// Where the numbers jump about, each is a wait for memory that its statement can ask for ahead.
+// If the numbers are not in order, each look-up waits for memory, which its statement can prefetch.
 void IfcServer::NoteOrder(std::size_t id) {
   constexpr std::size_t kNear = 256;
   load.isUnordered = id - load.lastNumber > kNear;
