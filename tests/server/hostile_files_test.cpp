@@ -61,8 +61,8 @@ const char* const kAttributes[] = {
     "IFCPOLYLINE((#1,@))",                          // a member of a list of references
     "IFCWALL('g',#1,@,$,$,$,$,$)",                  // a text
     "IFCWALL('g',@,'n',$,$,$,$,$)",                 // a reference
-    "IFCPROPERTYSINGLEVALUE('n',$,@,$)",            // a value in place
-    "IFCPROPERTYSINGLEVALUE('n',$,IFCLABEL(@),$)",  // the text in a value in place
+    "IFCPROPERTYSINGLEVALUE('n',$,@,$)",            // an inline value
+    "IFCPROPERTYSINGLEVALUE('n',$,IFCLABEL(@),$)",  // the text in an inline value
     "IFCPROPERTYENUMERATEDVALUE('n',$,(@),$)",      // a list of values
     "IFCTRIMMEDCURVE(#1,(@),(@),.T.,.PARAMETER.)",  // values and references mixed
     "IFCSIUNIT(*,@,.MILLI.,.METRE.)",               // an enumeration
