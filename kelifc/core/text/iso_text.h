@@ -54,12 +54,12 @@ void AppendIsoString(std::string& out, std::string_view text);
 /// such as tabs.
 constexpr bool IsIsoBlank(char c) { return c > '\0' && c <= ' '; }
 
-/// The number of quotes that belong to the text of a string, of a row of quotes that follows `\S\`.
-/// They are ambiguous: `\S\'` is a character, but the quote may also be the end of a string whose
-/// last escape is cut short. The row ends the string if a comma or a closing parenthesis follows
-/// it, after any blanks, or if nothing does; its last quote is then the closing one. The first
-/// quote of the text, or the first two if their number is even, belong to the escape. The others
-/// are doubled quotes.
+/// Returns how many quotes of a row of quotes after `\S\` belong to the text of the string. The row
+/// is ambiguous: `\S\'` is a character, but the quote can also end a string whose last escape is
+/// incomplete. The row ends the string if a comma or a closing parenthesis follows it, after any
+/// blanks, or if nothing follows; then its last quote is the closing one. The first quote of the
+/// text, or the first two if their number is even, belong to the escape. The others are doubled
+/// quotes.
 ///
 /// `next` returns the next character at each call, beginning with the first quote, and NUL at the
 /// end of the text.
