@@ -8,6 +8,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 #include <vector>
 
@@ -21,6 +22,7 @@
 #include "kelifc/server/load_options.h"
 #include "kelifc/server/load_result.h"
 #include "kelifc/server/release.h"
+#include "kelifc/server/save_options.h"
 
 namespace KelIFC {
 
@@ -202,6 +204,13 @@ class KELIFC_API IfcServer {
   /// load, and are not needed after it.
   int LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options);
 
+  /// Writes all numbered instances to a STEP file, as SaveIfcFile does it, and returns a
+  /// SAVE_RESULT. What differs:
+  ///  - The file is written beside `path` and replaces it at the end, as FileReplacement defines. A
+  ///    failure at any time leaves the old file as it was.
+  ///  - Every failure has a result other than 0. The error handler receives one message.
+  int SaveIfc(const char* path, const SaveOptions& options);
+
   /// The dialect that the model was loaded in, and in which it is saved. STEP_DIALECT_CLASSIC after
   /// Reset and after a load that failed. In the dialect of ISO 10303-21 the texts of attributes are
   /// UTF-8.
@@ -294,6 +303,8 @@ class KELIFC_API IfcServer {
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
 
+  int SaveModel(const char* path, std::string_view schema, std::string& reason);
+  void WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema);
   void WriteInstances(std::ostream& out);
   void WriteInstance(std::ostream& out, std::uint64_t number);
   int TellError(const std::string& message) const;  // gives the code of a failed save

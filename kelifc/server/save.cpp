@@ -8,6 +8,7 @@
 #include "kelifc/core/detail/prefetch.h"
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
+#include "kelifc/platform/file_replacement.h"
 #include "kelifc/platform/local_time.h"
 #include "kelifc/platform/path.h"
 #include "kelifc/server/file_output.h"
@@ -57,6 +58,11 @@ std::string GetHeaderText(std::string_view text, STEP_DIALECT dialect) {
   return quoted.substr(1, quoted.size() - 2);
 }
 
+std::string DescribeFailure(const FileOutput& file) {
+  const std::string reason = file.GetFailure();
+  return "the file could not be written to its end" + (reason.empty() ? "" : ": " + reason);
+}
+
 }  // namespace
 
 int IfcServer::SaveIfcFile(const char* path) {
@@ -66,18 +72,54 @@ int IfcServer::SaveIfcFile(const char* path) {
   if (schema.empty()) return TellError(place + "the model has no release to be saved in");
   FileOutput file(path);
   if (!file.IsOpen()) return TellError(place + GetLastSystemError());
-  std::ostream& out = file.GetStream();
-  WriteHeader(out, GetHeaderText(GetFileName(path), dialect), schema);
-  WriteInstances(out);
-  detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
+  WriteModel(file.GetStream(), GetFileName(path), schema);
   if (!file.Close()) {
-    const std::string reason = file.GetFailure();
-    TellError(place + "the file could not be written to its end" +
-              (reason.empty() ? "" : ": " + reason));
+    TellError(place + DescribeFailure(file));
   } else if (!FileExists(path)) {
     TellError(place + "the file is gone");
   }
   return kSaved;
+}
+
+int IfcServer::SaveIfc(const char* path, const SaveOptions& /*options*/) {
+  std::string reason;
+  const std::string_view schema = GetSchemaString(GetRelease());
+  int result = SAVE_RESULT_NO_RELEASE;
+  if (path == nullptr) {
+    TellError("no name of a file to save to");
+    return SAVE_RESULT_CANNOT_WRITE;
+  }
+  if (schema.empty()) {
+    reason = "the model has no release to be saved in";
+  } else {
+    result = SaveModel(path, schema, reason);
+  }
+  if (result != SAVE_RESULT_SAVED) TellError(std::string(path) + ": " + reason);
+  return result;
+}
+
+// `reason` receives the cause of a failure.
+int IfcServer::SaveModel(const char* path, std::string_view schema, std::string& reason) {
+  FileReplacement target(path);
+  reason = target.GetFailure();
+  if (!target.IsGood()) return SAVE_RESULT_CANNOT_WRITE;
+  FileOutput file(target.GetPath());
+  reason = GetLastSystemError();
+  if (!file.IsOpen()) return SAVE_RESULT_CANNOT_WRITE;
+  WriteModel(file.GetStream(), GetFileName(path), schema);
+  if (!file.Close()) {
+    reason = DescribeFailure(file);
+    return SAVE_RESULT_CANNOT_WRITE;
+  }
+  if (target.Commit()) return SAVE_RESULT_SAVED;
+  reason = target.GetFailure();
+  return SAVE_RESULT_CANNOT_WRITE;
+}
+
+void IfcServer::WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema) {
+  WriteHeader(out, GetHeaderText(fileName, dialect), schema);
+  WriteInstances(out);
+  detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
 }
 
 // Takes the numbers a batch at a time. In a file without order each step from a number to its

@@ -11,11 +11,9 @@ namespace command {
 void RunSave(const SaveOptions& options) {
   KelIFC::IfcServer server;
   LoadModel(server, options.model);
-  std::string failure;  // the first report; the others are consequences of it
-  server.SetErrorHandler([&failure](const std::string& message) {
-    if (failure.empty()) failure = message;
-  });
-  if (server.SaveIfcFile(options.output.c_str()) != 0 || !failure.empty()) {
+  std::string failure;
+  server.SetErrorHandler([&failure](const std::string& message) { failure = message; });
+  if (server.SaveIfc(options.output.c_str(), {}) != KelIFC::SAVE_RESULT_SAVED) {
     throw Failure(Status::kFile, failure);
   }
 }
