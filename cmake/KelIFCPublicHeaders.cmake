@@ -78,6 +78,7 @@ set(kelifc_public_headers
   kelifc/server/load_options.h
   kelifc/server/load_result.h
   kelifc/server/release.h
+  kelifc/server/same_values.h
   kelifc/server/save_options.h)
 
 # The headers that the generators write, below PROJECT_BINARY_DIR/generated. The folders that run a

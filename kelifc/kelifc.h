@@ -46,5 +46,6 @@
 #include "kelifc/schema/ifc2x2.h"
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/same_values.h"
 
 #endif  // KELIFC_KELIFC_H_
