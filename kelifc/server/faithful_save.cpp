@@ -11,9 +11,9 @@
 #include "kelifc/server/content_hash.h"
 #include "kelifc/server/file_header.h"
 #include "kelifc/server/model_origin.h"
+#include "kelifc/server/same_values.h"
 #include "kelifc/server/scanner.h"
 #include "kelifc/server/statements.h"
-#include "kelifc/server/same_values.h"
 
 namespace KelIFC {
 namespace {

@@ -109,9 +109,10 @@ TEST_F(FaithfulSave, KeepsTheHeaderButForThreeFields) {
 }
 
 TEST_F(FaithfulSave, RewritesTheStatementOfAChangedInstanceOnly) {
-  Load("DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n#2= IFCCARTESIANPOINT((1.0,2.0)) ;\n"
-       "#3=IFCCARTESIANPOINT((1.0,2.0));\n" +
-       std::string(kTail));
+  Load(
+      "DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n#2= IFCCARTESIANPOINT((1.0,2.0)) ;\n"
+      "#3=IFCCARTESIANPOINT((1.0,2.0));\n" +
+      std::string(kTail));
   MovePoint(2, 5);
   EXPECT_EQ(SaveData(),
             "DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n#2=IFCCARTESIANPOINT((5.,2.));\n"
@@ -139,8 +140,8 @@ TEST_F(FaithfulSave, LeavesOutTheStatementOfADeletedInstance) {
   Load("DATA;\n#1=IFCCARTESIANPOINT((1.));\n/*x*/#2=IFCCARTESIANPOINT((2.));\n#3=IFCFOO(#2);\n" +
        std::string(kTail));
   server.DeleteItem(server.GetItem(std::size_t{2}));
-  EXPECT_EQ(SaveData(), "DATA;\n#1=IFCCARTESIANPOINT((1.));\n/*x*/\n#3=IFCFOO(#2);\n" +
-                            std::string(kTail));
+  EXPECT_EQ(SaveData(),
+            "DATA;\n#1=IFCCARTESIANPOINT((1.));\n/*x*/\n#3=IFCFOO(#2);\n" + std::string(kTail));
 }
 
 TEST_F(FaithfulSave, WritesNewInstancesAtTheEndOfTheLastDataSection) {
@@ -157,8 +158,7 @@ TEST_F(FaithfulSave, WritesNewInstancesAtTheEndOfTheLastDataSection) {
 TEST_F(FaithfulSave, WritesNewInstancesAtTheEndOfAFileThatIsCut) {
   Load("DATA;\n#1=IFCFOO();\n#2=IFCFO");
   server.AddItem(new IfcCartesianPoint(2, 3));
-  EXPECT_EQ(SaveData(),
-            "DATA;\n#1=IFCFOO();\n#2=IFCCARTESIANPOINT((2.,3.));\n\n#2=IFCFO");
+  EXPECT_EQ(SaveData(), "DATA;\n#1=IFCFOO();\n#2=IFCCARTESIANPOINT((2.,3.));\n\n#2=IFCFO");
 }
 
 TEST_F(FaithfulSave, PutsAnInstanceThatTookANumberInThePlaceOfItsStatement) {
@@ -169,8 +169,7 @@ TEST_F(FaithfulSave, PutsAnInstanceThatTookANumberInThePlaceOfItsStatement) {
 }
 
 TEST_F(FaithfulSave, CopiesTheEarlierStatementsOfANumber) {
-  Load("DATA;\n#1=IFCCARTESIANPOINT((1.0));\n#1=IFCCARTESIANPOINT((2.0));\n" +
-       std::string(kTail));
+  Load("DATA;\n#1=IFCCARTESIANPOINT((1.0));\n#1=IFCCARTESIANPOINT((2.0));\n" + std::string(kTail));
   MovePoint(1, 3);
   EXPECT_EQ(SaveData(), "DATA;\n#1=IFCCARTESIANPOINT((1.0));\n#1=IFCCARTESIANPOINT((3.));\n" +
                             std::string(kTail));
@@ -232,7 +231,8 @@ TEST_F(FaithfulSave, RefusesASourceThatHasChanged) {
   Load("DATA;\n#1=IFCCARTESIANPOINT((1.0));\n" + std::string(kTail));
   std::ofstream(target.GetPath()) << "old";
   std::ofstream(source.GetPath(), std::ios::binary)
-      << kHead << "DATA;\n#1=IFCCARTESIANPOINT((7.0));\n" << kTail;
+      << kHead << "DATA;\n#1=IFCCARTESIANPOINT((7.0));\n"
+      << kTail;
   EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_SOURCE_CHANGED);
   EXPECT_EQ(told, std::string(target.GetPath()) +
                       ": the source of the model has changed since it was loaded\n");
@@ -287,7 +287,8 @@ TEST_F(FaithfulSave, ServesModelsFromMemoryAndFromStreams) {
 }
 
 TEST_F(FaithfulSave, CopiesAByteOrderMark) {
-  std::ofstream(source.GetPath(), std::ios::binary) << "\xEF\xBB\xBF" << kHead << "DATA;\n" << kTail;
+  std::ofstream(source.GetPath(), std::ios::binary) << "\xEF\xBB\xBF" << kHead << "DATA;\n"
+                                                    << kTail;
   ASSERT_EQ(server.LoadIfc(source.GetPath(), Iso()), 0);
   EXPECT_THAT(Save(), testing::StartsWith("\xEF\xBB\xBFISO-10303-21;\n"));
 }
