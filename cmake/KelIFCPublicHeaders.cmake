@@ -81,6 +81,7 @@ set(kelifc_public_headers
   kelifc/server/load_result.h
   kelifc/server/release.h
   kelifc/server/report_format.h
+  kelifc/server/same_values.h
   kelifc/server/save_options.h
   kelifc/server/statement_place.h)
 

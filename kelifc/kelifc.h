@@ -50,5 +50,6 @@
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/load_options.h"
 #include "kelifc/server/report_format.h"
+#include "kelifc/server/same_values.h"
 
 #endif  // KELIFC_KELIFC_H_

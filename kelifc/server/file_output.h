@@ -15,8 +15,9 @@ namespace KelIFC {
 /// The stream does not use the process locale, and its line ends are those of the platform.
 class FileOutput {
  public:
-  /// Creates the file, or empties an existing one.
-  explicit FileOutput(const std::string& name);
+  /// Creates the file, or empties an existing one. `mode` may add std::ios::binary: line ends are
+  /// then written as they are.
+  explicit FileOutput(const std::string& name, std::ios::openmode mode = {});
   ~FileOutput();
   FileOutput(const FileOutput&) = delete;
   FileOutput& operator=(const FileOutput&) = delete;

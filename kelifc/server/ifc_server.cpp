@@ -69,6 +69,7 @@ void IfcServer::Reset() {
   slotsWithoutGuid = 0;
   mayRepeat = false;
   dialect = STEP_DIALECT_CLASSIC;
+  origin.reset();
 }
 
 // Keeps only the first slot of an instance that was registered twice. Allocates no memory: an

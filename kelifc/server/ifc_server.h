@@ -32,6 +32,7 @@ class IfcServer;
 class IfcUnknown;
 class IsoStatementReader;
 class LoadArena;
+class ModelOrigin;
 class ModelSource;
 class ReportCollector;
 class ScanBuffer;
@@ -209,9 +210,10 @@ class KELIFC_API IfcServer {
   /// load reads a model twice. Progress is reported after that.
   int LoadIfcStream(std::istream& in, const LoadOptions& options);
 
-  /// The same for `size` bytes of memory, which are not copied. They must not change during the
-  /// load. After it they are needed only by operations that read the source again; a host that
-  /// calls one keeps them until then.
+  /// The same for `size` bytes of memory. They must not change during the load. In the dialect of
+  /// ISO 10303-21 the server keeps a copy, which it reads again for CheckModel and a faithful save,
+  /// so the bytes are not needed after the load. In the classic dialect a host that calls
+  /// CheckModel keeps them until then.
   int LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options);
 
   /// Writes all numbered instances to a STEP file, as SaveIfcFile does it, and returns a
@@ -219,6 +221,7 @@ class KELIFC_API IfcServer {
   ///  - The file is written beside `path` and replaces it at the end, as FileReplacement defines. A
   ///    failure at any time leaves the old file as it was.
   ///  - Every failure has a result other than 0. The error handler receives one message.
+  ///  - A faithful save copies from the source of the model what the host did not change.
   int SaveIfc(const char* path, const SaveOptions& options);
 
   /// The dialect that the model was loaded in, and in which it is saved. STEP_DIALECT_CLASSIC after
@@ -276,6 +279,7 @@ class KELIFC_API IfcServer {
   void SetErrorHandler(ErrorHandler handler);
 
  private:
+  friend class FaithfulSave;
   friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
   template <class AnyScanner>
   friend void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass);
@@ -288,6 +292,7 @@ class KELIFC_API IfcServer {
     LoadLimits limits = {0, 0, 0, 0};
     LoadFindings* findings = nullptr;      // null if nothing is noted
     ReportCollector* collector = nullptr;  // null if nothing is counted
+    ModelOrigin* origin = nullptr;         // receives what a faithful save needs; null for none
     bool keepsUnknown = false;             // as IfcOther, where the release has no class
 
     bool isRunning = false;
@@ -321,6 +326,8 @@ class KELIFC_API IfcServer {
   void DropRepeatedSlots();
 
   int LoadWithOptions(std::shared_ptr<const ModelSource> model, const LoadOptions& options);
+  void KeepSource(std::shared_ptr<const ModelSource> kept);
+  void ScanOrigin(std::istream& in, ModelOrigin& target);
   int LoadFrom(const ModelSource& model, const LoadState& initial);
   int LoadPasses(const ModelSource& model);
   void ForgetLoad();
@@ -342,7 +349,8 @@ class KELIFC_API IfcServer {
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
 
-  int SaveModel(const char* path, std::string_view schema, std::string& reason);
+  int SaveModel(const char* path, std::string_view schema, const SaveOptions& options,
+                std::string& reason);
   void WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema);
   void WriteInstances(std::ostream& out);
   void WriteInstance(std::ostream& out, std::uint64_t number);
@@ -368,6 +376,7 @@ class KELIFC_API IfcServer {
   LoadReport report;
   std::shared_ptr<const ModelSource> source;  // of the last LoadIfc; null if there is none
   std::vector<StatementPlace> places;         // by position in `items`; shorter than that
+  std::shared_ptr<const ModelOrigin> origin;  // null if the model cannot be saved faithfully
   LoadState load;
   ProgressHandler progressHandler;
   ErrorHandler errorHandler;

@@ -8,7 +8,9 @@
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/platform/memory_watch.h"
 #include "kelifc/platform/path.h"
+#include "kelifc/server/content_hash.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/model_origin.h"
 #include "kelifc/server/model_source.h"
 #include "kelifc/server/report_collector.h"
 #include "kelifc/server/scan_buffer.h"
@@ -48,7 +50,9 @@ int IfcServer::LoadIfc(const char* path, const LoadOptions& options) {
 int IfcServer::LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options) {
   ForgetLoad();
   const std::size_t count = data == nullptr ? 0 : size;
-  return LoadWithOptions(std::make_shared<MemorySource>(data, count), options);
+  const int result = LoadWithOptions(std::make_shared<MemorySource>(data, count), options);
+  if (origin != nullptr) KeepSource(std::make_shared<CopiedSource>(data, size));
+  return result;
 }
 
 int IfcServer::LoadIfcStream(std::istream& in, const LoadOptions& options) {
@@ -73,6 +77,14 @@ void IfcServer::ForgetLoad() {
   dialect = STEP_DIALECT_CLASSIC;
 }
 
+// Replaces a source that does not outlive the load.
+void IfcServer::KeepSource(std::shared_ptr<const ModelSource> kept) {
+  auto changed = std::make_shared<ModelOrigin>(*origin);
+  changed->source = kept;
+  origin = std::move(changed);
+  source = std::move(kept);
+}
+
 int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
                                const LoadOptions& options) {
   SetRelease(IFC_RELEASE_NONE);
@@ -84,11 +96,18 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
   initial.findings = &report.findings;
   initial.collector = &collector;
   initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
+  std::shared_ptr<ModelOrigin> made;
+  if (options.dialect == STEP_DIALECT_ISO) made = std::make_shared<ModelOrigin>();
+  initial.origin = made.get();
   const int result = LoadFrom(*model, initial);
   if (result != LOAD_RESULT_LOADED) return result;
   collector.EndLoad(*this);
   dialect = options.dialect;
   source = std::move(model);
+  if (made == nullptr) return result;
+  made->source = source;
+  made->keepsUnknown = initial.keepsUnknown;
+  origin = std::move(made);
   return result;
 }
 
@@ -132,8 +151,22 @@ int IfcServer::LoadPasses(const ModelSource& model) {
   load.statementBytes = 0;
   in = model.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
-  ScanFile(*in, this, false);
+  if (load.origin == nullptr) {
+    ScanFile(*in, this, false);
+  } else {
+    ScanOrigin(*in, *load.origin);
+  }
   return LOAD_RESULT_LOADED;
+}
+
+// The second pass, which also notes what a faithful save needs.
+void IfcServer::ScanOrigin(std::istream& in, ModelOrigin& target) {
+  target.statedEnd = items.size();
+  target.repeats = load.repeats;
+  HashedInput hashed(in);
+  ScanFile(hashed, this, false);
+  target.addedEnd = items.size();
+  target.hash = hashed.GetHash().GetValue();
 }
 
 void IfcServer::MakeRoom(std::uint64_t fileSize) {

@@ -14,6 +14,9 @@ void EmitSource(const ReleaseModel& model, const Family& family, Files& files);
 /// The name table of one release: what a file can name.
 void EmitNames(const ReleaseModel& model, Files& files);
 
+/// The comparison of the values of each class of one release.
+void EmitComparisons(const ReleaseModel& model, Files& files);
+
 /// Forward declarations, the list of classes for templates and the umbrella header of one release.
 void EmitRelease(const Description& description, const ReleaseModel& model, Files& files);
 

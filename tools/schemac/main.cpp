@@ -29,6 +29,7 @@ schemac::Files Emit(const schemac::Description& description) {
       schemac::EmitSource(models.back(), family, files);
     }
     schemac::EmitNames(models.back(), files);
+    schemac::EmitComparisons(models.back(), files);
     schemac::EmitRecords(models.back(), files);
     schemac::EmitRelease(description, models.back(), files);
   }
