@@ -12,10 +12,10 @@ constexpr std::streamsize kBlockSize = std::streamsize{512} * 1024;
 
 }  // namespace
 
-FileOutput::FileOutput(const std::string& name) : stream(&buffer) {
+FileOutput::FileOutput(const std::string& name, std::ios::openmode mode) : stream(&buffer) {
   stream.imbue(std::locale::classic());
   buffer.file.pubimbue(std::locale::classic());
-  buffer.file.open(name, std::ios::out | std::ios::trunc);
+  buffer.file.open(name, std::ios::out | std::ios::trunc | mode);
 }
 
 FileOutput::~FileOutput() { Close(); }

@@ -16,7 +16,8 @@ namespace KelIFC {
 class FileOutput {
  public:
   /// Creates the file, or empties the one that is there.
-  explicit FileOutput(const std::string& name);
+  /// `mode` may add std::ios::binary: line ends are then written as they are.
+  explicit FileOutput(const std::string& name, std::ios::openmode mode = {});
   ~FileOutput();
   FileOutput(const FileOutput&) = delete;
   FileOutput& operator=(const FileOutput&) = delete;

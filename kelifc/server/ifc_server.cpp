@@ -67,6 +67,7 @@ void IfcServer::Reset() {
   slotsWithoutGuid = 0;
   mayRepeat = false;
   dialect = STEP_DIALECT_CLASSIC;
+  origin.reset();
 }
 
 // Leaves an instance that was registered twice in its first slot only. Takes no memory: that an

@@ -30,6 +30,7 @@ class IfcServer;
 class IfcUnknown;
 class IsoStatementReader;
 class LoadArena;
+class ModelOrigin;
 class ModelSource;
 class ScanBuffer;
 class StepFileSchema;
@@ -200,8 +201,8 @@ class KELIFC_API IfcServer {
   /// is read twice; progress is reported from then on.
   int LoadIfcStream(std::istream& in, const LoadOptions& options);
 
-  /// The same for `size` bytes of memory, which are not copied. They must not change during the
-  /// load, and are not needed after it.
+  /// The same for `size` bytes of memory. They must not change during the load, and are not needed
+  /// after it: in the dialect of ISO 10303-21 the server keeps a copy for a faithful save.
   int LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options);
 
   /// Writes all numbered instances to a STEP file, as SaveIfcFile does it, and returns a
@@ -209,6 +210,7 @@ class KELIFC_API IfcServer {
   ///  - The file is written beside `path` and replaces it at the end, as FileReplacement defines. A
   ///    failure at any time leaves the old file as it was.
   ///  - Every failure has a result other than 0. The error handler receives one message.
+  ///  - A faithful save copies from the source of the model what the host did not change.
   int SaveIfc(const char* path, const SaveOptions& options);
 
   /// The dialect that the model was loaded in, and in which it is saved. STEP_DIALECT_CLASSIC after
@@ -241,6 +243,7 @@ class KELIFC_API IfcServer {
   void SetErrorHandler(ErrorHandler handler);
 
  private:
+  friend class FaithfulSave;
   friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
   template <class AnyScanner>
   friend void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass);
@@ -252,6 +255,7 @@ class KELIFC_API IfcServer {
     STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
     LoadLimits limits = {0, 0, 0, 0};
     LoadFindings* findings = nullptr;  // null if nothing is noted
+    ModelOrigin* origin = nullptr;     // receives what a faithful save needs; null for none
     bool keepsUnknown = false;         // as IfcOther, where the release has no class
 
     bool isRunning = false;
@@ -283,7 +287,9 @@ class KELIFC_API IfcServer {
   void BuildGuidIndex();
   void DropRepeatedSlots();
 
-  int LoadWithOptions(const ModelSource& source, const LoadOptions& options);
+  int LoadWithOptions(const std::shared_ptr<const ModelSource>& source, const LoadOptions& options);
+  void KeepSource(std::shared_ptr<const ModelSource> source);
+  void ScanOrigin(std::istream& in, ModelOrigin& target);
   int LoadFrom(const ModelSource& source, const LoadState& initial);
   int LoadPasses(const ModelSource& source);
   void ForgetLoad();
@@ -303,7 +309,8 @@ class KELIFC_API IfcServer {
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
 
-  int SaveModel(const char* path, std::string_view schema, std::string& reason);
+  int SaveModel(const char* path, std::string_view schema, const SaveOptions& options,
+                std::string& reason);
   void WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema);
   void WriteInstances(std::ostream& out);
   void WriteInstance(std::ostream& out, std::uint64_t number);
@@ -327,6 +334,7 @@ class KELIFC_API IfcServer {
   std::string fileSchema;
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
   LoadFindings findings;
+  std::shared_ptr<const ModelOrigin> origin;  // null if the model cannot be saved faithfully
   LoadState load;
   ProgressHandler progressHandler;
   ErrorHandler errorHandler;

@@ -6,7 +6,9 @@
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/platform/memory_watch.h"
 #include "kelifc/platform/path.h"
+#include "kelifc/server/content_hash.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/model_origin.h"
 #include "kelifc/server/model_source.h"
 #include "kelifc/server/scan_buffer.h"
 #include "kelifc/server/statements.h"
@@ -39,19 +41,22 @@ int IfcServer::LoadIfcFile(const char* path) {
 int IfcServer::LoadIfc(const char* path, const LoadOptions& options) {
   ForgetLoad();
   if (path == nullptr || !IsRegularFile(path)) return LOAD_RESULT_CANNOT_OPEN;
-  return LoadWithOptions(FileSource(path), options);
+  return LoadWithOptions(std::make_shared<FileSource>(path), options);
 }
 
 int IfcServer::LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options) {
   ForgetLoad();
-  return LoadWithOptions(MemorySource(data, data == nullptr ? 0 : size), options);
+  const auto source = std::make_shared<MemorySource>(data, data == nullptr ? 0 : size);
+  const int result = LoadWithOptions(source, options);
+  if (origin != nullptr) KeepSource(std::make_shared<CopiedSource>(data, size));
+  return result;
 }
 
 int IfcServer::LoadIfcStream(std::istream& in, const LoadOptions& options) {
   ForgetLoad();
   const std::uint64_t most = options.limits.maxBytes;
-  const SpooledSource source(in, most == 0 ? UINT64_MAX : most);
-  switch (source.GetState()) {
+  const auto source = std::make_shared<SpooledSource>(in, most == 0 ? UINT64_MAX : most);
+  switch (source->GetState()) {
     case SpooledSource::State::kTooLong:
       return LOAD_RESULT_LIMIT_REACHED;
     case SpooledSource::State::kFailed:
@@ -69,16 +74,32 @@ void IfcServer::ForgetLoad() {
   dialect = STEP_DIALECT_CLASSIC;
 }
 
-int IfcServer::LoadWithOptions(const ModelSource& source, const LoadOptions& options) {
+// In place of a source that is not there after the load.
+void IfcServer::KeepSource(std::shared_ptr<const ModelSource> source) {
+  auto kept = std::make_shared<ModelOrigin>(*origin);
+  kept->source = std::move(source);
+  origin = std::move(kept);
+}
+
+int IfcServer::LoadWithOptions(const std::shared_ptr<const ModelSource>& source,
+                               const LoadOptions& options) {
   SetRelease(IFC_RELEASE_NONE);
-  if (Exceeds(source.GetSize(), options.limits.maxBytes)) return LOAD_RESULT_LIMIT_REACHED;
+  if (Exceeds(source->GetSize(), options.limits.maxBytes)) return LOAD_RESULT_LIMIT_REACHED;
   LoadState initial;
   initial.dialect = options.dialect;
   initial.limits = options.limits;
   initial.findings = &findings;
   initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
-  const int result = LoadFrom(source, initial);
-  if (result == LOAD_RESULT_LOADED) dialect = options.dialect;
+  std::shared_ptr<ModelOrigin> made;
+  if (options.dialect == STEP_DIALECT_ISO) made = std::make_shared<ModelOrigin>();
+  initial.origin = made.get();
+  const int result = LoadFrom(*source, initial);
+  if (result != LOAD_RESULT_LOADED) return result;
+  dialect = options.dialect;
+  if (made == nullptr) return result;
+  made->source = source;
+  made->keepsUnknown = initial.keepsUnknown;
+  origin = std::move(made);
   return result;
 }
 
@@ -120,8 +141,22 @@ int IfcServer::LoadPasses(const ModelSource& source) {
   load.bytesReported = 0;
   in = source.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
-  ScanFile(*in, this, false);
+  if (load.origin == nullptr) {
+    ScanFile(*in, this, false);
+  } else {
+    ScanOrigin(*in, *load.origin);
+  }
   return LOAD_RESULT_LOADED;
+}
+
+// The second pass, which also notes what a faithful save needs.
+void IfcServer::ScanOrigin(std::istream& in, ModelOrigin& target) {
+  target.statedEnd = items.size();
+  target.repeats = load.repeats;
+  HashedInput hashed(in);
+  ScanFile(hashed, this, false);
+  target.addedEnd = items.size();
+  target.hash = hashed.GetHash().GetValue();
 }
 
 void IfcServer::MakeRoom(std::uint64_t fileSize) {

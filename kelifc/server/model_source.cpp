@@ -34,6 +34,10 @@ std::unique_ptr<std::istream> MemorySource::Open() const {
   return std::make_unique<MemoryStream>(data, size);
 }
 
+std::unique_ptr<std::istream> CopiedSource::Open() const {
+  return std::make_unique<MemoryStream>(bytes.data(), bytes.size());
+}
+
 SpooledSource::SpooledSource(std::istream& in, std::uint64_t mostBytes)
     : state(Copy(in, mostBytes)) {}
 

@@ -52,6 +52,18 @@ class MemorySource : public ModelSource {
   std::size_t size;
 };
 
+/// A copy of a block of memory.
+class CopiedSource : public ModelSource {
+ public:
+  CopiedSource(const void* block, std::size_t count)
+      : bytes(static_cast<const char*>(block), count) {}
+  std::uint64_t GetSize() const override { return bytes.size(); }
+  std::unique_ptr<std::istream> Open() const override;
+
+ private:
+  std::string bytes;
+};
+
 /// A copy of the rest of a stream, in a temporary file.
 class SpooledSource : public ModelSource {
  public:

@@ -1,6 +1,7 @@
 #include <array>
 #include <cstdint>
 #include <cstdio>
+#include <optional>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -9,12 +10,12 @@
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/file_replacement.h"
-#include "kelifc/platform/local_time.h"
 #include "kelifc/platform/path.h"
+#include "kelifc/server/faithful_save.h"
+#include "kelifc/server/file_header.h"
 #include "kelifc/server/file_output.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
-#include "kelifc/server/reported_version.h"
 #include "kelifc/server/schema_table.h"
 #include "kelifc/server/text_stream.h"
 
@@ -25,22 +26,13 @@ namespace {
 constexpr int kSaved = 0;
 constexpr int kCannotCreate = 1;
 
-// The time as a file's header has it, such as 2012-03-03T14:05:09.
-std::string FormatTime(const LocalTime& time) {
-  char text[96];
-  const int length = std::snprintf(text, sizeof text, "%4d-%02d-%02dT%02d:%02d:%02d", time.year,
-                                   time.month, time.day, time.hour, time.minute, time.second);
-  return std::string(text, static_cast<std::size_t>(length));
-}
-
 // The header is the same for all models but for its three fields; a file name goes in as it is.
 void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view schema) {
   out << "ISO-10303-21;\n"
          "HEADER;\n"
          "FILE_DESCRIPTION(('Merrow generated IFC file.'),'2;1');\n"
          "FILE_NAME('"
-      << fileName << "','" << FormatTime(GetLocalTimeNow()) << "',(''),('Halvern'),'KelIFC v. "
-      << kReportedVersion
+      << fileName << "','" << GetTimeStamp() << "',(''),('Halvern'),'" << GetPreprocessorVersion()
       << "','','');\n"
          "FILE_SCHEMA(('"
       << schema
@@ -81,7 +73,7 @@ int IfcServer::SaveIfcFile(const char* path) {
   return kSaved;
 }
 
-int IfcServer::SaveIfc(const char* path, const SaveOptions& /*options*/) {
+int IfcServer::SaveIfc(const char* path, const SaveOptions& options) {
   std::string reason;
   const std::string_view schema = GetSchemaString(GetRelease());
   int result = SAVE_RESULT_NO_RELEASE;
@@ -92,21 +84,33 @@ int IfcServer::SaveIfc(const char* path, const SaveOptions& /*options*/) {
   if (schema.empty()) {
     reason = "the model has no release to be saved in";
   } else {
-    result = SaveModel(path, schema, reason);
+    result = SaveModel(path, schema, options, reason);
   }
   if (result != SAVE_RESULT_SAVED) TellError(std::string(path) + ": " + reason);
   return result;
 }
 
 // `reason` receives the cause of a failure.
-int IfcServer::SaveModel(const char* path, std::string_view schema, std::string& reason) {
+int IfcServer::SaveModel(const char* path, std::string_view schema, const SaveOptions& options,
+                         std::string& reason) {
+  std::optional<FaithfulSave> faithful;
+  if (options.faithful) {
+    const int result = faithful.emplace(*this).Prepare(reason);
+    if (result != SAVE_RESULT_SAVED) return result;
+  }
   FileReplacement target(path);
   reason = target.GetFailure();
   if (!target.IsGood()) return SAVE_RESULT_CANNOT_WRITE;
-  FileOutput file(target.GetPath());
+  // A source has its own line ends.
+  FileOutput file(target.GetPath(), faithful ? std::ios::binary : std::ios::openmode{});
   reason = GetLastSystemError();
   if (!file.IsOpen()) return SAVE_RESULT_CANNOT_WRITE;
-  WriteModel(file.GetStream(), GetFileName(path), schema);
+  if (faithful) {
+    const int result = faithful->Write(file.GetStream(), GetFileName(path), reason);
+    if (result != SAVE_RESULT_SAVED) return result;
+  } else {
+    WriteModel(file.GetStream(), GetFileName(path), schema);
+  }
   if (!file.Close()) {
     reason = DescribeFailure(file);
     return SAVE_RESULT_CANNOT_WRITE;

@@ -7,13 +7,27 @@ namespace KelIFC {
 
 /// The result of IfcServer::SaveIfc, which returns it as an int. The numbers are fixed.
 enum SAVE_RESULT : std::int32_t {
-  SAVE_RESULT_SAVED = 0,         ///< the file was written as a whole
-  SAVE_RESULT_CANNOT_WRITE = 1,  ///< the file cannot be created, written to its end, or replaced
-  SAVE_RESULT_NO_RELEASE = 2,    ///< the model has no release to be saved in
+  SAVE_RESULT_SAVED = 0,           ///< the file was written as a whole
+  SAVE_RESULT_CANNOT_WRITE = 1,    ///< the file cannot be created, written to its end, or replaced
+  SAVE_RESULT_NO_RELEASE = 2,      ///< the model has no release to be saved in
+  SAVE_RESULT_NO_SOURCE = 3,       ///< a faithful save has no source, or cannot read it
+  SAVE_RESULT_SOURCE_CHANGED = 4,  ///< the source is not what it was when the model was loaded
 };
 
-/// How IfcServer::SaveIfc writes a model. There is nothing to choose yet.
-struct SaveOptions {};
+/// How IfcServer::SaveIfc writes a model.
+struct SaveOptions {
+  /// Writes what the host did not change as it stands in the source of the model: the header but
+  /// for the name, the time and the preprocessor version of FILE_NAME, the statements of instances
+  /// that are as they were read, and all that stands between statements.
+  ///  - The statement of a changed instance is written by its class, that of a deleted one is left
+  ///    out. New instances follow at the end of the last data section, by rising number.
+  ///  - Instances that a class added during the load are written if a statement that a class wrote
+  ///    refers to them.
+  ///  - The model must have been loaded by LoadIfc, LoadIfcStream or LoadIfcMemory in the dialect
+  ///  of
+  ///    ISO 10303-21. The source is read again; it must still hold the same bytes.
+  bool faithful = false;
+};
 
 }  // namespace KelIFC
 

@@ -44,6 +44,7 @@ void ScanBuffer::NotePiece() {
   const std::size_t offset = textEnd - textBegin + cursor - runBegin;
   if (offset == 0) {
     start = PlaceOf(cursor);
+    startOffset = AbsoluteOf(cursor);
     if (!pieces.empty()) pieces.clear();
   } else if (pieces.size() < kMostPieces) {
     pieces.push_back({offset, PlaceOf(cursor)});

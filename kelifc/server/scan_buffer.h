@@ -38,6 +38,11 @@ class ScanBuffer {
   /// The number of bytes that have been read from the stream.
   std::uint64_t GetBytesRead() const { return bytesRead; }
 
+  /// The offsets in the stream of the first character of the last statement and of what follows
+  /// it. Blanks and comments may stand at the begin.
+  std::uint64_t GetBeginOffset() const { return startOffset; }
+  std::uint64_t GetEndOffset() const { return AbsoluteOf(cursor); }
+
   /// A statement that grows beyond `bytes` ends the input from now on; 0 removes the limit. The
   /// length is looked at when another block is read, so a statement may exceed it by a block.
   void SetLimit(std::size_t bytes) { limit = bytes; }
@@ -137,10 +142,11 @@ class ScanBuffer {
   bool isBeyondLimit = false;
 
   std::uint64_t line = 1;
-  std::uint64_t lineStart = 0;  // offset in the stream
-  SourcePlace start;            // of the first piece
-  std::vector<Piece> pieces;    // the other ones; in most statements there are none
-  std::size_t dropped = 0;      // characters from the front of the text
+  std::uint64_t lineStart = 0;    // offset in the stream
+  SourcePlace start;              // of the first piece
+  std::uint64_t startOffset = 0;  // the same, in the stream
+  std::vector<Piece> pieces;      // the other ones; in most statements there are none
+  std::size_t dropped = 0;        // characters from the front of the text
 };
 
 }  // namespace KelIFC

@@ -21,12 +21,6 @@ constexpr std::string_view kHead = "ISO-10303-21";
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
-// A statement `#n=...` cut in two at its first `=`.
-struct Assignment {
-  std::size_t number = 0;  // 0 if the statement is none or its left side is not `#n`
-  char* text = nullptr;    // the right side
-};
-
 // Reads the left side of nearly every statement: `#`, up to nine digits and the `=`, with nothing
 // between. Any other form leaves the result at 0, whatever it means.
 Assignment ReadPlainAssignment(char* statement) {
@@ -38,6 +32,15 @@ Assignment ReadPlainAssignment(char* statement) {
   if (*at != '=' || at - statement > kMostDigits + 1) return {};
   return {number, at + 1};
 }
+
+// True if the statement begins with the head of a STEP file, in any case.
+bool BeginsWithHead(const char* statement) {
+  return std::equal(kHead.begin(), kHead.end(), statement, [](char wanted, char found) {
+    return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
+  });
+}
+
+}  // namespace
 
 Assignment CutAssignment(char* statement) {
   Assignment assignment = ReadPlainAssignment(statement);
@@ -51,15 +54,6 @@ Assignment CutAssignment(char* statement) {
   assignment.text = sign + 1;
   return assignment;
 }
-
-// True if the statement begins with the head of a STEP file, in any case.
-bool BeginsWithHead(const char* statement) {
-  return std::equal(kHead.begin(), kHead.end(), statement, [](char wanted, char found) {
-    return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
-  });
-}
-
-}  // namespace
 
 std::int16_t RegisterStatement(IfcServer* server, char* statement) {
   if (!server->headerSeen) {

@@ -1,12 +1,22 @@
 #ifndef KELIFC_SERVER_STATEMENTS_H_
 #define KELIFC_SERVER_STATEMENTS_H_
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
 
 namespace KelIFC {
 
 class IfcServer;
+
+/// A statement `#n=...` cut in two at its first `=`.
+struct Assignment {
+  std::size_t number = 0;  ///< 0 if the statement is none or its left side is not `#n`
+  char* text = nullptr;    ///< the right side
+};
+
+/// Cuts a statement. The `=` may become a NUL.
+Assignment CutAssignment(char* statement);
 
 // The two passes of a load, statement by statement.
 

@@ -26,9 +26,8 @@ bool ValueComparison::operator()(const ENUM& a, const ENUM& b) const {
 }
 
 bool ValueComparison::operator()(const REAL& a, const REAL& b) const {
-  return a.GetExists() == b.GetExists() &&
-         std::bit_cast<std::uint64_t>(static_cast<double>(a)) ==
-             std::bit_cast<std::uint64_t>(static_cast<double>(b));
+  return a.GetExists() == b.GetExists() && std::bit_cast<std::uint64_t>(static_cast<double>(a)) ==
+                                               std::bit_cast<std::uint64_t>(static_cast<double>(b));
 }
 
 bool ValueComparison::operator()(const INTEGER& a, const INTEGER& b) const {

@@ -121,7 +121,8 @@ class ComparisonEmitter {
 }  // namespace
 
 void EmitComparisons(const ReleaseModel& model, Files& files) {
-  const auto path = Fill("kelifc/schema/@folder@/comparisons.cpp", WordsOf(kReleases[model.release]));
+  const auto path =
+      Fill("kelifc/schema/@folder@/comparisons.cpp", WordsOf(kReleases[model.release]));
   files[path] = ComparisonEmitter(model).Run();
 }
 

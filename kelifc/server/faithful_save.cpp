@@ -1,0 +1,277 @@
+#include "kelifc/server/faithful_save.h"
+
+#include <algorithm>
+#include <istream>
+#include <utility>
+#include <vector>
+
+#include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/iso_text.h"
+#include "kelifc/core/unknown.h"
+#include "kelifc/server/content_hash.h"
+#include "kelifc/server/file_header.h"
+#include "kelifc/server/model_origin.h"
+#include "kelifc/server/same_values.h"
+#include "kelifc/server/scanner.h"
+#include "kelifc/server/statements.h"
+
+namespace KelIFC {
+namespace {
+
+bool IsLetterOrDigit(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
+}
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+
+// True if a statement begins with a word, in any case.
+bool BeginsWith(std::string_view statement, std::string_view word) {
+  if (statement.size() < word.size()) return false;
+  const bool isSame =
+      std::equal(word.begin(), word.end(), statement.begin(), [](char wanted, char found) {
+        return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
+      });
+  return isSame && (statement.size() == word.size() || !IsLetterOrDigit(statement[word.size()]));
+}
+
+// The number of characters before the first token: blanks and comments.
+std::size_t CountGap(std::string_view text) {
+  std::size_t at = 0;
+  while (at < text.size()) {
+    if (IsIsoBlank(text[at]) || text[at] == '\0') {
+      ++at;
+    } else if (text.substr(at, 2) == "/*") {
+      const std::size_t end = text.find("*/", at + 2);
+      if (end == std::string_view::npos) break;
+      at = end + 2;
+    } else {
+      break;
+    }
+  }
+  return at;
+}
+
+}  // namespace
+
+// Reads the source statement by statement, and the bytes that each one is made of.
+class FaithfulSave::Reader {
+ public:
+  Reader(std::istream& statements, std::istream& bytes) : input(statements), source(bytes) {}
+
+  // The next statement, or null at the end. Its bytes are appended to those that wait.
+  char* Next() {
+    char* const text = scanner.Next();
+    if (text == nullptr) return nullptr;
+    const std::uint64_t begin = std::max(scanner.GetBeginOffset(), offset);
+    Append(gap, begin);
+    Append(raw, std::max(scanner.GetEndOffset(), begin));
+    const std::size_t count = CountGap(raw);
+    gap.append(raw, 0, count);
+    raw.erase(0, count);
+    ++ordinal;
+    return text;
+  }
+
+  // The hash of all bytes, after the last statement.
+  const ContentHash& GetHash() const { return input.GetHash(); }
+
+  // Forgets the bytes, which the caller has written.
+  void Forget() {
+    gap.clear();
+    raw.clear();
+  }
+
+  // Copies what follows the last statement.
+  void CopyRest(std::ostream& out) {
+    std::vector<char> block(ScanBuffer::kBlockSize);
+    while (source.read(block.data(), static_cast<std::streamsize>(block.size())),
+           source.gcount() > 0) {
+      out.write(block.data(), source.gcount());
+    }
+  }
+
+  const char* GetTextEnd() const { return scanner.GetTextEnd(); }
+
+  std::string gap;  // the bytes before the statement: blanks, comments, statements without an end
+  std::string raw;  // the bytes of the statement
+  std::size_t ordinal = 0;
+
+ private:
+  void Append(std::string& target, std::uint64_t end) {
+    const std::size_t held = target.size();
+    target.resize(held + static_cast<std::size_t>(end - offset));
+    source.read(target.data() + held, static_cast<std::streamsize>(end - offset));
+    target.resize(held + static_cast<std::size_t>(source.gcount()));
+    offset = end;
+  }
+
+  HashedInput input;
+  IsoScanner scanner{input};
+  std::istream& source;
+  std::uint64_t offset = 0;  // of the next byte of the source
+};
+
+int FaithfulSave::Prepare(std::string& reason) {
+  origin = server.origin;
+  reason = "the model was not loaded in a way that a faithful save needs";
+  if (origin == nullptr) return SAVE_RESULT_NO_SOURCE;
+  const auto in = origin->source->Open();
+  reason = "the source of the model cannot be read";
+  if (!in) return SAVE_RESULT_NO_SOURCE;
+  HashedInput hashed(*in);
+  IsoScanner scanner(hashed);
+  bool isInData = false;
+  for (std::size_t ordinal = 1; const char* text = scanner.Next(); ++ordinal) {
+    const std::string_view found(text, scanner.GetLength());
+    if (BeginsWith(found, "DATA")) isInData = true;
+    if (!isInData || !BeginsWith(found, "ENDSEC")) continue;
+    lastDataEnd = ordinal;
+    isInData = false;
+  }
+  if (!IsSame(hashed.GetHash(), reason)) return SAVE_RESULT_SOURCE_CHANGED;
+  return SAVE_RESULT_SAVED;
+}
+
+bool FaithfulSave::IsSame(const ContentHash& hash, std::string& reason) const {
+  if (hash.GetValue() == origin->hash) return true;
+  reason = "the source of the model has changed since it was loaded";
+  return false;
+}
+
+int FaithfulSave::Write(std::ostream& out, std::string_view fileName, std::string& reason) {
+  const auto statements = origin->source->Open();
+  const auto bytes = origin->source->Open();
+  reason = "the source of the model cannot be read";
+  if (!statements || !bytes) return SAVE_RESULT_NO_SOURCE;
+  targetName = fileName;
+  apart.SetRelease(server.GetRelease());
+  apart.load.reader = &values;
+  apart.load.keepsUnknown = origin->keepsUnknown;
+  repeats = origin->repeats;
+  Reader reader(*statements, *bytes);
+  WriteStatements(reader, out);
+  if (!IsSame(reader.GetHash(), reason)) return SAVE_RESULT_SOURCE_CHANGED;
+  return SAVE_RESULT_SAVED;
+}
+
+void FaithfulSave::WriteStatements(Reader& reader, std::ostream& out) {
+  while (char* const text = reader.Next()) {
+    detail::PutText(out, reader.gap);
+    if (reader.ordinal == lastDataEnd) WriteAdditions(out);
+    WriteStatement(reader, text, out);
+    reader.Forget();
+  }
+  if (lastDataEnd == 0) {
+    detail::PutChar(out, '\n');
+    WriteAdditions(out);
+  }
+  reader.CopyRest(out);
+}
+
+void FaithfulSave::WriteStatement(Reader& reader, char* text, std::ostream& out) {
+  if (!isSchemaSeen && BeginsWith(text, "FILE_NAME")) {
+    detail::PutText(out, RenewFileName(reader.raw, targetName));
+    return;
+  }
+  const Assignment assignment = isSchemaSeen ? CutAssignment(text) : Assignment();
+  if (BeginsWith(text, "FILE_SCHEMA")) isSchemaSeen = true;
+  switch (Decide(reader, assignment.number, assignment.text)) {
+    case Action::kCopy:
+      return detail::PutText(out, reader.raw);
+    case Action::kRemove:
+      return;
+    case Action::kReplace:
+      WriteInstance(out, assignment.number);
+      // A statement without an end has no `;` but a line end.
+      if (reader.raw.empty() || reader.raw.back() != ';') detail::PutChar(out, '\n');
+  }
+}
+
+FaithfulSave::Action FaithfulSave::Decide(const Reader& reader, std::size_t number,
+                                          const char* text) {
+  if (number == 0 || TakeRepeat(number)) return Action::kCopy;
+  const std::unique_ptr<IfcUnknown> stated = ParseApart(reader, text);
+  if (stated == nullptr) return Action::kCopy;  // the load did not keep it either
+  const IfcUnknown* const kept = server.IfcServer::GetItem(number);
+  if (kept == nullptr) return Action::kRemove;
+  if (PositionOf(number) >= origin->addedEnd) placed.insert(number);
+  return HaveSameValues(*stated, *kept) ? Action::kCopy : Action::kReplace;
+}
+
+std::unique_ptr<IfcUnknown> FaithfulSave::ParseApart(const Reader& reader, const char* text) {
+  if (apart.items.size() != 0) apart.Reset();
+  std::unique_ptr<IfcUnknown> instance(apart.MakeStated(text));
+  if (instance == nullptr) return nullptr;
+  instance->SetServer(&apart);
+  instance->Parse(values.Read(text, reader.GetTextEnd()));
+  return instance;
+}
+
+bool FaithfulSave::TakeRepeat(std::size_t number) {
+  const auto found = repeats.find(number);
+  if (found == repeats.end() || found->second == 0) return false;
+  --found->second;
+  return true;
+}
+
+std::uint32_t FaithfulSave::PositionOf(std::uint64_t number) const {
+  return server.idToIndex.Find(number);
+}
+
+// Without the line end, which is the source's.
+void FaithfulSave::WriteInstance(std::ostream& out, std::uint64_t number) {
+  std::string_view text = TextOf(number, out);
+  NoteReferences(text);
+  text.remove_suffix(1);
+  detail::PutText(out, text);
+}
+
+// The statement of an instance as its class writes it, with its line end.
+std::string_view FaithfulSave::TextOf(std::uint64_t number, std::ostream& out) {
+  classic.Clear();
+  statement.Clear();
+  server.WriteInstance(classic, number);
+  if (!classic) out.setstate(std::ios::badbit);
+  WriteIsoStatement(statement, classic.GetText());
+  return statement.GetText();
+}
+
+// Instances that a class added during the load are written if one that is written refers to them.
+// Returns the numbers of those that no text before referred to.
+std::vector<std::uint64_t> FaithfulSave::NoteReferences(std::string_view text) {
+  std::vector<std::uint64_t> noted;
+  bool isInString = false;
+  for (std::size_t at = text.find('='); at < text.size(); ++at) {
+    if (text[at] == '\'') isInString = !isInString;
+    if (isInString || text[at] != '#') continue;
+    std::uint64_t number = 0;
+    for (; at + 1 < text.size() && IsDigit(text[at + 1]); ++at) {
+      number = 10 * number + static_cast<std::uint64_t>(text[at + 1] - '0');
+    }
+    const std::uint32_t position = PositionOf(number);
+    const bool isAdded = position >= origin->statedEnd && position < origin->addedEnd;
+    if (isAdded && additions.insert(number).second) noted.push_back(number);
+  }
+  return noted;
+}
+
+void FaithfulSave::CollectAdditions(std::ostream& out) {
+  for (std::uint64_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) {
+    const bool isNew = PositionOf(n) >= origin->addedEnd && placed.count(n) == 0;
+    if (isNew && server.IfcServer::GetItem(n) != nullptr) additions.insert(n);
+  }
+  // What is added here may itself refer to others.
+  std::vector<std::uint64_t> open(additions.begin(), additions.end());
+  while (!open.empty()) {
+    const std::uint64_t number = open.back();
+    open.pop_back();
+    for (const std::uint64_t added : NoteReferences(TextOf(number, out))) open.push_back(added);
+  }
+}
+
+void FaithfulSave::WriteAdditions(std::ostream& out) {
+  CollectAdditions(out);
+  for (const std::uint64_t number : additions) detail::PutText(out, TextOf(number, out));
+}
+
+}  // namespace KelIFC
