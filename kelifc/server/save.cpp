@@ -10,7 +10,6 @@
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/file_replacement.h"
-#include "kelifc/platform/local_time.h"
 #include "kelifc/platform/path.h"
 #include "kelifc/server/faithful_save.h"
 #include "kelifc/server/file_header.h"
