@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <nlohmann/json.hpp>
 
 #include "tests/command/process.h"
@@ -78,6 +79,43 @@ TEST(SaveCommand, OntoAFullDiskIsAFailure) {
   const Outcome run = Kelifc({"save", "house.ifc", "/dev/full"});
   EXPECT_EQ(run.status, kFile);
   EXPECT_THAT(run.err, MatchesRegex("kelifc: /dev/full: [^\n]+\n"));
+}
+
+/// The model from its DATA section on, which a faithful save copies.
+std::string DataOf(const std::string& text) { return text.substr(text.find("\nDATA;")); }
+
+TEST(FaithfulSave, CopiesWhatWasNotChanged) {
+  const TemporaryFolder folder;
+  const Outcome run = Kelifc({"save", "--faithful", "hall.ifc", folder.Path("out.ifc")});
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(DataOf(ReadFile(folder.Path("out.ifc"))),
+            DataOf(ReadFile(std::string(KelIFC::kExamplesDir) + "/hall.ifc")));
+}
+
+TEST(FaithfulSave, ReadsStandardInput) {
+  const TemporaryFolder folder;
+  const std::string model = std::string(KelIFC::kExamplesDir) + "/hall.ifc";
+  const Outcome run = Kelifc({"save", "--faithful", "-", folder.Path("out.ifc")}, "", model);
+  EXPECT_EQ(run.status, 0) << run.err;
+  EXPECT_EQ(DataOf(ReadFile(folder.Path("out.ifc"))), DataOf(ReadFile(model)));
+}
+
+TEST(FaithfulSave, CanReplaceItsOwnModel) {
+  const TemporaryFolder folder;
+  const std::string path = folder.Path("model.ifc");
+  const std::string text = ReadFile(std::string(KelIFC::kExamplesDir) + "/house.ifc");
+  WriteFile(path, text);
+  EXPECT_EQ(Kelifc({"save", "--faithful", "--dialect", "iso", path, path}).status, 0);
+  EXPECT_EQ(DataOf(ReadFile(path)), DataOf(text));
+}
+
+TEST(FaithfulSave, IsWrongUsageInTheClassicDialect) {
+  const TemporaryFolder folder;
+  const Outcome run =
+      Kelifc({"save", "--faithful", "--dialect", "classic", "hall.ifc", folder.Path("out.ifc")});
+  EXPECT_EQ(run.status, 64);
+  EXPECT_EQ(run.out, "");
+  EXPECT_FALSE(std::filesystem::exists(folder.Path("out.ifc")));
 }
 
 }  // namespace

@@ -40,9 +40,11 @@ struct SaveOptions {
   Reading reading;
   std::string model;
   std::string output;
+  bool faithful = false;
 };
 
-/// Loads the model and writes it to `output`.
+/// Loads the model and writes it to `output`. With `faithful`, which needs the dialect "iso", what
+/// was not changed is written as it stands in the source.
 void RunSave(const SaveOptions& options);
 
 }  // namespace command

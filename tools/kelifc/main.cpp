@@ -19,20 +19,36 @@ struct Request {
   command::SaveOptions save;
 };
 
-/// The options that all subcommands have.
-void DescribeReading(CLI::App& subcommand, command::Reading& reading) {
-  subcommand
-      .add_option("--dialect", reading.dialect,
-                  "the rules for strings and statements: classic or iso (default: classic)")
-      ->option_text("NAME")
-      ->check([](const std::string& name) {
-        return name == "classic" || name == "iso" ? "" : "the dialect is neither classic nor iso";
-      });
+/// The options that all subcommands have. Returns the option of the dialect.
+CLI::Option* DescribeReading(CLI::App& subcommand, command::Reading& reading) {
+  CLI::Option* const dialect =
+      subcommand
+          .add_option("--dialect", reading.dialect,
+                      "the rules for strings and statements: classic or iso (default: classic)")
+          ->option_text("NAME")
+          ->check([](const std::string& name) {
+            return name == "classic" || name == "iso" ? ""
+                                                      : "the dialect is neither classic nor iso";
+          });
   subcommand.add_option("--threads", reading.threads, "use N threads (default: one per processor)")
       ->option_text("N")
       ->check(CLI::Range(1U, 1024U, "N"));
   subcommand.add_flag("--quiet", reading.quiet, "no messages but failures, no progress bar");
   subcommand.add_flag("--no-progress", reading.hidesProgress, "no progress bar");
+  return dialect;
+}
+
+/// A faithful save reads the model by the rules of ISO 10303-21.
+void DescribeFaithful(CLI::App& save, command::SaveOptions& options, CLI::Option* dialect) {
+  save.add_flag("--faithful", options.faithful,
+                "write what was not changed as it is in MODEL.ifc; implies --dialect iso");
+  save.callback([&options, dialect] {
+    if (!options.faithful) return;
+    if (dialect->count() != 0 && options.reading.dialect == "classic") {
+      throw CLI::ValidationError("--faithful", "a faithful save needs --dialect iso");
+    }
+    options.reading.dialect = "iso";
+  });
 }
 
 void Describe(CLI::App& app, Request& request) {
@@ -58,7 +74,7 @@ void Describe(CLI::App& app, Request& request) {
   info->add_option(kModel, request.info.model, kModelHelp)->required()->option_text(" ");
 
   CLI::App* save = app.add_subcommand("save", "load and write back");
-  DescribeReading(*save, request.save.reading);
+  DescribeFaithful(*save, request.save, DescribeReading(*save, request.save.reading));
   save->add_option(kModel, request.save.model, kModelHelp)->required()->option_text(" ");
   save->add_option("OUT.ifc", request.save.output, "the file to write")
       ->required()

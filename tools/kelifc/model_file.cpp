@@ -36,11 +36,12 @@ std::string CauseOf(int code, const std::string& schema) {
   }
 }
 
-/// Calls `load` with the path of an ordinary file, and throws if it does not return 0.
+/// Calls `load` with the path of an ordinary file, and throws if it does not return 0. Returns the
+/// source of that file.
 template <class Load>
-void LoadWithProgress(IfcServer& server, const std::string& path, const Reading& reading,
-                      Load load) {
-  const ModelSource source(path);
+ModelSource LoadWithProgress(IfcServer& server, const std::string& path, const Reading& reading,
+                             Load load) {
+  ModelSource source(path);
   ProgressBar bar(source.GetSize());
   if (bar.IsShown() && !reading.quiet && !reading.hidesProgress) {
     server.SetProgressHandler([&bar](std::uint64_t done, std::uint64_t total) {
@@ -50,7 +51,7 @@ void LoadWithProgress(IfcServer& server, const std::string& path, const Reading&
   }
   const int code = load(source.GetPath().c_str());
   server.SetProgressHandler(nullptr);
-  if (code == KelIFC::LOAD_RESULT_LOADED) return;
+  if (code == KelIFC::LOAD_RESULT_LOADED) return source;
   if (code == KelIFC::LOAD_RESULT_CANNOT_OPEN) {
     throw Failure(Status::kFile, path, "the file cannot be opened");
   }
@@ -60,8 +61,8 @@ void LoadWithProgress(IfcServer& server, const std::string& path, const Reading&
 
 }  // namespace
 
-void LoadModel(IfcServer& server, const std::string& path, const Reading& reading) {
-  LoadWithProgress(server, path, reading, [&](const char* file) {
+ModelSource LoadModel(IfcServer& server, const std::string& path, const Reading& reading) {
+  return LoadWithProgress(server, path, reading, [&](const char* file) {
     const LoadOptions options = OptionsOf(reading);
     const bool isClassic = options.dialect == KelIFC::STEP_DIALECT_CLASSIC;
     return isClassic ? server.LoadIfcFile(file) : server.LoadIfc(file, options);

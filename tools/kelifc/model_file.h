@@ -8,6 +8,7 @@
 #include "kelifc/kelifc.h"
 
 #include "tools/kelifc/commands.h"
+#include "tools/kelifc/model_source.h"
 
 namespace command {
 
@@ -15,7 +16,10 @@ namespace command {
 /// error is a terminal, and `reading` allows it. Throws Failure with Status::kFile if the file
 /// cannot be read, and with Status::kNoModel if it is not a STEP file, its schema cannot be read,
 /// or a limit is reached. A load in the classic dialect without a report has no limits.
-void LoadModel(KelIFC::IfcServer& server, const std::string& path, const Reading& reading);
+///
+/// Returns the source of the model. A caller that lets the server read the source again keeps it
+/// until then.
+ModelSource LoadModel(KelIFC::IfcServer& server, const std::string& path, const Reading& reading);
 
 /// The same, and collects the load report with all its checks. Both dialects have limits.
 void LoadModelWithReport(KelIFC::IfcServer& server, const std::string& path,

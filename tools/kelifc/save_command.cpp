@@ -10,10 +10,12 @@ namespace command {
 
 void RunSave(const SaveOptions& options) {
   KelIFC::IfcServer server;
-  LoadModel(server, options.model, options.reading);
+  const ModelSource source = LoadModel(server, options.model, options.reading);
   std::string failure;
   server.SetErrorHandler([&failure](const std::string& message) { failure = message; });
-  if (server.SaveIfc(options.output.c_str(), {}) != KelIFC::SAVE_RESULT_SAVED) {
+  KelIFC::SaveOptions saving;
+  saving.faithful = options.faithful;
+  if (server.SaveIfc(options.output.c_str(), saving) != KelIFC::SAVE_RESULT_SAVED) {
     throw Failure(Status::kFile, failure);
   }
 }
