@@ -335,10 +335,10 @@ TEST_P(StoreyNumberOfAnElement, IsReadFromTheCurrentModel) {
   const auto server = Load(Contains(9, "(#1)", "#7"));
   const auto column = CreateColumn(server);
   EXPECT_EQ(StoreyOf(*column), 0);
-  const TemporaryFile other(ModelText(GetParam(), kBuilding + Contains(9, "(#1)", "#8")));
+  const ModelFile other(ModelText(GetParam(), kBuilding + Contains(9, "(#1)", "#8")));
   ASSERT_EQ(LoadFile(*server, other.Path()), S_OK);
   EXPECT_EQ(StoreyOf(*column), 1);
-  const TemporaryFile empty(ModelText(GetParam(), ""));
+  const ModelFile empty(ModelText(GetParam(), ""));
   ASSERT_EQ(LoadFile(*server, empty.Path()), S_OK);
   SHORT number = 7;
   EXPECT_EQ(column->get_StoreyNumber(&number), E_POINTER);
@@ -346,7 +346,7 @@ TEST_P(StoreyNumberOfAnElement, IsReadFromTheCurrentModel) {
 
 TEST_F(StoreyNumberOfAnElement, IsNotFoundInAnOlderRelease) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
-  const TemporaryFile file(ModelText("IFC20_LONGFORM", kBuilding));
+  const ModelFile file(ModelText("IFC20_LONGFORM", kBuilding));
   EXPECT_EQ(LoadFile(*server, file.Path()), STG_E_FILENOTFOUND);
   SHORT number = 7;
   EXPECT_EQ(CreateColumn(server)->get_StoreyNumber(&number), E_POINTER);

@@ -44,21 +44,21 @@ TEST_F(ServerObject, ReportsAFileThatIsNotAModel) {
   for (const std::string& bad :
        {std::string(), std::string("no model"),
         text.substr(0, schema) + text.substr(text.find("ENDSEC")), ModelText("IFC9", "")}) {
-    const TemporaryFile file(bad);
+    const ModelFile file(bad);
     ExpectFailure(file.Path(), Wide(file.Path()) + L" is not an IFC file that can be read.");
   }
 }
 
 TEST_F(ServerObject, ReportsAReleaseThatCannotBeConverted) {
   for (const char* schema : {"IFC151", "IFC20_LONGFORM"}) {
-    const TemporaryFile file(ModelText(schema, ""));
+    const ModelFile file(ModelText(schema, ""));
     ExpectFailure(file.Path(),
                   L"The IFC release of " + Wide(file.Path()) + L" cannot be converted.");
   }
 }
 
 TEST_F(ServerObject, KeepsAModelThatItCannotConvert) {
-  const TemporaryFile file(ModelText("IFC20_LONGFORM", "#1=IFCCARTESIANPOINT((1.,2.));\n"));
+  const ModelFile file(ModelText("IFC20_LONGFORM", "#1=IFCCARTESIANPOINT((1.,2.));\n"));
   const auto server = CreateOwn<CoIFCServer>();
   EXPECT_EQ(LoadFile(*server, file.Path()), STG_E_FILENOTFOUND);
   IfcServer& model = static_cast<CoIFCServer&>(*server).Model();
@@ -104,14 +104,14 @@ TEST_F(ServerObject, LoadsTheThreeReleasesThatCanBeConverted) {
 TEST_F(ServerObject, OpensFilesWithAnyName) {
   for (const char* name : {"h\xC3\xBCtte \xE2\x82\xAC", "h\xFCtte"}) {
     if (NarrowPath(WidePath(name)) != name) continue;  // the code page lacks a character
-    const TemporaryFile file(ModelText("IFC2X3", kStorey), name);
+    const ModelFile file(ModelText("IFC2X3", kStorey), name);
     const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
     EXPECT_EQ(LoadFile(*server, file.Path()), S_OK);
   }
 }
 
 TEST_F(ServerObject, DoesNotCutANameAtANullCharacter) {
-  const TemporaryFile file(ModelText("IFC2X3", kStorey));
+  const ModelFile file(ModelText("IFC2X3", kStorey));
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   const std::wstring name = Wide(file.Path()) + L'\0' + L"more";
   EXPECT_EQ(server->Load(Bstr(name).Get()), STG_E_FILENOTFOUND);

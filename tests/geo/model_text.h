@@ -13,17 +13,17 @@
 namespace KelIFC {
 
 /// A file with a text. The destructor removes it.
-class TemporaryFile {
+class ModelFile {
  public:
-  explicit TemporaryFile(const std::string& text, const std::string& name = "model") {
+  explicit ModelFile(const std::string& text, const std::string& name = "model") {
     static int count = 0;
     path = testing::TempDir() + name + "-" + std::to_string(getpid()) + "-" +
            std::to_string(++count) + ".ifc";
     std::ofstream(path, std::ios::binary) << text;
   }
-  TemporaryFile(const TemporaryFile&) = delete;
-  TemporaryFile& operator=(const TemporaryFile&) = delete;
-  ~TemporaryFile() { std::remove(path.c_str()); }
+  ModelFile(const ModelFile&) = delete;
+  ModelFile& operator=(const ModelFile&) = delete;
+  ~ModelFile() { std::remove(path.c_str()); }
 
   const std::string& Path() const { return path; }
 
@@ -45,7 +45,7 @@ inline HRESULT LoadFile(IIFCServer& server, const std::string& path) {
 
 /// Returns a server object that has loaded a model.
 inline ComPtr<IIFCServer> LoadModel(const std::string& schema, const std::string& data) {
-  const TemporaryFile file(ModelText(schema, data));
+  const ModelFile file(ModelText(schema, data));
   auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   EXPECT_EQ(LoadFile(*server, file.Path()), S_OK);
   return server;

@@ -26,7 +26,7 @@ class ServerOptions : public HostTest {
   ComPtr<IIFCServerOptions> options = server.As<IIFCServerOptions>();
 
   HRESULT Load(const std::string& schema, const std::string& data) {
-    const TemporaryFile file(ModelText(schema, data));
+    const ModelFile file(ModelText(schema, data));
     return LoadFile(*server, file.Path());
   }
 
@@ -106,7 +106,7 @@ TEST_F(ServerOptions, ALoadEndsAtALimit) {
 
 TEST_F(ServerOptions, TellWhatALoadMet) {
   EXPECT_EQ(options->put_Dialect(STEP_DIALECT_ISO), S_OK);
-  const TemporaryFile file(
+  const ModelFile file(
       ModelText("IFC2X3", std::string(kPoint) + kPoint + "#2=IFCPOLYLINE((#1,#8));\n"));
   EXPECT_EQ(LoadFile(*server, file.Path()), S_OK);
   EXPECT_EQ(CountOf(L"statements"), 3);

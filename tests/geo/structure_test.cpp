@@ -122,7 +122,7 @@ TEST_F(Structure, IsUnchangedAfterAnotherLoad) {
   const auto server = LoadModel("IFC2X3", kStorey);
   const auto structure = StructureOf(server);
   const auto storeys = GetObject(*structure, &IGeoStructure::get_Storeys);
-  const TemporaryFile other(ModelText("IFC2X2_FINAL", kTwoStoreys));
+  const ModelFile other(ModelText("IFC2X2_FINAL", kTwoStoreys));
   ASSERT_EQ(LoadFile(*server, other.Path()), S_OK);
   EXPECT_EQ(StructureOf(server).Get(), structure.Get());
   EXPECT_EQ(GetObject(*structure, &IGeoStructure::get_Storeys).Get(), storeys.Get());
@@ -132,7 +132,7 @@ TEST_F(Structure, IsUnchangedAfterAnotherLoad) {
 TEST_F(Structure, ConvertsACollectionFromTheCurrentModel) {
   const auto server = LoadModel("IFC2X3", kStorey);
   const auto structure = StructureOf(server);
-  const TemporaryFile other(ModelText("IFC2X2_FINAL", kTwoStoreys));
+  const ModelFile other(ModelText("IFC2X2_FINAL", kTwoStoreys));
   ASSERT_EQ(LoadFile(*server, other.Path()), S_OK);
   EXPECT_EQ(CountOf(*GetObject(*structure, &IGeoStructure::get_Storeys)), 2);
 }
@@ -185,7 +185,7 @@ TEST_F(Structure, AddsTheSectionsOfAnotherModel) {
   const auto server = LoadModel("IFC2X3", MakeColumnAndBeam(0.05, 0.3));
   const auto structure = StructureOf(server);
   const auto columns = GetObject(*structure, &IGeoStructure::get_Columns);
-  const TemporaryFile other(ModelText("IFC2X2_FINAL", MakeColumnAndBeam(0.1, 0.2)));
+  const ModelFile other(ModelText("IFC2X2_FINAL", MakeColumnAndBeam(0.1, 0.2)));
   ASSERT_EQ(LoadFile(*server, other.Path()), S_OK);
   const auto beams = GetObject(*structure, &IGeoStructure::get_Beams);
   EXPECT_EQ(SectionsOf(*structure), L"IFC_C_10 IFC_R_20x50 ");

@@ -111,7 +111,7 @@ TYPED_TEST(LengthScale, IsReadAgainByEachCall) {
 TEST(LengthScaleOfAServer, IsOneForReleasesWithoutAConversion) {
   const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
   EXPECT_EQ(ScaleOf(server), 1.0);
-  const TemporaryFile file(ModelText("IFC20_LONGFORM", kMillimetre));
+  const ModelFile file(ModelText("IFC20_LONGFORM", kMillimetre));
   LoadFile(*server, file.Path());
   EXPECT_EQ(ScaleOf(server), 1.0);
 }
