@@ -31,9 +31,8 @@ struct StatementView::Statement {
 namespace {
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsNameCharacter(char c) {
-  return IsDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == '!' ||
-         c == '-';
+bool BeginsName(char c) {
+  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == '!';
 }
 bool IsNumberCharacter(char c) {
   return IsDigit(c) || c == '.' || c == '+' || c == '-' || c == 'E' || c == 'e';
@@ -196,7 +195,7 @@ class StatementView::Reader {
     at += std::strcspn(at, ",()'\"");
     const std::string_view word(begin, static_cast<std::size_t>(at - begin));
     if (at == begin) ++at;
-    if (*at == '(' && IsNameCharacter(*begin)) return ATTRIBUTE_TYPED;
+    if (*at == '(' && BeginsName(*begin)) return ATTRIBUTE_TYPED;
     bool isReal = false;
     bool hasDigit = false;
     for (const char c : word) {

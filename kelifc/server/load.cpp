@@ -86,7 +86,12 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
   initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
   const int result = LoadFrom(*model, initial);
   if (result != LOAD_RESULT_LOADED) return result;
-  collector.EndLoad(*this);
+  try {
+    collector.EndLoad(*this);
+  } catch (...) {
+    Reset();
+    throw;
+  }
   dialect = options.dialect;
   source = std::move(model);
   return result;
