@@ -1,5 +1,5 @@
-# A build for another system takes what has headers alone from the packages of this one, through a
-# folder of links that holds nothing else, and compiles GoogleTest from its sources.
+# A build for another system uses the header-only packages of this system, through a folder that
+# contains only links to them, and compiles GoogleTest from its sources.
 set(linked "${PROJECT_BINARY_DIR}/linked-headers")
 file(MAKE_DIRECTORY "${linked}")
 

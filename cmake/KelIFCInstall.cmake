@@ -1,5 +1,5 @@
-# What `cmake --install` lays out: the shared library, its headers in the folders that the includes
-# name, the command, and the two ways a build system finds them: CMake package and pkg-config. The
+# The files that `cmake --install` installs: the shared library, its headers in the folders that the
+# includes name, the command, and the files by which CMake and pkg-config find the library. The
 # components are `runtime`, `headers`, `development` and `command`.
 include(CMakePackageConfigHelpers)
 set(CMAKE_INSTALL_DEFAULT_COMPONENT_NAME headers)
@@ -9,8 +9,9 @@ install(TARGETS kelifc EXPORT KelIFCTargets
   ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}" COMPONENT development
   RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}" COMPONENT runtime)
 
-# install_headers(ROOT HEADERS...): installs headers, named by their path below ROOT. The path below
-# the include folder is the same, so an include line works in the tree and in an installation.
+# install_headers(ROOT HEADERS...): installs headers, which are named by their path relative to
+# ROOT. They get the same path relative to the include folder, so an include line works in the tree
+# and in an installation.
 function(install_headers root)
   foreach(header IN LISTS ARGN)
     cmake_path(GET header PARENT_PATH folder)
@@ -32,13 +33,14 @@ install(FILES "${PROJECT_BINARY_DIR}/KelIFCConfig.cmake"
   "${PROJECT_BINARY_DIR}/KelIFCConfigVersion.cmake"
   DESTINATION "${package_dir}" COMPONENT development)
 
-# kelifc.pc names its folders relative to itself, so an installed tree can be moved as a whole.
+# The paths in kelifc.pc are relative to the file, so an installed tree can be moved.
 set(pc_dir "${CMAKE_INSTALL_LIBDIR}/pkgconfig")
 file(RELATIVE_PATH pc_prefix "/prefix/${pc_dir}" "/prefix")
 configure_file("${CMAKE_CURRENT_LIST_DIR}/kelifc.pc.in" "${PROJECT_BINARY_DIR}/kelifc.pc" @ONLY)
 install(FILES "${PROJECT_BINARY_DIR}/kelifc.pc" DESTINATION "${pc_dir}" COMPONENT development)
 
-# The command finds its library relative to itself; in a system's own folders the system finds it.
+# The command finds its library by a relative path. In the system's own folders, the system finds
+# it.
 if(TARGET kelifc_command)
   if(NOT CMAKE_INSTALL_PREFIX STREQUAL "/usr")
     file(RELATIVE_PATH bin_to_lib "/prefix/${CMAKE_INSTALL_BINDIR}" "/prefix/${CMAKE_INSTALL_LIBDIR}")
@@ -53,8 +55,8 @@ if(TARGET kelifc_command)
   endif()
 endif()
 
-# On Windows the whole is a folder to unpack: library and command in bin, what script hosts and other
-# compilers build on in share, with examples for both.
+# On Windows an installation is one folder to unpack: library and command are in bin, and in share
+# are the files that script hosts and other compilers need, with examples for both.
 if(WIN32)
   install(FILES "${PROJECT_BINARY_DIR}/generated/kelifc/geo/kelifc.idl"
     "${PROJECT_BINARY_DIR}/KelIFC.tlb"
@@ -65,7 +67,7 @@ if(WIN32)
     DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)
 endif()
 
-# The reference pages of the entity classes, which schemac leaves beside them.
+# The reference pages of the entity classes, which schemac generates together with the classes.
 install(DIRECTORY "${PROJECT_BINARY_DIR}/generated/docs/reference"
   DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)
 

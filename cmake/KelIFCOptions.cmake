@@ -1,11 +1,11 @@
-# Switches of the build, and the compile settings that the targets of the project share. As a part of
-# another project KelIFC is the library alone, unless that project asks for more.
+# The options of the build, and the compile settings that the targets of the project share. As a
+# part of another project, KelIFC is only the library, unless that project asks for more.
 include(CMakeDependentOption)
 
 if(PROJECT_IS_TOP_LEVEL)
   option(BUILD_TESTING "Build the tests" ON)
 elseif(NOT DEFINED BUILD_TESTING)
-  set(BUILD_TESTING ON)  # an outer project that does not use this switch leaves the choice to KelIFC's
+  set(BUILD_TESTING ON)  # if an outer project does not set this, KelIFC's own option decides
 endif()
 
 option(KELIFC_BUILD_SHARED "Build the library as a shared one; OFF builds a static one" ON)
@@ -19,7 +19,7 @@ option(KELIFC_BUILD_DOCS "Build the documentation site; needs Doxygen, MkDocs an
 option(KELIFC_INSTALL "Make the install rules" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
 
-# Packed models need zlib and libzip; without them the command refuses packed models.
+# Packed models need zlib and libzip. Without them the command rejects packed models.
 set(archive_default OFF)
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_CROSSCOMPILING)
   find_package(PkgConfig)
@@ -44,8 +44,7 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
-# A compiler cache speeds up repeated builds; nothing depends on it. An outer project decides for
-# itself.
+# A compiler cache speeds up repeated builds and is optional. An outer project makes its own choice.
 if(PROJECT_IS_TOP_LEVEL)
   find_program(KELIFC_CCACHE ccache)
   mark_as_advanced(KELIFC_CCACHE)
@@ -54,15 +53,15 @@ if(PROJECT_IS_TOP_LEVEL)
   endif()
 endif()
 
-# What every program and library here is compiled with. g++ 12 sees an overlap in the joining of
-# strings that is not there.
+# The compile settings of every program and library. g++ 12 warns of an overlap in the concatenation
+# of strings that does not exist.
 add_library(kelifc_warnings INTERFACE)
 target_compile_options(kelifc_warnings INTERFACE -Wall -Wextra -Wpedantic
   $<$<BOOL:${KELIFC_WARNINGS_AS_ERRORS}>:-Werror>
   $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
 
-# What the library's own sources, its generator and its tests need on top: they include by path
-# from the root of the tree, and they stand on the exporting side of KELIFC_API.
+# Additional settings for the sources of the library, its generators and its tests: include paths
+# start at the root of the tree, and KELIFC_API exports.
 add_library(kelifc_settings INTERFACE)
 target_link_libraries(kelifc_settings INTERFACE kelifc_warnings)
 target_compile_definitions(kelifc_settings INTERFACE KELIFC_BUILDING)

@@ -1,4 +1,4 @@
-# The packages that cpack makes: an archive for Windows, Debian packages elsewhere. docs/building.md
+# The packages that cpack makes: an archive for Windows, Debian packages elsewhere. docs/installation.md
 # lists what each of them contains.
 set(CPACK_STRIP_FILES ON)
 set(CPACK_PACKAGE_VENDOR "KelIFC")
@@ -17,17 +17,17 @@ set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_DEBIAN_PACKAGE_RELEASE 1)
 set(CPACK_DEBIAN_COMPRESSION_TYPE xz)
 set(CPACK_DEBIAN_PACKAGE_CONTROL_STRICT_PERMISSION ON)
-set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has a summary of its own
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "")  # each package has its own summary
 set(CPACK_PRE_BUILD_SCRIPTS "${PROJECT_SOURCE_DIR}/cmake/packages/compress.cmake")
 
 set(package_version "${PROJECT_VERSION}-${CPACK_DEBIAN_PACKAGE_RELEASE}")
-set(runtime_package "libkelifc${PROJECT_VERSION_MAJOR}")  # Debian names it after the SONAME
+set(runtime_package "libkelifc${PROJECT_VERSION_MAJOR}")  # by the SONAME, as Debian wants
 configure_file("${PROJECT_SOURCE_DIR}/cmake/packages/changelog.in"
   "${PROJECT_BINARY_DIR}/packages/changelog" @ONLY)
 
-# kelifc_package(COMPONENT NAME SECTION DESCRIPTION): the Debian package of a component, or of a group
-# of components by the same name. It gets the documents that each Debian package must have. Only cpack
-# installs those: it asks for each component by name.
+# kelifc_package(COMPONENT NAME SECTION DESCRIPTION): the Debian package of a component, or of a
+# group of components with the same name. It contains the documents that each Debian package must
+# have. Only cpack installs these documents, because it requests each component by name.
 macro(kelifc_package component name section description)
   string(TOUPPER "${component}" upper)
   set(CPACK_DEBIAN_${upper}_PACKAGE_NAME "${name}")
@@ -52,7 +52,7 @@ ${about}
 .
 This package contains the shared library.")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_SHLIBDEPS ON)
-set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)  # programs of others depend on this package by it
+set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS ON)  # other programs need it to depend on this package
 set(CPACK_DEBIAN_PACKAGE_GENERATE_SHLIBS_POLICY ">=")
 set(CPACK_DEBIAN_RUNTIME_PACKAGE_CONTROL_EXTRA "${PROJECT_SOURCE_DIR}/cmake/packages/triggers")
 

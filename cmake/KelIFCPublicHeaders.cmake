@@ -1,5 +1,5 @@
-# The headers that are installed: those that a host includes, and the helpers in detail folders that
-# they need in turn. A test compares the list with what kelifc.h includes.
+# The installed headers: those that a host includes, and the helpers in detail folders that these
+# need. A test compares the list with the headers that kelifc.h includes.
 set(kelifc_public_headers
   kelifc/core/aggregate.h
   kelifc/core/binary.h
@@ -80,10 +80,11 @@ set(kelifc_public_headers
   kelifc/server/load_report.h
   kelifc/server/load_result.h
   kelifc/server/release.h
+  kelifc/server/report_format.h
   kelifc/server/save_options.h
   kelifc/server/statement_place.h)
 
-# The headers that the generators write, below PROJECT_BINARY_DIR/generated. The folders that run a
-# generator add the full paths to the property.
+# The headers that the generators write, relative to PROJECT_BINARY_DIR/generated. The folders that
+# run a generator add the full paths to the property.
 get_property(kelifc_generated_headers GLOBAL PROPERTY kelifc_generated_headers)
 list(TRANSFORM kelifc_generated_headers REPLACE "^${PROJECT_BINARY_DIR}/generated/" "")

@@ -1,4 +1,5 @@
-# What the library has on Windows: its name there, its version, and the type library as a resource.
+# The properties of the library on Windows: its file name, its version, and the type library as a
+# resource.
 enable_language(RC)
 
 find_program(KELIFC_WIDL x86_64-w64-mingw32-widl REQUIRED)

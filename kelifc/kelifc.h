@@ -49,5 +49,6 @@
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/load_options.h"
+#include "kelifc/server/report_format.h"
 
 #endif  // KELIFC_KELIFC_H_

@@ -1,16 +1,16 @@
-# Sourced by scripts that try something on a bare Debian 12: a folder with nothing but apt in it,
-# which commands see as their whole system. Needs root. Sources lib.sh.
+# Functions for scripts that test something on a bare Debian 12: a folder that contains only a
+# minimal system with apt, and that commands use as their root. Needs root. Sources lib.sh.
 . "$(dirname "${BASH_SOURCE[0]}")/lib.sh"
 
 [ "$(id -u)" -eq 0 ] || { echo "$0: must run as root" >&2; exit 1; }
 
-# The mounts below belong to this process and its children, and go with them.
+# The mounts below belong to this process and its children, and end with them.
 if [ -z "${KELIFC_PRIVATE_MOUNTS:-}" ]; then
   KELIFC_PRIVATE_MOUNTS=1 exec unshare --mount "$root/scripts/$(basename "$0")" "$@"
 fi
 
-# make_bare_root: makes the system in the folder that the variable `bare_root` then names. The end of
-# the script removes it. Packages come from where this machine has them from.
+# make_bare_root: creates the system in a folder and stores its path in the variable `bare_root`.
+# The folder is removed when the script ends. Packages come from the sources of this machine.
 make_bare_root() {
   install_missing mmdebstrap
   bare_root=$(mktemp -d)
@@ -34,7 +34,7 @@ remove_bare_root() {
   rm -rf --one-file-system "$bare_root"
 }
 
-# in_bare_root COMMAND...: runs it in the bare system, without this machine's environment.
+# in_bare_root COMMAND...: runs a command in the bare system, without this machine's environment.
 in_bare_root() {
   env -i PATH=/usr/sbin:/usr/bin:/sbin:/bin HOME=/root LANG=C.UTF-8 \
     DEBIAN_FRONTEND=noninteractive chroot "$bare_root" "$@" </dev/null

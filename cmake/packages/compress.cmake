@@ -1,5 +1,6 @@
-# cpack runs this over the files of all packages before it packs them: Debian wants manual pages and
-# changelogs compressed, without a time in them. Other kinds of packages stay as they are.
+# cpack runs this script for the files of all packages before it packs them. Debian packages need
+# compressed manual pages and changelogs without a time stamp. Other kinds of packages are not
+# changed.
 if(NOT CPACK_GENERATOR STREQUAL "DEB")
   return()
 endif()

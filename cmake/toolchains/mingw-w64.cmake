@@ -1,5 +1,5 @@
-# Builds for 64-bit Windows with Debian's g++-mingw-w64-x86-64-posix. The runtime is linked into each
-# program and library, so that a DLL needs no companions.
+# Builds for 64-bit Windows with Debian's g++-mingw-w64-x86-64-posix. The runtime is linked into
+# each program and library, so that a DLL needs no other files.
 set(CMAKE_SYSTEM_NAME Windows)
 set(CMAKE_SYSTEM_PROCESSOR x86_64)
 

@@ -10,12 +10,13 @@
 #include "kelifc/core/detail/sequence.h"
 #include "kelifc/core/detail/text_out.h"
 
-// The aggregates of the schema. Positions count from 1, and 0 means not found. A copy copies each
-// element in turn; see MEMBER for what that does to values in place.
+// The aggregates of the schema. Positions count from 1; the position 0 means "not found". A copy of
+// an aggregate copies its elements one by one. The copy of a reference takes the inline value out
+// of its source, see MEMBER.
 
 namespace KelIFC {
 
-/// What a set finds an equal pointer by.
+/// The key by which a set finds an equal pointer.
 template <class T>
 std::size_t ElementKey(T* item) {
   return reinterpret_cast<std::size_t>(item);
@@ -29,17 +30,17 @@ template <class T>
 struct HasElementKey<T, std::void_t<decltype(ElementKey(std::declval<const T&>()))>>
     : std::true_type {};
 
-/// The bookkeeping of a SET: an index where its elements have a key, else nothing.
+/// The header of a SET: an index if its elements have a key, otherwise nothing.
 template <class T>
 using SetHeader = std::conditional_t<HasElementKey<T>::value, PositionIndex, NoHeader>;
 
 }  // namespace detail
 
-/// What LIST and SET have in common.
+/// The operations that LIST and SET share.
 template <class T, class Header>
 class Aggregate {
  public:
-  /// The position of the first equal element, or 0. Looks at one element after the other.
+  /// Returns the position of the first equal element, or 0. Takes linear time.
   std::size_t Find(const T& value) const {
     for (std::size_t i = 0; i < items.GetSize(); ++i) {
       if (items[i] == value) return i + 1;
@@ -47,16 +48,16 @@ class Aggregate {
     return 0;
   }
 
-  /// Adds an element without looking for an equal one. Gives its position.
+  /// Adds an element, even if the aggregate holds an equal one. Returns its position.
   std::size_t Append(const T& value) {
     items.SetMark(true);
     items.Append(value);
     return items.GetSize();
   }
 
-  /// Removes all elements; the mark stays.
+  /// Removes all elements. Does not change GetExists.
   void Clear() { items.Clear(); }
-  /// Makes room for `count` elements in all.
+  /// Allocates memory for `count` elements in all.
   void Reserve(std::size_t count) { items.Reserve(count); }
 
   std::size_t GetSize() const { return items.GetSize(); }
@@ -64,8 +65,8 @@ class Aggregate {
   bool GetExists() const { return items.GetMark(); }
   void SetExists(bool value) { items.SetMark(value); }
 
-  /// The element at a position. One out of range gives an unset element that all aggregates of a
-  /// thread share; what is written to it is gone at the next such access.
+  /// Returns the element at a position. A position out of range returns an unset element that all
+  /// aggregates of the thread share. The next access out of range resets that element.
   T& operator[](std::size_t position) {
     if (auto* header = items.GetHeader()) header->Drop();
     return IsIn(position) ? items[position - 1] : Spare();
@@ -93,7 +94,7 @@ class Aggregate {
     detail::PutChar(out, ')');
   }
 
-  detail::Sequence<T, Header> items;  // its mark is the mark that the aggregate exists
+  detail::Sequence<T, Header> items;  // its mark says whether the aggregate exists
 
  private:
   bool IsIn(std::size_t position) const { return position - 1 < items.GetSize(); }
@@ -104,7 +105,7 @@ class Aggregate {
   }
 };
 
-/// An ordered aggregate, which may hold equal elements.
+/// An ordered aggregate. It can hold equal elements.
 template <class T>
 class LIST : public Aggregate<T, detail::NoHeader> {
  public:
@@ -118,10 +119,10 @@ class LIST : public Aggregate<T, detail::NoHeader> {
   LIST& operator=(LIST&&) noexcept = default;
   virtual ~LIST() = default;
 
-  /// Adds an element and gives its position.
+  /// Adds an element. Returns its position.
   std::size_t Add(const T& value) { return this->Append(value); }
 
-  /// Writes the elements in parentheses, `$` if unset.
+  /// Writes the elements in parentheses, or `$` if the list is unset.
   std::ostream& Write(std::ostream& out) const {
     if (this->GetExists()) {
       this->WriteItems(out);
@@ -132,8 +133,9 @@ class LIST : public Aggregate<T, detail::NoHeader> {
   }
 };
 
-/// An aggregate without equal elements, as far as Add made it. A long set of references or pointers
-/// keeps an index, so that Add stays fast; access to elements for writing drops it.
+/// An aggregate to which Add adds no equal elements; other operations can. A large set of
+/// references or pointers has an index, so that Add takes constant time. Access to an element
+/// through a non-const set drops the index.
 template <class T>
 class SET : public Aggregate<T, detail::SetHeader<T>> {
   using Base = Aggregate<T, detail::SetHeader<T>>;
@@ -149,7 +151,8 @@ class SET : public Aggregate<T, detail::SetHeader<T>> {
   SET& operator=(SET&&) noexcept = default;
   virtual ~SET() = default;
 
-  /// Adds an element unless there is an equal one. Gives the position of the one or the other.
+  /// Adds an element, unless the set holds an equal one. Returns the position of the new element or
+  /// of the equal one.
   std::size_t Add(const T& value) {
     this->SetExists(true);
     if constexpr (detail::HasElementKey<T>::value) {
@@ -159,7 +162,7 @@ class SET : public Aggregate<T, detail::SetHeader<T>> {
     return position != 0 ? position : this->Append(value);
   }
 
-  /// Writes the elements in parentheses, also if unset.
+  /// Writes the elements in parentheses, even if the set is unset.
   std::ostream& Write(std::ostream& out) const {
     this->WriteItems(out);
     return out;

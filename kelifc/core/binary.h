@@ -14,15 +14,15 @@ namespace KelIFC {
 
 namespace detail {
 
-/// Fills `count` flags from a bit text between double quotes and gives the next cursor; `text` is
-/// not null. A flag is '1' where the bit text has a '1', else '0'. If no such text stands ahead of
-/// the next comma, all flags are '0' and the result is `text`.
+/// Parses a bit text between double quotes into `count` flags. A flag is '1' where the bit text has
+/// a '1', otherwise '0'. Returns the cursor after the next comma. If there is no bit text before
+/// the next comma, all flags are '0' and the function returns `text`. `text` is not null.
 KELIFC_API const char* ReadBits(const char* text, char* flags, std::size_t count);
 
 }  // namespace detail
 
-/// A bit string of fixed width, or unset. In a file the bits stand one by one as 0 and 1 between
-/// double quotes, which is not the hexadecimal form of the published exchange structure.
+/// A bit string of fixed width, or unset. In a file, each bit is one character, 0 or 1, between
+/// double quotes. This is not the hexadecimal form of the published exchange structure.
 template <std::size_t N>
 class BINARY {
  public:
@@ -31,7 +31,8 @@ class BINARY {
   BINARY& operator=(const BINARY&) = default;
   virtual ~BINARY() = default;
 
-  /// Reads the bits; a bit text that is too short, or missing, is filled up with 0 and exists.
+  /// Parses the bits. Bits that are missing in the text are 0. The value exists even if there is no
+  /// bit text.
   const char* Parse(const char* text) {
     flags.fill('0');
     exists = false;
@@ -41,7 +42,7 @@ class BINARY {
     return detail::ReadBits(text, flags.data(), N);
   }
 
-  /// Writes the bits, `$` if unset.
+  /// Writes the bits, or `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const {
     if (!exists) {
       detail::PutChar(out, '$');

@@ -18,10 +18,10 @@ class KELIFC_API BOOLEAN {
 
   operator bool() const { return value; }
 
-  /// Reads `.T.` as true and every other text as false; both exist. Text that is no enumerator
-  /// leaves the cursor where it is.
+  /// Parses `.T.` as true and every other text as false. The value exists in both cases. Text that
+  /// is not an enumerator leaves the cursor where it is.
   const char* Parse(const char* text);
-  /// Writes `.T.` or `.F.`, `$` if unset.
+  /// Writes `.T.` or `.F.`, or `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const;
 
   bool GetExists() const { return exists; }

@@ -10,7 +10,8 @@
 
 namespace KelIFC {
 
-/// A box along the axes, by its lowest corner and its extent.
+/// A box with edges parallel to the axes. It has a corner with the lowest coordinates and an extent
+/// along each axis, in the model's unit of length.
 class KELIFC_API IfcBoundingBox : public IfcGeometricRepresentationItem {
  public:
   IfcBoundingBox();
@@ -23,15 +24,17 @@ class KELIFC_API IfcBoundingBox : public IfcGeometricRepresentationItem {
   const char* Parse(const char* text) override;
   std::ostream& Write(std::ostream& out) const override;
 
-  /// The corner. Throws IfcException with CAUSE_MISSING_REFERENCE if the reference leads to none.
+  /// Returns the corner, which belongs to the model. Throws IfcException with
+  /// CAUSE_MISSING_REFERENCE if the reference does not resolve to a point.
   virtual const IfcCartesianPoint* GetCorner() const;
   virtual IfcLengthMeasure GetXDim() const;
   virtual IfcLengthMeasure GetYDim() const;
   virtual IfcLengthMeasure GetZDim() const;
-  /// The dimension of the corner; throws as GetCorner does.
+  /// Returns the dimension of the corner. Throws as GetCorner does.
   virtual INTEGER GetDim() const;
 
-  /// Refers to a point of the model; one that the model does not hold changes nothing.
+  /// Sets the reference to a point of the model. A point that the model does not hold changes
+  /// nothing.
   virtual void SetCorner(IfcCartesianPoint* point);
   virtual void SetXDim(IfcLengthMeasure measure);
   virtual void SetYDim(IfcLengthMeasure measure);

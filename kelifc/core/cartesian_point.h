@@ -11,11 +11,11 @@
 
 namespace KelIFC {
 
-/// A point by its coordinates, in the model's unit of length.
+/// A point with coordinates in the model's unit of length.
 class KELIFC_API IfcCartesianPoint : public IfcPoint, public IfcTrimmingSelect {
  public:
   IfcCartesianPoint() = default;
-  /// A point of that dimension without coordinates; a negative dimension counts as 0.
+  /// A point of that dimension with unset coordinates. A negative dimension counts as 0.
   explicit IfcCartesianPoint(INTEGER dimension);
   IfcCartesianPoint(REAL x, REAL y);
   IfcCartesianPoint(REAL x, REAL y, REAL z);
@@ -34,12 +34,12 @@ class KELIFC_API IfcCartesianPoint : public IfcPoint, public IfcTrimmingSelect {
   virtual INTEGER _GetDim() const;
 
  public:
-  /// How many coordinates there are.
+  /// Returns the number of coordinates.
   virtual INTEGER GetDim() const;
-  /// Sets one coordinate, counted from 1; an index out of range changes nothing.
+  /// Sets one coordinate; `index` counts from 1. An index out of range changes nothing.
   virtual void SetCoordinates(std::size_t index, REAL value);
 
-  /// The coordinates without a copy of them, for walks over many points.
+  /// Returns the coordinates without a copy, for loops over many points.
   const COORDINATES& Coordinates() const { return coordinates; }
 
  protected:

@@ -15,7 +15,7 @@ namespace KelIFC {
 
 namespace {
 
-// A quiet nan that no arithmetic makes.
+// A quiet NaN that no arithmetic returns.
 constexpr std::uint64_t kUnsetBits = 0x7FFC'556E'7365'7400;
 
 bool IsUnset(double stored) {
@@ -90,7 +90,8 @@ void COORDINATES::Resize(std::size_t count) {
   size = static_cast<std::uint32_t>(count);
 }
 
-// Reads numbers in place. No parenthesis opens among them, so no reader runs past the end.
+// Parses numbers without a copy of the text. The text has no further parenthesis, so no parser of
+// numbers reads beyond its end.
 void COORDINATES::ReadNumbers(const detail::Parenthesised& inner) {
   const char* cursor = inner.begin;
   while (cursor != nullptr) {
@@ -103,7 +104,7 @@ void COORDINATES::ReadNumbers(const detail::Parenthesised& inner) {
   }
 }
 
-// Reads numbers from a text of their own, whose end bounds them.
+// Parses numbers from a copy of the text, so that parsing stops at its end.
 void COORDINATES::ReadElements(const std::string& text) {
   REAL number;
   for (const char* cursor = text.c_str(); cursor != nullptr;) {

@@ -15,8 +15,9 @@ namespace detail {
 struct Parenthesised;
 }
 
-/// The numbers of a point or a direction; each of them may be unset. Positions count from 1. Up to
-/// three numbers stand in the object itself, since nearly every point has no more.
+/// The numbers of a point or a direction. Each number can be unset. Positions count from 1. The
+/// object stores up to three numbers without an allocation, since nearly every point has at most
+/// three.
 class KELIFC_API COORDINATES {
  public:
   COORDINATES() : heap(nullptr) {}
@@ -26,26 +27,27 @@ class KELIFC_API COORDINATES {
     if (capacity > kInside) delete[] heap;
   }
 
-  /// Adds a number and gives its position.
+  /// Adds a number. Returns its position.
   std::size_t Add(REAL number);
-  /// The number at a position; unset for a position out of range.
+  /// Returns the number at a position, or an unset number for a position out of range.
   REAL operator[](std::size_t position) const { return GetItem(position); }
   REAL GetItem(std::size_t position) const;
-  /// Replaces a number; a position out of range changes nothing.
+  /// Replaces a number. A position out of range changes nothing.
   void SetItem(std::size_t position, REAL number);
   std::size_t GetSize() const { return size; }
-  /// Copies the first numbers; an unset one, and one out of range, is 0.
+  /// Copies the first `count` numbers to `numbers`. An unset number and one out of range are copied
+  /// as 0.
   void GetNumbers(double* numbers, std::size_t count) const;
-  /// Makes room for `count` numbers in all.
+  /// Allocates memory for `count` numbers in all.
   void Reserve(std::size_t count);
-  /// Cuts from the end, or adds unset numbers.
+  /// Removes numbers from the end, or adds unset ones.
   void Resize(std::size_t count);
 
-  /// Reads the numbers between the first parenthesis and its counterpart, or the end of the text.
-  /// Unset ones are left out, and text that is no number gives 0. Without a parenthesis there are
-  /// none and the cursor does not move.
+  /// Parses the numbers between the first parenthesis and its counterpart, or the end of the text.
+  /// Unset numbers are left out, and non-numeric text reads as 0. Without a parenthesis the result
+  /// is empty and the cursor does not move.
   const char* Parse(const char* text);
-  /// Writes the numbers in parentheses, each as REAL does.
+  /// Writes the numbers in parentheses, each as REAL::Write does.
   std::ostream& Write(std::ostream& out) const;
 
  private:
@@ -57,7 +59,7 @@ class KELIFC_API COORDINATES {
   void ReadNumbers(const detail::Parenthesised& inner);
   void ReadElements(const std::string& text);
 
-  // An unset number is stored as one particular nan, which no number that is set is stored as.
+  // An unset number is stored as one particular NaN. No number that is set is stored as this NaN.
   union {
     double inside[kInside];
     double* heap;

@@ -7,7 +7,7 @@
 
 namespace KelIFC {
 
-/// An enumeration attribute whose text is kept: the enumerator without its dots, or unset.
+/// An enumeration attribute that keeps its text: the enumerator without its dots, or unset.
 class KELIFC_API ENUM : public std::string {
  public:
   ENUM() = default;
@@ -15,8 +15,8 @@ class KELIFC_API ENUM : public std::string {
   ENUM& operator=(const ENUM&) = default;
   virtual ~ENUM() = default;
 
-  /// Reads what stands between the first two dots, exactly as it is. Where a comma precedes the
-  /// first dot, or a dot is missing, the value stays unset and the cursor does not move.
+  /// Parses the text between the first two dots without any change. If a comma precedes the first
+  /// dot, or if a dot is missing, the value stays unset and the cursor does not move.
   const char* Parse(const char* text);
 
   bool GetExists() const { return exists; }

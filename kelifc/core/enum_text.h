@@ -9,24 +9,25 @@
 
 namespace KelIFC {
 
-/// A row of an enumeration's table: the text without its dots, and the value. Where a text or a
-/// value stands twice, the first row counts.
+/// A row of an enumeration's table: the text without its dots, and the value. If a text or a value
+/// occurs twice, the first row counts.
 struct EnumTextRow {
   const char* Text;
   std::int32_t Value;
 };
 
-/// Reads an enumerator and stores its value. One that is missing, or that the table does not have
-/// in exactly these letters, gives `defaultValue`. Gives the cursor as ENUM::Parse does.
+/// Parses an enumerator and stores its value in `target`. Stores `defaultValue` if the enumerator
+/// is missing, or if no row of the table has exactly its text; upper and lower case differ. Returns
+/// the cursor as ENUM::Parse does.
 KELIFC_API const char* ParseEnumValue(std::int32_t& target, const char* cursor,
                                       std::int32_t defaultValue, const EnumTextRow* table,
                                       std::size_t rowCount);
 
-/// Writes the text of a value between dots, `$` for a value that no row has.
+/// Writes the text of a value between dots, or `$` for a value that no row has.
 KELIFC_API std::ostream& WriteEnumValue(std::ostream& out, std::int32_t value,
                                         const EnumTextRow* table, std::size_t rowCount);
 
-/// The same for a variable of an enumeration type and a whole table.
+/// The same for a variable of an enumeration type and an entire table.
 template <class Enum, std::size_t N>
 const char* ParseEnumValue(Enum& target, const char* cursor, Enum defaultValue,
                            const EnumTextRow (&table)[N]) {

@@ -11,10 +11,11 @@ namespace KelIFC {
 /// Why an IfcException was thrown.
 enum ECause : std::int32_t {
   CAUSE_NONE = 0,
-  CAUSE_MISSING_REFERENCE = 1,  ///< a required reference leads to no instance of its class
+  CAUSE_MISSING_REFERENCE = 1,  ///< a required reference has no instance of its class
 };
 
-/// The one exception of the class library, thrown by the getters of required references.
+/// The only exception that entity classes throw themselves. The getters of required references
+/// throw it.
 class KELIFC_API IfcException : public std::runtime_error {
  public:
   explicit IfcException(ECause reason = CAUSE_NONE);

@@ -17,7 +17,7 @@ static_assert(sizeof kDigits64 == 64 + 1 && sizeof kDigits85 == 85 + 1);
 constexpr std::size_t kLength64 = 22;
 constexpr std::size_t kLength85 = 20;
 
-// The value of each character as a digit, -1 for one outside the alphabet.
+// The value of each character as a digit, -1 for a character outside the alphabet.
 using DigitValues = std::array<std::int8_t, 256>;
 
 constexpr DigitValues ValuesOf(const char* alphabet) {
@@ -34,7 +34,7 @@ constexpr DigitValues kValues85 = ValuesOf(kDigits85);
 
 int DigitOf(const DigitValues& values, char c) { return values[static_cast<unsigned char>(c)]; }
 
-// An identifier is cut into six numbers, of which the first has two digits and the others four.
+// An identifier is split into six numbers. The first has two digits, the others have four.
 constexpr std::size_t kPieces = 6;
 constexpr std::size_t DigitsOfPiece(std::size_t piece) { return piece == 0 ? 2 : 4; }
 using Pieces = std::array<std::uint32_t, kPieces>;
@@ -69,8 +69,8 @@ _GUID FromPieces(const Pieces& pieces) {
 // A number of 128 bits as four words, the most significant first.
 using Words = std::array<std::uint32_t, 4>;
 
-// The bytes of the identifier's little-endian image in their order, the first the most significant:
-// so the low byte of Data1 leads.
+// The bytes of the identifier in memory on a little-endian machine, the most significant one first.
+// So the low byte of Data1 is the first one.
 using Image = std::array<std::uint8_t, 16>;
 
 Image ToImage(const _GUID& guid) {

@@ -8,19 +8,22 @@
 
 namespace KelIFC {
 
-/// Writes the 22 characters of the published schema's form and a NUL into `text`, which has room
-/// for `size` characters. Gives `text`, or null if it is null or has room for fewer than 23.
+/// Writes the 22 characters of the published schema's form and a NUL to `text`, which has room for
+/// `size` characters. Returns `text`, or null if `text` is null or has room for fewer than 23
+/// characters.
 KELIFC_API char* EncodeGlobalId64(const _GUID& guid, char* text, int size);
 
-/// Reads a text of exactly 22 characters. False, with `guid` left alone, for null, for another
-/// length and for a character outside the alphabet. Bits beyond 128 are lost.
+/// Decodes a text of exactly 22 characters. Returns false, and does not change `guid`, for null,
+/// for another length and for a character outside the alphabet. Bits above the 128th are ignored.
 KELIFC_API bool DecodeGlobalId64(const char* text, _GUID& guid);
 
-/// Writes the 20 characters of the older form and a NUL into `text`.
+/// Writes the 20 characters of the older form and a NUL to `text`, which has room for 21
+/// characters.
 KELIFC_API void EncodeBase85(const _GUID& guid, char* text);
 
-/// Reads the first 20 characters of a text. A character outside the alphabet counts as 0, and bits
-/// beyond 128 are lost. False, with `guid` left alone, for null and for a shorter text.
+/// Decodes the first 20 characters of a text. A character outside the alphabet counts as 0, and
+/// bits above the 128th are ignored. Returns false, and does not change `guid`, for null and for a
+/// shorter text.
 KELIFC_API bool DecodeBase85(const char* text, _GUID& guid);
 
 }  // namespace KelIFC

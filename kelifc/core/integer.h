@@ -8,7 +8,7 @@
 
 namespace KelIFC {
 
-/// A whole-number attribute of 32 bits, or unset. An unset one has the value 0.
+/// A 32-bit integer attribute, or unset. An unset one has the value 0.
 class KELIFC_API INTEGER {
  public:
   INTEGER() = default;
@@ -19,10 +19,10 @@ class KELIFC_API INTEGER {
 
   operator int() const { return value; }
 
-  /// Reads a decimal number; text that is none gives 0, which exists, and one out of range the
-  /// nearest bound.
+  /// Parses a decimal number. Non-numeric text reads as 0 and counts as set. A number out of range
+  /// becomes the nearest bound.
   const char* Parse(const char* text);
-  /// Writes the decimal number, `$` if unset.
+  /// Writes the decimal number, or `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const;
 
   bool GetExists() const { return exists; }

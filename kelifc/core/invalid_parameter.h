@@ -5,16 +5,16 @@
 
 namespace KelIFC {
 
-/// Told what is wrong, ahead of the end of the process.
+/// Receives a message that says what is wrong. It is called before the process ends.
 using InvalidParameterHandler = void (*)(const char* message);
 
-/// Sets what is called for a fault of the host that nothing can be made of, such as reading an
-/// Mvector out of range; null brings back the default, which prints a line on standard error. Gives
-/// the handler that was set before, null for the default. A handler may end the process in its own
-/// way or throw; if it returns, the process is aborted.
+/// Sets the handler for host errors that the library cannot recover from, such as reading an
+/// Mvector out of range. Null restores the default handler, which prints a line to the standard
+/// error stream. Returns the previous handler, null for the default. A handler may end the process
+/// itself or throw. If it returns, the process is aborted.
 KELIFC_API InvalidParameterHandler SetInvalidParameterHandler(InvalidParameterHandler handler);
 
-/// Calls the handler and does not come back.
+/// Calls the handler. Does not return.
 [[noreturn]] KELIFC_API void FailInvalidParameter(const char* message);
 
 }  // namespace KelIFC

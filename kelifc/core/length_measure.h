@@ -8,9 +8,9 @@
 
 namespace KelIFC {
 
-/// A measure in the model's unit, or unset. It stands for lengths, and as an attribute for all
-/// other measures as well. The typed names of ratios and positive lengths are read into it, and
-/// written back with the name of this class.
+/// A measure in the model's unit, or unset. Attributes use it for lengths and for all other
+/// measures. The typed values of ratios and positive lengths are read as this class, and are
+/// written with its name.
 class KELIFC_API IfcLengthMeasure : public IfcValue, public REAL {
  public:
   IfcLengthMeasure() = default;
@@ -32,10 +32,10 @@ class KELIFC_API IfcLengthMeasure : public IfcValue, public REAL {
   static const char* GetItemName();
   const char* GetStepName() const override;
 
-  /// Reads and writes the bare number, as it stands in an attribute.
+  /// Parses and writes the number without a type name, as in an attribute.
   const char* Parse(const char* text) override;
   std::ostream& Write(std::ostream& out) const override;
-  /// Reads and writes the number with the name of its type, as it stands in a select.
+  /// Parses and writes the number with the name of its type, as in a select.
   std::ostream& WriteWithName(std::ostream& out) const override;
   const char* ParseBody(const char* text) override;
 };

@@ -14,7 +14,7 @@ enum LOGICAL_VALUE : std::int32_t {
   LOGICAL_UNKNOWN = 1,
 };
 
-/// A truth value that may be unknown, or unset. An unset one is unknown.
+/// A truth value that can be unknown, or unset. An unset one is unknown.
 class KELIFC_API LOGICAL {
  public:
   LOGICAL() = default;
@@ -25,10 +25,10 @@ class KELIFC_API LOGICAL {
 
   operator LOGICAL_VALUE() const { return value; }
 
-  /// Reads `.T.` and `.F.`, every other text as unknown; all of them exist. Text that is no
-  /// enumerator leaves the cursor where it is.
+  /// Parses `.T.` and `.F.`, and every other text as unknown. The value exists in all cases. Text
+  /// that is not an enumerator leaves the cursor where it is.
   const char* Parse(const char* text);
-  /// Writes `.T.`, `.F.` or, for every other value, `.U.`; `$` if unset.
+  /// Writes `.T.`, `.F.` or, for every other value, `.U.`; writes `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const;
 
   bool GetExists() const { return exists; }

@@ -13,7 +13,7 @@
 
 namespace KelIFC {
 
-/// What a word alone cannot say.
+/// A state that does not fit into one word.
 struct MEMBER::Box {
   std::size_t number;
   IfcUnknown* value;
@@ -42,7 +42,7 @@ class BorrowedInstance final : public IfcUnknown {
     return out;
   }
 
-  /// Null once the model has deleted the instance.
+  /// Returns null after the model has deleted the instance.
   IfcUnknown* Find() const { return FindInstance(lender, number); }
 
  private:
@@ -55,7 +55,7 @@ const BorrowedInstance* AsBorrowed(const IfcUnknown* value) {
   return static_cast<const BorrowedInstance*>(value);
 }
 
-/// The number of an instance in the model that it is registered in; 0 if no model holds it.
+/// Returns the number of an instance in the model that it is registered in, 0 if no model holds it.
 std::size_t FindOwnNumber(const IfcUnknown& instance) {
   return FindNumber(instance.GetServer(), &instance);
 }
@@ -79,7 +79,7 @@ IfcUnknown* MEMBER::GetHeapValue() const {
                   : reinterpret_cast<IfcUnknown*>(static_cast<std::uintptr_t>(word));
 }
 
-// The word for a state.
+// Returns the word for a state.
 std::uint64_t MEMBER::WordOf(bool exists, std::size_t number, IfcUnknown* value) {
   if (value != nullptr) {
     return exists && number == 0 ? WordOfPointer(value) : MakeBox(exists, number, value);
@@ -87,13 +87,13 @@ std::uint64_t MEMBER::WordOf(bool exists, std::size_t number, IfcUnknown* value)
   return exists ? WordOf(number) : 0;
 }
 
-// Replaces the word; a value in place that the old one held is not destroyed.
+// Replaces the word. Does not destroy the inline value of the old word.
 void MEMBER::ReplaceWord(std::uint64_t other) {
   if (HasBox()) delete GetBox();
   word = other;
 }
 
-// Gives the word to a copy and keeps what is left of the state without the value in place.
+// Returns the word for a copy. The source keeps the rest of its state, without the inline value.
 std::uint64_t MEMBER::TakeHeap() const {
   const std::uint64_t rest = WordOf(GetHeapExists(), GetHeapNumber(), nullptr);
   const std::uint64_t taken = word;
@@ -109,7 +109,7 @@ void MEMBER::DestroyHeap() {
 
 MEMBER& MEMBER::operator=(const MEMBER& other) {
   if (this == &other) return *this;
-  // The source may be part of the value in place that is destroyed here.
+  // The source can be a part of the inline value that Unset destroys.
   IfcUnknown* holder = other.owner;
   const std::uint64_t taken = other.TakeWord();
   Unset();

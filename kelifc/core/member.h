@@ -11,16 +11,21 @@ namespace KelIFC {
 
 class IfcUnknown;
 
-/// A reference attribute. It keeps the number of an instance and asks the model for it at each use,
-/// so a reference may stand ahead of its target and survives it. In place of a number it can hold a
-/// value in place, an instance that it owns. It is in one of these states:
-///  - unset;
-///  - a number: refers to an instance through the model of its owner;
-///  - a value in place;
-///  - a derived mark: it exists and holds neither, and is written as `*`.
+/// A reference attribute. It keeps the number of an instance and looks the instance up in the model
+/// at each use. So a reference can occur before its target in a file, and can outlive it. Instead
+/// of a number it can hold an inline value, which is an instance without a number. It is in one of
+/// these states:
 ///
-/// A copy takes the value in place away from its source, const or not; the source then is a derived
-/// mark. So aggregates of references are passed by reference, and copied only to be given away.
+///  - unset;
+///  - a number: it refers to an instance through the model of its owner;
+///  - an inline value;
+///  - a derived mark: it exists and has neither of them. It is written as `*`.
+///
+/// Copying empties the source: a copy takes the inline value out of its source, even if the source
+/// is const, and the source becomes a derived mark. This also holds for a copy of an aggregate or
+/// of an entity that contains the reference. So pass aggregates of references by C++ reference, and
+/// copy them only to move them. The copy keeps the owner of its source, which must outlive the
+/// copy.
 ///
 /// An inline value belongs to its reference, which destroys it. An instance that is registered in a
 /// model belongs to that model. A reference that receives such an instance as its inline value only
@@ -29,9 +34,11 @@ class IfcUnknown;
 class KELIFC_API MEMBER {
  public:
   MEMBER() = default;
-  /// An unset attribute of `holder`, which is the way to the model. It may be null.
+  /// An unset attribute of `holder`, through which the reference finds the model. `holder` can be
+  /// null.
   MEMBER(IfcUnknown* holder) : owner(holder) {}
-  /// A reference without an owner: whoever has it looks the number up.
+  /// A reference without an owner. GetInstance returns null; the caller looks the number up in the
+  /// model.
   MEMBER(std::size_t number) : word(WordOf(number)) {}
   /// A reference in an attribute of `holder`.
   MEMBER(IfcUnknown* holder, std::size_t number) : owner(holder), word(WordOf(number)) {}
@@ -40,9 +47,10 @@ class KELIFC_API MEMBER {
     if (HasHeap()) DestroyHeap();
   }
 
-  /// Takes over owner, number, mark and the value in place; what it held in place is destroyed.
+  /// Takes owner, number, existence and inline value of the source, which keeps the rest but loses
+  /// the inline value. Destroys the inline value that this reference held before.
   MEMBER& operator=(const MEMBER& other);
-  /// Refers to a number; a value in place is destroyed, the owner stays.
+  /// Sets the reference to a number and destroys its inline value. The owner does not change.
   MEMBER& operator=(std::size_t number);
   /// Takes an inline value. The reference owns the value, or borrows it if it is registered in a
   /// model. The value that the reference held before belongs to the caller again.
@@ -58,27 +66,35 @@ class KELIFC_API MEMBER {
   /// The inline value that the reference held before is destroyed, unless it is `item` itself.
   MEMBER& Embed(IfcUnknown* item, IfcUnknown& holder);
 
-  /// Refers to an instance of the owner's model. Without owner or model, or if the model does not
-  /// hold the instance, the attribute becomes unset. A value in place is left alone.
+  /// Sets the reference to an instance of the owner's model. Without an owner or a model, or if the
+  /// model does not hold the instance, the attribute becomes unset.
+  ///
+  /// An inline value stays in the attribute. While it does, Write writes the new number, but
+  /// GetInstance still returns the inline value if the attribute exists. To replace an inline value
+  /// by a reference, assign the number of the instance instead.
   MEMBER& SetReference(const IfcUnknown* target);
 
-  /// The number, 0 if there is none. Two references are equal if their numbers are.
+  /// Returns the number, 0 if there is none. Two references are equal if their numbers are equal,
+  /// so all inline values are equal.
   operator std::size_t() const { return HasHeap() ? GetHeapNumber() : NumberIn(word); }
   bool GetExists() const { return HasHeap() ? GetHeapExists() : word != 0; }
 
-  /// The value in place, or the instance that the owner's model has under the number, or null.
+  /// Returns the inline value, or the instance that the owner's model has under the number, or
+  /// null. The caller does not own it. The const overload returns the same instance.
   IfcUnknown* GetInstance() { return _GetInstance(); }
   const IfcUnknown* GetInstance() const { return Resolve(); }
 
-  /// The inline value that this attribute owns, or null. A borrowed value is not owned. The value
-  /// stays owned by this attribute.
+  /// Returns the inline value that this attribute owns, or null. A borrowed value is not owned. The
+  /// value stays owned by this attribute.
   const IfcUnknown* GetInlineValue() const;
 
-  /// Reads `#n`, or a typed value in place, for which the owner's model is asked. Text that is
-  /// neither leaves the attribute unset and the cursor where it is; so does a value in place in an
-  /// owner without model, and so in a value in place.
+  /// Parses `#n` or an inline value. The owner's model makes the instance of an inline value. Any
+  /// other text leaves the attribute unset and the cursor where it is. An inline value has the same
+  /// effect if the owner has no model, or is itself an inline value.
   const char* Parse(const char* text);
-  /// Writes `#n`, the value in place, `*` for a derived mark, `$` if unset.
+  /// Writes `#n`, the inline value, `*` for a derived mark, or `$` if the attribute is unset. An
+  /// inline value writes what its own Write does: typed values write their closing parenthesis,
+  /// entities do not.
   std::ostream& Write(std::ostream& out) const;
 
  protected:
@@ -87,10 +103,11 @@ class KELIFC_API MEMBER {
  private:
   struct Box;
 
-  // The states in one word. 0 is unset. A number has the lowest bit set and stands above it with
-  // its sign. A multiple of 4 is a pointer to a value in place. With 2 added it is a pointer to a
-  // box, for what fits none of these: a number beyond 63 bits, or a number, or the mark for unset,
-  // beside a value in place. The value in place moves on copy, so the word of a source changes.
+  // The state in one word. 0 is unset. If the lowest bit is set, the other bits are the number,
+  // with its sign. A multiple of 4 is a pointer to an inline value. If only the bit of value 2 is
+  // set, the rest is a pointer to a box. A box holds what does not fit otherwise: a number of more
+  // than 63 bits, or an inline value together with a number or in an unset attribute. A copy takes
+  // the inline value, so it changes the word of its source.
   static std::uint64_t WordOf(std::size_t number) {
     const std::uint64_t bits = (static_cast<std::uint64_t>(number) << 1) | 1;
     return NumberIn(bits) == number ? bits : MakeBox(true, number, nullptr);
@@ -122,7 +139,7 @@ class KELIFC_API MEMBER {
   mutable std::uint64_t word = 0;
 };
 
-/// What a set finds an equal element by.
+/// The key by which a set finds an equal reference.
 inline std::size_t ElementKey(const MEMBER& member) { return static_cast<std::size_t>(member); }
 
 }  // namespace KelIFC

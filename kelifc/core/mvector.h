@@ -9,8 +9,9 @@
 
 namespace KelIFC {
 
-/// The growable contiguous array that crosses the library's interface. Positions count from 0. To
-/// reach an element at or behind the size is a fatal fault, see SetInvalidParameterHandler.
+/// The growable contiguous array that is part of the library's binary interface. Positions count
+/// from 0. Access to an element at or above the size is a fatal error, see
+/// SetInvalidParameterHandler.
 template <class T>
 class Mvector {
   static_assert(!std::is_same_v<T, bool>, "elements stand one behind the other in memory");
@@ -22,7 +23,7 @@ class Mvector {
   std::size_t capacity() const { return items.capacity(); }
   bool empty() const { return items.empty(); }
 
-  /// Adds copies of `value` at the end, or cuts from the end.
+  /// Adds copies of `value` at the end, or removes elements from the end.
   void resize(std::size_t count, const T& value = T()) { items.resize(count, value); }
   void reserve(std::size_t count) { items.reserve(count); }
   void clear() { items.clear(); }

@@ -8,8 +8,8 @@
 
 namespace KelIFC {
 
-/// An entity that the release does not know. It keeps its name and the raw text of its attributes
-/// and writes them back. GetStepName gives "IfcUnknown".
+/// An entity that the release does not know. It keeps its name and the raw text of its attributes,
+/// and writes them unchanged. GetStepName returns "IfcUnknown".
 class KELIFC_API IfcOther : public IfcUnknown {
  public:
   IfcOther() = default;
@@ -17,13 +17,13 @@ class KELIFC_API IfcOther : public IfcUnknown {
   IfcOther& operator=(const IfcOther&) = default;
   ~IfcOther() override;
 
-  /// Appends what stands between the first `(` and the last `)` of the text. Gives the position
-  /// behind the `(`, null if there is none.
+  /// Appends the text between the first `(` and the last `)` to the attribute text. Returns the
+  /// position after the `(`, or null if there is none.
   const char* Parse(const char* text) override;
-  /// Writes the name in upper case, `(` and the text as it was read.
+  /// Writes the name in upper case, `(` and the attribute text.
   std::ostream& Write(std::ostream& out) const override;
 
-  /// The entity name as the file has it.
+  /// Returns the entity name as the file has it.
   const std::string& GetStepEntityName() const { return stepEntityName; }
   void SetStepEntityName(const char* name);
 

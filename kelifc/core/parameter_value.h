@@ -9,8 +9,8 @@
 
 namespace KelIFC {
 
-/// A parameter on a curve. It stands in place in a set of trims, always with the name of its type.
-/// The instance is its last base.
+/// A parameter on a curve. A set of trims contains it as an inline value, always with the name of
+/// its type. IfcUnknown is its last base.
 class KELIFC_API IfcParameterValue : public REAL, public IfcTrimmingSelect, public IfcUnknown {
  public:
   IfcParameterValue() = default;
@@ -22,9 +22,9 @@ class KELIFC_API IfcParameterValue : public REAL, public IfcTrimmingSelect, publ
   static const char* GetItemName();
   const char* GetStepName() const override;
 
-  /// Reads the number behind the next parenthesis.
+  /// Parses the number after the next parenthesis.
   const char* Parse(const char* text) override;
-  /// Writes the whole value, with its closing parenthesis.
+  /// Writes the entire value, with its closing parenthesis.
   std::ostream& Write(std::ostream& out) const override;
 };
 

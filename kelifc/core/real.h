@@ -23,9 +23,10 @@ class KELIFC_API REAL {
   }
   operator double() const { return value; }
 
-  /// Reads a number; text that is none gives 0, which exists.
+  /// Parses a number. Non-numeric text reads as 0 and counts as set.
   const char* Parse(const char* text);
-  /// Writes at most ten decimals, and no exponent; "0." within the write tolerance, `$` if unset.
+  /// Writes at most ten decimals and no exponent. Writes "0." for a value within the write
+  /// tolerance, and `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const;
 
   bool GetExists() const { return exists; }

@@ -5,11 +5,11 @@
 #include "kelifc/core/selects.h"
 #include "kelifc/core/unknown.h"
 
-// The abstract bases of what a representation is made of. They have no attributes.
+// The abstract base classes of the items of a representation. They have no attributes.
 
 namespace KelIFC {
 
-/// Anything that a representation holds.
+/// An item of a representation.
 class KELIFC_API IfcRepresentationItem : public IfcUnknown {
  public:
   static const char* GetItemName();
@@ -23,7 +23,7 @@ class KELIFC_API IfcRepresentationItem : public IfcUnknown {
   ~IfcRepresentationItem() override;
 };
 
-/// An item with a place in space or in the plane.
+/// An item with a position in space or in the plane.
 class KELIFC_API IfcGeometricRepresentationItem : public IfcRepresentationItem {
  public:
   static const char* GetItemName();
@@ -57,7 +57,7 @@ class KELIFC_API IfcSolidModel : public IfcGeometricRepresentationItem, public I
   static const char* GetItemName();
   const char* GetStepName() const override;
 
-  /// Always 3.
+  /// Returns 3.
   virtual INTEGER GetDim() const;
 
   IfcSolidModel(const IfcSolidModel&) = default;

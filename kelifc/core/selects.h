@@ -3,12 +3,13 @@
 
 #include "kelifc/core/unknown.h"
 
-// A select of the schema is a base of the classes that it may hold. Two of them are instances; the
-// others only mark a class, and a dynamic_cast leads from them to the instance.
+// A select of the schema is a base class of the classes that it can hold. IfcMaterialSelect and
+// IfcActorSelect derive from IfcUnknown. The other selects only mark a class; use dynamic_cast to
+// reach the instance.
 
 namespace KelIFC {
 
-/// What a material can be given by: a material, a layer set, its usage or a list.
+/// The kinds of a material: a material, a layer set, the usage of a layer set or a list.
 class KELIFC_API IfcMaterialSelect : public IfcUnknown {
  public:
   static const char* GetItemName();
@@ -22,7 +23,7 @@ class KELIFC_API IfcMaterialSelect : public IfcUnknown {
   ~IfcMaterialSelect() override;
 };
 
-/// Who can act: a person, an organization, or a person in an organization.
+/// The kinds of an actor: a person, an organization, or a person in an organization.
 class KELIFC_API IfcActorSelect : public IfcUnknown {
  public:
   static const char* GetItemName();
@@ -36,7 +37,7 @@ class KELIFC_API IfcActorSelect : public IfcUnknown {
   ~IfcActorSelect() override;
 };
 
-/// What a curve can be trimmed by: a point or a parameter.
+/// The kinds of a trim of a curve: a point or a parameter.
 class KELIFC_API IfcTrimmingSelect {
  public:
   IfcTrimmingSelect(const IfcTrimmingSelect&) = default;
@@ -47,7 +48,7 @@ class KELIFC_API IfcTrimmingSelect {
   virtual ~IfcTrimmingSelect();
 };
 
-/// What a boolean operation works on: a solid, a half space or a result.
+/// The operands of a boolean operation: a solid, a half space or a result of an operation.
 class KELIFC_API IfcBooleanOperand {
  public:
   IfcBooleanOperand(const IfcBooleanOperand&) = default;
@@ -58,7 +59,7 @@ class KELIFC_API IfcBooleanOperand {
   virtual ~IfcBooleanOperand();
 };
 
-/// What a geometric set holds: points, curves and surfaces.
+/// The items of a geometric set: points, curves and surfaces.
 class KELIFC_API IfcGeometricSetSelect {
  public:
   IfcGeometricSetSelect(const IfcGeometricSetSelect&) = default;
@@ -69,7 +70,7 @@ class KELIFC_API IfcGeometricSetSelect {
   virtual ~IfcGeometricSetSelect();
 };
 
-/// What can be a unit in an assignment.
+/// The kinds of a unit in a unit assignment.
 class KELIFC_API IfcUnit {
  public:
   IfcUnit(const IfcUnit&) = default;

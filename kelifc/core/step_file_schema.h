@@ -6,7 +6,8 @@
 
 namespace KelIFC {
 
-/// The FILE_SCHEMA record of a file's header. It is read only: the header is written as text.
+/// The FILE_SCHEMA record in the header of a file. It is only read; a save writes the header as
+/// text.
 class KELIFC_API StepFileSchema : public IfcUnknown {
  public:
   StepFileSchema() = default;
@@ -17,10 +18,11 @@ class KELIFC_API StepFileSchema : public IfcUnknown {
   static const char* GetItemName();
   const char* GetStepName() const override;
 
-  /// Reads the first name of the list, wherever its quote stands; further names are ignored.
+  /// Parses the first name of the list, at whatever position its quote is. Further names are
+  /// ignored.
   const char* Parse(const char* text) override;
 
-  /// The name of the schema, such as IFC2X3.
+  /// Returns the name of the schema, such as IFC2X3.
   STRING GetProtocol() const { return protocol; }
 
  private:

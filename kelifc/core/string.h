@@ -8,8 +8,8 @@
 
 namespace KelIFC {
 
-/// A text attribute: bytes, each one character, or unset. Changing the text through the standard
-/// string does not touch the mark; only assignment and parsing do.
+/// A text attribute, or unset. Each byte is one character. A change through the members of
+/// std::string does not change GetExists; only assignment and Parse do.
 class KELIFC_API STRING : public std::string {
  public:
   STRING() = default;
@@ -19,13 +19,13 @@ class KELIFC_API STRING : public std::string {
   STRING& operator=(const STRING&) = default;
   virtual ~STRING() = default;
 
-  /// Replaces the text and sets the mark; null unsets it.
+  /// Replaces the text and marks the attribute as existing. Null makes it unset.
   STRING& operator=(const char* text);
 
-  /// Reads a quoted text, skipping all that stands ahead of its first quote. Without a closing
-  /// quote the value stays unset, holds what was read, and the cursor does not move.
+  /// Parses a quoted text and skips everything before its first quote. Without a closing quote the
+  /// attribute stays unset but holds the text up to the end, and the cursor does not move.
   virtual const char* Parse(const char* text);
-  /// Writes the quoted text, `$` if unset.
+  /// Writes the quoted text, or `$` if the attribute is unset.
   virtual std::ostream& Write(std::ostream& out) const;
 
   bool GetExists() const { return exists; }

@@ -7,15 +7,15 @@
 
 namespace KelIFC {
 
-/// Which of the two kinds of trims of a curve is meant where both are given.
+/// The kind of trim that counts if a curve has trims of both kinds.
 enum IfcTrimmingPreference : std::int32_t {
-  IfcTrimmingPreference_NONE = 0,  ///< none that was understood
+  IfcTrimmingPreference_NONE = 0,  ///< missing or not understood
   IfcTrimmingPreference_CARTESIAN = 1,
   IfcTrimmingPreference_PARAMETER = 2,
 };
 
-/// Reads a preference; one that is missing or unknown gives IfcTrimmingPreference_NONE. Gives the
-/// cursor as ENUM::Parse does.
+/// Parses a preference. A missing or unknown one is stored as IfcTrimmingPreference_NONE. Returns
+/// the cursor as ENUM::Parse does.
 KELIFC_API const char* ParseTrimmingPreference(IfcTrimmingPreference& result, const char* text);
 
 }  // namespace KelIFC

@@ -20,7 +20,7 @@ std::ostream& IfcUnitAssignment::Write(std::ostream& out) const {
 
 SET<const IfcUnit*> IfcUnitAssignment::GetUnits() const {
   SET<const IfcUnit*> view;
-  // An instance that is looked at lends out its model, which resolves and changes nothing.
+  // Only a non-const model resolves numbers. Resolving does not change the instance.
   ResolveMemberSet(view, units, const_cast<IfcUnitAssignment*>(this)->GetServer());
   return view;
 }

@@ -9,7 +9,7 @@
 
 namespace KelIFC {
 
-/// The units that hold in a model.
+/// The units that are valid in a model.
 class KELIFC_API IfcUnitAssignment : public IfcUnknown {
  public:
   IfcUnitAssignment();
@@ -22,9 +22,10 @@ class KELIFC_API IfcUnitAssignment : public IfcUnknown {
   const char* Parse(const char* text) override;
   std::ostream& Write(std::ostream& out) const override;
 
-  /// The units in order, null for a reference that leads to none; empty without a model.
+  /// Returns the units in order, with null for a reference that does not resolve to a unit. Returns
+  /// an empty set if the assignment has no model. The units belong to the model.
   virtual SET<const IfcUnit*> GetUnits() const;
-  /// Adds a unit; one that the model does not hold is dropped.
+  /// Adds a unit of the model. A unit that the model does not hold is not added.
   virtual void AddUnit(IfcUnit* unit);
 
  protected:

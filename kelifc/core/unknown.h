@@ -12,39 +12,40 @@ namespace KelIFC {
 
 class IfcServer;
 
-/// The root of all entity instances and of typed values. A statement becomes an instance through
-/// Parse and an instance a statement through Write; both run from the base classes down.
+/// The root of all entity instances and of typed values. Parse makes an instance from a statement
+/// and Write makes a statement from an instance; both begin with the attributes of the base class.
 ///
-/// An instance in a model belongs to the model and knows it; any other belongs to whoever made it,
-/// and knows none. It is not always the first base: cross between an instance and its other bases
-/// by dynamic_cast alone.
+/// An instance that is registered in a model belongs to the model and has a pointer to it. Any
+/// other instance belongs to the code that made it, and its pointer to the model is null unless
+/// that code set it. IfcUnknown is not always the first base class: use only dynamic_cast to
+/// convert between an instance and its other base classes.
 class KELIFC_API IfcUnknown {
  public:
-  /// The name as the schema spells it.
+  /// Returns the name in the spelling of the schema.
   static const char* GetItemName();
 
-  /// The name of the class of this instance.
+  /// Returns the name of the class of this instance.
   virtual const char* GetStepName() const;
   virtual ~IfcUnknown();
 
-  /// Reads the attributes from a statement, from the entity name on, and gives the cursor behind
-  /// the last one. Here: the position behind the first `(`, null if there is none; the name is not
-  /// looked at.
+  /// Parses the attributes from a statement, which starts at the entity name, and returns the
+  /// cursor after the last attribute. IfcUnknown returns the position after the first `(`, or null
+  /// if there is none; it does not read the name.
   virtual const char* Parse(const char* text) = 0;
-  /// Writes the record but for the parenthesis that closes it. Here: the name in upper case and
-  /// `(`.
+  /// Writes the record without its closing parenthesis. IfcUnknown writes the name in upper case
+  /// and `(`.
   virtual std::ostream& Write(std::ostream& out) const;
-  /// Passes a position whose attribute a subtype has redeclared as derived: steps over `*` to
-  /// behind the next comma, or to null. Anything else stays for the parse that follows, and the
-  /// cursor only passes white space.
+  /// Skips an attribute that a subtype has redeclared as derived: at a `*` it returns the position
+  /// after the next comma, or null if there is none. Otherwise it skips white space only, and the
+  /// next Parse reads the attribute.
   virtual const char* ParseDef(const char* text);
 
-  /// The model that the instance is in, or null.
+  /// Returns the model of the instance, or null.
   virtual IfcServer* GetServer();
   virtual const IfcServer* GetServer() const;
   virtual void SetServer(IfcServer* model);
 
-  /// The memory of an instance; see detail/block_memory.h.
+  /// Allocates the memory of an instance; see detail/block_memory.h.
   static void* operator new(std::size_t size) { return detail::AllocateBlock(size); }
   static void* operator new(std::size_t size, const std::nothrow_t&) noexcept;
   static void* operator new(std::size_t, void* place) noexcept { return place; }
@@ -54,7 +55,8 @@ class KELIFC_API IfcUnknown {
   }
   static void operator delete(void*, void*) noexcept {}
 
-  /// A copy knows the same model, but is not in it.
+  /// A copy has the same model pointer but is not registered in the model. Copying an entity
+  /// empties its source: inline values move to the copy. See MEMBER.
   IfcUnknown(const IfcUnknown&) = default;
   IfcUnknown& operator=(const IfcUnknown&) = default;
 

@@ -7,17 +7,18 @@
 
 namespace KelIFC {
 
-/// The base of typed values: defined types that can stand in a select. As an attribute such a value
-/// stands bare, which is what Parse and Write handle; in a select it stands with the name of its
-/// type around it, as in `IFCLENGTHMEASURE(2.5)`.
+/// The base class of typed values, which are the defined types that a select can hold. Parse and
+/// Write handle the value in an attribute, which has no type name. In a select, the value is inside
+/// the name of its type, as in `IFCLENGTHMEASURE(2.5)`.
 class KELIFC_API IfcValue : public IfcUnknown {
  public:
   static const char* GetItemName();
   const char* GetStepName() const override;
 
-  /// Writes the typed form, with its closing parenthesis.
+  /// Writes the value with the name of its type and the closing parenthesis.
   virtual std::ostream& WriteWithName(std::ostream& out) const = 0;
-  /// Reads the typed form, from the type name or its parenthesis on.
+  /// Parses the value with the name of its type. `text` starts at the type name or at its
+  /// parenthesis.
   virtual const char* ParseBody(const char* text) = 0;
 
   IfcValue(const IfcValue&) = default;
@@ -28,8 +29,8 @@ class KELIFC_API IfcValue : public IfcUnknown {
   ~IfcValue() override;
 };
 
-/// True for a value of a defined type, which a file writes with the name of its type and which has
-/// no number of its own. False for null.
+/// Returns true for a value of a defined type, which a file writes with the name of its type and
+/// without a number. Returns false for null.
 KELIFC_API bool IsTypedValue(const IfcUnknown* instance);
 
 }  // namespace KelIFC

@@ -12,28 +12,35 @@ namespace KelIFC {
 
 namespace {
 
-int LoadFile(IfcServer& server, BSTR fileName) {
-  const std::string path =
-      NarrowPath(fileName == nullptr ? std::wstring_view()
-                                     : std::wstring_view(fileName, SysStringLen(fileName)));
-  // No file has a null character in its name. The part before it may be the name of another file.
-  if (path.find('\0') != std::string::npos) return LOAD_RESULT_CANNOT_OPEN;
-  return server.LoadIfcFile(path.c_str());
-}
-
 bool IsConvertible(IFC_RELEASE release) {
   return release == IFC_RELEASE_2X || release == IFC_RELEASE_2X2 || release == IFC_RELEASE_2X3;
 }
 
 }  // namespace
 
+int CoIFCServer::LoadFile(BSTR fileName) {
+  const std::string path =
+      NarrowPath(fileName == nullptr ? std::wstring_view()
+                                     : std::wstring_view(fileName, SysStringLen(fileName)));
+  // No file has a null character in its name. The part before it may be the name of another file.
+  if (path.find('\0') != std::string::npos) return LOAD_RESULT_CANNOT_OPEN;
+  if (!options) return server.LoadIfcFile(path.c_str());
+  isCancelled = false;
+  server.SetProgressHandler(
+      [this](std::uint64_t done, std::uint64_t total) { return ReportProgress(done, total); });
+  const int result = server.LoadIfc(path.c_str(), *options);
+  server.SetProgressHandler(nullptr);
+  return result;
+}
+
 HRESULT CoIFCServer::Load(BSTR fileName) {
   return Guard([&] {
-    const int result = LoadFile(server, fileName);
-    if (result == LOAD_RESULT_NO_STEP_FILE || result == LOAD_RESULT_UNKNOWN_SCHEMA) {
-      return ReportLoadFailure(LoadFailure::kNoModel, fileName);
+    loadResult = LOAD_RESULT_CANNOT_OPEN;  // also where memory runs out
+    const int result = loadResult = LoadFile(fileName);
+    if (result == LOAD_RESULT_CANNOT_OPEN || result == LOAD_RESULT_CANCELLED) {
+      return ReportLoadFailure(LoadFailure::kNotFound, fileName);
     }
-    if (result != LOAD_RESULT_LOADED) return ReportLoadFailure(LoadFailure::kNotFound, fileName);
+    if (result != LOAD_RESULT_LOADED) return ReportLoadFailure(LoadFailure::kNoModel, fileName);
     if (IsConvertible(server.GetRelease())) return S_OK;
     return ReportLoadFailure(LoadFailure::kNotConvertible, fileName);
   });

@@ -1,6 +1,9 @@
 #ifndef KELIFC_GEO_IFC_SERVER_OBJECT_H_
 #define KELIFC_GEO_IFC_SERVER_OBJECT_H_
 
+#include <atomic>
+#include <optional>
+
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/server_link.h"
 #include "kelifc/platform/com_ptr.h"
@@ -23,6 +26,30 @@ class CoIFCServer : public CoIFCServerBase {
   /// Stores the structure, which is created at the first call. Returns E_POINTER if `out` is null.
   HRESULT get_Structure(IGeoStructure** out) override;
 
+  // The options, which are kept for all later loads. Setting one replaces the progress handler of
+  // the model at the next load. Each getter returns E_POINTER if its argument is null. A number
+  // that is negative, not finite or above 2^53 is E_INVALIDARG.
+  HRESULT get_Dialect(LONG* out) override;
+  HRESULT put_Dialect(LONG dialect) override;
+  HRESULT get_MaxBytes(double* out) override;
+  HRESULT put_MaxBytes(double bytes) override;
+  HRESULT get_MaxInstances(double* out) override;
+  HRESULT put_MaxInstances(double count) override;
+  HRESULT get_MaxStatementBytes(double* out) override;
+  HRESULT put_MaxStatementBytes(double bytes) override;
+  HRESULT get_MaxMemoryBytes(double* out) override;
+  HRESULT put_MaxMemoryBytes(double bytes) override;
+  HRESULT SetProgress(IUnknown* receiver) override;
+  HRESULT CancelLoad() override;
+
+  // What the last load met.
+  HRESULT get_LoadResult(LONG* out) override;
+  HRESULT CheckModel(VARIANT_BOOL* out) override;
+  HRESULT get_ReportText(BSTR* out) override;
+  HRESULT get_ReportJson(BSTR* out) override;
+  HRESULT ReportCount(BSTR name, double* out) override;
+  HRESULT SourceLine(LONG number, LONG* out) override;
+
   /// Returns the model. It is valid while this object lives.
   IfcServer& Model() { return server; }
 
@@ -36,7 +63,18 @@ class CoIFCServer : public CoIFCServerBase {
   ~CoIFCServer() = default;
 
  private:
+  int LoadFile(BSTR fileName);
+  LoadOptions& ChosenOptions();
+  HRESULT PutLimit(std::uint64_t LoadLimits::*limit, double value);
+  HRESULT GetLimit(std::uint64_t LoadLimits::*limit, double* out) const;
+  bool ReportProgress(std::uint64_t bytesDone, std::uint64_t bytesTotal);
+
   IfcServer server;
+  std::optional<LoadOptions> options;  // empty until a host sets one
+  ComPtr<IIFCLoadProgress> progress;   // at most one of the two
+  ComPtr<IDispatch> progressFunction;
+  std::atomic<bool> isCancelled = false;
+  LONG loadResult = LOAD_RESULT_LOADED;
   ComPtr<IGeoStructure> structure;
   ServerLinkOwner links;  // declared last, so that it is destroyed first
 };

@@ -129,6 +129,20 @@ HRESULT InvokeOperation(std::span<const ScriptInterface> interfaces, DISPID id, 
   return status;
 }
 
+HRESULT CallFunction(IDispatch& function, double first, double second, VARIANT_BOOL* result) {
+  VARIANT arguments[2] = {};  // the last argument comes first
+  arguments[0].vt = arguments[1].vt = VT_R8;
+  arguments[0].dblVal = second;
+  arguments[1].dblVal = first;
+  DISPPARAMS parameters = {arguments, nullptr, 2, 0};
+  VARIANT value = {};
+  const HRESULT status = function.Invoke(DISPID_VALUE, IID{}, LOCALE_USER_DEFAULT, DISPATCH_METHOD,
+                                         &parameters, &value, nullptr, nullptr);
+  if (SUCCEEDED(status) && value.vt == VT_BOOL) *result = value.boolVal;
+  VariantClear(&value);
+  return status;
+}
+
 }  // namespace KelIFC
 
 #else
@@ -155,6 +169,11 @@ HRESULT FindNames(std::span<const ScriptInterface> /*interfaces*/, OLECHAR** /*n
 HRESULT InvokeOperation(std::span<const ScriptInterface> /*interfaces*/, DISPID /*id*/,
                         WORD /*flags*/, DISPPARAMS* /*arguments*/, VARIANT* /*result*/,
                         EXCEPINFO* /*exception*/, UINT* /*badArgument*/) {
+  return TYPE_E_LIBNOTREGISTERED;
+}
+
+HRESULT CallFunction(IDispatch& /*function*/, double /*first*/, double /*second*/,
+                     VARIANT_BOOL* /*result*/) {
   return TYPE_E_LIBNOTREGISTERED;
 }
 

@@ -48,6 +48,10 @@ HRESULT InvokeOperation(std::span<const ScriptInterface> interfaces, DISPID id, 
                         DISPPARAMS* arguments, VARIANT* result, EXCEPINFO* exception,
                         UINT* badArgument);
 
+/// Calls a function of a script, which is the default operation of an object, with two numbers.
+/// Stores its result if that is a truth value, and leaves `result` unchanged otherwise.
+HRESULT CallFunction(IDispatch& function, double first, double second, VARIANT_BOOL* result);
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_PLATFORM_COM_DISPATCH_H_

@@ -3,8 +3,8 @@
 
 #include <bit>
 
-// Searching text for the first of a few characters, sixteen bytes at a time where the processor
-// can. The condition below is the only place that asks whether it can.
+// Searches text for the first of a few characters, sixteen bytes at a time if the processor can.
+// Only the condition below checks the processor.
 
 #if defined(__SSE2__) || defined(_M_X64)
 
@@ -38,7 +38,7 @@ inline unsigned MaskOf(Register hits) { return static_cast<unsigned>(_mm_movemas
 
 namespace KelIFC::block {
 
-// Without wide registers that are known here all text is searched bytewise.
+// Other processors search all text bytewise.
 inline constexpr int kSize = 0;
 struct Register {};
 

@@ -14,7 +14,7 @@
 #include "kelifc/server/name_table.h"
 #include "kelifc/server/release_tables.h"
 
-// From the name of an entity to an instance of its class.
+// Makes instances from the names of entities.
 
 namespace KelIFC {
 namespace {
@@ -32,7 +32,7 @@ constexpr NameRow kCoreRows[] = {
 };
 constexpr NameTable kCoreTable(kCoreRows);
 
-// A holder of raw text for an entity that a release does not know.
+// Makes an IfcOther for an entity that the release does not know.
 IfcUnknown* MakeOther(const char* name) {
   try {
     auto other = std::make_unique<IfcOther>();
@@ -43,8 +43,9 @@ IfcUnknown* MakeOther(const char* name) {
   }
 }
 
-// How many characters the entity name at `start` has: up to the first parenthesis, blanks ahead of
-// it left out. Without one, or with one right here, the rest of the text is the name.
+// Returns the length of the entity name at `start`: up to the first parenthesis, without the blanks
+// before it. If there is no parenthesis, or if the text begins with one, the rest of the text is
+// the name.
 std::size_t GetNameLength(const char* start) {
   const char* end = std::strchr(start, '(');
   if (end == nullptr || end == start) return std::strlen(start);
@@ -52,7 +53,7 @@ std::size_t GetNameLength(const char* start) {
   return static_cast<std::size_t>(end - start);
 }
 
-// Every entity name of the schema is shorter than this.
+// All entity names of the schema are shorter than this.
 constexpr std::size_t kUsualNameLength = 64;
 
 }  // namespace

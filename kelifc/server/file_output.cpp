@@ -46,7 +46,7 @@ bool FileOutput::Buffer::Put(const char* text, std::streamsize count) {
   return Note(file.sputn(text, count) == count);
 }
 
-// The reason of a later failure may be but a consequence.
+// A later failure can be a mere consequence of the first one.
 bool FileOutput::Buffer::Note(bool success) {
   if (!success && failure == 0) failure = errno;
   return success;

@@ -9,31 +9,33 @@
 
 namespace KelIFC {
 
-/// A text file that is being written, as an output stream with a large buffer. Instances write
-/// themselves in many short pieces, which reach the system some hundred kilobytes at a time.
+/// A text file for writing, as an output stream with a large buffer. Instances write many short
+/// pieces; the stream passes them to the system in blocks of some hundred kilobytes.
 ///
-/// The stream is free of the process locale, and its line ends are those of the platform.
+/// The stream does not use the process locale, and its line ends are those of the platform.
 class FileOutput {
  public:
-  /// Creates the file, or empties the one that is there.
+  /// Creates the file, or empties an existing one.
   explicit FileOutput(const std::string& name);
   ~FileOutput();
   FileOutput(const FileOutput&) = delete;
   FileOutput& operator=(const FileOutput&) = delete;
 
-  /// True if the file could be created.
+  /// Returns true if the file was created.
   bool IsOpen() const { return buffer.file.is_open(); }
 
   std::ostream& GetStream() { return stream; }
 
-  /// Writes out what is left and closes the file. False if any byte of it could not be written.
+  /// Writes the rest of the buffer and closes the file. Returns false if any byte of the file could
+  /// not be written.
   bool Close();
 
-  /// What the system says of the first failure; "" if there was none, or if it says nothing.
+  /// Returns the system's text for the first failure; "" if there was none, or if the system has no
+  /// text.
   std::string GetFailure() const;
 
  private:
-  // Gathers text and hands it to the file in blocks.
+  // Collects text and writes it to the file in blocks.
   class Buffer : public std::streambuf {
    public:
     Buffer();

@@ -4,7 +4,8 @@
 #include "kelifc/platform/new_guid.h"
 #include "kelifc/server/ifc_server.h"
 
-// Global identifiers as the server offers them: the older text form in base 85, and new ones.
+// The operations of the server for global identifiers: the older text form in base 85, and new
+// identifiers.
 
 namespace KelIFC {
 

@@ -10,13 +10,13 @@
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/release_tables.h"
 
-// The registry: what it holds, and how it is asked. Loading, saving and the making of instances by
-// name have files of their own.
+// The registry of instances. Loading, saving and the creation of instances by name are in other
+// files.
 
 namespace KelIFC {
 namespace {
 
-// From here on up lie the numbers that a file writes with a minus sign.
+// A file writes this number and all higher ones with a minus sign.
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
 template <class Project>
@@ -59,9 +59,9 @@ void IfcServer::Reset() {
   instanceIndex.Clear();
   if (mayRepeat) DropRepeatedSlots();
   for (std::size_t i = items.size(); i > 0; --i) delete std::exchange(items[i - 1], nullptr);
-  items = Mvector<IfcUnknown*>();  // gives the memory back
+  items = Mvector<IfcUnknown*>();  // frees the memory
   idToIndex.Clear();
-  instanceIndex.Clear();  // a destructor may have asked for it
+  instanceIndex.Clear();  // a destructor may have built it again
   guidIndex.clear();
   productPositions = {};
   places = {};
@@ -71,8 +71,8 @@ void IfcServer::Reset() {
   dialect = STEP_DIALECT_CLASSIC;
 }
 
-// Leaves an instance that was registered twice in its first slot only. Takes no memory: that an
-// instance was met is noted in the instance, by the server that it lacks for so long.
+// Keeps only the first slot of an instance that was registered twice. Allocates no memory: an
+// instance that was visited is marked by a null server for the time of the call.
 void IfcServer::DropRepeatedSlots() {
   for (IfcUnknown* item : items) {
     if (item != nullptr) item->SetServer(this);
@@ -108,8 +108,8 @@ std::size_t IfcServer::MakeNumber() {
   return std::max(idToIndex.GetHighestBelow(kFirstNegative), load.highestOrdinary) + 1;
 }
 
-// Where memory runs out nothing was registered, and a new instance, which nobody else knows, is
-// gone.
+// If there is no memory, nothing is registered, and a new instance, which has no other owner, is
+// destroyed.
 void IfcServer::Append(std::size_t id, IfcUnknown* item) {
   const std::size_t position = items.size();
   try {
@@ -129,7 +129,7 @@ void IfcServer::Append(std::size_t id, IfcUnknown* item) {
   item->SetServer(this);
 }
 
-// The number comes last: what it meant before must not be lost where memory runs out.
+// The number is set last: its earlier meaning must not be lost if there is no memory.
 void IfcServer::FillSlot(std::size_t id, IfcUnknown* item) {
   const auto position = static_cast<std::uint32_t>(items.size());
   items.push_back(item);
@@ -147,7 +147,8 @@ void IfcServer::BuildInstanceIndex() const {
 }
 
 std::size_t IfcServer::Find(const IfcUnknown* item) const {
-  // Relationships ask for themselves while they are read; a load need not make the index for that.
+  // A relationship looks up its own number while it is parsed. A load need not build the index for
+  // that.
   if (item != nullptr && item == load.parsed && !mayRepeat) return load.parsedNumber;
   BuildInstanceIndex();
   const std::uint32_t position = instanceIndex.FindPosition(items.data(), item);
@@ -175,7 +176,7 @@ IfcUnknown* IfcServer::GetItem(std::size_t id) {
   return position == detail::NumberIndex::kNone ? nullptr : items[position];
 }
 
-// Hosts know this overload as one that finds nothing; what needs an instance asks the other.
+// Hosts rely on this overload to return null; all other code uses the non-const overload.
 const IfcUnknown* IfcServer::GetItem(std::size_t) const { return nullptr; }
 
 IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
@@ -185,11 +186,11 @@ IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
   return found == guidIndex.end() ? nullptr : items[found->second];
 }
 
-// Walks backwards, so that the first instance with an identifier wins. A model without identifiers
-// is walked once more only when it has grown.
+// Goes backwards, so that the first instance with an identifier wins. A model without identifiers
+// is searched again only after it has grown.
 void IfcServer::BuildGuidIndex() {
   if (slotsWithoutGuid == items.size()) return;
-  GuidIndex made;  // put in place as a whole: memory may run out on the way
+  GuidIndex made;  // assigned when it is complete: an allocation can fail
   for (std::size_t i = items.size(); i > 0; --i) {
     _GUID guid = {};
     if (ReadGlobalGuid(items[i - 1], guid)) made[guid] = static_cast<std::uint32_t>(i - 1);
@@ -221,7 +222,7 @@ const KelIFC2x3::IfcProject* IfcServer::GetProject2x3() const {
   return FindProject(items, AsProject2x3);
 }
 
-// The server owns the projects and gives them out for change where it is not const itself.
+// The server owns the projects. A non-const server returns them as non-const.
 KelIFC2x2::IfcProject* IfcServer::GetProject2x2() {
   // NOLINTNEXTLINE(cppcoreguidelines-pro-type-const-cast)
   return const_cast<KelIFC2x2::IfcProject*>(std::as_const(*this).GetProject2x2());

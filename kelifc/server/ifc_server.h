@@ -42,83 +42,87 @@ struct KELIFC_API GuidLess {
   bool operator()(const _GUID& a, const _GUID& b) const;
 };
 
-/// Told how far a load is: the bytes read so far and the bytes to read, both passes over the file
-/// together. An answer of false stops the load. It must not touch the server.
+/// Receives the progress of a load: the bytes read so far and the bytes to read, for both passes
+/// over the file together. If it returns false, the load stops. It must not use the server.
 using ProgressHandler = std::function<bool(std::uint64_t bytesDone, std::uint64_t bytesTotal)>;
 
-/// Told what went wrong while a file was saved, in one line without its end: the path as it was
-/// given, a colon, a blank and the cause.
+/// Receives an error of a save as one line without its line end: the path as the host passed it, a
+/// colon, a blank and the cause.
 using ErrorHandler = std::function<void(const std::string& message)>;
 
-/// One model: it owns the instances of one file, or of one that is built in memory, and knows each
-/// by its instance number (the n of #n). Every reference of an instance resolves through it.
+/// One model: it owns the instances of one file, or of one model that is built in memory, and finds
+/// each by its instance number (the n of #n). All references of the instances resolve through it.
 ///
-/// Nothing here throws or reports: null and 0 mean "not found". The number 0 is none. A null name,
-/// path or instance is never followed. A server and its instances belong to one thread at a time.
+/// Except where a comment says otherwise, no operation throws or reports an error: null and 0 mean
+/// "not found". No instance has the number 0. A null name, path or instance is never dereferenced.
+/// One thread at a time uses a server and its instances.
 class KELIFC_API IfcServer {
  public:
   IfcServer();
 
-  /// Copies field by field: both servers then hold the same instances, and both would destroy them.
-  /// Copy only a server that holds none.
+  /// Copies field by field: both servers then own the same instances, and both would destroy them.
+  /// Copy only a server without instances.
   IfcServer(const IfcServer&);
   IfcServer& operator=(const IfcServer&);
 
-  // The operations that a derived class can replace. Their order is fixed; new ones go below, and
-  // are not virtual.
+  // The operations that a derived class can override. Their order is fixed; new operations are
+  // added below them and are not virtual.
 
-  /// Destroys the instances, in reverse order.
+  /// Destroys the instances, in reverse order of registration.
   virtual ~IfcServer();
 
   virtual IFC_RELEASE GetRelease();
   virtual void SetRelease(IFC_RELEASE release);
 
-  /// Destroys all instances, in reverse order of registration, and forgets all numbers and
-  /// identifiers. The dialect is the classic one from then on. The release, the tolerance and the
-  /// switches stay.
+  /// Destroys all instances, in reverse order of registration, and removes all numbers and
+  /// identifiers. The dialect becomes the classic one. The release, the tolerance and the switches
+  /// do not change.
   virtual void Reset();
 
-  /// Registers an instance under the number that a file gives it and takes it over. A number that
-  /// is in use moves to the new instance; the earlier one stays, without a number, and is not
-  /// saved. With a null instance or the number 0 nothing happens. Throws std::bad_alloc where
-  /// memory is lacking; the model is what it was then, and an instance without a server is
-  /// destroyed.
+  /// Registers an instance with its number in a file and becomes its owner. If the number is in
+  /// use, it moves to the new instance; the earlier instance stays without a number and is not
+  /// saved. A null instance or the number 0 has no effect. Throws std::bad_alloc if there is no
+  /// memory: then the model does not change, and an instance without a server is destroyed.
   virtual void InsertItem(std::size_t id, IfcUnknown* item);
 
-  /// Registers an instance under a new number, takes it over and gives the number: the highest in
-  /// use plus 1. During a load the number is above every number of the file; where it would
-  /// overflow it is the lowest that is free. A null instance takes a number and an empty slot.
+  /// Registers an instance with a new number, becomes its owner and returns the number: the highest
+  /// number in use plus 1. During a load the number is above every number of the file. If it would
+  /// overflow, it is the lowest free number. A null instance gets a number and an empty slot.
   /// Throws as InsertItem does.
   virtual std::size_t AddItem(IfcUnknown* item);
 
-  /// Makes an instance by the name of its entity in the server's release and registers it. Gives
-  /// the instance, which stays the server's, or null for a name that the release does not know.
+  /// Makes an instance of an entity of the server's release, by its name, and registers it. Returns
+  /// the instance, which belongs to the server, or null for a name that the release does not know.
+  /// All attributes are unset, and so is the global identifier. The object model finds the storey
+  /// of an element by the global identifiers of both. So in a model that is built in memory, no
+  /// element belongs to a storey until the host has set these identifiers.
   virtual IfcUnknown* CreateItem(const char* name);
 
-  /// Destroys an instance and gives the number it had, 0 if it had none or is not here. Its slot
-  /// stays, empty. The pointer may be of an instance that is gone; null means the first empty slot.
+  /// Destroys an instance and returns its number, 0 if it has none or is not in this model. Its
+  /// slot stays and becomes empty. The pointer can be dangling; null means the first empty slot.
   virtual std::size_t DeleteItem(const IfcUnknown* item);
 
-  /// Replaces the model by that of a STEP file, which must be an ordinary file: it is read twice.
-  /// Returns a LOAD_RESULT. A load that the progress handler stops leaves the model empty. What
-  /// inside a file cannot be understood is left out without a report. An instance that there is no
-  /// memory for is left out, too; where memory is lacking otherwise the model is empty and
-  /// std::bad_alloc is thrown.
+  /// Replaces the model by that of a STEP file, which must be an ordinary file because it is read
+  /// twice. Returns a LOAD_RESULT. If the progress handler stops the load, the model is empty. Text
+  /// that cannot be understood is left out without a report, and so is an instance for which there
+  /// is no memory. If any other allocation fails, the model is empty and std::bad_alloc is thrown.
   virtual int LoadIfcFile(const char* path);
 
-  /// Writes all numbered instances to a STEP file, by rising number. Gives 0 if the file was
-  /// created, 1 if not or if the server has no release. The error handler is told every failure,
-  /// also one while the file is written, after which the result is still 0.
+  /// Writes all instances with a number to a STEP file, in ascending order of the numbers. Returns
+  /// 0 if the file was created, 1 if it was not or if the server has no release. The error handler
+  /// receives every failure, also a failure to write to the file, for which the result is 0 all the
+  /// same.
   virtual int SaveIfcFile(const char* path);
 
-  /// Makes an unregistered instance from the entity name at the start of `text`, which the caller
-  /// owns. `end`, if not null, receives the position behind the name. Null for a name that the
-  /// release does not know.
+  /// Makes an unregistered instance from the entity name at the start of `text`; the caller owns
+  /// it. Stores the position after the name in `end`, which can be null. Returns null for a name
+  /// that the release does not know.
   virtual IfcUnknown* ParseClass(const char* text, const char** end);
 
-  /// Makes an unregistered instance by name, ignoring the case of letters; the caller owns it. The
-  /// first knows the names that all releases share; each of the others asks it before its own
-  /// names. A name that is unknown gives null, and in 2x2 and 2x3 an IfcOther.
+  /// Makes an unregistered instance by name, ignoring the case of letters; the caller owns it.
+  /// InstantiateClass knows the names that all releases share; each of the others calls it first
+  /// and then searches its own names. For an unknown name it returns null, and an IfcOther in 2x2
+  /// and 2x3.
   virtual IfcUnknown* InstantiateClass(const char* name);
   virtual IfcUnknown* InstantiateClass151(const char* name);
   virtual IfcUnknown* InstantiateClass20(const char* name);
@@ -126,28 +130,29 @@ class KELIFC_API IfcServer {
   virtual IfcUnknown* InstantiateClass2x2(const char* name);
   virtual IfcUnknown* InstantiateClass2x3(const char* name);
 
-  /// The tolerance of the model, 0.001 in a new server.
+  /// Returns the tolerance of the model, 0.001 in a new server.
   virtual double GetEps() const;
 
-  /// Always null. Use the overload that is not const.
+  /// Always returns null, even if the model has the number. A call through a const server or a
+  /// pointer to one selects this overload; use the overload that is not const.
   virtual const IfcUnknown* GetItem(std::size_t id) const;
 
-  /// The first instance with a global identifier, null if there is none; releases 2x, 2x2 and 2x3
-  /// only. Answers from an index that is made on first use and forgotten by Reset: instances that
-  /// are registered later, and identifiers that are changed later, are not found.
+  /// Returns the first instance with a global identifier, null if there is none; in 2x, 2x2 and 2x3
+  /// only. It uses an index that is built at the first call and removed by Reset: instances that
+  /// are registered later, and identifiers that change later, are not found.
   virtual IfcUnknown* GetItem(const _GUID& guid);
 
-  /// The instance under a number, or null.
+  /// Returns the instance with a number, or null. The instance belongs to the server.
   virtual IfcUnknown* GetItem(std::size_t id);
 
-  /// The number of an instance, 0 if it has none or is not here. The pointer may be of an instance
-  /// that is gone; null means the first empty slot. Constant time.
+  /// Returns the number of an instance, 0 if it has none or is not in this model. The pointer can
+  /// be dangling; null means the first empty slot. Takes constant time.
   virtual std::size_t Find(const IfcUnknown* item) const;
 
-  /// All slots in order of registration; those of deleted instances are null.
+  /// Returns all slots in order of registration. The slots of deleted instances are null.
   virtual const Mvector<IfcUnknown*>& GetItems() const;
 
-  /// The first project of a release, or null.
+  /// Returns the first project of a release, or null. The project belongs to the server.
   virtual const KelIFC151::IfcProject* GetProject151() const;
   virtual const KelIFC20::IfcProject* GetProject20() const;
   virtual const KelIFC2x::IfcProject* GetProject2x() const;
@@ -156,51 +161,52 @@ class KELIFC_API IfcServer {
   virtual KelIFC2x3::IfcProject* GetProject2x3();
   virtual const KelIFC2x3::IfcProject* GetProject2x3() const;
 
-  /// A switch of the host, false in a new server, that is kept and given back.
+  /// Returns a switch that the host can set, false in a new server. A load sets it to true if the
+  /// file has an IfcRelFillsElement with a building element. The server does not use it.
   virtual bool GetSupportsFillings() const;
 
-  /// Sets the tolerance of this model, and with it that with which every server of the process
-  /// writes real numbers. Gives the tolerance that this model had.
+  /// Sets the tolerance of this model, and also the tolerance with which every server of the
+  /// process writes real numbers. Returns the old tolerance of this model.
   virtual double SetEps(double eps);
 
   virtual void SetSupportsFillings(bool supportsFillings);
 
   // Global identifiers as text.
 
-  /// Writes the 20 characters in base 85 that releases 1.5.1 and 2.0 use, and a NUL, to `text`.
-  /// False only if that is null.
+  /// Writes the 20 characters in base 85 that releases 1.5.1 and 2.0 use, and a NUL, to `text`,
+  /// which has room for 21 characters. Returns false only if `text` is null.
   static bool EncodeGUID(const _GUID& guid, char* text);
 
-  /// Reads the first 20 characters of `text`; one outside the alphabet counts as 0. False, with
-  /// `guid` left alone, if there are fewer.
+  /// Decodes the first 20 characters of `text`. A character outside the alphabet counts as 0.
+  /// Returns false, and does not change `guid`, if there are fewer characters.
   static bool DecodeGUID(const char* text, _GUID& guid);
 
-  /// A new identifier as text in base 85, for releases 1.5.1 and 2.0.
+  /// Returns a new identifier as text in base 85, for releases 1.5.1 and 2.0.
   static std::string CreateGlobalId();
 
-  /// A new identifier as 22 characters in base 64, for releases 2x, 2x2 and 2x3.
+  /// Returns a new identifier as 22 characters in base 64, for releases 2x, 2x2 and 2x3.
   static std::string CreateGlobalId2x();
 
   // Additions for C++ hosts.
 
-  /// The schema string in the header of the file that was loaded last, as it stands there; "" if
-  /// that load did not come so far.
+  /// Returns the schema string in the header of the file that was loaded last, without any change;
+  /// "" if that load did not reach it.
   const std::string& GetFileSchema() const { return fileSchema; }
 
-  /// Replaces the model by that of a STEP file, as LoadIfcFile does it, by rules that the host
-  /// chooses. What differs:
-  ///  - Only the file decides about the release; one that was set before has no effect.
-  ///  - A limit that is reached returns 4, and a load that the progress handler stopped returns 5.
-  ///    Both leave the model empty.
-  ///  - A schema that belongs to a later release, such as IFC4X3, returns 6. GetFileSchema names
-  ///  it.
-  ///  - GetLoadFindings tells what is wrong in the file.
-  /// In the dialect of ISO 10303-21 texts are UTF-8, the first name in the header that is known, in
-  /// any case, is the schema, and of statements with the same number only the last one is read.
+  /// Replaces the model by that of a STEP file, as LoadIfcFile does, with the rules of `options`.
+  /// There are these differences:
+  ///  - Only the file decides about the release. A release that was set before has no effect.
+  ///  - If a limit is reached, the result is 4; if the progress handler stopped the load, it is 5.
+  ///    In both cases the model is empty.
+  ///  - If the schema belongs to a later release, such as IFC4X3, the result is 6. GetFileSchema
+  ///    returns its name.
+  ///  - GetLoadFindings returns what is wrong in the file.
+  /// In the dialect of ISO 10303-21, texts are UTF-8, and the schema is the first known name in the
+  /// header, in any case. If several statements have the same number, only the last one is read.
   int LoadIfc(const char* path, const LoadOptions& options);
 
-  /// The same for what is left of a stream. It is copied to a temporary file first, because a model
-  /// is read twice; progress is reported from then on.
+  /// The same for the rest of a stream. The rest is copied to a temporary file first, because a
+  /// load reads a model twice. Progress is reported after that.
   int LoadIfcStream(std::istream& in, const LoadOptions& options);
 
   /// The same for `size` bytes of memory, which are not copied. They must not change during the
@@ -248,24 +254,25 @@ class KELIFC_API IfcServer {
     return idToIndex.Find(number) != detail::NumberIndex::kNone;
   }
 
-  /// How many numbers are in use, those of empty slots included.
+  /// Returns the number of instance numbers in use, including those of empty slots.
   std::size_t GetNumberCount() const { return idToIndex.GetCount(); }
 
-  /// The lowest number in use above `number`, 0 if there is none. This walks the numbers in rising
-  /// order:
+  /// Returns the lowest number in use above `number`, 0 if there is none. This loop visits the
+  /// numbers in ascending order:
   ///   for (std::size_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) ...
   std::size_t GetNextNumber(std::size_t number) const;
 
-  /// The positions in GetItems, from 0 and rising, of the instances that are products (2x, 2x2 and
-  /// 2x3): few of all, so that walks over products need not look at every instance. Slots of
-  /// deleted instances are null.
+  /// Returns the positions in GetItems of the instances that are products (2x, 2x2 and 2x3),
+  /// counted from 0 and in ascending order. Few instances are products, so a loop over products
+  /// need not visit every instance. Slots of deleted instances are null.
   const std::vector<std::uint32_t>& GetProductPositions() const { return productPositions; }
 
-  /// Sets who is told how far a load is; an empty handler tells nobody, as in a new server.
+  /// Sets the handler that receives the progress of loads. An empty handler, as in a new server,
+  /// receives nothing.
   void SetProgressHandler(ProgressHandler handler);
 
-  /// Sets who is told of failures while a file is saved. An empty handler, as in a new server,
-  /// writes one line that begins with "kelifc: " to the standard error stream.
+  /// Sets the handler that receives the errors of saves. With an empty handler, as in a new server,
+  /// a save writes one line that begins with "kelifc: " to the standard error stream.
   void SetErrorHandler(ErrorHandler handler);
 
  private:
@@ -275,7 +282,7 @@ class KELIFC_API IfcServer {
   friend std::int16_t RegisterStatement(IfcServer* server, char* statement);
   friend std::int16_t ParseStatement(IfcServer* server, char* statement);
 
-  // What a load knows about its file while it runs; all zero outside a load.
+  // The state of a load while it runs; all zero outside a load.
   struct LoadState {
     STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
     LoadLimits limits = {0, 0, 0, 0};
@@ -289,16 +296,16 @@ class KELIFC_API IfcServer {
     bool isLaterSchema = false;            // the schema belongs to a later release
     const ScanBuffer* scanner = nullptr;   // of the pass that runs
     IsoStatementReader* reader = nullptr;  // null in the classic dialect
-    const LoadArena* memory = nullptr;     // of the model; null where blocks stand alone
+    const LoadArena* memory = nullptr;     // of the model; null if it has no arena
     std::uint64_t statementBytes = 0;      // of the statements that were read
-    // By number, how many statements follow that have the same one. Only the last one is read.
+    // For each number, how many statements with that number follow. Only the last one is read.
     std::unordered_map<std::size_t, std::size_t> repeats;
     const IfcUnknown* parsed = nullptr;  // the instance whose statement is being read,
     std::size_t parsedNumber = 0;        // and its number
     std::size_t statementNumber = 0;     // of the statement that is being read, for the report
     bool isUnordered = false;            // the last number was far from the one ahead of it
     std::size_t lastNumber = 0;
-    std::uint64_t highestNumber = 0;    // of all statements so far, those left out included
+    std::uint64_t highestNumber = 0;    // of all statements so far, including those left out
     std::uint64_t highestOrdinary = 0;  // the same, of numbers that are not negative
     std::uint64_t bytesBefore = 0;      // in the passes that are done
     std::uint64_t bytesTotal = 0;       // of both passes
@@ -339,7 +346,7 @@ class KELIFC_API IfcServer {
   void WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema);
   void WriteInstances(std::ostream& out);
   void WriteInstance(std::ostream& out, std::uint64_t number);
-  int TellError(const std::string& message) const;  // gives the code of a failed save
+  int TellError(const std::string& message) const;  // returns the code of a failed save
 
   Mvector<IfcUnknown*> items;  // owned; null where deleted
   detail::NumberIndex idToIndex;
@@ -354,8 +361,8 @@ class KELIFC_API IfcServer {
   GuidIndex guidIndex;
 
   mutable detail::InstanceIndex instanceIndex;
-  bool mayRepeat = false;            // an instance may stand in two slots
-  std::size_t slotsWithoutGuid = 0;  // so many slots were seen to hold no global identifier
+  bool mayRepeat = false;            // an instance may be in two slots
+  std::size_t slotsWithoutGuid = 0;  // so many slots had no global identifier
   std::string fileSchema;
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
   LoadReport report;

@@ -17,15 +17,15 @@
 namespace KelIFC {
 namespace {
 
-// Models have a statement per 50 to 60 bytes, and room for the registry is made accordingly. What
-// is not used of it is address space, not memory. A file may claim any size, hence the bound.
+// Models have one statement per 50 to 60 bytes, and the registry allocates memory for that number.
+// The unused part is address space, not memory. The bound exists because a file can claim any size.
 constexpr std::uint64_t kBytesPerStatement = 40;
 constexpr std::uint64_t kMostExpected = std::uint64_t{1} << 24;
 
-// Of the registry, for each instance.
+// The memory that the registry needs for each instance.
 constexpr std::uint64_t kBytesPerSlot = 12;
 
-// A limit of 0 is none.
+// A limit of 0 means no limit.
 constexpr bool Exceeds(std::uint64_t value, std::uint64_t limit) {
   return limit != 0 && value > limit;
 }
@@ -169,8 +169,9 @@ bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
 bool IfcServer::IsWithinMemory() const {
   const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
   const std::uint64_t texts = load.bytesBefore == 0 ? 0 : load.statementBytes;
-  const std::uint64_t taken =
-      blocks + texts + kBytesPerSlot * items.size() + sizeof(StatementPlace) * places.size();
+  const std::uint64_t registry =
+      kBytesPerSlot * items.size() + sizeof(StatementPlace) * places.size();
+  const std::uint64_t taken = blocks + texts + registry;
   return !Exceeds(taken, load.limits.maxMemoryBytes);
 }
 

@@ -9,11 +9,11 @@
 namespace KelIFC {
 namespace {
 
-// A stream over bytes that are not copied.
+// A stream that reads bytes without a copy.
 class MemoryStream : private std::streambuf, public std::istream {
  public:
   MemoryStream(const char* data, std::size_t size) : std::istream(this) {
-    // The stream only reads; its buffer has no other type for the bytes.
+    // The stream only reads, but std::streambuf needs a non-const pointer.
     char* const begin = const_cast<char*>(data);  // NOLINT(cppcoreguidelines-pro-type-const-cast)
     setg(begin, begin, begin + size);
   }

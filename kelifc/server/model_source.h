@@ -55,7 +55,7 @@ class MemorySource : public ModelSource {
 /// A copy of the rest of a stream, in a temporary file.
 class SpooledSource : public ModelSource {
  public:
-  /// What became of the copy.
+  /// The result of the copy.
   enum class State {
     kWhole,
     kTooLong,  ///< the stream has more bytes than were allowed

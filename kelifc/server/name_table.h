@@ -12,10 +12,10 @@ namespace KelIFC {
 
 class IfcUnknown;
 
-/// Makes one unregistered instance, null where the memory for it is lacking.
+/// A function that makes one unregistered instance. It returns null if there is no memory.
 using InstanceMaker = IfcUnknown* (*)();
 
-/// The maker of class T, for the rows of a table.
+/// Makes an instance of class T, for the rows of a table.
 template <class T>
 IfcUnknown* MakeNew() {
   try {
@@ -25,20 +25,21 @@ IfcUnknown* MakeNew() {
   }
 }
 
-/// One row of a table: the name of an entity in upper case, and what makes its class.
+/// One row of a table: the name of an entity in upper case, and the function that makes its class.
 struct NameRow {
   std::string_view name;
   InstanceMaker make = nullptr;
 };
 
-/// A table from entity names to makers, built by the compiler: open addressing, at least three
-/// slots in four free, no memory of its own at run time. Names compare without regard to the case
-/// of the ASCII letters and of nothing else, whatever the process locale.
+/// A hash table from entity names to functions that make an instance. The compiler builds it: it
+/// uses open addressing, at least three of four slots are free, and it allocates nothing at run
+/// time. Names are compared without the case of the ASCII letters, independent of the process
+/// locale.
 ///
-///   constexpr NameRow kRows[] = {{"IFCWALL", MakeNew<IfcWall>}, ...};
-///   constexpr NameTable kTable(kRows);
+///     constexpr NameRow kRows[] = {{"IFCWALL", MakeNew<IfcWall>}, ...};
+///     constexpr NameTable kTable(kRows);
 ///
-/// A name that stands in two rows finds the first.
+/// If a name is in two rows, the first row counts.
 template <std::size_t kRowCount>
 class NameTable {
  public:
@@ -52,8 +53,8 @@ class NameTable {
     }
   }
 
-  /// The row of a name, null if there is none. Reads at most one character more than the longest
-  /// name of the table has, so a name of any length is refused at once.
+  /// Returns the row of a name, null if there is none. Reads at most one character more than the
+  /// longest name of the table has, so a name of any length is rejected in constant time.
   constexpr const NameRow* Find(const char* text) const {
     const char* end = std::char_traits<char>::find(text, longest + 1, '\0');
     if (end == nullptr || end == text) return nullptr;
@@ -67,7 +68,7 @@ class NameTable {
     return nullptr;
   }
 
-  /// A new instance of the class behind a name; null for a name that the table lacks.
+  /// Returns a new instance of the class with a name; null for a name that is not in the table.
   IfcUnknown* Make(const char* name) const {
     const NameRow* row = Find(name);
     return row == nullptr ? nullptr : row->make();
@@ -87,8 +88,8 @@ class NameTable {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
   }
 
-  // Where the search for a name begins. Four characters and the length tell the names of a schema
-  // apart well enough: what they share is the begin, and at times the end.
+  // Returns the first slot for a name. Four characters and the length are enough to distinguish the
+  // names of a schema, which have the same beginning and sometimes the same end.
   static constexpr std::size_t HomeOf(std::string_view name) {
     const std::size_t length = name.size();
     std::uint32_t hash = static_cast<std::uint32_t>(length);
@@ -106,7 +107,7 @@ class NameTable {
   }
 
   std::array<NameRow, kRowCount> rows = {};
-  std::array<std::uint16_t, kSlotCount> slots = {};  // the row counted from 1, 0 where free
+  std::array<std::uint16_t, kSlotCount> slots = {};  // the row, counted from 1; 0 if free
   std::size_t longest = 0;
 };
 

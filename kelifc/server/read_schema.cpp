@@ -8,7 +8,7 @@
 #include "kelifc/server/scan_buffer.h"
 #include "kelifc/server/schema_table.h"
 
-// From the schema record in the header of a file to the release.
+// Finds the release from the schema record in the header of a file.
 
 namespace KelIFC {
 
@@ -19,8 +19,8 @@ IFC_RELEASE IfcServer::ReadSchema(const char* statement) {
   return FindRelease(fileSchema);
 }
 
-// Of several names the first one counts that is known. If none is, the first one of a later release
-// does.
+// If there are several names, the first known one counts. If none is known, the first one of a
+// later release counts.
 IFC_RELEASE IfcServer::ReadIsoSchema(const char* statement) {
   const char* text = load.reader->Read(statement, load.scanner->GetTextEnd());
   schemaRecord->Parse(text);

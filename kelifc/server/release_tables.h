@@ -8,25 +8,27 @@ namespace KelIFC {
 
 class IfcUnknown;
 
-// What the server asks of the entity classes of the releases, which stand in a layer above. The
-// schema folder defines these functions.
+// The operations of the entity classes that the server needs. The schema folder, which is a higher
+// layer, defines these functions.
 
-/// An instance of the class that a release has under a name, ignoring the case of letters; null for
-/// every other name, the shared ones included, and where memory is lacking. The caller owns it.
+/// Returns a new instance of the class that a release has under a name, ignoring the case of
+/// letters. Returns null for every other name, including the names that all releases share, and if
+/// there is no memory. The caller owns the instance.
 IfcUnknown* MakeInstance151(const char* name);
 IfcUnknown* MakeInstance20(const char* name);
 IfcUnknown* MakeInstance2x(const char* name);
 IfcUnknown* MakeInstance2x2(const char* name);
 IfcUnknown* MakeInstance2x3(const char* name);
 
-/// If the instance is an IfcRoot of 2x, 2x2 or 2x3, writes its global identifier and gives true;
-/// the identifier is null where the instance's text is none. A null instance gives false.
+/// If the instance is an IfcRoot of 2x, 2x2 or 2x3, stores its global identifier and returns true.
+/// The identifier is null if the text of the instance is not an identifier. A null instance returns
+/// false.
 bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid);
 
-/// True if the instance is an IfcProduct of 2x, 2x2 or 2x3. A null instance gives false.
+/// Returns true if the instance is an IfcProduct of 2x, 2x2 or 2x3. A null instance returns false.
 bool IsProduct(const IfcUnknown* instance);
 
-/// The instance as the IfcProject of a release, or null. A null instance gives null.
+/// Returns the instance as the IfcProject of a release, or null. A null instance returns null.
 const KelIFC151::IfcProject* AsProject151(const IfcUnknown* instance);
 const KelIFC20::IfcProject* AsProject20(const IfcUnknown* instance);
 const KelIFC2x::IfcProject* AsProject2x(const IfcUnknown* instance);

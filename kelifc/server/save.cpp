@@ -21,11 +21,11 @@
 namespace KelIFC {
 namespace {
 
-// What SaveIfcFile gives.
+// The results of SaveIfcFile.
 constexpr int kSaved = 0;
 constexpr int kCannotCreate = 1;
 
-// The time as a file's header has it, such as 2012-03-03T14:05:09.
+// Returns the time in the form of a file header, such as 2012-03-03T14:05:09.
 std::string FormatTime(const LocalTime& time) {
   char text[96];
   const int length = std::snprintf(text, sizeof text, "%4d-%02d-%02dT%02d:%02d:%02d", time.year,
@@ -33,7 +33,8 @@ std::string FormatTime(const LocalTime& time) {
   return std::string(text, static_cast<std::size_t>(length));
 }
 
-// The header is the same for all models but for its three fields; a file name goes in as it is.
+// The header of all models is the same except for three fields. A file name is written without any
+// change.
 void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view schema) {
   out << "ISO-10303-21;\n"
          "HEADER;\n"
@@ -50,7 +51,8 @@ void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view 
       << std::flush;
 }
 
-// A text as it stands between the quotes of the header. The classic dialect writes it as it is.
+// Returns a text as the header contains it between quotes. The classic dialect writes it without
+// any change.
 std::string GetHeaderText(std::string_view text, STEP_DIALECT dialect) {
   if (dialect == STEP_DIALECT_CLASSIC) return std::string(text);
   std::string quoted;
@@ -126,7 +128,7 @@ void IfcServer::WriteModel(std::ostream& out, std::string_view fileName, std::st
 // instance waits for memory; so the steps of a whole batch wait together.
 void IfcServer::WriteInstances(std::ostream& out) {
   constexpr std::size_t kBatch = 32;
-  constexpr std::size_t kWritten = 256;  // bytes of an instance: all are read
+  constexpr std::size_t kWritten = 256;  // bytes of an instance; all of them are read
   std::array<std::uint64_t, kBatch> batch = {};
   TextStream statement;
   std::uint64_t last = 0;
@@ -153,7 +155,7 @@ void IfcServer::WriteInstances(std::ostream& out) {
 
 void IfcServer::WriteInstance(std::ostream& out, std::uint64_t number) {
   const IfcUnknown* instance = IfcServer::GetItem(number);
-  if (instance == nullptr) return;  // an earlier one of the batch deleted it
+  if (instance == nullptr) return;  // an earlier instance of the batch deleted it
   detail::PutChar(out, '#');
   detail::PutNumber(out, number);
   detail::PutChar(out, '=');

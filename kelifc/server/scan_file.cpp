@@ -8,13 +8,13 @@
 #include "kelifc/server/scanner.h"
 #include "kelifc/server/statements.h"
 
-// One pass of a load over its file.
+// One pass of a load through its file.
 
 namespace KelIFC {
 namespace {
 
-// What has no `;` in so many bytes from its start is no STEP file. Without this limit a film or an
-// archive would be read into memory in search of one.
+// A file without a `;` in this many bytes is not a STEP file. Without this limit, a load would read
+// an entire video or archive into memory in search of one.
 constexpr std::size_t kHeadLimit = std::size_t{1024} * 1024;
 
 // A limit as a number of bytes or items. 0 is no limit.
@@ -42,7 +42,8 @@ class EscapeNotes : public BadEscapeSink {
 
 }  // namespace
 
-// Hands the statements of a file to the pass, until the file, the pass or a limit ends it.
+// Passes the statements of a file to the pass, until the file ends, the pass ends or a limit is
+// reached.
 template <class AnyScanner>
 void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {
   IfcServer::LoadState& load = server.load;

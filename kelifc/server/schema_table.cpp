@@ -10,18 +10,17 @@ struct SchemaRow {
   IFC_RELEASE release;
 };
 
-// The order counts: saving takes the first row of a release.
+// The order is important: a save uses the first row of a release.
 constexpr SchemaRow kSchemaTable[] = {
     {"IFC20_LONGFORM", IFC_RELEASE_20}, {"IFC151", IFC_RELEASE_151},
     {"IFC2X_FINAL", IFC_RELEASE_2X},    {"IFC2X2_FINAL", IFC_RELEASE_2X2},
     {"IFC2X3", IFC_RELEASE_2X3},        {"IFC2X3_FINAL", IFC_RELEASE_2X3},
 };
 
-// What the schema strings of later releases begin with. IFC2X4 was the name of IFC4 while it was
-// drafted.
+// The beginnings of the schema strings of later releases. IFC2X4 was the name of the draft of IFC4.
 constexpr std::string_view kLaterSchemas[] = {"IFC4", "IFC2X4"};
 
-// The first word of a text, in upper case.
+// Returns the first word of a text, in upper case.
 std::string FirstWord(std::string_view text) {
   std::string word;
   for (const char c : text) {

@@ -7,21 +7,21 @@
 
 namespace KelIFC {
 
-/// The release that a schema string of a file's header stands for; IFC_RELEASE_NONE for a string
-/// that is not known. Compares exactly and with case.
+/// Returns the release of a schema string in a file's header, or IFC_RELEASE_NONE for an unknown
+/// string. The comparison is exact and case-sensitive.
 IFC_RELEASE FindRelease(std::string_view schema);
 
-/// The same for the dialect of ISO 10303-21, in which the case of the letters has no meaning.
-/// Blanks at the begin of the string are skipped, and what follows the first word is not looked at:
-/// an object identifier may stand there.
+/// The same for the dialect of ISO 10303-21, which ignores the case of the letters. Blanks at the
+/// beginning are skipped, and everything after the first word, such as an object identifier, is
+/// ignored.
 IFC_RELEASE FindReleaseInAnyCase(std::string_view schema);
 
-/// True for the schema string of a release that came after those that this library reads, such as
+/// Returns true for the schema string of a release after those that this library reads, such as
 /// IFC4 or IFC4X3_ADD2, in any case.
 bool IsLaterSchema(std::string_view schema);
 
-/// The schema string with which a release is saved, "" for IFC_RELEASE_NONE. A release that has two
-/// strings is saved with the first one.
+/// Returns the schema string that a save writes for a release, "" for IFC_RELEASE_NONE. If a
+/// release has two strings, a save writes the first one.
 std::string_view GetSchemaString(IFC_RELEASE release);
 
 }  // namespace KelIFC

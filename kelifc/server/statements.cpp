@@ -127,8 +127,8 @@ void IfcServer::NoteRepeat(std::size_t id) {
   if (IsIso()) ++load.repeats[id];
 }
 
-// True if a later statement has the same number. In the dialect of ISO 10303-21 the instance, which
-// is of the last statement, reads that one only.
+// Returns true if a later statement has the same number. In the dialect of ISO 10303-21, the
+// instance is that of the last such statement and reads only that one.
 bool IfcServer::IsRepeated(std::size_t id) {
   if (load.repeats.empty()) return false;
   const auto found = load.repeats.find(id);
@@ -144,7 +144,7 @@ void IfcServer::NoteNumber(std::size_t id) {
   }
 }
 
-// Where the numbers jump about, each is a wait for memory that its statement can ask for ahead.
+// If the numbers are not in order, each look-up waits for memory, which its statement can prefetch.
 void IfcServer::NoteOrder(std::size_t id) {
   constexpr std::size_t kNear = 256;
   load.isUnordered = id - load.lastNumber > kNear;

@@ -9,19 +9,19 @@ namespace KelIFC {
 
 class IfcServer;
 
-// The two passes of a load, statement by statement.
+// The two passes of a load, one statement at a time.
 
-/// Cuts a stream into statements and hands each to RegisterStatement in the first pass, to
-/// ParseStatement in the second, until a handler answers other than 0 or the stream ends.
+/// Splits a stream into statements. Passes each to RegisterStatement in the first pass and to
+/// ParseStatement in the second, until one of them returns a value other than 0 or the stream ends.
 void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
 
-/// Takes one statement in the first pass: checks the first one of a file, finds the release in the
-/// header, and registers an empty instance for each `#n=` behind it. The text is cut on the way.
-/// Gives 0 to go on, 1 if the file is no STEP file, 2 if its schema is unknown.
+/// Handles one statement in the first pass: checks the first statement of a file, finds the release
+/// in the header, and registers an empty instance for each `#n=` after it. Modifies the text.
+/// Returns 0 to continue, 1 if the file is not a STEP file, 2 if its schema is unknown.
 std::int16_t RegisterStatement(IfcServer* server, char* statement);
 
-/// Takes one statement in the second pass: lets the instance under its number read the attributes.
-/// The text is cut on the way. Gives 0.
+/// Handles one statement in the second pass: the instance with its number parses the attributes.
+/// Modifies the text. Returns 0.
 std::int16_t ParseStatement(IfcServer* server, char* statement);
 
 /// A statement `#n=...` cut in two at its first `=`.

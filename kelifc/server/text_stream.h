@@ -10,8 +10,8 @@
 
 namespace KelIFC {
 
-/// An output stream into memory that is used again and again: unlike a string stream it gives out
-/// its text without a copy, and keeps its memory when it is cleared.
+/// An output stream into memory that can be used again. Other than a string stream, it returns its
+/// text without a copy, and keeps its memory when it is cleared.
 class TextStream : private std::streambuf, public std::ostream {
  public:
   TextStream() : std::ostream(this) { Clear(); }
@@ -22,15 +22,15 @@ class TextStream : private std::streambuf, public std::ostream {
     setp(text.data(), text.data() + text.size() - 1);
   }
 
-  /// What was written since the last call of Clear. A NUL follows it. It is valid until more is
-  /// written.
+  /// Returns the text that was written since the last call of Clear. A NUL follows it. It is valid
+  /// until the next write.
   std::string_view GetText() {
     *pptr() = '\0';
     return {pbase(), static_cast<std::size_t>(pptr() - pbase())};
   }
 
  private:
-  // Both bases have these names.
+  // Both base classes have members with these names.
   using traits_type = std::streambuf::traits_type;
   using int_type = std::streambuf::int_type;
 
@@ -49,7 +49,7 @@ class TextStream : private std::streambuf, public std::ostream {
     return count;
   }
 
-  // Makes room for so many characters more, and for the NUL.
+  // Allocates memory for so many more characters and the NUL.
   void Grow(std::size_t count) {
     const auto used = static_cast<std::size_t>(pptr() - pbase());
     text.resize(std::max(2 * text.size(), used + count + 1));
@@ -57,7 +57,7 @@ class TextStream : private std::streambuf, public std::ostream {
     Advance(used);
   }
 
-  // Moves on by more than the standard function can.
+  // Moves the position by more than the standard function can.
   void Advance(std::size_t count) {
     constexpr std::size_t kMost = 1 << 30;
     for (; count > kMost; count -= kMost) pbump(static_cast<int>(kMost));

@@ -34,7 +34,7 @@ TEST(List, MakesDefaultElements) {
   EXPECT_EQ(Text(LIST<INTEGER>(0)), "()");
 }
 
-TEST(List, AddsEqualElementsAgainAndGivesPositions) {
+TEST(List, AddsEqualElementsAgainAndReturnsPositions) {
   LIST<INTEGER> list;
   EXPECT_EQ(list.Add(5), 1U);
   EXPECT_EQ(list.Add(5), 2U);
@@ -62,7 +62,7 @@ TEST(List, CountsPositionsFromOne) {
   EXPECT_EQ(same[2], "c");
 }
 
-TEST(List, GivesAnUnsetElementForAPositionOutOfRange) {
+TEST(List, ReturnsAnUnsetElementForAPositionOutOfRange) {
   LIST<INTEGER> list;
   list.Add(5);
   for (const std::size_t position : {std::size_t{0}, std::size_t{2}, ~std::size_t{0}}) {
@@ -83,7 +83,7 @@ TEST(List, DestroysAValueThatIsWrittenOutOfRange) {
   EXPECT_EQ(Probe::alive, 0);
 }
 
-TEST(List, KeepsItsMarkWhenItIsCleared) {
+TEST(List, StillExistsWhenItIsCleared) {
   LIST<INTEGER> list;
   list.Add(5);
   list.Clear();
@@ -104,7 +104,7 @@ TEST(List, CopiesAndMovesItsElements) {
   EXPECT_EQ(Text(taken), "(5, 6)");
 }
 
-TEST(List, KeepsValuesInPlaceWhenItGrows) {
+TEST(List, KeepsInlineValuesWhenItGrows) {
   {
     LIST<MEMBER> list;
     for (int i = 1; i <= 100; ++i) {
@@ -119,7 +119,7 @@ TEST(List, KeepsValuesInPlaceWhenItGrows) {
   EXPECT_EQ(Probe::alive, 0);
 }
 
-TEST(List, LosesItsValuesInPlaceToACopy) {
+TEST(List, LosesItsInlineValuesToACopy) {
   LIST<MEMBER> list;
   MEMBER member;
   member = new Probe(1);
@@ -137,7 +137,7 @@ TEST(List, WritesMeasuresInTurn) {
   EXPECT_EQ(Text(list), "(1.5, $)");
 }
 
-TEST(Set, WritesParenthesesAlsoIfUnset) {
+TEST(Set, WritesParenthesesEvenIfUnset) {
   const SET<MEMBER> set;
   EXPECT_FALSE(set.GetExists());
   EXPECT_EQ(Text(set), "()");
@@ -152,7 +152,7 @@ TEST(Set, AddsAnEqualElementOnlyOnce) {
   EXPECT_EQ(Text(set), "(#5, #6)");
 }
 
-TEST(Set, TakesTwoValuesInPlaceForEqual) {
+TEST(Set, TreatsTwoInlineValuesAsEqual) {
   SET<MEMBER> set;
   for (int i = 1; i <= 2; ++i) {
     MEMBER member;
@@ -163,14 +163,14 @@ TEST(Set, TakesTwoValuesInPlaceForEqual) {
   EXPECT_EQ(Probe::alive, 1);
 }
 
-TEST(Set, AppendsEqualElementsWhereNoTestIsAsked) {
+TEST(Set, AppendsEqualElementsWithoutATest) {
   SET<MEMBER> set;
   EXPECT_EQ(set.Append(Number(5)), 1U);
   EXPECT_EQ(set.Append(Number(5)), 2U);
   EXPECT_EQ(set.Add(Number(5)), 1U);
 }
 
-/// A set that looks at each element in turn, as the oracle.
+/// A set that compares each element in turn, as the reference.
 class SlowSet {
  public:
   std::size_t Add(std::size_t key) {
@@ -182,7 +182,7 @@ class SlowSet {
   std::vector<std::size_t> keys;
 };
 
-TEST(Set, FindsElementsInLongSetsAsInShortOnes) {
+TEST(Set, FindsElementsInLargeSetsAsInSmallOnes) {
   std::mt19937 random(12);
   for (const std::size_t range : {20, 40, 1000, 100000}) {
     SET<MEMBER> set;
@@ -216,7 +216,7 @@ TEST(Set, FindsElementsInLongSetsAsInShortOnes) {
   }
 }
 
-TEST(Set, StartsAnewWhenItIsCleared) {
+TEST(Set, IsEmptyAfterItIsCleared) {
   SET<MEMBER> set;
   for (std::size_t i = 1; i <= 100; ++i) set.Add(Number(i));
   set.Clear();
@@ -225,7 +225,7 @@ TEST(Set, StartsAnewWhenItIsCleared) {
   EXPECT_EQ(set.Add(Number(50)), 1U);
 }
 
-TEST(Set, FindsElementsInACopyOfALongSet) {
+TEST(Set, FindsElementsInACopyOfALargeSet) {
   SET<MEMBER> set;
   for (std::size_t i = 1; i <= 100; ++i) set.Add(Number(i));
   SET<MEMBER> copy(set);
@@ -235,7 +235,7 @@ TEST(Set, FindsElementsInACopyOfALongSet) {
   EXPECT_EQ(taken.Add(Number(500)), 101U);
 }
 
-TEST(Set, HoldsPointersByTheirAddress) {
+TEST(Set, ComparesPointersByTheirAddress) {
   std::vector<Probe> probes(100);
   SET<const Probe*> set;
   for (const Probe& probe : probes) set.Add(&probe);
@@ -244,7 +244,7 @@ TEST(Set, HoldsPointersByTheirAddress) {
   EXPECT_EQ(set.Add(nullptr), 101U);
 }
 
-TEST(Set, HoldsValuesByEquality) {
+TEST(Set, ComparesValuesByEquality) {
   SET<INTEGER> set;
   for (int i = 0; i < 50; ++i) set.Add(i % 10);
   EXPECT_EQ(set.GetSize(), 10U);

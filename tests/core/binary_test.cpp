@@ -18,14 +18,14 @@ TEST(Binary, ReadsAndWritesItsBits) {
   EXPECT_EQ(Text(value), "\"01\"");
 }
 
-TEST(Binary, FillsAShortTextUpAndIgnoresWhatIsTooMuch) {
+TEST(Binary, FillsAShortTextWithZerosAndIgnoresExtraBits) {
   EXPECT_EQ(TextOf<BINARY<4>>("\"1\""), "\"1000\"");
   EXPECT_EQ(TextOf<BINARY<2>>("\"10111\""), "\"10\"");
   EXPECT_EQ(TextOf<BINARY<3>>("\"x1y\""), "\"010\"");
   EXPECT_EQ(TextOf<BINARY<2>>("\"\""), "\"00\"");
 }
 
-TEST(Binary, StaysWhereNoBitsStand) {
+TEST(Binary, DoesNotMoveWithoutABitText) {
   for (const char* text : {"1,\"11\"", "\"11,5", "11", ""}) {
     BINARY<2> value;
     EXPECT_EQ(RestOf(value, text), text);
@@ -34,7 +34,7 @@ TEST(Binary, StaysWhereNoBitsStand) {
   }
 }
 
-TEST(Binary, IsUnsetByOmittedValues) {
+TEST(Binary, BecomesUnsetByOmittedValues) {
   BINARY<2> value;
   value.Parse("\"11\"");
   EXPECT_EQ(RestOf(value, "$,5"), "5");

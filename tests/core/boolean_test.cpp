@@ -29,14 +29,14 @@ TEST(Boolean, ReadsEveryOtherTextAsFalse) {
   }
 }
 
-TEST(Boolean, StaysAtTextThatIsNoEnumerator) {
+TEST(Boolean, DoesNotMoveAtTextThatIsNotAnEnumerator) {
   BOOLEAN value;
   EXPECT_EQ(RestOf(value, "1,5"), "1,5");
   EXPECT_TRUE(value.GetExists());
   EXPECT_FALSE(value);
 }
 
-TEST(Boolean, IsUnsetByOmittedValues) {
+TEST(Boolean, BecomesUnsetByOmittedValues) {
   BOOLEAN value(true);
   EXPECT_EQ(RestOf(value, "*,5"), "5");
   EXPECT_EQ(Text(value), "$");

@@ -48,7 +48,7 @@ TEST_F(BoundingBox, ThrowsForAMissingCorner) {
   }
 }
 
-TEST_F(BoundingBox, TakesOnlyACornerOfItsModel) {
+TEST_F(BoundingBox, AcceptsOnlyACornerOfItsModel) {
   box->SetCorner(corner);
   EXPECT_EQ(box->GetCorner(), corner);
   IfcCartesianPoint outside;
@@ -59,7 +59,7 @@ TEST_F(BoundingBox, TakesOnlyACornerOfItsModel) {
   EXPECT_EQ(Text(stranger), "IFCBOUNDINGBOX($,$,$,$");
 }
 
-TEST_F(BoundingBox, TakesMeasures) {
+TEST_F(BoundingBox, AcceptsMeasures) {
   box->SetXDim(1.0);
   box->SetYDim(2.0);
   box->SetZDim(IfcLengthMeasure());

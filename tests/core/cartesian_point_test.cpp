@@ -20,13 +20,13 @@ TEST(CartesianPoint, IsMadeFromNumbers) {
   EXPECT_EQ(Text(IfcCartesianPoint(1.0, 2.0, REAL())), "IFCCARTESIANPOINT((1.,2.,$)");
 }
 
-TEST(CartesianPoint, IsMadeOfADimensionWithoutNumbers) {
+TEST(CartesianPoint, IsMadeFromADimensionWithUnsetCoordinates) {
   EXPECT_EQ(Text(IfcCartesianPoint(INTEGER(3))), "IFCCARTESIANPOINT(($,$,$)");
   EXPECT_EQ(IfcCartesianPoint(INTEGER(0)).GetDim(), 0);
   EXPECT_EQ(IfcCartesianPoint(INTEGER(-3)).GetDim(), 0);
 }
 
-TEST(CartesianPoint, GivesItsCoordinatesAsMeasures) {
+TEST(CartesianPoint, ReturnsItsCoordinatesAsMeasures) {
   IfcCartesianPoint point(1.5, REAL());
   const LIST<IfcLengthMeasure> measures = point.GetCoordinates();
   EXPECT_EQ(Text(measures), "(1.5, $)");

@@ -13,7 +13,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(Coordinates, AreNoneAtFirst) {
+TEST(Coordinates, AreEmptyAtFirst) {
   EXPECT_EQ(COORDINATES().GetSize(), 0U);
   EXPECT_EQ(Text(COORDINATES()), "()");
 }
@@ -44,7 +44,7 @@ TEST(Coordinates, ReadANestedTextAsZero) {
   EXPECT_EQ(Text(coordinates), "(0.,2.,0.)");
 }
 
-TEST(Coordinates, StayWithoutAParenthesis) {
+TEST(Coordinates, DoNotMoveTheCursorWithoutAParenthesis) {
   COORDINATES coordinates;
   coordinates.Parse("(1.)");
   EXPECT_EQ(RestOf(coordinates, "1.,2."), "1.,2.");
@@ -67,7 +67,7 @@ TEST(Coordinates, AreEmptiedByOmittedValues) {
   EXPECT_EQ(Text(coordinates), "()");
 }
 
-TEST(Coordinates, GiveAndTakeNumbersByPosition) {
+TEST(Coordinates, ReturnAndReplaceNumbersByPosition) {
   COORDINATES coordinates;
   EXPECT_EQ(coordinates.Add(1.5), 1U);
   EXPECT_EQ(coordinates.Add(2.5), 2U);
@@ -102,7 +102,7 @@ TEST(Coordinates, KeepNumbersUnset) {
 TEST(Coordinates, HoldEveryNanAsANumber) {
   COORDINATES unset;
   unset.Resize(1);
-  // The nan that stands for an unset number: the first thing in the object behind its table.
+  // The NaN that means an unset number: the first field of the object after its virtual table.
   double mark = 0.0;
   std::memcpy(&mark, reinterpret_cast<const char*>(&unset) + sizeof(void*), sizeof mark);
   ASSERT_TRUE(std::isnan(mark));
@@ -144,7 +144,7 @@ TEST(Coordinates, CopyAnyCountOfNumbers) {
   }
 }
 
-/// Reads coordinates by the rules alone: the inner text is copied, and one REAL reads each number.
+/// Reads coordinates by the plain rules: the inner text is copied, and one REAL parses each number.
 std::string ReadSlowly(const std::string& text) {
   const std::size_t open = text.find('(');
   if (open == std::string::npos) return "() " + text;
@@ -164,7 +164,7 @@ std::string ReadSlowly(const std::string& text) {
   return Text(numbers) + " " + (comma == std::string::npos ? "(null)" : text.substr(comma + 1));
 }
 
-TEST(Coordinates, ReadRandomTextInPlaceAsFromACopy) {
+TEST(Coordinates, ReadRandomTextAsFromACopy) {
   std::mt19937 random(41);
   const std::vector<std::string> parts = {"1.", "-2.5", "3e2", "inf", "nan", "nan(", "0x1p", "$",
                                           "*",  " ",    ",",   ",",   ",",   "(",    ")",    "x",
@@ -184,7 +184,7 @@ TEST(Coordinates, ReadRandomTextInPlaceAsFromACopy) {
   }
 }
 
-TEST(Coordinates, GiveTheirNumbersWithZeroForWhatIsUnset) {
+TEST(Coordinates, CopyUnsetNumbersAsZero) {
   COORDINATES coordinates;
   coordinates.Add(1.5);
   coordinates.Add(REAL());

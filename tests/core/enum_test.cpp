@@ -9,7 +9,7 @@ namespace {
 
 TEST(Enum, IsUnsetAtFirst) { EXPECT_FALSE(ENUM().GetExists()); }
 
-TEST(Enum, ReadsWhatStandsBetweenTwoDots) {
+TEST(Enum, ReadsTheTextBetweenTwoDots) {
   ENUM value;
   EXPECT_EQ(RestOf(value, " .Not_Defined., 5"), " 5");
   EXPECT_TRUE(value.GetExists());
@@ -27,7 +27,7 @@ TEST(Enum, ReadsOverACommaBetweenTheDots) {
   EXPECT_EQ(value, "a,b");
 }
 
-TEST(Enum, StaysWhereACommaPrecedesTheDot) {
+TEST(Enum, DoesNotMoveIfACommaPrecedesTheDot) {
   ENUM value;
   value.Parse(".F.");
   EXPECT_EQ(RestOf(value, ",.T."), ",.T.");
@@ -35,7 +35,7 @@ TEST(Enum, StaysWhereACommaPrecedesTheDot) {
   EXPECT_EQ(value, "");
 }
 
-TEST(Enum, StaysWhereADotIsMissing) {
+TEST(Enum, DoesNotMoveIfADotIsMissing) {
   ENUM value;
   EXPECT_EQ(RestOf(value, "T,5"), "T,5");
   EXPECT_EQ(RestOf(value, ".T,5"), ".T,5");
@@ -43,7 +43,7 @@ TEST(Enum, StaysWhereADotIsMissing) {
   EXPECT_FALSE(value.GetExists());
 }
 
-TEST(Enum, IsUnsetByOmittedValues) {
+TEST(Enum, BecomesUnsetByOmittedValues) {
   ENUM value;
   value.Parse(".F.");
   EXPECT_EQ(RestOf(value, "$,.T."), ".T.");

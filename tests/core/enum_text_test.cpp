@@ -17,19 +17,19 @@ std::string Written(Colour colour) {
   return out.str();
 }
 
-TEST(EnumText, StoresTheValueOfATextAndGivesTheNextCursor) {
+TEST(EnumText, StoresTheValueOfATextAndReturnsTheNextCursor) {
   Colour colour = kNone;
   EXPECT_STREQ(ParseEnumValue(colour, " .GREEN. ,5", kNone, kColours), "5");
   EXPECT_EQ(colour, kGreen);
 }
 
-TEST(EnumText, TakesTheFirstRowWhereATextStandsTwice) {
+TEST(EnumText, UsesTheFirstRowIfATextOccursTwice) {
   Colour colour = kNone;
   ParseEnumValue(colour, ".BLUE.", kNone, kColours);
   EXPECT_EQ(colour, kBlue);
 }
 
-TEST(EnumText, GivesTheDefaultForWhatTheTableDoesNotHave) {
+TEST(EnumText, StoresTheDefaultForATextThatTheTableDoesNotHave) {
   for (const char* text : {".green.", ".GREE.", ".GREENS.", "$", "*", "GREEN", "..", ""}) {
     Colour colour = kRed;
     ParseEnumValue(colour, text, kBlue, kColours);

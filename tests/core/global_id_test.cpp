@@ -120,15 +120,14 @@ TEST(GlobalId, ReadsTheFirst20CharactersOfTheOlderForm) {
   EXPECT_TRUE(Equal(guid, kDistinct));
 }
 
-TEST(GlobalId, TakesACharacterOutsideTheOlderAlphabetForZero) {
+TEST(GlobalId, ReadsACharacterOutsideTheOlderAlphabetAsZero) {
   _GUID guid = kDistinct;
   EXPECT_TRUE(DecodeBase85(std::string(20, ' ').c_str(), guid));
   EXPECT_TRUE(Equal(guid, kNull));
 }
 
 TEST(GlobalId, WrapsASumAboveTheRange) {
-  // 84 * (85^20 - 1) / 84 is 85^20 - 1; its low 128 bits are the all-ones pattern plus 85^20 less
-  // 2^128, so one more in the last digit's place is the same as 85^20.
+  // The highest text is the number 85^20 - 1; its low 128 bits are 85^20 - 1 - 2^128.
   _GUID highest = {};
   ASSERT_TRUE(DecodeBase85(std::string(20, '_').c_str(), highest));
   const std::string text = Text85(highest);

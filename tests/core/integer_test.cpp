@@ -21,25 +21,25 @@ TEST(Integer, ReadsAndWritesANumber) {
   EXPECT_EQ(Text(value), "-12");
 }
 
-TEST(Integer, ReadsTextThatIsNoNumberAsZero) {
+TEST(Integer, ReadsNonNumericTextAsZero) {
   INTEGER value;
   EXPECT_EQ(RestOf(value, "abc,7"), "7");
   EXPECT_TRUE(value.GetExists());
   EXPECT_EQ(value, 0);
 }
 
-TEST(Integer, ReadsTheWholePartOfARealNumber) {
+TEST(Integer, ReadsTheIntegerPartOfARealNumber) {
   INTEGER value;
   EXPECT_EQ(RestOf(value, "3.9,7"), "7");
   EXPECT_EQ(value, 3);
 }
 
-TEST(Integer, TakesTheNearestBoundForANumberOutOfRange) {
+TEST(Integer, ReadsANumberOutOfRangeAsTheNearestBound) {
   EXPECT_EQ(TextOf<INTEGER>("99999999999"), "2147483647");
   EXPECT_EQ(TextOf<INTEGER>("-99999999999"), "-2147483648");
 }
 
-TEST(Integer, IsUnsetByOmittedValues) {
+TEST(Integer, BecomesUnsetByOmittedValues) {
   INTEGER value(4);
   EXPECT_EQ(RestOf(value, "$,5"), "5");
   EXPECT_EQ(Text(value), "$");

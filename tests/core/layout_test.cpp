@@ -17,8 +17,9 @@
 #include "kelifc/core/string.h"
 #include "kelifc/core/unit_assignment.h"
 
-// Sizes, since a model is made of millions of these; the places of bases and the order of virtual
-// operations, since a host is compiled against them. The Itanium ABI is what they are checked in.
+// The tests of sizes exist because a model consists of millions of these objects. The tests of the
+// positions of base classes and of the order of virtual operations exist because hosts are compiled
+// against them. They check the Itanium ABI.
 
 #if defined(__x86_64__) && !defined(_WIN32)
 
@@ -47,14 +48,14 @@ TEST(Layout, KeepsInstancesCompact) {
   EXPECT_EQ(sizeof(IfcCartesianPoint), 72U);
 }
 
-/// How far the `Base` of an instance stands from its front.
+/// Returns the offset of the `Base` of an instance.
 template <class Base, class Type>
 std::ptrdiff_t PlaceOf(const Type& instance) {
   return reinterpret_cast<const char*>(static_cast<const Base*>(&instance)) -
          reinterpret_cast<const char*>(&instance);
 }
 
-/// The places of the bases, in the order in which they are named, rise from 0.
+/// The offsets of the bases, in the given order, rise from 0.
 template <class... Bases, class Type>
 void ExpectBases(const Type& instance) {
   std::ptrdiff_t last = -1;
@@ -89,7 +90,7 @@ constexpr std::ptrdiff_t kSlot = sizeof(void*);
 
 TEST(Layout, OrdersTheOperationsOfEveryInstance) {
   EXPECT_EQ(SlotOf(&IfcUnknown::GetStepName), 0);
-  // The destructor takes two slots.
+  // The destructor has two slots.
   EXPECT_EQ(SlotOf(&IfcUnknown::Parse), 3 * kSlot);
   ExpectRising(
       {SlotOf(&IfcUnknown::Parse), SlotOf(&IfcUnknown::Write), SlotOf(&IfcUnknown::ParseDef),
@@ -111,7 +112,7 @@ TEST(Layout, OrdersTheOperationsOfValues) {
   ExpectRising({SlotOf(&IfcValue::WriteWithName), SlotOf(&IfcValue::ParseBody)});
 }
 
-/// Makes the protected operation visible.
+/// Makes the protected operation public.
 class OpenPoint : public IfcCartesianPoint {
  public:
   static std::ptrdiff_t SlotOfProtectedDim() { return SlotOf(&OpenPoint::_GetDim); }

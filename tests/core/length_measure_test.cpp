@@ -15,7 +15,7 @@ std::string NamedText(const IfcValue& value) {
   return out.str();
 }
 
-TEST(LengthMeasure, StandsBareInAnAttribute) {
+TEST(LengthMeasure, HasNoTypeNameInAnAttribute) {
   IfcLengthMeasure measure;
   EXPECT_EQ(Text(measure), "$");
   EXPECT_EQ(RestOf(measure, " 2.5 ,5"), "5");
@@ -23,7 +23,7 @@ TEST(LengthMeasure, StandsBareInAnAttribute) {
   EXPECT_EQ(Text(measure), "2.5");
 }
 
-TEST(LengthMeasure, StandsWithItsNameInASelect) {
+TEST(LengthMeasure, HasItsTypeNameInASelect) {
   IfcLengthMeasure measure;
   EXPECT_STREQ(measure.ParseBody("(2.5),5"), "5");
   EXPECT_EQ(NamedText(measure), "IFCLENGTHMEASURE(2.5)");
@@ -32,7 +32,7 @@ TEST(LengthMeasure, StandsWithItsNameInASelect) {
   EXPECT_EQ(NamedText(measure), "IFCLENGTHMEASURE($)");
 }
 
-TEST(LengthMeasure, TakesNumbers) {
+TEST(LengthMeasure, AcceptsNumbers) {
   IfcLengthMeasure measure(1.5);
   measure = 2.5;
   EXPECT_EQ(Text(measure), "2.5");

@@ -34,7 +34,7 @@ TEST(ListOfMembers, ExistsEmpty) {
   EXPECT_EQ(Text(list), "()");
 }
 
-TEST(ListOfMembers, IsUnsetByOmittedValues) {
+TEST(ListOfMembers, BecomesUnsetByOmittedValues) {
   LIST_OF_MEMBERS list;
   list.Parse("(#1)");
   EXPECT_EQ(RestOf(list, "$,5"), "5");
@@ -68,13 +68,13 @@ TEST(ListOfMembers, EndsAtTheEndOfTheStatementIfItIsNotClosed) {
   EXPECT_EQ(Text(list), "()");
 }
 
-TEST(ListOfMembers, EndsAtAnElementThatIsNoReference) {
+TEST(ListOfMembers, EndsAtAnElementThatIsNotAReference) {
   LIST_OF_MEMBERS list;
   EXPECT_EQ(RestOf(list, "(#1,x,#2),5"), "5");
   EXPECT_EQ(Text(list), "(#1)");
 }
 
-TEST(ListOfMembers, DoesNotTakeANestedListApart) {
+TEST(ListOfMembers, DoesNotReadTheElementsOfANestedList) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
   IfcUnitAssignment owner;
@@ -87,7 +87,7 @@ TEST(ListOfMembers, DoesNotTakeANestedListApart) {
   EXPECT_TRUE(list.GetEmpty());
 }
 
-TEST(ListOfMembers, GivesItsOwnerToWhatItReads) {
+TEST(ListOfMembers, SetsItsOwnerInTheReferencesThatItReads) {
   IfcServer server;
   auto* owner = new IfcUnitAssignment;
   auto* point = new IfcCartesianPoint;

@@ -37,7 +37,7 @@ TEST(Logical, WritesEveryOtherValueAsUnknown) {
   EXPECT_EQ(Text(LOGICAL(static_cast<LOGICAL_VALUE>(7))), ".U.");
 }
 
-TEST(Logical, IsUnsetByOmittedValues) {
+TEST(Logical, BecomesUnsetByOmittedValues) {
   LOGICAL value(LOGICAL_TRUE);
   EXPECT_EQ(RestOf(value, "$,5"), "5");
   EXPECT_EQ(Text(value), "$");

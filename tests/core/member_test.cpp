@@ -18,7 +18,7 @@
 namespace KelIFC {
 namespace {
 
-/// A reference of an instance that is in a model of release 2x3.
+/// A reference in an attribute of an instance of a 2x3 model.
 class Member : public testing::Test {
  protected:
   Member() {
@@ -54,7 +54,7 @@ TEST_F(Member, ReadsTheLastNumberOfAStatement) {
   EXPECT_EQ(static_cast<std::size_t>(member), 12U);
 }
 
-TEST_F(Member, SearchesTheCommaBeyondAParenthesis) { EXPECT_EQ(RestOf(member, "#12),#13"), "#13"); }
+TEST_F(Member, FindsACommaAfterAParenthesis) { EXPECT_EQ(RestOf(member, "#12),#13"), "#13"); }
 
 TEST_F(Member, ResolvesANumberThatIsRegisteredLater) {
   member.Parse("#500");
@@ -93,7 +93,7 @@ TEST_F(Member, WidensANegativeNumberWithItsSign) {
   EXPECT_EQ(Text(member), "#18446744073709551615");
 }
 
-TEST_F(Member, IsUnsetByOmittedValues) {
+TEST_F(Member, BecomesUnsetByOmittedValues) {
   for (const char* text : {"$,5", " * ,5"}) {
     member.Parse("#12");
     EXPECT_EQ(RestOf(member, text), "5");
@@ -113,7 +113,7 @@ TEST_F(Member, WorksWithoutOwnerAsAPlainNumber) {
   EXPECT_EQ(Text(number), "#7");
 }
 
-TEST_F(Member, ReadsAValueInPlace) {
+TEST_F(Member, ReadsAnInlineValue) {
   EXPECT_EQ(RestOf(member, " IFCPARAMETERVALUE(0.5),5"), "5");
   EXPECT_TRUE(member.GetExists());
   EXPECT_EQ(static_cast<std::size_t>(member), 0U);
@@ -130,18 +130,18 @@ TEST_F(Member, ReadsTheNumberOfABareValueAsZero) {
   EXPECT_EQ(Text(member), "0.");
 }
 
-TEST_F(Member, KeepsAnUnknownValueInPlaceAsRawText) {
+TEST_F(Member, KeepsAnUnknownInlineValueAsRawText) {
   EXPECT_EQ(RestOf(member, "IFCFOO(1,2),5"), "1,2),5");
   EXPECT_EQ(Text(member), "IFCFOO(1,2");
 }
 
-TEST_F(Member, StaysAtAValueInPlaceThatNoClassKnows) {
+TEST_F(Member, DoesNotMoveAtAnInlineValueOfAnUnknownClass) {
   server.SetRelease(IFC_RELEASE_2X);
   EXPECT_EQ(RestOf(member, " IFCFOO(1),5"), " IFCFOO(1),5");
   EXPECT_FALSE(member.GetExists());
 }
 
-TEST_F(Member, StaysAtAValueInPlaceWithoutOwnerOrModel) {
+TEST_F(Member, DoesNotMoveAtAnInlineValueWithoutOwnerOrModel) {
   MEMBER ownerless;
   EXPECT_EQ(RestOf(ownerless, " IFCPARAMETERVALUE(1)"), " IFCPARAMETERVALUE(1)");
   EXPECT_FALSE(ownerless.GetExists());
@@ -151,12 +151,12 @@ TEST_F(Member, StaysAtAValueInPlaceWithoutOwnerOrModel) {
   EXPECT_FALSE(ofOutside.GetExists());
 }
 
-TEST_F(Member, HoldsNoValueInPlaceInAValueInPlace) {
+TEST_F(Member, HoldsNoInlineValueInAnInlineValue) {
   EXPECT_EQ(RestOf(member, "IFCBOUNDINGBOX(IFCPARAMETERVALUE(3),1.),9"), "(null)");
   EXPECT_EQ(Text(member), "IFCBOUNDINGBOX($,0.,1.,9.");
 }
 
-TEST_F(Member, DestroysAValueInPlaceWithItself) {
+TEST_F(Member, DestroysItsInlineValueWithItself) {
   {
     MEMBER holder;
     holder = new Probe;
@@ -165,7 +165,7 @@ TEST_F(Member, DestroysAValueInPlaceWithItself) {
   EXPECT_EQ(Probe::alive, 0);
 }
 
-TEST_F(Member, DestroysAValueInPlaceWhenItIsReplacedByANumber) {
+TEST_F(Member, DestroysItsInlineValueWhenItIsReplacedByANumber) {
   member = new Probe;
   member = std::size_t{5};
   EXPECT_EQ(Probe::alive, 0);
@@ -175,7 +175,7 @@ TEST_F(Member, DestroysAValueInPlaceWhenItIsReplacedByANumber) {
   EXPECT_EQ(Probe::alive, 0);
 }
 
-TEST_F(Member, GivesAReplacedValueInPlaceBackToTheCaller) {
+TEST_F(Member, ReturnsAReplacedInlineValueToTheCaller) {
   auto* first = new Probe(1);
   member = first;
   member = new Probe(2);
@@ -185,7 +185,7 @@ TEST_F(Member, GivesAReplacedValueInPlaceBackToTheCaller) {
   member = std::size_t{0};
 }
 
-TEST_F(Member, IsADerivedMarkWhenItTakesNull) {
+TEST_F(Member, BecomesADerivedMarkWhenItIsAssignedNull) {
   member = static_cast<IfcUnknown*>(nullptr);
   EXPECT_TRUE(member.GetExists());
   EXPECT_EQ(Text(member), "*");
@@ -216,7 +216,7 @@ TEST_F(Member, BorrowsAnInstanceThatAModelHolds) {
   EXPECT_EQ(Text(member), "*");
 }
 
-TEST_F(Member, GivesWhatItBorrowedBackToNobody) {
+TEST_F(Member, DoesNotDestroyABorrowedInstance) {
   auto* held = new Probe(5);
   server.AddItem(held);
   for (int times = 0; times < 2; ++times) member = held;
@@ -286,7 +286,7 @@ TEST_F(Member, EmbedsNullAsADerivedMark) {
   EXPECT_EQ(Text(member), "*");
 }
 
-TEST_F(Member, MovesAValueInPlaceToACopy) {
+TEST_F(Member, MovesItsInlineValueToACopy) {
   const MEMBER* source = &member;
   member = new Probe(3);
   MEMBER copy(*source);
@@ -307,7 +307,7 @@ TEST_F(Member, DestroysWhatItHeldWhenItIsAssigned) {
   EXPECT_EQ(Text(member), "#4");
 }
 
-TEST_F(Member, TakesTheOwnerOfTheSource) {
+TEST_F(Member, CopiesTheOwnerOfTheSource) {
   MEMBER copy;
   member.Parse("#12");
   copy = member;
@@ -324,13 +324,13 @@ TEST_F(Member, StaysAsItIsWhenAssignedToItself) {
   member = std::size_t{0};
 }
 
-/// An instance that holds a further reference.
+/// An instance that contains another reference.
 class Holder : public Probe {
  public:
   MEMBER inner;
 };
 
-TEST_F(Member, TakesAReferenceOutOfItsOwnValueInPlace) {
+TEST_F(Member, CanBeAssignedAReferenceOfItsOwnInlineValue) {
   auto* holder = new Holder;
   holder->inner = new Probe(8);
   member = holder;
@@ -362,7 +362,7 @@ TEST_F(Member, IsUnsetByAReferenceThatTheModelDoesNotHold) {
   EXPECT_EQ(Text(ofStranger), "$");
 }
 
-TEST_F(Member, LeavesAValueInPlaceAloneWhenItRefers) {
+TEST_F(Member, KeepsItsInlineValueWhenAReferenceIsSet) {
   auto* value = new Probe(9);
   member = value;
   member.SetReference(target);

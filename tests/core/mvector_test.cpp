@@ -42,7 +42,7 @@ TEST(Mvector, CopiesElementByElement) {
   EXPECT_EQ(vector[0], 1);
 }
 
-TEST(Mvector, HasZeroForPointersThatAreNotGiven) {
+TEST(Mvector, FillsWithNullPointersByDefault) {
   Mvector<const int*> vector;
   vector.resize(2);
   EXPECT_EQ(vector[1], nullptr);
@@ -61,7 +61,7 @@ TEST(MvectorDeathTest, EndsTheProcessWhenItIsReadOutOfRange) {
 void Throw(const char* message) { throw std::runtime_error(message); }
 void Return(const char* /*message*/) {}
 
-TEST(InvalidParameter, IsToldToTheHandlerOfTheHost) {
+TEST(InvalidParameter, IsReportedToTheHandlerOfTheHost) {
   EXPECT_EQ(SetInvalidParameterHandler(&Throw), nullptr);
   Mvector<int> vector;
   EXPECT_THROW(static_cast<void>(vector[0]), std::runtime_error);

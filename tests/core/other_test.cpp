@@ -45,7 +45,7 @@ TEST(Other, KeepsNothingWithoutParentheses) {
   EXPECT_EQ(Text(other), "(");
 }
 
-TEST(Other, TakesNullAsAnEmptyName) {
+TEST(Other, TreatsNullAsAnEmptyName) {
   IfcOther other;
   other.SetStepEntityName("IFCFOO");
   other.SetStepEntityName(nullptr);

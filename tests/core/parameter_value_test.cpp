@@ -9,7 +9,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(ParameterValue, ReadsAndWritesItsWholeRecord) {
+TEST(ParameterValue, ReadsAndWritesItsEntireRecord) {
   IfcParameterValue value;
   EXPECT_EQ(RestOf(value, "IFCPARAMETERVALUE(0.5),7"), "7");
   EXPECT_EQ(value, 0.5);

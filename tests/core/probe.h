@@ -8,7 +8,7 @@
 
 namespace KelIFC {
 
-/// An instance that counts how many of its kind are alive, and writes itself as `PROBE(n)`.
+/// An instance that counts the objects of its class and writes itself as `PROBE(n)`.
 class Probe : public IfcUnknown {
  public:
   explicit Probe(int number = 0) : number(number) { ++alive; }

@@ -48,7 +48,7 @@ TEST(Real, ReadsTheLastValueOfARecord) {
   EXPECT_EQ(value, 1.5);
 }
 
-TEST(Real, ReadsTextThatIsNoNumberAsZero) {
+TEST(Real, ReadsNonNumericTextAsZero) {
   REAL value;
   EXPECT_EQ(RestOf(value, "abc,7"), "7");
   EXPECT_TRUE(value.GetExists());
@@ -100,7 +100,7 @@ TEST(Real, WritesByTheToleranceOfTheProcess) {
   SetWriteTolerance(before);
 }
 
-TEST(Real, WritesAPointBehindWholeNumbers) {
+TEST(Real, WritesAPointAfterIntegers) {
   EXPECT_EQ(Text(REAL(100.0)), "100.");
   EXPECT_EQ(Text(REAL(2.0)), "2.");
   EXPECT_EQ(Text(REAL(-0.25)), "-0.25");
@@ -124,7 +124,7 @@ TEST(Real, CarriesInfinity) {
   EXPECT_EQ(back, -std::numeric_limits<double>::infinity());
 }
 
-/// A locale of numbers such as 1.234,5.
+/// A locale that writes numbers such as 1.234,5.
 class CommaPunctuation : public std::numpunct<char> {
  protected:
   char do_decimal_point() const override { return ','; }

@@ -9,7 +9,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(SetOfMembers, WritesParenthesesAlsoIfUnset) {
+TEST(SetOfMembers, WritesParenthesesEvenIfUnset) {
   SET_OF_MEMBERS set;
   EXPECT_EQ(Text(set), "()");
   EXPECT_EQ(RestOf(set, "$,5"), "5");

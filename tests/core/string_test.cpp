@@ -21,7 +21,7 @@ TEST(String, ExistsWhenMadeFromText) {
   EXPECT_EQ(Text(STRING(std::string())), "''");
 }
 
-TEST(String, TakesATextByAssignment) {
+TEST(String, CanBeAssignedAText) {
   STRING text;
   text = "abc";
   EXPECT_TRUE(text.GetExists());
@@ -43,7 +43,7 @@ TEST(String, CopiesTextAndMark) {
   EXPECT_EQ(Text(copy), "$");
 }
 
-TEST(String, ReadsUpToTheCommaBehindTheClosingQuote) {
+TEST(String, ReadsUpToTheCommaAfterTheClosingQuote) {
   STRING text;
   EXPECT_EQ(RestOf(text, " 'a,b' , 'c'"), " 'c'");
   EXPECT_EQ(text, "a,b");
@@ -58,7 +58,7 @@ TEST(String, ReadsAnEscapedQuoteAndWritesItSo) {
   EXPECT_EQ(Text(text), "'it\\'s'");
 }
 
-TEST(String, DropsWhatStandsBehindADoubledQuote) {
+TEST(String, DropsTheTextAfterADoubledQuote) {
   STRING text;
   EXPECT_EQ(RestOf(text, "'a''b',5"), "5");
   EXPECT_EQ(text, "a");
@@ -72,14 +72,14 @@ TEST(String, CarriesAByteAboveAscii) {
   EXPECT_EQ(text, "\xE4");
 }
 
-TEST(String, DoesNotEndAtTheQuoteBehindADirectiveItDoesNotKnow) {
+TEST(String, DoesNotEndAtTheQuoteAfterAnUnknownDirective) {
   STRING text;
   EXPECT_EQ(RestOf(text, "'caf\\X2\\00E9\\X0\\'"), "'caf\\X2\\00E9\\X0\\'");
   EXPECT_FALSE(text.GetExists());
   EXPECT_EQ(text, "caf2\\00E90'");
 }
 
-TEST(String, IsUnsetByOmittedValues) {
+TEST(String, BecomesUnsetByOmittedValues) {
   STRING text(std::string("abc"));
   EXPECT_EQ(RestOf(text, " $ ,5"), "5");
   EXPECT_EQ(Text(text), "$");
@@ -97,7 +97,7 @@ TEST(String, ReadsAnEmptyText) {
   EXPECT_EQ(Text(text), "''");
 }
 
-TEST(String, GivesUpWithoutAClosingQuote) {
+TEST(String, StaysUnsetWithoutAClosingQuote) {
   STRING text;
   EXPECT_EQ(RestOf(text, " 'abc,5"), " 'abc,5");
   EXPECT_FALSE(text.GetExists());

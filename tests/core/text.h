@@ -6,7 +6,7 @@
 
 namespace KelIFC {
 
-/// What a value or an instance writes.
+/// Returns the text that a value or an instance writes.
 template <class Value>
 std::string Text(const Value& value) {
   std::ostringstream out;
@@ -14,7 +14,7 @@ std::string Text(const Value& value) {
   return out.str();
 }
 
-/// What a value writes after it has read `text`.
+/// Returns the text that a value writes after it has parsed `text`.
 template <class Value>
 std::string TextOf(const char* text) {
   Value value;
@@ -22,7 +22,7 @@ std::string TextOf(const char* text) {
   return Text(value);
 }
 
-/// The cursor that a value gives back, as the text from there on; "(null)" for null.
+/// Returns the rest of the text from the cursor that a value returns; "(null)" for null.
 template <class Value>
 std::string RestOf(Value& value, const char* text) {
   const char* rest = value.Parse(text);

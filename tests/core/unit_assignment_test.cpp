@@ -30,7 +30,7 @@ TEST_F(UnitAssignment, ReadsAndWritesItsUnits) {
   EXPECT_EQ(Text(*units), "IFCUNITASSIGNMENT((#1, #2)");
 }
 
-TEST_F(UnitAssignment, GivesAViewAsLongAsItsSet) {
+TEST_F(UnitAssignment, ReturnsAViewAsLongAsItsSet) {
   units->Parse("IFCUNITASSIGNMENT((#1,#2,#99,#1))");
   for (int look = 0; look < 2; ++look) {
     const SET<const IfcUnit*> view = units->GetUnits();
@@ -42,7 +42,7 @@ TEST_F(UnitAssignment, GivesAViewAsLongAsItsSet) {
   }
 }
 
-TEST_F(UnitAssignment, GivesNothingWithoutAModel) {
+TEST_F(UnitAssignment, ReturnsAnEmptySetWithoutAModel) {
   IfcUnitAssignment outside;
   outside.Parse("IFCUNITASSIGNMENT((#1))");
   EXPECT_TRUE(outside.GetUnits().GetEmpty());

@@ -12,7 +12,7 @@
 namespace KelIFC {
 namespace {
 
-/// Has nothing but what the base gives.
+/// Has only the operations of the base class.
 class Plain : public IfcUnknown {
  public:
   const char* Parse(const char* text) override { return IfcUnknown::Parse(text); }
@@ -23,7 +23,7 @@ TEST(Unknown, NamesItselfAsTheBase) {
   EXPECT_STREQ(IfcUnknown::GetItemName(), "IfcUnknown");
 }
 
-TEST(Unknown, ParsesUpToBehindTheFirstParenthesis) {
+TEST(Unknown, ParsesUpToThePositionAfterTheFirstParenthesis) {
   Plain plain;
   EXPECT_EQ(RestOf(plain, " whatever (1,(2))"), "1,(2))");
   EXPECT_EQ(RestOf(plain, "IFCWALL"), "(null)");
@@ -41,7 +41,7 @@ TEST(Unknown, PassesADerivedMark) {
   EXPECT_EQ(plain.ParseDef(nullptr), nullptr);
 }
 
-TEST(Unknown, PassesOnlyBlanksAheadOfAnythingElse) {
+TEST(Unknown, SkipsOnlyBlanksBeforeAnythingElse) {
   Plain plain;
   EXPECT_STREQ(plain.ParseDef("  $,5"), "$,5");
   EXPECT_STREQ(plain.ParseDef(" #1,5"), "#1,5");

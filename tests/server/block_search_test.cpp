@@ -21,7 +21,7 @@ TEST(BlockSearch, FindsTheFirstHitAtEveryDistanceAndAlignment) {
   }
 }
 
-TEST(BlockSearch, GivesTheEndWhereNothingIsFound) {
+TEST(BlockSearch, ReturnsTheEndIfNothingIsFound) {
   const std::string text(100, 'x');
   const char* end = text.data() + 50;
   for (std::size_t start = 0; start <= 50; ++start) {
@@ -29,7 +29,7 @@ TEST(BlockSearch, GivesTheEndWhereNothingIsFound) {
   }
 }
 
-TEST(BlockSearch, TellsApartAllBytes) {
+TEST(BlockSearch, DistinguishesAllBytes) {
   for (int code = 0; code < 256; ++code) {
     const std::string text(20, static_cast<char>(code));
     const char* begin = text.data();
@@ -39,7 +39,7 @@ TEST(BlockSearch, TellsApartAllBytes) {
   }
 }
 
-/// Where a search finds a byte among others, in a block and by itself.
+/// Returns where a search finds a byte among others, in a block and alone.
 template <class... Matchers>
 bool Matches(int code) {
   std::string text(40, 'm');

@@ -60,14 +60,14 @@ TEST(ClassNames, WriteAMergedMeasureUnderTheNameOfItsClass) {
   EXPECT_EQ(out.str(), "IFCLENGTHMEASURE(0.5)");
 }
 
-TEST(ClassNames, GiveNullForAnUnknownNameInTheOlderReleases) {
+TEST(ClassNames, ReturnNullForAnUnknownNameInTheOlderReleases) {
   for (const IFC_RELEASE release :
        {IFC_RELEASE_NONE, IFC_RELEASE_151, IFC_RELEASE_20, IFC_RELEASE_2X}) {
     EXPECT_EQ(Make(release, "IFCFOO"), nullptr);
   }
 }
 
-TEST(ClassNames, GiveAHolderOfTextForAnUnknownNameInTheNewerReleases) {
+TEST(ClassNames, ReturnAnIfcOtherForAnUnknownNameInTheNewerReleases) {
   for (const IFC_RELEASE release : {IFC_RELEASE_2X2, IFC_RELEASE_2X3}) {
     const Instance instance = Make(release, "IfcFoo");
     EXPECT_EQ(NameOf(instance), "IfcUnknown");
@@ -78,14 +78,14 @@ TEST(ClassNames, GiveAHolderOfTextForAnUnknownNameInTheNewerReleases) {
   }
 }
 
-TEST(ClassNames, TakeANameOfAnyLength) {
+TEST(ClassNames, AcceptANameOfAnyLength) {
   const std::string name(100000, 'A');
   const Instance instance = Make(IFC_RELEASE_2X3, (name + "(1)").c_str());
   ASSERT_NE(instance, nullptr);
   EXPECT_TRUE(dynamic_cast<const IfcOther&>(*instance).GetStepEntityName() == name);
 }
 
-// True if a release has a class of its own under a name.
+// Returns true if a release has a class of its own with a name.
 bool Has(IFC_RELEASE release, const char* name) {
   const Instance instance = Make(release, name);
   return instance != nullptr && dynamic_cast<const IfcOther*>(instance.get()) == nullptr;
@@ -110,7 +110,7 @@ TEST(ClassNames, FollowTheRelease) {
   EXPECT_EQ(NameOf(Make(IFC_RELEASE_2X3, "ifcwall")), "IfcWall");
 }
 
-TEST(ClassNames, GiveNullForANullName) {
+TEST(ClassNames, ReturnNullForANullName) {
   IfcServer server;
   EXPECT_EQ(server.InstantiateClass(nullptr), nullptr);
   EXPECT_EQ(server.InstantiateClass151(nullptr), nullptr);
@@ -122,7 +122,7 @@ TEST(ClassNames, GiveNullForANullName) {
   EXPECT_EQ(server.ParseClass(nullptr, nullptr), nullptr);
 }
 
-// Answers each name, and notes which operation was asked.
+// Makes an instance for each name, and records which operation was called.
 class AskedServer : public IfcServer {
  public:
   IfcUnknown* InstantiateClass(const char*) override { return Note("core"); }
@@ -144,7 +144,7 @@ class AllAskedServer : public AskedServer {
   IfcUnknown* InstantiateClass2x3(const char*) override { return Note("2x3"); }
 };
 
-TEST(ClassNames, AskAReplacedCoreTableFirstInEachRelease) {
+TEST(ClassNames, CallAnOverriddenCoreTableFirstInEachRelease) {
   AskedServer server;
   for (const IFC_RELEASE release : kReleases) {
     server.SetRelease(release);
@@ -154,7 +154,7 @@ TEST(ClassNames, AskAReplacedCoreTableFirstInEachRelease) {
   EXPECT_THAT(server.asked, ElementsAre("core", "core", "core", "core", "core"));
 }
 
-TEST(ClassNames, AskTheOperationOfTheRelease) {
+TEST(ClassNames, CallTheOperationOfTheRelease) {
   AllAskedServer server;
   for (const int release : {0, 1, 2, 3, 4, 5, 6, -1}) {
     server.SetRelease(static_cast<IFC_RELEASE>(release));
@@ -173,7 +173,7 @@ TEST(ClassNames, RegisterWhatIsCreated) {
   EXPECT_EQ(server.GetNumberCount(), 1u);
 }
 
-TEST(ParseClass, GivesThePositionBehindTheName) {
+TEST(ParseClass, ReturnsThePositionAfterTheName) {
   IfcServer server;
   const char* text = "  IFCCARTESIANPOINT \t((1.))";
   const char* end = nullptr;
@@ -184,7 +184,7 @@ TEST(ParseClass, GivesThePositionBehindTheName) {
   EXPECT_TRUE(server.GetItems().empty());
 }
 
-TEST(ParseClass, TakesTheWholeTextWithoutAParenthesisBehindAName) {
+TEST(ParseClass, ReadsTheEntireTextAsANameWithoutAParenthesis) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
   for (const std::string text : {"(A(1)B(2))", "IFCFOO ", "#5,'x'", ""}) {
@@ -195,7 +195,7 @@ TEST(ParseClass, TakesTheWholeTextWithoutAParenthesisBehindAName) {
   }
 }
 
-TEST(ParseClass, GivesThePositionAlsoForANameThatIsUnknown) {
+TEST(ParseClass, ReturnsThePositionAlsoForAnUnknownName) {
   IfcServer server;
   const char* text = "IFCFOO(1)";
   const char* end = nullptr;

@@ -29,13 +29,13 @@ TEST(FileOutput, WritesPiecesOfAnySizeInOrder) {
   EXPECT_TRUE(temp.Read() == expected);
 }
 
-TEST(FileOutput, EmptiesTheFileThatIsThere) {
+TEST(FileOutput, EmptiesAnExistingFile) {
   const TempFile temp("old text");
   FileOutput file(temp.GetPath());
   EXPECT_EQ(temp.Read(), "");
 }
 
-TEST(FileOutput, TellsThatAFileCannotBeCreated) {
+TEST(FileOutput, ReportsThatAFileCannotBeCreated) {
   EXPECT_FALSE(FileOutput("/no/such/folder/file.ifc").IsOpen());
   EXPECT_FALSE(FileOutput(testing::TempDir()).IsOpen());
 }
@@ -54,7 +54,7 @@ TEST(FileOutput, WritesNumbersWithoutTheGroupingOfTheProcessLocale) {
   EXPECT_EQ(temp.Read(), "1234567");
 }
 
-TEST(FileOutput, TellsThatAFileCouldNotBeWrittenToItsEnd) {
+TEST(FileOutput, ReportsThatAFileCannotBeWrittenToItsEnd) {
   FileOutput file("/dev/full");
   if (!file.IsOpen()) GTEST_SKIP() << "no full device on this system";
   file.GetStream() << "text";

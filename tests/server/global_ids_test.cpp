@@ -36,7 +36,7 @@ TEST(GlobalIds, BeginWithDigit74ForAllOnes) {
   EXPECT_EQ(Decode(Encode(AllOnes())), AllOnes());
 }
 
-TEST(GlobalIds, LetTheLowByteOfTheFirstFieldLead) {
+TEST(GlobalIds, BeginWithTheLowByteOfTheFirstField) {
   _GUID last = {};
   last.Data4[7] = 1;
   EXPECT_EQ(Encode(last), std::string(19, '0') + "1");
@@ -48,7 +48,7 @@ TEST(GlobalIds, LetTheLowByteOfTheFirstFieldLead) {
   EXPECT_EQ(Encode(highByte)[0], '0');
 }
 
-TEST(GlobalIds, ComeBackFromTheirText) {
+TEST(GlobalIds, AreReadBackFromTheirText) {
   const _GUID guid = {0x01234567, 0x89AB, 0xCDEF, {0x10, 0x32, 0x54, 0x76, 0x98, 0xBA, 0xDC, 0xFE}};
   EXPECT_EQ(Encode(guid), "U8&dFXNbl~Xa/@A+2V?0");
   EXPECT_EQ(Decode(Encode(guid)), guid);
@@ -67,7 +67,7 @@ TEST(GlobalIds, ReadOnlyTheFirstTwentyCharacters) {
   EXPECT_EQ(Decode(text + "x"), AllOnes());
 }
 
-TEST(GlobalIds, LeaveTheResultAloneWhenTheTextIsTooShort) {
+TEST(GlobalIds, DoNotChangeTheResultWhenTheTextIsTooShort) {
   _GUID guid = AllOnes();
   EXPECT_FALSE(IfcServer::DecodeGUID("0000000000000000000", guid));
   EXPECT_FALSE(IfcServer::DecodeGUID("", guid));
@@ -75,13 +75,13 @@ TEST(GlobalIds, LeaveTheResultAloneWhenTheTextIsTooShort) {
   EXPECT_EQ(guid, AllOnes());
 }
 
-TEST(GlobalIds, TakeACharacterOutsideTheAlphabetForZero) {
+TEST(GlobalIds, ReadACharacterOutsideTheAlphabetAsZero) {
   EXPECT_TRUE(IsNullGuid(Decode(std::string(20, ' '))));
   EXPECT_TRUE(IsNullGuid(Decode(std::string(20, '\xE4'))));
 }
 
-TEST(GlobalIds, WrapWhereTheTextExceeds128Bits) {
-  // What twenty of the highest digit mean is 85^20 - 1, of which the lowest 128 bits are left.
+TEST(GlobalIds, WrapIfTheTextExceeds128Bits) {
+  // Twenty of the highest digit are the number 85^20 - 1, of which the lowest 128 bits are kept.
   const _GUID lowBits = {
       0x3C249823, 0x0F5D, 0x0A05, {0x33, 0x85, 0xD8, 0x39, 0x67, 0xE7, 0x31, 0x70}};
   EXPECT_EQ(Decode(std::string(20, '_')), lowBits);

@@ -16,8 +16,8 @@
 
 #include "tests/server/temp_file.h"
 
-// Files that were made to do harm, or to take long. Each loads, is saved, and what comes of it is
-// defined. A cost that grows with the square of the file would make these tests last for hours.
+// Files that were made to do harm, or to take long. Each of them loads and is saved, with a defined
+// result. If a cost grew with the square of the file, these tests would take hours.
 
 namespace KelIFC {
 namespace {
@@ -36,7 +36,7 @@ std::string Repeat(const std::string& text, std::size_t count) {
   return repeated;
 }
 
-/// Reads the statements of a 2x3 file, as a load does in its two passes.
+/// Parses the statements of a 2x3 file, as a load does in its two passes.
 void Scan(IfcServer& server, const std::string& data) {
   for (const bool firstPass : {true, false}) {
     std::istringstream in(kHead + data);
@@ -44,7 +44,7 @@ void Scan(IfcServer& server, const std::string& data) {
   }
 }
 
-/// The instance of a number as a save writes it, up to the last parenthesis.
+/// Returns the instance with a number as a save writes it, up to the last parenthesis.
 std::string TextOf(IfcServer& server, std::size_t number) {
   const IfcUnknown* instance = server.GetItem(number);
   if (instance == nullptr) return "none";
@@ -53,7 +53,7 @@ std::string TextOf(IfcServer& server, std::size_t number) {
   return text.str();
 }
 
-/// Entities with an attribute of each kind, the place of the attribute marked by `@`.
+/// Entities with an attribute of each kind; `@` marks the position of the attribute.
 const char* const kAttributes[] = {
     "IFCCARTESIANPOINT(@)",                         // coordinates
     "IFCDIRECTION((0.,@))",                         // a member of a list of numbers
@@ -61,8 +61,8 @@ const char* const kAttributes[] = {
     "IFCPOLYLINE((#1,@))",                          // a member of a list of references
     "IFCWALL('g',#1,@,$,$,$,$,$)",                  // a text
     "IFCWALL('g',@,'n',$,$,$,$,$)",                 // a reference
-    "IFCPROPERTYSINGLEVALUE('n',$,@,$)",            // a value in place
-    "IFCPROPERTYSINGLEVALUE('n',$,IFCLABEL(@),$)",  // the text in a value in place
+    "IFCPROPERTYSINGLEVALUE('n',$,@,$)",            // an inline value
+    "IFCPROPERTYSINGLEVALUE('n',$,IFCLABEL(@),$)",  // the text in an inline value
     "IFCPROPERTYENUMERATEDVALUE('n',$,(@),$)",      // a list of values
     "IFCTRIMMEDCURVE(#1,(@),(@),.T.,.PARAMETER.)",  // values and references mixed
     "IFCSIUNIT(*,@,.MILLI.,.METRE.)",               // an enumeration
@@ -76,7 +76,8 @@ const char* const kAttributes[] = {
 
 class HostileValue : public testing::TestWithParam<const char*> {
  protected:
-  /// The statement with a value at the place of the attribute; what comes behind it is still read.
+  /// Returns the statement with a value at the position of the attribute. The text after it must
+  /// still be read.
   static void Read(const std::string& value) {
     std::string statement = GetParam();
     for (std::size_t at = statement.find('@'); at != std::string::npos;
@@ -100,7 +101,7 @@ TEST_P(HostileValue, MayBeNestedDeeply) {
   Read(Repeat(")", kMany));
 }
 
-TEST_P(HostileValue, MayBeInPlaceManyTimesOver) {
+TEST_P(HostileValue, MayBeManyNestedInlineValues) {
   Read(Repeat("IFCLABEL(", kMany) + "'x'" + Repeat(")", kMany));
   Read(Repeat("IFCLABEL('x'),", kMany));
   Read(Repeat("IFCWALL(", kMany) + Repeat(")", kMany));
@@ -126,7 +127,7 @@ TEST_P(HostileValue, MayHaveAThousandDigits) {
   }
 }
 
-TEST_P(HostileValue, MayReferToNumbersThatAreNone) {
+TEST_P(HostileValue, MayReferToMissingNumbers) {
   for (const char* reference :
        {"#18446744073709551615", "#18446744073709551616", "#9223372036854775808",
         "#9223372036854775807", "#4294967295", "#4294967296", "#2147483648", "#-1",
@@ -148,7 +149,7 @@ std::string NameOfAttribute(const testing::TestParamInfo<const char*>& info) {
 
 INSTANTIATE_TEST_SUITE_P(Attributes, HostileValue, testing::ValuesIn(kAttributes), NameOfAttribute);
 
-/// Gives each text that comes of another one by one more byte or by one byte that is another.
+/// Calls a function with each text that differs from another text by one added or changed byte.
 void ForEachByteInPlace(const std::string& text,
                         const std::function<void(const std::string&)>& act) {
   for (std::size_t at = 0; at < text.size(); ++at) {
@@ -162,7 +163,7 @@ void ForEachByteInPlace(const std::string& text,
   }
 }
 
-TEST(HostileBytes, MayStandAnywhereInAModel) {
+TEST(HostileBytes, MayBeAnywhereInAModel) {
   const std::string data =
       "#1=IFCWALL('0YvctVUKr0kugbFTf53O9L',#2,'\\X\\E4''s',$,$,#3,$,'t');\n"
       "#3=IFCTRIMMEDCURVE(#7,(IFCPARAMETERVALUE(0.),#7),(#7),.T.,.CARTESIAN.);/* c */\n"
@@ -178,7 +179,7 @@ TEST(HostileBytes, MayStandAnywhereInAModel) {
   });
 }
 
-TEST(HostileBytes, MayStandAnywhereInAHeader) {
+TEST(HostileBytes, MayBeAnywhereInAHeader) {
   const std::string head = "ISO-10303-21;HEADER;FILE_SCHEMA(('IFC2X3'));ENDSEC;DATA;";
   std::size_t read = 0;
   ForEachByteInPlace(head, [&](const std::string& changed) {

@@ -64,7 +64,7 @@ TEST(IfcServer, UsesAFreedNumberAgainOnlyIfItWasTheHighest) {
   EXPECT_EQ(server.AddItem(new Probe), 3u);
 }
 
-TEST(IfcServer, GivesANullInstanceANumberAndASlot) {
+TEST(IfcServer, AssignsANumberAndASlotToANullInstance) {
   IfcServer server;
   EXPECT_EQ(server.AddItem(nullptr), 1u);
   EXPECT_EQ(server.GetItems().size(), 1u);
@@ -72,7 +72,7 @@ TEST(IfcServer, GivesANullInstanceANumberAndASlot) {
   EXPECT_EQ(server.GetNumberCount(), 1u);
 }
 
-TEST(IfcServer, TakesTheLowestFreeNumberWhereTheHighestCannotRise) {
+TEST(IfcServer, UsesTheLowestFreeNumberIfTheHighestCannotRise) {
   IfcServer server;
   server.InsertItem(1, new Probe);
   server.InsertItem(3, new Probe);
@@ -81,7 +81,7 @@ TEST(IfcServer, TakesTheLowestFreeNumberWhereTheHighestCannotRise) {
   EXPECT_EQ(server.AddItem(new Probe), 4u);
 }
 
-TEST(IfcServer, GoesOnBehindANegativeNumberUntilItOverflows) {
+TEST(IfcServer, ContinuesAfterANegativeNumberUntilItOverflows) {
   IfcServer server;
   server.InsertItem(kMinusOne - 1, new Probe);
   EXPECT_EQ(server.AddItem(new Probe), kMinusOne);
@@ -130,7 +130,7 @@ TEST(IfcServer, FindsNothingOfAnotherServer) {
   EXPECT_EQ(server.DeleteItem(probe), 0u);
 }
 
-TEST(IfcServer, GivesTheNumberOfADeletedInstanceOnce) {
+TEST(IfcServer, ReturnsTheNumberOfADeletedInstanceOnce) {
   Probe::Ends ends;
   IfcServer server;
   auto* probe = new Probe("gone", &ends);
@@ -173,7 +173,7 @@ TEST(IfcServer, DestroysInReverseOrderOnReset) {
   EXPECT_EQ(server.AddItem(new Probe), 1u);
 }
 
-TEST(IfcServer, DestroysItsInstancesAtItsEnd) {
+TEST(IfcServer, DestroysItsInstancesInItsDestructor) {
   Probe::Ends ends;
   {
     IfcServer server;
@@ -225,7 +225,7 @@ TEST(IfcServer, FindsNothingThroughTheConstOverload) {
   EXPECT_EQ(std::as_const(server).GetItem(std::size_t{1}), nullptr);
 }
 
-TEST(IfcServer, WalksItsNumbersInRisingOrder) {
+TEST(IfcServer, VisitsItsNumbersInAscendingOrder) {
   IfcServer server;
   for (const std::size_t number : {5, 3, 9}) server.InsertItem(number, new Probe);
   std::vector<std::size_t> numbers;
@@ -235,7 +235,7 @@ TEST(IfcServer, WalksItsNumbersInRisingOrder) {
   EXPECT_THAT(numbers, ElementsAre(3, 5, 9));
 }
 
-TEST(IfcServer, SetsTheToleranceOfTheProcessAndGivesItsOwn) {
+TEST(IfcServer, SetsTheToleranceOfTheProcessAndReturnsItsOwn) {
   IfcServer first, second;
   EXPECT_EQ(first.SetEps(0.25), 0.001);
   EXPECT_EQ(first.GetEps(), 0.25);
@@ -244,7 +244,7 @@ TEST(IfcServer, SetsTheToleranceOfTheProcessAndGivesItsOwn) {
   EXPECT_EQ(first.SetEps(0.001), 0.25);
 }
 
-TEST(IfcServer, CanBeCopiedWhileItHoldsNothing) {
+TEST(IfcServer, CanBeCopiedWhileItIsEmpty) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X);
   server.SetSupportsFillings(true);
@@ -269,7 +269,7 @@ TEST(IfcServer, OrdersIdentifiersByNumbersAndThenByUnsignedBytes) {
   EXPECT_TRUE(less({1, 1, 1, {0, 0x7F}}, {1, 1, 1, {0, 0x80}}));
 }
 
-TEST(IfcServer, NotesThePositionsOfProducts) {
+TEST(IfcServer, RecordsThePositionsOfProducts) {
   IfcServer server;
   server.AddItem(new Probe);
   auto* const window = new KelIFC2x3::IfcWindow;

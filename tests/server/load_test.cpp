@@ -60,20 +60,20 @@ TEST(Load, ReadsInstancesUnderTheNumbersOfTheFile) {
   EXPECT_EQ(server.GetFileSchema(), "IFC2X3");
 }
 
-TEST(Load, GivesOneForAFileThatCannotBeOpened) {
+TEST(Load, ReturnsOneForAFileThatCannotBeOpened) {
   IfcServer server;
   EXPECT_EQ(server.LoadIfcFile("/no/such/file.ifc"), 1);
   EXPECT_EQ(server.LoadIfcFile(""), 1);
   EXPECT_EQ(server.LoadIfcFile(nullptr), 1);
 }
 
-TEST(Load, GivesOneForAPathThatIsNoOrdinaryFile) {
+TEST(Load, ReturnsOneForAPathThatIsNotAnOrdinaryFile) {
   IfcServer server;
   EXPECT_EQ(server.LoadIfcFile(testing::TempDir().c_str()), 1);
   EXPECT_EQ(server.LoadIfcFile("/dev/null"), 1);
 }
 
-TEST(Load, GivesTwoUnlessTheFirstStatementIsTheHead) {
+TEST(Load, ReturnsTwoUnlessTheFirstStatementIsTheHead) {
   IfcServer server;
   EXPECT_EQ(Load(server, ""), 2);
   EXPECT_EQ(Load(server, "ISO-10303-21"), 2);
@@ -83,7 +83,7 @@ TEST(Load, GivesTwoUnlessTheFirstStatementIsTheHead) {
   EXPECT_EQ(Load(server, "\xEF\xBB\xBFISO-10303-21;FILE_SCHEMA(('IFC2X3'));"), 2);
 }
 
-TEST(Load, GivesUpSoonOnAFileWithoutStatements) {
+TEST(Load, StopsEarlyInAFileWithoutStatements) {
   IfcServer server;
   std::uint64_t bytes = 0;
   server.SetProgressHandler([&bytes](std::uint64_t done, std::uint64_t) {
@@ -94,18 +94,18 @@ TEST(Load, GivesUpSoonOnAFileWithoutStatements) {
   EXPECT_EQ(bytes, 0u);
 }
 
-TEST(Load, TakesTheHeadInAnyCaseAndWithMoreBehindIt) {
+TEST(Load, AcceptsTheHeadInAnyCaseAndWithMoreTextAfterIt) {
   IfcServer server;
   EXPECT_EQ(Load(server, "iso-10303-21;FILE_SCHEMA(('IFC2X3'));"), 0);
   EXPECT_EQ(Load(server, "ISO-10303-21 and more;FILE_SCHEMA(('IFC2X3'));"), 0);
 }
 
-TEST(Load, PassesOverACommentInTheFirstLine) {
+TEST(Load, SkipsACommentInTheFirstLine) {
   IfcServer server;
   EXPECT_EQ(Load(server, "/* a model */\nISO-10303-21;FILE_SCHEMA(('IFC2X3'));"), 0);
 }
 
-TEST(Load, GivesThreeForAFileWhoseSchemaIsUnknown) {
+TEST(Load, ReturnsThreeForAFileWithAnUnknownSchema) {
   for (const char* schema : {"IFC4", "ifc2x3", ""}) {
     IfcServer server;
     EXPECT_EQ(Load(server, std::string("ISO-10303-21;FILE_SCHEMA(('") + schema +
@@ -116,7 +116,7 @@ TEST(Load, GivesThreeForAFileWhoseSchemaIsUnknown) {
   }
 }
 
-TEST(Load, GivesThreeForAFileWithoutSchema) {
+TEST(Load, ReturnsThreeForAFileWithoutSchema) {
   IfcServer server;
   EXPECT_EQ(Load(server, "ISO-10303-21;DATA;#1=IFCCARTESIANPOINT((1.));ENDSEC;"), 3);
   EXPECT_EQ(server.GetFileSchema(), "");
@@ -181,13 +181,13 @@ TEST(Load, ReadsLinesThatEndAsOnOtherSystems) {
   EXPECT_EQ(RecordAt(server, 1), "IFCFOO('a\nb'");
 }
 
-TEST(Load, LosesInstancesAheadOfTheSchema) {
+TEST(Load, LosesInstancesBeforeTheSchema) {
   IfcServer server;
   EXPECT_EQ(Load(server, "ISO-10303-21;#1=IFCFOO(1);FILE_SCHEMA(('IFC2X3'));#2=IFCFOO(2);"), 0);
   EXPECT_THAT(NumbersOf(server), ElementsAre(2));
 }
 
-TEST(Load, TakesNoSchemaFromTheDataSection) {
+TEST(Load, IgnoresASchemaInTheDataSection) {
   IfcServer server;
   EXPECT_EQ(Load(server, std::string(kHead2x3) + "FILE_SCHEMA(('IFC151'));#1=IFCFOO(1);"), 0);
   EXPECT_EQ(server.GetRelease(), IFC_RELEASE_2X3);
@@ -195,7 +195,7 @@ TEST(Load, TakesNoSchemaFromTheDataSection) {
   EXPECT_THAT(NumbersOf(server), ElementsAre(1));
 }
 
-TEST(Load, PassesOverAnAssignmentInAHeaderText) {
+TEST(Load, SkipsAnAssignmentInAHeaderText) {
   IfcServer server;
   EXPECT_EQ(Load(server,
                  "ISO-10303-21;FILE_DESCRIPTION(('#1=x'),'2;1');FILE_SCHEMA(('IFC2X3'));"
@@ -221,7 +221,7 @@ TEST(Load, DropsAnUnknownEntityInTheOlderReleases) {
   }
 }
 
-TEST(Load, TakesAnInstanceOfManyTypesForOneUnknownName) {
+TEST(Load, ReadsAnInstanceOfManyTypesAsOneUnknownName) {
   IfcServer server;
   Load(server, std::string(kHead2x3) + "#5=(IFCA(1)IFCB(2));");
   ASSERT_NE(OtherAt(server, 5), nullptr);
@@ -231,14 +231,14 @@ TEST(Load, TakesAnInstanceOfManyTypesForOneUnknownName) {
   EXPECT_EQ(server.GetNumberCount(), 0u);
 }
 
-TEST(Load, TakesANumberWithoutEntityForAnUnknownName) {
+TEST(Load, ReadsANumberWithoutEntityAsAnUnknownName) {
   IfcServer server;
   Load(server, std::string(kHead2x3) + "#1=;");
   ASSERT_NE(OtherAt(server, 1), nullptr);
   EXPECT_EQ(RecordAt(server, 1), "(");
 }
 
-TEST(Load, DropsWhatIsNoInstance) {
+TEST(Load, DropsStatementsThatAreNotInstances) {
   IfcServer server;
   Load(server, std::string(kHead2x3) +
                    "IFCFOO(1);#1 IFCFOO(1);1=IFCFOO(1);=IFCFOO(1);#=IFCFOO(1);"
@@ -246,7 +246,7 @@ TEST(Load, DropsWhatIsNoInstance) {
   EXPECT_TRUE(server.GetItems().empty());
 }
 
-/// Notes, while it is read, the number that its server finds it under.
+/// Records, while it is parsed, the number that its server finds for it.
 class SelfFinder : public Probe {
  public:
   explicit SelfFinder(std::vector<std::size_t>& list) : found(list) {}
@@ -279,12 +279,12 @@ TEST(Load, LetsAnInstanceFindItsNumberWhileItIsRead) {
   Load(server, std::string(kHead2x3) +
                    "#5=IFCSELF();#3=IFCSELF(ADD);#9=IFCSELF(AGAIN);#8=IFCSELF(TAKE);#1=IFCSELF();"
                    "#1=IFCSELF();");
-  // The first of two slots counts; a number that is taken is lost; and of two statements with one
-  // number the later one is read twice.
+  // The first of two slots counts, and a number that was reassigned is lost. If two statements have
+  // the same number, the later instance parses both.
   EXPECT_THAT(server.found, ElementsAre(5, 3, 9, 8, 0, 1, 1));
 }
 
-TEST(Load, GivesANumberThatStandsTwiceToTheLaterInstance) {
+TEST(Load, AssignsARepeatedNumberToTheLaterInstance) {
   IfcServer server;
   Load(server, std::string(kHead2x3) +
                    "#1=IFCCARTESIANPOINT((1.));#1=IFCFOO(1);#1=IFCFOO(2);#2=IFCFOO(3);");
@@ -317,7 +317,7 @@ TEST(Load, SpreadsFarApartNumbersWithoutHarm) {
   EXPECT_EQ(server.GetNumberCount(), 1999u);
 }
 
-// An instance that registers another one while it is read.
+// An instance that registers another one while it is parsed.
 class Adder : public Probe {
  public:
   const char* Parse(const char*) override {
@@ -341,7 +341,7 @@ TEST(Load, NumbersWhatItAddsAboveAllStatementsOfTheFile) {
   EXPECT_EQ(server.AddItem(new Probe), 903u);
 }
 
-TEST(Load, NumbersWhatItAddsAboveStatementsAheadOfTheSchema) {
+TEST(Load, NumbersWhatItAddsAboveStatementsBeforeTheSchema) {
   AdderServer server;
   Load(server, "ISO-10303-21;#40=X();FILE_SCHEMA(('IFC2X3'));#3=ADDER();");
   EXPECT_THAT(NumbersOf(server), ElementsAre(3, 41));
@@ -353,7 +353,7 @@ TEST(Load, NumbersWhatItAddsBesideANumberWithoutSuccessor) {
   EXPECT_THAT(NumbersOf(server), ElementsAre(3, 71, 72, 0xFFFFFFFFFFFFFFFF));
 }
 
-TEST(Load, ForgetsTheNumbersOfAFileAtItsEnd) {
+TEST(Load, ForgetsTheNumbersOfAFileAfterTheLoad) {
   IfcServer server;
   Load(server, std::string(kHead2x) + "#3=IFCCARTESIANPOINT((1.));#900=IFCDROPPED(1);");
   EXPECT_EQ(server.AddItem(new Probe), 4u);
@@ -368,7 +368,7 @@ std::string LongModel() {
   return text + kEnd;
 }
 
-TEST(Load, TellsHowFarItIsOverBothPasses) {
+TEST(Load, ReportsItsProgressOverBothPasses) {
   const std::string text = LongModel();
   std::vector<std::uint64_t> steps;
   IfcServer server;
@@ -383,7 +383,7 @@ TEST(Load, TellsHowFarItIsOverBothPasses) {
   EXPECT_EQ(steps.back(), 2 * text.size());
 }
 
-TEST(Load, StopsWhenTheHostSaysSoAndLeavesNothing) {
+TEST(Load, StopsOnRequestOfTheHostWithAnEmptyModel) {
   const std::string text = LongModel();
   for (const std::uint64_t limit : {std::uint64_t{0}, static_cast<std::uint64_t>(text.size())}) {
     IfcServer server;
@@ -412,7 +412,7 @@ TEST(Load, FindsTheFirstObjectWithAGlobalIdentifier) {
   EXPECT_EQ(server.GetItem(guid), nullptr);
 }
 
-TEST(Load, ReplacesAGlobalIdentifierThatIsNone) {
+TEST(Load, ReplacesAnInvalidGlobalIdentifier) {
   IfcServer server;
   Load(server, std::string(kHead2x3) + "#1=IFCPROJECT('12345678901234567890',$,$,$,$,$,$,$,$);");
   const std::string record = RecordAt(server, 1);

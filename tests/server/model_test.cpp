@@ -9,7 +9,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(Model, AnswersNothingWithoutAServer) {
+TEST(Model, ReturnsNullWithoutAServer) {
   EXPECT_EQ(FindInstance(nullptr, 1), nullptr);
   EXPECT_EQ(FindNumber(nullptr, nullptr), 0u);
   const char* end = nullptr;
@@ -18,7 +18,7 @@ TEST(Model, AnswersNothingWithoutAServer) {
   EXPECT_EQ(AddInstance(nullptr, &probe), 0u);
 }
 
-TEST(Model, AsksTheOperationsOfTheServer) {
+TEST(Model, CallsTheOperationsOfTheServer) {
   IfcServer server;
   auto* probe = new Probe;
   EXPECT_EQ(AddInstance(&server, probe), 1u);

@@ -43,7 +43,7 @@ TEST(NameTable, FoldsNothingButAsciiLetters) {
             nullptr);
 }
 
-TEST(NameTable, RefusesANameOfAnyLength) {
+TEST(NameTable, RejectsANameOfAnyLength) {
   EXPECT_EQ(kTable.Find(std::string(1000000, 'A').c_str()), nullptr);
 }
 

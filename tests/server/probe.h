@@ -10,7 +10,7 @@
 
 namespace KelIFC {
 
-/// An instance that notes its end, by name, in a list.
+/// An instance that adds its name to a list when it is destroyed.
 class Probe : public IfcUnknown {
  public:
   using Ends = std::vector<std::string>;

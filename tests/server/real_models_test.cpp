@@ -24,7 +24,7 @@ TEST(RealModels, KeepTheirNumbersThroughASave) {
     IfcServer again;
     ASSERT_EQ(again.LoadIfcFile(saved.GetPath()), 0);
     EXPECT_EQ(again.GetRelease(), server.GetRelease());
-    // The numbers of the first are among those of the second: reading may add instances.
+    // The second model has all numbers of the first, and can have more: parsing can add instances.
     for (std::size_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) {
       ASSERT_EQ(again.GetNextNumber(n - 1), n);
     }

@@ -11,7 +11,8 @@
 namespace KelIFC {
 namespace {
 
-// The registry as it is told: a list of slots and an ordered map, searched from the start.
+// The registry by its plain definition: a list of slots and an ordered map, searched from the
+// start.
 class PlainRegistry {
  public:
   std::size_t AddItem(const IfcUnknown* item) {
@@ -64,7 +65,8 @@ class PlainRegistry {
   }
 };
 
-// Does the same random things to a server and to the plain registry and compares each answer.
+// Applies the same random operations to a server and to the plain registry, and compares each
+// result.
 class Comparison {
  public:
   explicit Comparison(unsigned seed) : random(seed) {}
@@ -111,7 +113,7 @@ class Comparison {
                                      : server.GetItems()[random() % server.GetItems().size()];
   }
 
-  // An instance that is there, one that is gone, one that never was, or null.
+  // An instance that is registered, one that was destroyed, one that never existed, or null.
   const IfcUnknown* AnyInstance() {
     static const Probe kStranger;
     if (random() % 16 == 0) return &kStranger;
@@ -155,7 +157,7 @@ class Comparison {
   std::vector<const IfcUnknown*> known = {nullptr};
 };
 
-TEST(Registry, AnswersAsASearchFromTheStartDoes) {
+TEST(Registry, ReturnsTheSameAsALinearSearch) {
   for (unsigned seed = 0; seed < 60 && !testing::Test::HasFatalFailure(); ++seed) {
     Comparison comparison(seed);
     for (int step = 0; step < 600 && !testing::Test::HasFatalFailure(); ++step) comparison.Step();

@@ -29,7 +29,7 @@ std::string Save(IfcServer& server) {
   return file.Read();
 }
 
-// What stands between DATA and ENDSEC.
+// Returns the text between DATA and ENDSEC.
 std::string SaveData(IfcServer& server) {
   const std::string text = Save(server);
   const std::size_t begin = text.find("DATA;\n") + 6;
@@ -98,7 +98,7 @@ TEST(Save, WritesTheLongerSchemaStringAsTheShorterOne) {
   EXPECT_THAT(Save(server), HasSubstr("FILE_SCHEMA(('IFC2X3'));"));
 }
 
-TEST(Save, KeepsTheNumbersAndWritesThemInRisingOrder) {
+TEST(Save, KeepsTheNumbersAndWritesThemInAscendingOrder) {
   IfcServer server;
   server.LoadIfcFile(TempFile("ISO-10303-21;FILE_SCHEMA(('IFC2X3'));"
                               "#5=IFCCARTESIANPOINT((5.));#3=ifcfoo('a''b',#9);#9=IFCFOO();")
@@ -133,7 +133,7 @@ TEST(Save, WritesManyNumbersInNoOrder) {
   EXPECT_EQ(SaveData(server), expected);
 }
 
-TEST(Save, PassesOverAnInstanceThatGoesWhileAnEarlierOneIsWritten) {
+TEST(Save, SkipsAnInstanceThatIsDeletedWhileAnEarlierOneIsWritten) {
   class Remover : public Probe {
    public:
     std::ostream& Write(std::ostream& out) const override {
@@ -167,7 +167,7 @@ TEST(Save, LeavesAGapForADeletedInstanceAndKeepsReferencesToIt) {
   EXPECT_EQ(SaveData(server), "#1=IFCBOUNDINGBOX(#2,1.,1.,1.);\n");
 }
 
-TEST(Save, PassesOverNullEntriesAndInstancesWithoutNumber) {
+TEST(Save, SkipsNullEntriesAndInstancesWithoutNumber) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
   server.InsertItem(1, new Probe("earlier"));
@@ -198,7 +198,7 @@ TEST(Save, ReadsBackWhatItWrote) {
   EXPECT_EQ(again.GetNumberCount(), 3u);
 }
 
-TEST(Save, TakesTheLastComponentOfThePathForTheName) {
+TEST(Save, WritesTheLastComponentOfThePathAsTheName) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
 #ifdef _WIN32  // elsewhere the backslash is a character of the name
@@ -212,7 +212,7 @@ TEST(Save, TakesTheLastComponentOfThePathForTheName) {
   EXPECT_THAT(text, HasSubstr("FILE_NAME('it's.ifc','"));
 }
 
-TEST(Save, GivesOneWithoutAReleaseAndLeavesTheFileAlone) {
+TEST(Save, ReturnsOneWithoutAReleaseAndDoesNotChangeTheFile) {
   IfcServer server;
   std::string told;
   server.SetErrorHandler([&told](const std::string& message) { told = message; });
@@ -222,7 +222,7 @@ TEST(Save, GivesOneWithoutAReleaseAndLeavesTheFileAlone) {
   EXPECT_THAT(told, StartsWith(file.GetPath()));
 }
 
-TEST(Save, GivesOneAndTellsTheHostIfTheFileCannotBeCreated) {
+TEST(Save, ReturnsOneAndReportsToTheHostIfTheFileCannotBeCreated) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
   std::vector<std::string> told;
@@ -236,7 +236,7 @@ TEST(Save, GivesOneAndTellsTheHostIfTheFileCannotBeCreated) {
   EXPECT_THAT(told[1], StartsWith(testing::TempDir() + ": "));
 }
 
-TEST(Save, TellsTheStandardErrorStreamIfTheHostHasNoHandler) {
+TEST(Save, ReportsToTheStandardErrorStreamIfTheHostHasNoHandler) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
   testing::internal::CaptureStderr();
@@ -246,7 +246,7 @@ TEST(Save, TellsTheStandardErrorStreamIfTheHostHasNoHandler) {
   EXPECT_EQ(line.find('\n'), line.size() - 1);
 }
 
-TEST(Save, TellsThatAFileCouldNotBeWrittenToItsEnd) {
+TEST(Save, ReportsThatAFileCannotBeWrittenToItsEnd) {
   if (!std::ofstream("/dev/full").is_open()) GTEST_SKIP() << "no full device on this system";
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
@@ -256,7 +256,7 @@ TEST(Save, TellsThatAFileCouldNotBeWrittenToItsEnd) {
   EXPECT_EQ(told, "/dev/full: the file could not be written to its end: No space left on device");
 }
 
-TEST(Save, TellsThatTheFileWasTakenAwayWhileItWasWritten) {
+TEST(Save, ReportsThatTheFileWasRemovedWhileItWasWritten) {
   class Thief : public Probe {
    public:
     explicit Thief(const char* file) : path(file) {}
@@ -282,7 +282,7 @@ TEST(Save, TellsThatTheFileWasTakenAwayWhileItWasWritten) {
 #endif
 }
 
-TEST(Save, IsFreeOfTheProcessLocale) {
+TEST(Save, IgnoresTheProcessLocale) {
   struct Grouping : std::numpunct<char> {
     char do_decimal_point() const override { return ','; }
     char do_thousands_sep() const override { return '.'; }

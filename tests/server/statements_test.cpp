@@ -19,7 +19,7 @@ std::int16_t Parse(IfcServer& server, std::string statement) {
   return ParseStatement(&server, statement.data());
 }
 
-TEST(Statements, AreRefusedUntilTheHeadWasSeen) {
+TEST(Statements, AreRejectedUntilTheHeadWasRead) {
   IfcServer server;
   EXPECT_EQ(Register(server, "HEADER"), 1);
   EXPECT_EQ(Register(server, ""), 1);
@@ -83,7 +83,7 @@ TEST(ScanFile, RunsBothPassesOverAStream) {
   EXPECT_EQ(out.str(), "IFCFOO(1");
 }
 
-TEST(ScanFile, StopsWhereAStatementIsRefused) {
+TEST(ScanFile, StopsAtARejectedStatement) {
   IfcServer server;
   std::istringstream in("HEADER;ISO-10303-21;FILE_SCHEMA(('IFC2X3'));");
   ScanFile(in, &server, true);

@@ -11,7 +11,8 @@
 
 namespace KelIFC {
 
-/// A file of the running test, gone at its end. Tests may run side by side: the name is theirs.
+/// A temporary file of the running test, which is removed at its end. Tests can run in parallel, so
+/// the name contains that of the test.
 class TempFile {
  public:
   TempFile() : path(MakePath()) {}
@@ -24,7 +25,7 @@ class TempFile {
 
   const char* GetPath() const { return path.c_str(); }
 
-  /// What the file holds, with plain line ends.
+  /// Returns the contents of the file, with plain line ends.
   std::string Read() const {
     std::ifstream file(path);
     return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};

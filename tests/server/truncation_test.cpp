@@ -15,7 +15,7 @@ namespace {
 
 constexpr std::uintmax_t kLargestFile = std::uintmax_t{20} * 1024;
 
-// Cuts the text at every byte, from its end, and loads what is left.
+// Truncates the text at every byte, from its end, and loads the rest.
 void LoadAllCuts(const std::string& text) {
   const TempFile file(text);
   IfcServer server;

@@ -42,6 +42,16 @@ Expect "compatible", model.IsCompatible("25.0.1"), True
 Expect "not compatible", model.IsCompatible("26.0.1"), False
 Expect "code", model.Columns(1).ObjectCode, 4
 
+' The same object has the options and the report of a load.
+server.Dialect = 1
+Expect "dialect", server.Dialect, 1
+server.MaxInstances = 1000000
+server.Load WScript.Arguments(0)
+Expect "load result", server.LoadResult, 0
+Expect "statements", server.ReportCount("statements") > 0, True
+Expect "check", server.CheckModel, True
+Expect "report", Left(server.ReportJson, 14), "{""statements"":"
+
 ' A name is changed in the object, never in the model.
 model.Columns(1).Name = "renamed"
 Expect "new name", model.Columns(1).Name, "renamed"

@@ -8,7 +8,6 @@
 #include "tools/kelifc/json.h"
 #include "tools/kelifc/model_file.h"
 #include "tools/kelifc/output.h"
-#include "tools/kelifc/report_format.h"
 #include "tools/kelifc/text_table.h"
 
 namespace command {
@@ -68,7 +67,7 @@ std::string InfoJson(const Info& info) {
   Json object = {
       {"file", info.file},           {"release", info.release},         {"schema", info.schema},
       {"instances", info.instances}, {"entities", Json(info.entities)}, {"raw", Json(info.raw)}};
-  if (info.report) object["report"] = ReportJson(*info.report);
+  if (info.report) object["report"] = Json::parse(KelIFC::FormatReportAsJson(*info.report));
   return ToText(object);
 }
 
@@ -85,7 +84,8 @@ std::string InfoText(const Info& info) {
   head.Add({"Schema", info.schema});
   head.Add({"Instances", std::to_string(info.instances)});
   return head.ToText() + CountTable("Entity", info.entities) +
-         CountTable("Kept as raw text", info.raw) + (info.report ? ReportText(*info.report) : "");
+         CountTable("Kept as raw text", info.raw) +
+         (info.report ? "\n" + KelIFC::FormatReport(*info.report) : "");
 }
 
 }  // namespace

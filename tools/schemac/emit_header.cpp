@@ -261,7 +261,8 @@ class HeaderEmitter {
 
   void EmitField(const Attribute& attribute) {
     std::string comment = attribute.reason;
-    if (comment.empty() && attribute.isInverse) comment = "inverse, filled by relationships";
+    if (comment.empty() && attribute.isInverse)
+      comment = "inverse: setters of other instances never fill it";
     if (!comment.empty()) out.Doc("  ", comment);
     out.Line("  " + StoredType(attribute, model.release) + " " + MemberName(attribute.name) +
              FieldInitializer(model, attribute) + ";");

@@ -33,7 +33,8 @@ constexpr SetterForm kLargeSetter = {"const @stored@& value", "Sets @Name@.", "@
 constexpr SetterForm kReferenceSetter = {
     "@const@@target@* item",
     "Refers @Name@ to an instance of the model; null or one that the model does not hold makes it "
-    "unset.",
+    "unset. An inline value that was read from a file stays: a save writes the new reference, but "
+    "the getter still returns the inline value.",
     "@member@.SetReference(UnknownOf(item));"};
 constexpr SetterForm kInlineSetter = {
     "@target@* item",

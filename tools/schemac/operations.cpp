@@ -10,6 +10,9 @@ namespace schemac {
 
 namespace {
 
+/// Follows the comment of a getter of an inverse attribute.
+constexpr std::string_view kInverseDoc = " Inverse: setters of other instances never fill it.";
+
 bool StartsWith(std::string_view text, std::string_view head) {
   return text.substr(0, head.size()) == head;
 }
@@ -174,6 +177,7 @@ class OperationWriter {
     ResolvedOperation resolved = GetterOf(operation, words);
     resolved.isConst = isConst;
     resolved.doc = Fill(form.doc, words);
+    if (attribute->isInverse) resolved.doc += kInverseDoc;
     words["class"] = type.entity->name;
     if (form.usesInner && isConst && HasInnerGetter()) {
       resolved.body = {Fill("return const_cast<@class@*>(this)->_Get@Name@();", words)};

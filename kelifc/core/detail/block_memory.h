@@ -7,11 +7,11 @@
 
 namespace KelIFC::detail {
 
-/// Memory of instances and of their aggregates: `size` bytes, aligned for any type. Throws
-/// std::bad_alloc. FreeBlock takes it back.
+/// Allocates memory for an instance or an aggregate: `size` bytes, aligned for any type. Throws
+/// std::bad_alloc. Free it with FreeBlock.
 [[nodiscard]] KELIFC_API void* AllocateBlock(std::size_t size);
 
-/// Gives a block back, from any thread. Null is ignored.
+/// Frees a block; any thread can call it. Null is ignored.
 KELIFC_API void FreeBlock(void* block) noexcept;
 
 }  // namespace KelIFC::detail

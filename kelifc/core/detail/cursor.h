@@ -3,23 +3,23 @@
 
 #include <cstring>
 
-// How attribute text is walked. All reading goes over one statement that ends with a NUL: each
-// value takes a cursor and gives back the cursor behind the next comma, or null when no comma
-// follows. A null cursor is accepted everywhere and leaves a value unset.
+// How the text of attributes is parsed. The text is one statement and ends with a NUL. Each value
+// receives a cursor and returns the cursor after the next comma, or null if no comma follows. Every
+// value accepts a null cursor, which leaves it unset.
 
 namespace KelIFC::detail {
 
-/// White space as the classic locale knows it.
+/// Returns true for white space of the classic locale.
 inline bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
-/// The first position at or behind `text` that is not white space.
+/// Returns the first position, from `text` on, that is not white space.
 inline const char* SkipBlanks(const char* text) {
   while (IsBlank(*text)) ++text;
   return text;
 }
 
-/// The position behind the first comma at or behind `text`, or null if there is none. A plain scan:
-/// it knows nothing of parentheses or quotes. Null gives null.
+/// Returns the position after the first comma, from `text` on, or null if there is none.
+/// Parentheses and quotes have no meaning here. Null returns null.
 inline const char* BehindNextComma(const char* text) {
   if (text == nullptr) return nullptr;
   if (*text == ',') return text + 1;
@@ -28,8 +28,8 @@ inline const char* BehindNextComma(const char* text) {
   return comma == nullptr ? nullptr : comma + 1;
 }
 
-/// The test at the head of every value: does `$` or `*` stand here? If so, `next` is the position
-/// behind the next comma, or null, and the answer is true. If not, `next` is `text`.
+/// The first test of every value: returns true if the text begins, after white space, with `$` or
+/// `*`. Then `next` is the position after the next comma, or null. Otherwise `next` is `text`.
 inline bool SkipOmittedValue(const char*& next, const char* text) {
   next = text;
   if (text == nullptr) return false;

@@ -6,7 +6,7 @@ namespace KelIFC::detail {
 
 namespace {
 
-// Every step can be undone, so distinct keys stay distinct ahead of the mask.
+// Every step is reversible, so distinct keys stay distinct until the mask is applied.
 std::uint64_t Mix(std::uint64_t key) {
   key ^= key >> 33;
   key *= 0xFF51'AFD7'ED55'8CCD;

@@ -9,10 +9,10 @@
 
 namespace KelIFC::detail {
 
-/// Finds the first element with a key in a long set. It holds positions alone, eight bytes or fewer
-/// per element in the long run; the keys stay in the elements and are asked for through `keyAt`, a
-/// function from a position, counted from 0, to a key. It knows the first GetCount() elements: the
-/// set that owns it drops it when one of them may have changed.
+/// Finds the first element with a key in a large set. The index stores only positions, in at most
+/// eight bytes per element on average. The elements hold the keys, and `keyAt` is a function from a
+/// position, counted from 0, to a key. The index contains the first GetCount() elements. The set
+/// that owns the index drops it when one of these elements may have changed.
 class PositionIndex {
  public:
   static constexpr std::uint32_t kNotFound = ~std::uint32_t{0};
@@ -23,14 +23,14 @@ class PositionIndex {
     mask = count = 0;
   }
 
-  /// The position of the first element with this key among those that are known, or kNotFound.
+  /// Returns the position of the first element of the index with this key, or kNotFound.
   template <class KeyAt>
   std::uint32_t Find(std::size_t key, KeyAt keyAt) const {
     if (slots == nullptr) return kNotFound;
     return slots[FindSlot(key, keyAt)];
   }
 
-  /// Takes notice of the element at position GetCount().
+  /// Adds the element at position GetCount() to the index.
   template <class KeyAt>
   void Add(KeyAt keyAt) {
     if (2 * (count + std::size_t{1}) > std::size_t{mask} + 1) Grow(keyAt);
@@ -62,12 +62,12 @@ class PositionIndex {
     for (std::uint32_t i = 0; i < count; ++i) Place(i, keyAt);
   }
 
-  /// Spreads keys over the slots, differently in each process, so that no file can be made to
-  /// crowd them.
+  /// Maps keys to slots. The mapping differs in each process, so that no file can be written to
+  /// cause collisions on purpose.
   KELIFC_API static std::size_t HashKey(std::size_t key);
 
   std::unique_ptr<std::uint32_t[]> slots;
-  std::uint32_t mask = 0;  // the number of slots, a power of two, less 1
+  std::uint32_t mask = 0;  // number of slots, a power of two, minus 1
   std::uint32_t count = 0;
 };
 

@@ -5,17 +5,16 @@
 
 namespace KelIFC::detail {
 
-/// Asks for the memory at `address`, which is needed soon. The address need not be valid. A hint:
-/// where the compiler has no such thing, nothing happens.
+/// Prefetches the memory at `address`, which need not be valid. This is a hint only: with a
+/// compiler that has no such operation, it does nothing.
 inline void Prefetch([[maybe_unused]] const void* address) {
 #if defined(__GNUC__)
   __builtin_prefetch(address);
 #endif
 }
 
-/// The same for an object of which only the begin is known: for its first `size` bytes. Most
-/// instances have no more than 128, those with many attributes twice as many and more. Null asks
-/// for nothing.
+/// Prefetches the first `size` bytes of an object. Most instances have no more than 128 bytes;
+/// instances with many attributes have 256 bytes or more. Null is ignored.
 inline void PrefetchInstance(const void* address, std::size_t size = 128) {
   constexpr std::size_t kLine = 64;
   if (address == nullptr) return;

@@ -12,19 +12,20 @@
 
 namespace KelIFC::detail {
 
-/// Stands for no header in front of the elements of a Sequence.
+/// Means that a Sequence has no header in front of its elements.
 struct NoHeader {
   void Drop() {}
 };
 
-/// A growable array in 16 bytes, with one spare bit for its owner. It is what the aggregates of an
-/// instance are made of, of which a large model has millions: an empty one has nothing on the heap.
+/// A growable array of 16 bytes with one mark bit for its owner. The aggregates of instances use
+/// it, of which a large model has millions. An empty sequence has no memory on the heap.
 ///
-/// It grows by copying each element to its new place and destroying the old one, so that elements
-/// that give something away when they are copied keep it.
+/// It grows by copying each element to its new position and destroying the old one. So elements
+/// that move a value when they are copied keep that value.
 ///
-/// From kHeaderCapacity elements on, a `Header` stands in front of the elements, for bookkeeping
-/// that small sequences do without. It moves along when the sequence grows.
+/// With a capacity of kHeaderCapacity elements or more, there is a `Header` in front of the
+/// elements, for data that small sequences do not need. The header moves with the elements when the
+/// sequence grows.
 template <class T, class Header = NoHeader>
 class Sequence {
  public:
@@ -35,7 +36,7 @@ class Sequence {
     Reserve(count);
     while (size < count) Append();
   }
-  /// Copies the elements one by one; the header is not copied.
+  /// Copies the elements one by one. The header is not copied.
   Sequence(const Sequence& other) : Sequence() {
     Reserve(other.size);
     for (const T& item : other) Append(item);
@@ -59,7 +60,7 @@ class Sequence {
   std::size_t GetSize() const { return size; }
   std::size_t GetCapacity() const { return capacity; }
 
-  /// The element behind the first `index` ones; not checked.
+  /// Returns the element at `index`, which counts from 0 and is not checked.
   T& operator[](std::size_t index) { return items[index]; }
   const T& operator[](std::size_t index) const { return items[index]; }
   T* begin() { return items; }
@@ -67,7 +68,7 @@ class Sequence {
   const T* begin() const { return items; }
   const T* end() const { return items + size; }
 
-  /// Adds an element, which may be made from one that is in the sequence.
+  /// Adds an element. The arguments can refer to an element of the sequence.
   template <class... Args>
   T& Append(Args&&... args) {
     if (size == capacity) return AppendGrown(std::forward<Args>(args)...);
@@ -76,17 +77,17 @@ class Sequence {
     return *item;
   }
 
-  /// Makes room for `count` elements in all.
+  /// Allocates memory for `count` elements in all.
   void Reserve(std::size_t count) {
     if (count > capacity) Sequence(Room{count}, *this).Swap(*this);
   }
 
-  /// Gives back the room that no element takes.
+  /// Frees the memory that no element uses.
   void ShrinkToFit() {
     if (size < capacity) Sequence(Room{size}, *this).Swap(*this);
   }
 
-  /// Destroys the elements, keeps the room and the mark.
+  /// Destroys the elements. Keeps the memory and the mark.
   void Clear() {
     if (Header* header = GetHeader()) header->Drop();
     while (size > 0) items[--size].~T();
@@ -95,7 +96,7 @@ class Sequence {
   bool GetMark() const { return mark != 0; }
   void SetMark(bool value) { mark = value ? 1 : 0; }
 
-  /// The header, or null while there is room for few elements.
+  /// Returns the header, or null if the capacity is below kHeaderCapacity.
   Header* GetHeader() const {
     if (capacity < kHeaderCapacity) return nullptr;
     return reinterpret_cast<Header*>(reinterpret_cast<char*>(items) - kHeaderSize);
@@ -116,14 +117,14 @@ class Sequence {
     std::uint32_t size, capacity, mark;
   };
 
-  static constexpr std::size_t kItemBytes = sizeof(T);  // NOLINT: pointers are items as well
+  static constexpr std::size_t kItemBytes = sizeof(T);  // NOLINT: items can be pointers
   static constexpr std::size_t kMaximum =
       std::min<std::size_t>(0x7FFFFFFF, PTRDIFF_MAX / 2 / kItemBytes);
   static constexpr std::size_t kHeaderSize =
       std::is_empty_v<Header> ? 0 : (sizeof(Header) + alignof(T) - 1) / alignof(T) * alignof(T);
   static_assert(alignof(T) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__ && alignof(Header) <= alignof(T));
 
-  /// Takes the elements, the header and the mark of `other`, which is left empty.
+  /// Moves the elements, the header and the mark out of `other`, which becomes empty.
   Sequence(Room room, Sequence& other) : Sequence() {
     Allocate(room.count);
     TakeFrom(other);
@@ -154,7 +155,7 @@ class Sequence {
     if (size == kMaximum) throw std::bad_array_new_length();
     Sequence grown;
     grown.Allocate(doubled == 0 ? 1 : doubled);
-    // First the new element: it may be made from one that is about to be taken over.
+    // The new element is made first: its arguments can refer to an element that TakeFrom moves.
     T* item = ::new (static_cast<void*>(grown.items + size)) T(std::forward<Args>(args)...);
     grown.TakeFrom(*this);
     ++grown.size;

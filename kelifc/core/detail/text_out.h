@@ -7,21 +7,21 @@
 
 #include "kelifc/platform/export.h"
 
-// Writing to a stream without its formatting. A saved model is made of millions of pieces of a few
-// characters, so each piece goes straight to the stream's buffer. No width, fill, locale or number
-// format of the stream has any effect.
+// Writes to a stream without its formatting. A saved model consists of millions of pieces of a few
+// characters, so each piece is written directly to the stream's buffer. Width, fill, locale and
+// number format of the stream have no effect.
 
 namespace KelIFC::detail {
 
-/// Writes one character. A stream that has failed stays untouched; a buffer that refuses sets
-/// badbit.
+/// Writes one character. If the stream has failed before, nothing happens. If the buffer accepts no
+/// more characters, badbit is set.
 inline void PutChar(std::ostream& out, char c) {
   if (!out.good()) return;
   using Traits = std::ostream::traits_type;
   if (Traits::eq_int_type(out.rdbuf()->sputc(c), Traits::eof())) out.setstate(std::ios::badbit);
 }
 
-/// Writes a text as it stands, in the same way.
+/// Writes a text without any change, with the same error handling.
 inline void PutText(std::ostream& out, std::string_view text) {
   if (!out.good()) return;
   const auto length = static_cast<std::streamsize>(text.size());
@@ -32,7 +32,7 @@ inline void PutText(std::ostream& out, std::string_view text) {
 KELIFC_API void PutNumber(std::ostream& out, std::int64_t number);
 KELIFC_API void PutNumber(std::ostream& out, std::uint64_t number);
 
-/// Writes `text` with its letters a to z in upper case, and then `last`, as one piece.
+/// Writes `text` with its letters a to z in upper case and then `last`, as one piece.
 KELIFC_API void PutUpperCase(std::ostream& out, std::string_view text, char last);
 
 }  // namespace KelIFC::detail

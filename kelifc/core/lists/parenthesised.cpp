@@ -9,7 +9,7 @@ namespace KelIFC::detail {
 
 namespace {
 
-// The counterpart of a parenthesis that stands ahead of `text`, or the NUL.
+// Returns the counterpart of the parenthesis before `text`, or the position of the NUL.
 const char* FindClosing(const char* text) {
   std::size_t depth = 1;
   while (true) {

@@ -5,24 +5,25 @@
 
 namespace KelIFC::detail {
 
-/// The text between an opening parenthesis and its counterpart, in place in a statement.
+/// The text between an opening parenthesis and its counterpart, as a part of a statement.
 struct Parenthesised {
   const char* begin;
   const char* end;  ///< the closing parenthesis, or the NUL where none matches
   bool isNested;    ///< true if further parentheses open inside
 
-  /// The cursor behind the aggregate, as a value's Parse gives it.
+  /// Returns the cursor after the aggregate, as Parse of a value does.
   const char* BehindNextComma() const;
 
-  /// How many commas stand from `from` to the end.
+  /// Returns the number of commas between `from` and the end.
   std::size_t CountCommas(const char* from) const;
 };
 
-/// Finds the first parenthesis at or behind `text` and its counterpart. Quotes are not considered,
-/// since none of the aggregates read so holds text. False if there is no parenthesis.
+/// Finds the first parenthesis, from `text` on, and its counterpart. Quotes have no meaning, since
+/// the aggregates that use this function contain no strings. Returns false if there is no
+/// parenthesis.
 bool FindParenthesised(const char* text, Parenthesised& inner);
 
-/// The position behind the first comma of [from, end), or null.
+/// Returns the position after the first comma in [from, end), or null.
 const char* BehindCommaBefore(const char* from, const char* end);
 
 }  // namespace KelIFC::detail

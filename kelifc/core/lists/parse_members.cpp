@@ -14,9 +14,9 @@ namespace KelIFC {
 
 namespace {
 
-// Reads `#n` and unset elements in place, as long as no other parenthesis stands among them: then
-// no reader of numbers runs past the end. Gives the position of the first element that is neither,
-// or null behind the last.
+// Parses `#n` and unset elements without a copy of the text. The text has no further parenthesis,
+// so no parser of numbers reads beyond its end. Returns the position of the first other element, or
+// null after the last element.
 template <class Items>
 const char* ReadNumbers(const detail::Parenthesised& inner, IfcUnknown* owner, Items& items) {
   const char* cursor = inner.begin;
@@ -33,8 +33,8 @@ const char* ReadNumbers(const detail::Parenthesised& inner, IfcUnknown* owner, I
   return nullptr;
 }
 
-// Reads elements of every kind from a text of their own, whose end bounds them. An element that
-// does not move the cursor ends the list.
+// Parses elements of every kind from a copy of the text, so that parsing stops at its end. An
+// element that does not move the cursor ends the list.
 template <class Items>
 void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
   int entities = 0;
@@ -44,7 +44,7 @@ void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
     MEMBER element(owner);
     const char* next = element.Parse(cursor);
     const IfcUnknown* value = element.GetInlineValue();
-    // A typed value looks no further than its own text.
+    // A typed value scans only its own text.
     if (value != nullptr && !IsTypedValue(value)) {
       const auto rest = static_cast<std::size_t>(text.c_str() + text.size() - cursor);
       if (++entities > kMaximumEntitiesInList || rest > allowance) return;
@@ -65,7 +65,7 @@ const char* ParseMembers(const char* text, IfcUnknown* owner,
   detail::Parenthesised inner;
   if (!detail::FindParenthesised(text, inner)) return text;
   if (inner.begin != inner.end) {
-    // An element takes two characters at least.
+    // An element has at least two characters.
     const auto length = static_cast<std::size_t>(inner.end - inner.begin);
     items.Reserve(std::min(inner.CountCommas(inner.begin), length / 2) + 1);
     const char* rest = inner.isNested ? inner.begin : ReadNumbers(inner, owner, items);

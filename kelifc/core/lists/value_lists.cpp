@@ -16,7 +16,7 @@ void Reset(List& list) {
   list.SetExists(false);
 }
 
-/// Reads the elements behind the opening parenthesis, up to the closing one.
+/// Parses the elements from `cursor` up to the closing parenthesis.
 const char* ReadTexts(LIST<STRING>& texts, const char* cursor) {
   while (*cursor != ')') {
     if (*cursor == '\0') return nullptr;
@@ -40,7 +40,7 @@ const char* ParseIntegers(LIST<INTEGER>& numbers, const char* text) {
   detail::Parenthesised inner;
   if (!detail::FindParenthesised(text, inner)) return text;
   numbers.SetExists(true);
-  // A text of its own bounds the reader of a number.
+  // The copy of the text ends where the parser of numbers must stop.
   const std::string elements(inner.begin, inner.end);
   INTEGER number;
   for (const char* cursor = elements.empty() ? nullptr : elements.c_str(); cursor != nullptr;) {

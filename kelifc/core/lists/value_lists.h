@@ -5,18 +5,17 @@
 #include "kelifc/core/integer.h"
 #include "kelifc/core/string.h"
 
-// Lists of plain values. Both readers follow the rule of the cursor: they give the position behind
-// the comma that follows the list, or null. `$`, `*` and a null cursor leave the list unset; an
-// unset element is left out.
+// Lists of plain values. Both functions return the position after the comma that follows the list,
+// or null. `$`, `*` and a null cursor leave the list unset. Unset elements are left out.
 
 namespace KelIFC {
 
-/// Reads whole numbers between the first parenthesis and its counterpart; an element that is no
-/// number gives 0. Without a parenthesis the list stays unset and the cursor does not move.
+/// Parses integers between the first parenthesis and its counterpart. A non-numeric element reads
+/// as 0. Without a parenthesis the list stays unset and the cursor does not move.
 const char* ParseIntegers(LIST<INTEGER>& numbers, const char* text);
 
-/// Reads texts between parentheses; a text that stands alone counts as a list of one. A text that
-/// does not end leaves out itself and all that follows.
+/// Parses texts between parentheses. A text without parentheses counts as a list of one element. A
+/// text without a closing quote is left out, and so is everything after it.
 const char* ParseTexts(LIST<STRING>& texts, const char* text);
 
 }  // namespace KelIFC

@@ -6,8 +6,8 @@
 
 namespace KelIFC {
 
-/// Heads a chunk and counts its blocks. As long as it is carved from, it counts as many more that
-/// nobody has, so that the last block that goes does not take it along.
+/// The header of a chunk, with the count of its blocks. While the chunk is open, the count includes
+/// kOpen blocks that do not exist, so that the chunk is not freed when its last block is.
 struct LoadArena::Chunk {
   std::atomic<std::uint32_t> blocks;
 
@@ -20,13 +20,13 @@ namespace {
 
 constexpr std::uint32_t kOpen = 0x80000000;
 
-// A small model takes little; a large one comes to chunks that the heap takes from the system and
-// gives back to it.
+// The first chunk is small for the sake of small models. Large chunks are allocated from the system
+// and freed to it directly.
 constexpr std::size_t kFirstChunk = std::size_t{16} * 1024;
 constexpr std::size_t kLargestChunk = std::size_t{1024} * 1024;
 
 constexpr std::size_t kAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
-constexpr std::size_t kMark = sizeof(void*);  // in front of a block: its chunk, or null
+constexpr std::size_t kMark = sizeof(void*);  // before a block: its chunk, or null
 static_assert(kAlignment % kMark == 0);
 
 constexpr std::size_t RoundUp(std::size_t size) {
@@ -69,7 +69,7 @@ LoadArena::~LoadArena() {
   current = outer;
 }
 
-// The cursor stands where the next mark goes, right ahead of an aligned block.
+// The cursor is the position of the next mark; the block after the mark is aligned.
 void* LoadArena::Carve(std::size_t size) {
   const std::size_t taken = RoundUp(kMark + size);
   if (static_cast<std::size_t>(end - cursor) < taken) OpenChunk();

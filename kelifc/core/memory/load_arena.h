@@ -8,15 +8,16 @@
 
 namespace KelIFC {
 
-/// A load makes millions of blocks and they go together. While an arena lives, AllocateBlock carves
-/// those of its thread from large chunks, one behind the other in the order of the file; at any
-/// other time each stands alone on the heap. A word ahead of each block tells which.
+/// The allocator of a load, which makes millions of blocks that are freed together. While an arena
+/// exists, AllocateBlock cuts the blocks of its thread from large chunks, in the order of the
+/// calls. Without an arena, each block is a heap allocation of its own. The word before each block
+/// is a pointer to its chunk, or null.
 ///
-/// A chunk goes back to the heap when all of its blocks are gone; the room of a single block is not
-/// used again before that. Arenas may be nested.
+/// A chunk is freed when all of its blocks have been freed; the memory of a single block is not
+/// used again before that. Arenas can be nested.
 class LoadArena {
  public:
-  /// Blocks of more bytes than this stand alone in any case.
+  /// Larger blocks are always heap allocations of their own.
   static constexpr std::size_t kLargestBlock = 2048;
 
   LoadArena();
@@ -24,8 +25,7 @@ class LoadArena {
   LoadArena(const LoadArena&) = delete;
   LoadArena& operator=(const LoadArena&) = delete;
 
-  /// The bytes that were taken from the heap for the blocks so far. Blocks that were given back
-  /// count, too.
+  /// Returns the number of bytes that were allocated for blocks so far. Freed blocks count, too.
   std::uint64_t GetBytes() const { return bytes; }
 
  private:
@@ -38,10 +38,10 @@ class LoadArena {
   void CloseChunk() noexcept;
 
   LoadArena* outer;
-  Chunk* chunk = nullptr;  // the one that is carved from
+  Chunk* chunk = nullptr;  // blocks are cut from this one
   char* cursor = nullptr;
   char* end = nullptr;
-  std::uint32_t carved = 0;  // blocks of the chunk
+  std::uint32_t carved = 0;  // blocks that were cut from the chunk
   std::size_t nextSize;
   std::uint64_t bytes = 0;
 };

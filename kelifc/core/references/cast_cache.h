@@ -12,15 +12,15 @@
 
 namespace KelIFC {
 
-/// Gives the same answers as dynamic_cast<T*> of an instance, but asks it only once for each class
-/// of instances: whether the cast succeeds, and how far apart the two pointers are, is a property
-/// of the class. It makes walks over millions of instances cheap. Not for use from two threads.
+/// Returns the same results as dynamic_cast<T*> of an instance, but runs dynamic_cast only once for
+/// each class: the result, and the distance between the two pointers, depend on the class only.
+/// This makes loops over millions of instances fast. Not thread-safe.
 template <class T>
 class CastCache {
  public:
   using Instance = std::conditional_t<std::is_const_v<T>, const IfcUnknown, IfcUnknown>;
 
-  /// `instance` as a T, null if it is none. Null gives null.
+  /// Returns `instance` as a T, or null if it is not a T. Null returns null.
   T* Cast(Instance* instance) {
     if (instance == nullptr) return nullptr;
     const std::type_info* type = &typeid(*instance);
@@ -42,7 +42,7 @@ class CastCache {
     return (reinterpret_cast<std::uintptr_t>(type) / 16) & (entries.size() - 1);
   }
 
-  // The slot of a type, or the free one where it belongs.
+  // Returns the slot of a type, or the free slot for it.
   std::size_t FindSlot(const std::type_info* type) const {
     std::size_t slot = Hash(type);
     while (entries[slot].type != type && entries[slot].type != nullptr) {
@@ -51,7 +51,7 @@ class CastCache {
     return slot;
   }
 
-  // Without memory to grow, what is there stays, and the answer is not noted.
+  // If there is no memory to grow, the result is returned but not stored.
   T* Learn(const std::type_info* type, Instance* instance) {
     T* item = dynamic_cast<T*>(instance);
     if (2 * count >= entries.size() && !Grow()) return item;
@@ -82,8 +82,8 @@ class CastCache {
   std::size_t count = 0;
 };
 
-/// The instance as a T: at once if that is its very class, else by a cache that all callers of the
-/// thread share.
+/// Returns the instance as a T, or null if it is not a T. An instance of exactly this class needs
+/// no cache; for other classes, all callers of the thread share one cache.
 template <class T>
 const T* CachedCast(const IfcUnknown* instance) {
   if (instance == nullptr) return nullptr;

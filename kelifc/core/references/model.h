@@ -8,21 +8,24 @@ namespace KelIFC {
 class IfcServer;
 class IfcUnknown;
 
-// What the value layer asks of the model. The server folder defines these; each forwards to the
-// virtual operation of IfcServer, so that no include of this layer points upwards.
-// A null server gives null, 0 or no effect.
+// The operations of the model that the value layer needs. The server folder defines them, so that
+// no include of this layer refers to a higher layer. Each calls the virtual operation of IfcServer.
+// For a null server they return null or 0 and have no effect.
 
-/// The instance under a number, or null.
+/// Returns the instance with a number, or null.
 IfcUnknown* FindInstance(IfcServer* server, std::size_t number);
 
-/// The number of an instance, 0 if the model does not hold it. Never follows the pointer.
+/// Returns the number of an instance, 0 if the model does not hold it. `instance` is compared only
+/// and can be dangling.
 std::size_t FindNumber(const IfcServer* server, const IfcUnknown* instance);
 
-/// Makes an unregistered instance from the entity name at `text`; `end` receives the position
-/// behind the name. The caller owns the result; null for a name the release does not know.
+/// Makes an unregistered instance from the entity name at `text`; stores the position after the
+/// name in `end`. The caller owns the instance. Returns null for a name that the release does not
+/// know.
 IfcUnknown* ParseInstance(IfcServer* server, const char* text, const char** end);
 
-/// Registers an instance under a new number and hands it to the model. Gives the number.
+/// Registers an instance with a new number in the model, which becomes its owner. Returns the
+/// number.
 std::size_t AddInstance(IfcServer* server, IfcUnknown* instance);
 
 }  // namespace KelIFC

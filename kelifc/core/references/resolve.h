@@ -10,23 +10,23 @@
 
 namespace KelIFC {
 
-/// The instance that a reference leads to: what the model has under its number, else what the
-/// reference itself gives, which is also its value in place. So references without owner resolve.
+/// Returns the instance of a reference: the instance that the model has under its number, otherwise
+/// the result of GetInstance, such as an inline value. So references without an owner resolve, too.
 inline const IfcUnknown* ResolveMember(const MEMBER& member, IfcServer* server) {
   const IfcUnknown* instance = FindInstance(server, static_cast<std::size_t>(member));
   return instance != nullptr ? instance : member.GetInstance();
 }
 
-/// Fills `view`, a SET or LIST of pointers, with the instances that `members` lead to. It becomes
-/// as long as `members`, with null where a reference leads nowhere or to another class, and keeps
-/// equal elements. Without a server it stays empty. The instances belong to the model.
+/// Adds the instances of `members` to `view`, a SET or LIST of pointers. The view gets one element
+/// for each reference: null if the reference does not resolve or its instance has another class.
+/// Equal elements are kept. Without a server nothing is added. The instances belong to the model.
 template <template <class> class View, class T, class Members>
 void ResolveMemberSet(View<T*>& view, const Members& members, IfcServer* server) {
   if (server == nullptr) return;
   thread_local CastCache<const T> casts;
   view.Reserve(view.GetSize() + members.GetSize());
   for (std::size_t i = 1; i <= members.GetSize(); ++i) {
-    // A view says itself whether its instances can be changed.
+    // The element type of the view decides whether its instances are const.
     view.Append(const_cast<T*>(casts.Cast(ResolveMember(members.GetItem(i), server))));
   }
 }

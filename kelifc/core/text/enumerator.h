@@ -5,15 +5,15 @@
 
 namespace KelIFC {
 
-/// An enumerator in a statement, not copied out of it.
+/// An enumerator as a part of a statement.
 struct EnumText {
-  std::string_view text;  ///< what stands between the dots
-  bool exists = false;    ///< false for `$`, `*` and what is no enumerator
+  std::string_view text;  ///< the text between the dots
+  bool exists = false;    ///< false for `$`, `*` and any other text
   const char* next = nullptr;
 };
 
-/// Reads an enumerator such as `.NOTDEFINED.` by the rules of ENUM::Parse; `next` is the cursor
-/// that it gives back.
+/// Parses an enumerator such as `.NOTDEFINED.` by the rules of ENUM::Parse. `next` is the cursor
+/// that ENUM::Parse returns.
 EnumText ReadEnumText(const char* text);
 
 }  // namespace KelIFC

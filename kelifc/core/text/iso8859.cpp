@@ -9,10 +9,10 @@ namespace {
 
 constexpr unsigned char kFirstUpper = 0xA0;
 
-/// The characters of the bytes from 0xA0 to 0xFF; 0 where a page has none.
+/// The characters of the bytes from 0xA0 to 0xFF; 0 if the page has none.
 using Page = std::array<std::uint16_t, 96>;
 
-/// The pages from 2 on. In page 1 each byte is the character of the same code.
+/// The pages from 2 on. In page 1 each byte is the code of its character.
 constexpr Page kPages[] = {
     {{
         // ISO 8859-2

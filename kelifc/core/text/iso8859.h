@@ -3,13 +3,13 @@
 
 namespace KelIFC {
 
-// The pages of ISO 8859 that a STEP file can name, by their letters: A is ISO 8859-1 and I is
-// ISO 8859-9.
+// The letters by which a STEP file names the pages of ISO 8859: A is ISO 8859-1 and I is ISO
+// 8859-9.
 constexpr char kFirstIsoPage = 'A';
 constexpr char kLastIsoPage = 'I';
 
-/// The character that a page has for a byte. Returns 0 if the page has none there, or if `page` is
-/// not one of the letters.
+/// Returns the character of a byte in a page. Returns 0 if the page has no such character, or if
+/// `page` is not one of the letters.
 char32_t DecodeIso8859(char page, unsigned char byte);
 
 }  // namespace KelIFC

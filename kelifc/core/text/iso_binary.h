@@ -6,12 +6,12 @@
 
 namespace KelIFC {
 
-// Binary values of ISO 10303-21 stand between double quotes: a digit from 0 to 3 that tells how
-// many bits of the first hexadecimal digit are not used, and then the hexadecimal digits. "20F" has
-// the six bits 001111. The values of this library read and write one character per bit instead.
+// Binary values of ISO 10303-21 are written between double quotes: a digit from 0 to 3, which is
+// the number of unused bits in the first hexadecimal digit, and then the hexadecimal digits. "20F"
+// has the six bits 001111. The values of this library have one character per bit instead.
 
 /// Appends the bits of a binary value, without its double quotes, as characters 0 and 1. Returns
-/// false, and appends nothing, if `digits` has not this form.
+/// false, and appends nothing, if `digits` does not have this form.
 bool AppendBits(std::string& out, std::string_view digits);
 
 /// Appends bits, which are characters 0 and 1, as a binary value without its double quotes. Returns

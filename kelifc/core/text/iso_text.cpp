@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::string_view kEndOfGroups = "\\X0\\";
 
-/// Reads one string. Each member function that reads an escape begins with `at` on its backslash
+/// Decodes one string. Each member function that reads an escape begins with `at` on its backslash
 /// and leaves `at` after the escape.
 class Decoder {
  public:
@@ -88,15 +88,14 @@ class Decoder {
     if (sink != nullptr) sink->NoteBadEscape(escape);
   }
 
-  /// Replaces what stands from a bad escape to `next` by U+FFFD.
+  /// Replaces the text from a bad escape to `next` by U+FFFD.
   void TakeBad(const char* escape, const char* next) {
     Report(escape);
     AppendUtf8(out, kReplacementCharacter);
     at = next;
   }
 
-  /// Appends the character that the escape stands for. Zero and codes that are no characters are
-  /// bad.
+  /// Appends the character of an escape. Zero and codes that are not characters are bad.
   void TakeCode(const char* escape, char32_t code, const char* next) {
     if (code == 0 || !IsScalarValue(code)) return TakeBad(escape, next);
     AppendUtf8(out, code);
@@ -159,7 +158,7 @@ class Decoder {
     TakeEndOfGroups(escape, count);
   }
 
-  /// Takes what follows the last good group: the end, or a group of too few digits.
+  /// Handles the text after the last good group: the end, or a group with too few digits.
   void TakeEndOfGroups(const char* escape, int digits) {
     if (digits == 0 && StartsWith(kEndOfGroups)) {
       at += kEndOfGroups.size();
@@ -186,7 +185,7 @@ class Decoder {
   char page = kFirstIsoPage;
 };
 
-/// Writes characters, and joins those that share a directive.
+/// Writes characters. Neighbours that need the same directive share one.
 class Encoder {
  public:
   explicit Encoder(std::string& target) : out(target) {}
@@ -208,7 +207,8 @@ class Encoder {
   void End() { UseDigits(0); }
 
  private:
-  /// Opens the directive whose groups have so many digits, after the end of another; 0 is none.
+  /// Ends the current directive, if any, and opens the one with `count` digits per group; 0 opens
+  /// none.
   void UseDigits(int count) {
     if (digits == count) return;
     if (digits != 0) out += kEndOfGroups;

@@ -7,18 +7,18 @@
 
 #include "kelifc/core/text/quoting.h"
 
-// Strings as ISO 10303-21 writes them. This is the only place that knows their escapes:
+// Strings as ISO 10303-21 writes them. All functions for their escapes are in this file:
 //
-//   ''               a quote
-//   \\               a backslash
-//   \S\c             the character c + 128 of the current page; page A, ISO 8859-1, to begin with
-//   \PA\ to \PI\     selects the page for the rest of the string
-//   \X\hh            the character hh of ISO 8859-1
-//   \X2\hhhh...\X0\  characters as UTF-16, four digits each; surrogate pairs are allowed
-//   \X4\h...h\X0\    characters as UTF-32, eight digits each
+//     ''               a quote
+//     \\               a backslash
+//     \S\c             the character c + 128 of the current page, which is ISO 8859-1 at first
+//     \PA\ to \PI\     selects the page for the rest of the string
+//     \X\hh            the character hh of ISO 8859-1
+//     \X2\hhhh...\X0\  characters as UTF-16, four digits each; surrogate pairs are allowed
+//     \X4\h...h\X0\    characters as UTF-32, eight digits each
 //
-// Digits are hexadecimal, in either case. Bytes above 127 that stand in a string as they are belong
-// to UTF-8 if the whole string is well-formed UTF-8; otherwise they are ISO 8859-1.
+// Digits are hexadecimal, in either case. Bytes above 127 in a string are UTF-8 if the entire
+// string is well-formed UTF-8; otherwise they are ISO 8859-1.
 
 namespace KelIFC {
 
@@ -36,29 +36,30 @@ class BadEscapeSink {
 /// quote, and `end` the end of the statement. Returns the position of the closing quote. If there
 /// is none, returns null, and `out` holds the text up to the end.
 ///
-/// A bad escape costs that escape and nothing else:
-///  - It is reported to `sink`, which may be null, and U+FFFD takes its place.
+/// A bad escape has no effect on the rest of the string:
+///  - It is reported to `sink`, which can be null, and U+FFFD replaces it.
 ///  - A backslash that begins no escape is bad alone.
-///  - `\X2\` and `\X4\` end at the first group that is incomplete. Their good groups are kept. If
-///    the next escape is `\X0\`, the bad part reaches to it. Otherwise it ends after the digits of
-///    the group; if that has none, only the `\X0\` is missing, and nothing takes its place.
-///  - A code that is no character, such as U+0000 or a lone surrogate, is bad.
+///  - `\X2\` and `\X4\` end at the first incomplete group. Their good groups are kept. If the next
+///    escape is `\X0\`, the bad part extends to it. Otherwise it ends after the digits of the
+///    group; if the group has no digits, only the `\X0\` is missing, and nothing replaces it.
+///  - A code that is not a character, such as U+0000 or a lone surrogate, is bad.
 const char* DecodeIsoString(const char* body, const char* end, std::string& out,
                             BadEscapeSink* sink);
 
-/// Appends `text`, which is read as ToUtf8 does, between quotes. Characters outside ASCII are
+/// Appends `text`, which is decoded as ToUtf8 does, between quotes. Characters outside ASCII are
 /// written with `\X2\` or `\X4\`, control characters with `\X\`.
 void AppendIsoString(std::string& out, std::string_view text);
 
-/// True for what may stand between two tokens: blanks, and control characters such as tabs.
+/// Returns true for the characters that can separate two tokens: blanks, and control characters
+/// such as tabs.
 constexpr bool IsIsoBlank(char c) { return c > '\0' && c <= ' '; }
 
-/// The number of quotes that belong to the text of a string, of a row of quotes that follows `\S\`.
-/// They are ambiguous: `\S\'` is a character, but the quote may also be the end of a string whose
-/// last escape is cut short. The row ends the string if a comma or a closing parenthesis follows
-/// it, after any blanks, or if nothing does; its last quote is then the closing one. The first
-/// quote of the text, or the first two if their number is even, belong to the escape. The others
-/// are doubled quotes.
+/// Returns how many quotes of a row of quotes after `\S\` belong to the text of the string. The row
+/// is ambiguous: `\S\'` is a character, but the quote can also end a string whose last escape is
+/// incomplete. The row ends the string if a comma or a closing parenthesis follows it, after any
+/// blanks, or if nothing follows; then its last quote is the closing one. The first quote of the
+/// text, or the first two if their number is even, belong to the escape. The others are doubled
+/// quotes.
 ///
 /// `next` returns the next character at each call, beginning with the first quote, and NUL at the
 /// end of the text.

@@ -27,8 +27,8 @@ bool StartsWith(const char* text, std::string_view word) {
   return true;
 }
 
-// The exponent behind `mark`, bounded so that sums with it do not overflow. Without a digit there
-// is none, and `end` stays at the mark.
+// Returns the exponent after `mark`, bounded so that sums with it do not overflow. Without a digit
+// there is no exponent, and `end` is the mark.
 std::int64_t ReadExponent(const char* mark, const char*& end) {
   const char* at = mark + 1;
   const bool isNegative = *at == '-';
@@ -43,8 +43,8 @@ std::int64_t ReadExponent(const char* mark, const char*& end) {
   return isNegative ? -exponent : exponent;
 }
 
-// What a number is that std::from_chars calls out of range. It is far from 1, so the place of its
-// first digit, counted in digits ahead of the point, tells in which direction.
+// Returns the value of a number that std::from_chars calls out of range: infinity or 0. Such a
+// number is far from 1, so the position of its first digit relative to the point decides which.
 double OutOfRange(const char* text, bool isHex, std::int64_t exponent) {
   std::int64_t place = 0;
   bool isBehindPoint = false;
@@ -71,7 +71,7 @@ double ReadWhole(const char* begin, const char* end, std::chars_format format,
   return value;
 }
 
-// Reads hexadecimal digits, behind their 0x. Without any `end` stays where it is.
+// Parses hexadecimal digits after 0x. If there are none, `end` does not change.
 double ReadHexadecimal(const char* text, const char*& end) {
   const char* at = text;
   bool hasDigit = false;
@@ -88,7 +88,7 @@ double ReadHexadecimal(const char* text, const char*& end) {
   return ReadWhole(text, end, std::chars_format::hex, exponent);
 }
 
-// Reads what stands behind a sign and does not begin with a digit or a point.
+// Parses the text after a sign that does not begin with a digit or a point.
 double ReadWord(const char* text, const char*& end) {
   if (StartsWith(text, "inf")) {
     end = text + (StartsWith(text + 3, "inity") ? 8 : 3);
@@ -108,9 +108,8 @@ constexpr double kPowersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7
                                    1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                    1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
 
-// Reads a number without its sign. Most numbers of a model are a whole number below 2^53 times a
-// small power of ten: both are exact as doubles, so one operation gives the correctly rounded
-// result.
+// Parses a number without its sign. Most numbers of a model are an integer below 2^53 times a small
+// power of ten. Both are exact as doubles, so one operation returns the correctly rounded result.
 double ReadUnsigned(const char* text, const char*& end) {
   if (text[0] == '0' && (text[1] | 0x20) == 'x') {
     end = text + 1;
@@ -174,14 +173,14 @@ namespace {
 constexpr int kDecimals = 10;
 constexpr std::uint64_t kScale = 10'000'000'000;
 
-// A number in [0, 1) times 10^10, rounded to the nearest whole number and to the even one of two,
-// as the formatter of the standard library rounds. The number is m * 2^-k with m below 2^53; m *
-// 10^10 has up to 87 bits and is kept as high * 2^26 + low.
+// Returns a number in [0, 1) times 10^10, rounded to the nearest integer, and to the even one of
+// two, as the standard library rounds. The number is m * 2^-k with m below 2^53; m * 10^10 has up
+// to 87 bits and is kept as high * 2^26 + low.
 std::uint64_t ScaleFraction(double fraction) {
   const auto bits = std::bit_cast<std::uint64_t>(fraction);
   const auto biased = static_cast<int>(bits >> 52);
   const int shift = 1075 - 26 - biased;     // k - 26
-  if (biased == 0 || shift > 63) return 0;  // below 2^-63, and so far below half of the last place
+  if (biased == 0 || shift > 63) return 0;  // below 2^-63: rounds to 0
   const std::uint64_t m = (bits & 0xFFFFFFFFFFFFF) | 0x10000000000000;
   constexpr std::uint64_t kLow = (1 << 26) - 1;
   const std::uint64_t product = (m & kLow) * kScale;
@@ -194,13 +193,13 @@ std::uint64_t ScaleFraction(double fraction) {
   return whole + (isUp ? 1 : 0);
 }
 
-// Text with a point in it, so that the zeros end.
+// Removes trailing zeros. The text has a point, where the zeros end.
 char* StripZeros(char* end) {
   while (end[-1] == '0') --end;
   return end;
 }
 
-// Writes a number below 2^53 with its decimals, without the zeros at the end.
+// Writes a number below 2^53 with its decimals and without trailing zeros.
 char* FormatShort(double magnitude, char* out) {
   auto whole = static_cast<std::uint64_t>(magnitude);
   std::uint64_t decimals = ScaleFraction(magnitude - static_cast<double>(whole));
@@ -213,7 +212,7 @@ char* FormatShort(double magnitude, char* out) {
     *out++ = '.';
     return out;
   }
-  // The leading 1 of this sum keeps the zeros behind the point, and is where the point goes.
+  // The sum has a leading 1, which keeps the zeros after the point; the point then replaces it.
   char* end = std::to_chars(out, out + 20, kScale + decimals).ptr;
   *out = '.';
   return StripZeros(end);

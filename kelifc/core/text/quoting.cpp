@@ -12,7 +12,8 @@ using detail::PutText;
 
 namespace {
 
-// Reads the two characters behind `\X\`. Gives the position behind them, or null if the text ends.
+// Decodes the two characters after `\X\`. Returns the position after them, or null if the text
+// ends.
 const char* DecodeByte(const char* text, std::string& out) {
   const int first = HexDigit(text[0]);
   const int second = first < 0 ? -1 : HexDigit(text[1]);
@@ -20,8 +21,8 @@ const char* DecodeByte(const char* text, std::string& out) {
   return text[0] == '\0' || text[1] == '\0' ? nullptr : text + 2;
 }
 
-// Resolves the escape at `text`. Gives the position behind it, or null if the text ends in it. A
-// `\X` that no backslash follows vanishes alone.
+// Decodes the escape at `text`. Returns the position after it, or null if the text ends in it. A
+// `\X` without a backslash after it is removed.
 const char* DecodeEscape(const char* text, std::string& out) {
   const char c = text[1];
   if (c == '\0') return nullptr;
@@ -52,8 +53,8 @@ const char* DecodeQuoted(const char* text, std::string& out) {
   const char* cursor = std::strchr(text, kQuote);
   if (cursor == nullptr) return nullptr;
   ++cursor;
-  // Each byte is looked at once by either search: the next quote is searched anew only behind one
-  // that an escape has used up.
+  // Each of the two searches reads each byte once: the next quote is searched again only after a
+  // quote that an escape has used.
   const char* quote = std::strchr(cursor, kQuote);
   const char* end = quote != nullptr ? quote : cursor + std::strlen(cursor);
   while (true) {

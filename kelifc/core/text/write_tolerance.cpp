@@ -6,7 +6,7 @@ namespace KelIFC {
 
 namespace {
 
-// One value of its own, so no order with other memory is asked for.
+// No other memory depends on this value, so no memory order is needed.
 std::atomic<double> writeTolerance{0.001};
 
 }  // namespace

@@ -3,8 +3,8 @@
 
 namespace KelIFC {
 
-/// A number whose absolute value is not above this one is written as "0.". It holds for the whole
-/// process and is 0.001 until it is set.
+/// The write tolerance: a number is written as "0." if its absolute value is not above the
+/// tolerance. It is valid for the entire process, and 0.001 until it is set.
 double GetWriteTolerance();
 void SetWriteTolerance(double tolerance);
 

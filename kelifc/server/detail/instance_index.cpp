@@ -11,7 +11,7 @@ namespace {
 
 constexpr unsigned kSmallestTableBits = 6;
 
-// How far ahead of the insertion the bulk build asks for the table's memory.
+// How many insertions in advance the build prefetches the memory of the table.
 constexpr std::size_t kPrefetchDistance = 16;
 
 }  // namespace
@@ -101,7 +101,7 @@ std::vector<std::uint32_t> InstanceIndex::Remove(Slots slots, const IfcUnknown* 
   return positions;
 }
 
-// Moves later entries of the same run into the freed slot, so that a search may stop at a free one.
+// Moves later entries of the same run into the free slot, so that a search can stop at a free slot.
 void InstanceIndex::CloseGap(Slots slots, std::size_t gap) {
   const std::size_t mask = table.size() - 1;
   for (std::size_t next = (gap + 1) & mask; table[next] != kNone; next = (next + 1) & mask) {

@@ -14,46 +14,47 @@ namespace KelIFC::detail {
 
 class NumberIndex;
 
-/// The way back from an instance to its position in the registry and its number.
+/// Finds the position of an instance in the registry, and its number.
 ///
-/// The answers are those of a search of the registry from its start for the pointer, in constant
-/// time. The index compares pointers and never follows one, for a host may ask about an instance
-/// that is gone. It is built when it is first asked for and kept up from then on: a host that only
-/// loads and saves never pays for it.
+/// The result is that of a linear search of the registry for the pointer, in constant time. The
+/// index compares pointers and never dereferences them, because a host can look up an instance that
+/// was destroyed. It is built at the first look-up and updated from then on: a host that only loads
+/// and saves never builds it.
 ///
-/// The table holds positions and reads the pointers from the registry itself, 4 bytes a slot, so
-/// every operation is given the registry's slots.
+/// The table stores positions in 4 bytes per slot, and reads the pointers from the registry. So
+/// every operation has the slots of the registry as a parameter.
 class InstanceIndex {
  public:
-  /// The position that stands for "not there", as in NumberIndex.
+  /// The position that means "not found", as in NumberIndex.
   static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 
-  /// The slots of the registry, null where an instance was deleted.
+  /// The slots of the registry; the slot of a deleted instance is null.
   using Slots = IfcUnknown* const*;
 
   bool IsBuilt() const { return built; }
 
-  /// Takes in a registry of `count` slots and its numbers.
+  /// Builds the index of a registry with `count` slots and its numbers.
   void Build(Slots slots, std::size_t count, const NumberIndex& numbers);
 
-  /// Forgets everything; the index is unbuilt again.
+  /// Removes everything. After that the index is not built.
   void Clear();
 
-  /// The first position that holds the instance, kNone if none does. A null instance finds the
-  /// first null slot.
+  /// Returns the first position of the instance, kNone if there is none. A null instance returns
+  /// the first null slot.
   std::uint32_t FindPosition(Slots slots, const IfcUnknown* instance) const;
 
-  /// The number of a position, 0 if it has none (any more).
+  /// Returns the number of a position, 0 if it has none or has lost it.
   std::uint64_t GetNumber(std::uint32_t position) const { return numberOf[position]; }
 
-  /// Takes in the slot that was just appended to the registry, as the holder of `number`.
+  /// Adds the slot that was just appended to the registry, with its number.
   void Append(Slots slots, std::uint64_t number);
 
-  /// The position has lost its number.
+  /// Removes the number of a position.
   void DropNumber(std::uint32_t position) { numberOf[position] = 0; }
 
-  /// Forgets an instance that is about to leave the registry, while its slots still hold it. Gives
-  /// all its positions, the first one ahead; none for a null instance or one that is not there.
+  /// Removes an instance before it leaves the registry, while its slots still contain it. Returns
+  /// all its positions, the first one first; none for a null instance or one that is not
+  /// registered.
   std::vector<std::uint32_t> Remove(Slots slots, const IfcUnknown* instance);
 
  private:
@@ -65,7 +66,7 @@ class InstanceIndex {
 
   bool built = false;
   std::vector<std::uint64_t> numberOf;  // by position
-  std::vector<std::uint32_t> table;     // open addressing: positions, kNone where free
+  std::vector<std::uint32_t> table;     // open addressing: positions, kNone if free
   unsigned shift = 64;                  // from a hash to the home slot
   std::size_t used = 0;                 // slots of the table in use
   std::uint32_t firstNull = kNone;      // a null slot stays null, so the first one only moves down

@@ -5,7 +5,7 @@
 namespace KelIFC::detail {
 namespace {
 
-// The array may be this many times as long as the count of numbers, plus a start for small models.
+// The array can be this many times as long as the count of numbers, plus a start for small models.
 constexpr std::uint64_t kSlotsPerNumber = 16;
 constexpr std::uint64_t kFreeSlots = 1024;
 
@@ -25,7 +25,7 @@ void NumberIndex::Set(std::uint64_t number, std::uint32_t position) {
     return;
   }
   if (number < kSlotsPerNumber * (count + 1) + kFreeSlots) {
-    // The number may have been an outlier until now; growing brings it into the array.
+    // The number may have been an outlier; when the array grows, the number moves into it.
     GrowDense(static_cast<std::size_t>(number) + 1);
     Set(number, position);
     return;

@@ -12,56 +12,57 @@ namespace KelIFC::detail {
 
 /// The ordered map from the number of an instance (the n of #n) to its position in the registry.
 ///
-/// The numbers of a model are nearly dense, so most of the map is an array indexed by the number.
-/// A number far above the count of numbers is an outlier and stands in a tree until the array
-/// grows past it. Memory is proportional to the count of numbers, whatever the numbers are: a slot
-/// of the array costs 4 bytes and a tree node about 64, so the array may hold 16 slots per number
-/// and cost no more than the tree would.
+/// The numbers of most models are nearly consecutive, so most of the map is an array indexed by the
+/// number. A number far above the count of numbers is an outlier. It is in a tree until the array
+/// grows beyond it. Memory is proportional to the count of numbers, whatever the numbers are: a
+/// slot of the array needs 4 bytes and a tree node about 64, so an array with 16 slots per number
+/// needs no more than the tree would.
 ///
-/// The number 0 is none and never stands in the map.
+/// The map never contains the number 0.
 class NumberIndex {
  public:
-  /// The position that stands for "not there"; no registry comes near it.
+  /// The position that means "not found"; no registry is that large.
   static constexpr std::uint32_t kNone = 0xFFFFFFFF;
 
-  /// The position under a number, kNone if the number is not there. Constant time unless the
-  /// number is an outlier.
+  /// Returns the position of a number, kNone if the number is not in the map. Takes constant time
+  /// unless the number is an outlier.
   std::uint32_t Find(std::uint64_t number) const {
     if (number < dense.size()) return dense[static_cast<std::size_t>(number)];
     return outliers.empty() ? kNone : FindOutlier(number);
   }
 
-  /// Asks for the memory of a number that is needed soon.
+  /// Prefetches the memory of a number.
   void PrefetchNumber(std::uint64_t number) const {
     if (number < dense.size()) Prefetch(&dense[static_cast<std::size_t>(number)]);
   }
 
-  /// Puts a position under a number, over the one that stands there. The number 0 is refused.
+  /// Sets the position of a number, also if it has one. The number 0 is ignored.
   void Set(std::uint64_t number, std::uint32_t position);
 
-  /// Takes a number out. True if it was there.
+  /// Removes a number. Returns true if it was in the map.
   bool Erase(std::uint64_t number);
 
-  /// Makes room for so many numbers ahead of time.
+  /// Allocates memory for so many numbers.
   void Reserve(std::size_t numberCount) { dense.reserve(numberCount); }
 
-  /// Takes all numbers out and gives the memory back.
+  /// Removes all numbers and frees the memory.
   void Clear();
 
   std::size_t GetCount() const { return count; }
 
-  /// The highest number, 0 in an empty map. Constant time.
+  /// Returns the highest number, 0 for an empty map. Takes constant time.
   std::uint64_t GetHighest() const;
 
-  /// The highest number below `limit`, 0 if there is none.
+  /// Returns the highest number below `limit`, 0 if there is none.
   std::uint64_t GetHighestBelow(std::uint64_t limit) const;
 
-  /// The lowest number above `number`, 0 if there is none. A walk from 0 on gives the numbers in
-  /// rising order, in linear time on the whole; numbers may come and go during the walk.
+  /// Returns the lowest number above `number`, 0 if there is none. A loop from 0 returns the
+  /// numbers in rising order, in linear time altogether; numbers can be added and removed during
+  /// the loop.
   std::uint64_t GetNext(std::uint64_t number) const;
 
-  /// The lowest number above 0 that is not there. Remembers how far the numbers are known to be
-  /// without a gap, so that taking the lowest number again and again stays linear.
+  /// Returns the lowest number above 0 that is not in the map. It remembers the range without a
+  /// gap, so that repeated use stays linear.
   std::uint64_t GetLowestFree();
 
  private:
@@ -72,7 +73,7 @@ class NumberIndex {
   std::vector<std::uint32_t> dense;                 // by number; the last slot, if any, is in use
   std::map<std::uint64_t, std::uint32_t> outliers;  // each number is at or above dense.size()
   std::size_t count = 0;
-  std::uint64_t lowestFreeFloor = 1;  // every number below this one, but 0, is there
+  std::uint64_t lowestFreeFloor = 1;  // every number below this one, except 0, is in the map
 };
 
 }  // namespace KelIFC::detail

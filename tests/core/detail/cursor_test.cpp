@@ -17,7 +17,7 @@ TEST(Cursor, SkipsBlanksOnly) {
   EXPECT_STREQ(SkipBlanks("   "), "");
 }
 
-TEST(Cursor, FindsTheFirstCommaWhateverStandsAroundIt) {
+TEST(Cursor, FindsTheFirstCommaInAnyText) {
   EXPECT_STREQ(BehindNextComma(",a"), "a");
   EXPECT_STREQ(BehindNextComma("(')',x),y"), "x),y");
   EXPECT_STREQ(BehindNextComma("a,"), "");
@@ -25,7 +25,7 @@ TEST(Cursor, FindsTheFirstCommaWhateverStandsAroundIt) {
   EXPECT_EQ(BehindNextComma(nullptr), nullptr);
 }
 
-TEST(Cursor, PassesAnOmittedValueUpToBehindTheComma) {
+TEST(Cursor, SkipsAnOmittedValueAndItsComma) {
   const char* next = nullptr;
   EXPECT_TRUE(SkipOmittedValue(next, "  $ ,5"));
   EXPECT_STREQ(next, "5");
@@ -33,13 +33,13 @@ TEST(Cursor, PassesAnOmittedValueUpToBehindTheComma) {
   EXPECT_STREQ(next, "5");
 }
 
-TEST(Cursor, EndsBehindAnOmittedValueThatIsTheLast) {
+TEST(Cursor, EndsAfterAnOmittedValueThatIsTheLast) {
   const char* next = "";
   EXPECT_TRUE(SkipOmittedValue(next, "$)"));
   EXPECT_EQ(next, nullptr);
 }
 
-TEST(Cursor, StaysWhereAValueStands) {
+TEST(Cursor, DoesNotMoveAtAValue) {
   const char* text = "  5,6";
   const char* next = nullptr;
   EXPECT_FALSE(SkipOmittedValue(next, text));

@@ -9,7 +9,7 @@
 namespace KelIFC::detail {
 namespace {
 
-/// Gives its content away when it is copied.
+/// Moves its content to its copy.
 class Giver {
  public:
   Giver() = default;
@@ -23,7 +23,7 @@ class Giver {
   mutable std::unique_ptr<int> content;
 };
 
-/// Counts its objects, and tells when it has been dropped.
+/// Counts its objects, and records that it was dropped.
 struct Note {
   Note() { ++alive; }
   Note& operator=(Note&& other) noexcept {
@@ -37,7 +37,7 @@ struct Note {
   inline static int alive = 0;
 };
 
-TEST(Sequence, TakesSixteenBytes) {
+TEST(Sequence, HasASizeOfSixteenBytes) {
   EXPECT_EQ(sizeof(Sequence<int>), 8 + sizeof(void*));
   EXPECT_EQ(sizeof(Sequence<int, Note>), 8 + sizeof(void*));
 }
@@ -128,7 +128,7 @@ TEST(Sequence, RefusesMoreThanItCanCount) {
   EXPECT_EQ(sequence[0], 1);
 }
 
-TEST(Sequence, HasAHeaderOnlyWhereItIsLong) {
+TEST(Sequence, HasAHeaderOnlyIfItIsLong) {
   {
     Sequence<int, Note> sequence;
     for (int i = 0; i < 8; ++i) sequence.Append(i);

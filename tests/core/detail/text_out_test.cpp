@@ -10,7 +10,7 @@
 namespace KelIFC::detail {
 namespace {
 
-/// Takes a few characters and refuses the rest.
+/// Accepts a few characters and refuses the rest.
 class SmallBuffer : public std::streambuf {
  public:
   SmallBuffer() { setp(room, room + sizeof room); }
@@ -19,7 +19,7 @@ class SmallBuffer : public std::streambuf {
   char room[4];
 };
 
-TEST(TextOut, TakesNoNoticeOfTheFormatOfTheStream) {
+TEST(TextOut, IgnoresTheFormatOfTheStream) {
   std::ostringstream out;
   out << std::setw(10) << std::setfill('_') << std::hex << std::showpos;
   PutText(out, "a");

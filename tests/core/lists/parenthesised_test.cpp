@@ -16,7 +16,7 @@ TEST(Parenthesised, FindsTheCounterpartOfTheFirstParenthesis) {
   EXPECT_STREQ(inner.BehindNextComma(), "f),g");
 }
 
-TEST(Parenthesised, TellsAFlatTextFromANestedOne) {
+TEST(Parenthesised, DistinguishesAFlatTextFromANestedOne) {
   Parenthesised inner;
   ASSERT_TRUE(FindParenthesised("(a,b,c)", inner));
   EXPECT_FALSE(inner.isNested);

@@ -17,7 +17,7 @@
 namespace KelIFC {
 namespace {
 
-/// The elements of a list and what is left behind it, as text.
+/// The elements of a list and the rest of the text after it.
 struct Read {
   std::vector<std::string> elements;
   std::string rest;
@@ -26,7 +26,7 @@ struct Read {
 
 std::string RestText(const char* cursor) { return cursor == nullptr ? "(null)" : cursor; }
 
-/// Reads a list by the rules alone: the inner text is copied, and each element reads itself.
+/// Reads a list by the plain rules: the inner text is copied, and each element parses itself.
 Read ReadSlowly(const std::string& text, IfcUnknown* owner) {
   const std::size_t open = text.find('(');
   if (open == std::string::npos) return {{}, text};
@@ -121,7 +121,7 @@ class LongLists : public testing::Test {
     owner.SetServer(&server);
   }
 
-  /// How many elements a list of `count` equal ones has.
+  /// Returns the number of elements that a list of `count` equal ones has.
   std::size_t SizeOf(const std::string& element, std::size_t count) {
     std::string text = "(";
     for (std::size_t i = 0; i < count; ++i) text += (i == 0 ? "" : ",") + element;
@@ -144,9 +144,9 @@ TEST_F(LongLists, HoldAnyCountOfTypedValues) {
   EXPECT_EQ(SizeOf("IFCLENGTHMEASURE(2)", 20000), 20000U);
 }
 
-// An unknown entity hands back the cursor behind its parenthesis, so that what is left of its text
-// is the begin of the next one, and of one more at the end.
-TEST_F(LongLists, EndAfterSixtyFourEntitiesInPlace) {
+// An unknown entity returns the cursor after its parenthesis. So the rest of its text begins the
+// next element, and makes one more element at the end.
+TEST_F(LongLists, EndAfterSixtyFourInlineEntities) {
   EXPECT_EQ(SizeOf("IFCFOO(1)", 62), 63U);
   EXPECT_EQ(SizeOf("IFCFOO(1)", 63), 64U);
   EXPECT_EQ(SizeOf("IFCFOO(1)", 64), 64U);
@@ -154,12 +154,12 @@ TEST_F(LongLists, EndAfterSixtyFourEntitiesInPlace) {
   EXPECT_EQ(SizeOf("IFCPERSON(#1)", 100), 128U) << "each is followed by a reference";
 }
 
-TEST_F(LongLists, EndWhenEntitiesInPlaceHaveLookedAtTooMuchText) {
+TEST_F(LongLists, EndWhenInlineEntitiesHaveScannedTooMuchText) {
   EXPECT_EQ(SizeOf("IFCFOO(1)", 100000), 8U);
   EXPECT_EQ(SizeOf("IFCPERSON(#1)", 100000), 16U);
 }
 
-TEST_F(LongLists, TakeNoRoomForElementsThatAreNotThere) {
+TEST_F(LongLists, ReserveNoMemoryForElementsThatDoNotExist) {
   std::string text = "(#1";
   for (int i = 0; i < 100000; ++i) text += ",$";
   list.Parse((text + ")").c_str());

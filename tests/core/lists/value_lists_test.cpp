@@ -8,7 +8,7 @@
 namespace KelIFC {
 namespace {
 
-/// A list and the text that its reader leaves.
+/// A list and the text after it.
 template <class List>
 struct Read {
   Read(const char* (*parse)(List&, const char*), const char* text) {
@@ -26,7 +26,7 @@ struct Read {
 using Integers = Read<LIST<INTEGER>>;
 using Texts = Read<LIST<STRING>>;
 
-TEST(ParseIntegers, ReadsWhatStandsBetweenParentheses) {
+TEST(ParseIntegers, ReadsTheNumbersBetweenParentheses) {
   const Integers angle(&ParseIntegers, " (49,6,-12),$");
   EXPECT_EQ(angle.Written(), "(49, 6, -12)");
   EXPECT_EQ(angle.rest, "$");
@@ -48,7 +48,7 @@ TEST(ParseIntegers, DoesNotMoveWithoutAParenthesis) {
   EXPECT_EQ(Integers(&ParseIntegers, "5,7").Written(), "$");
 }
 
-TEST(ParseIntegers, EndsWithTheTextWhereNoParenthesisCloses) {
+TEST(ParseIntegers, EndsWithTheTextIfNoParenthesisCloses) {
   EXPECT_EQ(Integers(&ParseIntegers, "(1,2").Written(), "(1, 2)");
   EXPECT_EQ(Integers(&ParseIntegers, "(1,2").rest, "(null)");
 }
@@ -71,13 +71,13 @@ TEST(ParseTexts, LeavesAnOmittedListUnset) {
   EXPECT_EQ(Texts(&ParseTexts, nullptr).rest, "(null)");
 }
 
-TEST(ParseTexts, TakesATextThatStandsAloneForAListOfOne) {
+TEST(ParseTexts, TreatsATextWithoutParenthesesAsAListOfOne) {
   const Texts texts(&ParseTexts, "'Mr.',$");
   EXPECT_EQ(texts.Written(), "('Mr.')");
   EXPECT_EQ(texts.rest, "$");
 }
 
-TEST(ParseTexts, EndsWithTheTextWhereSomethingDoesNotClose) {
+TEST(ParseTexts, EndsWithTheTextIfAQuoteOrParenthesisIsMissing) {
   for (const char* text : {"('a'", "('a','b", "(", "('a',"}) {
     EXPECT_EQ(Texts(&ParseTexts, text).rest, "(null)") << text;
   }

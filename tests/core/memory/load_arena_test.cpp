@@ -66,7 +66,7 @@ TEST(LoadArena, HoldsBlocksOfAnySizeApart) {
   Blocks().ExpectWhole();
 }
 
-TEST(LoadArena, PutsBlocksOneBehindTheOther) {
+TEST(LoadArena, PlacesBlocksOneAfterTheOther) {
   const LoadArena arena;
   void* const first = AllocateBlock(40);
   void* const second = AllocateBlock(8);
@@ -76,7 +76,7 @@ TEST(LoadArena, PutsBlocksOneBehindTheOther) {
   for (void* block : {first, second, third}) FreeBlock(block);
 }
 
-TEST(LoadArena, LeavesBlocksBehindThatOutliveIt) {
+TEST(LoadArena, KeepsBlocksThatOutliveIt) {
   std::unique_ptr<Blocks> blocks;
   {
     const LoadArena arena;
@@ -85,7 +85,7 @@ TEST(LoadArena, LeavesBlocksBehindThatOutliveIt) {
   blocks->ExpectWhole();
 }
 
-TEST(LoadArena, LeavesTheOuterOneAtWorkWhenItEnds) {
+TEST(LoadArena, RestoresTheOuterArenaWhenItEnds) {
   const LoadArena outer;
   void* const first = AllocateBlock(8);
   void* within = nullptr;
@@ -98,7 +98,7 @@ TEST(LoadArena, LeavesTheOuterOneAtWorkWhenItEnds) {
   for (void* block : {first, within, second}) FreeBlock(block);
 }
 
-TEST(LoadArena, IsOfItsThreadAlone) {
+TEST(LoadArena, ServesOnlyItsThread) {
   const LoadArena arena;
   void* const first = AllocateBlock(8);
   std::thread([] { FreeBlock(AllocateBlock(8)); }).join();
@@ -119,7 +119,7 @@ TEST(LoadArena, HoldsInstancesAndTheirAggregates) {
       instances.back()->Parse("IFCTHING((#1,#2),'text',IFCLABEL('label'))");
     }
   }
-  // Half of them grow and go while the others stay.
+  // Half of them grow and are destroyed while the others stay.
   for (std::size_t i = 0; i < instances.size(); i += 2) instances[i].reset();
   for (std::size_t i = 1; i < instances.size(); i += 2) {
     EXPECT_STREQ(instances[i]->GetStepName(), instances[1]->GetStepName());

@@ -42,7 +42,7 @@ void ExpectAsDynamicCast() {
   }
 }
 
-TEST(CastCache, AnswersAsTheCast) {
+TEST(CastCache, ReturnsTheSameAsTheCast) {
   ExpectAsDynamicCast<IfcCartesianPoint>();
   ExpectAsDynamicCast<IfcRepresentationItem>();
   ExpectAsDynamicCast<IfcTrimmingSelect>();
@@ -53,9 +53,9 @@ TEST(CastCache, AnswersAsTheCast) {
   ExpectAsDynamicCast<IfcUnit>();
 }
 
-TEST(CastCache, GivesNullForNull) { EXPECT_EQ(CastCache<IfcUnknown>().Cast(nullptr), nullptr); }
+TEST(CastCache, ReturnsNullForNull) { EXPECT_EQ(CastCache<IfcUnknown>().Cast(nullptr), nullptr); }
 
-/// One class of many.
+/// One of many classes.
 template <int N>
 class Kind : public Probe {};
 template <int N>
@@ -68,7 +68,7 @@ void AddKinds(std::vector<std::unique_ptr<IfcUnknown>>& instances,
   (instances.emplace_back(new MarkedKind<N>), ...);
 }
 
-TEST(CastCache, LearnsAnyCountOfClasses) {
+TEST(CastCache, HoldsAnyNumberOfClasses) {
   std::vector<std::unique_ptr<IfcUnknown>> instances;
   AddKinds(instances, std::make_integer_sequence<int, 200>());
   CastCache<IfcUnit> cache;

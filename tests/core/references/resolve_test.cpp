@@ -26,7 +26,7 @@ class Resolve : public testing::Test {
   LIST_OF_MEMBERS members{owner};
 };
 
-TEST_F(Resolve, KeepsTheLengthAndHoldsNullForWhatDoesNotFit) {
+TEST_F(Resolve, KeepsTheLengthAndHoldsNullForOtherClasses) {
   members.Parse("(#2,#1,#99,#2)");
   LIST<const IfcCartesianPoint*> view;
   ResolveMemberSet(view, members, &server);
@@ -52,7 +52,7 @@ TEST_F(Resolve, LeavesTheViewEmptyWithoutAServer) {
   EXPECT_TRUE(view.GetEmpty());
 }
 
-TEST_F(Resolve, ReachesValuesInPlaceAgainAndAgain) {
+TEST_F(Resolve, ResolvesInlineValuesRepeatedly) {
   members.Parse("(IFCPARAMETERVALUE(0.5),#2)");
   for (int look = 0; look < 2; ++look) {
     LIST<const IfcTrimmingSelect*> view;
@@ -65,7 +65,7 @@ TEST_F(Resolve, ReachesValuesInPlaceAgainAndAgain) {
   }
 }
 
-TEST_F(Resolve, ReachesNumbersWithoutOwner) {
+TEST_F(Resolve, ResolvesNumbersWithoutAnOwner) {
   EXPECT_EQ(ResolveMember(MEMBER(std::size_t{2}), &server), point);
   EXPECT_EQ(ResolveMember(MEMBER(std::size_t{2}), nullptr), nullptr);
   EXPECT_EQ(ResolveMember(MEMBER(owner, 2), nullptr), point) << "through the owner";

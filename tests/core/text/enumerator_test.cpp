@@ -5,7 +5,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(Enumerator, IsReadInPlaceByTheRulesOfEnum) {
+TEST(Enumerator, IsReadByTheRulesOfEnumWithoutACopy) {
   const char* text = "*,.A.";
   EnumText read = ReadEnumText(text);
   EXPECT_FALSE(read.exists);

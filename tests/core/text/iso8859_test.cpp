@@ -34,7 +34,7 @@ TEST(Iso8859, HasThePagesInTheirOrder) {
   EXPECT_EQ(DecodeIso8859('I', 0xFC), U'\u00FC');
 }
 
-TEST(Iso8859, HasNothingWhereAPageHasNoCharacter) {
+TEST(Iso8859, ReturnsZeroIfAPageHasNoCharacter) {
   EXPECT_EQ(DecodeIso8859('C', 0xA5), 0U);
   EXPECT_EQ(DecodeIso8859('F', 0xFF), 0U);
   EXPECT_EQ(DecodeIso8859('@', 0x41), 0U);

@@ -29,7 +29,7 @@ TEST(IsoBinary, HasNoBitsInAnyOtherForm) {
   }
 }
 
-TEST(IsoBinary, IsWrittenWithTheBitsThatAreNotUsedAhead) {
+TEST(IsoBinary, IsWrittenWithTheNumberOfUnusedBitsFirst) {
   EXPECT_EQ(BinaryOf("11111111"), "=0FF");
   EXPECT_EQ(BinaryOf("001111"), "=20F");
   EXPECT_EQ(BinaryOf("01"), "=21");

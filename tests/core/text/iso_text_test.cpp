@@ -26,11 +26,11 @@ class Offsets : public BadEscapeSink {
   std::vector<std::ptrdiff_t> offsets;
 };
 
-/// What is read of the text after an opening quote.
+/// The result of decoding the text after an opening quote.
 struct Decoded {
   std::string text;
   std::string rest;                 // after the closing quote; "(open)" if there is none
-  std::vector<std::ptrdiff_t> bad;  // where the bad escapes begin
+  std::vector<std::ptrdiff_t> bad;  // the starts of the bad escapes
 };
 
 Decoded Decode(const std::string& body) {
@@ -43,7 +43,7 @@ Decoded Decode(const std::string& body) {
   return decoded;
 }
 
-/// The text of a string in which nothing is bad.
+/// The text of a string without bad escapes.
 std::string TextOf(const std::string& body) {
   const Decoded decoded = Decode(body + "',$");
   EXPECT_EQ(decoded.rest, ",$") << body;
@@ -65,15 +65,15 @@ std::string Encode(const std::string& text) {
   return out;
 }
 
-/// What stands between the quotes.
+/// Returns the text between the quotes.
 std::string BodyOf(const std::string& quoted) { return quoted.substr(1, quoted.size() - 2); }
 
-TEST(IsoText, IsPlainWhereNothingIsEscaped) {
+TEST(IsoText, IsUnchangedIfNothingIsEscaped) {
   EXPECT_EQ(TextOf(""), "");
   EXPECT_EQ(TextOf("Wall (200 mm); #1 = \"x\" /* y */"), "Wall (200 mm); #1 = \"x\" /* y */");
 }
 
-TEST(IsoText, AppendsToWhatIsThere) {
+TEST(IsoText, AppendsToTheOutput) {
   std::string out = "a";
   const std::string body = "b'";
   DecodeIsoString(body.data(), body.data() + body.size(), out, nullptr);
@@ -109,7 +109,7 @@ TEST(IsoText, ShiftsWithinTheSelectedPage) {
   EXPECT_EQ(TextWithOneBad("\\PC\\x\\S\\%y"), std::string("x") + kBad + "y");
 }
 
-TEST(IsoText, EndsAfterAShiftedQuoteWhereTheValueEnds) {
+TEST(IsoText, EndsAfterAShiftedQuoteIfTheValueEnds) {
   struct Case {
     std::string body;
     std::string text;
@@ -133,7 +133,7 @@ TEST(IsoText, EndsAfterAShiftedQuoteWhereTheValueEnds) {
   }
 }
 
-TEST(IsoText, GoesOnAfterAShiftedQuoteWhereTextFollows) {
+TEST(IsoText, ContinuesAfterAShiftedQuoteIfTextFollows) {
   EXPECT_EQ(TextOf("\\S\\'5"),
             "\xC2\xA7"
             "5");
@@ -167,7 +167,7 @@ TEST(IsoText, HasGroupsOfEightDigits) {
   EXPECT_EQ(TextOf("\\X4\\000000e40001F3E0\\X0\\"), "\xC3\xA4\xF0\x9F\x8F\xA0");
 }
 
-TEST(IsoText, LosesABadEscapeAndNothingElse) {
+TEST(IsoText, LosesOnlyABadEscape) {
   const std::string bad = kBad;
   EXPECT_EQ(TextWithOneBad("C:\\temp"), "C:" + bad + "temp");
   EXPECT_EQ(TextWithOneBad("C:\\"), "C:" + bad);
@@ -218,7 +218,7 @@ TEST(IsoText, KeepsTheGoodGroupsOfABadEscape) {
   EXPECT_EQ(TextWithOneBad("a\\X4\\0000D83C\\X0\\b"), "a" + bad + "b");
 }
 
-TEST(IsoText, NeedsNoReplacementWhereOnlyTheEndOfTheGroupsIsMissing) {
+TEST(IsoText, NeedsNoReplacementIfOnlyTheEndOfTheGroupsIsMissing) {
   EXPECT_EQ(TextWithOneBad("caf\\X2\\00E9"), "caf\xC3\xA9");
   EXPECT_EQ(TextWithOneBad("caf\\X2\\00E9 and more"), "caf\xC3\xA9 and more");
   const Decoded decoded = Decode("\\X2\\00E9, it''s \\X2\\00E4\\X0\\',$");
@@ -226,7 +226,7 @@ TEST(IsoText, NeedsNoReplacementWhereOnlyTheEndOfTheGroupsIsMissing) {
   EXPECT_THAT(decoded.bad, ElementsAre(0));
 }
 
-TEST(IsoText, TellsUtf8FromLatin1ByTheWholeString) {
+TEST(IsoText, DistinguishesUtf8FromLatin1ByTheEntireString) {
   EXPECT_EQ(TextOf("T\xC3\xBCr"), "T\xC3\xBCr");
   EXPECT_EQ(TextOf("T\xFCr"), "T\xC3\xBCr");
   EXPECT_EQ(TextOf("T\xC3\xBCr \xFC"), "T\xC3\x83\xC2\xBCr \xC3\xBC");
@@ -249,12 +249,12 @@ TEST(IsoText, IsWrittenWithTheEscapesOfTheStandard) {
   EXPECT_EQ(Encode("a\tb\n\x7F"), "'a\\X\\09b\\X\\0A\\X\\7F'");
 }
 
-TEST(IsoText, IsWrittenFromLatin1WhereItIsNoUtf8) {
+TEST(IsoText, IsWrittenFromLatin1IfItIsNotUtf8) {
   EXPECT_EQ(Encode("T\xFCr"), "'T\\X2\\00FC\\X0\\r'");
 }
 
 char32_t RandomScalarValue(std::mt19937& random) {
-  // Each length of UTF-8, and the characters that have a meaning, are about equally frequent.
+  // Each length of UTF-8, and each character with a meaning, is about equally frequent.
   constexpr char kMarks[] = "'\\SXP024AE,) \t";
   if (random() % 2 == 0) return static_cast<char32_t>(kMarks[random() % (sizeof kMarks - 1)]);
   const std::uint32_t limits[] = {0x80, 0x800, 0x10000, 0x110000};
@@ -282,8 +282,8 @@ TEST(IsoText, ReadsBackEveryCharacterButZero) {
   EXPECT_TRUE(TextOf(BodyOf(Encode(text))) == text);
 }
 
-// A search for the end of each of these escapes up to the end of the string would take hours.
-TEST(IsoText, LooksForTheEndOfAnEscapeInLinearTime) {
+// If each of these escapes were searched to the end of the string, this test would take hours.
+TEST(IsoText, FindsTheEndOfAnEscapeInLinearTime) {
   std::string body;
   for (int i = 0; i < 500000; ++i) body += "\\X2\\00E4\\S\\'''";
   const Decoded decoded = Decode(body + "',$");

@@ -10,8 +10,8 @@
 #include <random>
 #include <string>
 
-// The functions of the C library are what these imitate, so they are the oracle here: the tests run
-// in the classic locale.
+// These functions must return the same as those of the C library, so the tests compare the results.
+// They run in the classic locale.
 
 namespace KelIFC {
 namespace {
@@ -22,8 +22,9 @@ std::uint64_t BitsOf(double value) {
   return bits;
 }
 
-/// Where the library of a system answers oddly what is no number, or where a nan ends, it is no
-/// oracle: ours are the answers of the common ones.
+/// The C libraries of some systems differ for text that is not a number, and in the end of a NaN.
+/// There the tests do not compare with the library; the expected results are those of the common
+/// libraries.
 bool IsOracle([[maybe_unused]] const std::string& text, [[maybe_unused]] const char* end) {
 #ifdef _WIN32
   return end != text.c_str() && text.find_first_of("nN") == std::string::npos;
@@ -47,7 +48,7 @@ void ExpectAsStrtod(const std::string& text) {
   }
 }
 
-TEST(NumberText, ReadsRealsAsTheLibraryDoes) {
+TEST(NumberText, ReadsRealsAsTheStandardLibraryDoes) {
   for (const char* text : {"1.5)",
                            "abc,7",
                            "",
@@ -209,18 +210,18 @@ TEST(NumberText, ReadsIntegersOf32Bits) {
   ExpectInteger("-2147483648", std::numeric_limits<std::int32_t>::min(), 11);
 }
 
-TEST(NumberText, TakesTheNearestBoundForAnIntegerOutOfRange) {
+TEST(NumberText, ReadsAnIntegerOutOfRangeAsTheNearestBound) {
   ExpectInteger("2147483648", 2147483647, 10);
   ExpectInteger("-2147483649", std::numeric_limits<std::int32_t>::min(), 11);
   ExpectInteger("99999999999999999999999", 2147483647, 23);
   ExpectInteger("-99999999999999999999999", std::numeric_limits<std::int32_t>::min(), 24);
 }
 
-TEST(NumberText, FindsNoIntegerWhereThereIsNone) {
+TEST(NumberText, FindsNoIntegerInOtherText) {
   for (const char* text : {"", "abc", "-", "+ 1", " ,", "- 1", ".5"}) ExpectInteger(text, 0, 0);
 }
 
-/// "%10.10lf" without the zeros at the end, with a point.
+/// "%10.10lf" without trailing zeros, but with a point.
 std::string Expected(double value) {
   char buffer[400];
   std::string text(
@@ -256,7 +257,7 @@ TEST(NumberText, FormatsTheLargestNumbersInFull) {
   }
 }
 
-TEST(NumberText, PadsWhatIsNotFinite) {
+TEST(NumberText, PadsNumbersThatAreNotFinite) {
   const double infinity = std::numeric_limits<double>::infinity();
   EXPECT_EQ(Formatted(infinity), "       inf.");
   EXPECT_EQ(Formatted(-infinity), "      -inf.");

@@ -10,7 +10,7 @@
 namespace KelIFC {
 namespace {
 
-/// The text and what is left behind the closing quote; "(open)" if there is none.
+/// The text and the rest after the closing quote; "(open)" if there is none.
 struct Decoded {
   std::string text;
   std::string rest;
@@ -29,7 +29,7 @@ std::string Encode(const std::string& text) {
   return out.str();
 }
 
-/// The rules one by one, as the oracle: one character at a time, with three flags.
+/// The plain rules as the reference: one character at a time, with three flags.
 Decoded DecodeSlowly(const std::string& text) {
   std::string read;
   bool inString = false;
@@ -66,7 +66,7 @@ Decoded DecodeSlowly(const std::string& text) {
   return {read, "(open)"};
 }
 
-TEST(Quoting, SkipsWhatStandsAheadOfTheFirstQuote) {
+TEST(Quoting, SkipsTheTextBeforeTheFirstQuote) {
   EXPECT_EQ(Decode("('IFC2X3','X')").text, "IFC2X3");
   EXPECT_EQ(Decode("\\'x'").text, "x") << "an escape means nothing outside";
 }
@@ -86,7 +86,7 @@ TEST(Quoting, ReadsHexadecimalBytes) {
   EXPECT_EQ(Decode("'\\X\\00z'").text, std::string("\0z", 2));
 }
 
-TEST(Quoting, UsesUpTwoCharactersBehindAnIncompleteByte) {
+TEST(Quoting, SkipsTwoCharactersAfterAnIncompleteByte) {
   EXPECT_EQ(Decode("'\\X\\9zb'").text,
             "\x09"
             "b");
@@ -97,23 +97,23 @@ TEST(Quoting, UsesUpTwoCharactersBehindAnIncompleteByte) {
   EXPECT_EQ(Decode("'\\X\\ 41'").text, "1") << "no blank ahead of the digits";
 }
 
-TEST(Quoting, DropsAMarkForHexadecimalThatStandsAlone) {
+TEST(Quoting, DropsAnIncompleteHexadecimalDirective) {
   EXPECT_EQ(Decode("'\\Xa'").text, "a");
   EXPECT_EQ(Decode("'\\X'").text, "");
   EXPECT_EQ(Decode("'\\X\\X\\41'").text, "41") << "the second mark is taken for digits";
 }
 
-TEST(Quoting, KeepsTheBackslashAheadOfOtherCharacters) {
+TEST(Quoting, KeepsTheBackslashBeforeOtherCharacters) {
   EXPECT_EQ(Decode("'\\S\\d\\n'").text, "\\S\\d\\n");
 }
 
-TEST(Quoting, RunsOnBehindADirectiveOfAnotherDialect) {
+TEST(Quoting, ContinuesAfterADirectiveOfAnotherDialect) {
   const Decoded decoded = Decode("'caf\\X2\\00E9\\X0\\',$,'next',1");
   EXPECT_EQ(decoded.text, "caf2\\00E90',$,");
   EXPECT_EQ(decoded.rest, "next',1");
 }
 
-TEST(Quoting, KeepsWhatItReadOfATextWithoutEnd) {
+TEST(Quoting, KeepsTheTextThatItReadBeforeTheEnd) {
   for (const char* text : {"'abc", "'abc\\", "'abc\\X", "'abc\\X\\", "'abc\\X\\4x"}) {
     EXPECT_EQ(Decode(text).rest, "(open)") << text;
   }
@@ -156,7 +156,7 @@ TEST(Quoting, ReadsBackWhatItWrites) {
   EXPECT_EQ(decoded.rest, ",rest");
 }
 
-TEST(Quoting, TellsTheCharactersThatFormAPairWithAnEscape) {
+TEST(Quoting, KnowsTheCharactersThatFormAPairWithAnEscape) {
   EXPECT_TRUE(IsEscapable('\''));
   EXPECT_TRUE(IsEscapable('\\'));
   EXPECT_FALSE(IsEscapable('X'));

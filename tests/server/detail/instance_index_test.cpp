@@ -10,7 +10,7 @@
 namespace KelIFC::detail {
 namespace {
 
-// A registry of slots over points that live elsewhere.
+// A registry of slots for points that other code owns.
 class InstanceIndexTest : public testing::Test {
  protected:
   void Append(IfcUnknown* instance) {
@@ -30,7 +30,7 @@ class InstanceIndexTest : public testing::Test {
   InstanceIndex index;
 };
 
-TEST_F(InstanceIndexTest, FindsWhatWasThereWhenItWasBuiltAndWhatCameLater) {
+TEST_F(InstanceIndexTest, FindsInstancesFromBeforeAndAfterItWasBuilt) {
   for (int i = 0; i < 500; ++i) Append(&points[i]);
   Build();
   for (int i = 500; i < 1000; ++i) Append(&points[i]);
@@ -46,13 +46,13 @@ TEST_F(InstanceIndexTest, FindsNothingInAnEmptyRegistry) {
   EXPECT_EQ(Find(nullptr), InstanceIndex::kNone);
 }
 
-TEST_F(InstanceIndexTest, NeverFollowsAPointer) {
+TEST_F(InstanceIndexTest, NeverDereferencesAPointer) {
   Append(&points[0]);
   Build();
   EXPECT_EQ(Find(reinterpret_cast<const IfcUnknown*>(8)), InstanceIndex::kNone);
 }
 
-TEST_F(InstanceIndexTest, GivesTheFirstOfTwoSlots) {
+TEST_F(InstanceIndexTest, ReturnsTheFirstOfTwoSlots) {
   Append(&points[0]);
   Append(&points[1]);
   Append(&points[0]);
@@ -64,7 +64,7 @@ TEST_F(InstanceIndexTest, GivesTheFirstOfTwoSlots) {
   EXPECT_EQ(index.Remove(slots.data(), &points[1]), (std::vector<std::uint32_t>{1, 3}));
 }
 
-TEST_F(InstanceIndexTest, GivesTheFirstNullSlot) {
+TEST_F(InstanceIndexTest, ReturnsTheFirstNullSlot) {
   Append(&points[0]);
   Append(nullptr);
   Append(nullptr);
@@ -76,14 +76,14 @@ TEST_F(InstanceIndexTest, GivesTheFirstNullSlot) {
   EXPECT_TRUE(index.Remove(slots.data(), nullptr).empty());
 }
 
-TEST_F(InstanceIndexTest, ForgetsANumberThatMovedOn) {
+TEST_F(InstanceIndexTest, ForgetsANumberThatMoved) {
   Append(&points[0]);
   Build();
   index.DropNumber(0);
   EXPECT_EQ(index.GetNumber(0), 0u);
 }
 
-TEST_F(InstanceIndexTest, StillFindsTheRestWhenInstancesGo) {
+TEST_F(InstanceIndexTest, FindsTheRestAfterInstancesAreRemoved) {
   for (auto& point : points) Append(&point);
   Build();
   for (std::size_t i = 0; i < points.size(); i += 3) {

@@ -21,7 +21,7 @@ TEST(NumberIndex, IsEmptyWhenNew) {
   EXPECT_EQ(index.Find(kMinusOne), NumberIndex::kNone);
 }
 
-TEST(NumberIndex, RefusesTheNumberZero) {
+TEST(NumberIndex, IgnoresTheNumberZero) {
   NumberIndex index;
   index.Set(0, 3);
   EXPECT_EQ(index.GetCount(), 0u);
@@ -39,7 +39,7 @@ TEST(NumberIndex, MovesANumberThatIsSetAgain) {
   EXPECT_EQ(index.GetCount(), 2u);
 }
 
-TEST(NumberIndex, WalksNumbersInRisingOrderWhateverTheyAre) {
+TEST(NumberIndex, VisitsAnyNumbersInAscendingOrder) {
   NumberIndex index;
   for (const std::uint64_t number : {kMinusOne, std::uint64_t{2147483647}, std::uint64_t{5},
                                      std::uint64_t{3}, std::uint64_t{9}}) {
@@ -75,7 +75,7 @@ TEST(NumberIndex, HoldsManyNumbersFarApart) {
   EXPECT_EQ(index.GetHighest(), std::uint64_t{20000} << 20);
 }
 
-TEST(NumberIndex, FindsTheNewHighestWhenTheHighestGoes) {
+TEST(NumberIndex, FindsTheNewHighestWhenTheHighestIsRemoved) {
   NumberIndex index;
   index.Set(2, 0);
   index.Set(900, 1);
@@ -84,7 +84,7 @@ TEST(NumberIndex, FindsTheNewHighestWhenTheHighestGoes) {
   EXPECT_EQ(index.GetHighest(), 2u);
 }
 
-TEST(NumberIndex, GivesTheLowestNumberThatIsFree) {
+TEST(NumberIndex, ReturnsTheLowestFreeNumber) {
   NumberIndex index;
   for (std::uint32_t number = 1; number <= 10; ++number) index.Set(number, number);
   EXPECT_EQ(index.GetLowestFree(), 11u);
@@ -104,7 +104,7 @@ TEST(NumberIndex, IsEmptyAfterClear) {
   EXPECT_EQ(index.GetLowestFree(), 1u);
 }
 
-// The plain map that the index stands for.
+// The standard map that the index must agree with.
 class Oracle {
  public:
   std::map<std::uint64_t, std::uint32_t> map;
@@ -141,7 +141,7 @@ std::uint64_t RandomNumber(std::mt19937& random) {
   }
 }
 
-TEST(NumberIndex, AnswersAsAPlainMapDoes) {
+TEST(NumberIndex, ReturnsTheSameAsAStandardMap) {
   for (unsigned seed = 0; seed < 20; ++seed) {
     std::mt19937 random(seed);
     NumberIndex index;

@@ -89,6 +89,12 @@ constexpr InterfaceRow kInterfaces[] = {
     {"IGeoMaterials", "E42B1860-E905-48F7-8E40-FD56761220D2",
      "_NewEnum (p,p) Count () () (i,p,p) ItemByIndex"},
     {"IGeoNumbers", "C1EE530F-19BF-418E-9B98-2C64A4A3CA0E", "_NewEnum Item Count (i)"},
+    {"IIFCLoadProgress", "1D8B2FFB-2479-4A20-AE3C-73EF3EEBFAD1", "Progress"},
+    {"IIFCServerOptions", "7BF595CC-80FC-4B2A-BB0B-6A80D0894175",
+     "get_Dialect put_Dialect get_MaxBytes put_MaxBytes get_MaxInstances put_MaxInstances "
+     "get_MaxStatementBytes put_MaxStatementBytes get_MaxMemoryBytes put_MaxMemoryBytes "
+     "SetProgress "
+     "CancelLoad get_LoadResult CheckModel get_ReportText get_ReportJson ReportCount SourceLine"},
 };
 
 struct ClassRow {
@@ -99,7 +105,8 @@ struct ClassRow {
 };
 
 constexpr ClassRow kClasses[] = {
-    {"CoIFCServer", "KelIFC.IFCServer.1", "39A9D627-0D20-4A20-9A95-8938494CC566", "IIFCServer"},
+    {"CoIFCServer", "KelIFC.IFCServer.1", "39A9D627-0D20-4A20-9A95-8938494CC566",
+     "IIFCServer IIFCServerOptions"},
     {"CoGeoStructure", "KelIFC.GeoStructure.1", "11988719-A5F6-4412-AEE4-0BE561F7A966",
      "IGeoStructure IGeoVersion IGeoVersion2"},
     {"CoGeoStorey", "KelIFC.GeoStorey.1", "C3FD50CF-74B2-4970-BB55-E5B08CA045B7", "IGeoStorey"},

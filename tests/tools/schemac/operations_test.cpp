@@ -41,6 +41,18 @@ TEST(ResolveOperations, GivesAggregatesAsTypedViews) {
                    "void SetHasXs(const SET<IfcT*>& items)"}));
 }
 
+TEST(ResolveOperations, SaysThatOtherSettersDoNotFillAnInverseAttribute) {
+  const Resolved resolved(
+      "entity IfcA : IfcUnknown all\n  doc A.\n"
+      "  X set IfcA\n  Y set IfcA inverse\n  ops GetX, GetY\n",
+      k2x3);
+  const auto& operations = resolved.model.Find("IfcA")->operations;
+  ASSERT_EQ(operations.size(), 2U);
+  EXPECT_EQ(operations[0].doc.find("Inverse"), std::string::npos);
+  EXPECT_NE(operations[1].doc.find("Inverse: setters of other instances never fill it."),
+            std::string::npos);
+}
+
 TEST(ResolveOperations, GivesTextsAsLabelsWhereTheReleaseHasThem) {
   EXPECT_EQ(OperationsOf("  X label\n  ops GetX, SetX\n", k2x3),
             (Texts{"IfcLabel GetX() const", "void SetX(const char* text)"}));
