@@ -5,6 +5,7 @@
 
 #include "kelifc/platform/com_guard.h"
 #include "kelifc/platform/com_text.h"
+#include "kelifc/server/load_options.h"
 
 namespace KelIFC {
 
@@ -30,6 +31,23 @@ HRESULT PutField(const Value& value, Value* field) {
 inline HRESULT PutText(BSTR text, std::string* field) {
   return Guard([&] {
     *field = NarrowText(text);
+    return S_OK;
+  });
+}
+
+/// Gives out a text of a model. In the dialect of ISO 10303-21 it is UTF-8, otherwise each byte is
+/// a character.
+inline HRESULT GiveModelText(const std::string& text, STEP_DIALECT dialect, BSTR* out) {
+  if (dialect == STEP_DIALECT_CLASSIC) return GiveText(text, out);
+  return Guard([&] { return GiveUtf8Text(text, out); });
+}
+
+/// Writes the text of a string to a text of a model. Null is the empty text. On failure the text is
+/// unchanged.
+inline HRESULT PutModelText(BSTR text, STEP_DIALECT dialect, std::string* field) {
+  if (dialect == STEP_DIALECT_CLASSIC) return PutText(text, field);
+  return Guard([&] {
+    *field = Utf8Text({text, SysStringLen(text)});
     return S_OK;
   });
 }

@@ -66,8 +66,8 @@ HRESULT CoGeoObject::put_GUID(BSTR text) {
   return status;
 }
 
-HRESULT CoGeoObject::get_Name(BSTR* out) { return GiveText(name, out); }
-HRESULT CoGeoObject::put_Name(BSTR text) { return PutText(text, &name); }
+HRESULT CoGeoObject::get_Name(BSTR* out) { return GiveModelText(name, dialect, out); }
+HRESULT CoGeoObject::put_Name(BSTR text) { return PutModelText(text, dialect, &name); }
 HRESULT CoGeoObject::get_ObjectCode(LONG* out) { return GetField(kObjectCode, out); }
 
 HRESULT CoGeoObject::get_SectionName(BSTR* out) {

@@ -8,6 +8,7 @@
 #include "kelifc/geo/server_link.h"
 #include "kelifc/platform/com_interfaces.h"
 #include "kelifc/platform/guid.h"
+#include "kelifc/server/load_options.h"
 
 namespace KelIFC {
 
@@ -73,6 +74,7 @@ class CoGeoObject {
   _GUID guid = {};
   std::uint64_t sectionIndex = kNoSection;  ///< index in the sections of the structure, from 0
   std::string name;
+  STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;  ///< of the name
   ServerLink server;
 };
 

@@ -16,13 +16,14 @@ class CoGeoStorey : public CoGeoStoreyBase {
   HRESULT get_Height(double* out) override { return GetField(height, out); }
   HRESULT put_Height(double value) override { return PutField(value, &height); }
   HRESULT get_Number(SHORT* out) override { return GetField(number, out); }
-  HRESULT get_Name(BSTR* out) override { return GiveText(name, out); }
-  HRESULT put_Name(BSTR text) override { return PutText(text, &name); }
+  HRESULT get_Name(BSTR* out) override { return GiveModelText(name, dialect, out); }
+  HRESULT put_Name(BSTR text) override { return PutModelText(text, dialect, &name); }
   HRESULT get_Level(double* out) override { return GetField(level, out); }
 
   double level = 0.0;   ///< in the unit of the file
   double height = 0.0;  ///< in the unit of the file
   std::string name;
+  STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;  ///< of the name
   SHORT number = kNoStoreyNumber;
   _GUID guid = {};  ///< of the instance in the model; no operation returns it
 

@@ -30,6 +30,15 @@ HRESULT GiveText(std::string_view text, BSTR* out) {
   return S_OK;
 }
 
+HRESULT GiveUtf8Text(std::string_view text, BSTR* out) {
+  if (out == nullptr) return E_POINTER;
+  *out = nullptr;
+  const std::wstring wide = WideFromUtf8(ToUtf8(text));
+  if (wide.size() > std::numeric_limits<UINT>::max()) return E_OUTOFMEMORY;
+  *out = SysAllocStringLen(wide.data(), static_cast<UINT>(wide.size()));
+  return *out == nullptr ? E_OUTOFMEMORY : S_OK;
+}
+
 #ifdef _WIN32
 
 std::string NarrowPath(std::wstring_view path) {

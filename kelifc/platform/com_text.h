@@ -23,6 +23,10 @@ KELIFC_API std::string Utf8Text(std::wstring_view text);
 /// Stores null and returns E_OUTOFMEMORY if there is no memory.
 KELIFC_API HRESULT GiveText(std::string_view text, BSTR* out);
 
+/// The same for UTF-8. A text that is not well-formed UTF-8 is read as GiveText reads it. Throws
+/// std::bad_alloc if there is no memory for the conversion.
+KELIFC_API HRESULT GiveUtf8Text(std::string_view text, BSTR* out);
+
 /// Returns the narrow form of a path. Off Windows a lone surrogate from U+DC80 to U+DCFF becomes
 /// the byte that WidePath made it from. Any other character that UTF-8 cannot encode becomes
 /// U+FFFD.

@@ -101,17 +101,29 @@ const char* FindMatchBytewise(const char* at, const char* end) {
   return at;
 }
 
+/// One bit for each character of a block, set where one of the matchers matches.
+template <class... Matchers>
+unsigned FindInBlock(const char* at) {
+  const block::Register text = block::Load(at);
+  block::Register hits = block::None();
+  ((hits = block::Either(hits, Matchers::Match(text))), ...);
+  return block::MaskOf(hits);
+}
+
 /// The first position in [at, end) whose character one of the matchers matches, or `end`. Reads
 /// nothing outside the range.
 template <class... Matchers>
 const char* FindMatch(const char* at, const char* end) {
   if constexpr (block::kSize != 0) {
+    const bool hasBlock = end - at >= block::kSize;
     for (; end - at >= block::kSize; at += block::kSize) {
-      const block::Register text = block::Load(at);
-      block::Register hits = block::None();
-      ((hits = block::Either(hits, Matchers::Match(text))), ...);
-      const unsigned mask = block::MaskOf(hits);
+      const unsigned mask = FindInBlock<Matchers...>(at);
       if (mask != 0) return at + std::countr_zero(mask);
+    }
+    if (hasBlock && at != end) {
+      // The last block overlaps the one before it, in which nothing matches.
+      const unsigned mask = FindInBlock<Matchers...>(end - block::kSize);
+      return mask == 0 ? end : end - block::kSize + std::countr_zero(mask);
     }
   }
   return FindMatchBytewise<Matchers...>(at, end);

@@ -11,6 +11,13 @@ namespace {
 
 constexpr bool IsLineEnd(int c) { return c == '\n' || c == '\r'; }
 constexpr bool IsGap(int c) { return IsLineEnd(c) || c == '\0'; }
+// No further is looked for the begin of a statement in a line.
+constexpr std::size_t kLongestBegin = 64;
+
+// What begins a statement at the begin of a line, besides a number.
+constexpr std::string_view kKeywords[] = {"FILE_DESCRIPTION", "FILE_NAME", "FILE_SCHEMA", "ENDSEC",
+                                          "DATA"};
+
 constexpr bool IsDigit(int c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
@@ -40,11 +47,10 @@ void IsoRules::SkipByteOrderMark() {
 
 char* IsoRules::TakeMark() {
   const char c = buffer[cursor];
+  if (c == ';' && !inString) return FinishTrimmed(cursor + 1);
   if (IsGap(c)) return TakeGap(c);
   if (inString) {
     TakeInString(c);
-  } else if (c == ';') {
-    return FinishTrimmed(cursor + 1);
   } else if (c == kQuote) {
     inString = true;
     ++cursor;
@@ -152,20 +158,37 @@ void IsoRules::SkipCommentBody(const SourcePlace& begin) {
   }
 }
 
-// True if the line at the cursor begins with `#`, digits and `=`, with blanks between.
+// True if the line at the cursor begins as a statement: with a number and `=`, or with a keyword of
+// the file's structure and `(` or `;`. Blanks may stand before and between.
 bool IsoRules::IsAtNewStatement() {
-  constexpr std::size_t kFurthest = 64;
-  std::size_t distance = 0;
-  const auto skipBlanks = [&] {
-    while (distance < kFurthest && (Peek(distance) == ' ' || Peek(distance) == '\t')) ++distance;
-  };
-  skipBlanks();
-  if (Peek(distance) != '#') return false;
-  const std::size_t digits = ++distance;
-  while (distance < kFurthest && IsDigit(Peek(distance))) ++distance;
-  if (distance == digits) return false;
-  skipBlanks();
-  return Peek(distance) == '=';
+  const std::size_t begin = SkipBlanks(0);
+  if (Peek(begin) == '#') {
+    std::size_t end = begin + 1;
+    while (end < kLongestBegin && IsDigit(Peek(end))) ++end;
+    return end > begin + 1 && Peek(SkipBlanks(end)) == '=';
+  }
+  for (const std::string_view keyword : kKeywords) {
+    if (!IsKeyword(begin, keyword)) continue;
+    const int next = Peek(SkipBlanks(begin + keyword.size()));
+    if (next == '(' || next == ';') return true;
+  }
+  return false;
+}
+
+// The distance of the first character, from a distance on, that is no blank.
+std::size_t IsoRules::SkipBlanks(std::size_t distance) {
+  while (distance < kLongestBegin && (Peek(distance) == ' ' || Peek(distance) == '\t')) ++distance;
+  return distance;
+}
+
+// True if a keyword stands at a distance from the cursor, in any case.
+bool IsoRules::IsKeyword(std::size_t distance, std::string_view keyword) {
+  for (const char letter : keyword) {
+    const int found = Peek(distance++);
+    if (found != letter && (found < 'a' || found > 'z' || found - 'a' + 'A' != letter))
+      return false;
+  }
+  return true;
 }
 
 // Ends the statement ahead of the line at the cursor, unless its text is of blanks only.

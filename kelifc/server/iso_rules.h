@@ -1,7 +1,9 @@
 #ifndef KELIFC_SERVER_ISO_RULES_H_
 #define KELIFC_SERVER_ISO_RULES_H_
 
+#include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #include "kelifc/server/scan_buffer.h"
 
@@ -16,8 +18,10 @@ namespace KelIFC {
 ///  - A `;` in a string is text. Quotes begin and end strings; a doubled quote ends one and begins
 ///    another, which comes to the same. A quote after `\S\` can be text: see CountQuotesAfterShift.
 ///  - A line that begins with `#`, digits and `=` begins a statement in any case, unless it is part
-///    of a comment. If the statement before it has no `;`, it ends there. If its string is open, it
-///    is left out as a whole. So a string without an end costs one statement.
+///    of a comment. So does a line that begins with FILE_DESCRIPTION, FILE_NAME, FILE_SCHEMA,
+///    ENDSEC or DATA and then `(` or `;`. If the statement before it has no `;`, it ends there. If
+///    its string is open, it is left out as a whole. So a string without an end costs one
+///    statement.
 ///  - Text after the last `;` is left out. So is a comment without an end.
 /// What has no end is reported.
 class IsoRules : public ScanBuffer {
@@ -44,6 +48,8 @@ class IsoRules : public ScanBuffer {
   bool SkipComment();
   void SkipCommentBody(const SourcePlace& begin);
   bool IsAtNewStatement();
+  std::size_t SkipBlanks(std::size_t distance);
+  bool IsKeyword(std::size_t distance, std::string_view keyword);
   char* EndBeforeNewStatement();
   char* FinishTrimmed(std::size_t next);
   std::size_t CountLeadingBlanks() const;

@@ -101,7 +101,12 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
   initial.origin = made.get();
   const int result = LoadFrom(*model, initial);
   if (result != LOAD_RESULT_LOADED) return result;
-  collector.EndLoad(*this);
+  try {
+    collector.EndLoad(*this);
+  } catch (...) {
+    Reset();
+    throw;
+  }
   dialect = options.dialect;
   source = std::move(model);
   if (made == nullptr) return result;

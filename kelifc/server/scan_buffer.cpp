@@ -24,6 +24,7 @@ std::uint64_t ScanBuffer::PeekNumber() const {
 
 // The piece that holds a character of the text, counted with the characters that were removed.
 const ScanBuffer::Piece& ScanBuffer::FindPiece(std::size_t offset) const {
+  if (pieces.empty()) return start;
   const auto next = std::upper_bound(
       pieces.begin(), pieces.end(), offset,
       [](std::size_t wanted, const Piece& piece) { return wanted < piece.offset; });

@@ -88,11 +88,12 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
   if (assignment.number == 0) return 0;
   NoteNumber(assignment.number);
   NoteOrder(assignment.number);
-  IfcUnknown* const made = MakeStated(assignment.text);
-  if (load.findings != nullptr && made != nullptr) NoteRepeat(assignment.number);
-  NoteStatement(assignment.number, made, assignment.text);
-  InsertItem(assignment.number, made);
-  if (load.findings != nullptr && made != nullptr) NotePlace(assignment.number);
+  std::unique_ptr<IfcUnknown> made(MakeStated(assignment.text));
+  const bool isNoted = load.findings != nullptr && made != nullptr;
+  if (isNoted) NoteRepeat(assignment.number);
+  NoteStatement(assignment.number, made.get(), assignment.text);
+  InsertItem(assignment.number, made.release());
+  if (isNoted) NotePlace(assignment.number);
   return 0;
 }
 
@@ -100,7 +101,8 @@ void IfcServer::NotePlace(std::size_t id) {
   constexpr std::uint64_t kMost = UINT32_MAX;
   const std::uint32_t position = idToIndex.Find(id);
   if (position == detail::NumberIndex::kNone) return;
-  if (places.size() <= position) places.resize(position + std::size_t{1});
+  if (places.size() < position) places.resize(position);
+  if (places.size() == position) places.emplace_back();
   const ScanBuffer& scanner = *load.scanner;
   const std::uint64_t begin = scanner.GetBeginOffset();
   places[position] = {begin, static_cast<std::uint32_t>(std::min(scanner.GetPlace().line, kMost)),

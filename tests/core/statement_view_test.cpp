@@ -119,7 +119,7 @@ TEST(StatementView, SkipsBlanks) {
 
 TEST(StatementView, LeavesOutASecondValueWithoutAComma) {
   EXPECT_THAT(SourcesOf("'it''s',1 (2)"), ElementsAre("'it'", "1"));
-  EXPECT_THAT(SourcesOf("A(1)'x'B(2),3"), ElementsAre("A(1)", "3"));
+  EXPECT_THAT(SourcesOf("'x'A(1),A(1)'x',3"), ElementsAre("'x'", "A(1)", "3"));
 }
 
 TEST(StatementView, HasNoKindForWhatIsNoValue) {

@@ -83,6 +83,48 @@ TEST(FaultyLoad, FreesAllMemory) {
   });
 }
 
+/// The small model in the dialect of ISO 10303-21, with all that needs memory of its own there.
+std::string IsoModel() {
+  return SmallModel() +
+         "#900=IFCMATERIAL('it''s \\X2\\20AC\\X0\\ \\bad \xE4');\n#900=IFCMATERIAL(\n/* twice */ "
+         "'x');"
+         "#901=(A('b')C(\"0FF\"));#902=IFCFOO('open);\n#903=IFCFOO(1);\n";
+}
+
+void TryLoadIso(IfcServer& server, const std::string& text) {
+  LoadOptions options;
+  options.dialect = STEP_DIALECT_ISO;
+  try {
+    std::istringstream stream(text);
+    server.LoadIfcMemory(text.data(), text.size(), options);
+    server.LoadIfcStream(stream, options);
+  } catch (const std::bad_alloc&) {
+  }
+}
+
+TEST(FaultyLoad, GivesAllMemoryBackInTheDialectOfIso) {
+  const std::string text = IsoModel();
+  SweepFailures([&] {
+    IfcServer server;
+    TryLoadIso(server, text);
+  });
+}
+
+TEST(FaultySave, GivesAllMemoryBackInTheDialectOfIso) {
+  const std::string text = IsoModel();
+  const TempFile target;
+  IfcServer server;
+  server.SetErrorHandler([](const std::string&) {});
+  TryLoadIso(server, text);
+  ASSERT_EQ(server.GetDialect(), STEP_DIALECT_ISO);
+  SweepFailures([&] {
+    try {
+      server.SaveIfcFile(target.GetPath());
+    } catch (const std::bad_alloc&) {
+    }
+  });
+}
+
 TEST(FaultyReset, NeedsNoMemory) {
   const TempFile file(SmallModel());
   IfcServer server;

@@ -45,6 +45,17 @@ TEST(CrossingText, ReplacesWhatUtf8CannotHold) {
   EXPECT_EQ(Utf8Text(std::wstring{wchar_t{0xDFE0}, wchar_t{0xD83C}}), replacement + replacement);
 }
 
+TEST(CrossingText, IsGivenFromUtf8) {
+  Bstr wide;
+  ASSERT_EQ(GiveUtf8Text("T\xC3\xBCr \xE2\x82\xAC \xF0\x9F\x8F\xA0", wide.Put()), S_OK);
+  EXPECT_EQ(wide.Text(), L"T\u00FCr \u20AC \U0001F3E0");
+  ASSERT_EQ(GiveUtf8Text("T\xFCr", wide.Put()), S_OK);
+  EXPECT_EQ(wide.Text(), L"T\u00FCr");
+  ASSERT_EQ(GiveUtf8Text("", wide.Put()), S_OK);
+  EXPECT_NE(wide.Get(), nullptr);
+  EXPECT_EQ(GiveUtf8Text("text", nullptr), E_POINTER);
+}
+
 TEST(CrossingText, IsEmptyForNull) {
   EXPECT_EQ(NarrowText(nullptr), "");
   Bstr wide;

@@ -134,6 +134,17 @@ TEST(IsoScanner, EndsAStatementWithoutASemicolonAtTheNextOne) {
               ElementsAre(SourcePlace{1, 1}, SourcePlace{2, 1}));
 }
 
+TEST(IsoScanner, TakesALineThatBeginsWithAKeywordOfTheStructure) {
+  LoadFindings findings;
+  EXPECT_THAT(
+      Scan("HEADER;\nFILE_NAME('O'Brien','');\nfile_schema (('X'));\nENDSEC\n data;", 5, &findings),
+      ElementsAre("HEADER", "file_schema (('X'))", "ENDSEC", "data"));
+  EXPECT_THAT(findings.GetPlaces(LoadFinding::kStatementWithoutEnd),
+              ElementsAre(SourcePlace{2, 1}, SourcePlace{4, 1}));
+  EXPECT_THAT(Scan("#1=X('a\nDATA');"), ElementsAre("#1=X('aDATA')"));
+  EXPECT_THAT(Scan("#1=X('a\nDATABASE;');"), ElementsAre("#1=X('aDATABASE;')"));
+}
+
 TEST(IsoScanner, SeesNoStatementInAComment) {
   EXPECT_THAT(Scan("#1=X(/*\n#2=Y();\n*/3);"), ElementsAre("#1=X(3)"));
 }

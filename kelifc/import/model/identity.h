@@ -17,12 +17,15 @@ struct IdentityFacts {
   /// The number in the registry, 0 if the product is no longer registered. It is read only if the
   /// name is empty.
   std::size_t instanceNumber = 0;
+
+  STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;  ///< of the name
 };
 
 template <class Root>
 IdentityFacts ReadIdentity(const Root& product, const IfcServer& server) {
   IdentityFacts facts;
   facts.name = product.GetName();
+  facts.dialect = server.GetDialect();
   facts.guid = product.GetGlobalGUID();
   if (facts.name.empty()) facts.instanceNumber = server.Find(&product);
   return facts;

@@ -53,6 +53,7 @@ HRESULT BuildStoreys(CoGeoStoreys& collection, std::vector<StoreyFacts> storeys)
     StoreyFacts& storey = storeys[i];
     made->level = storey.level;
     made->height = (i + 1 < storeys.size() ? storeys[i + 1].level : 0.0) - storey.level;
+    made->dialect = storey.dialect;
     made->name = !storey.name.empty() ? std::move(storey.name) : NumberName(storey.instanceNumber);
     made->number = Clamp(number++);
     made->guid = storey.guid;

@@ -36,6 +36,7 @@ std::vector<StoreyFacts> ReadStoreys(const IfcServer& server) {
     facts.level = StoreyLevel<Release>(*storey);
     facts.elevation = storey->GetElevation();
     facts.name = storey->GetName();
+    facts.dialect = server.GetDialect();
     facts.guid = storey->GetGlobalGUID();
     if (facts.name.empty()) facts.instanceNumber = server.Find(storey);
     storeys.push_back(std::move(facts));

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "kelifc/platform/guid.h"
+#include "kelifc/server/load_options.h"
 
 namespace KelIFC {
 
@@ -21,6 +22,8 @@ struct StoreyFacts {
   _GUID guid = {};
   /// The number in the registry. It is read only if the name is empty.
   std::size_t instanceNumber = 0;
+
+  STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;  ///< of the name
 };
 
 }  // namespace KelIFC
