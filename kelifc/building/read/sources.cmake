@@ -1,0 +1,2 @@
+target_sources(kelifc_building PRIVATE
+)
