@@ -133,7 +133,7 @@ int FaithfulSave::Prepare(std::string& reason) {
 }
 
 bool FaithfulSave::IsSame(const ContentHash& hash, std::string& reason) const {
-  if (hash.GetValue() == origin->hash) return true;
+  if (hash.GetValue() == server.sourceHash) return true;
   reason = "the source of the model has changed since it was loaded";
   return false;
 }
