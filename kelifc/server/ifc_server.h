@@ -302,6 +302,7 @@ class KELIFC_API IfcServer {
     bool isStopped = false;                // by the progress handler
     bool isBeyondLimit = false;            // one of the limits was reached
     bool isLaterSchema = false;            // the schema belongs to a later release
+    bool hasUnread = false;                // a numbered statement has no instance
     const ScanBuffer* scanner = nullptr;   // of the pass that runs
     IsoStatementReader* reader = nullptr;  // null in the classic dialect
     const LoadArena* memory = nullptr;     // of the model; null if it has no arena
@@ -348,6 +349,7 @@ class KELIFC_API IfcServer {
   void NoteRepeat(std::size_t id);
   void NotePlace(std::size_t id);
   void NoteStatement(std::size_t id, const IfcUnknown* made, const char* text);
+  bool IsStatementOf(std::size_t id);
   bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
