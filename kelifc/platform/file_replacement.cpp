@@ -151,10 +151,10 @@ bool Flush(const char* path, int flags) {
 bool FlushToDisk(const std::string& path) { return Flush(path.c_str(), O_WRONLY); }
 
 bool Rename(const std::string& from, const std::string& to) {
+  const std::string folder = FolderOf(to);  // nothing may be allocated after the rename
   if (rename(from.c_str(), to.c_str()) != 0) return false;
   // The file has been renamed. If the folder cannot be flushed, only the time at which that reaches
   // the disk is uncertain.
-  const std::string folder = FolderOf(to);
   Flush(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY);
   return true;
 }

@@ -8,13 +8,14 @@
 namespace KelIFC {
 namespace {
 
-// An instance of raw text writes all that it keeps.
+// An instance of raw text writes all that it keeps. If it cannot be written, for lack of memory,
+// the two count as different.
 bool CompareRaw(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison& /*same*/) {
   TextStream first;
   TextStream second;
   a.Write(first);
   b.Write(second);
-  return first.GetText() == second.GetText();
+  return first && second && first.GetText() == second.GetText();
 }
 
 const ComparisonTable& GetCoreComparisons() {

@@ -246,10 +246,12 @@ class KELIFC_API IfcServer {
   const LoadReport& GetLoadReport() const { return report; }
 
   /// Adds to the report what a load does not look for: references to numbers that no statement has.
-  /// It reads the source twice, in linear time, and takes 4 bytes of memory for each number.
-  /// Returns false, and leaves the report as it was, if no model was loaded with options or if the
-  /// source cannot be read. The second call for a model has nothing to do. Throws std::bad_alloc
-  /// where memory is lacking; the report is then what it was.
+  /// Reads the source twice, in linear time, and allocates 4 bytes of memory for each number.
+  /// Returns true if the report is complete; a second call for the same model does nothing.
+  ///
+  /// Returns false if no model was loaded with options, if the source cannot be read, or if it is
+  /// not the source that was loaded. In the last case LoadReport::hasSourceChanged is true. The
+  /// rest of the report does not change. The same holds if it throws std::bad_alloc.
   bool CheckModel();
 
   /// Where the source has the statement of an instance: all 0 for a number that no statement has,
@@ -301,12 +303,14 @@ class KELIFC_API IfcServer {
     LoadFindings* findings = nullptr;      // null if nothing is noted
     ReportCollector* collector = nullptr;  // null if nothing is counted
     ModelOrigin* origin = nullptr;         // receives what a faithful save needs; null for none
+    std::uint64_t* hash = nullptr;         // receives the hash of the source; null for none
     bool keepsUnknown = false;             // as IfcOther, where the release has no class
 
     bool isRunning = false;
     bool isStopped = false;                // by the progress handler
     bool isBeyondLimit = false;            // one of the limits was reached
     bool isLaterSchema = false;            // the schema belongs to a later release
+    bool hasUnread = false;                // a numbered statement has no instance
     const ScanBuffer* scanner = nullptr;   // of the pass that runs
     IsoStatementReader* reader = nullptr;  // null in the classic dialect
     const LoadArena* memory = nullptr;     // of the model; null if it has no arena
@@ -335,7 +339,7 @@ class KELIFC_API IfcServer {
 
   int LoadWithOptions(std::shared_ptr<const ModelSource> model, const LoadOptions& options);
   void KeepSource(std::shared_ptr<const ModelSource> kept);
-  void ScanOrigin(std::istream& in, ModelOrigin& target);
+  void ScanSource(std::istream& in);
   int LoadFrom(const ModelSource& model, const LoadState& initial);
   int LoadPasses(const ModelSource& model);
   void ForgetLoad();
@@ -353,6 +357,7 @@ class KELIFC_API IfcServer {
   void NoteRepeat(std::size_t id);
   void NotePlace(std::size_t id);
   void NoteStatement(std::size_t id, const IfcUnknown* made, const char* text);
+  bool IsStatementOf(std::size_t id);
   bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
@@ -387,6 +392,7 @@ class KELIFC_API IfcServer {
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
   LoadReport report;
   std::shared_ptr<const ModelSource> source;  // of the last LoadIfc; null if there is none
+  std::uint64_t sourceHash = 0;               // of the bytes of the source
   std::vector<StatementPlace> places;         // by position in `items`; shorter than that
   std::shared_ptr<const ModelOrigin> origin;  // null if the model cannot be saved faithfully
   LoadState load;

@@ -42,6 +42,9 @@ struct LoadReport {
   /// What is wrong in the file, with the first places of each kind.
   LoadFindings findings;
 
+  /// True if the last call of CheckModel found that the source has changed since the load.
+  bool hasSourceChanged = false;
+
   /// True after a call of CheckModel that returned true. What follows is only known then.
   bool isChecked = false;
   std::map<EntityAttribute, std::uint64_t> danglingByAttribute;  ///< dangling references

@@ -14,7 +14,6 @@ namespace KelIFC {
 class ModelOrigin {
  public:
   std::shared_ptr<const ModelSource> source;
-  std::uint64_t hash = 0;  // of the bytes of the source
 
   // Positions in the registry: statements made the instances below the first one, and classes
   // added the instances from there to the second one.

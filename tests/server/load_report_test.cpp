@@ -162,6 +162,31 @@ TEST_P(LoadReportInDialect, ChecksAStreamAndAFileToo) {
   EXPECT_EQ(server.GetLoadReport().findings.GetCount(LoadFinding::kDanglingReference), 0U);
 }
 
+TEST_P(LoadReportInDialect, IsNotCheckedIfTheSourceHasChanged) {
+  const std::string text = ModelOf("IFC2X3", "#1=IFCPOLYLINE((#2));\n");
+  LoadOptions options;
+  options.dialect = GetParam();
+  IfcServer server;
+  const TempFile file(text);
+  ASSERT_EQ(server.LoadIfc(file.GetPath(), options), 0);
+  std::string changed = text;
+  changed[changed.find("#2") + 1] = '3';  // the same length
+  std::ofstream(file.GetPath(), std::ios::binary) << changed;
+  EXPECT_FALSE(server.CheckModel());
+  EXPECT_TRUE(server.GetLoadReport().hasSourceChanged);
+  EXPECT_FALSE(server.GetLoadReport().isChecked);
+  EXPECT_EQ(server.GetLoadReport().findings.GetCount(LoadFinding::kDanglingReference), 0U);
+
+  std::ofstream(file.GetPath(), std::ios::binary) << text << " ";
+  EXPECT_FALSE(server.CheckModel());
+  EXPECT_TRUE(server.GetLoadReport().hasSourceChanged);
+
+  std::ofstream(file.GetPath(), std::ios::binary) << text;
+  EXPECT_TRUE(server.CheckModel());
+  EXPECT_FALSE(server.GetLoadReport().hasSourceChanged);
+  EXPECT_EQ(server.GetLoadReport().findings.GetCount(LoadFinding::kDanglingReference), 1U);
+}
+
 TEST_P(LoadReportInDialect, HoldsTheCountsUpToALimit) {
   LoadLimits limits;
   limits.maxInstances = 2;
