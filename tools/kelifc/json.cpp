@@ -1,5 +1,8 @@
 #include "tools/kelifc/json.h"
 
+#include <array>
+#include <cmath>
+
 namespace command {
 namespace {
 
@@ -27,6 +30,15 @@ std::string ToText(const Json& object) {
     text += OnOneLine(key) + ": " + OnLines(value);
   }
   return text + "\n}\n";
+}
+
+std::string JsonText(std::string_view text) { return OnOneLine(Json(text)); }
+
+std::string NumberText(double value) {
+  if (!std::isfinite(value)) return "null";
+  std::array<char, 64> digits = {};
+  char* const end = nlohmann::detail::to_chars(digits.data(), digits.data() + digits.size(), value);
+  return {digits.data(), end};
 }
 
 }  // namespace command

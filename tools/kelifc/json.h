@@ -3,6 +3,7 @@
 
 #include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 
 namespace command {
 
@@ -13,6 +14,13 @@ using Json = nlohmann::ordered_json;
 /// of its entries has a line. A number reads back as the same double, and a number that is not
 /// finite becomes null. A byte that is not UTF-8 becomes U+FFFD.
 std::string ToText(const Json& object);
+
+/// A text as JSON, with its quotes.
+std::string JsonText(std::string_view text);
+
+/// A number as JSON: the shortest text that reads back as the same double; null for a number that
+/// is not finite.
+std::string NumberText(double value);
 
 }  // namespace command
 
