@@ -18,7 +18,7 @@ constexpr std::size_t kLossReasonCount = 11;
 /// lost == products.
 struct ClassAudit {
   std::string className;
-  BuildingTotals totals;  ///< of this class
+  BuildingTotals totals;                                ///< of this class
   std::array<std::size_t, kLossReasonCount> lost = {};  ///< by reason
 };
 

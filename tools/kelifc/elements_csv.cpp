@@ -13,10 +13,10 @@ using KelIFC::BuildingProfile;
 
 using StoreyNames = std::unordered_map<std::size_t, std::string>;
 
-constexpr const char* kHeading[] = {"id",        "class",       "guid",   "name",   "tag",
-                                    "type",      "kind",        "storey", "material", "profile",
-                                    "designation", "length",    "area",   "thickness", "volume",
-                                    "deviation", "approximate", "partOf"};
+constexpr const char* kHeading[] = {"id",          "class",       "guid",   "name",      "tag",
+                                    "type",        "kind",        "storey", "material",  "profile",
+                                    "designation", "length",      "area",   "thickness", "volume",
+                                    "deviation",   "approximate", "partOf"};
 
 const BuildingProfile* ProfileOf(const Building& building, const BuildingElement& element) {
   if (!element.member || element.member->profile >= building.profiles.size()) return nullptr;

@@ -64,9 +64,8 @@ std::string ElementTable(const Building& building) {
     const std::optional<double> length = LengthOf(element);
     table.Add({Number(element.id), element.className, Visible(element.name),
                storeys[element.storey], std::string(TextOf(element.kind)),
-               SectionText(building, element), length ? Brief(*length) : "",
-               Brief(element.volume), Brief(1000.0 * element.deviation),
-               element.isApproximate ? "approximate" : ""});
+               SectionText(building, element), length ? Brief(*length) : "", Brief(element.volume),
+               Brief(1000.0 * element.deviation), element.isApproximate ? "approximate" : ""});
   }
   return "\nElements\n" + table.ToText();
 }

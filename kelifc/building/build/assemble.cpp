@@ -54,7 +54,9 @@ bool IsDecomposed(const ProductFacts& product) {
 class Assembler {
  public:
   Assembler(ModelFacts model, const ReadingOptions& options)
-      : options(options), products(std::move(model.products)), bodies(options),
+      : options(options),
+        products(std::move(model.products)),
+        bodies(options),
         building(std::move(model.head)) {}
 
   Building Run();
@@ -122,7 +124,8 @@ void Assembler::Add(ProductFacts& product) {
     return;
   }
   std::optional<Unreadable> fault = product.fault;
-  if (!fault && product.items.empty()) fault = Unreadable{LossReason::kNoRepresentation, product.id};
+  if (!fault && product.items.empty())
+    fault = Unreadable{LossReason::kNoRepresentation, product.id};
   if (!fault) fault = AddElement(product);
   if (fault) AddLoss(product, *fault);
   place.isElement = !fault;
@@ -204,9 +207,9 @@ void Assembler::AddBody(BuildingElement& element, EvaluatedBody body) const {
   element.body.box = body.box;
   element.body.volume = body.volume;
   element.body.isClosed = body.isClosed;
-  const bool isKept = options.keptBodies == KeptBodies::kAll ||
-                      (options.keptBodies == KeptBodies::kOfBodies &&
-                       element.kind == ElementKind::kBody);
+  const bool isKept =
+      options.keptBodies == KeptBodies::kAll ||
+      (options.keptBodies == KeptBodies::kOfBodies && element.kind == ElementKind::kBody);
   if (isKept) element.body.mesh = std::make_shared<const Mesh>(std::move(body.mesh));
 }
 

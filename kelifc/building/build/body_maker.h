@@ -17,7 +17,9 @@ namespace KelIFC::building {
 class BodyMaker {
  public:
   explicit BodyMaker(const ReadingOptions& options)
-      : pointsLeft(options.maxPoints), maxBodyPoints(options.maxBodyPoints), depth(options.maxDepth) {}
+      : pointsLeft(options.maxPoints),
+        maxBodyPoints(options.maxBodyPoints),
+        depth(options.maxDepth) {}
 
   /// Announces one call of Make. Only what was announced more than once is shared.
   void Announce(const std::vector<SolidPointer>& items);

@@ -46,9 +46,9 @@ StoreysByHeight::StoreysByHeight(const std::vector<BuildingStorey>& storeys) {
 
 /// The position of the highest level up to a height; 0 if all are above it.
 std::size_t StoreysByHeight::LevelUpTo(double height) const {
-  const auto above = std::upper_bound(
-      levels.begin(), levels.end(), height + kSameElevation,
-      [](double limit, const Level& level) { return limit < level.elevation; });
+  const auto above =
+      std::upper_bound(levels.begin(), levels.end(), height + kSameElevation,
+                       [](double limit, const Level& level) { return limit < level.elevation; });
   return above == levels.begin() ? 0 : static_cast<std::size_t>(above - levels.begin()) - 1;
 }
 

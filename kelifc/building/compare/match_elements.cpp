@@ -46,17 +46,18 @@ Cell CellOf(const Point3& point, double size) {
 class Matcher {
  public:
   Matcher(const Building& oldBuilding, const Building& newBuilding)
-      : oldBuilding(oldBuilding), newBuilding(newBuilding),
-        isOldMatched(oldBuilding.elements.size()), isNewMatched(newBuilding.elements.size()) {}
+      : oldBuilding(oldBuilding),
+        newBuilding(newBuilding),
+        isOldMatched(oldBuilding.elements.size()),
+        isNewMatched(newBuilding.elements.size()) {}
 
   template <class KeyOf>
   void MatchByKey(MatchedBy matchedBy, KeyOf keyOf);
   void MatchByPlace(double largestDistance);
 
   std::vector<ElementMatch> Take() {
-    std::sort(matches.begin(), matches.end(), [](const ElementMatch& a, const ElementMatch& b) {
-      return a.oldIndex < b.oldIndex;
-    });
+    std::sort(matches.begin(), matches.end(),
+              [](const ElementMatch& a, const ElementMatch& b) { return a.oldIndex < b.oldIndex; });
     return std::move(matches);
   }
 
@@ -171,9 +172,8 @@ std::string PlaceKey(const Building& building, const BuildingElement& element) {
 std::vector<ElementMatch> MatchElements(const Building& oldBuilding, const Building& newBuilding,
                                         double largestDistance) {
   Matcher matcher(oldBuilding, newBuilding);
-  matcher.MatchByKey(MatchedBy::kGuid, [](const Building&, const BuildingElement& element) {
-    return element.guid;
-  });
+  matcher.MatchByKey(MatchedBy::kGuid,
+                     [](const Building&, const BuildingElement& element) { return element.guid; });
   matcher.MatchByKey(MatchedBy::kGeometry, PlaceKey);
   matcher.MatchByPlace(largestDistance);
   return matcher.Take();
