@@ -79,16 +79,14 @@ TEST(Difference, AProfileThatTurnsAboutTheAxisIsARotation) {
 }
 
 TEST(Difference, NamesTheProfilesThatDiffer) {
-  const ElementChange change =
-      OnlyChange(MemberFrom(1, {}, 3.0, 0), MemberFrom(1, {}, 3.0, 1));
+  const ElementChange change = OnlyChange(MemberFrom(1, {}, 3.0, 0), MemberFrom(1, {}, 3.0, 1));
   EXPECT_EQ(change.profile, std::make_pair(std::string("C30"), std::string("C40")));
 }
 
 TEST(Difference, ShowsTheSizesOfProfilesWithTheSameName) {
-  const ElementChange change =
-      OnlyChange(MemberFrom(1, {}, 3.0, 0), MemberFrom(1, {}, 3.0, 2));
-  EXPECT_EQ(change.profile, std::make_pair(std::string("C30 (circle d=300)"),
-                                           std::string("C30 (circle d=310)")));
+  const ElementChange change = OnlyChange(MemberFrom(1, {}, 3.0, 0), MemberFrom(1, {}, 3.0, 2));
+  EXPECT_EQ(change.profile,
+            std::make_pair(std::string("C30 (circle d=300)"), std::string("C30 (circle d=310)")));
 }
 
 TEST(Difference, ASurfaceHasAThicknessAndTheLengthOfItsOutline) {
@@ -123,10 +121,9 @@ TEST(Difference, ElementsWithoutACommonGuidAreMatchedByGeometry) {
 }
 
 TEST(Difference, ByGeometryTheSameSectionIsPreferredToTheNearest) {
-  const BuildingDifference difference =
-      Compare(Of({MemberFrom(1, {}, 3.0, 0)}),
-              Of({Renumbered(MemberFrom(2, {0.01, 0.0, 0.0}, 3.0, 1)),
-                  Renumbered(MemberFrom(3, {0.2, 0.0, 0.0}, 3.0, 0))}));
+  const BuildingDifference difference = Compare(
+      Of({MemberFrom(1, {}, 3.0, 0)}), Of({Renumbered(MemberFrom(2, {0.01, 0.0, 0.0}, 3.0, 1)),
+                                           Renumbered(MemberFrom(3, {0.2, 0.0, 0.0}, 3.0, 0))}));
   ASSERT_EQ(difference.changed.size(), 1u);
   EXPECT_EQ(difference.changed[0].newId, 1003u);
   EXPECT_EQ(difference.added, Ids{1002});

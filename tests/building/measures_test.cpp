@@ -45,8 +45,8 @@ TEST(Measures, EdgesThatAreArcsAreMeasuredAsArcs) {
 
 TEST(Measures, ACurvedWallIsItsBaseLineTimesItsHeight) {
   BuildingElement wall = Slab(1, 1.0, 1.0);
-  wall.surface->sweep = {CurveForm::kArc, {{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {-1.0, 0.0, 0.0}},
-                         {0.0, 0.0, 1.0}, 3.0};
+  wall.surface->sweep = {
+      CurveForm::kArc, {{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {-1.0, 0.0, 0.0}}, {0.0, 0.0, 1.0}, 3.0};
   EXPECT_NEAR(*LengthOf(wall), kPi, 1e-12);
   EXPECT_NEAR(AreaOf(*wall.surface), 3.0 * kPi, 1e-12);
   EXPECT_NEAR(PerimeterOf(*wall.surface), kPi, 1e-12);

@@ -66,7 +66,9 @@ TEST(Assemble, EqualProfilesAndMaterialsAreOneInTheOrderOfTheirFirstUse) {
 
 TEST(Assemble, TheMaterialOfLayersIsThatOfTheThickest) {
   ProductFacts wall = Product(1, "IfcWall", {Block(5.0, 0.3, 3.0)});
-  wall.material.layers = {{"plaster", true, 0.02}, {"", false, 0.5}, {"brick", true, 0.24},
+  wall.material.layers = {{"plaster", true, 0.02},
+                          {"", false, 0.5},
+                          {"brick", true, 0.24},
                           {"foam", true, std::numeric_limits<double>::quiet_NaN()}};
   const Building building = Assembled({wall});
   ASSERT_EQ(building.totals.surfaces, 1u);

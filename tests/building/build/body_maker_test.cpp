@@ -48,8 +48,8 @@ TEST(BodyMaker, ScalesAndMirrorsWhatIsShared) {
   scaled.x = {2.0, 0.0, 0.0};
   Transform3 mirrored;
   mirrored.x = {-1.0, 0.0, 0.0};
-  const auto bodies =
-      MakeAll({Mapped({Block(2.0, 4.0, 1.0)})}, {Transform3(), scaled, mirrored, MovedTo(1.0, 0.0, 0.0)});
+  const auto bodies = MakeAll({Mapped({Block(2.0, 4.0, 1.0)})},
+                              {Transform3(), scaled, mirrored, MovedTo(1.0, 0.0, 0.0)});
   EXPECT_NEAR(bodies[1].body.volume, 16.0, 1e-9);
   ExpectBox(bodies[1].body.box, {-2.0, -2.0, 0.0}, {2.0, 2.0, 1.0});
   EXPECT_NEAR(bodies[2].body.volume, 8.0, 1e-9);

@@ -48,7 +48,8 @@ void ExpectWindowOutline(const std::vector<Point3>& outline) {
 
 TEST(Openings, OutlineIsTheSectionWithTheMiddlePlaneOfASurface) {
   // The block is upright: its extrusion is not the direction of the opening.
-  const BuildingOpening opening = Make(Window({Block(1.0, 0.3, 1.2)}, MovedTo(2.0, 0.05, 1.0)), Wall());
+  const BuildingOpening opening =
+      Make(Window({Block(1.0, 0.3, 1.2)}, MovedTo(2.0, 0.05, 1.0)), Wall());
   EXPECT_EQ(opening.id, 5u);
   EXPECT_EQ(opening.guid, "g");
   EXPECT_EQ(opening.fill, 6u);
@@ -58,7 +59,8 @@ TEST(Openings, OutlineIsTheSectionWithTheMiddlePlaneOfASurface) {
 }
 
 TEST(Openings, ANicheIsMovedToTheMiddlePlane) {
-  const BuildingOpening opening = Make(Window({Block(1.0, 0.1, 1.2)}, MovedTo(2.0, 0.3, 1.0)), Wall());
+  const BuildingOpening opening =
+      Make(Window({Block(1.0, 0.1, 1.2)}, MovedTo(2.0, 0.3, 1.0)), Wall());
   EXPECT_NEAR(opening.depth, 0.1, 1e-9);
   ExpectWindowOutline(opening.outline);
 }

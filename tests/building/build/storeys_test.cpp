@@ -48,9 +48,9 @@ TEST(Storeys, HeightReachesToTheNextHigherStorey) {
 }
 
 TEST(Storeys, AnElevationThatIsNotFiniteIsMissing) {
-  const auto storeys = Arranged({Storey(1, std::numeric_limits<double>::quiet_NaN()),
-                                 Storey(2, std::numeric_limits<double>::infinity()),
-                                 Storey(3, -1.0)});
+  const auto storeys =
+      Arranged({Storey(1, std::numeric_limits<double>::quiet_NaN()),
+                Storey(2, std::numeric_limits<double>::infinity()), Storey(3, -1.0)});
   EXPECT_EQ(storeys[0].id, 3u);
   EXPECT_FALSE(storeys[1].hasElevation);
   EXPECT_EQ(storeys[1].elevation, 0.0);
