@@ -68,17 +68,17 @@ TEST(Elements, JsonHasItsMembersInTheirOrder) {
   EXPECT_THAT(Members(building["profiles"][0]),
               ElementsAre("name", "shape", "parameters", "outline", "holes", "area", "iy", "iz",
                           "iyz", "designation"));
-  EXPECT_THAT(Members(building["totals"]),
-              ElementsAre("products", "members", "surfaces", "bodies", "decomposed", "lost",
-                          "approximate"));
+  EXPECT_THAT(Members(building["totals"]), ElementsAre("products", "members", "surfaces", "bodies",
+                                                       "decomposed", "lost", "approximate"));
 }
 
 TEST(Elements, MembersOfAnElementDependOnItsKind) {
   const auto building = Json({"elements", "--json", "house.ifc"});
   const std::vector<std::string> common = {
-      "id",     "class",     "guid",        "name",        "tag",     "type", "storey",
-      "storeyByHeight", "partOf", "material", "kind",     "source",  "mapped",
-      "deviation", "volumeRatio", "approximate", "cutouts", "box", "volume", "body", "openings"};
+      "id",     "class",          "guid",        "name",        "tag",     "type",
+      "storey", "storeyByHeight", "partOf",      "material",    "kind",    "source",
+      "mapped", "deviation",      "volumeRatio", "approximate", "cutouts", "box",
+      "volume", "body",           "openings"};
   std::vector<std::string> member = common;
   for (const char* name : {"curve", "axis", "profile", "profileEnd", "y", "offset", "ends"}) {
     member.emplace_back(name);
@@ -263,8 +263,8 @@ TEST(Diff, AChangeNamesWhatChanged) {
   WriteFile(path, text);
   const auto changed = Json({"diff", "--json", "house.ifc", path})["changed"];
   ASSERT_FALSE(changed.empty());
-  EXPECT_THAT(Members(changed[0]), ElementsAre("old", "new", "matchedBy", "moved", "rotated",
-                                               "profile", "length"));
+  EXPECT_THAT(Members(changed[0]),
+              ElementsAre("old", "new", "matchedBy", "moved", "rotated", "profile", "length"));
   EXPECT_EQ(changed[0]["matchedBy"], "guid");
 }
 
