@@ -5,4 +5,24 @@ target_sources(kelifc_building PRIVATE
   build/openings.cpp
   build/profile_key.cpp
   build/storeys.cpp
+  build/idealise.cpp
+  build/idealise_boundary.cpp
+  build/idealise_box.cpp
+  build/idealise_curved.cpp
+  build/idealise_curved_wall.cpp
+  build/idealise_direct.cpp
+  build/idealise_directions.cpp
+  build/idealise_ends.cpp
+  build/idealise_measure.cpp
+  build/idealise_member.cpp
+  build/idealise_orient.cpp
+  build/idealise_profile.cpp
+  build/idealise_reading.cpp
+  build/idealise_scan.cpp
+  build/idealise_slices.cpp
+  build/idealise_solid.cpp
+  build/idealise_source.cpp
+  build/idealise_surface.cpp
+  build/idealise_taper.cpp
+  build/point_match.cpp
 )
