@@ -15,11 +15,14 @@ namespace KelIFC::building {
 /// width does.
 std::vector<Region> RegionsOf(const ProfileFacts& facts);
 
-/// A contour with its arcs cut into chords of the error kChordError, without repeated points.
+/// A contour with its arcs cut into chords of the error kChordError, a full circle into 38 chords or
+/// more. Repeated points and points in the middle of a straight edge are left out. Empty if a
+/// coordinate is not finite or beyond 1e9 m, or if less than three points are left.
 Outline Flatten(const Contour& contour);
 
-/// A region with its arcs cut into chords; the outer loop counter-clockwise, holes clockwise. None
-/// if a loop has no area, crosses itself, or a hole is not inside of the outer loop.
+/// A region with its arcs cut into chords; the outer loop counter-clockwise, holes clockwise. Holes
+/// without an area are left out. None if the outer loop has no area, if a loop crosses itself or
+/// another one, or if a hole is not inside of the outer loop. Loops may touch.
 std::optional<FlatRegion> Flatten(const Region& region);
 
 /// A profile and the place of the file's profile origin in its coordinates.
