@@ -77,6 +77,8 @@ set(kelifc_public_headers
   kelifc/platform/com_variant.h
   kelifc/platform/export.h
   kelifc/platform/guid.h
+  kelifc/schema/attribute_table.h
+  kelifc/schema/attribute_value.h
   kelifc/schema/common.h
   kelifc/schema/dimensional_exponents.h
   kelifc/server/detail/instance_index.h

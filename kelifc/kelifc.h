@@ -49,6 +49,8 @@
 #include "kelifc/model_access.h"
 #include "kelifc/object_model.h"
 #include "kelifc/platform/com.h"
+#include "kelifc/schema/attribute_table.h"
+#include "kelifc/schema/attribute_value.h"
 #include "kelifc/schema/ifc151.h"
 #include "kelifc/schema/ifc20.h"
 #include "kelifc/schema/ifc2x.h"
