@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <functional>
 #include <iosfwd>
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -364,9 +363,13 @@ class KELIFC_API IfcServer {
   std::shared_ptr<StepFileSchema> schemaRecord;  // shared by copies of the server
   bool headerSeen = false;
   std::vector<std::uint32_t> productPositions;  // in `items`
-  // Positions, not pointers, so that a deleted instance is not found again.
-  using GuidIndex = std::map<_GUID, std::uint32_t, GuidLess>;
-  GuidIndex guidIndex;
+  // Global identifiers by rising order, each once. Positions, not pointers, so that a deleted
+  // instance is not found again.
+  struct GuidPlace {
+    _GUID guid;
+    std::uint32_t position;  // in `items`
+  };
+  std::vector<GuidPlace> guidIndex;
 
   mutable detail::InstanceIndex instanceIndex;
   bool mayRepeat = false;            // an instance may be in two slots
