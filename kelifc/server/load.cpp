@@ -169,9 +169,11 @@ int IfcServer::LoadPasses(const ModelSource& model) {
 // again.
 void IfcServer::ScanSource(std::istream& in) {
   ModelOrigin* const target = load.origin;
+  std::optional<IdRecorder> recorder;
   if (target != nullptr) {
     target->statedEnd = items.size();
     target->repeats = load.repeats;
+    recorder.emplace(target->replacedIds, load.statementNumber);
   }
   HashedInput hashed(in);
   ScanFile(hashed, this, false);
