@@ -186,6 +186,7 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   const auto expected =
       static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
   items.reserve(expected);
+  if (load.findings != nullptr) places.reserve(expected);
   idToIndex.Reserve(expected);
 }
 
