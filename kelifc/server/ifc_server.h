@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <functional>
 #include <iosfwd>
-#include <map>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -40,6 +39,7 @@ class StepFileSchema;
 
 /// The order of global identifiers: by the three numbers, then byte by byte.
 struct KELIFC_API GuidLess {
+  /// Returns true if `a` comes before `b`.
   bool operator()(const _GUID& a, const _GUID& b) const;
 };
 
@@ -72,7 +72,10 @@ class KELIFC_API IfcServer {
   /// Destroys the instances, in reverse order of registration.
   virtual ~IfcServer();
 
+  /// Returns the release of the model, IFC_RELEASE_NONE in a new server. A load sets it.
   virtual IFC_RELEASE GetRelease();
+  /// Sets the release of a model that is built in memory. The instances do not change. While a
+  /// release is set, LoadIfcFile returns 0 and an empty model for a file with an unknown schema.
   virtual void SetRelease(IFC_RELEASE release);
 
   /// Destroys all instances, in reverse order of registration, and removes all numbers and
@@ -120,6 +123,7 @@ class KELIFC_API IfcServer {
   /// that the release does not know.
   virtual IfcUnknown* ParseClass(const char* text, const char** end);
 
+  /// @{
   /// Makes an unregistered instance by name, ignoring the case of letters; the caller owns it.
   /// InstantiateClass knows the names that all releases share; each of the others calls it first
   /// and then searches its own names. For an unknown name it returns null, and an IfcOther in 2x2
@@ -130,6 +134,7 @@ class KELIFC_API IfcServer {
   virtual IfcUnknown* InstantiateClass2x(const char* name);
   virtual IfcUnknown* InstantiateClass2x2(const char* name);
   virtual IfcUnknown* InstantiateClass2x3(const char* name);
+  /// @}
 
   /// Returns the tolerance of the model, 0.001 in a new server.
   virtual double GetEps() const;
@@ -153,6 +158,7 @@ class KELIFC_API IfcServer {
   /// Returns all slots in order of registration. The slots of deleted instances are null.
   virtual const Mvector<IfcUnknown*>& GetItems() const;
 
+  /// @{
   /// Returns the first project of a release, or null. The project belongs to the server.
   virtual const KelIFC151::IfcProject* GetProject151() const;
   virtual const KelIFC20::IfcProject* GetProject20() const;
@@ -161,6 +167,7 @@ class KELIFC_API IfcServer {
   virtual const KelIFC2x2::IfcProject* GetProject2x2() const;
   virtual KelIFC2x3::IfcProject* GetProject2x3();
   virtual const KelIFC2x3::IfcProject* GetProject2x3() const;
+  /// @}
 
   /// Returns a switch that the host can set, false in a new server. A load sets it to true if the
   /// file has an IfcRelFillsElement with a building element. The server does not use it.
@@ -170,6 +177,7 @@ class KELIFC_API IfcServer {
   /// process writes real numbers. Returns the old tolerance of this model.
   virtual double SetEps(double eps);
 
+  /// Sets the switch that GetSupportsFillings returns.
   virtual void SetSupportsFillings(bool supportsFillings);
 
   // Global identifiers as text.
@@ -369,9 +377,13 @@ class KELIFC_API IfcServer {
   std::shared_ptr<StepFileSchema> schemaRecord;  // shared by copies of the server
   bool headerSeen = false;
   std::vector<std::uint32_t> productPositions;  // in `items`
-  // Positions, not pointers, so that a deleted instance is not found again.
-  using GuidIndex = std::map<_GUID, std::uint32_t, GuidLess>;
-  GuidIndex guidIndex;
+  // Global identifiers by rising order, each once. Positions, not pointers, so that a deleted
+  // instance is not found again.
+  struct GuidPlace {
+    _GUID guid;
+    std::uint32_t position;  // in `items`
+  };
+  std::vector<GuidPlace> guidIndex;
 
   mutable detail::InstanceIndex instanceIndex;
   bool mayRepeat = false;            // an instance may be in two slots

@@ -16,6 +16,7 @@ struct EntityAttribute {
   std::string entity;         ///< in upper case; empty for an instance of several types
   std::size_t attribute = 0;  ///< the position in the statement, from 1; 0 for such an instance
 
+  /// The order by entity, then by attribute.
   friend bool operator<(const EntityAttribute& a, const EntityAttribute& b) {
     return std::tie(a.entity, a.attribute) < std::tie(b.entity, b.attribute);
   }
@@ -38,6 +39,7 @@ struct LoadReport {
   EntityCounts rawByEntity;      ///< the counts add up to `raw`
   EntityCounts droppedByEntity;  ///< the counts add up to `dropped`
 
+  /// What is wrong in the file, with the first places of each kind.
   LoadFindings findings;
 
   /// True if the last call of CheckModel found that the source has changed since the load.

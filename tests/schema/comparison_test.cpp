@@ -132,6 +132,11 @@ TEST(ComparisonOfValues, NoticesTheOrderAndTheNumberOfReferences) {
   EXPECT_FALSE(AreSame("IFCUNITASSIGNMENT((#1))", "IFCUNITASSIGNMENT((#2))"));
 }
 
+TEST(ComparisonOfValues, NoticesAnotherKindOfTrim) {
+  EXPECT_FALSE(AreSame("IFCTRIMMEDCURVE(#1,(#2),(#3),.T.,.CARTESIAN.)",
+                       "IFCTRIMMEDCURVE(#1,(#2),(#3),.T.,.PARAMETER.)"));
+}
+
 TEST(ComparisonOfValues, LooksIntoInlineValues) {
   const std::string head = "IFCPROPERTYSINGLEVALUE('a',$,";
   EXPECT_TRUE(AreSame(head + "IFCLABEL('x'),$)", head + "IFCLABEL('x'),$)"));

@@ -80,6 +80,27 @@ void LoadModelWithReport(IfcServer& server, const std::string& path, const Readi
   });
 }
 
+void RequireConvertible(KelIFC::IfcServer& server, const std::string& path) {
+  const KelIFC::IFC_RELEASE release = server.GetRelease();
+  if (release >= KelIFC::IFC_RELEASE_2X) return;
+  throw Failure(Status::kNotConvertible, path,
+                std::string("release ") + ReleaseText(release) + " cannot be converted");
+}
+
+KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
+                              KelIFC::KeptBodies keptBodies) {
+  IfcServer server;
+  LoadWithProgress(server, path, reading, [&](const char* file) {
+    LoadOptions options = OptionsOf(reading);
+    options.keepUnknown = true;  // the reading knows entities that have no class
+    return server.LoadIfc(file, options);
+  });
+  RequireConvertible(server, path);
+  KelIFC::ReadingOptions options;
+  options.keptBodies = keptBodies;
+  return KelIFC::ReadBuilding(server, options);
+}
+
 std::string Utf8FromModel(const IfcServer& server, std::string_view text) {
   return server.GetDialect() == KelIFC::STEP_DIALECT_ISO ? std::string(text) : Utf8FromLatin1(text);
 }

@@ -1,0 +1,2 @@
+set(stage_tests
+)
