@@ -3,6 +3,7 @@
 #include <typeinfo>
 
 #include "kelifc/core/other.h"
+#include "kelifc/core/step_file_schema.h"
 #include "kelifc/server/text_stream.h"
 
 namespace KelIFC {
@@ -18,9 +19,16 @@ bool CompareRaw(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison&
   return first && second && first.GetText() == second.GetText();
 }
 
+// A statement of a model can have the name of this class, too.
+bool CompareSchemas(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison& same) {
+  return same(static_cast<const StepFileSchema&>(a).GetProtocol(),
+              static_cast<const StepFileSchema&>(b).GetProtocol());
+}
+
 const ComparisonTable& GetCoreComparisons() {
   static const ComparisonTable table = {
       {typeid(IfcOther), CompareRaw},
+      {typeid(StepFileSchema), CompareSchemas},
       {typeid(IfcCartesianPoint), CompareAs<IfcCartesianPoint>},
       {typeid(IfcBoundingBox), CompareAs<IfcBoundingBox>},
       {typeid(IfcUnitAssignment), CompareAs<IfcUnitAssignment>},

@@ -44,8 +44,8 @@ std::vector<std::size_t> FindRegistries(IfcServer& model) {
 void RegisteredMaterials::Collect(IfcServer& model) {
   registries.clear();
   for (const std::size_t number : FindRegistries(model)) {
-    const auto* const registry =
-        dynamic_cast<const KelIFC151::IfcProjectMaterialRegistry*>(model.IfcServer::GetItem(number));
+    const auto* const registry = dynamic_cast<const KelIFC151::IfcProjectMaterialRegistry*>(
+        model.IfcServer::GetItem(number));
     const LIST_OF_MEMBERS& materials = Registry::Materials(*registry);
     const std::uint64_t offset = model.GetStatementPlace(number).offset;
     for (std::size_t i = 1; i <= materials.GetSize(); ++i) {

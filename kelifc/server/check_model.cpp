@@ -5,12 +5,10 @@
 #include <utility>
 
 #include "kelifc/server/content_hash.h"
-#include "kelifc/server/detail/number_index.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/model_source.h"
-#include "kelifc/server/reference_walk.h"
-#include "kelifc/server/report_collector.h"
 #include "kelifc/server/scanner.h"
+#include "kelifc/server/statement_check.h"
 #include "kelifc/server/statements.h"
 
 // The part of a load report that a load does not collect, because that would take too long. It
@@ -49,25 +47,17 @@ std::optional<std::uint64_t> VisitSource(const ModelSource& source, STEP_DIALECT
 
 bool IfcServer::CheckModel() {
   if (source == nullptr || report.isChecked) return source != nullptr;
-  detail::NumberIndex stated;
   LoadReport checked = report;
+  StatementCheck check(release, dialect, checked);
   const auto note = [&](const ScanBuffer&, const Assignment& statement) {
-    stated.Set(statement.number, 0);
+    check.NoteStatement(statement);
   };
-  const auto check = [&](const ScanBuffer& scanner, const Assignment& statement) {
-    ReferenceWalk walk(statement.text, scanner.GetTextEnd(), dialect);
-    for (FoundReference found; walk.Next(found);) {
-      if (stated.Find(found.number) != detail::NumberIndex::kNone) continue;
-      const std::string entity = EntityNameAt(statement.text);
-      const auto offset = static_cast<std::size_t>(found.at - scanner.GetText());
-      checked.findings.Note(LoadFinding::kDanglingReference, scanner.GetPlace(offset),
-                            {statement.number, entity, found.attribute});
-      ++checked.danglingByAttribute[{entity, found.attribute}];
-    }
+  const auto examine = [&](const ScanBuffer& scanner, const Assignment& statement) {
+    check.CheckStatement(scanner, statement);
   };
   report.hasSourceChanged = false;
   const auto first = VisitSource(*source, dialect, note);
-  const auto second = first ? VisitSource(*source, dialect, check) : std::nullopt;
+  const auto second = first ? VisitSource(*source, dialect, examine) : std::nullopt;
   if (!second) return false;
   report.hasSourceChanged = first != sourceHash || second != sourceHash;
   if (report.hasSourceChanged) return false;

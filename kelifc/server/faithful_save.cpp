@@ -233,6 +233,7 @@ std::unique_ptr<IfcUnknown> FaithfulSave::ParseApart(const Reader& reader, std::
   // A class can ask for the number of its instance. What it adds must not take that number.
   apart.load.parsed = instance.get();
   apart.load.parsedNumber = apart.load.highestNumber = number;
+  const IdReplay ids(origin->replacedIds, number);
   instance->Parse(values.Read(text, reader.GetTextEnd()));
   return instance;
 }

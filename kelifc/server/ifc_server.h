@@ -245,8 +245,9 @@ class KELIFC_API IfcServer {
   /// leaves it empty. Of a load that failed it has what was counted up to the failure.
   const LoadReport& GetLoadReport() const { return report; }
 
-  /// Adds to the report what a load does not look for: references to numbers that no statement has.
-  /// Reads the source twice, in linear time, and allocates 4 bytes of memory for each number.
+  /// Adds to the report what a load does not look for: references to numbers that no statement has,
+  /// and attributes whose values are not what the schema says. Reads the source twice, in linear
+  /// time, and allocates 4 bytes of memory for each number.
   /// Returns true if the report is complete; a second call for the same model does nothing.
   ///
   /// Returns false if no model was loaded with options, if the source cannot be read, or if it is

@@ -169,9 +169,11 @@ int IfcServer::LoadPasses(const ModelSource& model) {
 // again.
 void IfcServer::ScanSource(std::istream& in) {
   ModelOrigin* const target = load.origin;
+  std::optional<IdRecorder> recorder;
   if (target != nullptr) {
     target->statedEnd = items.size();
     target->repeats = load.repeats;
+    recorder.emplace(target->replacedIds, load.statementNumber);
   }
   HashedInput hashed(in);
   ScanFile(hashed, this, false);
@@ -184,6 +186,7 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   const auto expected =
       static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
   items.reserve(expected);
+  if (load.findings != nullptr) places.reserve(expected);
   idToIndex.Reserve(expected);
 }
 

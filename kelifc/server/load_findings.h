@@ -27,17 +27,18 @@ enum class LoadFinding {
   kStatementWithoutEnd,  ///< a statement, string or comment that does not end; where it begins
   kRepeatedNumber,       ///< a statement whose number an earlier one has; where it begins
   kDanglingReference,  ///< a reference to a number that no statement has; only CheckModel notes it
+  kUnreadAttribute,    ///< a value that is not what the schema says; only CheckModel notes it
 };
 
 /// How many kinds of findings there are. Their values are the numbers from 0 on.
 constexpr std::size_t kLoadFindingKinds =
-    static_cast<std::size_t>(LoadFinding::kDanglingReference) + 1;
+    static_cast<std::size_t>(LoadFinding::kUnreadAttribute) + 1;
 
 /// What a finding of a kind is, for people.
 constexpr const char* GetFindingText(LoadFinding kind) {
   constexpr std::array<const char*, kLoadFindingKinds> kTexts = {
       "bad escape in a string", "statement without an end", "number used twice",
-      "reference to a number that no statement has"};
+      "reference to a number that no statement has", "attribute that cannot be read"};
   return kTexts.at(static_cast<std::size_t>(kind));
 }
 

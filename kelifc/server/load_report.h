@@ -15,6 +15,7 @@ namespace KelIFC {
 struct EntityAttribute {
   std::string entity;         ///< in upper case; empty for an instance of several types
   std::size_t attribute = 0;  ///< the position in the statement, from 1; 0 for such an instance
+  std::string name;           ///< of the attribute in the schema; empty if it is not known
 
   /// The order by entity, then by attribute.
   friend bool operator<(const EntityAttribute& a, const EntityAttribute& b) {
@@ -47,7 +48,9 @@ struct LoadReport {
 
   /// True after a call of CheckModel that returned true. What follows is only known then.
   bool isChecked = false;
-  std::map<EntityAttribute, std::uint64_t> danglingByAttribute;  ///< dangling references
+  using AttributeCounts = std::map<EntityAttribute, std::uint64_t>;
+  AttributeCounts danglingByAttribute;  ///< references to numbers that no statement has
+  AttributeCounts unreadByAttribute;    ///< attributes that cannot be read
 };
 
 }  // namespace KelIFC

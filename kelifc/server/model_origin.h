@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 #include "kelifc/server/model_source.h"
+#include "kelifc/server/replaced_ids.h"
 
 namespace KelIFC {
 
@@ -22,6 +23,7 @@ class ModelOrigin {
 
   // By number, how many statements follow that have the same one.
   std::unordered_map<std::size_t, std::size_t> repeats;
+  ReplacedIds replacedIds;
   bool keepsUnknown = true;  // statements without a class, as IfcOther
 };
 

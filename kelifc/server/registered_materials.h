@@ -14,10 +14,10 @@ class IfcUnknown;
 /// this attribute in the model is not that of the statement of the material.
 class RegisteredMaterials {
  public:
-  /// Collects the materials of a model that was loaded with options. Only a registry whose statement
-  /// comes after that of the material counts, because reading a material sets the attribute too. Of
-  /// several registries the last one counts. Linear in the size of the model, but for sorting the
-  /// registries.
+  /// Collects the materials of a model that was loaded with options. Only a registry whose
+  /// statement comes after that of the material counts, because reading a material sets the
+  /// attribute too. Of several registries the last one counts. Linear in the size of the model, but
+  /// for sorting the registries.
   void Collect(IfcServer& model);
 
   /// Sets RegisteredBy of `stated`, which was parsed from the statement with a number, as the load

@@ -100,15 +100,14 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
 }
 
 void IfcServer::NotePlace(std::size_t id) {
-  constexpr std::uint64_t kMost = UINT32_MAX;
   const std::uint32_t position = idToIndex.Find(id);
   if (position == detail::NumberIndex::kNone) return;
   if (places.size() < position) places.resize(position);
-  if (places.size() == position) places.emplace_back();
-  const ScanBuffer& scanner = *load.scanner;
-  const std::uint64_t begin = scanner.GetBeginOffset();
-  places[position] = {begin, static_cast<std::uint32_t>(std::min(scanner.GetPlace().line, kMost)),
-                      static_cast<std::uint32_t>(std::min(scanner.GetEndOffset() - begin, kMost))};
+  if (places.size() == position) {
+    places.push_back(load.scanner->GetStatementPlace());
+  } else {
+    places[position] = load.scanner->GetStatementPlace();
+  }
 }
 
 void IfcServer::NoteStatement(std::size_t id, const IfcUnknown* made, const char* text) {

@@ -110,9 +110,8 @@ TEST_P(FaultyReplacement, FreesAllMemory) {
   });
 }
 
-INSTANTIATE_TEST_SUITE_P(Ways, FaultyReplacement, testing::Bool(), [](const auto& info) {
-  return info.param ? "Faithful" : "Written";
-});
+INSTANTIATE_TEST_SUITE_P(Ways, FaultyReplacement, testing::Bool(),
+                         [](const auto& info) { return info.param ? "Faithful" : "Written"; });
 
 }  // namespace
 }  // namespace KelIFC

@@ -306,6 +306,25 @@ TEST_F(FaithfulSave, CopiesAByteOrderMark) {
   EXPECT_THAT(Save(), testing::StartsWith("\xEF\xBB\xBFISO-10303-21;\n"));
 }
 
+TEST_F(FaithfulSave, CopiesInstancesWhoseIdentifiersCannotBeRead) {
+  const std::string data =
+      "DATA;\n#1=IFCWALL('short',$,'a',$,$,$,$,$);\n#2=IFCWALL( $,$,'b',$,$,$,$,$);\n"
+      "#3=IFCPROPERTYSINGLEVALUE('c',$,IFCPROJECT('',$),$);\n" +
+      std::string(kTail);
+  Load(data);
+  const std::string invented = Get<KelIFC2x3::IfcWall>(1).GetGlobalId();
+  ASSERT_EQ(invented.size(), 22u);
+  EXPECT_EQ(SaveData(), data);
+  EXPECT_EQ(std::string(Get<KelIFC2x3::IfcWall>(1).GetGlobalId()), invented);
+}
+
+TEST_F(FaithfulSave, WritesAnIdentifierThatTheHostSetForOneThatCannotBeRead) {
+  Load("DATA;\n#1=IFCWALL('short',$,$,$,$,$,$,$);\n" + std::string(kTail));
+  Get<KelIFC2x3::IfcWall>(1).SetGlobalId("0YvctVUKr0kugbFTf53O9L");
+  EXPECT_EQ(SaveData(),
+            "DATA;\n#1=IFCWALL('0YvctVUKr0kugbFTf53O9L',$,$,$,$,$,$,$);\n" + std::string(kTail));
+}
+
 TEST_F(FaithfulSave, AddsNothingToAFileThatIsCut) {
   const std::string data = "DATA;\n#1=IFCFOO();#2=IFCFO";
   Load(data);
