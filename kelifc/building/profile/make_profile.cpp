@@ -82,6 +82,7 @@ std::optional<PlacedProfile> MakeProfile(const ProfileFacts& facts) {
   SetProperties(profile, properties);
   MapPoints(profile, [&placed](const Point2& point) { return point + placed.offset; });
   SetShape(profile, facts);
+  if (profile.shape == ProfileShape::kArbitrary) RecogniseShape(profile);
   return placed;
 }
 

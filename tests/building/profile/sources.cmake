@@ -1,7 +1,10 @@
 set(stage_tests
+  find_circle_test.cpp
+  find_corners_test.cpp
   flatten_test.cpp
   loop_check_test.cpp
   make_profile_test.cpp
+  recognise_test.cpp
   regions_of_test.cpp
   section_moments_test.cpp
   sliced_profile_test.cpp
