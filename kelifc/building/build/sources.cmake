@@ -1,5 +1,6 @@
 target_sources(kelifc_building PRIVATE
   build/idealise.cpp
+  build/idealise_bevel.cpp
   build/idealise_boundary.cpp
   build/idealise_box.cpp
   build/idealise_curved.cpp
