@@ -1,4 +1,10 @@
 target_sources(kelifc_building PRIVATE
+  build/assemble.cpp
+  build/body_maker.cpp
+  build/finite.cpp
+  build/openings.cpp
+  build/profile_key.cpp
+  build/storeys.cpp
   build/idealise.cpp
   build/idealise_bevel.cpp
   build/idealise_boundary.cpp

@@ -15,8 +15,8 @@ namespace KelIFC::building {
 /// width does.
 std::vector<Region> RegionsOf(const ProfileFacts& facts);
 
-/// A contour with its arcs cut into chords of the error kChordError, a full circle into 38 chords or
-/// more. Repeated points and points in the middle of a straight edge are left out. Empty if a
+/// A contour with its arcs cut into chords of the error kChordError, a full circle into 38 chords
+/// or more. Repeated points and points in the middle of a straight edge are left out. Empty if a
 /// coordinate is not finite or beyond 1e9 m, or if less than three points are left.
 Outline Flatten(const Contour& contour);
 
