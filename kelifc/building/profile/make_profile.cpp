@@ -83,6 +83,7 @@ std::optional<PlacedProfile> MakeProfile(const ProfileFacts& facts) {
   MapPoints(profile, [&placed](const Point2& point) { return point + placed.offset; });
   SetShape(profile, facts);
   if (profile.shape == ProfileShape::kArbitrary) RecogniseShape(profile);
+  Designate(profile);
   return placed;
 }
 
