@@ -1,6 +1,14 @@
 # The installed headers: those that a host includes, and the helpers in detail folders that these
 # need. A test compares the list with the headers that kelifc.h includes.
 set(kelifc_public_headers
+  kelifc/building/audit.h
+  kelifc/building/building.h
+  kelifc/building/difference.h
+  kelifc/building/element_enums.h
+  kelifc/building/measures.h
+  kelifc/building/mesh.h
+  kelifc/building/profile.h
+  kelifc/building/read_building.h
   kelifc/core/aggregate.h
   kelifc/core/binary.h
   kelifc/core/boolean.h
@@ -69,6 +77,8 @@ set(kelifc_public_headers
   kelifc/platform/com_variant.h
   kelifc/platform/export.h
   kelifc/platform/guid.h
+  kelifc/schema/attribute_table.h
+  kelifc/schema/attribute_value.h
   kelifc/schema/common.h
   kelifc/schema/dimensional_exponents.h
   kelifc/server/detail/instance_index.h

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 
+#include "kelifc/core/enum_text.h"
 #include "kelifc/platform/export.h"
 
 namespace KelIFC {
@@ -12,6 +13,12 @@ enum IfcTrimmingPreference : std::int32_t {
   IfcTrimmingPreference_NONE = 0,  ///< missing or not understood
   IfcTrimmingPreference_CARTESIAN = 1,
   IfcTrimmingPreference_PARAMETER = 2,
+};
+
+/// The texts of IfcTrimmingPreference.
+inline constexpr EnumTextRow kIfcTrimmingPreferenceTable[] = {
+    {"CARTESIAN", IfcTrimmingPreference_CARTESIAN},
+    {"PARAMETER", IfcTrimmingPreference_PARAMETER},
 };
 
 /// Parses a preference. A missing or unknown one is stored as IfcTrimmingPreference_NONE. Returns

@@ -132,6 +132,11 @@ TEST(ComparisonOfValues, NoticesTheOrderAndTheNumberOfReferences) {
   EXPECT_FALSE(AreSame("IFCUNITASSIGNMENT((#1))", "IFCUNITASSIGNMENT((#2))"));
 }
 
+TEST(ComparisonOfValues, NoticesAnotherKindOfTrim) {
+  EXPECT_FALSE(AreSame("IFCTRIMMEDCURVE(#1,(#2),(#3),.T.,.CARTESIAN.)",
+                       "IFCTRIMMEDCURVE(#1,(#2),(#3),.T.,.PARAMETER.)"));
+}
+
 TEST(ComparisonOfValues, LooksIntoInlineValues) {
   const std::string head = "IFCPROPERTYSINGLEVALUE('a',$,";
   EXPECT_TRUE(AreSame(head + "IFCLABEL('x'),$)", head + "IFCLABEL('x'),$)"));
@@ -140,6 +145,11 @@ TEST(ComparisonOfValues, LooksIntoInlineValues) {
   EXPECT_FALSE(AreSame(head + "IFCREAL(0.),$)", head + "IFCREAL(0.0005),$)"));
   EXPECT_FALSE(AreSame(head + "IFCLENGTHMEASURE(1.),$)", head + "IFCLENGTHMEASURE(2.),$)"));
   EXPECT_FALSE(AreSame(head + "IFCLABEL('x'),$)", head + "$,$)"));
+}
+
+TEST(ComparisonOfValues, NoticesAnotherSchema) {
+  EXPECT_TRUE(AreSame("FILE_SCHEMA(('IFC2X3'))", "FILE_SCHEMA( ('IFC2X3') )"));
+  EXPECT_FALSE(AreSame("FILE_SCHEMA(('IFC2X3'))", "FILE_SCHEMA(('IFC2X2'))"));
 }
 
 TEST(ComparisonOfValues, ComparesTheNameAndTheTextOfAnEntityWithoutAClass) {

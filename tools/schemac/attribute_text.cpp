@@ -55,6 +55,7 @@ TemplateWords WordsOf(const ReleaseModel& model, const Attribute& attribute) {
       {"target", info.target.empty() ? attribute.type : std::string(info.target)},
       {"text", attribute.initial.empty() ? "" : "{\"" + attribute.initial + "\"}"},
   };
+  if (attribute.kind == Kind::kCoreEnum) words["table"] = TableName(attribute.type);
   if (attribute.kind == Kind::kEnum) {
     words["table"] = TableName(attribute.type);
     words["start"] = InitialEnumerator(model, attribute);

@@ -1,14 +1,28 @@
 #ifndef KELIFC_TOOLS_SCHEMAC_CORE_CLASSES_H_
 #define KELIFC_TOOLS_SCHEMAC_CORE_CLASSES_H_
 
+#include <array>
+#include <cstdint>
 #include <set>
 #include <string>
 #include <string_view>
+#include <vector>
+
+#include "tools/schemac/kinds.h"
 
 namespace schemac {
 
 /// The class at the end of each chain of Parse and Write.
 inline constexpr std::string_view kRoot = "IfcUnknown";
+
+/// What a class of the core is in the schema.
+enum class CoreForm : std::uint8_t {
+  kEntity,    ///< a file can name it
+  kAbstract,  ///< an entity that other entities derive from
+  kSelect,    ///< it groups the classes that derive from it
+  kValue,     ///< a value that is written with the name of its type
+  kOther,     ///< the schema does not have it
+};
 
 /// A class that is written by hand in the core, for all releases, and that entities build on.
 struct CoreClass {
@@ -16,10 +30,29 @@ struct CoreClass {
   std::string_view header;
   bool isUnknown;  ///< derives from IfcUnknown
   bool hasParse;   ///< can come first in a chain of Parse and Write
+  CoreForm form;
+  std::array<std::string_view, 2> bases = {};  ///< of the schema; empty for none
+};
+
+/// An attribute of a class of the core.
+struct CoreAttribute {
+  std::string_view owner;
+  std::string_view name;
+  Kind kind;
+  std::string_view target;
+  std::string_view getter;
+  std::string_view setter;
 };
 
 /// The row of a name; null for a name that is no class of the core.
 const CoreClass* FindCoreClass(std::string_view name);
+
+/// All classes of the core, each after its bases.
+std::vector<const CoreClass*> CoreClasses();
+
+/// The attributes of a class of the core, in the order of the file. The schema requires all of
+/// them.
+std::vector<const CoreAttribute*> AttributesOf(const CoreClass& type);
 
 /// The headers of all of them.
 std::set<std::string> CoreHeaders();

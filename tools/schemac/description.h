@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -22,10 +23,13 @@ struct Attribute {
   std::string initial;       ///< row of the enumeration or text that a new instance holds
   std::string absent;        ///< number that the getter gives while the attribute is unset
   std::string writtenAs;     ///< literal that is written whatever was read; empty: the value
+  std::string published;     ///< the name in the schema; empty: the same
   std::string reason;        ///< why it departs from the regular form
   bool inFile = true;        ///< false: kept in memory only
   bool isInverse = false;    ///< filled by relationships
   bool isOwnerless = false;  ///< a reference that cannot resolve by itself
+  bool isIgnored = false;    ///< a Parse that is written by hand skips the value of a file
+  ReleaseSet required = ReleaseSet::None();  ///< where the schema does not let it be unset
   ReleaseSet releases = ReleaseSet::All();
 };
 
@@ -35,25 +39,34 @@ struct Step {
     kAttribute,  ///< read into and written from an attribute
     kDrop,       ///< read into a temporary, written as a literal
     kLiteral,    ///< not read, written as a literal
-    kStar,       ///< the mark of a redeclared attribute: passed by, written as `*`
+    kStar,       ///< the mark of a redeclared attribute: skipped, written as `*`
+    kUnread,     ///< neither read nor written
     kLink,       ///< fills the inverse side of a relationship; nothing is written
   };
   Place place;
   Act act = Act::kAttribute;
-  std::string name;           ///< the attribute, for kAttribute and kLink
-  Kind kind = Kind::kString;  ///< what a dropped position is read as
-  std::string literal;        ///< what is written for kDrop and kLiteral
-  std::string target;         ///< class of the instances that kLink reaches
-  std::string operation;      ///< the operation that kLink calls on them
+  std::string name;          ///< the attribute; may be empty for what is not stored
+  std::optional<Kind> kind;  ///< of a position that is not stored, where it is described
+  std::string literal;       ///< what is written for kDrop and kLiteral
+  std::string target;        ///< class of the instances that kLink reaches
+  std::string operation;     ///< the operation that kLink calls on them
   std::string reason;
+  ReleaseSet required = ReleaseSet::None();  ///< where the schema does not let it be unset
   ReleaseSet releases = ReleaseSet::All();
+};
+
+/// An item of an explicit order: the name of an attribute or of another position.
+struct OrderItem {
+  Place place;
+  std::string name;
+  bool isStar = false;  ///< the position of a redeclared attribute
 };
 
 /// An explicit order of the record, which replaces the order of the body's lines.
 struct RecordOrder {
   bool forReading = true;
   bool forWriting = true;
-  std::vector<Step> steps;
+  std::vector<OrderItem> items;
   ReleaseSet releases = ReleaseSet::All();
 };
 
@@ -101,8 +114,10 @@ struct Entity {
   std::vector<Marked> customWrite;
   ReleaseSet noParse = ReleaseSet::None();
   ReleaseSet noWrite = ReleaseSet::None();
-  std::vector<Marked> departures;               ///< reasons that belong to no attribute
-  std::map<std::string, std::string> comments;  ///< of the operations that are written by hand
+  std::vector<Marked> departures;  ///< reasons that belong to no attribute
+  /// Of what is written by hand, by the name of the operation. A constructor is named by the class
+  /// and its parameters.
+  std::map<std::string, std::string> comments;
 };
 
 /// A defined type: a class with a value as second base, behind the select it can stand in, or as

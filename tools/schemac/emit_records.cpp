@@ -68,7 +68,7 @@ class RecordWriter {
     if (step.act == Step::Act::kStar) return {"*", "*", "*", "*"};
     if (step.act == Step::Act::kDrop) {
       Attribute dropped;
-      dropped.kind = step.kind;
+      dropped.kind = *step.kind;
       return MakeSample(dropped);
     }
     return samples[step.name] = MakeSample(*model.FindAttribute(type, step.name));

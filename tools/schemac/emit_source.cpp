@@ -167,7 +167,7 @@ class SourceEmitter {
   std::string ReadPartOf(const ResolvedClass& type, const Step& step) const {
     if (step.act == Step::Act::kStar) return "Redeclared(*this)";
     if (step.act == Step::Act::kDrop) {
-      return "Dropped<" + std::string(ValueType(InfoOf(step.kind), model.release)) + ">()";
+      return "Dropped<" + std::string(ValueType(InfoOf(*step.kind), model.release)) + ">()";
     }
     return ReadPart(model, *model.FindAttribute(type, step.name));
   }

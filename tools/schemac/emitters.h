@@ -17,6 +17,9 @@ void EmitNames(const ReleaseModel& model, Files& files);
 /// The comparison of the values of each class of one release.
 void EmitComparisons(const ReleaseModel& model, Files& files);
 
+/// The description of the attributes of one release: a source with constant tables.
+void EmitAttributes(const ReleaseModel& model, Files& files);
+
 /// Forward declarations, the list of classes for templates and the umbrella header of one release.
 void EmitRelease(const Description& description, const ReleaseModel& model, Files& files);
 

@@ -42,21 +42,27 @@ class EntityLine {
     std::string_view word;
     void (EntityLine::*read)();
   };
-  static const std::array<Directive, 18> kDirectives;
+  static const std::array<Directive, 19> kDirectives;
 
   struct Modifier {
     std::string_view word;
     void (EntityLine::*read)(Attribute&);
   };
-  static const std::array<Modifier, 6> kModifiers;
+  static const std::array<Modifier, 9> kModifiers;
 
   void ReadBase() { entity.bases.push_back({in.Rest(), releases}); }
   void ReadChain() { entity.chains.push_back({in.Name("a class"), releases}); }
   void ReadMake() { entity.constructors.push_back(Marked{in.Rest(), releases, line.place}); }
   void ReadDeparts() { entity.departures.push_back({in.Rest(), releases}); }
 
+  /// The name of the class means a constructor; its parameters follow.
   void ReadTell() {
-    const std::string operation = in.Name("an operation");
+    std::string operation = in.Name("an operation");
+    if (operation == entity.name) {
+      in.Expect("(");
+      operation += "(" + in.Until(")") + ")";
+      in.Expect(")");
+    }
     entity.comments[operation] = in.Rest();
   }
 
@@ -69,31 +75,68 @@ class EntityLine {
     return step;
   }
 
-  void ReadDrop() { entity.steps.push_back(ReadDropped(in)); }
+  /// The name of a position that is not stored; empty where the line has none.
+  std::string ReadPositionName() {
+    TokenReader ahead = in;
+    const char first = ahead.AtEnd() ? ' ' : ahead.Word("a word").front();
+    return first >= 'A' && first <= 'Z' ? in.Name("the name of the attribute") : std::string();
+  }
 
-  /// A kind and the literal that is written.
-  Step ReadDropped(TokenReader& from) {
-    Step step = NewStep(Step::Act::kDrop);
-    step.place = from.Here();
-    const std::string word = from.Word("a kind");
+  /// The kind of a position that is not stored.
+  Kind ReadPositionKind() {
+    const Place place = in.Here();
+    const std::string word = in.Name("a kind");
     const KindInfo* kind = FindKind(word);
-    if (kind == nullptr || !kind->isDroppable) {
-      throw DescriptionError(step.place, "'" + word + "' cannot be read and dropped");
+    if (kind == nullptr || kind->published.empty()) {
+      throw DescriptionError(place, "'" + word + "' is no kind of a position");
     }
-    step.kind = kind->kind;
-    step.literal = from.Word("the literal that is written");
-    return step;
+    return kind->kind;
   }
 
+  /// Adds a position that is not stored, after a word that may follow it.
+  void AddPosition(Step step) {
+    if (in.Take("required")) step.required = ReadFlagReleases(in, releases);
+    entity.steps.push_back(std::move(step));
+  }
+
+  void ReadDrop() {
+    Step step = NewStep(Step::Act::kDrop);
+    step.name = ReadPositionName();
+    const Place place = in.Here();
+    step.kind = ReadPositionKind();
+    const KindInfo& info = InfoOf(*step.kind);
+    if (!info.isDroppable) {
+      throw DescriptionError(place, "'" + std::string(info.word) + "' cannot be read and dropped");
+    }
+    step.literal = in.Word("the literal that is written");
+    AddPosition(std::move(step));
+  }
+
+  /// Positions with a name and a kind, or without.
   void ReadLiterals() {
-    while (!in.AtEnd()) {
+    do {
       Step step = NewStep(Step::Act::kLiteral);
+      step.name = ReadPositionName();
+      if (!step.name.empty()) step.kind = ReadPositionKind();
       step.literal = in.Word("a literal");
-      entity.steps.push_back(std::move(step));
-    }
+      AddPosition(std::move(step));
+    } while (!in.AtEnd());
   }
 
-  void ReadRedeclared() { entity.steps.push_back(NewStep(Step::Act::kStar)); }
+  void ReadUnread() {
+    do {
+      Step step = NewStep(Step::Act::kUnread);
+      step.name = in.Name("the name of the attribute");
+      step.kind = ReadPositionKind();
+      AddPosition(std::move(step));
+    } while (in.Take(","));
+  }
+
+  void ReadRedeclared() {
+    Step step = NewStep(Step::Act::kStar);
+    step.name = in.Name("the name of the attribute");
+    entity.steps.push_back(std::move(step));
+  }
 
   void ReadLink() {
     Step step = NewStep(Step::Act::kLink);
@@ -113,29 +156,14 @@ class EntityLine {
     order.forReading = forReading;
     order.forWriting = forWriting;
     order.releases = releases;
-    while (!in.AtEnd()) order.steps.push_back(ReadOrderItem());
-    entity.orders.push_back(std::move(order));
-  }
-
-  /// An attribute, `*`, `kind>literal` or a literal.
-  Step ReadOrderItem() {
-    Step step = NewStep(Step::Act::kAttribute);
-    const std::string word = in.Word("an item");
-    const auto arrow = word.find('>');
-    const char first = word.front();
-    if (word == "*") {
-      step.act = Step::Act::kStar;
-    } else if (arrow != std::string::npos) {
-      Line dropped{step.place, true, word.substr(0, arrow) + " " + word.substr(arrow + 1), ""};
-      TokenReader parts(dropped);
-      step = ReadDropped(parts);
-    } else if (first == '$' || first == '.' || first == '(' || first == '\'') {
-      step.act = Step::Act::kLiteral;
-      step.literal = word;
-    } else {
-      step.name = word;
+    while (!in.AtEnd()) {
+      OrderItem item;
+      item.place = in.Here();
+      item.isStar = in.Take("*");
+      item.name = in.Name("the name of an attribute");
+      order.items.push_back(std::move(item));
     }
-    return step;
+    entity.orders.push_back(std::move(order));
   }
 
   void ReadCustom() {
@@ -236,7 +264,7 @@ class EntityLine {
       (this->*modifier.read)(attribute);
       return;
     }
-    in.Fail("expected '=', 'inverse', 'memory', 'ownerless', 'absent' or 'as'");
+    in.Fail("expected the end of the line or a word such as 'inverse' or 'as'");
   }
 
   void ReadInitial(Attribute& attribute) { attribute.initial = in.Word("a row or a text"); }
@@ -248,6 +276,13 @@ class EntityLine {
   void ReadOwnerless(Attribute& attribute) { attribute.isOwnerless = true; }
   void ReadAbsent(Attribute& attribute) { attribute.absent = in.Word("a number"); }
   void ReadAs(Attribute& attribute) { attribute.writtenAs = in.Word("a literal"); }
+  void ReadIgnored(Attribute& attribute) { attribute.isIgnored = true; }
+  void ReadPublished(Attribute& attribute) {
+    attribute.published = in.Name("the name in the schema");
+  }
+  void ReadRequired(Attribute& attribute) {
+    attribute.required = ReadFlagReleases(in, attribute.releases);
+  }
 
   const Line& line;
   TokenReader& in;
@@ -255,7 +290,7 @@ class EntityLine {
   ReleaseSet releases;
 };
 
-const std::array<EntityLine::Directive, 18> EntityLine::kDirectives = {{
+const std::array<EntityLine::Directive, 19> EntityLine::kDirectives = {{
     {"base", &EntityLine::ReadBase},
     {"chain", &EntityLine::ReadChain},
     {"make", &EntityLine::ReadMake},
@@ -263,6 +298,7 @@ const std::array<EntityLine::Directive, 18> EntityLine::kDirectives = {{
     {"tell", &EntityLine::ReadTell},
     {"drop", &EntityLine::ReadDrop},
     {"literal", &EntityLine::ReadLiterals},
+    {"unread", &EntityLine::ReadUnread},
     {"redeclared", &EntityLine::ReadRedeclared},
     {"link", &EntityLine::ReadLink},
     {"order", &EntityLine::ReadOrder},
@@ -276,13 +312,16 @@ const std::array<EntityLine::Directive, 18> EntityLine::kDirectives = {{
     {"override", &EntityLine::ReadOverride},
 }};
 
-const std::array<EntityLine::Modifier, 6> EntityLine::kModifiers = {{
+const std::array<EntityLine::Modifier, 9> EntityLine::kModifiers = {{
     {"=", &EntityLine::ReadInitial},
     {"inverse", &EntityLine::ReadInverse},
     {"memory", &EntityLine::ReadMemory},
     {"ownerless", &EntityLine::ReadOwnerless},
+    {"ignored", &EntityLine::ReadIgnored},
     {"absent", &EntityLine::ReadAbsent},
     {"as", &EntityLine::ReadAs},
+    {"published", &EntityLine::ReadPublished},
+    {"required", &EntityLine::ReadRequired},
 }};
 
 }  // namespace

@@ -29,6 +29,7 @@ enum class Kind : std::uint8_t {
   kSet,         ///< a set of references
   kList,        ///< a list of references
   kEnum,        ///< an enumeration with a table
+  kCoreEnum,    ///< an enumeration of the core, which the class reads and writes by hand
   kValue,       ///< an inline value with the name of its type
   kGlobalId64,  ///< the identifier of 22 characters: checked when it is read, made when missing
   kGlobalId85,  ///< the identifier of 20 characters: made when missing
@@ -69,7 +70,8 @@ struct SampleTexts {
 /// Everything that one kind means. This is the only place that knows it.
 struct KindInfo {
   Kind kind;
-  std::string_view word;       ///< its name in the notation
+  std::string_view word;            ///< its name in the notation
+  std::string_view published = {};  ///< its enumerator of AttributeKind; empty: in no statement
   std::string_view type = {};  ///< the C++ type that reads it; empty if `holdsNamedType` tells it
   std::string_view labelled = {};  ///< the type where the release has IfcLabel; empty: the same
   bool takesName = false;          ///< the notation names a class or an enumeration after it
@@ -77,8 +79,9 @@ struct KindInfo {
   bool holdsNamedType = false;     ///< the attribute is stored as the type that the notation names
   bool isDroppable = true;         ///< a position can be read as it and dropped
   bool isInFile = true;            ///< an attribute of the kind stands in a record
-  std::string_view reader = "@member@";     ///< the part of ParseRecord
-  std::string_view writer = "@member@";     ///< the part of WriteFirst and WriteNext
+  std::string_view reader = "@member@";  ///< the part of ParseRecord
+  std::string_view writer = "@member@";  ///< the part of WriteFirst and WriteNext
+  std::string_view valueReader = "ReadMember<@class@, @pointer@>";  ///< its AttributeReader
   std::string_view initializer = "@text@";  ///< what follows the name of the data member
   std::string_view bare = {};               ///< what a defined type is made from; empty: none
   std::string_view view = {};               ///< the aggregate that a getter returns

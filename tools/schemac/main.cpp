@@ -30,6 +30,7 @@ schemac::Files Emit(const schemac::Description& description) {
     }
     schemac::EmitNames(models.back(), files);
     schemac::EmitComparisons(models.back(), files);
+    schemac::EmitAttributes(models.back(), files);
     schemac::EmitRecords(models.back(), files);
     schemac::EmitRelease(description, models.back(), files);
   }

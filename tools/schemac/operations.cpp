@@ -24,24 +24,32 @@ class OperationWriter {
 
   void Add(const Operation& operation) {
     if (!operation.releases.Has(model.release)) return;
+    const std::size_t first = type.operations.size();
+    const Verb* verb = FindVerb(operation);
     if (operation.hasSignature) {
       AddByHand(operation);
-      return;
-    }
-    if (operation.isForward) {
+    } else if (operation.isForward) {
       AddForward(operation);
-      return;
+    } else if (verb != nullptr) {
+      (this->*verb->add)(operation);
+    } else if (!isElsewhere) {
+      throw DescriptionError(operation.place, operation.name + " of " + type.entity->name +
+                                                  " names no attribute and has no signature");
     }
-    const Verb* verb = FindVerb(operation);
-    if (verb != nullptr) (this->*verb->add)(operation);
+    for (std::size_t i = first; verb != nullptr && i < type.operations.size(); ++i) {
+      type.operations[i].role = verb->role;
+      type.operations[i].attribute = attribute->name;
+    }
   }
 
  private:
+  using Role = ResolvedOperation::Role;
+
   /// The beginning of a name, and what adds an operation that has it.
   struct Verb {
     std::string_view head;
     void (OperationWriter::*add)(const Operation&);
-    bool isForAggregates;  ///< the name may have the attribute in the singular
+    Role role;
   };
   static const std::array<Verb, 6> kVerbs;
 
@@ -91,25 +99,23 @@ class OperationWriter {
     return resolved;
   }
 
-  /// Finds the verb of a name and sets `attribute`. Null if the attribute belongs to other releases
-  /// only.
+  /// Finds the verb and the attribute that a name consists of; null if the class has no such
+  /// attribute in this release. An attribute of other releases sets `isElsewhere`.
   const Verb* FindVerb(const Operation& operation) {
+    isElsewhere = false;
     for (const auto& verb : kVerbs) {
       if (!StartsWith(operation.name, verb.head)) continue;
       const std::string rest = operation.attribute.empty() ? operation.name.substr(verb.head.size())
                                                            : operation.attribute;
       const std::array<std::string, 4> names = {rest, rest + "s", "Has" + rest, "Has" + rest + "s"};
-      const std::size_t tried = verb.isForAggregates ? names.size() : 1;
-      bool isElsewhere = false;
+      const std::size_t tried = verb.role == Role::kAdder ? names.size() : 1;
       for (std::size_t i = 0; i < tried; ++i) {
         attribute = Own(names[i]);
         if (attribute != nullptr) return &verb;
         isElsewhere |= IsDescribed(names[i]);
       }
-      if (isElsewhere) return nullptr;
     }
-    throw DescriptionError(operation.place, operation.name + " of " + type.entity->name +
-                                                " names no attribute and has no signature");
+    return nullptr;
   }
 
   const Attribute* Own(const std::string& name) const {
@@ -220,16 +226,18 @@ class OperationWriter {
 
   ResolvedClass& type;
   const ReleaseModel& model;
+  // Of the operation that is being added.
   const Attribute* attribute = nullptr;
+  bool isElsewhere = false;
 };
 
 const std::array<OperationWriter::Verb, 6> OperationWriter::kVerbs = {{
-    {"_Get", &OperationWriter::AddInnerGetter, false},
-    {"Get", &OperationWriter::AddGetter, false},
-    {"Set", &OperationWriter::AddSetter, false},
-    {"Add", &OperationWriter::AddAdder, true},
-    {"calc", &OperationWriter::AddGetter, false},
-    {"Calc", &OperationWriter::AddGetter, false},
+    {"_Get", &OperationWriter::AddInnerGetter, Role::kNone},
+    {"Get", &OperationWriter::AddGetter, Role::kGetter},
+    {"Set", &OperationWriter::AddSetter, Role::kSetter},
+    {"Add", &OperationWriter::AddAdder, Role::kAdder},
+    {"calc", &OperationWriter::AddGetter, Role::kGetter},
+    {"Calc", &OperationWriter::AddGetter, Role::kGetter},
 }};
 
 }  // namespace

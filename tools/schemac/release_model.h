@@ -24,6 +24,11 @@ struct ResolvedOperation {
   std::vector<std::string> body;  ///< statements; empty: written by hand
   Place place;                    ///< of its description
   Place bodyPlace;                ///< of its definition, where it is written by hand
+
+  /// What it does with an attribute of the class, if its name says that.
+  enum class Role { kNone, kGetter, kSetter, kAdder };
+  Role role = Role::kNone;
+  std::string attribute;
 };
 
 /// A constructor, Parse or Write that is written by hand.
@@ -40,9 +45,11 @@ struct ResolvedClass {
   std::vector<const Attribute*> attributes;
   std::vector<Step> reads;
   std::vector<Step> writes;
-  std::string readBase;    ///< class whose Parse runs first
-  std::string writeBase;   ///< class whose Write runs first
-  bool isUnknown = false;  ///< derives from IfcUnknown
+  std::vector<Step> positions;  ///< those of a statement, after the ones of `recordBase`
+  std::string readBase;         ///< class whose Parse runs first
+  std::string writeBase;        ///< class whose Write runs first
+  std::string recordBase;       ///< class whose positions come first in a statement
+  bool isUnknown = false;       ///< derives from IfcUnknown
   bool hasParse = false;
   bool hasWrite = false;
   std::optional<HandWritten> customParse;

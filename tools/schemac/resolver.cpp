@@ -1,6 +1,7 @@
 #include "tools/schemac/resolver.h"
 
 #include <algorithm>
+#include <iterator>
 #include <sstream>
 
 #include "tools/schemac/core_classes.h"
@@ -106,16 +107,64 @@ class Resolver {
     const Entity& entity = *type.entity;
     for (const auto& step : entity.steps) {
       if (!step.releases.Has(release)) continue;
-      if (step.act != Step::Act::kLiteral) type.reads.push_back(step);
-      if (step.act != Step::Act::kLink) type.writes.push_back(step);
+      if (step.act != Step::Act::kLink) type.positions.push_back(step);
+      if (IsWritten(step)) type.writes.push_back(step);
+      if (IsRead(step)) type.reads.push_back(step);
     }
     for (const auto& order : entity.orders) {
-      if (!order.releases.Has(release)) continue;
-      if (order.forReading) ReplaceOrder(type.reads, order, true);
-      if (order.forWriting) ReplaceOrder(type.writes, order, false);
+      if (order.releases.Has(release)) ApplyOrder(type, order);
     }
     for (const auto& step : type.reads) CheckStep(type, step);
-    for (const auto& step : type.writes) CheckStep(type, step);
+    ResolveChain(type);
+  }
+
+  static bool IsRead(const Step& step) {
+    return step.act != Step::Act::kLiteral && step.act != Step::Act::kUnread;
+  }
+
+  static bool IsWritten(const Step& step) {
+    return step.act != Step::Act::kLink && step.act != Step::Act::kUnread;
+  }
+
+  void ApplyOrder(ResolvedClass& type, const RecordOrder& order) const {
+    std::vector<Step> steps;
+    for (const auto& item : order.items) steps.push_back(StepOf(type, item));
+    if (order.forReading) {
+      // What fills inverse sides comes after the positions.
+      std::vector<Step> reads;
+      std::copy_if(steps.begin(), steps.end(), std::back_inserter(reads), IsRead);
+      std::copy_if(type.reads.begin(), type.reads.end(), std::back_inserter(reads),
+                   [](const Step& step) { return step.act == Step::Act::kLink; });
+      type.reads = std::move(reads);
+    }
+    if (order.forWriting) {
+      type.writes.clear();
+      std::copy_if(steps.begin(), steps.end(), std::back_inserter(type.writes), IsWritten);
+      type.positions = std::move(steps);
+    }
+  }
+
+  /// The step of an item: a position that the body describes, or an attribute of the class or of
+  /// one above it.
+  Step StepOf(const ResolvedClass& type, const OrderItem& item) const {
+    Step step;
+    step.place = item.place;
+    step.name = item.name;
+    step.act = item.isStar ? Step::Act::kStar : Step::Act::kAttribute;
+    if (item.isStar) return step;
+    for (const auto& described : type.entity->steps) {
+      const bool isPosition =
+          described.act != Step::Act::kLink && described.act != Step::Act::kStar;
+      if (isPosition && described.name == item.name && described.releases.Has(release)) {
+        return described;
+      }
+    }
+    CheckStep(type, step);
+    return step;
+  }
+
+  void ResolveChain(ResolvedClass& type) const {
+    const Entity& entity = *type.entity;
     if (const Marked* parse = LastFor(entity.customParse, release)) {
       type.customParse = HandWritten{"", parse->place, {}};
     }
@@ -124,10 +173,12 @@ class Resolver {
     }
     type.hasParse = type.customParse || (!type.reads.empty() && !entity.noParse.Has(release));
     type.hasWrite = type.customWrite || (!type.writes.empty() && !entity.noWrite.Has(release));
-    type.readBase = Ancestor(type, &ResolvedClass::hasParse);
-    type.writeBase = Ancestor(type, &ResolvedClass::hasWrite);
+    type.readBase = Ancestor(type, [](const ResolvedClass& base) { return base.hasParse; });
+    type.writeBase = Ancestor(type, [](const ResolvedClass& base) { return base.hasWrite; });
+    type.recordBase =
+        Ancestor(type, [](const ResolvedClass& base) { return !base.positions.empty(); });
     if (const Marked* chain = LastFor(entity.chains, release)) {
-      type.readBase = type.writeBase = chain->text;
+      type.readBase = type.writeBase = type.recordBase = chain->text;
     }
     const bool isReachable = entity.file.Has(release) || entity.made.Has(release);
     if (isReachable && !type.hasParse && type.readBase == kRoot) ForwardToRoot(type);
@@ -137,19 +188,6 @@ class Resolver {
   static void ForwardToRoot(ResolvedClass& type) {
     type.hasParse = true;
     type.reads.clear();
-  }
-
-  /// An explicit order gives the positions; what fills inverse sides stays behind them.
-  static void ReplaceOrder(std::vector<Step>& steps, const RecordOrder& order, bool forReading) {
-    std::vector<Step> replaced;
-    for (const auto& step : order.steps) {
-      const bool isRead = step.act != Step::Act::kLiteral;
-      if (!forReading || isRead) replaced.push_back(step);
-    }
-    for (const auto& step : steps) {
-      if (step.act == Step::Act::kLink && forReading) replaced.push_back(step);
-    }
-    steps = std::move(replaced);
   }
 
   void CheckStep(const ResolvedClass& type, const Step& step) const {
@@ -162,7 +200,9 @@ class Resolver {
     }
   }
 
-  std::string Ancestor(const ResolvedClass& type, bool ResolvedClass::*has) const {
+  /// The nearest class above, along the bases that are instances, for which `isWanted` holds.
+  template <class IsWanted>
+  std::string Ancestor(const ResolvedClass& type, IsWanted isWanted) const {
     for (const auto& base : type.bases) {
       if (const CoreClass* core = FindCoreClass(base)) {
         if (core->hasParse) return base;
@@ -170,7 +210,7 @@ class Resolver {
       }
       const ResolvedClass* other = model.Find(base);
       if (other == nullptr || !other->isUnknown) continue;
-      return other->*has ? base : Ancestor(*other, has);
+      return isWanted(*other) ? base : Ancestor(*other, isWanted);
     }
     return std::string(kRoot);
   }

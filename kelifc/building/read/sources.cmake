@@ -1,2 +1,22 @@
 target_sources(kelifc_building PRIVATE
+  read/attribute.cpp
+  read/bezier.cpp
+  read/curves.cpp
+  read/decomposition.cpp
+  read/entity.cpp
+  read/head.cpp
+  read/instance.cpp
+  read/item_forms.cpp
+  read/items.cpp
+  read/materials.cpp
+  read/offset.cpp
+  read/path.cpp
+  read/placements.cpp
+  read/products.cpp
+  read/profiles.cpp
+  read/read_model.cpp
+  read/relations.cpp
+  read/representations.cpp
+  read/shells.cpp
+  read/units.cpp
 )

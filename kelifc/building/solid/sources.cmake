@@ -1,2 +1,22 @@
 target_sources(kelifc_building PRIVATE
+  solid/arrangement.cpp
+  solid/body.cpp
+  solid/box_tree.cpp
+  solid/combine.cpp
+  solid/cut_by_plane.cpp
+  solid/distance.cpp
+  solid/evaluate.cpp
+  solid/extrude.cpp
+  solid/half_space.cpp
+  solid/loops.cpp
+  solid/made_mesh.cpp
+  solid/mesh_tools.cpp
+  solid/plane_section.cpp
+  solid/point_index.cpp
+  solid/primitive.cpp
+  solid/rings.cpp
+  solid/shells.cpp
+  solid/slice.cpp
+  solid/sweep_curve.cpp
+  solid/triangulate.cpp
 )

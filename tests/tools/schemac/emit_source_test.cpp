@@ -9,7 +9,7 @@ TEST(EmitSource, ReadsAndWritesThroughTheChain) {
   const std::string source = Resolved(
                                  "entity IfcA : IfcUnknown all\n  doc A.\n  Name string\n"
                                  "entity IfcB : IfcA all file\n  doc B.\n  drop enum .X.\n"
-                                 "  redeclared\n  literal $\n  Size real\n")
+                                 "  redeclared Name\n  literal $\n  Size real\n")
                                  .Source();
   EXPECT_TRUE(Holds(source, "return ParseRecord(IfcUnknown::Parse(cursor), name);"));
   EXPECT_TRUE(Holds(source, "return WriteFirst(IfcUnknown::Write(out), name);"));

@@ -40,6 +40,41 @@ TEST(ReadEntityLine, ReadsOperationsInOrder) {
   EXPECT_FALSE(operations[3].hasSignature);
 }
 
+TEST(ReadEntityLine, ReadsPositionsThatAreNotStored) {
+  const auto description = Describe(
+      "entity IfcA : IfcUnknown all\n"
+      "  drop enum .X.\n  drop Kind enum .Y. required 2x..   -- why\n"
+      "  literal $ ()\n  [2x] literal Area real $   Site ref () required\n"
+      "  unread Place ref, Type enum required\n  redeclared Name\n");
+  const auto& steps = description.entities.front().steps;
+  ASSERT_EQ(steps.size(), 9u);
+  EXPECT_EQ(steps[0].name, "");
+  EXPECT_EQ(steps[0].kind, Kind::kEnum);
+  EXPECT_EQ(steps[1].name, "Kind");
+  EXPECT_EQ(steps[1].literal, ".Y.");
+  EXPECT_EQ(steps[1].required, *ReleaseSet::Read("2x.."));
+  EXPECT_EQ(steps[3].literal, "()");
+  EXPECT_EQ(steps[3].kind, std::nullopt);
+  EXPECT_EQ(steps[5].name, "Site");
+  EXPECT_EQ(steps[5].kind, Kind::kReference);
+  EXPECT_EQ(steps[5].required, *ReleaseSet::Read("2x"));
+  EXPECT_EQ(steps[7].name, "Type");
+  EXPECT_EQ(steps[7].act, Step::Act::kUnread);
+  EXPECT_EQ(steps[8].act, Step::Act::kStar);
+  EXPECT_EQ(steps[8].name, "Name");
+}
+
+TEST(ReadEntityLine, ReadsWhatTheSchemaSaysOfAnAttribute) {
+  const auto description = Describe(
+      "entity IfcA : IfcUnknown all\n  Text label published Description required 2x..\n"
+      "  Kind enum IfcKind ignored\n");
+  const auto& attributes = description.entities.front().attributes;
+  EXPECT_EQ(attributes[0].published, "Description");
+  EXPECT_EQ(attributes[0].required, *ReleaseSet::Read("2x.."));
+  EXPECT_TRUE(attributes[1].isIgnored);
+  EXPECT_TRUE(attributes[1].required.IsEmpty());
+}
+
 struct Fault {
   const char* body;
   const char* message;
@@ -60,9 +95,18 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"entity IfcA : IfcUnknown all\n  Name ref\n",
               "3:11: error: expected the class or enumeration"},
         Fault{"entity IfcA : IfcUnknown all\n  Name string odd\n",
-              "3:15: error: expected '=', 'inverse', 'memory', 'ownerless', 'absent' or 'as'"},
+              "3:15: error: expected the end of the line or a word such as 'inverse' or 'as'"},
         Fault{"entity IfcA : IfcUnknown all\n  drop value $\n",
               "3:8: error: 'value' cannot be read and dropped"},
+        Fault{"entity IfcA : IfcUnknown all\n  drop Name word $\n",
+              "3:13: error: 'word' is no kind of a position"},
+        Fault{"entity IfcA : IfcUnknown all\n  literal Name cache $\n",
+              "3:16: error: 'cache' is no kind of a position"},
+        Fault{"entity IfcA : IfcUnknown all\n  unread enum\n", "3:14: error: expected a kind"},
+        Fault{"entity IfcA : IfcUnknown all\n  order Name $\n",
+              "3:14: error: expected the name of an attribute"},
+        Fault{"entity IfcA : IfcUnknown 2x..\n  Name string required 151\n",
+              "3:24: error: a release that the entry does not have"},
         Fault{"entity IfcA : IfcUnknown all\n  custom Read\n",
               "3:10: error: expected 'Parse' or 'Write'"},
         Fault{"entity IfcA : IfcUnknown all\n  link X IfcA AddX\n", "3:10: error: expected 'as'"},

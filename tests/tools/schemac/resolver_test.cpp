@@ -45,7 +45,7 @@ TEST(Resolve, ReplacesBasesAndChainsForTheirReleases) {
 TEST(Resolve, TakesAnExplicitOrderForReadingAndWriting) {
   const Resolved resolved(
       "entity IfcA : IfcUnknown all file\n  doc A.\n  First string\n  Second string\n"
-      "  order Second enum>.X. First *\n  link First as IfcA Touch\n"
+      "  drop Third enum .X.\n  order Second Third First *Fourth\n  link First as IfcA Touch\n"
       "  ops Touch(IfcA*)\n  tell Touch Touches.\n");
   const ResolvedClass& type = *resolved.model.Find("IfcA");
   ASSERT_EQ(type.reads.size(), 5u);
@@ -54,6 +54,29 @@ TEST(Resolve, TakesAnExplicitOrderForReadingAndWriting) {
   EXPECT_EQ(type.reads[3].act, Step::Act::kStar);
   EXPECT_EQ(type.reads[4].act, Step::Act::kLink);
   EXPECT_EQ(type.writes.size(), 4u);
+}
+
+TEST(Resolve, KeepsTheOrderOfAStatementWhereOnlyReadingDiffers) {
+  const Resolved resolved(
+      "entity IfcA : IfcUnknown all file\n  doc A.\n  First string\n  Second string\n"
+      "  reads Second\n  unread Third integer\n");
+  const ResolvedClass& type = *resolved.model.Find("IfcA");
+  ASSERT_EQ(type.positions.size(), 3u);
+  EXPECT_EQ(type.positions[0].name, "First");
+  EXPECT_EQ(type.positions[2].act, Step::Act::kUnread);
+  EXPECT_EQ(type.reads.size(), 1u);
+  EXPECT_EQ(type.writes.size(), 2u);
+}
+
+TEST(Resolve, ContinuesAStatementWithTheNearestClassThatHasPositions) {
+  const Resolved resolved(
+      "entity IfcA : IfcUnknown all abstract\n  doc A.\n  Name string\n"
+      "entity IfcB : IfcA all\n  doc B.\n  unread Kind enum\n"
+      "entity IfcC : IfcB all\n  doc C.\n  Size real\n"
+      "entity IfcD : IfcC all\n  doc D.\n  chain IfcA\n  Size real\n");
+  EXPECT_EQ(resolved.model.Find("IfcC")->recordBase, "IfcB");
+  EXPECT_EQ(resolved.model.Find("IfcC")->readBase, "IfcA");
+  EXPECT_EQ(resolved.model.Find("IfcD")->recordBase, "IfcA");
 }
 
 TEST(Resolve, ReadsAndWritesInDifferentOrdersWhereToldSo) {

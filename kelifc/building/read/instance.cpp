@@ -1,0 +1,117 @@
+#include "kelifc/building/read/instance.h"
+
+#include "kelifc/core/other.h"
+#include "kelifc/core/unknown.h"
+#include "kelifc/platform/utf8.h"
+
+namespace KelIFC::building {
+
+using Kind = AttributeValueKind;
+
+bool Value::IsSet() const {
+  return value.GetKind() != Kind::kUnset && value.GetKind() != Kind::kDerived;
+}
+
+bool Value::IsDangling() const { return TargetNumber() != 0 && !Target(); }
+
+Instance Value::Target() const {
+  const IfcUnknown* const target = value.AsReference();
+  return target == nullptr ? Instance() : Instance(*model, target, TargetNumber());
+}
+
+AttributeValue Value::Content() const {
+  return value.GetKind() == Kind::kTyped ? value.TypedValue() : value;
+}
+
+bool Value::IsNumber() const {
+  const Kind kind = Content().GetKind();
+  return kind == Kind::kInteger || kind == Kind::kReal;
+}
+
+double Value::Number(double fallback) const {
+  if (value.GetKind() == Kind::kReal) return value.AsNumber();
+  const AttributeValue content = Content();
+  const bool isNumber = content.GetKind() == Kind::kInteger || content.GetKind() == Kind::kReal;
+  return isNumber ? content.AsNumber() : fallback;
+}
+
+std::string Value::Text() const {
+  const AttributeValue content = Content();
+  return content.GetKind() == Kind::kText ? model->Decode(content.AsText()) : std::string();
+}
+
+bool Value::Truth(bool fallback) const {
+  const LOGICAL_VALUE truth = value.AsLogical();
+  return truth == LOGICAL_TRUE || (truth != LOGICAL_FALSE && fallback);
+}
+
+Value Value::operator[](std::size_t index) const {
+  return model == nullptr ? Value() : Value(*model, value.At(index));
+}
+
+Instance::Instance(const Model& owner, const IfcUnknown* item, std::size_t itemNumber)
+    : model(&owner),
+      instance(item),
+      number(itemNumber),
+      type(item == nullptr ? nullptr : &owner.ClassOf(*item)) {}
+
+std::size_t Instance::Number() const {
+  if (instance == nullptr || number != 0) return number;
+  return model->Server().Find(instance);
+}
+
+Value Instance::Get(Attribute attribute) const {
+  if (instance == nullptr) return {};
+  if (!type->isRaw) {
+    const AttributeReader read = type->readers[static_cast<std::size_t>(attribute)];
+    return read == nullptr ? Value() : Value(*model, read(*instance));
+  }
+  const auto position = PositionOf(model->Release(), type->entity, attribute);
+  return position ? Value(*model, ReadAttribute(*instance, *position)) : Value();
+}
+
+Model::Model(IfcServer& owner)
+    : server(owner), release(owner.GetRelease()), isUtf8(owner.GetDialect() == STEP_DIALECT_ISO) {
+  for (std::size_t i = 0; i < kEntityCount; ++i) {
+    rawClasses[i].entity = static_cast<Entity>(i);
+    rawClasses[i].isRaw = true;
+  }
+}
+
+std::string Model::Decode(std::string_view text) const {
+  if (isUtf8) return ToUtf8(text);
+  std::string decoded;
+  decoded.reserve(text.size());
+  for (const char c : text) AppendUtf8(decoded, static_cast<unsigned char>(c));
+  return decoded;
+}
+
+Instance Model::Find(std::size_t number) const {
+  return Instance(*this, number == 0 ? nullptr : server.GetItem(number), number);
+}
+
+const InstanceClass& Model::ClassOf(const IfcUnknown& instance) const {
+  const char* const name = instance.GetStepName();
+  const auto found = classes.find(name);
+  if (found != classes.end()) return found->second;
+  if (const auto* other = dynamic_cast<const IfcOther*>(&instance)) {
+    return rawClasses[static_cast<std::size_t>(FindEntityByName(other->GetStepEntityName()))];
+  }
+  return classes.insert_or_assign(name, Describe(instance, name)).first->second;
+}
+
+InstanceClass Model::Describe(const IfcUnknown& instance, std::string_view name) const {
+  InstanceClass described;
+  described.entity = FindEntityByName(name);
+  const EntityDescription* const description = DescribeInstance(instance);
+  if (description == nullptr) return described;
+  for (std::size_t i = 0; i < kAttributeCount; ++i) {
+    const auto position = PositionOf(release, described.entity, static_cast<Attribute>(i));
+    if (!position) continue;
+    const AttributeDescription* const attribute = description->AttributeAt(*position);
+    if (attribute != nullptr) described.readers[i] = attribute->read;
+  }
+  return described;
+}
+
+}  // namespace KelIFC::building

@@ -1,0 +1,170 @@
+#include "kelifc/building/solid/mesh_tools.h"
+
+#include <algorithm>
+#include <tuple>
+
+#include "kelifc/building/solid/body.h"
+#include "kelifc/building/solid/point_index.h"
+#include "kelifc/building/solid/vector_math.h"
+
+namespace KelIFC::building {
+
+namespace {
+
+constexpr Mesh::Index kNone = 0xFFFFFFFF;
+
+/// The new loop; empty if it has fewer than three points.
+void RenumberLoop(const Mesh::Loop& loop, const std::vector<Mesh::Index>& numbers,
+                  std::vector<Mesh::Index>& result) {
+  result.clear();
+  for (const Mesh::Index point : loop) {
+    if (point >= numbers.size() || numbers[point] == kNone) {
+      result.clear();
+      return;
+    }
+    if (result.empty() || result.back() != numbers[point]) result.push_back(numbers[point]);
+  }
+  while (result.size() > 1 && result.back() == result.front()) result.pop_back();
+  if (result.size() < 3) result.clear();
+}
+
+/// Copies the faces of a mesh with other numbers for their points; kNone drops the face.
+void CopyFaces(const Mesh& mesh, const std::vector<Mesh::Index>& numbers, Mesh& result) {
+  std::vector<Mesh::Index> loop;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      RenumberLoop(mesh.LoopOf(face, i), numbers, loop);
+      if (loop.empty() && i == 0) break;
+      if (loop.empty()) continue;
+      if (i == 0) result.BeginFace();
+      result.AddLoop(loop);
+    }
+  }
+}
+
+std::pair<Mesh::Index, Mesh::Index> EndsOf(const EdgeUse& edge) {
+  return {std::min(edge.from, edge.to), std::max(edge.from, edge.to)};
+}
+
+}  // namespace
+
+Mesh Weld(const Mesh& mesh, double distance) {
+  std::vector<bool> isUsed(mesh.points.size(), false);
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      for (const Mesh::Index point : mesh.LoopOf(face, i)) {
+        if (point < isUsed.size()) isUsed[point] = true;
+      }
+    }
+  }
+  PointIndex index(distance, mesh.points.size());
+  std::vector<Mesh::Index> numbers(mesh.points.size(), kNone);
+  for (std::size_t i = 0; i < mesh.points.size(); ++i) {
+    if (isUsed[i] && IsUsable(mesh.points[i])) numbers[i] = index.Add(mesh.points[i]);
+  }
+  Mesh result;
+  result.points = index.Points();
+  CopyFaces(mesh, numbers, result);
+  return result;
+}
+
+Mesh Flip(const Mesh& mesh) {
+  Mesh result;
+  result.points = mesh.points;
+  std::vector<Mesh::Index> loop;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    result.BeginFace();
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      const Mesh::Loop source = mesh.LoopOf(face, i);
+      loop.assign(source.begin(), source.end());
+      std::reverse(loop.begin(), loop.end());
+      result.AddLoop(loop);
+    }
+  }
+  return result;
+}
+
+void Append(Mesh& mesh, const Mesh& other) {
+  if (mesh.points.empty() && mesh.IsEmpty()) {
+    mesh = other;
+    return;
+  }
+  const auto first = static_cast<Mesh::Index>(mesh.points.size());
+  mesh.points.insert(mesh.points.end(), other.points.begin(), other.points.end());
+  std::vector<Mesh::Index> loop;
+  for (std::size_t face = 0; face < other.FaceCount(); ++face) {
+    mesh.BeginFace();
+    for (std::size_t i = 0; i < other.LoopCount(face); ++i) {
+      loop.clear();
+      for (const Mesh::Index point : other.LoopOf(face, i)) loop.push_back(first + point);
+      mesh.AddLoop(loop);
+    }
+  }
+}
+
+Mesh Moved(const Mesh& mesh, const Transform3& map) {
+  Mesh result = map.Determinant() < 0.0 ? Flip(mesh) : mesh;
+  for (Point3& point : result.points) point = map(point);
+  return result;
+}
+
+std::vector<EdgeUse> SortedEdgesOf(const Mesh& mesh) {
+  std::vector<EdgeUse> edges;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      const Mesh::Loop loop = mesh.LoopOf(face, i);
+      for (std::size_t k = 0; k < loop.size(); ++k) {
+        const Mesh::Index to = loop[k + 1 < loop.size() ? k + 1 : 0];
+        if (loop[k] != to) edges.push_back({loop[k], to, static_cast<Mesh::Index>(face)});
+      }
+    }
+  }
+  std::sort(edges.begin(), edges.end(), [](const EdgeUse& a, const EdgeUse& b) {
+    return std::tuple(EndsOf(a), a.face, a.from) < std::tuple(EndsOf(b), b.face, b.from);
+  });
+  return edges;
+}
+
+bool IsBalanced(const Mesh& mesh) {
+  const std::vector<EdgeUse> edges = SortedEdgesOf(mesh);
+  for (std::size_t i = 0; i < edges.size();) {
+    long balance = 0;
+    const auto ends = EndsOf(edges[i]);
+    for (; i < edges.size() && EndsOf(edges[i]) == ends; ++i) {
+      balance += edges[i].from < edges[i].to ? 1 : -1;
+    }
+    if (balance != 0) return false;
+  }
+  return true;
+}
+
+BuildingBox BoxOf(const Mesh& mesh) {
+  BuildingBox box;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    for (const Mesh::Index point : mesh.LoopOf(face, 0)) {
+      if (point < mesh.points.size()) Extend(box, mesh.points[point]);
+    }
+  }
+  return box;
+}
+
+double VolumeOf(const Mesh& mesh) {
+  // About the centre of the box: far from the origin the products would lose their digits.
+  const Point3 centre = CentreOf(BoxOf(mesh));
+  double sum = 0.0;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      const Mesh::Loop loop = mesh.LoopOf(face, i);
+      if (loop.size() < 3) continue;
+      sum += Dot(mesh.points[loop[0]] - centre, AreaVectorOf(mesh, loop));
+    }
+  }
+  return sum / 6.0;
+}
+
+bool IsClosed(const Mesh& mesh) {
+  if (mesh.IsEmpty()) return false;
+  return IsBalanced(mesh) || IsBalanced(Weld(mesh, kWeldDistance));
+}
+
+}  // namespace KelIFC::building

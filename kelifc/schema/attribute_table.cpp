@@ -1,0 +1,93 @@
+#include "kelifc/schema/attribute_table.h"
+
+#include <algorithm>
+
+#include "kelifc/schema/entity_tables.h"
+
+namespace KelIFC {
+
+namespace {
+
+// The names of a schema are ASCII; the locale has no say.
+char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+bool IsBefore(std::string_view a, std::string_view b) {
+  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
+                                      [](char x, char y) { return ToUpper(x) < ToUpper(y); });
+}
+
+bool IsSame(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return ToUpper(x) == ToUpper(y);
+         });
+}
+
+/// The attribute of a name that a class adds itself; null if there is none.
+const AttributeDescription* FindOwn(const EntityDescription& entity, std::string_view name) {
+  const AttributeDescription* derived = nullptr;
+  for (std::size_t i = 0; i < entity.attributeCount; ++i) {
+    const AttributeDescription& attribute = entity.attributes[i];
+    if (!IsSame(attribute.name, name)) continue;
+    if (attribute.use != AttributeUse::kDerived) return &attribute;
+    if (derived == nullptr) derived = &attribute;
+  }
+  return derived;
+}
+
+}  // namespace
+
+const AttributeDescription* EntityDescription::AttributeAt(std::size_t position) const {
+  if (position >= positionCount) return nullptr;
+  const EntityDescription* entity = this;
+  while (entity->record != nullptr && position < entity->record->positionCount) {
+    entity = entity->record;
+  }
+  const std::size_t first = entity->record == nullptr ? 0 : entity->record->positionCount;
+  return &entity->attributes[position - first];
+}
+
+const AttributeDescription* EntityDescription::FindAttribute(std::string_view attributeName) const {
+  if (attributeName.empty()) return nullptr;
+  if (const auto* own = FindOwn(*this, attributeName)) return own;
+  for (const EntityDescription* base : bases) {
+    if (base == nullptr) continue;
+    if (const auto* inherited = base->FindAttribute(attributeName)) return inherited;
+  }
+  return nullptr;
+}
+
+bool EntityDescription::IsKindOf(const EntityDescription& other) const {
+  if (this == &other) return true;
+  return std::any_of(std::begin(bases), std::end(bases), [&](const EntityDescription* base) {
+    return base != nullptr && base->IsKindOf(other);
+  });
+}
+
+EntityRange AllEntities(IFC_RELEASE release) {
+  switch (release) {
+    case IFC_RELEASE_151:
+      return kTables151.entities;
+    case IFC_RELEASE_20:
+      return kTables20.entities;
+    case IFC_RELEASE_2X:
+      return kTables2x.entities;
+    case IFC_RELEASE_2X2:
+      return kTables2x2.entities;
+    case IFC_RELEASE_2X3:
+      return kTables2x3.entities;
+    case IFC_RELEASE_NONE:
+      break;
+  }
+  return {};
+}
+
+const EntityDescription* FindEntity(IFC_RELEASE release, std::string_view name) {
+  const EntityRange all = AllEntities(release);
+  const auto* const at = std::lower_bound(
+      all.begin(), all.end(), name, [](const EntityDescription* entity, std::string_view text) {
+        return IsBefore(entity->name, text);
+      });
+  return at != all.end() && IsSame((*at)->name, name) ? *at : nullptr;
+}
+
+}  // namespace KelIFC

@@ -1,0 +1,36 @@
+#ifndef KELIFC_TOOLS_SCHEMAC_ENTITY_ROWS_H_
+#define KELIFC_TOOLS_SCHEMAC_ENTITY_ROWS_H_
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "tools/schemac/attribute_rows.h"
+#include "tools/schemac/release_model.h"
+
+namespace schemac {
+
+/// One class in the table of entities. The fields are those of EntityDescription in
+/// kelifc/schema/attribute_table.h, but for those that have a comment here; `form` and `valueKind`
+/// are enumerators.
+struct EntityRow {
+  std::string name;
+  std::string type;  ///< the C++ class; empty for one of the core
+  std::string form;
+  std::string valueKind;
+  std::string valueReader;
+  bool isInstantiable = false;  ///< `type` can have instances
+  bool isInFile = false;
+  std::vector<std::string> bases;
+  std::string record;
+  std::vector<AttributeRow> attributes;
+  std::size_t positionCount = 0;
+};
+
+/// All classes of a release, each after its bases: those of the core first. Throws
+/// DescriptionError for a class with more than two bases.
+std::vector<EntityRow> EntityRows(const ReleaseModel& model);
+
+}  // namespace schemac
+
+#endif  // KELIFC_TOOLS_SCHEMAC_ENTITY_ROWS_H_
