@@ -44,13 +44,18 @@ std::string TextOfSize(double metres) {
   return {text.data(), end};
 }
 
-void AddRows(std::vector<StandardSection>& sections) {
+using Sections = std::vector<StandardSection>;
+
+void AddIRows(Sections& sections) {
   for (const IRow& row : kIRows) {
     sections.push_back(
         {row.series + TextOfSize(row.number * kMillimetre), ProfileShape::kI,
          Millimetres({{kH, row.h}, {kB, row.b}, {kTw, row.tw}, {kTf, row.tf}, {kR, row.r}}),
          row.area * kSquareCentimetre});
   }
+}
+
+void AddURows(Sections& sections) {
   for (const URow& row : kURows) {
     ProfileParameters parameters = Millimetres(
         {{kH, row.h}, {kB, row.b}, {kTw, row.tw}, {kTf, row.tf}, {kR, row.r}, {kR1, row.r1}});
@@ -58,31 +63,37 @@ void AddRows(std::vector<StandardSection>& sections) {
     sections.push_back({row.series + TextOfSize(row.h * kMillimetre), ProfileShape::kU, parameters,
                         row.area * kSquareCentimetre});
   }
+}
+
+void Add(Sections& sections, ProfileShape shape, const ProfileParameters& parameters, double area) {
+  sections.push_back({DesignationOf(shape, parameters), shape, parameters, area});
+}
+
+void AddSizeRows(Sections& sections) {
   for (const SizeRow& row : kAngleRows) {
     for (const auto& [t, area] : row.thicknesses) {
       if (t == 0.0) continue;
-      const auto parameters =
-          Millimetres({{kH, row.h}, {kB, row.b}, {kT, t}, {kR, row.r}, {kR1, row.r / 2.0}});
-      sections.push_back({DesignationOf(ProfileShape::kL, parameters), ProfileShape::kL, parameters,
-                          area * kSquareCentimetre});
+      Add(sections, ProfileShape::kL,
+          Millimetres({{kH, row.h}, {kB, row.b}, {kT, t}, {kR, row.r}, {kR1, row.r / 2.0}}),
+          area * kSquareCentimetre);
     }
   }
   for (const SizeRow& row : kHollowRows) {
     for (const auto& [t, area] : row.thicknesses) {
       if (t == 0.0) continue;
-      const auto parameters =
-          Millimetres({{kH, row.h}, {kB, row.b}, {kT, t}, {kR, 1.5 * t}, {kR1, t}});
-      sections.push_back({DesignationOf(ProfileShape::kHollowRectangle, parameters),
-                          ProfileShape::kHollowRectangle, parameters, area * kSquareCentimetre});
+      Add(sections, ProfileShape::kHollowRectangle,
+          Millimetres({{kH, row.h}, {kB, row.b}, {kT, t}, {kR, 1.5 * t}, {kR1, t}}),
+          area * kSquareCentimetre);
     }
   }
+}
+
+void AddTubeRows(Sections& sections) {
   for (const TubeRow& row : kTubeRows) {
     for (const double t : row.thicknesses) {
       if (t == 0.0) continue;
-      const auto parameters = Millimetres({{kD, row.d}, {kT, t}});
-      sections.push_back({DesignationOf(ProfileShape::kHollowCircle, parameters),
-                          ProfileShape::kHollowCircle, parameters,
-                          std::numbers::pi * t * (row.d - t) * kMillimetre * kMillimetre});
+      Add(sections, ProfileShape::kHollowCircle, Millimetres({{kD, row.d}, {kT, t}}),
+          std::numbers::pi * t * (row.d - t) * kMillimetre * kMillimetre);
     }
   }
 }
@@ -124,8 +135,11 @@ std::optional<double> Difference(const StandardSection& section,
 
 const std::vector<StandardSection>& StandardSections() {
   static const std::vector<StandardSection> sections = [] {
-    std::vector<StandardSection> list;
-    AddRows(list);
+    Sections list;
+    AddIRows(list);
+    AddURows(list);
+    AddSizeRows(list);
+    AddTubeRows(list);
     return list;
   }();
   return sections;
