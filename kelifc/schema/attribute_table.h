@@ -66,8 +66,8 @@ struct AttributeDescription {
   std::int16_t position = kNoPosition;  ///< in the statement, counted from 0
   AttributeKind kind = AttributeKind::kUnknown;
   AttributeUse use = AttributeUse::kKept;
-  bool isRequired = false;  ///< the schema does not allow `$`; false where that is not known
-  bool isWritten = false;   ///< a save writes the kept value; false: a fixed text or nothing
+  bool isRequired = false;         ///< the schema does not allow `$`; false where that is not known
+  bool isWritten = false;          ///< a save writes the kept value; false: a fixed text or nothing
   AttributeReader read = nullptr;  ///< null for a value that the instance does not keep
 };
 

@@ -43,6 +43,24 @@ TEST(ProfileKey, ComparesAllPointsOfAnArbitraryProfile) {
   EXPECT_NE(ProfileKey(Triangle(1.0)), ProfileKey(withHole));
 }
 
+TEST(ProfileKey, DistinguishesAMirroredOutlineOfTheSameSizes) {
+  BuildingProfile angle = Rectangle(0.1, 0.1);
+  angle.shape = ProfileShape::kL;
+  angle.outline = {{-0.03, -0.03}, {0.07, -0.03}, {0.07, -0.02},
+                   {-0.02, -0.02}, {-0.02, 0.07}, {-0.03, 0.07}};
+  BuildingProfile mirrored = angle;
+  for (Point2& point : mirrored.outline) point.x = -point.x;
+  EXPECT_NE(ProfileKey(angle), ProfileKey(mirrored));
+
+  BuildingProfile zed = Rectangle(0.1, 0.1);  // its box is symmetric, so only iyz differs
+  zed.shape = ProfileShape::kZ;
+  zed.iy = zed.iz = 1.0;
+  zed.iyz = 0.3;
+  BuildingProfile mirroredZed = zed;
+  mirroredZed.iyz = -0.3;
+  EXPECT_NE(ProfileKey(zed), ProfileKey(mirroredZed));
+}
+
 TEST(ProfileKey, TakesNumbersThatCannotBeRounded) {
   const double huge = 1e300;
   const double nan = std::numeric_limits<double>::quiet_NaN();
