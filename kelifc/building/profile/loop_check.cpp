@@ -12,7 +12,7 @@ namespace KelIFC::building {
 namespace {
 
 constexpr std::size_t kMostPairwise = 128;
-constexpr std::size_t kMostDirectTests = 64;
+constexpr std::size_t kMostDirectWork = 20'000'000;  // pairs of a point and an edge
 
 bool IsBefore(const Point2& a, const Point2& b) { return a.x != b.x ? a.x < b.x : a.y < b.y; }
 
@@ -193,19 +193,21 @@ class Sweep {
     return !DoCross(edges.all[*next], edges.all[*std::prev(next)]);
   }
 
-  // Decides the few holes whose first point touches the loop below it.
+  // Decides for a hole whose first point touches the loop below it. Each decision takes time in
+  // proportion to that loop, so the number of them is limited.
   bool IsInsideDirectly(std::uint32_t loop, std::uint32_t below) {
-    if (++directTests > kMostDirectTests) return false;
     const Outline& hole = region.holes[loop - 1];
-    if (below == 0) return PlaceOf(hole, region.outer) == Place::kInside;
-    return PlaceOf(hole, region.holes[below - 1]) == Place::kOutside;
+    const Outline& around = below == 0 ? region.outer : region.holes[below - 1];
+    directWork += around.size();
+    if (directWork > kMostDirectWork) return false;
+    return PlaceOf(hole, around) == (below == 0 ? Place::kInside : Place::kOutside);
   }
 
   const FlatRegion& region;
   Edges edges;
   std::set<std::uint32_t, IsBelow> line;
   std::vector<std::set<std::uint32_t, IsBelow>::iterator> places;
-  std::size_t directTests = 0;
+  std::size_t directWork = 0;
 };
 
 }  // namespace

@@ -67,8 +67,9 @@ class Moments {
     constexpr std::array<double, 3> kPlaces = {0.0, 0.5384693101056831, 0.9061798459386640};
     constexpr std::array<double, 3> kWeights = {0.5688888888888889, 0.4786286704993665,
                                                 0.2369268850561891};
-    const double count = std::ceil(std::abs(arc.sweep) / kPiece);
-    for (double piece = 0.0; piece < count; ++piece) {
+    const int pieces = static_cast<int>(std::ceil(std::abs(arc.sweep) / kPiece));
+    const double count = pieces;
+    for (int piece = 0; piece < pieces; ++piece) {
       for (std::size_t i = 0; i < kPlaces.size(); ++i) {
         for (const double side : {-1.0, 1.0}) {
           if (i == 0 && side > 0.0) continue;

@@ -99,6 +99,7 @@ SlicedProfile MakeProfile(const FlatRegion& region, const std::string& name) {
     sliced.profile.shape = found->shape;
     sliced.profile.parameters = found->parameters;
   }
+  Designate(sliced.profile);
   return sliced;
 }
 

@@ -17,7 +17,6 @@ namespace KelIFC::building {
 namespace {
 
 using enum ProfileParameter;
-constexpr double kPi = std::numbers::pi;
 
 class Random {
  public:
@@ -72,6 +71,7 @@ ProfileFacts RandomFacts(ProfileShape shape, Random& random) {
   const double t = random(5, 12);
   const double r = random(4, 14);
   const double tf = random(14, 18);
+  const double k = random(0.03, 0.08);
   switch (shape) {
     case ProfileShape::kRectangle:
       return FactsOf(shape, {{kH, h}, {kB, b}});
@@ -103,11 +103,10 @@ ProfileFacts RandomFacts(ProfileShape shape, Random& random) {
                              {kTf, tf},
                              {kR, r},
                              {kR1, random(3, 8)},
-                             {kSlope, random(0.03, 0.08)}});
+                             {kSlope, k}});
     case ProfileShape::kL:
       return FactsOf(shape, {{kH, h}, {kB, b}, {kT, t}, {kR, r}, {kR1, t / 2}});
     case ProfileShape::kT:
-      return FactsOf(shape, {{kH, h}, {kB, b}, {kTw, t}, {kTf, tf}, {kR, r}, {kR1, t / 2}});
     case ProfileShape::kZ:
       return FactsOf(shape, {{kH, h}, {kB, b}, {kTw, t}, {kTf, tf}, {kR, r}, {kR1, t / 2}});
     case ProfileShape::kC:
