@@ -17,16 +17,35 @@ namespace KelIFC {
 
 namespace {
 
-/// The identifier of an instance if it is a `Root`. The walks over a whole model ask for the class
-/// of every instance, which the cache answers without a search per instance.
+/// Remembers an answer for each of the last classes that it was asked about. The walks over a whole
+/// model ask about every instance.
+template <class Answer>
+class AnswersByClass {
+ public:
+  /// The answer for the class of an instance. `find` is called if the answer is not known.
+  template <class Find>
+  Answer Get(const IfcUnknown& instance, Find find) {
+    const std::type_info* const type = &typeid(instance);
+    Entry& entry = entries[(reinterpret_cast<std::uintptr_t>(type) / 16) % kEntries];
+    if (entry.type != type) entry = {type, find(&instance)};
+    return entry.answer;
+  }
+
+ private:
+  static constexpr std::size_t kEntries = 256;
+  struct Entry {
+    const std::type_info* type = nullptr;
+    Answer answer = {};
+  };
+  std::array<Entry, kEntries> entries = {};
+};
+
 template <class Root>
-bool ReadGuidOf(const IfcUnknown* instance, _GUID& guid) {
-  thread_local CastCache<const Root> roots;
-  const Root* root = roots.Cast(instance);
-  if (root == nullptr) return false;
-  guid = root->GetGlobalGUID();
-  return true;
+_GUID GuidOf(const IfcUnknown* instance) {
+  return CachedCast<Root>(instance)->GetGlobalGUID();
 }
+
+using GuidReader = _GUID (*)(const IfcUnknown*);
 
 template <class Project>
 const Project* AsProject(const IfcUnknown* instance) {
@@ -39,32 +58,31 @@ bool IsA(const IfcUnknown* instance) {
   return CachedCast<Product>(instance) != nullptr;
 }
 
+/// How the identifier of a class is read; null for a class without one.
+GuidReader FindGuidReader(const IfcUnknown* instance) {
+  if (IsA<KelIFC2x::IfcRoot>(instance)) return GuidOf<KelIFC2x::IfcRoot>;
+  if (IsA<KelIFC2x2::IfcRoot>(instance)) return GuidOf<KelIFC2x2::IfcRoot>;
+  if (IsA<KelIFC2x3::IfcRoot>(instance)) return GuidOf<KelIFC2x3::IfcRoot>;
+  return nullptr;
+}
+
 }  // namespace
 
-// Asked of every instance that a load makes: the answers of the last classes stand ready.
 bool IsProduct(const IfcUnknown* instance) {
-  struct Answer {
-    const std::type_info* type;
-    bool isProduct;
-  };
-  constexpr std::size_t kAnswers = 64;
-  thread_local std::array<Answer, kAnswers> answers = {};
-  if (instance == nullptr) return false;
-  const std::type_info* const type = &typeid(*instance);
-  Answer& answer = answers[(reinterpret_cast<std::uintptr_t>(type) / 8) % kAnswers];
-  if (answer.type != type) {
-    const bool isProduct = IsA<KelIFC2x::IfcProduct>(instance) ||
-                           IsA<KelIFC2x2::IfcProduct>(instance) ||
-                           IsA<KelIFC2x3::IfcProduct>(instance);
-    answer = {type, isProduct};
-  }
-  return answer.isProduct;
+  thread_local AnswersByClass<bool> answers;
+  return instance != nullptr && answers.Get(*instance, [](const IfcUnknown* asked) {
+    return IsA<KelIFC2x::IfcProduct>(asked) || IsA<KelIFC2x2::IfcProduct>(asked) ||
+           IsA<KelIFC2x3::IfcProduct>(asked);
+  });
 }
 
 bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid) {
-  return ReadGuidOf<KelIFC2x::IfcRoot>(instance, guid) ||
-         ReadGuidOf<KelIFC2x2::IfcRoot>(instance, guid) ||
-         ReadGuidOf<KelIFC2x3::IfcRoot>(instance, guid);
+  thread_local AnswersByClass<GuidReader> readers;
+  if (instance == nullptr) return false;
+  const GuidReader read = readers.Get(*instance, FindGuidReader);
+  if (read == nullptr) return false;
+  guid = read(instance);
+  return true;
 }
 
 const KelIFC151::IfcProject* AsProject151(const IfcUnknown* instance) {

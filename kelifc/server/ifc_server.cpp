@@ -62,7 +62,7 @@ void IfcServer::Reset() {
   items = Mvector<IfcUnknown*>();  // frees the memory
   idToIndex.Clear();
   instanceIndex.Clear();  // a destructor may have built it again
-  guidIndex.clear();
+  guidIndex = {};
   productPositions = {};
   places = {};
   source.reset();
@@ -183,19 +183,30 @@ const IfcUnknown* IfcServer::GetItem(std::size_t) const { return nullptr; }
 IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
   if (IsNullGuid(guid)) return nullptr;
   if (guidIndex.empty()) BuildGuidIndex();
-  const auto found = guidIndex.find(guid);
-  return found == guidIndex.end() ? nullptr : items[found->second];
+  const auto found = std::lower_bound(
+      guidIndex.begin(), guidIndex.end(), guid,
+      [](const GuidPlace& place, const _GUID& wanted) { return GuidLess()(place.guid, wanted); });
+  const bool isFound = found != guidIndex.end() && !GuidLess()(guid, found->guid);
+  return isFound ? items[found->position] : nullptr;
 }
 
-// Goes backwards, so that the first instance with an identifier wins. A model without identifiers
-// is searched again only after it has grown.
+// Of several instances with one identifier the first wins. A model without identifiers is searched
+// again only after it has grown.
 void IfcServer::BuildGuidIndex() {
   if (slotsWithoutGuid == items.size()) return;
-  GuidIndex made;  // assigned when it is complete: an allocation can fail
-  for (std::size_t i = items.size(); i > 0; --i) {
-    _GUID guid = {};
-    if (ReadGlobalGuid(items[i - 1], guid)) made[guid] = static_cast<std::uint32_t>(i - 1);
+  std::vector<GuidPlace> made;  // assigned when it is complete: an allocation can fail
+  GuidPlace place = {};
+  for (; place.position < items.size(); ++place.position) {
+    if (ReadGlobalGuid(items[place.position], place.guid)) made.push_back(place);
   }
+  std::sort(made.begin(), made.end(), [](const GuidPlace& a, const GuidPlace& b) {
+    if (GuidLess()(a.guid, b.guid)) return true;
+    return !GuidLess()(b.guid, a.guid) && a.position < b.position;
+  });
+  const auto last = std::unique(
+      made.begin(), made.end(),
+      [](const GuidPlace& a, const GuidPlace& b) { return !GuidLess()(a.guid, b.guid); });
+  made.erase(last, made.end());
   guidIndex.swap(made);
   if (guidIndex.empty()) slotsWithoutGuid = items.size();
 }

@@ -32,6 +32,18 @@ class IsoRules : public ScanBuffer {
   void SetFindings(LoadFindings* target) { findings = target; }
 
  protected:
+  /// Starts a statement. One line end before it, as nearly every file has it, is skipped here,
+  /// which is faster than to search for it.
+  void Begin() {
+    const bool hasReturn = cursor + 2 < dataEnd && buffer[cursor] == '\r';
+    const std::size_t lineEnd = cursor + (hasReturn ? 1 : 0);
+    if (lineEnd + 1 < dataEnd && buffer[lineEnd] == '\n') {
+      BeginLine(lineEnd + 1);
+      cursor = lineEnd + 1;
+    }
+    ScanBuffer::Begin();
+  }
+
   bool FindMark();
   char* TakeMark();
   void TakeEnd();

@@ -99,6 +99,7 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
   std::shared_ptr<ModelOrigin> made;
   if (options.dialect == STEP_DIALECT_ISO) made = std::make_shared<ModelOrigin>();
   initial.origin = made.get();
+  initial.hash = &sourceHash;
   const int result = LoadFrom(*model, initial);
   if (result != LOAD_RESULT_LOADED) return result;
   try {
@@ -156,22 +157,28 @@ int IfcServer::LoadPasses(const ModelSource& model) {
   load.statementBytes = 0;
   in = model.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
-  if (load.origin == nullptr) {
+  if (load.hash == nullptr) {
     ScanFile(*in, this, false);
   } else {
-    ScanOrigin(*in, *load.origin);
+    ScanSource(*in);
   }
   return LOAD_RESULT_LOADED;
 }
 
-// The second pass, which also notes what a faithful save needs.
-void IfcServer::ScanOrigin(std::istream& in, ModelOrigin& target) {
-  target.statedEnd = items.size();
-  target.repeats = load.repeats;
+// The second pass of a load with options. It also notes what the server needs to read the source
+// again.
+void IfcServer::ScanSource(std::istream& in) {
+  ModelOrigin* const target = load.origin;
+  std::optional<IdRecorder> recorder;
+  if (target != nullptr) {
+    target->statedEnd = items.size();
+    target->repeats = load.repeats;
+    recorder.emplace(target->replacedIds, load.statementNumber);
+  }
   HashedInput hashed(in);
   ScanFile(hashed, this, false);
-  target.addedEnd = items.size();
-  target.hash = hashed.GetHash().GetValue();
+  *load.hash = hashed.GetHash().GetValue();
+  if (target != nullptr) target->addedEnd = items.size();
 }
 
 void IfcServer::MakeRoom(std::uint64_t fileSize) {
@@ -179,6 +186,7 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   const auto expected =
       static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
   items.reserve(expected);
+  if (load.findings != nullptr) places.reserve(expected);
   idToIndex.Reserve(expected);
 }
 

@@ -15,6 +15,7 @@ struct KindName {
 constexpr std::array<KindName, kLoadFindingKinds> kKinds = {{
     {LoadFinding::kRepeatedNumber, "repeatedNumbers"},
     {LoadFinding::kDanglingReference, "danglingReferences"},
+    {LoadFinding::kUnreadAttribute, "unreadAttributes"},
     {LoadFinding::kBadEscape, "badEscapes"},
     {LoadFinding::kStatementWithoutEnd, "statementsWithoutEnd"},
 }};
@@ -91,11 +92,12 @@ std::string PlaceAsJson(const SourcePlace& place, const FindingSubject& subject)
   return object.Object();
 }
 
-std::string DanglingAsJson(const LoadReport& report) {
+std::string AttributesAsJson(const LoadReport::AttributeCounts& counts) {
   JsonBuilder list;
-  for (const auto& [at, count] : report.danglingByAttribute) {
+  for (const auto& [at, count] : counts) {
     JsonBuilder object;
     object.Add("entity", Quoted(at.entity)).Add("attribute", std::uint64_t{at.attribute});
+    if (!at.name.empty()) object.Add("name", Quoted(at.name));
     list.AddItem(object.Add("count", count).Object());
   }
   return list.List();
@@ -108,7 +110,12 @@ std::string FindingsAsJson(const LoadReport& report, LoadFinding kind) {
   for (std::size_t i = 0; i < places.size(); ++i) list.AddItem(PlaceAsJson(places[i], subjects[i]));
   JsonBuilder object;
   object.Add("count", report.findings.GetCount(kind)).Add("places", list.List());
-  if (kind == LoadFinding::kDanglingReference) object.Add("attributes", DanglingAsJson(report));
+  if (kind == LoadFinding::kDanglingReference) {
+    object.Add("attributes", AttributesAsJson(report.danglingByAttribute));
+  }
+  if (kind == LoadFinding::kUnreadAttribute) {
+    object.Add("attributes", AttributesAsJson(report.unreadByAttribute));
+  }
   return object.Object();
 }
 

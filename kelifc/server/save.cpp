@@ -150,6 +150,7 @@ void IfcServer::WriteInstances(std::ostream& out) {
       } else {
         statement.Clear();
         WriteInstance(statement, batch[i]);
+        if (!statement) out.setstate(std::ios::badbit);
         WriteIsoStatement(out, statement.GetText());
       }
     }

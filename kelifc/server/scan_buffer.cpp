@@ -38,11 +38,6 @@ SourcePlace ScanBuffer::GetPlace(std::size_t offset) const {
   return {piece.place.line, piece.place.column + distance};
 }
 
-std::uint64_t ScanBuffer::GetBeginOffset() const {
-  const Piece& piece = FindPiece(dropped);
-  return piece.absolute + dropped - piece.offset;
-}
-
 void ScanBuffer::AddPiece(std::size_t offset) {
   if (pieces.size() < kMostPieces) {
     pieces.push_back({offset, PlaceOf(cursor), AbsoluteOf(cursor)});

@@ -1,6 +1,7 @@
 #ifndef KELIFC_SERVER_SCAN_BUFFER_H_
 #define KELIFC_SERVER_SCAN_BUFFER_H_
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <istream>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "kelifc/server/load_findings.h"
+#include "kelifc/server/statement_place.h"
 
 namespace KelIFC {
 
@@ -50,10 +52,19 @@ class ScanBuffer {
   SourcePlace GetPlace(std::size_t offset = 0) const;
 
   /// The offset in the stream of the first character of the last statement.
-  std::uint64_t GetBeginOffset() const;
+  std::uint64_t GetBeginOffset() const { return OffsetIn(GetFirstPiece()); }
 
   /// The offset in the stream of what follows the last statement and its `;`.
   std::uint64_t GetEndOffset() const { return AbsoluteOf(cursor); }
+
+  /// Where the last statement is in the stream.
+  StatementPlace GetStatementPlace() const {
+    constexpr std::uint64_t kMost = UINT32_MAX;
+    const Piece& first = GetFirstPiece();
+    const std::uint64_t begin = OffsetIn(first);
+    return {begin, static_cast<std::uint32_t>(std::min(first.place.line, kMost)),
+            static_cast<std::uint32_t>(std::min(GetEndOffset() - begin, kMost))};
+  }
 
   static constexpr std::size_t kMostPieces = 65536;
 
@@ -143,6 +154,12 @@ class ScanBuffer {
     SourcePlace place;
     std::uint64_t absolute = 0;  // offset in the stream
   };
+
+  // The piece with the first character of the text, and the offset of this character.
+  const Piece& GetFirstPiece() const { return pieces.empty() ? start : FindPiece(dropped); }
+  std::uint64_t OffsetIn(const Piece& piece) const {
+    return piece.absolute + dropped - piece.offset;
+  }
 
   const Piece& FindPiece(std::size_t offset) const;
   void AddPiece(std::size_t offset);

@@ -51,7 +51,8 @@ TEST_F(Reading, AReportCountsWhatTheFileHolds) {
             R"({"count":1,"places":[{"line":8,"column":1,"number":2}]})");
   EXPECT_EQ(report["danglingReferences"].dump(),
             R"({"count":1,"places":[{"line":6,"column":20,"number":1,"entity":"IFCPOLYLINE",)"
-            R"("attribute":1}],"attributes":[{"entity":"IFCPOLYLINE","attribute":1,"count":1}]})");
+            R"("attribute":1}],"attributes":[{"entity":"IFCPOLYLINE","attribute":1,)"
+            R"("name":"Points","count":1}]})");
   EXPECT_EQ(report["badEscapes"].dump(),
             R"({"count":1,"places":[{"line":9,"column":12,"number":3}]})");
   EXPECT_EQ(report["statementsWithoutEnd"].dump(),

@@ -24,7 +24,7 @@ LoadReport SampleReport() {
   for (std::uint64_t line = 1; line <= 12; ++line) {
     report.findings.Note(LoadFinding::kDanglingReference, {line, 2}, {9, "IFCWALL", 6});
   }
-  report.danglingByAttribute[{"IFCWALL", 6}] = 12;
+  report.danglingByAttribute[{"IFCWALL", 6, "ObjectPlacement"}] = 12;
   return report;
 }
 
@@ -46,7 +46,7 @@ TEST(ReportFormat, JsonHasEveryPlace) {
                               R"([{"line":4,"column":5,"number":7}]},)"));
   EXPECT_THAT(json, HasSubstr(R"({"line":12,"column":2,"number":9,"entity":"IFCWALL",)"
                               R"("attribute":6}],"attributes":[{"entity":"IFCWALL",)"
-                              R"("attribute":6,"count":12}]})"));
+                              R"("attribute":6,"name":"ObjectPlacement","count":12}]})"));
   EXPECT_THAT(json, HasSubstr(R"("badEscapes":{"count":0,"places":[]})"));
 }
 

@@ -3,6 +3,9 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <typeinfo>
+#include <unordered_map>
+#include <utility>
 
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/json.h"
@@ -41,6 +44,37 @@ void Load(KelIFC::IfcServer& server, const InfoOptions& options) {
   }
 }
 
+/// Counts the instances of each class. The class decides the entity, except for raw text.
+class EntityCounts {
+ public:
+  explicit EntityCounts(const KelIFC::IfcServer& server) : server(server) {}
+
+  void Add(const KelIFC::IfcUnknown& instance) {
+    const std::type_info& type = typeid(instance);
+    std::size_t& count = classes[&type];
+    if (count++ == 0) names[&type] = instance.GetStepName();
+    if (type == typeid(KelIFC::IfcOther)) AddRaw(static_cast<const KelIFC::IfcOther&>(instance));
+  }
+
+  void MoveTo(Info& info) {
+    for (const auto& [type, count] : classes) {
+      info.instances += count;
+      if (*type != typeid(KelIFC::IfcOther)) info.entities[names[type]] += count;
+    }
+    info.raw = std::move(raw);
+  }
+
+ private:
+  void AddRaw(const KelIFC::IfcOther& other) {
+    ++raw[Utf8FromModel(server, UpperCase(other.GetStepEntityName()))];
+  }
+
+  const KelIFC::IfcServer& server;
+  std::unordered_map<const std::type_info*, std::size_t> classes;
+  std::unordered_map<const std::type_info*, std::string> names;
+  Counts raw;
+};
+
 Info ReadInfo(const InfoOptions& options) {
   KelIFC::IfcServer server;
   Load(server, options);
@@ -49,17 +83,12 @@ Info ReadInfo(const InfoOptions& options) {
   info.file = options.model;
   info.release = ReleaseText(server.GetRelease());
   info.schema = Utf8FromModel(server, server.GetFileSchema());
+  EntityCounts counts(server);
   for (std::size_t number = server.GetNextNumber(0); number != 0;
        number = server.GetNextNumber(number)) {
-    const KelIFC::IfcUnknown* instance = server.GetItem(number);
-    if (instance == nullptr) continue;
-    ++info.instances;
-    if (const auto* other = dynamic_cast<const KelIFC::IfcOther*>(instance)) {
-      ++info.raw[Utf8FromModel(server, UpperCase(other->GetStepEntityName()))];
-    } else {
-      ++info.entities[instance->GetStepName()];
-    }
+    if (const auto* instance = server.GetItem(number)) counts.Add(*instance);
   }
+  counts.MoveTo(info);
   return info;
 }
 

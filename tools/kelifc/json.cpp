@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace command {
 namespace {
@@ -10,29 +11,45 @@ std::string OnOneLine(const Json& value) {
   return value.dump(-1, ' ', false, Json::error_handler_t::replace);
 }
 
-std::string OnLines(const Json& value) {
-  if (!value.is_structured() || value.empty()) return OnOneLine(value);
-  std::string text;
-  for (const auto& [key, entry] : value.items()) {
-    text += text.empty() ? "\n    " : ",\n    ";
-    if (value.is_object()) text += OnOneLine(key) + ": ";
-    text += OnOneLine(entry);
-  }
-  return value.is_object() ? "{" + text + "\n  }" : "[" + text + "\n  ]";
-}
-
 }  // namespace
 
-std::string ToText(const Json& object) {
-  std::string text;
-  for (const auto& [key, value] : object.items()) {
-    text += text.empty() ? "{\n  " : ",\n  ";
-    text += OnOneLine(key) + ": " + OnLines(value);
-  }
-  return text + "\n}\n";
+void JsonText::BeginMember(std::string_view key) {
+  text += text.empty() ? "{\n  " : ",\n  ";
+  text += OnOneLine(key) + ": ";
 }
 
-std::string JsonText(std::string_view text) { return OnOneLine(Json(text)); }
+void JsonText::AddEntry(bool isFirst, const Json& entry) {
+  text += isFirst ? "\n    " : ",\n    ";
+  text += OnOneLine(entry);
+}
+
+void JsonText::Add(std::string_view key, const Json& value) {
+  if (value.is_array())
+    return AddList(key, value, [](const Json& entry) -> const Json& { return entry; });
+  BeginMember(key);
+  if (!value.is_object() || value.empty()) {
+    text += OnOneLine(value);
+    return;
+  }
+  text += '{';
+  bool isFirst = true;
+  for (const auto& [name, entry] : value.items()) {
+    text += isFirst ? "\n    " : ",\n    ";
+    text += OnOneLine(name) + ": " + OnOneLine(entry);
+    isFirst = false;
+  }
+  text += "\n  }";
+}
+
+std::string JsonText::Finish() { return std::exchange(text, {}) + "\n}\n"; }
+
+std::string ToText(const Json& object) {
+  JsonText text;
+  for (const auto& [key, value] : object.items()) text.Add(key, value);
+  return text.Finish();
+}
+
+std::string QuotedText(std::string_view text) { return OnOneLine(Json(text)); }
 
 std::string NumberText(double value) {
   if (!std::isfinite(value)) return "null";

@@ -43,7 +43,7 @@ void JsonWriter::End(char bracket) {
 
 void JsonWriter::Key(std::string_view key) {
   Separate();
-  output.Write(JsonText(key));
+  output.Write(QuotedText(key));
   output.Write(isEmpty.size() <= kLevelsOnLines ? ": " : ":");
   hasKey = true;
 }
@@ -52,6 +52,6 @@ void JsonWriter::Value(std::size_t value) { Write(std::to_string(value)); }
 
 void JsonWriter::Value(double value) { Write(NumberText(value)); }
 
-void JsonWriter::Value(std::string_view text) { Write(JsonText(text)); }
+void JsonWriter::Value(std::string_view text) { Write(QuotedText(text)); }
 
 }  // namespace command

@@ -73,6 +73,9 @@ void LoadModelWithReport(IfcServer& server, const std::string& path, const Readi
   LoadWithProgress(server, path, reading, [&](const char* file) {
     const int code = server.LoadIfc(file, OptionsOf(reading));
     if (code != KelIFC::LOAD_RESULT_LOADED || server.CheckModel()) return code;
+    if (server.GetLoadReport().hasSourceChanged) {
+      throw Failure(Status::kFile, path, "the file changed while it was read");
+    }
     return static_cast<int>(KelIFC::LOAD_RESULT_CANNOT_OPEN);  // the file is gone meanwhile
   });
 }

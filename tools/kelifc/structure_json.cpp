@@ -70,26 +70,23 @@ Json Object(const Section& section) {
   return object;
 }
 
-/// Declared after all overloads of Object, so that it finds the one for each kind of item.
-template <class Item>
-Json List(const std::vector<Item>& items) {
-  Json list = Json::array();
-  for (const Item& item : items) list.push_back(Object(item));
-  return list;
-}
-
 }  // namespace
 
 std::string StructureJson(const std::string& file, const Structure& structure) {
-  return ToText({{"file", file},
-                 {"release", structure.release},
-                 {"storeys", List(structure.storeys)},
-                 {"columns", List(structure.columns)},
-                 {"beams", List(structure.beams)},
-                 {"walls", List(structure.walls)},
-                 {"plates", List(structure.plates)},
-                 {"foots", List(structure.foots)},
-                 {"sections", List(structure.sections)}});
+  JsonText text;
+  const auto list = [&text](const char* name, const auto& items) {
+    text.AddList(name, items, [](const auto& item) { return Object(item); });
+  };
+  text.Add("file", file);
+  text.Add("release", structure.release);
+  list("storeys", structure.storeys);
+  list("columns", structure.columns);
+  list("beams", structure.beams);
+  list("walls", structure.walls);
+  list("plates", structure.plates);
+  list("foots", structure.foots);
+  list("sections", structure.sections);
+  return text.Finish();
 }
 
 }  // namespace command

@@ -152,7 +152,8 @@ void EmitAttributes(const ReleaseModel& model, Files& files) {
   for (const auto& row : EntityRows(model)) {
     words["members"] += MembersText(row);
     words["entities"] += EntityText(row);
-    if (row.isInstantiable) words["types"] += Fill(kType, {{"class", row.type}, {"name", row.name}});
+    if (row.isInstantiable)
+      words["types"] += Fill(kType, {{"class", row.type}, {"name", row.name}});
     names.push_back(row.name);
   }
   words["names"] = NamesText(names);

@@ -99,8 +99,8 @@ EntityRow RowOf(const ReleaseModel& model, const DefinedType& type) {
   row.isInFile = type.file.Has(model.release);
   if (!type.base.empty()) row.bases = {type.base};
   if (row.isInstantiable) {
-    row.valueReader = Fill(kValueReader, {{"class", row.type},
-                                          {"value", std::string(InfoOf(type.kind).type)}});
+    row.valueReader =
+        Fill(kValueReader, {{"class", row.type}, {"value", std::string(InfoOf(type.kind).type)}});
   }
   return row;
 }

@@ -16,7 +16,7 @@ constexpr double kSamePoint = 1e-5;
 constexpr double kOnSurface = 1e-3;
 
 // Cut-outs explain a difference only where most of the surface of the solid is left.
-constexpr double kSmallestSharedSurface = 0.4;
+constexpr double kSmallestSharedSurface = 0.6;
 constexpr double kLargestCutVolume = 1.35;
 
 // Which points of a list have a partner in another one, and the largest distance of those.
@@ -232,20 +232,39 @@ void MeasureDifference(Boundary& boundary, const Mesh& solid, const PointMatch& 
   fit.deviation = std::max({ofBody.largest, ofSolid.largest, outside, distances.protruding});
 }
 
+// True if both lists hold the same points in the same order, as a body and a solid that were made
+// in the same way do.
+bool AreInSameOrder(const std::vector<Point3>& a, const std::vector<Point3>& b, double& largest) {
+  if (a.size() != b.size()) return false;
+  largest = 0.0;
+  for (std::size_t i = 0; i < a.size(); ++i) {
+    const double distance = Length(b[i] - a[i]);
+    if (!(distance <= kSamePoint)) return false;
+    largest = std::max(largest, distance);
+  }
+  return true;
+}
+
+bool IsSameVolume(const Fit& fit) { return !fit.ratio || std::fabs(*fit.ratio - 1.0) < 1e-4; }
+
+void MeasurePoints(Boundary& boundary, const Mesh& solid, Fit& fit) {
+  if (AreInSameOrder(boundary.Points(), solid.points, fit.deviation) && IsSameVolume(fit)) return;
+  const PointMatch solidPoints(solid.points);
+  const PointMatch bodyPoints(boundary.Points());
+  const Matches ofBody = MatchPoints(boundary.Points(), solid.points, solidPoints);
+  const Matches ofSolid = MatchPoints(solid.points, boundary.Points(), bodyPoints);
+  fit.deviation = std::max(ofBody.largest, ofSolid.largest);
+  if (ofBody.unmatched == 0 && ofSolid.unmatched == 0 && IsSameVolume(fit)) return;
+  MeasureDifference(boundary, solid, solidPoints, ofBody, ofSolid, fit);
+}
+
 }  // namespace
 
 Fit MeasureFit(Boundary& boundary, const Mesh& solid) {
   Fit fit;
   fit.volume = VolumeOf(solid);
   if (const std::optional<double> volume = boundary.Volume()) fit.ratio = fit.volume / *volume;
-  const PointMatch solidPoints(solid.points);
-  const PointMatch bodyPoints(boundary.Points());
-  const Matches ofBody = MatchPoints(boundary.Points(), solid.points, solidPoints);
-  const Matches ofSolid = MatchPoints(solid.points, boundary.Points(), bodyPoints);
-  fit.deviation = std::max(ofBody.largest, ofSolid.largest);
-  const bool isSame = ofBody.unmatched == 0 && ofSolid.unmatched == 0 &&
-                      (!fit.ratio || std::fabs(*fit.ratio - 1.0) < 1e-4);
-  if (!isSame) MeasureDifference(boundary, solid, solidPoints, ofBody, ofSolid, fit);
+  MeasurePoints(boundary, solid, fit);
   const bool isExplained = IsVolumeExact(fit) || (fit.ratio && fit.cutouts > 0);
   fit.isApproximate = fit.deviation > kExactDeviation || !isExplained;
   return fit;

@@ -10,6 +10,10 @@ namespace {
 
 constexpr double kLeastSize = 1e-6;  // metres
 
+// Solids whose volume is not in this range of that of the body are not measured.
+constexpr double kLeastVolume = 0.7;
+constexpr double kMostVolume = 1.5;
+
 /// A limit of slenderness or flatness, and the suitability from there on.
 struct Grade {
   double limit = 0.0;
@@ -100,6 +104,10 @@ bool Measure(Subject& subject, Reading& reading) {
   for (const Point3& p : reading.solid.points) {
     if (!IsFinite(FromOrigin(p))) return false;
   }
+  if (const std::optional<double> volume = subject.boundary.Volume()) {
+    const double ratio = VolumeOf(reading.solid) / *volume;
+    if (!(ratio > kLeastVolume && ratio < kMostVolume)) return false;
+  }
   reading.fit = MeasureFit(subject.boundary, reading.solid);
   return reading.fit.volume > 0.0;
 }
@@ -117,7 +125,7 @@ double ScoreOf(const Reading& reading) {
 
 bool IsAcceptable(const Reading& reading) {
   constexpr double kLeastSuitability = 0.1;
-  constexpr double kLargestRelativeDeviation = 0.25;
+  constexpr double kLargestRelativeDeviation = 0.12;
   constexpr double kLargestVolumeError = 0.25;
   if (reading.suitability < kLeastSuitability) return false;
   if (!reading.fit.isApproximate) return true;

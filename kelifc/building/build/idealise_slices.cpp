@@ -45,10 +45,15 @@ Outline BoxAcross(const Boundary& boundary, const PlaneFrame& frame) {
           {extent.x.from, extent.y.to}};
 }
 
-// The part of the surface that runs along a direction or is square to it promises a prism.
+// The part of the surface that runs along a direction or is square to it promises a prism. A
+// boundary of very many faces is sliced only along directions that promise much.
 double PrismPart(Subject& subject, const Direction& direction) {
+  constexpr std::size_t kManyFaces = 2000;
+  constexpr double kMuch = 0.25;
   const double area = std::max(subject.boundary.Area(), 1e-12);
-  return 0.3 + 0.7 * std::min(1.0, (direction.beside + direction.across) / area);
+  const double part = std::min(1.0, (direction.beside + direction.across) / area);
+  if (part < kMuch && subject.boundary.Faces().size() > kManyFaces) return 0.0;
+  return 0.3 + 0.7 * part;
 }
 
 std::vector<Trial> MakeTrials(Subject& subject, const std::vector<Direction>& directions) {

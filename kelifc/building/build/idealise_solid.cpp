@@ -44,12 +44,12 @@ void AddSides(Mesh& mesh, const std::vector<std::size_t>& sizes, std::size_t fro
       const auto b = static_cast<Mesh::Index>(from + next);
       const auto c = static_cast<Mesh::Index>(to + next);
       const auto d = static_cast<Mesh::Index>(to + i);
-      if (inTriangles) {
-        mesh.AddFace({a, b, c});
-        mesh.AddFace({a, c, d});
-      } else {
-        mesh.AddFace({a, b, c, d});
-      }
+      const Mesh::Index corners[] = {a, b, c, d, a};
+      mesh.BeginFace();
+      mesh.AddLoop(corners, inTriangles ? 3 : 4);
+      if (!inTriangles) continue;
+      mesh.BeginFace();
+      mesh.AddLoop(corners + 2, 3);
     }
     from += size;
     to += size;

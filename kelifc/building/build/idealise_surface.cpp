@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "kelifc/building/build/idealise_bevel.h"
 #include "kelifc/building/build/idealise_scan.h"
 
 namespace KelIFC::building::idealising {
@@ -14,11 +15,15 @@ constexpr double kLeastPart = 0.1;
 constexpr double kSquare = 1.0 - 4e-5;
 
 // The level, along a direction, at which the faces that look in it have the largest area.
-double MainLevel(std::vector<std::pair<double, double>> levels, double otherwise) {
+struct Level {
+  double at = 0.0;
+  double area = 0.0;
+};
+
+Level MainLevel(std::vector<std::pair<double, double>> levels) {
   constexpr double kSameLevel = 1e-4;  // metres
   std::sort(levels.begin(), levels.end());
-  double best = otherwise;
-  double largest = 0.0;
+  Level best;
   for (std::size_t i = 0; i < levels.size();) {
     const double first = levels[i].first;
     double area = 0.0;
@@ -27,17 +32,20 @@ double MainLevel(std::vector<std::pair<double, double>> levels, double otherwise
       area += levels[i].second;
       sum += levels[i].second * (levels[i].first - first);
     }
-    if (area > largest) {
-      largest = area;
-      best = first + sum / area;
-    }
+    if (area > best.area) best = {first + sum / area, area};
   }
   return best;
 }
 
-// The levels of the two main faces of a plate, else the extent of the boundary.
-Span FindThickness(Boundary& boundary, const Vector3& normal) {
-  const Span extent = boundary.Along(normal);
+// The levels of the two main faces of a plate.
+struct Faces {
+  Span span;
+  bool hasLower = false;
+  bool hasUpper = false;
+};
+
+Faces FindFaces(Boundary& boundary, const Vector3& normal) {
+  constexpr double kLeastPart = 0.3;
   const Mesh& mesh = boundary.Mesh();
   std::vector<std::pair<double, double>> upper;
   std::vector<std::pair<double, double>> lower;
@@ -48,20 +56,50 @@ Span FindThickness(Boundary& boundary, const Vector3& normal) {
     const double level = At(mesh.points[mesh.LoopOf(face, 0)[0]], normal);
     (cosine > 0.0 ? upper : lower).emplace_back(level, facts.area);
   }
-  Span span;
-  span.to = MainLevel(std::move(upper), extent.to);
-  span.from = MainLevel(std::move(lower), extent.from);
-  return span.Length() > 1e-5 ? span : extent;
+  const Level top = MainLevel(std::move(upper));
+  const Level bottom = MainLevel(std::move(lower));
+  Faces faces;
+  faces.span = boundary.Along(normal);
+  faces.hasLower = bottom.area > kLeastPart * top.area;
+  faces.hasUpper = top.area > kLeastPart * bottom.area;
+  if (faces.hasLower && faces.hasUpper && top.at - bottom.at < 1e-5) return {faces.span};
+  if (faces.hasLower) faces.span.from = bottom.at;
+  if (faces.hasUpper) faces.span.to = top.at;
+  return faces;
+}
+
+// Where one face is not plane and square, the mean thickness replaces the largest one.
+Span MeanThickness(const Boundary& boundary, const Faces& faces, const Section& section) {
+  Span span = faces.span;
+  const std::optional<double> volume = boundary.Volume();
+  if (faces.hasLower == faces.hasUpper || !volume) return span;
+  const double thickness = std::min(*volume / section.area, span.Length());
+  (faces.hasLower ? span.to : span.from) =
+      faces.hasLower ? span.from + thickness : span.to - thickness;
+  return span;
+}
+
+std::optional<Reading> ReadWithOutline(Subject& subject, const PlaneFrame& plane, Outline outer,
+                                       const std::vector<Outline>& holes, const Span& span) {
+  Contour outline;
+  outline.points = std::move(outer);
+  Reading reading = MakeSurface(subject, plane, outline, holes, span);
+  if (!Measure(subject, reading)) return std::nullopt;
+  return reading;
 }
 
 std::optional<Reading> ReadWithSection(Subject& subject, const PlaneFrame& plane,
-                                       const Section& section, const Span& span) {
+                                       const Section& section, const Faces& faces) {
   if (section.regionCount != 1) return std::nullopt;
-  Contour outline;
-  outline.points = section.region.outer;
-  Reading reading = MakeSurface(subject, plane, outline, section.region.holes, span);
-  if (!Measure(subject, reading)) return std::nullopt;
-  return reading;
+  const Span span = MeanThickness(subject.boundary, faces, section);
+  std::optional<Reading> best =
+      ReadWithOutline(subject, plane, section.region.outer, section.region.holes, span);
+  if (best && !best->fit.isApproximate) return best;
+  std::optional<Outline> around = OutlineAroundBevels(subject.boundary, plane, section, faces.span);
+  if (!around) return best;
+  KeepBetter(best,
+             ReadWithOutline(subject, plane, std::move(*around), section.region.holes, faces.span));
+  return best;
 }
 
 }  // namespace
@@ -92,11 +130,12 @@ Reading MakeSurface(const Subject& subject, const PlaneFrame& plane, const Conto
 
 std::optional<Reading> ReadSurface(Subject& subject, const Vector3& normal) {
   const PlaneFrame plane = FrameAcross(normal, {});
-  const Span span = FindThickness(subject.boundary, NormalOf(plane));
+  const Faces faces = FindFaces(subject.boundary, NormalOf(plane));
+  const Span& span = faces.span;
   if (!(span.Length() > 1e-6)) return std::nullopt;
   const std::vector<Section> sections = ScanSections(subject.boundary, plane, span);
   if (sections.empty()) return std::nullopt;
-  std::optional<Reading> best = ReadWithSection(subject, plane, sections[0], span);
+  std::optional<Reading> best = ReadWithSection(subject, plane, sections[0], faces);
   if (best && !best->fit.isApproximate) return best;
   const auto largest =
       std::max_element(sections.begin(), sections.end(), [&](const Section& a, const Section& b) {
@@ -105,7 +144,7 @@ std::optional<Reading> ReadSurface(Subject& subject, const Vector3& normal) {
         return isLongA != isLongB ? isLongB : a.area < b.area;
       });
   if (largest != sections.begin()) {
-    KeepBetter(best, ReadWithSection(subject, plane, *largest, span));
+    KeepBetter(best, ReadWithSection(subject, plane, *largest, faces));
   }
   return best;
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "kelifc/building/build/idealise_bevel.h"
 #include "kelifc/building/build/idealise_profile.h"
 #include "kelifc/building/build/idealise_scan.h"
 
@@ -12,30 +13,6 @@ namespace {
 // The places of the two sections, as parts of the length. Ends may have plates or cuts.
 constexpr double kFirstPlace = 0.2;
 constexpr double kSecondPlace = 0.8;
-
-// Larger outlines are not aligned, since that takes the square of the number of points.
-constexpr std::size_t kMostAligned = 256;
-
-// Turns the points of a loop so that their places correspond to those of another one.
-bool Align(const Outline& model, Outline& loop) {
-  const std::size_t count = model.size();
-  if (loop.size() != count || count > kMostAligned) return false;
-  std::size_t best = 0;
-  double least = 1e300;
-  for (std::size_t shift = 0; shift < count; ++shift) {
-    double sum = 0.0;
-    for (std::size_t i = 0; i < count && sum < least; ++i) {
-      const Vector2 v = loop[(i + shift) % count] - model[i];
-      sum += Dot(v, v);
-    }
-    if (sum < least) {
-      least = sum;
-      best = shift;
-    }
-  }
-  std::rotate(loop.begin(), loop.begin() + static_cast<std::ptrdiff_t>(best), loop.end());
-  return true;
-}
 
 // The points of a loop at a place, from their places in two sections.
 Outline Extrapolate(const Outline& first, const Outline& second, double place) {

@@ -6,6 +6,7 @@ target_sources(kelifc_building PRIVATE
   build/profile_key.cpp
   build/storeys.cpp
   build/idealise.cpp
+  build/idealise_bevel.cpp
   build/idealise_boundary.cpp
   build/idealise_box.cpp
   build/idealise_curved.cpp

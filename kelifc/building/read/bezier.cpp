@@ -49,8 +49,7 @@ class Span {
       lightest = std::min(lightest, control[i].weight);
       heaviest = std::max(heaviest, control[i].weight);
       if (i + 2 > degree) continue;
-      const Vector3 second =
-          control[i].sum + -2.0 * control[i + 1].sum + control[i + 2].sum;
+      const Vector3 second = control[i].sum + -2.0 * control[i + 1].sum + control[i + 2].sum;
       largest = std::max(largest, Length(second));
     }
     const double order = static_cast<double>(degree * (degree - 1));
@@ -83,7 +82,8 @@ std::optional<Path> FlattenBezier(const std::vector<Point3>& points,
     const Span span(&points[i], isRational ? &weights[i] : nullptr, order);
     const std::size_t count = span.Chords();
     const double width = 1.0 / static_cast<double>(count);
-    for (std::size_t k = 1; k < count; ++k) path.AddPoint(span.At(static_cast<double>(k) * width), width);
+    for (std::size_t k = 1; k < count; ++k)
+      path.AddPoint(span.At(static_cast<double>(k) * width), width);
     path.AddPoint(points[i + order], width);
   }
   return path;

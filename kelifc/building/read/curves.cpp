@@ -161,8 +161,7 @@ std::optional<Path> CurveReader::ReadOffset(const Instance& curve, std::size_t d
   if (!basis) return std::nullopt;
   const std::optional<Path> path = Read(basis, depth);
   if (!path) return std::nullopt;
-  const double distance =
-      curve.Get(Attribute::kDistance).Number(0.0) * context.units.length.metres;
+  const double distance = curve.Get(Attribute::kDistance).Number(0.0) * context.units.length.metres;
   if (!std::isfinite(distance)) return Fail(LossReason::kNotFinite, curve);
   const std::vector<Point2> points =
       OffsetLine(PlanePoints(Flatten(*path)), distance, IsClosed(*path));

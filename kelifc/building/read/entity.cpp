@@ -204,10 +204,9 @@ const EntityRow& RowOf(Entity entity) { return kRows[static_cast<std::size_t>(en
 
 Entity FindEntityByName(std::string_view name) {
   static const Order order = SortByName();
-  const auto found =
-      std::lower_bound(order.begin(), order.end(), name, [](Entity entity, std::string_view text) {
-        return IsBefore(RowOf(entity).name, text);
-      });
+  const auto found = std::lower_bound(
+      order.begin(), order.end(), name,
+      [](Entity entity, std::string_view text) { return IsBefore(RowOf(entity).name, text); });
   return found != order.end() && !IsBefore(name, RowOf(*found).name) ? *found : Entity::kOther;
 }
 

@@ -46,10 +46,9 @@ BuildingStorey ReadStorey(ReadContext& context, const Instance& storey,
 }
 
 void SortStoreys(std::vector<BuildingStorey>& storeys) {
-  std::stable_sort(storeys.begin(), storeys.end(),
-                   [](const BuildingStorey& a, const BuildingStorey& b) {
-                     return a.elevation < b.elevation;
-                   });
+  std::stable_sort(
+      storeys.begin(), storeys.end(),
+      [](const BuildingStorey& a, const BuildingStorey& b) { return a.elevation < b.elevation; });
   std::size_t next = storeys.size();  // the first storey that is higher than the one after `i`
   for (std::size_t i = storeys.size(); i-- > 0;) {
     if (i + 1 < storeys.size() &&

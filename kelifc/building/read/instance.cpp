@@ -1,86 +1,59 @@
 #include "kelifc/building/read/instance.h"
 
-#include <sstream>
-#include <string_view>
-
 #include "kelifc/core/other.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/utf8.h"
 
 namespace KelIFC::building {
-namespace {
 
-// The attributes of an instance, parsed from what it writes.
-StatementView AttributesOf(const IfcUnknown& instance) {
-  if (const auto* other = dynamic_cast<const IfcOther*>(&instance)) return other->GetAttributes();
-  std::ostringstream out;
-  instance.Write(out);
-  const std::string text = out.str();
-  const std::size_t begin = text.find('(');
-  return StatementView(begin == std::string::npos ? std::string_view()
-                                                  : std::string_view(text).substr(begin + 1));
-}
-
-}  // namespace
+using Kind = AttributeValueKind;
 
 bool Value::IsSet() const {
-  const ATTRIBUTE_KIND kind = view.GetKind(at);
-  return kind != ATTRIBUTE_NONE && kind != ATTRIBUTE_UNSET && kind != ATTRIBUTE_DERIVED;
+  return value.GetKind() != Kind::kUnset && value.GetKind() != Kind::kDerived;
 }
 
-bool Value::IsDangling() const { return view.GetKind(at) == ATTRIBUTE_REFERENCE && !Target(); }
-
-std::size_t Value::TargetNumber() const { return view.GetReference(at); }
+bool Value::IsDangling() const { return TargetNumber() != 0 && !Target(); }
 
 Instance Value::Target() const {
-  const std::size_t number = TargetNumber();
-  return number == 0 ? Instance() : model->Find(number);
+  const IfcUnknown* const target = value.AsReference();
+  return target == nullptr ? Instance() : Instance(*model, target, TargetNumber());
 }
 
-Value Value::Content() const {
-  if (view.GetKind(at) != ATTRIBUTE_TYPED) return *this;
-  return Value(*model, view.GetList(at), 1);
+AttributeValue Value::Content() const {
+  return value.GetKind() == Kind::kTyped ? value.TypedValue() : value;
 }
 
 bool Value::IsNumber() const {
-  const Value content = Content();
-  const ATTRIBUTE_KIND kind = content.view.GetKind(content.at);
-  return kind == ATTRIBUTE_INTEGER || kind == ATTRIBUTE_REAL;
+  const Kind kind = Content().GetKind();
+  return kind == Kind::kInteger || kind == Kind::kReal;
 }
 
 double Value::Number(double fallback) const {
-  const Value content = Content();
-  return content.IsNumber() ? content.view.GetNumber(content.at) : fallback;
+  if (value.GetKind() == Kind::kReal) return value.AsNumber();
+  const AttributeValue content = Content();
+  const bool isNumber = content.GetKind() == Kind::kInteger || content.GetKind() == Kind::kReal;
+  return isNumber ? content.AsNumber() : fallback;
 }
 
 std::string Value::Text() const {
-  const Value content = Content();
-  if (content.view.GetKind(content.at) != ATTRIBUTE_TEXT) return {};
-  return model->Decode(content.view.GetText(content.at));
-}
-
-std::string Value::Enumerator() const {
-  return view.GetKind(at) == ATTRIBUTE_ENUMERATION ? view.GetText(at) : std::string();
+  const AttributeValue content = Content();
+  return content.GetKind() == Kind::kText ? model->Decode(content.AsText()) : std::string();
 }
 
 bool Value::Truth(bool fallback) const {
-  const std::string name = Enumerator();
-  return name == "T" || (name != "F" && fallback);
-}
-
-std::size_t Value::Size() const {
-  return view.GetKind(at) == ATTRIBUTE_LIST ? view.GetList(at).GetCount() : 0;
+  const LOGICAL_VALUE truth = value.AsLogical();
+  return truth == LOGICAL_TRUE || (truth != LOGICAL_FALSE && fallback);
 }
 
 Value Value::operator[](std::size_t index) const {
-  return index < Size() ? Value(*model, view.GetList(at), index + 1) : Value();
+  return model == nullptr ? Value() : Value(*model, value.At(index));
 }
 
 Instance::Instance(const Model& owner, const IfcUnknown* item, std::size_t itemNumber)
     : model(&owner),
       instance(item),
       number(itemNumber),
-      entity(item ? owner.EntityOf(*item) : Entity::kOther) {}
+      type(item == nullptr ? nullptr : &owner.ClassOf(*item)) {}
 
 std::size_t Instance::Number() const {
   if (instance == nullptr || number != 0) return number;
@@ -89,14 +62,21 @@ std::size_t Instance::Number() const {
 
 Value Instance::Get(Attribute attribute) const {
   if (instance == nullptr) return {};
-  const auto position = PositionOf(model->Release(), entity, attribute);
-  return position ? Value(*model, AttributesOf(*instance), *position + 1) : Value();
+  if (!type->isRaw) {
+    const AttributeReader read = type->readers[static_cast<std::size_t>(attribute)];
+    return read == nullptr ? Value() : Value(*model, read(*instance));
+  }
+  const auto position = PositionOf(model->Release(), type->entity, attribute);
+  return position ? Value(*model, ReadAttribute(*instance, *position)) : Value();
 }
 
 Model::Model(IfcServer& owner)
-    : server(owner),
-      release(owner.GetRelease()),
-      isUtf8(owner.GetDialect() == STEP_DIALECT_ISO) {}
+    : server(owner), release(owner.GetRelease()), isUtf8(owner.GetDialect() == STEP_DIALECT_ISO) {
+  for (std::size_t i = 0; i < kEntityCount; ++i) {
+    rawClasses[i].entity = static_cast<Entity>(i);
+    rawClasses[i].isRaw = true;
+  }
+}
 
 std::string Model::Decode(std::string_view text) const {
   if (isUtf8) return ToUtf8(text);
@@ -106,18 +86,32 @@ std::string Model::Decode(std::string_view text) const {
   return decoded;
 }
 
-Instance Model::Find(std::size_t number) const { 
-  return Instance(*this, server.GetItem(number), number);
+Instance Model::Find(std::size_t number) const {
+  return Instance(*this, number == 0 ? nullptr : server.GetItem(number), number);
 }
 
-Entity Model::EntityOf(const IfcUnknown& instance) const {
+const InstanceClass& Model::ClassOf(const IfcUnknown& instance) const {
   const char* const name = instance.GetStepName();
-  const auto found = entities.find(name);
-  if (found != entities.end()) return found->second;
+  const auto found = classes.find(name);
+  if (found != classes.end()) return found->second;
   if (const auto* other = dynamic_cast<const IfcOther*>(&instance)) {
-    return FindEntityByName(other->GetStepEntityName());
+    return rawClasses[static_cast<std::size_t>(FindEntityByName(other->GetStepEntityName()))];
   }
-  return entities.emplace(name, FindEntityByName(name)).first->second;
+  return classes.insert_or_assign(name, Describe(instance, name)).first->second;
+}
+
+InstanceClass Model::Describe(const IfcUnknown& instance, std::string_view name) const {
+  InstanceClass described;
+  described.entity = FindEntityByName(name);
+  const EntityDescription* const description = DescribeInstance(instance);
+  if (description == nullptr) return described;
+  for (std::size_t i = 0; i < kAttributeCount; ++i) {
+    const auto position = PositionOf(release, described.entity, static_cast<Attribute>(i));
+    if (!position) continue;
+    const AttributeDescription* const attribute = description->AttributeAt(*position);
+    if (attribute != nullptr) described.readers[i] = attribute->read;
+  }
+  return described;
 }
 
 }  // namespace KelIFC::building

@@ -1,14 +1,16 @@
 #ifndef KELIFC_BUILDING_READ_INSTANCE_H_
 #define KELIFC_BUILDING_READ_INSTANCE_H_
 
+#include <array>
 #include <cstddef>
 #include <string>
 #include <string_view>
 #include <unordered_map>
+#include <utility>
 
 #include "kelifc/building/read/attribute.h"
 #include "kelifc/building/read/entity.h"
-#include "kelifc/core/statement_view.h"
+#include "kelifc/schema/attribute_value.h"
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {
@@ -26,17 +28,16 @@ class Value {
  public:
   /// An unset value.
   Value() = default;
-  Value(const Model& owner, StatementView attributes, std::size_t position)
-      : model(&owner), view(std::move(attributes)), at(position) {}
+  Value(const Model& owner, AttributeValue kept) : model(&owner), value(std::move(kept)) {}
 
-  /// False for `$`, `*` and for what is not there.
+  /// False for `$`, `*`, and what is not there or not kept.
   bool IsSet() const;
 
   /// True for a reference to a number that the model does not have.
   bool IsDangling() const;
 
   /// The number of the instance that a reference leads to; 0 for any other value.
-  std::size_t TargetNumber() const;
+  std::size_t TargetNumber() const { return value.AsReferenceNumber(); }
 
   /// The instance that a reference leads to; none for any other value.
   Instance Target() const;
@@ -50,21 +51,29 @@ class Value {
   std::string Text() const;
 
   /// The name of an enumerator without its dots, "T" and "F" for booleans.
-  std::string Enumerator() const;
+  std::string Enumerator() const { return std::string(value.AsEnumerator()); }
 
   /// A boolean or logical value. The fallback is for unset and unknown ones.
   bool Truth(bool fallback) const;
 
   /// The elements of a list.
-  std::size_t Size() const;
+  std::size_t Size() const { return value.Size(); }
   Value operator[](std::size_t index) const;
 
  private:
-  Value Content() const;
+  AttributeValue Content() const;
 
   const Model* model = nullptr;
-  StatementView view;
-  std::size_t at = 0;
+  AttributeValue value;
+};
+
+/// What all instances of a class have in common.
+struct InstanceClass {
+  Entity entity = Entity::kOther;
+
+  /// By attribute; null for those that the class does not have or keep.
+  std::array<AttributeReader, kAttributeCount> readers = {};
+  bool isRaw = false;  ///< the instance keeps the text of its statement
 };
 
 /// A small handle of an instance of a model, or of none. Handles are copied freely.
@@ -72,26 +81,28 @@ class Instance {
  public:
   /// None.
   Instance() = default;
+
   /// `itemNumber` is 0 if it is not known.
   Instance(const Model& owner, const IfcUnknown* item, std::size_t itemNumber = 0);
 
   explicit operator bool() const { return instance != nullptr; }
 
   /// kOther for none and for entities that the reading does not know.
-  Entity GetEntity() const { return entity; }
-  bool Is(unsigned flag) const { return Has(entity, flag); }
+  Entity GetEntity() const { return type == nullptr ? Entity::kOther : type->entity; }
+  bool Is(unsigned flag) const { return Has(GetEntity(), flag); }
 
   /// The number in the file, 0 for none. It identifies the instance.
   std::size_t Number() const;
 
-  /// An unset value if the entity does not have the attribute in the release of the model.
+  /// An unset value if the entity does not have the attribute in the release of the model, or if
+  /// the instance does not keep it.
   Value Get(Attribute attribute) const;
 
  private:
   const Model* model = nullptr;
   const IfcUnknown* instance = nullptr;
   std::size_t number = 0;  // 0: not yet known
-  Entity entity = Entity::kOther;
+  const InstanceClass* type = nullptr;
 };
 
 /// A model, as the reading sees it: instances with entities and attributes. It never changes the
@@ -107,15 +118,18 @@ class Model {
   std::string Decode(std::string_view text) const;
 
   Instance Find(std::size_t number) const;
-  Entity EntityOf(const IfcUnknown& instance) const;
+  const InstanceClass& ClassOf(const IfcUnknown& instance) const;
 
  private:
+  InstanceClass Describe(const IfcUnknown& instance, std::string_view name) const;
+
   IfcServer& server;
   IFC_RELEASE release;
   bool isUtf8;
 
-  /// By the address of the name of a class, which is constant. Raw instances are found by name.
-  mutable std::unordered_map<const char*, Entity> entities;
+  // By the address of the name of a class, which is constant. Classes of raw text are by entity.
+  mutable std::unordered_map<const char*, InstanceClass> classes;
+  mutable std::array<InstanceClass, kEntityCount> rawClasses;
 };
 
 }  // namespace KelIFC::building

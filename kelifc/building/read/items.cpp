@@ -30,7 +30,10 @@ bool IsRepresentation(const Instance& instance) {
 }
 
 Instance MappedRepresentation(const Instance& item) {
-  return item.Get(Attribute::kMappingSource).Target().Get(Attribute::kMappedRepresentation).Target();
+  return item.Get(Attribute::kMappingSource)
+      .Target()
+      .Get(Attribute::kMappedRepresentation)
+      .Target();
 }
 
 }  // namespace
@@ -210,8 +213,7 @@ void ItemReader::ReadMapped(const Instance& item, Solid& solid, Unreadable& why)
   if (!map) return;
   const Instance representation = Follow(map, Attribute::kMappedRepresentation, why);
   if (!representation) return;
-  const std::optional<Transform3> origin =
-      ReadAxes(context, map, Attribute::kMappingOrigin, why);
+  const std::optional<Transform3> origin = ReadAxes(context, map, Attribute::kMappingOrigin, why);
   if (!origin) return;
   Transform3 target;
   if (item.Get(Attribute::kMappingTarget).IsSet()) {

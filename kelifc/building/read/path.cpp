@@ -12,9 +12,7 @@ constexpr std::size_t kMostChords = 4096;
 
 double Distance(const Point3& a, const Point3& b) { return Length(b - a); }
 
-Point3 Between(const Point3& a, const Point3& b, double fraction) {
-  return a + fraction * (b - a);
-}
+Point3 Between(const Point3& a, const Point3& b, double fraction) { return a + fraction * (b - a); }
 
 // Calls `visit` with each edge and its point between the ends, null for a straight one.
 template <class Visit>
@@ -75,8 +73,7 @@ std::size_t ChordsOf(double radius, double sweep) {
   if (!(radius > 0.0) || !std::isfinite(radius)) return 1;
   const double step = 2.0 * std::acos(std::max(0.0, 1.0 - kChordError / radius));
   const double count = std::ceil(std::abs(sweep) / std::min(step, kPi / 4.0) - 1e-9);
-  return static_cast<std::size_t>(
-      std::clamp(count, 1.0, static_cast<double>(kMostChords)));
+  return static_cast<std::size_t>(std::clamp(count, 1.0, static_cast<double>(kMostChords)));
 }
 
 void Reverse(Path& path) {
@@ -165,8 +162,7 @@ double NearestParameter(const Path& path, const Point3& point) {
       const Point3 p = arc.At(static_cast<double>(i) / count);
       const Point3 q = arc.At(static_cast<double>(i + 1) / count);
       const double square = Dot(q - p, q - p);
-      const double t =
-          square > 0.0 ? std::clamp(Dot(point - p, q - p) / square, 0.0, 1.0) : 0.0;
+      const double t = square > 0.0 ? std::clamp(Dot(point - p, q - p) / square, 0.0, 1.0) : 0.0;
       const double distance = Distance(Between(p, q, t), point);
       if (!(distance < best)) continue;
       best = distance;

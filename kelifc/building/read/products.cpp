@@ -53,8 +53,7 @@ void ProductReader::ReadIdentity(const Instance& product, ProductFacts& facts) {
 }
 
 // A product without a placement is in the coordinates of the world.
-bool ProductReader::ReadPlacement(const Instance& product, Transform3& placement,
-                                  Unreadable& why) {
+bool ProductReader::ReadPlacement(const Instance& product, Transform3& placement, Unreadable& why) {
   if (!product.Get(Attribute::kObjectPlacement).IsSet()) return true;
   const Instance at = Follow(product, Attribute::kObjectPlacement, why);
   if (!at) return false;

@@ -103,8 +103,8 @@ bool ShellReader::ReadPolyLoop(const Instance& loop, Loop& target) {
   target.reserve(count);
   for (std::size_t i = 0; i < count; ++i) {
     const Value reference = list[i];
-    const auto [found, isNew] = indices.try_emplace(
-        reference.TargetNumber(), static_cast<Mesh::Index>(mesh.points.size()));
+    const auto [found, isNew] =
+        indices.try_emplace(reference.TargetNumber(), static_cast<Mesh::Index>(mesh.points.size()));
     if (isNew) {
       const Instance at = reference.Target();
       if (!at) return Fail(LossReason::kDangling, loop);
@@ -171,8 +171,7 @@ bool ShellReader::ReadEdgeLoop(const Instance& loop, Loop& target) {
     const Instance oriented = list[i].Target();
     if (!oriented) return Fail(LossReason::kDangling, loop);
     const bool isOriented = oriented.GetEntity() == Entity::kOrientedEdge;
-    const Instance edge =
-        isOriented ? Follow(oriented, Attribute::kEdgeElement, why) : oriented;
+    const Instance edge = isOriented ? Follow(oriented, Attribute::kEdgeElement, why) : oriented;
     if (!edge) return false;
     Path part;
     if (!ReadEdge(edge, part)) return false;

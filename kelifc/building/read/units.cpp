@@ -28,10 +28,9 @@ constexpr NamedFactor kPrefixes[] = {
 // The exact factors of conversion-based units. Many files round the factor of a degree to a few
 // digits; the exact one replaces a factor that differs by less than 0.1 %.
 constexpr NamedFactor kConversions[] = {
-    {"DEGREE", kPi / 180.0}, {"DEGREES", kPi / 180.0}, {"DEG", kPi / 180.0},
-    {"GRAD", kPi / 200.0},   {"GON", kPi / 200.0},     {"INCH", 0.0254},
-    {"FOOT", 0.3048},        {"FEET", 0.3048},         {"YARD", 0.9144},
-    {"MILE", 1609.344},
+    {"DEGREE", kPi / 180.0}, {"DEGREES", kPi / 180.0}, {"DEG", kPi / 180.0}, {"GRAD", kPi / 200.0},
+    {"GON", kPi / 200.0},    {"INCH", 0.0254},         {"FOOT", 0.3048},     {"FEET", 0.3048},
+    {"YARD", 0.9144},        {"MILE", 1609.344},
 };
 
 template <std::size_t Count>
@@ -75,8 +74,7 @@ std::optional<double> FactorOf(const Instance& unit, int depth) {
 
 Units ReadUnits(const Instance& project) {
   Units units;
-  const Value list =
-      project.Get(Attribute::kUnitsInContext).Target().Get(Attribute::kUnits);
+  const Value list = project.Get(Attribute::kUnitsInContext).Target().Get(Attribute::kUnits);
   for (std::size_t i = 0; i < list.Size(); ++i) {
     const Instance unit = list[i].Target();
     const std::string type = unit.Get(Attribute::kUnitType).Enumerator();

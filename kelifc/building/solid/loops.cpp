@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-/// Grows with the angle by which `to` is turned clockwise from `from`: from just above 0 to 4. It is
-/// 4 for the same direction.
+/// Grows with the angle by which `to` is turned clockwise from `from`: from just above 0 to 4. It
+/// is 4 for the same direction.
 double ClockwiseTurn(const Vector2& from, const Vector2& to) {
   const double along = Dot(from, to);
   const double across = -Cross(from, to);
@@ -31,7 +31,9 @@ double ClockwiseTurn(const Vector2& from, const Vector2& to) {
 class EdgeFan {
  public:
   EdgeFan(const std::vector<Point2>& somePoints, const std::vector<DirectedEdge>& someEdges)
-      : points(somePoints), edges(someEdges), order(someEdges.size()),
+      : points(somePoints),
+        edges(someEdges),
+        order(someEdges.size()),
         isUsed(someEdges.size(), false) {
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
@@ -45,9 +47,9 @@ class EdgeFan {
   /// The edge that follows in a loop which began with `start`; kNone if there is none.
   std::size_t Next(std::size_t edge, std::size_t start) const {
     const auto [from, at] = edges[edge];
-    auto entry = std::lower_bound(order.begin(), order.end(), at, [&](std::size_t i, std::uint32_t p) {
-      return edges[i].first < p;
-    });
+    auto entry =
+        std::lower_bound(order.begin(), order.end(), at,
+                         [&](std::size_t i, std::uint32_t p) { return edges[i].first < p; });
     std::size_t best = kNone;
     double bestTurn = std::numeric_limits<double>::infinity();
     for (; entry != order.end() && edges[*entry].first == at; ++entry) {
@@ -111,9 +113,13 @@ class Nesting {
     const std::size_t at = LeftmostOf(points, loops[hole]);
     const std::size_t count = loops[hole].size();
     const Point2& corner = points[loops[hole][at]];
-    // A point beside the corner: a corner may touch another loop.
-    const Point2 place = Between(corner, points[loops[hole][(at + 1) % count]], 1.0 / 64.0);
-    const std::size_t edge = EdgeLeftOf(place, hole);
+    const Point2& upper = points[loops[hole][(at + 1) % count]];
+    const Point2& lower = points[loops[hole][(at + count - 1) % count]];
+    // A point beside the corner, which may touch another loop, on the edge that has the hole on its
+    // right.
+    const Point2& end = upper.y > corner.y ? upper : lower;
+    const Point2 place = Between(corner, end, 1.0 / 64.0);
+    const std::size_t edge = EdgeLeftOf(place, hole, corner, end);
     std::size_t parent = kNone;
     if (edge != kNone && edges[edge].to.y < edges[edge].from.y) {
       parent = areas[edges[edge].loop] > 0.0 ? edges[edge].loop : parents[edges[edge].loop];
@@ -124,8 +130,11 @@ class Nesting {
   }
 
  private:
-  /// The nearest edge to the left of a point that is not of the loop.
-  std::size_t EdgeLeftOf(const Point2& place, std::size_t loop) const {
+  /// The nearest edge to the left of a point that is not of the loop, and does not run between two
+  /// given points: what fills the hole has the same edge.
+  std::size_t EdgeLeftOf(const Point2& place, std::size_t loop, const Point2& a,
+                         const Point2& b) const {
+    const auto isEqual = [](const Point2& p, const Point2& q) { return p.x == q.x && p.y == q.y; };
     constexpr double kNever = std::numeric_limits<double>::infinity();
     std::size_t best = kNone;
     double bestGap = kNever;
@@ -135,9 +144,14 @@ class Nesting {
           return std::max(0.0, place.x - box.max.x);
         },
         [&](std::uint32_t item) {
-          if (edges[item].loop == loop) return bestGap;
-          const double gap = GapLeftOf(place, edges[item]);
-          if (gap < bestGap) {
+          const LoopEdge& edge = edges[item];
+          if (edge.loop == loop || (isEqual(edge.from, a) && isEqual(edge.to, b)) ||
+              (isEqual(edge.from, b) && isEqual(edge.to, a))) {
+            return bestGap;
+          }
+          // Of two edges in one place, one of which bounds a hole, the region begins at the other.
+          const double gap = GapLeftOf(place, edge);
+          if (gap < bestGap || (gap == bestGap && gap < kNever && edge.to.y < edge.from.y)) {
             bestGap = gap;
             best = item;
           }
@@ -151,8 +165,11 @@ class Nesting {
     if ((edge.from.y <= place.y) == (edge.to.y <= place.y)) {
       return std::numeric_limits<double>::infinity();
     }
-    const double fraction = (place.y - edge.from.y) / (edge.to.y - edge.from.y);
-    const double gap = place.x - (edge.from.x + (edge.to.x - edge.from.x) * fraction);
+    // The same for both directions, to the last bit.
+    const Point2& low = edge.from.y < edge.to.y ? edge.from : edge.to;
+    const Point2& high = edge.from.y < edge.to.y ? edge.to : edge.from;
+    const double fraction = (place.y - low.y) / (high.y - low.y);
+    const double gap = place.x - (low.x + (high.x - low.x) * fraction);
     return gap >= 0.0 ? gap : std::numeric_limits<double>::infinity();
   }
 

@@ -1,4 +1,5 @@
 target_sources(kelifc_building PRIVATE
+  solid/arrangement.cpp
   solid/body.cpp
   solid/box_tree.cpp
   solid/combine.cpp

@@ -86,6 +86,7 @@ class Ring {
         [&](std::uint32_t edge) {
           // Joins have cut the edge into parts, which are a chain.
           for (std::uint32_t i = edge; i != kNone; i = parts[i]) {
+            if (i == corner || next[i] == corner) continue;
             const double x = CrossingOf(At(i), At(next[i]), place.y);
             // The region is to the right of edges that run down.
             if (x <= place.x && x > bestX && At(next[i]).y < At(i).y) {
@@ -283,8 +284,8 @@ void AppendTriangles(const Mesh& mesh, std::size_t face, std::vector<Triangle3>&
     Triangle3& result = triangles.emplace_back();
     for (std::size_t i = 0; i < 3; ++i) {
       const Point2& p = points[t[i]];
-      result[i] = t[i] < places.size() ? places[t[i]]
-                                       : plane.origin + (p.x * plane.x + p.y * plane.y);
+      result[i] =
+          t[i] < places.size() ? places[t[i]] : plane.origin + (p.x * plane.x + p.y * plane.y);
     }
   }
 }

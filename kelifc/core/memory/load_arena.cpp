@@ -4,26 +4,39 @@
 #include <atomic>
 #include <new>
 
+#include "kelifc/platform/huge_pages.h"
+
 namespace KelIFC {
 
 /// The header of a chunk, with the count of its blocks. While the chunk is open, the count includes
 /// kOpen blocks that do not exist, so that the chunk is not freed when its last block is.
 struct LoadArena::Chunk {
   std::atomic<std::uint32_t> blocks;
+  bool isHuge;  ///< allocated by AllocateHugePages
+
+  static Chunk* Make(std::size_t size) {
+    const bool isHuge = size >= kHugePageSize;
+    void* const memory = isHuge ? AllocateHugePages(size) : ::operator new(size);
+    return ::new (memory) Chunk{{kOpen}, isHuge};
+  }
 
   void Drop(std::uint32_t count) noexcept {
-    if (blocks.fetch_sub(count, std::memory_order_acq_rel) == count) ::operator delete(this);
+    if (blocks.fetch_sub(count, std::memory_order_acq_rel) != count) return;
+    if (isHuge) {
+      FreeHugePages(this);
+    } else {
+      ::operator delete(this);
+    }
   }
+
+  static constexpr std::uint32_t kOpen = 0x80000000;
 };
 
 namespace {
 
-constexpr std::uint32_t kOpen = 0x80000000;
-
-// The first chunk is small for the sake of small models. Large chunks are allocated from the system
-// and freed to it directly.
+// The first chunk is small for the sake of small models. The largest one is a huge page.
 constexpr std::size_t kFirstChunk = std::size_t{16} * 1024;
-constexpr std::size_t kLargestChunk = std::size_t{1024} * 1024;
+constexpr std::size_t kLargestChunk = kHugePageSize;
 
 constexpr std::size_t kAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 constexpr std::size_t kMark = sizeof(void*);  // before a block: its chunk, or null
@@ -82,8 +95,8 @@ void* LoadArena::Carve(std::size_t size) {
 
 void LoadArena::OpenChunk() {
   CloseChunk();
-  char* const memory = static_cast<char*>(::operator new(nextSize));
-  chunk = ::new (memory) Chunk{{kOpen}};
+  chunk = Chunk::Make(nextSize);
+  char* const memory = reinterpret_cast<char*>(chunk);
   cursor = memory + RoundUp(sizeof(Chunk) + kMark) - kMark;
   end = memory + nextSize;
   bytes += nextSize;
@@ -91,7 +104,7 @@ void LoadArena::OpenChunk() {
 }
 
 void LoadArena::CloseChunk() noexcept {
-  if (chunk != nullptr) chunk->Drop(kOpen - carved);
+  if (chunk != nullptr) chunk->Drop(Chunk::kOpen - carved);
   chunk = nullptr;
   cursor = end = nullptr;
   carved = 0;

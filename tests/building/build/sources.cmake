@@ -4,4 +4,7 @@ set(stage_tests
   openings_test.cpp
   profile_key_test.cpp
   storeys_test.cpp
+  idealise_member_test.cpp
+  idealise_surface_test.cpp
+  idealise_test.cpp
 )

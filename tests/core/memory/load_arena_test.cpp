@@ -85,6 +85,25 @@ TEST(LoadArena, KeepsBlocksThatOutliveIt) {
   blocks->ExpectWhole();
 }
 
+TEST(LoadArena, HoldsMoreThanTheLargestChunk) {
+  constexpr std::size_t kSize = 2000;
+  constexpr std::size_t kCount = 4000;  // 8 MB
+  std::vector<unsigned char*> blocks;
+  {
+    const LoadArena arena;
+    for (std::size_t i = 0; i < kCount; ++i) {
+      blocks.push_back(static_cast<unsigned char*>(AllocateBlock(kSize)));
+      std::memset(blocks.back(), static_cast<int>(i % 251), kSize);
+    }
+    EXPECT_GE(arena.GetBytes(), kSize * kCount);
+  }
+  for (std::size_t i = 0; i < kCount; ++i) {
+    EXPECT_EQ(blocks[i][0], i % 251);
+    EXPECT_EQ(blocks[i][kSize - 1], i % 251);
+    FreeBlock(blocks[i]);
+  }
+}
+
 TEST(LoadArena, RestoresTheOuterArenaWhenItEnds) {
   const LoadArena outer;
   void* const first = AllocateBlock(8);
