@@ -29,6 +29,8 @@ std::string_view Between(const char* begin, const char* end) {
 
 const char* IsoStatementReader::Read(const char* text, const char* end) {
   out.clear();
+  // Many files have a blank after the `=`. It need not cost a copy of the statement.
+  while (text != end && IsIsoBlank(*text)) ++text;
   kept = text;
   limit = end;
   for (const char* at = text; at != end;) {

@@ -20,8 +20,9 @@ class IsoStatementReader {
   explicit IsoStatementReader(BadEscapeSink* sink = nullptr) : badEscapes(sink) {}
 
   /// Returns [text, end), a statement or a part of it without comments, in the notation of the
-  /// values. Usually nothing changes, and the result is `text` itself. Otherwise the result is
-  /// valid until the next call. There is a NUL at `end`, and at the end of the result.
+  /// values. Usually only blanks at the begin are removed, and the result is a part of `text`.
+  /// Otherwise the result is valid until the next call. There is a NUL at `end`, and at the end of
+  /// the result.
   ///  - Blanks and control characters between tokens are removed.
   ///  - Letters outside strings become upper case.
   ///  - Strings are decoded.

@@ -37,7 +37,8 @@ ValueForm FormOf(const char* text) {
       break;
   }
   if (IsLetter(*text) || *text == '!') return ValueForm::kTyped;
-  const bool isNumber = IsDigit(*text) || ((*text == '+' || *text == '-') && text[1] != '\0');
+  const bool hasSign = *text == '+' || *text == '-';
+  const bool isNumber = IsDigit(*text) || (hasSign && (IsDigit(text[1]) || text[1] == '.'));
   return isNumber ? FormOfNumber(text) : ValueForm::kNone;
 }
 
