@@ -62,6 +62,26 @@ TEST(CutByPlane, ThroughVerticesAndEdgesStaysClosed) {
   ExpectSolid(CutByPlane(box, {1.0, 0.0, 0.0}, {-1.0, -1.0, -1.0}), 5.0 / 6.0);
 }
 
+TEST(CutByPlane, ThroughAnyThreeVerticesLeavesTwoClosedParts) {
+  Mesh mesh;
+  ASSERT_TRUE(Combine(TubeMesh(), BoxMesh({-1.0, 0.75, 1.0}, {3.0, 1.25, 2.0}),
+                      BooleanOperation::kDifference, mesh));
+  const double volume = VolumeOf(mesh);
+  std::mt19937 random(21);
+  for (int round = 0; round < 500; ++round) {
+    const auto next = [&] { return mesh.points[random() % mesh.points.size()]; };
+    const Point3 p = next();
+    const Point3 q = next();
+    const Vector3 normal = Cross(q - p, next() - p);
+    if (Length(normal) == 0.0) continue;
+    const Mesh below = CutByPlane(mesh, p, normal);
+    const Mesh above = CutByPlane(mesh, p, -normal);
+    EXPECT_TRUE(below.IsEmpty() || IsClosed(below)) << round;
+    EXPECT_TRUE(above.IsEmpty() || IsClosed(above)) << round;
+    EXPECT_NEAR(VolumeOf(below) + VolumeOf(above), volume, 1e-5) << round;
+  }
+}
+
 TEST(CutByPlane, BesideTheMeshLeavesAllOrNothing) {
   const Mesh box = BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0});
   ExpectSolid(CutByPlane(box, {0.0, 0.0, 1.0}, {0.0, 0.0, 1.0}), 1.0);

@@ -23,7 +23,9 @@ TEST(Weld, DropsWhatRoundingMakesOfSmallFaces) {
 
 TEST(Weld, DropsFacesWithPointsThatAreNotThere) {
   Mesh mesh;
-  mesh.points = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0},
+  mesh.points = {{0.0, 0.0, 0.0},
+                 {1.0, 0.0, 0.0},
+                 {0.0, 1.0, 0.0},
                  {std::numeric_limits<double>::quiet_NaN(), 0.0, 0.0}};
   mesh.AddFace({0, 1, 77});
   mesh.AddFace({0, 1, 3});
@@ -58,8 +60,8 @@ TEST(Balance, CountsTheUsesOfAnEdge) {
 
 TEST(SplitEdges, AddsThePointsOfNeighboursOnly) {
   Mesh mesh;
-  mesh.points = {{0.0, 0.0, 0.0}, {2.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {1.0, 0.0, 0.0},
-                 {1.0, -1.0, 0.0}};
+  mesh.points = {
+      {0.0, 0.0, 0.0}, {2.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {1.0, 0.0, 0.0}, {1.0, -1.0, 0.0}};
   mesh.AddFace({0, 1, 2});
   mesh.AddFace({3, 0, 4});
   mesh.AddFace({1, 3, 4});

@@ -6,6 +6,7 @@
 #include <random>
 
 #include "kelifc/building/solid/vector_math.h"
+
 #include "solid_samples.h"
 
 namespace KelIFC::building {
