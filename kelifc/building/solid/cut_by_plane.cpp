@@ -84,13 +84,9 @@ void AddCap(Mesh& mesh, const PlaneSection& section, const Projection& plane,
   AddFaces(mesh, points, TraceLoops(points.flat, edges).loops);
 }
 
-}  // namespace
-
-Mesh CutByPlane(const Mesh& mesh, const Point3& point, const Vector3& normal) {
-  const Vector3 unit = Unit(normal);
-  if (Length(unit) == 0.0 || !IsUsable(point)) return mesh;
-  const double tolerance = std::max(1e-8, 1e-9 * SizeOf(BoxOf(mesh)));
-  PlaneSection section(mesh, point, unit, tolerance);
+/// The part below a plane, with a unit normal. Points within the tolerance count as in the plane.
+Mesh CutWithin(const Mesh& mesh, const Point3& point, const Vector3& normal, double tolerance) {
+  PlaneSection section(mesh, point, normal, tolerance);
   if (!section.HasAbove()) return mesh;
   Mesh result;
   if (!section.HasBelow()) return result;
@@ -101,9 +97,25 @@ Mesh CutByPlane(const Mesh& mesh, const Point3& point, const Vector3& normal) {
     section.AddFace(face, loops, cap);
     AddPart(result, mesh, face, section, loops);
   }
-  AddCap(result, section, Projection(point, unit), std::move(cap));
+  AddCap(result, section, Projection(point, normal), std::move(cap));
   result.points = section.Points();
   return Weld(result, kWeldDistance / 10.0);
+}
+
+}  // namespace
+
+Mesh CutByPlane(const Mesh& mesh, const Point3& point, const Vector3& normal) {
+  const Vector3 unit = Unit(normal);
+  if (Length(unit) == 0.0 || !IsUsable(point)) return mesh;
+  const double tolerance = std::max(1e-8, 1e-9 * SizeOf(BoxOf(mesh)));
+  Mesh result = CutWithin(mesh, point, unit, tolerance);
+  if (IsBalanced(result) || !IsClosed(mesh)) return result;
+  // Faces that are almost in the plane may leave gaps, which a plane beside them does not.
+  for (const double wider : {1e-7, 1e-6, 1e-5, -1.0}) {
+    Mesh other = CutWithin(mesh, point, unit, wider);
+    if (IsBalanced(other)) return other;
+  }
+  return result;
 }
 
 }  // namespace KelIFC::building

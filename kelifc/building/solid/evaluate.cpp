@@ -173,24 +173,27 @@ bool Evaluation::Operate(const BooleanResult& form, std::size_t depth, Evaluated
     body.isExact = false;
     return true;
   }
-  EvaluatedBody other;
-  const bool hadFault = hasFault;
+  return CombineWith(second, form.operation, depth, body);
+}
+
+bool Evaluation::CombineWith(const SolidPointer& second, BooleanOperation operation,
+                             std::size_t depth, EvaluatedBody& body) {
+  // What is wrong with the second operand is no fault of the item.
+  const bool hadFault = std::exchange(hasFault, false);
   const Unreadable oldFault = fault;
-  hasFault = false;
-  if (second == nullptr || !Add({second}, Transform3(), depth + 1, other)) {
-    if (isOverLimit) return false;
-    // What has no volume takes nothing away.
-    const bool isNothing = second != nullptr && fault.reason == LossReason::kDegenerate &&
-                           form.operation != BooleanOperation::kIntersection;
-    body.isExact = body.isExact && isNothing;
-    hasFault = hadFault;
-    fault = oldFault;
-    return true;
-  }
+  EvaluatedBody other;
+  const bool isMade = second != nullptr && Add({second}, Transform3(), depth + 1, other);
+  if (isOverLimit) return false;
+  const bool hasNoVolume = hasFault && fault.reason == LossReason::kDegenerate;
   hasFault = hadFault;
   fault = oldFault;
+  if (!isMade) {
+    const bool changesNothing = hasNoVolume && operation != BooleanOperation::kIntersection;
+    body.isExact = body.isExact && changesNothing;
+    return true;
+  }
   Mesh combined;
-  if (Combine(body.mesh, other.mesh, form.operation, combined)) {
+  if (Combine(body.mesh, other.mesh, operation, combined)) {
     body.isExact = body.isExact && other.isExact;
     body.mesh = std::move(combined);
   } else {

@@ -31,6 +31,8 @@ class Evaluation {
   bool AddBoolean(const Solid& solid, const BooleanResult& form, const Transform3& map,
                   std::size_t depth, EvaluatedBody& body);
   bool Operate(const BooleanResult& form, std::size_t depth, EvaluatedBody& body);
+  bool CombineWith(const SolidPointer& second, BooleanOperation operation, std::size_t depth,
+                   EvaluatedBody& body);
   bool CutByHalfSpace(const HalfSpace& cutter, bool keepsInside, EvaluatedBody& body);
   bool Refuse(LossReason reason, std::size_t at);
   std::size_t PointsLeft() const;

@@ -146,6 +146,7 @@ std::vector<Mesh::Index> Closing(const std::vector<Mesh::Index>& first,
 std::vector<Mesh::Index> AddRing(Mesh& mesh, const std::vector<Point3>& ring,
                                  const Transform3& map) {
   std::vector<Mesh::Index> result;
+  result.reserve(ring.size());
   for (const Point3& p : ring) result.push_back(AddPoint(mesh, map(p)));
   return result;
 }

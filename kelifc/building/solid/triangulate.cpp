@@ -138,9 +138,8 @@ class Ring {
 /// Cuts ears off a ring.
 class EarCutter {
  public:
-  explicit EarCutter(Ring& someRing) : ring(someRing) {
+  explicit EarCutter(Ring& someRing) : ring(someRing), budget(1000 + 100 * ring.point.size()) {
     FindReflexNodes();
-    budget = 1000 + 100 * ring.point.size();
   }
 
   std::vector<Triangle2> Cut() {

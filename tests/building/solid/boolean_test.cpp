@@ -62,6 +62,26 @@ TEST(CutByPlane, ThroughVerticesAndEdgesStaysClosed) {
   ExpectSolid(CutByPlane(box, {1.0, 0.0, 0.0}, {-1.0, -1.0, -1.0}), 5.0 / 6.0);
 }
 
+TEST(CutByPlane, ThroughAnyThreeVerticesLeavesTwoClosedParts) {
+  Mesh mesh;
+  ASSERT_TRUE(Combine(TubeMesh(), BoxMesh({-1.0, 0.75, 1.0}, {3.0, 1.25, 2.0}),
+                      BooleanOperation::kDifference, mesh));
+  const double volume = VolumeOf(mesh);
+  std::mt19937 random(21);
+  for (int round = 0; round < 500; ++round) {
+    const auto next = [&] { return mesh.points[random() % mesh.points.size()]; };
+    const Point3 p = next();
+    const Point3 q = next();
+    const Vector3 normal = Cross(q - p, next() - p);
+    if (Length(normal) == 0.0) continue;
+    const Mesh below = CutByPlane(mesh, p, normal);
+    const Mesh above = CutByPlane(mesh, p, -normal);
+    EXPECT_TRUE(below.IsEmpty() || IsClosed(below)) << round;
+    EXPECT_TRUE(above.IsEmpty() || IsClosed(above)) << round;
+    EXPECT_NEAR(VolumeOf(below) + VolumeOf(above), volume, 1e-5) << round;
+  }
+}
+
 TEST(CutByPlane, BesideTheMeshLeavesAllOrNothing) {
   const Mesh box = BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0});
   ExpectSolid(CutByPlane(box, {0.0, 0.0, 1.0}, {0.0, 0.0, 1.0}), 1.0);
@@ -313,6 +333,25 @@ TEST(Combine, OfRandomPrismsWithHolesKeepsTheSumOfVolumes) {
     const Mesh again = Combined(both, b, BooleanOperation::kIntersection);
     EXPECT_NEAR(VolumeOf(again), VolumeOf(both), 1e-6);
   }
+}
+
+TEST(Combine, OfItemsThatOverlapWorksOnEach) {
+  const SolidPointer cross = SolidOf(MappedItems{
+      Transform3(),
+      {Block({-2.0, -0.5, 0.0}, {2.0, 0.5, 1.0}), Block({-0.5, -2.0, 0.0}, {0.5, 2.0, 1.0})}});
+  const BodyResult result = Evaluate(Minus(cross, Block({-0.2, -3.0, 0.5}, {0.3, 3.0, 2.0})));
+  EXPECT_TRUE(result.body.isExact);
+  // Each bar on its own: 4 - 0.5 * 1 * 0.5, and 4 - 0.5 * 4 * 0.5.
+  ExpectSolid(result.body.mesh, 3.75 + 3.0);
+}
+
+TEST(Combine, ByItemsThatOverlapSubtractsAll) {
+  const SolidPointer cross = SolidOf(MappedItems{
+      Transform3(),
+      {Block({-2.0, -0.5, 0.0}, {2.0, 0.5, 1.0}), Block({-0.5, -2.0, 0.0}, {0.5, 2.0, 1.0})}});
+  const BodyResult result = Evaluate(Minus(Block({-3.0, -3.0, 0.0}, {3.0, 3.0, 1.0}), cross));
+  EXPECT_TRUE(result.body.isExact);
+  ExpectSolid(result.body.mesh, 36.0 - 7.0);
 }
 
 TEST(Combine, OfNumbersThatAreNotFiniteFails) {
