@@ -28,9 +28,7 @@ double DistanceTo(const Point3& p, const Point3& a, const Point3& b) {
   return Length(p - Between(a, b, FractionOf(p, a, b)));
 }
 
-DirectedEdge Ordered(std::uint32_t a, std::uint32_t b) {
-  return {std::min(a, b), std::max(a, b)};
-}
+DirectedEdge Ordered(std::uint32_t a, std::uint32_t b) { return {std::min(a, b), std::max(a, b)}; }
 
 template <typename T>
 void SortUnique(std::vector<T>& values) {
@@ -53,8 +51,7 @@ PointLoop Renumber(const Mesh::Loop& loop, const std::vector<Mesh::Index>& numbe
 
 Arrangement::Arrangement(const Mesh& first, const Mesh& second, const Point3& origin,
                          double someTolerance)
-    : tolerance(someTolerance),
-      index(someTolerance, first.points.size() + second.points.size()) {
+    : tolerance(someTolerance), index(someTolerance, first.points.size() + second.points.size()) {
   AddMesh(first, origin, 0);
   AddMesh(second, origin, 1);
   CollectEdges();
@@ -88,8 +85,16 @@ void Arrangement::AddFace(std::vector<PointLoop> loops, std::size_t operand) {
   const double size = SizeOf(box);
   // Without an area there is no plane. The neighbours of such a face meet in its edges.
   if (!(Length(area) > 1e-3 * tolerance * size)) return;
-  Face face{operand, std::move(loops), {}, Unit(area), Projection(CentreOf(box), Unit(area)),
-            box,     {},               {}, {},         {},
+  Face face{operand,
+            std::move(loops),
+            {},
+            Unit(area),
+            Projection(CentreOf(box), Unit(area)),
+            box,
+            {},
+            {},
+            {},
+            {},
             {}};
   Vector3 sum;
   std::size_t count = 0;

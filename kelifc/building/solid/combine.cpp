@@ -68,8 +68,8 @@ class FaceCells {
   }
 
   std::uint32_t NumberOf(std::uint32_t point) const {
-    return static_cast<std::uint32_t>(
-        std::lower_bound(numbers.begin(), numbers.end(), point) - numbers.begin());
+    return static_cast<std::uint32_t>(std::lower_bound(numbers.begin(), numbers.end(), point) -
+                                      numbers.begin());
   }
 
   std::vector<std::vector<PointLoop>> Trace(std::vector<DirectedEdge> edges) const {
@@ -246,8 +246,8 @@ bool IsPlausible(double first, double second, double result, BooleanOperation op
   return result >= std::max(0.0, first - second) - slack && result <= first + slack;
 }
 
-bool TryCombine(const Mesh& first, const Mesh& second, BooleanOperation operation,
-                double tolerance, Mesh& result) {
+bool TryCombine(const Mesh& first, const Mesh& second, BooleanOperation operation, double tolerance,
+                Mesh& result) {
   const Point3 origin = CentreOf(BoxOf(first));
   Arrangement arrangement(first, second, origin, tolerance);
   if (!arrangement.Build()) return false;

@@ -70,8 +70,8 @@ constexpr std::array<Vector3, 7> kDirections = {{{0.8137, 0.4211, 0.4007},
 
 /// How a ray crosses a triangle.
 struct RayHit {
-  int crossing = 0;      // 1 outwards, -1 inwards
-  bool isClear = true;   // false: so close to an edge that rounding may decide
+  int crossing = 0;     // 1 outwards, -1 inwards
+  bool isClear = true;  // false: so close to an edge that rounding may decide
 };
 
 RayHit Cast(const Point3& p, const Vector3& direction, const Triangle3& triangle) {
@@ -110,7 +110,8 @@ struct SurfaceDistance::Tree {
     boxes.Search([&](const BuildingBox& b) { return SquareToBox(b, point); },
                  [&](std::uint32_t item) {
                    const Triangle3& t = triangles[item];
-                   best = std::min(best, SquareToTriangle(t[0] - point, t[1] - point, t[2] - point));
+                   best =
+                       std::min(best, SquareToTriangle(t[0] - point, t[1] - point, t[2] - point));
                    return best;
                  });
     return best;

@@ -79,7 +79,9 @@ bool Match(FlatProfile& first, FlatProfile& second) {
 class Turning {
  public:
   Turning(const Revolution& someSolid, double turn, std::size_t count)
-      : solid(someSolid), across(Cross(Vector3(0.0, 0.0, 1.0), someSolid.axis)), angle(turn),
+      : solid(someSolid),
+        across(Cross(Vector3(0.0, 0.0, 1.0), someSolid.axis)),
+        angle(turn),
         steps(count) {}
 
   /// How far a point of the plane is from the axis, to its left.

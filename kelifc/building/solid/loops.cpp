@@ -14,8 +14,8 @@ namespace {
 
 constexpr std::size_t kNone = static_cast<std::size_t>(-1);
 
-/// Grows with the angle by which `to` is turned clockwise from `from`: from just above 0 to 4. It is
-/// 4 for the same direction.
+/// Grows with the angle by which `to` is turned clockwise from `from`: from just above 0 to 4. It
+/// is 4 for the same direction.
 double ClockwiseTurn(const Vector2& from, const Vector2& to) {
   const double along = Dot(from, to);
   const double across = -Cross(from, to);
@@ -31,7 +31,9 @@ double ClockwiseTurn(const Vector2& from, const Vector2& to) {
 class EdgeFan {
  public:
   EdgeFan(const std::vector<Point2>& somePoints, const std::vector<DirectedEdge>& someEdges)
-      : points(somePoints), edges(someEdges), order(someEdges.size()),
+      : points(somePoints),
+        edges(someEdges),
+        order(someEdges.size()),
         isUsed(someEdges.size(), false) {
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
@@ -45,9 +47,9 @@ class EdgeFan {
   /// The edge that follows in a loop which began with `start`; kNone if there is none.
   std::size_t Next(std::size_t edge, std::size_t start) const {
     const auto [from, at] = edges[edge];
-    auto entry = std::lower_bound(order.begin(), order.end(), at, [&](std::size_t i, std::uint32_t p) {
-      return edges[i].first < p;
-    });
+    auto entry =
+        std::lower_bound(order.begin(), order.end(), at,
+                         [&](std::size_t i, std::uint32_t p) { return edges[i].first < p; });
     std::size_t best = kNone;
     double bestTurn = std::numeric_limits<double>::infinity();
     for (; entry != order.end() && edges[*entry].first == at; ++entry) {

@@ -35,8 +35,8 @@ struct EdgeUse {
 /// All edges of all loops, those with the same ends next to each other, then by face.
 std::vector<EdgeUse> SortedEdgesOf(const Mesh& mesh);
 
-/// True if each edge is used as often in one direction as in the other. Points are one point only if
-/// they have one index.
+/// True if each edge is used as often in one direction as in the other. Points are one point only
+/// if they have one index.
 bool IsBalanced(const Mesh& mesh);
 
 }  // namespace KelIFC::building

@@ -8,8 +8,12 @@ namespace KelIFC::building {
 
 PlaneSection::PlaneSection(const Mesh& someMesh, const Point3& point, const Vector3& unitNormal,
                            double tolerance)
-    : mesh(someMesh), origin(point), normal(unitNormal), points(someMesh.points),
-      heights(someMesh.points.size()), sides(someMesh.points.size()) {
+    : mesh(someMesh),
+      origin(point),
+      normal(unitNormal),
+      points(someMesh.points),
+      heights(someMesh.points.size()),
+      sides(someMesh.points.size()) {
   for (std::size_t i = 0; i < points.size(); ++i) {
     heights[i] = Dot(points[i] - origin, normal);
     const bool isIn = std::abs(heights[i]) <= tolerance;
@@ -95,8 +99,8 @@ void PlaneSection::SortEnds(const Vector3& along) {
     ends.push_back({Dot(points[chains[i].points.back()] - origin, along), i, false});
   }
   std::sort(ends.begin(), ends.end(), [](const End& a, const End& b) {
-    return a.place < b.place || (a.place == b.place && (a.isStart != b.isStart ? b.isStart
-                                                                              : a.chain < b.chain));
+    return a.place < b.place ||
+           (a.place == b.place && (a.isStart != b.isStart ? b.isStart : a.chain < b.chain));
   });
   // Along the line a start and an end alternate. Ends that coincide may stand in the wrong order.
   for (std::size_t i = 0; i + 1 < ends.size(); ++i) {

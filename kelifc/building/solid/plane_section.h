@@ -50,7 +50,8 @@ class PlaneSection {
   void SortEnds(const Vector3& along);
   void JoinChains(const Vector3& along, std::vector<PointLoop>& loops,
                   std::vector<DirectedEdge>& cap);
-  void AddBetween(const Vector3& along, std::uint32_t from, std::uint32_t to, PointLoop& line) const;
+  void AddBetween(const Vector3& along, std::uint32_t from, std::uint32_t to,
+                  PointLoop& line) const;
 
   const Mesh& mesh;
   Point3 origin;

@@ -49,9 +49,9 @@ PointIndex::PointIndex(double weldDistance, std::size_t expectedPoints)
 }
 
 std::size_t PointIndex::SlotOf(std::int64_t x, std::int64_t y, std::int64_t z) const {
-  const std::uint64_t hash = Mix(static_cast<std::uint64_t>(x) +
-                                 Mix(static_cast<std::uint64_t>(y) +
-                                     Mix(static_cast<std::uint64_t>(z))));
+  const std::uint64_t hash =
+      Mix(static_cast<std::uint64_t>(x) +
+          Mix(static_cast<std::uint64_t>(y) + Mix(static_cast<std::uint64_t>(z))));
   return hash & (slots.size() - 1);
 }
 
@@ -64,9 +64,9 @@ Mesh::Index PointIndex::Add(const Point3& point) {
   Mesh::Index nearest = kNone;
   double best = distance * distance;
   for (int corner = 0; corner < 8; ++corner) {
-    const std::size_t slot = SlotOf((corner & 1) != 0 ? other.x : cell.x,
-                                    (corner & 2) != 0 ? other.y : cell.y,
-                                    (corner & 4) != 0 ? other.z : cell.z);
+    const std::size_t slot =
+        SlotOf((corner & 1) != 0 ? other.x : cell.x, (corner & 2) != 0 ? other.y : cell.y,
+               (corner & 4) != 0 ? other.z : cell.z);
     for (Mesh::Index i = slots[slot]; i != kNone; i = next[i]) {
       const double square = SquareDistance(points[i], point);
       if (square < best || (square == best && i < nearest)) {
@@ -89,8 +89,8 @@ void PointIndex::Grow() {
   slots.assign(slots.size() * 2, kNone);
   for (std::size_t i = 0; i < points.size(); ++i) {
     const Point3& p = points[i];
-    const std::size_t slot = SlotOf(CellOf(p.x, cellsPerMetre), CellOf(p.y, cellsPerMetre),
-                                    CellOf(p.z, cellsPerMetre));
+    const std::size_t slot =
+        SlotOf(CellOf(p.x, cellsPerMetre), CellOf(p.y, cellsPerMetre), CellOf(p.z, cellsPerMetre));
     next[i] = slots[slot];
     slots[slot] = static_cast<Mesh::Index>(i);
   }

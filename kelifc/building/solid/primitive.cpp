@@ -40,8 +40,8 @@ void AddSphere(Mesh& mesh, RingSweep& sweep, double radius, std::size_t corners,
   for (std::size_t i = 1; i < bands; ++i) {
     const double angle =
         std::numbers::pi * (static_cast<double>(i) / static_cast<double>(bands) - 0.5);
-    AddStation(mesh, sweep, CircleOf(radius * std::cos(angle), corners),
-               radius * std::sin(angle), map);
+    AddStation(mesh, sweep, CircleOf(radius * std::cos(angle), corners), radius * std::sin(angle),
+               map);
   }
   AddTip(mesh, sweep, {0.0, 0.0, radius}, map);
 }

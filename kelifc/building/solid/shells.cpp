@@ -123,9 +123,9 @@ class Orienter {
     while (!open.empty()) {
       const std::size_t face = open.back();
       open.pop_back();
-      auto entry = std::lower_bound(
-          neighbours.begin(), neighbours.end(), face,
-          [](const Neighbours& n, std::size_t value) { return n.face < value; });
+      auto entry =
+          std::lower_bound(neighbours.begin(), neighbours.end(), face,
+                           [](const Neighbours& n, std::size_t value) { return n.face < value; });
       for (; entry != neighbours.end() && entry->face == face; ++entry) {
         if (part[entry->other] != kNone) continue;
         part[entry->other] = parts.size();
@@ -142,8 +142,7 @@ class Orienter {
       Part& own = parts[part[face]];
       for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
         const Mesh::Loop loop = mesh.LoopOf(face, i);
-        const double share =
-            Dot(mesh.points[loop[0]] - centre, AreaVectorOf(mesh, loop)) / 6.0;
+        const double share = Dot(mesh.points[loop[0]] - centre, AreaVectorOf(mesh, loop)) / 6.0;
         own.volume += isTurned[face] ? -share : share;
       }
       for (const Mesh::Index p : mesh.LoopOf(face, 0)) Extend(own.box, mesh.points[p]);

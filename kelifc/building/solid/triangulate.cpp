@@ -283,8 +283,8 @@ void AppendTriangles(const Mesh& mesh, std::size_t face, std::vector<Triangle3>&
     Triangle3& result = triangles.emplace_back();
     for (std::size_t i = 0; i < 3; ++i) {
       const Point2& p = points[t[i]];
-      result[i] = t[i] < places.size() ? places[t[i]]
-                                       : plane.origin + (p.x * plane.x + p.y * plane.y);
+      result[i] =
+          t[i] < places.size() ? places[t[i]] : plane.origin + (p.x * plane.x + p.y * plane.y);
     }
   }
 }

@@ -13,10 +13,10 @@ namespace KelIFC::building {
 using Triangle2 = std::array<std::uint32_t, 3>;
 
 /// Cuts a plane region into counter-clockwise triangles by cutting off ears. The first loop is the
-/// outer one, counter-clockwise; the others are holes, clockwise. Holes are joined to the outer loop
-/// along horizontal lines, whose ends are appended to `points`. Of a region that crosses itself the
-/// triangles overlap. The number of tests is limited to about 100 for each point; beyond that the
-/// ears of hostile regions are cut off untested.
+/// outer one, counter-clockwise; the others are holes, clockwise. Holes are joined to the outer
+/// loop along horizontal lines, whose ends are appended to `points`. Of a region that crosses
+/// itself the triangles overlap. The number of tests is limited to about 100 for each point; beyond
+/// that the ears of hostile regions are cut off untested.
 std::vector<Triangle2> Triangulate(std::vector<Point2>& points,
                                    const std::vector<PointLoop>& loops);
 

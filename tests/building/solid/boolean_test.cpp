@@ -7,6 +7,7 @@
 
 #include "kelifc/building/solid/mesh_tools.h"
 #include "kelifc/building/solid/vector_math.h"
+
 #include "solid_samples.h"
 
 namespace KelIFC::building {
@@ -18,8 +19,8 @@ void ExpectSolid(const Mesh& mesh, double volume, double tolerance = 1e-9) {
 }
 
 TEST(CutByPlane, KeepsTheSideThatTheNormalPointsAwayFrom) {
-  const Mesh cut = CutByPlane(BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 4.0}), {0.0, 0.0, 3.0},
-                              {0.0, 0.0, 2.0});
+  const Mesh cut =
+      CutByPlane(BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 4.0}), {0.0, 0.0, 3.0}, {0.0, 0.0, 2.0});
   ExpectSolid(cut, 3.0);
   EXPECT_EQ(cut.FaceCount(), 6U);
   EXPECT_NEAR(BoxOf(cut).max.z, 3.0, 1e-12);
@@ -33,11 +34,19 @@ TEST(CutByPlane, ClosesATubeByAFaceWithAHole) {
 }
 
 TEST(CutByPlane, MayLeaveSeveralParts) {
-  const ProfilePointer comb =
-      ProfileOf({{ContourOf({{0.0, 0.0}, {5.0, 0.0}, {5.0, 2.0}, {4.0, 2.0}, {4.0, 1.0},
-                             {3.0, 1.0}, {3.0, 2.0}, {2.0, 2.0}, {2.0, 1.0}, {1.0, 1.0},
-                             {1.0, 2.0}, {0.0, 2.0}}),
-                  {}}});
+  const ProfilePointer comb = ProfileOf({{ContourOf({{0.0, 0.0},
+                                                     {5.0, 0.0},
+                                                     {5.0, 2.0},
+                                                     {4.0, 2.0},
+                                                     {4.0, 1.0},
+                                                     {3.0, 1.0},
+                                                     {3.0, 2.0},
+                                                     {2.0, 2.0},
+                                                     {2.0, 1.0},
+                                                     {1.0, 1.0},
+                                                     {1.0, 2.0},
+                                                     {0.0, 2.0}}),
+                                          {}}});
   const Mesh mesh = Evaluate(Prism(comb, 3.0)).body.mesh;
   ExpectSolid(CutByPlane(mesh, {0.0, 1.5, 0.0}, {0.0, 1.0, 0.0}), 19.5);
   ExpectSolid(CutByPlane(mesh, {0.0, 1.5, 0.0}, {0.0, -1.0, 0.0}), 4.5);
@@ -92,10 +101,9 @@ TEST(Clipping, OfAWallByThreeRoofPlanes) {
 }
 
 TEST(Clipping, ByAnIntersectionKeepsTheHalfSpace) {
-  const BodyResult result =
-      Evaluate(Operation(BooleanOperation::kIntersection,
-                         SolidOf(Below({0.0, 0.0, 1.0}, {0.0, 0.0, 1.0})),
-                         Block({0.0, 0.0, 0.0}, {1.0, 1.0, 4.0})));
+  const BodyResult result = Evaluate(Operation(BooleanOperation::kIntersection,
+                                               SolidOf(Below({0.0, 0.0, 1.0}, {0.0, 0.0, 1.0})),
+                                               Block({0.0, 0.0, 0.0}, {1.0, 1.0, 4.0})));
   ExpectSolid(result.body.mesh, 1.0);
 }
 
@@ -116,8 +124,8 @@ TEST(Clipping, ByWhatCannotBeReadKeepsTheFirstOperand) {
 }
 
 TEST(Clipping, OfWhatCannotBeReadHasItsFault) {
-  const BodyResult result = Evaluate(Minus(SolidOf(Unreadable{LossReason::kCycle, 9}),
-                                           Block({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0})));
+  const BodyResult result = Evaluate(
+      Minus(SolidOf(Unreadable{LossReason::kCycle, 9}), Block({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0})));
   ASSERT_TRUE(result.fault.has_value());
   EXPECT_EQ(result.fault->reason, LossReason::kCycle);
   EXPECT_EQ(result.fault->at, 9U);
@@ -188,11 +196,11 @@ TEST(Combine, OfIdenticalBoxes) {
 
 TEST(Combine, OfBoxesThatOnlyTouch) {
   const Mesh a = BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0});
-  ExpectAll(a, BoxMesh({1.0, 0.0, 0.0}, {2.0, 1.0, 1.0}), 0.0);   // a whole face
-  ExpectAll(a, BoxMesh({1.0, 0.5, 0.5}, {2.0, 2.0, 2.0}), 0.0);   // a part of a face
-  ExpectAll(a, BoxMesh({1.0, 1.0, 0.0}, {2.0, 2.0, 1.0}), 0.0);   // an edge
-  ExpectAll(a, BoxMesh({1.0, 1.0, 1.0}, {2.0, 2.0, 2.0}), 0.0);   // a corner
-  ExpectAll(a, BoxMesh({5.0, 1.0, 1.0}, {6.0, 2.0, 2.0}), 0.0);   // nothing
+  ExpectAll(a, BoxMesh({1.0, 0.0, 0.0}, {2.0, 1.0, 1.0}), 0.0);  // a whole face
+  ExpectAll(a, BoxMesh({1.0, 0.5, 0.5}, {2.0, 2.0, 2.0}), 0.0);  // a part of a face
+  ExpectAll(a, BoxMesh({1.0, 1.0, 0.0}, {2.0, 2.0, 1.0}), 0.0);  // an edge
+  ExpectAll(a, BoxMesh({1.0, 1.0, 1.0}, {2.0, 2.0, 2.0}), 0.0);  // a corner
+  ExpectAll(a, BoxMesh({5.0, 1.0, 1.0}, {6.0, 2.0, 2.0}), 0.0);  // nothing
 }
 
 TEST(Combine, OfFacesThatDifferByLessThanTheDigitsOfAFile) {
@@ -250,8 +258,8 @@ TEST(Combine, OfNestedDifferencesStaysSmall) {
 }
 
 TEST(Combine, OfADifferenceWithADifference) {
-  const SolidPointer plug = Minus(Block({1.0, -1.0, 1.0}, {3.0, 2.0, 3.0}),
-                                  Block({1.5, -1.0, 1.5}, {2.5, 2.0, 2.5}));
+  const SolidPointer plug =
+      Minus(Block({1.0, -1.0, 1.0}, {3.0, 2.0, 3.0}), Block({1.5, -1.0, 1.5}, {2.5, 2.0, 2.5}));
   const BodyResult result = Evaluate(Minus(Block({0.0, 0.0, 0.0}, {4.0, 1.0, 4.0}), plug));
   EXPECT_TRUE(result.body.isExact);
   ExpectSolid(result.body.mesh, 16.0 - 3.0);
@@ -271,8 +279,8 @@ TEST(Combine, OfRandomBoxesKeepsTheSumOfVolumes) {
     const auto overlap = [](double l, double h, double m, double i) {
       return std::max(0.0, std::min(h, i) - std::max(l, m));
     };
-    const double common = overlap(a.x, b.x, c.x, d.x) * overlap(a.y, b.y, c.y, d.y) *
-                          overlap(a.z, b.z, c.z, d.z);
+    const double common =
+        overlap(a.x, b.x, c.x, d.x) * overlap(a.y, b.y, c.y, d.y) * overlap(a.z, b.z, c.z, d.z);
     SCOPED_TRACE(round);
     const Transform3 map = round % 2 == 0 ? Transform3() : Skew(17.3, -1234.5, 99.1);
     ExpectAll(Moved(BoxMesh(a, b), map), Moved(BoxMesh(c, d), map), common);
@@ -311,8 +319,8 @@ TEST(Combine, OfNumbersThatAreNotFiniteFails) {
   Mesh bad = BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0});
   bad.points[2].y = std::numeric_limits<double>::infinity();
   Mesh result;
-  EXPECT_FALSE(Combine(bad, BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0}),
-                       BooleanOperation::kUnion, result));
+  EXPECT_FALSE(
+      Combine(bad, BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0}), BooleanOperation::kUnion, result));
 }
 
 TEST(Combine, OfOpenMeshesFailsAndKeepsTheFirstOperand) {
@@ -323,8 +331,8 @@ TEST(Combine, OfOpenMeshesFailsAndKeepsTheFirstOperand) {
     const Mesh::Loop loop = box.LoopOf(face, 0);
     open.AddFace({loop.begin(), loop.end()});
   }
-  const BodyResult result = Evaluate(
-      Minus(SolidOf(Shells{{open}, false}), Block({0.5, 0.5, 0.5}, {2.0, 2.0, 2.0})));
+  const BodyResult result =
+      Evaluate(Minus(SolidOf(Shells{{open}, false}), Block({0.5, 0.5, 0.5}, {2.0, 2.0, 2.0})));
   ASSERT_FALSE(result.fault.has_value());
   EXPECT_FALSE(result.body.isExact);
   EXPECT_EQ(result.body.mesh.FaceCount(), 5U);

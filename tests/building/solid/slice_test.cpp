@@ -94,11 +94,19 @@ TEST(Slice, JoinsFacesThatDoNotShareTheirPoints) {
 
 TEST(Slice, OfANonConvexPrismAlongItsLegsHasARegionForEach) {
   // A comb with three teeth.
-  const ProfilePointer comb =
-      ProfileOf({{ContourOf({{0.0, 0.0}, {5.0, 0.0}, {5.0, 2.0}, {4.0, 2.0}, {4.0, 1.0},
-                             {3.0, 1.0}, {3.0, 2.0}, {2.0, 2.0}, {2.0, 1.0}, {1.0, 1.0},
-                             {1.0, 2.0}, {0.0, 2.0}}),
-                  {}}});
+  const ProfilePointer comb = ProfileOf({{ContourOf({{0.0, 0.0},
+                                                     {5.0, 0.0},
+                                                     {5.0, 2.0},
+                                                     {4.0, 2.0},
+                                                     {4.0, 1.0},
+                                                     {3.0, 1.0},
+                                                     {3.0, 2.0},
+                                                     {2.0, 2.0},
+                                                     {2.0, 1.0},
+                                                     {1.0, 1.0},
+                                                     {1.0, 2.0},
+                                                     {0.0, 2.0}}),
+                                          {}}});
   const Mesh mesh = Evaluate(Prism(comb, 3.0)).body.mesh;
   PlaneFrame plane;
   plane.origin = {0.0, 1.5, 0.0};

@@ -73,14 +73,17 @@ inline HalfSpace Below(const Point3& point, const Vector3& normal) {
   return form;
 }
 
-inline BodyResult Evaluate(const SolidPointer& solid) { return EvaluateBody({solid}, Transform3()); }
+inline BodyResult Evaluate(const SolidPointer& solid) {
+  return EvaluateBody({solid}, Transform3());
+}
 
 /// A box of six faces of four points each.
 inline Mesh BoxMesh(const Point3& min, const Point3& max) {
   Mesh mesh;
   for (const double z : {min.z, max.z}) {
-    mesh.points.insert(mesh.points.end(), {{min.x, min.y, z}, {max.x, min.y, z},
-                                           {max.x, max.y, z}, {min.x, max.y, z}});
+    mesh.points.insert(
+        mesh.points.end(),
+        {{min.x, min.y, z}, {max.x, min.y, z}, {max.x, max.y, z}, {min.x, max.y, z}});
   }
   for (const auto& face : std::vector<std::vector<Mesh::Index>>{
            {3, 2, 1, 0}, {4, 5, 6, 7}, {0, 1, 5, 4}, {1, 2, 6, 5}, {2, 3, 7, 6}, {3, 0, 4, 7}}) {
