@@ -2,6 +2,7 @@
 #include <cstdlib>
 #include <string>
 
+#include "kelifc/building/read_building.h"
 #include "kelifc/geo/interfaces.h"
 #include "kelifc/model_access.h"
 #include "kelifc/platform/com.h"
@@ -9,8 +10,9 @@
 
 #include "bench/conversion.h"
 
-// Loads, converts, saves and resets a model, once each. scripts/count-instructions counts the
-// instructions inside the four functions below and knows their names, so they must not be inlined.
+// Loads, converts, reads completely, saves and resets a model, once each.
+// scripts/count-instructions counts the instructions inside the functions below and knows their
+// names, so they must not be inlined.
 
 namespace {
 
@@ -34,6 +36,10 @@ extern "C" {
   Require(bench::ConvertAll(structure) > 0, "conversion");
 }
 
+[[gnu::noinline]] void CountedBuilding(IfcServer& server) {
+  Require(KelIFC::ReadBuilding(server).totals.products > 0, "reading the building");
+}
+
 [[gnu::noinline]] void CountedSave(IfcServer& server, const char* path) {
   Require(server.SaveIfcFile(path) == 0, "save");
 }
@@ -54,6 +60,7 @@ int main(int argc, char** argv) {
     const auto structure = bench::GetStructure(*server);
     CountedConversion(*structure);
   }
+  CountedBuilding(model);
   CountedSave(model, argv[2]);
   CountedReset(model);
 }

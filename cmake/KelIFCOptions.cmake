@@ -19,9 +19,11 @@ option(KELIFC_BUILD_DOCS "Build the documentation site; needs Doxygen, MkDocs an
 option(KELIFC_INSTALL "Make the install rules" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
 
-# Packed models need zlib and libzip. Without them the command rejects packed models.
+# Only the command expands packed models. It needs zlib and libzip for that; without them it rejects
+# packed models. Another project has to ask for the component, so that KelIFC searches for no package
+# that the project does not need.
 set(archive_default OFF)
-if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_CROSSCOMPILING)
+if(KELIFC_BUILD_COMMAND AND NOT CMAKE_CROSSCOMPILING AND (PROJECT_IS_TOP_LEVEL OR KELIFC_BUILD_ARCHIVE))
   find_package(PkgConfig)
   if(PKG_CONFIG_FOUND)
     pkg_check_modules(KELIFC_ZLIB IMPORTED_TARGET zlib)
@@ -32,6 +34,13 @@ if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_CROSSCOMPILING)
   endif()
 endif()
 option(KELIFC_BUILD_ARCHIVE "Build the component that expands .ifczip and .ifc.gz" ${archive_default})
+if(KELIFC_BUILD_ARCHIVE AND NOT KELIFC_BUILD_COMMAND)
+  message(WARNING "KELIFC_BUILD_ARCHIVE is ignored: only the command expands packed models, and "
+    "KELIFC_BUILD_COMMAND is OFF")
+  set(KELIFC_BUILD_ARCHIVE OFF)
+elseif(KELIFC_BUILD_ARCHIVE AND NOT (TARGET PkgConfig::KELIFC_ZLIB AND TARGET PkgConfig::KELIFC_LIBZIP))
+  message(FATAL_ERROR "KELIFC_BUILD_ARCHIVE needs zlib and libzip, which pkg-config does not find")
+endif()
 
 if(PROJECT_IS_TOP_LEVEL AND NOT CMAKE_BUILD_TYPE AND NOT CMAKE_CONFIGURATION_TYPES)
   set(CMAKE_BUILD_TYPE Release CACHE STRING "Kind of build" FORCE)

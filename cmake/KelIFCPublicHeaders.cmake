@@ -1,6 +1,14 @@
 # The installed headers: those that a host includes, and the helpers in detail folders that these
 # need. A test compares the list with the headers that kelifc.h includes.
 set(kelifc_public_headers
+  kelifc/building/audit.h
+  kelifc/building/building.h
+  kelifc/building/difference.h
+  kelifc/building/element_enums.h
+  kelifc/building/measures.h
+  kelifc/building/mesh.h
+  kelifc/building/profile.h
+  kelifc/building/read_building.h
   kelifc/core/aggregate.h
   kelifc/core/binary.h
   kelifc/core/boolean.h

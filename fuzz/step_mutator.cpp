@@ -18,7 +18,7 @@ namespace {
 
 using Statements = std::vector<std::string>;
 
-constexpr std::array<std::string_view, 40> kOddValues = {"$",
+constexpr std::array<std::string_view, 48> kOddValues = {"$",
                                                          "*",
                                                          "",
                                                          "()",
@@ -57,7 +57,15 @@ constexpr std::array<std::string_view, 40> kOddValues = {"$",
                                                          "#-1",
                                                          "\"",
                                                          "\"0FF\"",
-                                                         "IFCLABEL("};
+                                                         "IFCLABEL(",
+                                                         "'it''s'",
+                                                         "'\\X2\\00E9\\X0\\'",
+                                                         "'\\X4\\0001F600\\X0\\'",
+                                                         "'\\X2\\D83D'",
+                                                         "'\\PB\\\\S\\i'",
+                                                         "'\\S\\'",
+                                                         "'\\X\\e4'",
+                                                         "'\xC3\xA4\xE4'"};
 
 std::size_t Below(std::size_t count, Random& random) { return random() % count; }
 

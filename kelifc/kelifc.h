@@ -2,8 +2,16 @@
 #define KELIFC_KELIFC_H_
 
 // Includes everything that a host can use: the model server, the values and the entity classes of
-// the five releases, and the object model of the converted structure.
+// the five releases, the object model of the converted structure, and the building model.
 
+#include "kelifc/building/audit.h"
+#include "kelifc/building/building.h"
+#include "kelifc/building/difference.h"
+#include "kelifc/building/element_enums.h"
+#include "kelifc/building/measures.h"
+#include "kelifc/building/mesh.h"
+#include "kelifc/building/profile.h"
+#include "kelifc/building/read_building.h"
 #include "kelifc/core/binary.h"
 #include "kelifc/core/boolean.h"
 #include "kelifc/core/bounding_box.h"

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <type_traits>
 #include <utility>
+#include <vector>
 
 #include "kelifc/geo/interfaces.h"
 #include "kelifc/geo/storey_number.h"
@@ -32,6 +33,7 @@ namespace KelIFC {
 /// Thrown when an operation of the object model returns a failure.
 class StatusError : public std::runtime_error {
  public:
+  /// The error of a negative status, with a message for people.
   StatusError(HRESULT failure, const std::string& message)
       : std::runtime_error(message), status(failure) {}
 
@@ -175,19 +177,24 @@ auto ItemAt(const ComPtr<Collection>& collection, LONG index) {
 template <class Collection>
 class ItemRange {
  public:
+  /// A position in the range. The range must outlive it.
   class Iterator {
    public:
-    using iterator_category = std::input_iterator_tag;
+    using iterator_category = std::input_iterator_tag;  ///< each access reads the item again
+    /// A number, or an object as ComPtr.
     using value_type = decltype(ItemAt(std::declval<const ComPtr<Collection>&>(), 1));
-    using difference_type = std::ptrdiff_t;
-    using pointer = void;
-    using reference = value_type;
+    using difference_type = std::ptrdiff_t;  ///< the type of a distance
+    using pointer = void;                    ///< items are values, so there is no pointer to one
+    using reference = value_type;            ///< items are values
 
+    /// The position `first`, which counts from 0.
     Iterator(const ItemRange& items, LONG first) : range(&items), position(first) {}
 
     /// Reads the item. Throws StatusError if that fails.
     value_type operator*() const { return ItemAt(range->collection, position + 1); }
 
+    /// @{
+    /// Moves to the next item.
     Iterator& operator++() {
       ++position;
       return *this;
@@ -197,8 +204,13 @@ class ItemRange {
       ++position;
       return old;
     }
+    /// @}
+
+    /// @{
+    /// Compares the positions of two iterators of the same range.
     bool operator==(const Iterator& other) const { return position == other.position; }
     bool operator!=(const Iterator& other) const { return position != other.position; }
+    /// @}
 
    private:
     const ItemRange* range;
@@ -209,9 +221,13 @@ class ItemRange {
   explicit ItemRange(ComPtr<Collection> items)
       : collection(std::move(items)), count(Get(collection, &Collection::Count)) {}
 
+  /// Returns the position of the first item.
   Iterator begin() const { return Iterator(*this, 0); }
+  /// Returns the position after the last item.
   Iterator end() const { return Iterator(*this, count); }
+  /// Returns the number of items.
   std::size_t size() const { return static_cast<std::size_t>(count); }
+  /// Returns true if there are no items.
   bool empty() const { return count == 0; }
 
  private:
@@ -230,6 +246,48 @@ template <class Base, class Collection>
 ItemRange<Collection> Items(typename detail::TargetOf<Base>::Type object,
                             HRESULT (Base::*getter)(Collection**)) {
   return ItemRange<Collection>(Get(object, getter));
+}
+
+/// An element or an opening, with the name of its kind.
+struct NamedElement {
+  const char* kind;  ///< "Column", "Beam", "Wall", "Plate", "Foot"; "Window", "Door", "Hole"
+  ComPtr<IGeoObject> object;  ///< ComPtr::As returns the interface of the kind
+};
+
+namespace detail {
+
+template <class Base, class Collection>
+void AddElements(std::vector<NamedElement>& all, const char* kind, const ComPtr<Base>& owner,
+                 HRESULT (Base::*getter)(Collection**)) {
+  for (auto&& element : Items(owner, getter)) all.push_back({kind, element});
+}
+
+}  // namespace detail
+
+/// All elements of a structure: the columns, beams, walls, plates and foots, each in the order of
+/// their collection. Throws StatusError if a conversion fails.
+inline std::vector<NamedElement> GetElements(const ComPtr<IGeoStructure>& structure) {
+  std::vector<NamedElement> all;
+  detail::AddElements(all, "Column", structure, &IGeoStructure::get_Columns);
+  detail::AddElements(all, "Beam", structure, &IGeoStructure::get_Beams);
+  detail::AddElements(all, "Wall", structure, &IGeoStructure::get_Walls);
+  detail::AddElements(all, "Plate", structure, &IGeoStructure::get_Plates);
+  detail::AddElements(all, "Foot", structure, &IGeoStructure::get_Foots);
+  return all;
+}
+
+/// The openings of an element: the windows and then the doors of a wall, or the holes of a plate.
+/// Any other element has none, and neither has an empty pointer.
+inline std::vector<NamedElement> GetOpenings(const ComPtr<IGeoObject>& element) {
+  std::vector<NamedElement> all;
+  if (const auto wall = element.As<IGeoWall>()) {
+    detail::AddElements(all, "Window", wall, &IGeoWall::get_Windows);
+    detail::AddElements(all, "Door", wall, &IGeoWall::get_Doors);
+  }
+  if (const auto plate = element.As<IGeoPlate>()) {
+    detail::AddElements(all, "Hole", plate, &IGeoPlate::get_Holes);
+  }
+  return all;
 }
 
 /// The first section of exactly this name, or an empty pointer. Throws StatusError if the search
@@ -266,8 +324,8 @@ inline ComPtr<IIFCServer> CreateServer() {
 /// A loaded model. The server object owns the model: while the host uses the structure, it must
 /// hold the server object.
 struct OpenedModel {
-  ComPtr<IIFCServer> server;
-  ComPtr<IGeoStructure> structure;
+  ComPtr<IIFCServer> server;        ///< the owner of the model
+  ComPtr<IGeoStructure> structure;  ///< its storeys, elements and sections
 };
 
 /// Loads a file into a new server object and returns the object with its structure. `path` has the

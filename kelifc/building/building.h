@@ -121,9 +121,9 @@ struct BuildingElement {
   std::string tag;
   std::string type;                ///< the predefined type, as "BASESLAB"; empty if there is none
   std::size_t storey = 0;          ///< the instance number of the storey that contains it
-  std::size_t storeyByHeight = 0;  ///< the storey in which its lowest point is
+  std::size_t storeyByHeight = 0;  ///< by its lowest point, or by the upper face of a slab
   std::size_t partOf = 0;          ///< the element that it is a part of
-  BuildingIndex material;
+  BuildingIndex material;          ///< the first of a list; of layers that of the thickest
 
   ElementKind kind = ElementKind::kBody;
   BodySource source = BodySource::kBrep;
@@ -151,6 +151,12 @@ struct BuildingLoss {
   std::string name;
   LossReason reason = LossReason::kNoRepresentation;
   std::size_t at = 0;  ///< the instance at fault
+};
+
+/// A product that is neither read nor lost: a whole without a body, whose parts are products.
+struct BuildingWhole {
+  std::size_t id = 0;
+  std::string className;
 };
 
 /// How many products became what. members + surfaces + bodies + decomposed + lost == products.
@@ -181,7 +187,7 @@ struct Building {
   std::vector<BuildingMaterial> materials;  ///< in the order of their first use
   std::vector<BuildingProfile> profiles;    ///< in the order of their first use
   std::vector<BuildingElement> elements;    ///< in the order of the file
-  std::vector<std::size_t> decomposed;      ///< wholes without a body, whose parts are products
+  std::vector<BuildingWhole> decomposed;    ///< in the order of the file
   std::vector<BuildingLoss> losses;         ///< in the order of the file
   BuildingTotals totals;
 };

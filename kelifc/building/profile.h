@@ -14,41 +14,39 @@
 
 namespace KelIFC {
 
-/// The sizes of a profile, in metres (angles: radians). Which of them a shape has:
-///
-/// | shape | parameters |
-/// |---|---|
-/// | kRectangle | h (along z), b (along y) |
-/// | kRoundedRectangle | h, b, r (radius of the corners) |
-/// | kHollowRectangle | h, b, t, r (outside), r1 (inside) |
-/// | kCircle | d |
-/// | kHollowCircle | d, t |
-/// | kEllipse | h, b |
-/// | kTrapezium | h, b (bottom), b1 (top), offset (of the start of the top from that of the bottom)
-/// | | kI | h, b, tw (web), tf (flange), r (fillet) | | kAsymmetricI | h, b (bottom flange), tw,
-/// tf, r, b1, tf1, r1 (top flange) | | kU | h, b, tw, tf, r (fillet), r1 (edge), slope | | kL | h,
-/// b, t, r (fillet), r1 (edge), slope | | kT | h, b, tw, tf, r (fillet), r1 (edge of the flange),
-/// slope | | kZ | h, b, tw, tf, r, r1 | | kC | h, b, t, c (girth), r (inside) |
+/// A size of a profile, in metres; kSlope in radians. ParametersOf lists those of each shape. h is
+/// along z and b along y.
 enum class ProfileParameter : std::uint8_t {
   kH,
-  kB,
-  kB1,
-  kD,
-  kT,
-  kTw,
-  kTf,
-  kTf1,
-  kC,
-  kR,
-  kR1,
-  kSlope,
-  kOffset
+  kB,      ///< of kTrapezium: of the bottom; of kAsymmetricI: of the bottom flange
+  kB1,     ///< of the top of kTrapezium, of the top flange of kAsymmetricI
+  kD,      ///< the outside diameter
+  kT,      ///< the thickness of the wall
+  kTw,     ///< the thickness of the web
+  kTf,     ///< the thickness of the flange; of kAsymmetricI: of the bottom flange
+  kTf1,    ///< the thickness of the top flange of kAsymmetricI
+  kC,      ///< the girth of kC
+  kR,      ///< the radius of a fillet; of a hollow or rounded rectangle: outside; of kC: inside
+  kR1,     ///< the radius of an edge; of kHollowRectangle: inside; of kAsymmetricI: the top fillet
+  kSlope,  ///< of the flanges or legs
+  kOffset  ///< of the start of the top of kTrapezium from the start of the bottom, along y
 };
 
 constexpr std::size_t kProfileParameterCount = 13;
 
 /// The name of a parameter, as the command prints it: "h", "tw".
 KELIFC_API std::string_view TextOf(ProfileParameter parameter);
+
+/// The parameters that a shape has, in the order in which they are printed. The list ends at
+/// `count`.
+struct ProfileParameterList {
+  std::array<ProfileParameter, kProfileParameterCount> parameters = {};
+  std::size_t count = 0;
+
+  const ProfileParameter* begin() const { return parameters.data(); }
+  const ProfileParameter* end() const { return parameters.data() + count; }
+};
+KELIFC_API ProfileParameterList ParametersOf(ProfileShape shape);
 
 /// A closed line of the plane. The first point is not repeated.
 using Outline = std::vector<Point2>;

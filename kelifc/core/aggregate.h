@@ -60,9 +60,13 @@ class Aggregate {
   /// Allocates memory for `count` elements in all.
   void Reserve(std::size_t count) { items.Reserve(count); }
 
+  /// Returns the number of elements.
   std::size_t GetSize() const { return items.GetSize(); }
+  /// Returns true if there are no elements; the aggregate can be set all the same.
   bool GetEmpty() const { return items.GetSize() == 0; }
+  /// Returns false if the aggregate is unset.
   bool GetExists() const { return items.GetMark(); }
+  /// Marks the aggregate as set or unset. Its elements do not change.
   void SetExists(bool value) { items.SetMark(value); }
 
   /// Returns the element at a position. A position out of range returns an unset element that all
@@ -71,7 +75,9 @@ class Aggregate {
     if (auto* header = items.GetHeader()) header->Drop();
     return IsIn(position) ? items[position - 1] : Spare();
   }
+  /// Does what GetItem does.
   const T& operator[](std::size_t position) const { return GetItem(position); }
+  /// Returns the element at a position. A position out of range returns the shared unset element.
   const T& GetItem(std::size_t position) const {
     return IsIn(position) ? items[position - 1] : Spare();
   }

@@ -54,6 +54,7 @@ class BINARY {
     return out;
   }
 
+  /// Returns false if the value is unset.
   bool GetExists() const { return exists; }
 
  protected:

@@ -11,11 +11,13 @@ namespace KelIFC {
 class KELIFC_API BOOLEAN {
  public:
   BOOLEAN() = default;
+  /// A value that is set.
   BOOLEAN(bool truth) : value(truth), exists(true) {}
   BOOLEAN(const BOOLEAN&) = default;
   BOOLEAN& operator=(const BOOLEAN&) = default;
   virtual ~BOOLEAN() = default;
 
+  /// Returns the value; false if it is unset.
   operator bool() const { return value; }
 
   /// Parses `.T.` as true and every other text as false. The value exists in both cases. Text that
@@ -24,6 +26,7 @@ class KELIFC_API BOOLEAN {
   /// Writes `.T.` or `.F.`, or `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const;
 
+  /// Returns false if the value is unset.
   bool GetExists() const { return exists; }
 
  protected:

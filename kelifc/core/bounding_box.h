@@ -27,18 +27,24 @@ class KELIFC_API IfcBoundingBox : public IfcGeometricRepresentationItem {
   /// Returns the corner, which belongs to the model. Throws IfcException with
   /// CAUSE_MISSING_REFERENCE if the reference does not resolve to a point.
   virtual const IfcCartesianPoint* GetCorner() const;
+  /// @{
+  /// Returns the extent along an axis, which is unset if the file has none.
   virtual IfcLengthMeasure GetXDim() const;
   virtual IfcLengthMeasure GetYDim() const;
   virtual IfcLengthMeasure GetZDim() const;
+  /// @}
   /// Returns the dimension of the corner. Throws as GetCorner does.
   virtual INTEGER GetDim() const;
 
   /// Sets the reference to a point of the model. A point that the model does not hold changes
   /// nothing.
   virtual void SetCorner(IfcCartesianPoint* point);
+  /// @{
+  /// Sets the extent along an axis. A negative extent is kept as it is.
   virtual void SetXDim(IfcLengthMeasure measure);
   virtual void SetYDim(IfcLengthMeasure measure);
   virtual void SetZDim(IfcLengthMeasure measure);
+  /// @}
 
  protected:
   MEMBER corner{this};

@@ -17,7 +17,9 @@ class KELIFC_API IfcCartesianPoint : public IfcPoint, public IfcTrimmingSelect {
   IfcCartesianPoint() = default;
   /// A point of that dimension with unset coordinates. A negative dimension counts as 0.
   explicit IfcCartesianPoint(INTEGER dimension);
+  /// A point in the plane.
   IfcCartesianPoint(REAL x, REAL y);
+  /// A point in space.
   IfcCartesianPoint(REAL x, REAL y, REAL z);
   IfcCartesianPoint(const IfcCartesianPoint&) = default;
   IfcCartesianPoint& operator=(const IfcCartesianPoint&) = default;
@@ -28,6 +30,7 @@ class KELIFC_API IfcCartesianPoint : public IfcPoint, public IfcTrimmingSelect {
   const char* Parse(const char* text) override;
   std::ostream& Write(std::ostream& out) const override;
 
+  /// Returns a copy of the coordinates in their order.
   virtual LIST<IfcLengthMeasure> GetCoordinates() const;
 
  protected:

@@ -31,9 +31,11 @@ class KELIFC_API COORDINATES {
   std::size_t Add(REAL number);
   /// Returns the number at a position, or an unset number for a position out of range.
   REAL operator[](std::size_t position) const { return GetItem(position); }
+  /// Does what `operator[]` does.
   REAL GetItem(std::size_t position) const;
   /// Replaces a number. A position out of range changes nothing.
   void SetItem(std::size_t position, REAL number);
+  /// Returns how many numbers there are, including unset ones.
   std::size_t GetSize() const { return size; }
   /// Copies the first `count` numbers to `numbers`. An unset number and one out of range are copied
   /// as 0.

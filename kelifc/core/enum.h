@@ -19,6 +19,7 @@ class KELIFC_API ENUM : public std::string {
   /// dot, or if a dot is missing, the value stays unset and the cursor does not move.
   const char* Parse(const char* text);
 
+  /// Returns false if the value is unset.
   bool GetExists() const { return exists; }
 
  protected:

@@ -12,8 +12,8 @@ namespace KelIFC {
 /// A row of an enumeration's table: the text without its dots, and the value. If a text or a value
 /// occurs twice, the first row counts.
 struct EnumTextRow {
-  const char* Text;
-  std::int32_t Value;
+  const char* Text;    ///< the enumerator without its dots
+  std::int32_t Value;  ///< the number of the enumerator
 };
 
 /// Parses an enumerator and stores its value in `target`. Stores `defaultValue` if the enumerator
@@ -27,7 +27,7 @@ KELIFC_API const char* ParseEnumValue(std::int32_t& target, const char* cursor,
 KELIFC_API std::ostream& WriteEnumValue(std::ostream& out, std::int32_t value,
                                         const EnumTextRow* table, std::size_t rowCount);
 
-/// The same for a variable of an enumeration type and an entire table.
+/// Parses an enumerator into a variable of an enumeration type, by an entire table.
 template <class Enum, std::size_t N>
 const char* ParseEnumValue(Enum& target, const char* cursor, Enum defaultValue,
                            const EnumTextRow (&table)[N]) {
@@ -36,6 +36,8 @@ const char* ParseEnumValue(Enum& target, const char* cursor, Enum defaultValue,
   target = static_cast<Enum>(value);
   return cursor;
 }
+
+/// Writes a value of an enumeration type by an entire table.
 template <class Enum, std::size_t N>
 std::ostream& WriteEnumValue(std::ostream& out, Enum value, const EnumTextRow (&table)[N]) {
   return WriteEnumValue(out, static_cast<std::int32_t>(value), table, N);

@@ -18,11 +18,13 @@ enum ECause : std::int32_t {
 /// throw it.
 class KELIFC_API IfcException : public std::runtime_error {
  public:
+  /// An exception whose message is a text for `reason`.
   explicit IfcException(ECause reason = CAUSE_NONE);
   IfcException(const IfcException&) = default;
   IfcException& operator=(const IfcException&) = default;
   ~IfcException() override;
 
+  /// Returns the reason that the constructor received.
   ECause GetCause() const { return cause; }
 
  private:

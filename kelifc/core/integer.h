@@ -12,11 +12,13 @@ namespace KelIFC {
 class KELIFC_API INTEGER {
  public:
   INTEGER() = default;
+  /// A value that is set.
   INTEGER(int number) : value(number), exists(true) {}
   INTEGER(const INTEGER&) = default;
   INTEGER& operator=(const INTEGER&) = default;
   virtual ~INTEGER() = default;
 
+  /// Returns the value; 0 if it is unset.
   operator int() const { return value; }
 
   /// Parses a decimal number. Non-numeric text reads as 0 and counts as set. A number out of range
@@ -25,6 +27,7 @@ class KELIFC_API INTEGER {
   /// Writes the decimal number, or `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const;
 
+  /// Returns false if the value is unset.
   bool GetExists() const { return exists; }
 
  protected:

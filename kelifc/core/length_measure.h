@@ -14,16 +14,20 @@ namespace KelIFC {
 class KELIFC_API IfcLengthMeasure : public IfcValue, public REAL {
  public:
   IfcLengthMeasure() = default;
+  /// A measure that is set.
   IfcLengthMeasure(double number) : REAL(number) {}
+  /// A measure with the value of a number; it is unset if the number is.
   IfcLengthMeasure(const REAL& number) : REAL(number) {}
   IfcLengthMeasure(const IfcLengthMeasure&) = default;
   IfcLengthMeasure& operator=(const IfcLengthMeasure&) = default;
   ~IfcLengthMeasure() override;
 
+  /// Sets the measure.
   IfcLengthMeasure& operator=(double number) {
     REAL::operator=(number);
     return *this;
   }
+  /// Takes the value of a number; the measure becomes unset if the number is.
   IfcLengthMeasure& operator=(const REAL& number) {
     REAL::operator=(number);
     return *this;

@@ -8,6 +8,7 @@
 
 namespace KelIFC {
 
+/// The three truth values.
 enum LOGICAL_VALUE : std::int32_t {
   LOGICAL_TRUE = -1,
   LOGICAL_FALSE = 0,
@@ -18,11 +19,13 @@ enum LOGICAL_VALUE : std::int32_t {
 class KELIFC_API LOGICAL {
  public:
   LOGICAL() = default;
+  /// A value that is set.
   LOGICAL(LOGICAL_VALUE truth) : value(truth), exists(true) {}
   LOGICAL(const LOGICAL&) = default;
   LOGICAL& operator=(const LOGICAL&) = default;
   virtual ~LOGICAL() = default;
 
+  /// Returns the value; LOGICAL_UNKNOWN if it is unset.
   operator LOGICAL_VALUE() const { return value; }
 
   /// Parses `.T.` and `.F.`, and every other text as unknown. The value exists in all cases. Text
@@ -31,6 +34,7 @@ class KELIFC_API LOGICAL {
   /// Writes `.T.`, `.F.` or, for every other value, `.U.`; writes `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const;
 
+  /// Returns false if the value is unset.
   bool GetExists() const { return exists; }
 
  protected:

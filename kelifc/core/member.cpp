@@ -173,13 +173,13 @@ const char* MEMBER::Parse(const char* text) {
   const char* next = nullptr;
   if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
   const char* first = detail::SkipBlanks(text);
-  if (*first != '#') return ParseInPlace(text, first);
+  if (*first != '#') return ParseInline(text, first);
   const std::int64_t number = ReadInteger(first + 1, &next);
   word = WordOf(static_cast<std::size_t>(number));
   return detail::BehindNextComma(next);
 }
 
-const char* MEMBER::ParseInPlace(const char* text, const char* name) {
+const char* MEMBER::ParseInline(const char* text, const char* name) {
   if (owner == nullptr) return text;
   const char* behindName = nullptr;
   IfcUnknown* value = ParseInstance(owner->GetServer(), name, &behindName);

@@ -77,11 +77,13 @@ class KELIFC_API MEMBER {
   /// Returns the number, 0 if there is none. Two references are equal if their numbers are equal,
   /// so all inline values are equal.
   operator std::size_t() const { return HasHeap() ? GetHeapNumber() : NumberIn(word); }
+  /// Returns false if the attribute is unset. A derived mark exists.
   bool GetExists() const { return HasHeap() ? GetHeapExists() : word != 0; }
 
   /// Returns the inline value, or the instance that the owner's model has under the number, or
-  /// null. The caller does not own it. The const overload returns the same instance.
+  /// null. The caller does not own it.
   IfcUnknown* GetInstance() { return _GetInstance(); }
+  /// Returns the same instance for reading.
   const IfcUnknown* GetInstance() const { return Resolve(); }
 
   /// Returns the inline value that this attribute owns, or null. A borrowed value is not owned. The
@@ -133,7 +135,7 @@ class KELIFC_API MEMBER {
     if (HasHeap()) DestroyHeap();
     word = 0;
   }
-  const char* ParseInPlace(const char* text, const char* name);
+  const char* ParseInline(const char* text, const char* name);
 
   IfcUnknown* owner = nullptr;
   mutable std::uint64_t word = 0;

@@ -25,6 +25,7 @@ class KELIFC_API IfcOther : public IfcUnknown {
 
   /// Returns the entity name as the file has it.
   const std::string& GetStepEntityName() const { return stepEntityName; }
+  /// Sets the entity name. Null sets an empty name.
   void SetStepEntityName(const char* name);
 
   /// The attributes by their positions. Linear in the length of the statement.

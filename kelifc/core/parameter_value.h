@@ -14,6 +14,7 @@ namespace KelIFC {
 class KELIFC_API IfcParameterValue : public REAL, public IfcTrimmingSelect, public IfcUnknown {
  public:
   IfcParameterValue() = default;
+  /// A parameter that is set.
   IfcParameterValue(double number) : REAL(number) {}
   IfcParameterValue(const IfcParameterValue&) = default;
   IfcParameterValue& operator=(const IfcParameterValue&) = default;

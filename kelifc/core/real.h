@@ -11,16 +11,19 @@ namespace KelIFC {
 class KELIFC_API REAL {
  public:
   REAL() = default;
+  /// A value that is set.
   REAL(double number) : value(number), exists(true) {}
   REAL(const REAL&) = default;
   REAL& operator=(const REAL&) = default;
   virtual ~REAL() = default;
 
+  /// Sets the value.
   REAL& operator=(double number) {
     value = number;
     exists = true;
     return *this;
   }
+  /// Returns the value; 0 if it is unset.
   operator double() const { return value; }
 
   /// Parses a number. Non-numeric text reads as 0 and counts as set.
@@ -29,6 +32,7 @@ class KELIFC_API REAL {
   /// tolerance, and `$` if the value is unset.
   std::ostream& Write(std::ostream& out) const;
 
+  /// Returns false if the value is unset.
   bool GetExists() const { return exists; }
 
  protected:

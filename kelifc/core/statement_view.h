@@ -42,7 +42,10 @@ class KELIFC_API StatementView {
   /// in the notation that instances write.
   explicit StatementView(std::string_view attributes);
 
+  /// Returns the number of positions.
   std::size_t GetCount() const { return count; }
+
+  /// Returns what is at a position; ATTRIBUTE_NONE for a position out of range.
   ATTRIBUTE_KIND GetKind(std::size_t position) const;
 
   /// The number of a reference; 0 for any other kind.

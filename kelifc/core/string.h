@@ -28,6 +28,7 @@ class KELIFC_API STRING : public std::string {
   /// Writes the quoted text, or `$` if the attribute is unset.
   virtual std::ostream& Write(std::ostream& out) const;
 
+  /// Returns false if the value is unset.
   bool GetExists() const { return exists; }
 
  protected:

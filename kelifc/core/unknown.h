@@ -42,7 +42,9 @@ class KELIFC_API IfcUnknown {
 
   /// Returns the model of the instance, or null.
   virtual IfcServer* GetServer();
+  /// Returns the model for reading, or null.
   virtual const IfcServer* GetServer() const;
+  /// Sets the pointer to the model and does not register the instance there. Null is allowed.
   virtual void SetServer(IfcServer* model);
 
   /// Allocates the memory of an instance; see detail/block_memory.h.

@@ -61,10 +61,14 @@ class CoGeoObject {
   /// Stores 4 for every element.
   virtual HRESULT get_ObjectCode(LONG* out);
 
-  /// Stores the number of the storey that contains the instance with the identifier of this
-  /// element; kNoStoreyNumber if no storey does. It is computed anew at each call. Returns
-  /// E_POINTER if the model has no such instance, and if there is no server object or it has been
-  /// released.
+  /// Stores the number of the storey that contains this element; kNoStoreyNumber if no storey does.
+  ///
+  /// An element keeps no link to its storey. Each call finds the instance with the identifier of
+  /// this element, and then the storey by the identifiers of the structures that contain the
+  /// instance. So put_GUID changes the result, and the place of the element does not matter. The
+  /// call converts the storeys if no host has asked for them yet. The result is not a failure if
+  /// the element is in no storey. Returns E_POINTER if the model has no such instance, and if there
+  /// is no server object or it has been released.
   virtual HRESULT get_StoreyNumber(SHORT* out);
   virtual HRESULT Reserved23(SHORT);
   virtual HRESULT Reserved24(void*);

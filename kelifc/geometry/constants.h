@@ -8,16 +8,16 @@ namespace KelIFC {
 // Constants of the whole process. They are constant expressions, so they can be used during the
 // initialisation of other objects.
 
-inline constexpr Vector2 Zero2;
-inline constexpr Vector2 AxisX2(1.0, 0.0);
-inline constexpr Vector2 AxisY2(0.0, 1.0);
-inline constexpr Point2 Origin2;
+inline constexpr Vector2 Zero2;             ///< the displacement of length 0 in the plane
+inline constexpr Vector2 AxisX2(1.0, 0.0);  ///< the x axis of the plane, with length 1
+inline constexpr Vector2 AxisY2(0.0, 1.0);  ///< the y axis of the plane, with length 1
+inline constexpr Point2 Origin2;            ///< the origin of the plane
 
-inline constexpr Vector3 Zero3;
-inline constexpr Vector3 AxisX(1.0, 0.0, 0.0);
-inline constexpr Vector3 AxisY(0.0, 1.0, 0.0);
-inline constexpr Vector3 AxisZ(0.0, 0.0, 1.0);
-inline constexpr Point3 Origin3;
+inline constexpr Vector3 Zero3;                 ///< the displacement of length 0 in space
+inline constexpr Vector3 AxisX(1.0, 0.0, 0.0);  ///< the x axis of space, with length 1
+inline constexpr Vector3 AxisY(0.0, 1.0, 0.0);  ///< the y axis of space, with length 1
+inline constexpr Vector3 AxisZ(0.0, 0.0, 1.0);  ///< the z axis of space, with length 1
+inline constexpr Point3 Origin3;                ///< the origin of space
 
 /// The origin of the plane in which a profile is drawn.
 inline constexpr Point2 ProfileOrigin;

@@ -13,10 +13,10 @@ namespace KelIFC {
 /// A rigid transform: a rotation, given by the three axes of a frame, and a translation. A new one
 /// is the identity.
 struct KELIFC_API Isometry3 {
-  Vector3 xAxis = AxisX;
-  Vector3 yAxis = AxisY;
-  Vector3 zAxis = AxisZ;
-  Point3 translation;
+  Vector3 xAxis = AxisX;  ///< the direction to which AxisX is rotated, with length 1
+  Vector3 yAxis = AxisY;  ///< the direction to which AxisY is rotated, with length 1
+  Vector3 zAxis = AxisZ;  ///< the direction to which AxisZ is rotated, with length 1
+  Point3 translation;     ///< the point to which the origin moves
 
   /// 1 if the axes form a frame. 0 if only the translation is valid; the axes are then those of the
   /// identity.

@@ -14,13 +14,13 @@ struct Plane3;
 /// An infinite line. The first test of its validity is cached in `state`, so the direction and the
 /// tolerance must not change after it. A copy has the cached result, too.
 struct KELIFC_API Line3 {
-  Vector3 direction;
-  Point3 origin;
+  Vector3 direction;           ///< of any length
+  Point3 origin;               ///< any point of the line
   double squaredLength = 0.0;  ///< square of the length of `direction`; set by the test
-  double unused = 0.0;
-  std::int8_t state = 0;  ///< 0 not yet tested, 1 valid, -1 degenerate
-  std::int8_t unusedFlag = 0;
-  double tolerance;  ///< least length of a valid direction; a negative value means 1e-10
+  double unused = 0.0;         ///< keeps the size of the structure
+  std::int8_t state = 0;       ///< 0 not yet tested, 1 valid, -1 degenerate
+  std::int8_t unusedFlag = 0;  ///< keeps the size of the structure
+  double tolerance;            ///< least length of a valid direction; a negative value means 1e-10
 
   /// The line through a point along a direction of any length. `shortest` becomes the tolerance.
   Line3(const Point3& through, const Vector3& along, double shortest)

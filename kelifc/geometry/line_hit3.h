@@ -7,8 +7,8 @@ namespace KelIFC {
 
 /// The result of an intersection or a projection. `point` is meaningful only if `found` is true.
 struct LineHit3 {
-  Point3 point;
-  bool found = false;
+  Point3 point;        ///< the common point, or the foot of the perpendicular
+  bool found = false;  ///< false if there is no such point
 };
 
 }  // namespace KelIFC

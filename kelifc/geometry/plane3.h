@@ -12,13 +12,14 @@ namespace KelIFC {
 /// A plane: all points X with normal * X + offset = 0. The first test of its validity is cached in
 /// `state`, so the normal must not change after it. A copy has the cached result, too.
 struct KELIFC_API Plane3 {
-  Vector3 normal;  ///< of any length
-  double offset = 0.0;
+  Vector3 normal;            ///< of any length
+  double offset = 0.0;       ///< the constant of the equation
   double squaredNorm = 0.0;  ///< square of the length of `normal`; set by the test
-  double unused = 0.0;
-  std::int8_t state = 0;  ///< 0 not yet tested, 1 valid, -1 degenerate
+  double unused = 0.0;       ///< keeps the size of the structure
+  std::int8_t state = 0;     ///< 0 not yet tested, 1 valid, -1 degenerate
 
   Plane3() = default;
+  /// The plane with the normal `across` and the offset `constant`.
   Plane3(const Vector3& across, double constant) : normal(across), offset(constant) {}
 
   /// Returns false if the normal is shorter than 1e-10.

@@ -13,6 +13,8 @@ struct ITypeInfo;
 struct DISPPARAMS;
 struct EXCEPINFO;
 struct VARIANT;
+/// A text with its length. SysAllocString allocates it and SysFreeString frees it. Null counts as
+/// the empty text.
 using BSTR = OLECHAR*;
 
 // Interfaces of the system, with their operations in the fixed order. A caller never deletes an
@@ -39,20 +41,31 @@ struct KELIFC_API IUnknown {
 };
 
 // Flags of IDispatch::Invoke: how the caller uses the operation.
-inline constexpr WORD DISPATCH_METHOD = 1;
-inline constexpr WORD DISPATCH_PROPERTYGET = 2;
-inline constexpr WORD DISPATCH_PROPERTYPUT = 4;
-inline constexpr WORD DISPATCH_PROPERTYPUTREF = 8;
+inline constexpr WORD DISPATCH_METHOD = 1;          ///< calls a method
+inline constexpr WORD DISPATCH_PROPERTYGET = 2;     ///< reads a property
+inline constexpr WORD DISPATCH_PROPERTYPUT = 4;     ///< sets a property to a value
+inline constexpr WORD DISPATCH_PROPERTYPUTREF = 8;  ///< sets a property to an object
 
 /// The base of all interfaces that scripts can use: finds operations by name and calls them.
 struct KELIFC_API IDispatch : IUnknown {
   static constexpr IID kIid = {
       0x00020400, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 
+  /// Stores 1 if the type library describes the interface, otherwise 0. Off Windows there is no
+  /// type library, and objects of the library return TYPE_E_LIBNOTREGISTERED from all four
+  /// operations.
   virtual HRESULT GetTypeInfoCount(UINT* count) = 0;
+
+  /// Stores a counted pointer to the type information of the interface. `index` is 0.
   virtual HRESULT GetTypeInfo(UINT index, LCID locale, ITypeInfo** info) = 0;
+
+  /// Stores the identifiers of `count` names: of an operation, then of its arguments. `iid` is
+  /// reserved.
   virtual HRESULT GetIDsOfNames(const IID& iid, OLECHAR** names, UINT count, LCID locale,
                                 DISPID* ids) = 0;
+
+  /// Calls an operation by its identifier. `flags` says how it is used. `result`, `exception` and
+  /// `badArgument` can be null.
   virtual HRESULT Invoke(DISPID id, const IID& iid, LCID locale, WORD flags, DISPPARAMS* arguments,
                          VARIANT* result, EXCEPINFO* exception, UINT* badArgument) = 0;
 
@@ -65,6 +78,8 @@ struct KELIFC_API IClassFactory : IUnknown {
   static constexpr IID kIid = {
       0x00000001, 0x0000, 0x0000, {0xC0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}};
 
+  /// Creates an object and stores a counted pointer to its interface `iid`. Returns
+  /// CLASS_E_NOAGGREGATION if `outer` is not null.
   virtual HRESULT CreateInstance(IUnknown* outer, const IID& iid, void** out) = 0;
 
   /// Keeps the library loaded if `lock` is not 0; otherwise removes one such lock.
@@ -86,6 +101,7 @@ struct KELIFC_API IEnumVARIANT : IUnknown {
   /// Skips `count` items. Returns S_FALSE if there were fewer.
   virtual HRESULT Skip(ULONG count) = 0;
 
+  /// Moves back to the first item.
   virtual HRESULT Reset() = 0;
 
   /// Stores a second enumerator at the same position.
@@ -112,25 +128,37 @@ struct KELIFC_API IErrorInfo : IUnknown {
   static constexpr IID kIid = {
       0x1CF2B120, 0x547D, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
 
+  /// Stores the identifier of the interface whose operation failed; the null identifier if it was
+  /// not set.
   virtual HRESULT GetGUID(GUID* guid) = 0;
+  /// Stores the name of the class whose operation failed; null if it was not set.
   virtual HRESULT GetSource(BSTR* source) = 0;
+  /// Stores the message for people; null if it was not set.
   virtual HRESULT GetDescription(BSTR* description) = 0;
+  /// Stores the path of a help file; null if it was not set.
   virtual HRESULT GetHelpFile(BSTR* helpFile) = 0;
+  /// Stores the number of a topic in the help file; 0 if it was not set.
   virtual HRESULT GetHelpContext(DWORD* helpContext) = 0;
 
  protected:
   ~IErrorInfo() = default;
 };
 
-/// Sets the texts that IErrorInfo of the same object returns.
+/// Sets what IErrorInfo of the same object returns. The object copies each text; null means "not
+/// set".
 struct KELIFC_API ICreateErrorInfo : IUnknown {
   static constexpr IID kIid = {
       0x22F03340, 0x547D, 0x101B, {0x8E, 0x65, 0x08, 0x00, 0x2B, 0x2B, 0xD1, 0x19}};
 
+  /// Sets the identifier of the interface whose operation failed.
   virtual HRESULT SetGUID(const GUID& guid) = 0;
+  /// Sets the name of the class whose operation failed.
   virtual HRESULT SetSource(OLECHAR* source) = 0;
+  /// Sets the message for people.
   virtual HRESULT SetDescription(OLECHAR* description) = 0;
+  /// Sets the path of a help file.
   virtual HRESULT SetHelpFile(OLECHAR* helpFile) = 0;
+  /// Sets the number of a topic in the help file.
   virtual HRESULT SetHelpContext(DWORD helpContext) = 0;
 
  protected:

@@ -26,14 +26,20 @@ class ComPtr {
   ComPtr(const ComPtr<Derived>& other)  // NOLINT(google-explicit-constructor)
       : ComPtr(other.Get()) {}
 
+  /// Takes the reference of `other`. Releases the object that the pointer held before.
   ComPtr& operator=(ComPtr other) noexcept {
     std::swap(object, other.object);
     return *this;
   }
 
+  /// Returns the interface without a new reference, or null. It is valid as long as this pointer
+  /// holds the object.
   Interface* Get() const { return object; }
+  /// Calls an operation of the object.
   Interface* operator->() const { return object; }
+  /// Returns the interface without a new reference.
   Interface& operator*() const { return *object; }
+  /// Returns false if the pointer is empty.
   explicit operator bool() const { return object != nullptr; }
 
   /// Releases the object; the pointer is then empty.

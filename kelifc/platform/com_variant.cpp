@@ -2,7 +2,9 @@
 
 #ifndef _WIN32
 
+#include <algorithm>
 #include <charconv>
+#include <iterator>
 #include <limits>
 #include <string_view>
 #include <system_error>
@@ -122,6 +124,12 @@ HRESULT Turn(const VARIANT& source, VARTYPE type, VARIANT* out) {
   }
 }
 
+/// Returns true for the types whose values need neither a copy nor a release.
+bool OwnsNothing(VARTYPE type) {
+  constexpr VARTYPE kTypes[] = {VT_EMPTY, VT_NULL, VT_I2, VT_I4, VT_R8, VT_ERROR, VT_BOOL};
+  return std::find(std::begin(kTypes), std::end(kTypes), type) != std::end(kTypes);
+}
+
 /// Makes a bitwise copy of a variant an owner of its own: copies the string or counts the
 /// reference.
 HRESULT Share(VARIANT* copy) {
@@ -136,16 +144,8 @@ HRESULT Share(VARIANT* copy) {
     case VT_UNKNOWN:
       if (copy->punkVal != nullptr) copy->punkVal->AddRef();
       return S_OK;
-    case VT_EMPTY:
-    case VT_NULL:
-    case VT_I2:
-    case VT_I4:
-    case VT_R8:
-    case VT_ERROR:
-    case VT_BOOL:
-      return S_OK;
     default:
-      return DISP_E_BADVARTYPE;
+      return OwnsNothing(copy->vt) ? S_OK : DISP_E_BADVARTYPE;
   }
 }
 
@@ -178,16 +178,8 @@ HRESULT VariantClear(VARIANT* variant) {
     case VT_UNKNOWN:
       if (old.punkVal != nullptr) old.punkVal->Release();
       break;
-    case VT_EMPTY:
-    case VT_NULL:
-    case VT_I2:
-    case VT_I4:
-    case VT_R8:
-    case VT_ERROR:
-    case VT_BOOL:
-      break;
     default:
-      return DISP_E_BADVARTYPE;
+      if (!OwnsNothing(old.vt)) return DISP_E_BADVARTYPE;
   }
   *variant = {};
   return S_OK;

@@ -7,6 +7,7 @@
 #include <oleauto.h>
 #else
 
+/// A VARENUM in the size that a variant stores.
 using VARTYPE = std::uint16_t;
 
 /// The type of the value in a variant.
@@ -25,10 +26,10 @@ enum VARENUM : VARTYPE {
 
 /// A value with its type. It owns a string and a reference; VariantClear releases them.
 struct VARIANT {
-  VARTYPE vt;
-  WORD wReserved1;
-  WORD wReserved2;
-  WORD wReserved3;
+  VARTYPE vt;       ///< decides which member of the union is valid
+  WORD wReserved1;  ///< not used
+  WORD wReserved2;  ///< not used
+  WORD wReserved3;  ///< not used
   union {
     std::int64_t llVal;  ///< the widest member comes first, so that `= {}` clears all of them
     SHORT iVal;

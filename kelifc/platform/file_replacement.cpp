@@ -53,6 +53,9 @@ std::string Resolve(const std::string& path) {
   return name;
 }
 
+// Here the system itself resolves the links.
+bool LeadsTo(const std::string&, const std::string&) { return true; }
+
 bool IsWritten(const std::string& path) {
   const DWORD attributes = GetFileAttributesA(path.c_str());
   if (attributes == INVALID_FILE_ATTRIBUTES) return true;
@@ -117,6 +120,13 @@ std::string Resolve(const std::string& path) {
   return place.string();
 }
 
+// False if the links of a path lead to another file than the system opens. This is so for the links
+// that name an open file, such as /dev/stdout, if the file is a pipe or has no name.
+bool LeadsTo(const std::string& path, const std::string& resolved) {
+  std::error_code error;
+  return !FileExists(path.c_str()) || fs::equivalent(path, resolved, error);
+}
+
 // A rename needs the right to write to the folder only. A file that is marked as read-only is not
 // replaced, though.
 bool IsWritten(const std::string& path) {
@@ -151,10 +161,10 @@ bool Flush(const char* path, int flags) {
 bool FlushToDisk(const std::string& path) { return Flush(path.c_str(), O_WRONLY); }
 
 bool Rename(const std::string& from, const std::string& to) {
+  const std::string folder = FolderOf(to);  // nothing may be allocated after the rename
   if (rename(from.c_str(), to.c_str()) != 0) return false;
   // The file has been renamed. If the folder cannot be flushed, only the time at which that reaches
   // the disk is uncertain.
-  const std::string folder = FolderOf(to);
   Flush(folder.empty() ? "." : folder.c_str(), O_RDONLY | O_DIRECTORY);
   return true;
 }
@@ -189,11 +199,10 @@ bool FileReplacement::Commit() {
 bool FileReplacement::Prepare() {
   errno = ENOENT;
   if (target.empty()) return false;
+  written = target;
+  if (FileExists(target.c_str()) && !IsRegularFile(target.c_str())) return true;
   target = Resolve(target);
-  if (FileExists(target.c_str()) && !IsRegularFile(target.c_str())) {
-    written = target;
-    return true;
-  }
+  if (!LeadsTo(written, target)) return true;
   if (!IsWritten(target)) return false;
   for (int i = 0; i < kMostTries && !isTemporary; ++i) {
     written = FolderOf(target) + MakeName();

@@ -11,7 +11,7 @@ namespace KelIFC {
 ///  - If the target is a symbolic link, the file that it leads to is replaced.
 ///  - The new file has the permissions of the old one, and its owner where the system allows that.
 ///  - A target that exists and is not a regular file, such as a pipe or a device, is written
-///    directly.
+///    directly. So is an open file without a name that a link such as /dev/stdout leads to.
 class FileReplacement {
  public:
   /// Creates the temporary file. It is a failure if the path is null or empty, the target may not

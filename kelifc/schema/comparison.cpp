@@ -3,23 +3,32 @@
 #include <typeinfo>
 
 #include "kelifc/core/other.h"
+#include "kelifc/core/step_file_schema.h"
 #include "kelifc/server/text_stream.h"
 
 namespace KelIFC {
 namespace {
 
-// An instance of raw text writes all that it keeps.
+// An instance of raw text writes all that it keeps. If it cannot be written, for lack of memory,
+// the two count as different.
 bool CompareRaw(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison& /*same*/) {
   TextStream first;
   TextStream second;
   a.Write(first);
   b.Write(second);
-  return first.GetText() == second.GetText();
+  return first && second && first.GetText() == second.GetText();
+}
+
+// A statement of a model can have the name of this class, too.
+bool CompareSchemas(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison& same) {
+  return same(static_cast<const StepFileSchema&>(a).GetProtocol(),
+              static_cast<const StepFileSchema&>(b).GetProtocol());
 }
 
 const ComparisonTable& GetCoreComparisons() {
   static const ComparisonTable table = {
       {typeid(IfcOther), CompareRaw},
+      {typeid(StepFileSchema), CompareSchemas},
       {typeid(IfcCartesianPoint), CompareAs<IfcCartesianPoint>},
       {typeid(IfcBoundingBox), CompareAs<IfcBoundingBox>},
       {typeid(IfcUnitAssignment), CompareAs<IfcUnitAssignment>},

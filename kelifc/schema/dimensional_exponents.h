@@ -7,15 +7,15 @@
 
 namespace KelIFC {
 
-/// The exponents of the seven base units in a unit; all 0 for a plain number.
+/// The exponents of the seven SI base units in a unit; all 0 for a plain number.
 struct IfcDimensionalExponents {
-  std::int32_t LengthExponent = 0;
-  std::int32_t MassExponent = 0;
-  std::int32_t TimeExponent = 0;
-  std::int32_t ElectricCurrentExponent = 0;
-  std::int32_t ThermodynamicTemperatureExponent = 0;
-  std::int32_t AmountOfSubstanceExponent = 0;
-  std::int32_t LuminousIntensityExponent = 0;
+  std::int32_t LengthExponent = 0;                    ///< of the metre
+  std::int32_t MassExponent = 0;                      ///< of the kilogram
+  std::int32_t TimeExponent = 0;                      ///< of the second
+  std::int32_t ElectricCurrentExponent = 0;           ///< of the ampere
+  std::int32_t ThermodynamicTemperatureExponent = 0;  ///< of the kelvin
+  std::int32_t AmountOfSubstanceExponent = 0;         ///< of the mole
+  std::int32_t LuminousIntensityExponent = 0;         ///< of the candela
 };
 
 /// The exponents that the name of an SI unit stands for; all 0 for a number that is no

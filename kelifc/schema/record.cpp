@@ -4,13 +4,14 @@
 
 #include "kelifc/core/global_id.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/replaced_ids.h"
 
 namespace KelIFC {
 
 const char* GlobalId64Reader::Parse(const char* cursor) const {
   cursor = text.Parse(cursor);
   _GUID guid = {};
-  if (!DecodeGlobalId64(text.c_str(), guid)) text = STRING(IfcServer::CreateGlobalId2x());
+  if (!DecodeGlobalId64(text.c_str(), guid)) text = STRING(IdReplacement::Make());
   return cursor;
 }
 

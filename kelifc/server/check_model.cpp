@@ -1,17 +1,18 @@
+#include <cstdint>
 #include <istream>
 #include <memory>
+#include <optional>
 #include <utility>
 
-#include "kelifc/server/detail/number_index.h"
+#include "kelifc/server/content_hash.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/model_source.h"
-#include "kelifc/server/reference_walk.h"
-#include "kelifc/server/report_collector.h"
 #include "kelifc/server/scanner.h"
+#include "kelifc/server/statement_check.h"
 #include "kelifc/server/statements.h"
 
-// The part of a load report that a load does not collect, because it would take too long. It reads
-// the source again, and nothing of the model, which the host may have changed.
+// The part of a load report that a load does not collect, because that would take too long. It
+// comes from the source alone, because the host may have changed the model.
 
 namespace KelIFC {
 namespace {
@@ -25,41 +26,42 @@ void VisitStatements(std::istream& in, Visit visit) {
   }
 }
 
-// Calls `visit` with the scanner and the assignment of each numbered statement. Returns false if
-// the source cannot be read.
+// Calls `visit` with the scanner and the assignment of each numbered statement. Returns the hash of
+// the source, or nothing if the source cannot be read.
 template <class Visit>
-bool VisitSource(const ModelSource& source, STEP_DIALECT dialect, Visit visit) {
+std::optional<std::uint64_t> VisitSource(const ModelSource& source, STEP_DIALECT dialect,
+                                         Visit visit) {
   const std::unique_ptr<std::istream> in = source.Open();
-  if (!in) return false;
+  if (!in) return std::nullopt;
+  HashedInput hashed(*in);
   if (dialect == STEP_DIALECT_ISO) {
-    VisitStatements<IsoScanner>(*in, visit);
+    VisitStatements<IsoScanner>(hashed, visit);
   } else {
-    VisitStatements<Scanner>(*in, visit);
+    VisitStatements<Scanner>(hashed, visit);
   }
-  return !in->bad();
+  if (hashed.bad()) return std::nullopt;
+  return hashed.GetHash().GetValue();
 }
 
 }  // namespace
 
 bool IfcServer::CheckModel() {
   if (source == nullptr || report.isChecked) return source != nullptr;
-  detail::NumberIndex stated;
   LoadReport checked = report;
+  StatementCheck check(release, dialect, checked);
   const auto note = [&](const ScanBuffer&, const Assignment& statement) {
-    stated.Set(statement.number, 0);
+    check.NoteStatement(statement);
   };
-  const auto check = [&](const ScanBuffer& scanner, const Assignment& statement) {
-    ReferenceWalk walk(statement.text, scanner.GetTextEnd(), dialect);
-    for (FoundReference found; walk.Next(found);) {
-      if (stated.Find(found.number) != detail::NumberIndex::kNone) continue;
-      const std::string entity = EntityNameAt(statement.text);
-      const auto offset = static_cast<std::size_t>(found.at - scanner.GetText());
-      checked.findings.Note(LoadFinding::kDanglingReference, scanner.GetPlace(offset),
-                            {statement.number, entity, found.attribute});
-      ++checked.danglingByAttribute[{entity, found.attribute}];
-    }
+  const auto examine = [&](const ScanBuffer& scanner, const Assignment& statement) {
+    check.CheckStatement(scanner, statement);
   };
-  if (!VisitSource(*source, dialect, note) || !VisitSource(*source, dialect, check)) return false;
+  report.hasSourceChanged = false;
+  const auto first = VisitSource(*source, dialect, note);
+  const auto second = first ? VisitSource(*source, dialect, examine) : std::nullopt;
+  if (!second) return false;
+  report.hasSourceChanged = first != sourceHash || second != sourceHash;
+  if (report.hasSourceChanged) return false;
+  checked.hasSourceChanged = false;
   checked.isChecked = true;
   report = std::move(checked);
   return true;

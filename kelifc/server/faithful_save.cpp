@@ -2,9 +2,11 @@
 
 #include <algorithm>
 #include <istream>
+#include <new>
 #include <utility>
 #include <vector>
 
+#include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/text/iso_text.h"
 #include "kelifc/core/unknown.h"
@@ -34,6 +36,19 @@ bool BeginsWith(std::string_view statement, std::string_view word) {
   return isSame && (statement.size() == word.size() || !IsLetterOrDigit(statement[word.size()]));
 }
 
+// True for the statement that ends the header for a load: FILE_SCHEMA with its attributes.
+bool IsSchema(const char* statement) {
+  constexpr std::string_view kName = "FILE_SCHEMA";
+  return BeginsWith(statement, kName) && *detail::SkipBlanks(statement + kName.size()) == '(';
+}
+
+// True if a statement has an attribute that is set. An instance that a class adds during a load has
+// none, so one with a value was changed later.
+bool HasValue(std::string_view statement) {
+  const std::size_t begin = statement.find('(');
+  return statement.find_first_not_of("(),$*;\n", begin) != std::string_view::npos;
+}
+
 // The number of characters before the first token: blanks and comments.
 std::size_t CountGap(std::string_view text) {
   std::size_t at = 0;
@@ -58,7 +73,7 @@ class FaithfulSave::Reader {
  public:
   Reader(std::istream& statements, std::istream& bytes) : input(statements), source(bytes) {}
 
-  // The next statement, or null at the end. Its bytes are appended to those that wait.
+  // Returns the next statement, or null at the end. Appends its bytes to `gap` and `raw`.
   char* Next() {
     char* const text = scanner.Next();
     if (text == nullptr) return nullptr;
@@ -120,10 +135,12 @@ int FaithfulSave::Prepare(std::string& reason) {
   if (!in) return SAVE_RESULT_NO_SOURCE;
   HashedInput hashed(*in);
   IsoScanner scanner(hashed);
+  bool isAfterSchema = false;
   bool isInData = false;
   for (std::size_t ordinal = 1; const char* text = scanner.Next(); ++ordinal) {
     const std::string_view found(text, scanner.GetLength());
-    if (BeginsWith(found, "DATA")) isInData = true;
+    isAfterSchema = isAfterSchema || IsSchema(text);
+    if (BeginsWith(found, "DATA")) isInData = isAfterSchema;
     if (!isInData || !BeginsWith(found, "ENDSEC")) continue;
     lastDataEnd = ordinal;
     isInData = false;
@@ -133,7 +150,7 @@ int FaithfulSave::Prepare(std::string& reason) {
 }
 
 bool FaithfulSave::IsSame(const ContentHash& hash, std::string& reason) const {
-  if (hash.GetValue() == origin->hash) return true;
+  if (hash.GetValue() == server.sourceHash) return true;
   reason = "the source of the model has changed since it was loaded";
   return false;
 }
@@ -148,6 +165,7 @@ int FaithfulSave::Write(std::ostream& out, std::string_view fileName, std::strin
   apart.load.reader = &values;
   apart.load.keepsUnknown = origin->keepsUnknown;
   repeats = origin->repeats;
+  if (server.GetRelease() == IFC_RELEASE_151) registered.Collect(server);
   Reader reader(*statements, *bytes);
   WriteStatements(reader, out);
   if (!IsSame(reader.GetHash(), reason)) return SAVE_RESULT_SOURCE_CHANGED;
@@ -157,14 +175,11 @@ int FaithfulSave::Write(std::ostream& out, std::string_view fileName, std::strin
 void FaithfulSave::WriteStatements(Reader& reader, std::ostream& out) {
   while (char* const text = reader.Next()) {
     detail::PutText(out, reader.gap);
-    if (reader.ordinal == lastDataEnd) WriteAdditions(out);
+    if (reader.ordinal == lastDataEnd) WriteAdditions("", out);
     WriteStatement(reader, text, out);
     reader.Forget();
   }
-  if (lastDataEnd == 0) {
-    detail::PutChar(out, '\n');
-    WriteAdditions(out);
-  }
+  if (lastDataEnd == 0) WriteAdditions("\n", out);
   reader.CopyRest(out);
 }
 
@@ -174,7 +189,7 @@ void FaithfulSave::WriteStatement(Reader& reader, char* text, std::ostream& out)
     return;
   }
   const Assignment assignment = isSchemaSeen ? CutAssignment(text) : Assignment();
-  if (BeginsWith(text, "FILE_SCHEMA")) isSchemaSeen = true;
+  if (IsSchema(text)) isSchemaSeen = true;
   switch (Decide(reader, assignment.number, assignment.text)) {
     case Action::kCopy:
       return detail::PutText(out, reader.raw);
@@ -182,27 +197,43 @@ void FaithfulSave::WriteStatement(Reader& reader, char* text, std::ostream& out)
       return;
     case Action::kReplace:
       WriteInstance(out, assignment.number);
-      // A statement without an end has no `;` but a line end.
+      // A statement without `;` ends with its line.
       if (reader.raw.empty() || reader.raw.back() != ';') detail::PutChar(out, '\n');
   }
 }
 
 FaithfulSave::Action FaithfulSave::Decide(const Reader& reader, std::size_t number,
                                           const char* text) {
-  if (number == 0 || TakeRepeat(number)) return Action::kCopy;
-  const std::unique_ptr<IfcUnknown> stated = ParseApart(reader, text);
-  if (stated == nullptr) return Action::kCopy;  // the load did not keep it either
+  if (number == 0) return Action::kCopy;
+  const std::unique_ptr<IfcUnknown> stated = ParseApart(reader, number, text);
+  // The load did not keep it, or it kept a later statement with the same number.
+  if (stated == nullptr || TakeRepeat(number)) return Action::kCopy;
   const IfcUnknown* const kept = server.IfcServer::GetItem(number);
   if (kept == nullptr) return Action::kRemove;
   if (PositionOf(number) >= origin->addedEnd) placed.insert(number);
-  return HaveSameValues(*stated, *kept) ? Action::kCopy : Action::kReplace;
+  if (IsUnchanged(number, *stated, *kept)) return Action::kCopy;
+  // A parse that runs out of memory leaves values out, so a difference is checked a second time.
+  const std::unique_ptr<IfcUnknown> again = ParseApart(reader, number, text);
+  return again != nullptr && IsUnchanged(number, *again, *kept) ? Action::kCopy : Action::kReplace;
 }
 
-std::unique_ptr<IfcUnknown> FaithfulSave::ParseApart(const Reader& reader, const char* text) {
+bool FaithfulSave::IsUnchanged(std::size_t number, IfcUnknown& stated,
+                               const IfcUnknown& kept) const {
+  return HaveSameValues(stated, kept) ||
+         (registered.Complete(number, stated) && HaveSameValues(stated, kept));
+}
+
+std::unique_ptr<IfcUnknown> FaithfulSave::ParseApart(const Reader& reader, std::size_t number,
+                                                     const char* text) {
   if (apart.items.size() != 0) apart.Reset();
   std::unique_ptr<IfcUnknown> instance(apart.MakeStated(text));
+  if (instance == nullptr && origin->keepsUnknown) throw std::bad_alloc();
   if (instance == nullptr) return nullptr;
   instance->SetServer(&apart);
+  // A class can ask for the number of its instance. What it adds must not take that number.
+  apart.load.parsed = instance.get();
+  apart.load.parsedNumber = apart.load.highestNumber = number;
+  const IdReplay ids(origin->replacedIds, number);
   instance->Parse(values.Read(text, reader.GetTextEnd()));
   return instance;
 }
@@ -218,7 +249,7 @@ std::uint32_t FaithfulSave::PositionOf(std::uint64_t number) const {
   return server.idToIndex.Find(number);
 }
 
-// Without the line end, which is the source's.
+// Writes no line end, because the one of the source is copied.
 void FaithfulSave::WriteInstance(std::ostream& out, std::uint64_t number) {
   std::string_view text = TextOf(number, out);
   NoteReferences(text);
@@ -236,8 +267,8 @@ std::string_view FaithfulSave::TextOf(std::uint64_t number, std::ostream& out) {
   return statement.GetText();
 }
 
-// Instances that a class added during the load are written if one that is written refers to them.
-// Returns the numbers of those that no text before referred to.
+// Adds the instances to write to which a statement refers, and that a class added during the load.
+// Returns the numbers of those that are new in `additions`.
 std::vector<std::uint64_t> FaithfulSave::NoteReferences(std::string_view text) {
   std::vector<std::uint64_t> noted;
   bool isInString = false;
@@ -257,10 +288,12 @@ std::vector<std::uint64_t> FaithfulSave::NoteReferences(std::string_view text) {
 
 void FaithfulSave::CollectAdditions(std::ostream& out) {
   for (std::uint64_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) {
-    const bool isNew = PositionOf(n) >= origin->addedEnd && placed.count(n) == 0;
-    if (isNew && server.IfcServer::GetItem(n) != nullptr) additions.insert(n);
+    const std::uint32_t position = PositionOf(n);
+    if (position < origin->statedEnd || server.IfcServer::GetItem(n) == nullptr) continue;
+    const bool isNew = position >= origin->addedEnd;
+    if (isNew ? placed.count(n) == 0 : HasValue(TextOf(n, out))) additions.insert(n);
   }
-  // What is added here may itself refer to others.
+  // An instance that is added here can refer to others.
   std::vector<std::uint64_t> open(additions.begin(), additions.end());
   while (!open.empty()) {
     const std::uint64_t number = open.back();
@@ -269,8 +302,10 @@ void FaithfulSave::CollectAdditions(std::ostream& out) {
   }
 }
 
-void FaithfulSave::WriteAdditions(std::ostream& out) {
+// Writes `separator` only if there are additions.
+void FaithfulSave::WriteAdditions(std::string_view separator, std::ostream& out) {
   CollectAdditions(out);
+  if (!additions.empty()) detail::PutText(out, separator);
   for (const std::uint64_t number : additions) detail::PutText(out, TextOf(number, out));
 }
 

@@ -13,6 +13,7 @@
 
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
+#include "kelifc/server/registered_materials.h"
 #include "kelifc/server/text_stream.h"
 
 namespace KelIFC {
@@ -23,8 +24,8 @@ class ModelOrigin;
 /// Writes a model as a copy of its source, in which the statements of changed instances are
 /// replaced. SaveOptions::faithful defines what is copied.
 ///
-/// An instance is changed if its statement, parsed once more into an instance apart from the model,
-/// has other values. The source is streamed twice; memory is bounded by the longest statement.
+/// To find the changed instances, each statement is parsed again into an instance outside the
+/// model, and the values of both are compared. The memory depends on the longest statement only.
 class FaithfulSave {
  public:
   explicit FaithfulSave(IfcServer& model) : server(model) {}
@@ -45,14 +46,16 @@ class FaithfulSave {
   void WriteStatements(Reader& reader, std::ostream& out);
   void WriteStatement(Reader& reader, char* text, std::ostream& out);
   Action Decide(const Reader& reader, std::size_t number, const char* text);
-  std::unique_ptr<IfcUnknown> ParseApart(const Reader& reader, const char* text);
+  bool IsUnchanged(std::size_t number, IfcUnknown& stated, const IfcUnknown& kept) const;
+  std::unique_ptr<IfcUnknown> ParseApart(const Reader& reader, std::size_t number,
+                                         const char* text);
   bool TakeRepeat(std::size_t number);
   std::uint32_t PositionOf(std::uint64_t number) const;
   void WriteInstance(std::ostream& out, std::uint64_t number);
   std::string_view TextOf(std::uint64_t number, std::ostream& out);
   std::vector<std::uint64_t> NoteReferences(std::string_view text);
   void CollectAdditions(std::ostream& out);
-  void WriteAdditions(std::ostream& out);
+  void WriteAdditions(std::string_view separator, std::ostream& out);
 
   IfcServer& server;
   std::shared_ptr<const ModelOrigin> origin;
@@ -60,8 +63,9 @@ class FaithfulSave {
   std::size_t lastDataEnd = 0;  // which statement ends the last data section; 0 if none does
 
   // While the file is written:
-  IfcServer apart;  // holds nothing; statements are parsed with it
+  IfcServer apart;  // the model of the instances that are parsed for the comparison; else empty
   IsoStatementReader values;
+  RegisteredMaterials registered;
   bool isSchemaSeen = false;
   std::unordered_map<std::size_t, std::size_t> repeats;
   std::set<std::uint64_t> placed;     // numbers of later instances that took a statement's place

@@ -39,6 +39,7 @@ class StepFileSchema;
 
 /// The order of global identifiers: by the three numbers, then byte by byte.
 struct KELIFC_API GuidLess {
+  /// Returns true if `a` comes before `b`.
   bool operator()(const _GUID& a, const _GUID& b) const;
 };
 
@@ -71,7 +72,10 @@ class KELIFC_API IfcServer {
   /// Destroys the instances, in reverse order of registration.
   virtual ~IfcServer();
 
+  /// Returns the release of the model, IFC_RELEASE_NONE in a new server. A load sets it.
   virtual IFC_RELEASE GetRelease();
+  /// Sets the release of a model that is built in memory. The instances do not change. While a
+  /// release is set, LoadIfcFile returns 0 and an empty model for a file with an unknown schema.
   virtual void SetRelease(IFC_RELEASE release);
 
   /// Destroys all instances, in reverse order of registration, and removes all numbers and
@@ -119,6 +123,7 @@ class KELIFC_API IfcServer {
   /// that the release does not know.
   virtual IfcUnknown* ParseClass(const char* text, const char** end);
 
+  /// @{
   /// Makes an unregistered instance by name, ignoring the case of letters; the caller owns it.
   /// InstantiateClass knows the names that all releases share; each of the others calls it first
   /// and then searches its own names. For an unknown name it returns null, and an IfcOther in 2x2
@@ -129,6 +134,7 @@ class KELIFC_API IfcServer {
   virtual IfcUnknown* InstantiateClass2x(const char* name);
   virtual IfcUnknown* InstantiateClass2x2(const char* name);
   virtual IfcUnknown* InstantiateClass2x3(const char* name);
+  /// @}
 
   /// Returns the tolerance of the model, 0.001 in a new server.
   virtual double GetEps() const;
@@ -152,6 +158,7 @@ class KELIFC_API IfcServer {
   /// Returns all slots in order of registration. The slots of deleted instances are null.
   virtual const Mvector<IfcUnknown*>& GetItems() const;
 
+  /// @{
   /// Returns the first project of a release, or null. The project belongs to the server.
   virtual const KelIFC151::IfcProject* GetProject151() const;
   virtual const KelIFC20::IfcProject* GetProject20() const;
@@ -160,6 +167,7 @@ class KELIFC_API IfcServer {
   virtual const KelIFC2x2::IfcProject* GetProject2x2() const;
   virtual KelIFC2x3::IfcProject* GetProject2x3();
   virtual const KelIFC2x3::IfcProject* GetProject2x3() const;
+  /// @}
 
   /// Returns a switch that the host can set, false in a new server. A load sets it to true if the
   /// file has an IfcRelFillsElement with a building element. The server does not use it.
@@ -169,6 +177,7 @@ class KELIFC_API IfcServer {
   /// process writes real numbers. Returns the old tolerance of this model.
   virtual double SetEps(double eps);
 
+  /// Sets the switch that GetSupportsFillings returns.
   virtual void SetSupportsFillings(bool supportsFillings);
 
   // Global identifiers as text.
@@ -215,37 +224,40 @@ class KELIFC_API IfcServer {
   /// CheckModel keeps them until then.
   int LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options);
 
-  /// Writes all numbered instances to a STEP file, as SaveIfcFile does it, and returns a
-  /// SAVE_RESULT. What differs:
+  /// Writes all numbered instances to a STEP file, as SaveIfcFile does, and returns a SAVE_RESULT.
+  /// There are these differences:
   ///  - The file is written beside `path` and replaces it at the end, as FileReplacement defines. A
   ///    failure at any time leaves the old file as it was.
   ///  - Every failure has a result other than 0. The error handler receives one message.
   ///  - A faithful save copies from the source of the model what the host did not change.
   int SaveIfc(const char* path, const SaveOptions& options);
 
-  /// The dialect that the model was loaded in, and in which it is saved. STEP_DIALECT_CLASSIC after
-  /// Reset and after a load that failed. In the dialect of ISO 10303-21 the texts of attributes are
-  /// UTF-8.
+  /// Returns the dialect in which the model was loaded, and in which it is saved. Returns
+  /// STEP_DIALECT_CLASSIC after Reset and after a load that failed. In the dialect of ISO 10303-21
+  /// the texts of attributes are UTF-8.
   STEP_DIALECT GetDialect() const { return dialect; }
 
-  /// What LoadIfc, LoadIfcStream or LoadIfcMemory found wrong in the file that was loaded last.
-  /// LoadIfcFile leaves it empty.
+  /// Returns what the last LoadIfc, LoadIfcStream or LoadIfcMemory found wrong in its file. It is
+  /// empty after LoadIfcFile.
   const LoadFindings& GetLoadFindings() const { return report.findings; }
 
-  /// What LoadIfc, LoadIfcStream or LoadIfcMemory met in the file that was loaded last. LoadIfcFile
-  /// leaves it empty. Of a load that failed it has what was counted up to the failure.
+  /// Returns the report of the last LoadIfc, LoadIfcStream or LoadIfcMemory. It is empty after
+  /// LoadIfcFile. After a load that failed it has the counts up to the failure.
   const LoadReport& GetLoadReport() const { return report; }
 
-  /// Adds to the report what a load does not look for: references to numbers that no statement has.
-  /// It reads the source twice, in linear time, and takes 4 bytes of memory for each number.
-  /// Returns false, and leaves the report as it was, if no model was loaded with options or if the
-  /// source cannot be read. The second call for a model has nothing to do. Throws std::bad_alloc
-  /// where memory is lacking; the report is then what it was.
+  /// Adds to the report what a load does not look for: references to numbers that no statement has,
+  /// and attributes whose values are not what the schema says. Reads the source twice, in linear
+  /// time, and allocates 4 bytes of memory for each number.
+  /// Returns true if the report is complete; a second call for the same model does nothing.
+  ///
+  /// Returns false if no model was loaded with options, if the source cannot be read, or if it is
+  /// not the source that was loaded. In the last case LoadReport::hasSourceChanged is true. The
+  /// rest of the report does not change. The same holds if it throws std::bad_alloc.
   bool CheckModel();
 
-  /// Where the source has the statement of an instance: all 0 for a number that no statement has,
-  /// and for models that LoadIfcFile loaded. Of statements with the same number the last one
-  /// counts. Constant time.
+  /// Returns the place of the statement of an instance in the source. All its members are 0 for a
+  /// number that no statement has, and for a model that LoadIfcFile loaded. Of statements with the
+  /// same number the last one counts. Takes constant time.
   StatementPlace GetStatementPlace(std::size_t number) const;
 
   /// The line of that place, from 1; 0 for none.
@@ -292,12 +304,14 @@ class KELIFC_API IfcServer {
     LoadFindings* findings = nullptr;      // null if nothing is noted
     ReportCollector* collector = nullptr;  // null if nothing is counted
     ModelOrigin* origin = nullptr;         // receives what a faithful save needs; null for none
+    std::uint64_t* hash = nullptr;         // receives the hash of the source; null for none
     bool keepsUnknown = false;             // as IfcOther, where the release has no class
 
     bool isRunning = false;
     bool isStopped = false;                // by the progress handler
     bool isBeyondLimit = false;            // one of the limits was reached
     bool isLaterSchema = false;            // the schema belongs to a later release
+    bool hasUnread = false;                // a numbered statement has no instance
     const ScanBuffer* scanner = nullptr;   // of the pass that runs
     IsoStatementReader* reader = nullptr;  // null in the classic dialect
     const LoadArena* memory = nullptr;     // of the model; null if it has no arena
@@ -326,7 +340,7 @@ class KELIFC_API IfcServer {
 
   int LoadWithOptions(std::shared_ptr<const ModelSource> model, const LoadOptions& options);
   void KeepSource(std::shared_ptr<const ModelSource> kept);
-  void ScanOrigin(std::istream& in, ModelOrigin& target);
+  void ScanSource(std::istream& in);
   int LoadFrom(const ModelSource& model, const LoadState& initial);
   int LoadPasses(const ModelSource& model);
   void ForgetLoad();
@@ -344,6 +358,7 @@ class KELIFC_API IfcServer {
   void NoteRepeat(std::size_t id);
   void NotePlace(std::size_t id);
   void NoteStatement(std::size_t id, const IfcUnknown* made, const char* text);
+  bool IsStatementOf(std::size_t id);
   bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
   void NoteOrder(std::size_t id);
@@ -378,6 +393,7 @@ class KELIFC_API IfcServer {
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
   LoadReport report;
   std::shared_ptr<const ModelSource> source;  // of the last LoadIfc; null if there is none
+  std::uint64_t sourceHash = 0;               // of the bytes of the source
   std::vector<StatementPlace> places;         // by position in `items`; shorter than that
   std::shared_ptr<const ModelOrigin> origin;  // null if the model cannot be saved faithfully
   LoadState load;

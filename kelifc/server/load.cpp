@@ -99,6 +99,7 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
   std::shared_ptr<ModelOrigin> made;
   if (options.dialect == STEP_DIALECT_ISO) made = std::make_shared<ModelOrigin>();
   initial.origin = made.get();
+  initial.hash = &sourceHash;
   const int result = LoadFrom(*model, initial);
   if (result != LOAD_RESULT_LOADED) return result;
   try {
@@ -117,7 +118,7 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
 }
 
 int IfcServer::LoadFrom(const ModelSource& model, const LoadState& initial) {
-  struct LoadEnd {  // also where memory runs out in the middle
+  struct LoadEnd {  // runs also if an allocation fails
     LoadState& load;
     ~LoadEnd() { load = LoadState(); }
   } const end{load};
@@ -136,7 +137,8 @@ int IfcServer::LoadFrom(const ModelSource& model, const LoadState& initial) {
 
 int IfcServer::LoadPasses(const ModelSource& model) {
   MakeRoom(model.GetSize());
-  // Where memory is watched each block stands alone, so that none can be touched unseen.
+  // A build that watches memory allocates each instance on its own, so that it finds each access
+  // outside an instance.
   std::optional<LoadArena> memory;
   if (!kIsMemoryWatched) load.memory = &memory.emplace();
   std::unique_ptr<std::istream> in = model.Open();
@@ -156,22 +158,28 @@ int IfcServer::LoadPasses(const ModelSource& model) {
   load.statementBytes = 0;
   in = model.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
-  if (load.origin == nullptr) {
+  if (load.hash == nullptr) {
     ScanFile(*in, this, false);
   } else {
-    ScanOrigin(*in, *load.origin);
+    ScanSource(*in);
   }
   return LOAD_RESULT_LOADED;
 }
 
-// The second pass, which also notes what a faithful save needs.
-void IfcServer::ScanOrigin(std::istream& in, ModelOrigin& target) {
-  target.statedEnd = items.size();
-  target.repeats = load.repeats;
+// The second pass of a load with options. It also notes what the server needs to read the source
+// again.
+void IfcServer::ScanSource(std::istream& in) {
+  ModelOrigin* const target = load.origin;
+  std::optional<IdRecorder> recorder;
+  if (target != nullptr) {
+    target->statedEnd = items.size();
+    target->repeats = load.repeats;
+    recorder.emplace(target->replacedIds, load.statementNumber);
+  }
   HashedInput hashed(in);
   ScanFile(hashed, this, false);
-  target.addedEnd = items.size();
-  target.hash = hashed.GetHash().GetValue();
+  *load.hash = hashed.GetHash().GetValue();
+  if (target != nullptr) target->addedEnd = items.size();
 }
 
 void IfcServer::MakeRoom(std::uint64_t fileSize) {
@@ -179,10 +187,11 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   const auto expected =
       static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
   items.reserve(expected);
+  if (load.findings != nullptr) places.reserve(expected);
   idToIndex.Reserve(expected);
 }
 
-// Called once for each block that was read, looks at what changes slowly.
+// Called once for each block of the file. Checks the memory and reports the progress.
 bool IfcServer::GoesOn() {
   if (!load.isRunning) return true;
   load.bytesReported = load.scanner->GetBytesRead();
@@ -197,8 +206,8 @@ bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
   return !load.isStopped;
 }
 
-// Texts stand outside the blocks of instances; the statements that they were read from are longer.
-// The statements of the first pass do not count.
+// The texts of instances are outside the blocks. They are shorter than the statements from which
+// they were read, so the length of the statements is counted for them, in the second pass only.
 bool IfcServer::IsWithinMemory() const {
   const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
   const std::uint64_t texts = load.bytesBefore == 0 ? 0 : load.statementBytes;

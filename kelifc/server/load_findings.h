@@ -12,9 +12,10 @@ namespace KelIFC {
 
 /// A position in a file. Lines and columns count from 1, and columns count bytes.
 struct SourcePlace {
-  std::uint64_t line = 1;
-  std::uint64_t column = 1;
+  std::uint64_t line = 1;    ///< of the file
+  std::uint64_t column = 1;  ///< of the line
 
+  /// Returns true if both are the same line and column.
   friend bool operator==(const SourcePlace& a, const SourcePlace& b) {
     return a.line == b.line && a.column == b.column;
   }
@@ -26,17 +27,18 @@ enum class LoadFinding {
   kStatementWithoutEnd,  ///< a statement, string or comment that does not end; where it begins
   kRepeatedNumber,       ///< a statement whose number an earlier one has; where it begins
   kDanglingReference,  ///< a reference to a number that no statement has; only CheckModel notes it
+  kUnreadAttribute,    ///< a value that is not what the schema says; only CheckModel notes it
 };
 
 /// How many kinds of findings there are. Their values are the numbers from 0 on.
 constexpr std::size_t kLoadFindingKinds =
-    static_cast<std::size_t>(LoadFinding::kDanglingReference) + 1;
+    static_cast<std::size_t>(LoadFinding::kUnreadAttribute) + 1;
 
 /// What a finding of a kind is, for people.
 constexpr const char* GetFindingText(LoadFinding kind) {
   constexpr std::array<const char*, kLoadFindingKinds> kTexts = {
       "bad escape in a string", "statement without an end", "number used twice",
-      "reference to a number that no statement has"};
+      "reference to a number that no statement has", "attribute that cannot be read"};
   return kTexts.at(static_cast<std::size_t>(kind));
 }
 
@@ -45,7 +47,9 @@ struct FindingSubject {
   std::size_t number = 0;     ///< of the instance; 0 if it is not known
   std::string entity;         ///< in upper case; empty if it is not known
   std::size_t attribute = 0;  ///< the position in the statement, from 1; 0 if it is not known
+  std::string name = {};      ///< of the attribute in the schema; empty if it is not known
 
+  /// Returns true if both have the same number, entity and attribute. The name follows from these.
   friend bool operator==(const FindingSubject& a, const FindingSubject& b) {
     return a.number == b.number && a.entity == b.entity && a.attribute == b.attribute;
   }
@@ -57,6 +61,8 @@ class LoadFindings {
   /// So many places are kept of each kind.
   static constexpr std::size_t kMostPlaces = 100;
 
+  /// Counts a finding, and keeps its place and subject if fewer than kMostPlaces of its kind are
+  /// kept.
   void Note(LoadFinding kind, const SourcePlace& place, FindingSubject subject = {}) {
     Row& row = rows[static_cast<std::size_t>(kind)];
     ++row.count;
@@ -65,6 +71,7 @@ class LoadFindings {
     row.places.push_back(place);
   }
 
+  /// Returns how often a kind was noted, including the findings whose places are not kept.
   std::uint64_t GetCount(LoadFinding kind) const { return RowOf(kind).count; }
 
   /// The first places, in the order in which they were noted.

@@ -37,8 +37,10 @@ struct LoadLimits {
 
 /// How IfcServer::LoadIfc, LoadIfcStream and LoadIfcMemory read a model.
 struct LoadOptions {
+  /// The rules by which the file is read.
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;
 
+  /// The sizes at which the load stops.
   LoadLimits limits;
 
   /// The number of threads that the load can use; 0 means one for each processor. It does not

@@ -15,7 +15,9 @@ namespace KelIFC {
 struct EntityAttribute {
   std::string entity;         ///< in upper case; empty for an instance of several types
   std::size_t attribute = 0;  ///< the position in the statement, from 1; 0 for such an instance
+  std::string name;           ///< of the attribute in the schema; empty if it is not known
 
+  /// The order by entity, then by attribute.
   friend bool operator<(const EntityAttribute& a, const EntityAttribute& b) {
     return std::tie(a.entity, a.attribute) < std::tie(b.entity, b.attribute);
   }
@@ -38,11 +40,18 @@ struct LoadReport {
   EntityCounts rawByEntity;      ///< the counts add up to `raw`
   EntityCounts droppedByEntity;  ///< the counts add up to `dropped`
 
+  /// What is wrong in the file, with the first places of each kind.
   LoadFindings findings;
+
+  /// True if the last call of CheckModel found that the source has changed since the load.
+  bool hasSourceChanged = false;
 
   /// True after a call of CheckModel that returned true. What follows is only known then.
   bool isChecked = false;
-  std::map<EntityAttribute, std::uint64_t> danglingByAttribute;  ///< dangling references
+  /// Counts by the entity and the position of the attribute.
+  using AttributeCounts = std::map<EntityAttribute, std::uint64_t>;
+  AttributeCounts danglingByAttribute;  ///< references to numbers that no statement has
+  AttributeCounts unreadByAttribute;    ///< attributes that cannot be read
 };
 
 }  // namespace KelIFC

@@ -7,6 +7,7 @@
 #include <unordered_map>
 
 #include "kelifc/server/model_source.h"
+#include "kelifc/server/replaced_ids.h"
 
 namespace KelIFC {
 
@@ -14,7 +15,6 @@ namespace KelIFC {
 class ModelOrigin {
  public:
   std::shared_ptr<const ModelSource> source;
-  std::uint64_t hash = 0;  // of the bytes of the source
 
   // Positions in the registry: statements made the instances below the first one, and classes
   // added the instances from there to the second one.
@@ -23,6 +23,7 @@ class ModelOrigin {
 
   // By number, how many statements follow that have the same one.
   std::unordered_map<std::size_t, std::size_t> repeats;
+  ReplacedIds replacedIds;
   bool keepsUnknown = true;  // statements without a class, as IfcOther
 };
 

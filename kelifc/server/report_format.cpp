@@ -15,6 +15,7 @@ struct KindName {
 constexpr std::array<KindName, kLoadFindingKinds> kKinds = {{
     {LoadFinding::kRepeatedNumber, "repeatedNumbers"},
     {LoadFinding::kDanglingReference, "danglingReferences"},
+    {LoadFinding::kUnreadAttribute, "unreadAttributes"},
     {LoadFinding::kBadEscape, "badEscapes"},
     {LoadFinding::kStatementWithoutEnd, "statementsWithoutEnd"},
 }};
@@ -88,14 +89,16 @@ std::string PlaceAsJson(const SourcePlace& place, const FindingSubject& subject)
   if (subject.number != 0) object.Add("number", std::uint64_t{subject.number});
   if (!subject.entity.empty()) object.Add("entity", Quoted(subject.entity));
   if (subject.attribute != 0) object.Add("attribute", std::uint64_t{subject.attribute});
+  if (!subject.name.empty()) object.Add("name", Quoted(subject.name));
   return object.Object();
 }
 
-std::string DanglingAsJson(const LoadReport& report) {
+std::string AttributesAsJson(const LoadReport::AttributeCounts& counts) {
   JsonBuilder list;
-  for (const auto& [at, count] : report.danglingByAttribute) {
+  for (const auto& [at, count] : counts) {
     JsonBuilder object;
     object.Add("entity", Quoted(at.entity)).Add("attribute", std::uint64_t{at.attribute});
+    if (!at.name.empty()) object.Add("name", Quoted(at.name));
     list.AddItem(object.Add("count", count).Object());
   }
   return list.List();
@@ -108,7 +111,12 @@ std::string FindingsAsJson(const LoadReport& report, LoadFinding kind) {
   for (std::size_t i = 0; i < places.size(); ++i) list.AddItem(PlaceAsJson(places[i], subjects[i]));
   JsonBuilder object;
   object.Add("count", report.findings.GetCount(kind)).Add("places", list.List());
-  if (kind == LoadFinding::kDanglingReference) object.Add("attributes", DanglingAsJson(report));
+  if (kind == LoadFinding::kDanglingReference) {
+    object.Add("attributes", AttributesAsJson(report.danglingByAttribute));
+  }
+  if (kind == LoadFinding::kUnreadAttribute) {
+    object.Add("attributes", AttributesAsJson(report.unreadByAttribute));
+  }
   return object.Object();
 }
 
@@ -118,6 +126,7 @@ std::string PlaceText(const SourcePlace& place, const FindingSubject& subject) {
   text += " (#" + std::to_string(subject.number);
   if (!subject.entity.empty()) text += "=" + Shown(subject.entity);
   if (subject.attribute != 0) text += ", attribute " + std::to_string(subject.attribute);
+  if (!subject.name.empty()) text += " " + subject.name;
   return text + ")";
 }
 

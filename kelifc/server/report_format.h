@@ -12,7 +12,7 @@
 namespace KelIFC {
 
 /// Returns a report for people, in ASCII: the counts, and the first places of each kind of finding.
-/// A byte of a name outside ASCII is shown as \xNN.
+/// A byte of a name outside ASCII is shown as `\xNN`.
 KELIFC_API std::string FormatReport(const LoadReport& report);
 
 /// Returns a report as a JSON object, in ASCII. Its members are the counts, "droppedEntities", and

@@ -22,8 +22,8 @@ constexpr std::string_view kHead = "ISO-10303-21";
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
-// Reads the left side of nearly every statement: `#`, up to nine digits and the `=`, with nothing
-// between. Any other form leaves the result at 0, whatever it means.
+// Reads the left side of a statement in its usual form: `#`, up to nine digits and the `=`, with
+// nothing between them. Returns the number 0 for any other form.
 Assignment ReadPlainAssignment(char* statement) {
   constexpr std::ptrdiff_t kMostDigits = 9;
   if (*statement != '#') return {};
@@ -69,8 +69,9 @@ std::int16_t IfcServer::ReadHeaderStatement(char* statement) {
   std::unique_ptr<IfcUnknown> instance(ParseClass(statement, nullptr));
   auto* record = dynamic_cast<StepFileSchema*>(instance.get());
   if (record == nullptr) {
-    // An instance ahead of the schema is lost, yet the second pass will come across its number.
+    // An instance before the schema is lost, but the second pass meets its number.
     const Assignment assignment = CutAssignment(statement);
+    load.hasUnread = load.hasUnread || assignment.number != 0;
     NoteNumber(assignment.number);
     NoteStatement(assignment.number, nullptr, assignment.text);
     return 0;
@@ -90,6 +91,7 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
   NoteOrder(assignment.number);
   std::unique_ptr<IfcUnknown> made(MakeStated(assignment.text));
   const bool isNoted = load.findings != nullptr && made != nullptr;
+  load.hasUnread = load.hasUnread || made == nullptr;
   if (isNoted) NoteRepeat(assignment.number);
   NoteStatement(assignment.number, made.get(), assignment.text);
   InsertItem(assignment.number, made.release());
@@ -98,23 +100,22 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
 }
 
 void IfcServer::NotePlace(std::size_t id) {
-  constexpr std::uint64_t kMost = UINT32_MAX;
   const std::uint32_t position = idToIndex.Find(id);
   if (position == detail::NumberIndex::kNone) return;
   if (places.size() < position) places.resize(position);
-  if (places.size() == position) places.emplace_back();
-  const ScanBuffer& scanner = *load.scanner;
-  const std::uint64_t begin = scanner.GetBeginOffset();
-  places[position] = {begin, static_cast<std::uint32_t>(std::min(scanner.GetPlace().line, kMost)),
-                      static_cast<std::uint32_t>(std::min(scanner.GetEndOffset() - begin, kMost))};
+  if (places.size() == position) {
+    places.push_back(load.scanner->GetStatementPlace());
+  } else {
+    places[position] = load.scanner->GetStatementPlace();
+  }
 }
 
 void IfcServer::NoteStatement(std::size_t id, const IfcUnknown* made, const char* text) {
   if (load.collector != nullptr && id != 0) load.collector->NoteStatement(id, made, text);
 }
 
-// Makes the instance of a statement. An instance of several types has no name in the dialect of
-// ISO 10303-21.
+// Makes the instance of a statement. In the dialect of ISO 10303-21, an instance of several types
+// has an empty name.
 IfcUnknown* IfcServer::MakeStated(const char* text) {
   const bool isComplex = IsIso() && *detail::SkipBlanks(text) == '(';
   IfcUnknown* const made = isComplex ? MakeByRelease("") : ParseClass(text, nullptr);
@@ -127,8 +128,17 @@ void IfcServer::NoteRepeat(std::size_t id) {
   if (IsIso()) ++load.repeats[id];
 }
 
-// Returns true if a later statement has the same number. In the dialect of ISO 10303-21, the
-// instance is that of the last such statement and reads only that one.
+// Returns true if the instance with a number reads the current statement. In the dialect of
+// ISO 10303-21 it reads only the one that it was made from, the last one with its number. In the
+// classic dialect it reads all statements with its number.
+bool IfcServer::IsStatementOf(std::size_t id) {
+  if (IsIso() && load.hasUnread) {
+    return GetStatementPlace(id).offset == load.scanner->GetBeginOffset();
+  }
+  return !IsRepeated(id);
+}
+
+// Returns true if a later statement has the same number.
 bool IfcServer::IsRepeated(std::size_t id) {
   if (load.repeats.empty()) return false;
   const auto found = load.repeats.find(id);
@@ -144,7 +154,8 @@ void IfcServer::NoteNumber(std::size_t id) {
   }
 }
 
-// If the numbers are not in order, each look-up waits for memory, which its statement can prefetch.
+// If the numbers are not in order, each look-up waits for memory. ScanStatements then prefetches
+// the memory for the next number.
 void IfcServer::NoteOrder(std::size_t id) {
   constexpr std::size_t kNear = 256;
   load.isUnordered = id - load.lastNumber > kNear;
@@ -156,7 +167,7 @@ std::int16_t ParseStatement(IfcServer* server, char* statement) {
   if (assignment.number == 0) return 0;
   server->NoteOrder(assignment.number);
   IfcUnknown* const instance = server->GetItem(assignment.number);
-  if (instance == nullptr || server->IsRepeated(assignment.number)) return 0;
+  if (instance == nullptr || !server->IsStatementOf(assignment.number)) return 0;
   const char* text = assignment.text;
   IfcServer::LoadState& load = server->load;
   load.statementNumber = assignment.number;

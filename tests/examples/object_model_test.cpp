@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,8 +17,11 @@ namespace {
 
 using KelIFC::ComPtr;
 using KelIFC::Get;
+using KelIFC::GetElements;
+using KelIFC::GetOpenings;
 using KelIFC::ItemAt;
 using KelIFC::Items;
+using KelIFC::NamedElement;
 using KelIFC::OpenedModel;
 using KelIFC::OpenModel;
 using KelIFC::Query;
@@ -195,6 +199,51 @@ TEST(Items, KeepsTheCollectionAlive) {
 
 TEST(Items, ThrowsForAnEmptyPointer) {
   EXPECT_EQ(StatusOf([] { Items(ComPtr<IGeoColumns>()); }), E_POINTER);
+}
+
+std::vector<std::string> KindsAndNames(const std::vector<NamedElement>& elements) {
+  std::vector<std::string> texts;
+  texts.reserve(elements.size());
+  for (const auto& [kind, object] : elements) {
+    texts.push_back(std::string(kind) + " " + Get(object, &IGeoObject::get_Name));
+  }
+  return texts;
+}
+
+TEST(GetElements, ReturnsAllElementsByKind) {
+  const OpenedModel model = OpenModel(Shipped("house.ifc"));
+  std::vector<std::string> expected;
+  const auto add = [&](const std::string& kind, auto getter) {
+    for (const auto& element : Items(model.structure, getter)) {
+      expected.push_back(kind + " " + Get(Query<IGeoObject>(element), &IGeoObject::get_Name));
+    }
+  };
+  add("Column", &IGeoStructure::get_Columns);
+  add("Beam", &IGeoStructure::get_Beams);
+  add("Wall", &IGeoStructure::get_Walls);
+  add("Plate", &IGeoStructure::get_Plates);
+  add("Foot", &IGeoStructure::get_Foots);
+  EXPECT_GT(expected.size(), 10U);
+  EXPECT_EQ(KindsAndNames(GetElements(model.structure)), expected);
+}
+
+TEST(GetElements, ThrowsForAnEmptyPointer) {
+  EXPECT_EQ(StatusOf([] { GetElements(ComPtr<IGeoStructure>()); }), E_POINTER);
+}
+
+TEST(GetOpenings, ReturnsTheOpeningsOfWallsAndPlates) {
+  const OpenedModel model = OpenModel(Shipped("house.ifc"));
+  std::set<std::string> kinds;
+  for (const auto& element : GetElements(model.structure)) {
+    for (const auto& opening : GetOpenings(element.object)) {
+      kinds.insert(std::string(element.kind) + " " + opening.kind);
+    }
+  }
+  EXPECT_THAT(kinds, ElementsAre("Plate Hole", "Wall Door", "Wall Window"));
+}
+
+TEST(GetOpenings, ReturnsNoneForAnEmptyPointer) {
+  EXPECT_TRUE(GetOpenings(ComPtr<IGeoObject>()).empty());
 }
 
 TEST(FindSection, FindsTheFirstSectionOfExactlyThatName) {

@@ -30,7 +30,7 @@ ComPtr<IEnumVARIANT> Enumerate(IGeoStoreys& storeys) {
 SHORT TakeNumber(VARIANT& variant) {
   EXPECT_EQ(variant.vt, VT_DISPATCH);
   const SHORT number =
-      Get(*ComPtr<IDispatch>(variant.pdispVal).As<IGeoStorey>(), &IGeoStorey::get_Number);
+      GetValue(*ComPtr<IDispatch>(variant.pdispVal).As<IGeoStorey>(), &IGeoStorey::get_Number);
   EXPECT_EQ(VariantClear(&variant), S_OK);
   return number;
 }
@@ -51,7 +51,7 @@ TEST_F(CollectionOfStoreys, ReturnsItsItemsInOrder) {
   for (LONG i = 1; i <= 3; ++i) {
     ComPtr<IGeoStorey> storey;
     ASSERT_EQ(storeys->Item(i, storey.Put()), S_OK);
-    EXPECT_EQ(Get(*storey, &IGeoStorey::get_Number), i - 1);
+    EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Number), i - 1);
   }
 }
 
@@ -96,7 +96,7 @@ TEST_F(CollectionOfStoreys, KeepsItemsAliveForAHost) {
   storeys->Item(2, storey.Put());
   storeys.Reset();
   EXPECT_EQ(LiveObjectCount(), 1);
-  EXPECT_EQ(Get(*storey, &IGeoStorey::get_Number), 1);
+  EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Number), 1);
 }
 
 TEST_F(CollectionOfStoreys, ReservesTheOtherOperations) {

@@ -105,7 +105,7 @@ TEST_F(EnsureSection, SetsTheKindOfEachSection) {
   Thick(0.2);
   std::vector<LONG> kinds;
   for (LONG i = 1; i <= 5; ++i) {
-    kinds.push_back(Get(*At<IGeoSection>(i), &IGeoSection::get_Kind));
+    kinds.push_back(GetValue(*At<IGeoSection>(i), &IGeoSection::get_Kind));
   }
   EXPECT_EQ(kinds, (std::vector<LONG>{1, 2, 3, 8, 9}));
 }
@@ -115,14 +115,14 @@ TEST_F(EnsureSection, SetsTheSizesOfEachSection) {
   Circle(0.1);
   T(0.25, 0.6, 1.2, 0.15);
   Thick(0.2);
-  EXPECT_EQ(Get(*At<IGeoSectionR>(1), &IGeoSectionR::get_Width), 0.3);
-  EXPECT_EQ(Get(*At<IGeoSectionR>(1), &IGeoSectionR::get_Height), 0.5);
-  EXPECT_EQ(Get(*At<IGeoSectionC>(2), &IGeoSectionC::get_Diameter), 0.1);
-  EXPECT_EQ(Get(*At<IGeoSectionT>(3), &IGeoSectionT::get_WebWidth), 0.25);
-  EXPECT_EQ(Get(*At<IGeoSectionT>(3), &IGeoSectionT::get_Height), 0.6);
-  EXPECT_EQ(Get(*At<IGeoSectionT>(3), &IGeoSectionT::get_FlangeWidth), 1.2);
-  EXPECT_EQ(Get(*At<IGeoSectionT>(3), &IGeoSectionT::get_FlangeThickness), 0.15);
-  EXPECT_EQ(Get(*At<IGeoSectionThick>(4), &IGeoSectionThick::get_Thickness), 0.2);
+  EXPECT_EQ(GetValue(*At<IGeoSectionR>(1), &IGeoSectionR::get_Width), 0.3);
+  EXPECT_EQ(GetValue(*At<IGeoSectionR>(1), &IGeoSectionR::get_Height), 0.5);
+  EXPECT_EQ(GetValue(*At<IGeoSectionC>(2), &IGeoSectionC::get_Diameter), 0.1);
+  EXPECT_EQ(GetValue(*At<IGeoSectionT>(3), &IGeoSectionT::get_WebWidth), 0.25);
+  EXPECT_EQ(GetValue(*At<IGeoSectionT>(3), &IGeoSectionT::get_Height), 0.6);
+  EXPECT_EQ(GetValue(*At<IGeoSectionT>(3), &IGeoSectionT::get_FlangeWidth), 1.2);
+  EXPECT_EQ(GetValue(*At<IGeoSectionT>(3), &IGeoSectionT::get_FlangeThickness), 0.15);
+  EXPECT_EQ(GetValue(*At<IGeoSectionThick>(4), &IGeoSectionThick::get_Thickness), 0.2);
 }
 
 TEST_F(EnsureSection, SharesASectionAmongSizesWithinAThousandth) {
@@ -271,7 +271,7 @@ TEST_F(EnsureSection, LeavesSectionsUsableAfterTheEndOfTheStructure) {
   const auto section = At<IGeoSectionC>(1);
   structure.Reset();
   EXPECT_EQ(section->put_Diameter(0.5), S_OK);
-  EXPECT_EQ(Get(*section, &IGeoSectionC::get_Diameter), 0.5);
+  EXPECT_EQ(GetValue(*section, &IGeoSectionC::get_Diameter), 0.5);
 }
 
 }  // namespace

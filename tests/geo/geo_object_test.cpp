@@ -53,7 +53,7 @@ ComPtr<IGeoColumn> CreateColumn(const ComPtr<IIFCServer>& server, const char* id
   return column;
 }
 
-SHORT StoreyOf(IGeoObject& element) { return Get(element, &IGeoObject::get_StoreyNumber); }
+SHORT StoreyOf(IGeoObject& element) { return GetValue(element, &IGeoObject::get_StoreyNumber); }
 
 TEST(GeoObjectOperations, HaveAnOrderOfTheirOwn) {
   using O = CoGeoObject;
@@ -129,7 +129,7 @@ TYPED_TEST(EachElement, RefusesABadIdentifierAndThenHasNone) {
 
 TYPED_TEST(EachElement, HasTheObjectCodeFour) {
   const auto element = CreateOwn<TypeParam>();
-  EXPECT_EQ(Get(*element, &IGeoObject::get_ObjectCode), 4);
+  EXPECT_EQ(GetValue(*element, &IGeoObject::get_ObjectCode), 4);
   EXPECT_EQ(element->get_ObjectCode(nullptr), E_POINTER);
 }
 
@@ -196,7 +196,7 @@ TYPED_TEST(EachElement, ReturnsTheSameByItsBase) {
   EXPECT_EQ(GetText(object, &CoGeoObject::get_Name), L"A");
   EXPECT_EQ(object.put_GUID(Bstr(kBraced).Get()), S_OK);
   EXPECT_EQ(GetText(object, &CoGeoObject::get_GUID), kBraced);
-  EXPECT_EQ(Get(object, &CoGeoObject::get_ObjectCode), 4);
+  EXPECT_EQ(GetValue(object, &CoGeoObject::get_ObjectCode), 4);
 }
 
 class SectionNameOfAnElement : public HostTest {};

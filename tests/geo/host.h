@@ -33,9 +33,10 @@ ComPtr<typename Class::Interfaces::First> CreateOwn() {
   return Create<typename Class::Interfaces::First>(Class::kClsid);
 }
 
-/// Returns the result of an operation, which must succeed: Get(*storey, &IGeoStorey::get_Height).
+/// Returns the result of an operation, which must succeed: GetValue(*storey,
+/// &IGeoStorey::get_Height).
 template <class Interface, class Object, class Value>
-Value Get(Object& object, HRESULT (Interface::*operation)(Value*)) {
+Value GetValue(Object& object, HRESULT (Interface::*operation)(Value*)) {
   Value value = {};
   EXPECT_EQ((object.*operation)(&value), S_OK);
   return value;

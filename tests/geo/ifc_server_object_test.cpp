@@ -80,7 +80,7 @@ TEST_F(ServerObject, SetsTheErrorObjectWithItsNameAndNoHelp) {
   Bstr helpFile;
   EXPECT_EQ(error->GetHelpFile(helpFile.Put()), S_OK);
   EXPECT_EQ(helpFile.Get(), nullptr);
-  EXPECT_EQ(Get(*error, &IErrorInfo::GetHelpContext), 0U);
+  EXPECT_EQ(GetValue(*error, &IErrorInfo::GetHelpContext), 0U);
 }
 
 TEST_F(ServerObject, InsertsTheNameUnchanged) {

@@ -33,9 +33,9 @@ TYPED_TEST(Located, KeepsEachCoordinate) {
   EXPECT_EQ(point->put_X(1), S_OK);
   EXPECT_EQ(point->put_Y(2), S_OK);
   EXPECT_EQ(point->put_Z(3), S_OK);
-  EXPECT_EQ(Get(*point, &IGeoPoint::get_X), 1.0);
-  EXPECT_EQ(Get(*point, &IGeoPoint::get_Y), 2.0);
-  EXPECT_EQ(Get(*point, &IGeoPoint::get_Z), 3.0);
+  EXPECT_EQ(GetValue(*point, &IGeoPoint::get_X), 1.0);
+  EXPECT_EQ(GetValue(*point, &IGeoPoint::get_Y), 2.0);
+  EXPECT_EQ(GetValue(*point, &IGeoPoint::get_Z), 3.0);
 }
 
 TYPED_TEST(Located, SetsAndReturnsAllCoordinates) {
@@ -67,7 +67,7 @@ class Foot : public HostTest {};
 TEST_F(Foot, IsAtItsLocation) {
   const auto foot = CreateOwn<CoGeoFoot>();
   ObjectOf<CoGeoFoot>(foot).location = Point3(1, 2, 3);
-  EXPECT_EQ(Get(*foot.As<IGeoPoint>(), &IGeoPoint::get_Y), 2.0);
+  EXPECT_EQ(GetValue(*foot.As<IGeoPoint>(), &IGeoPoint::get_Y), 2.0);
 }
 
 TEST_F(Foot, HasNoPolyline) { EXPECT_FALSE(CreateOwn<CoGeoFoot>().As<IGeoPolyline>()); }

@@ -43,7 +43,7 @@ TYPED_TEST(EachPolyline, ShowsItsPointsInTheirOrder) {
   this->AddPoints(3);
   ASSERT_EQ(CountOf(*this->Points()), 3);
   for (LONG i = 1; i <= 3; ++i) {
-    EXPECT_EQ(Get(*this->PointAt(i), &IGeoPoint::get_X), static_cast<double>(i));
+    EXPECT_EQ(GetValue(*this->PointAt(i), &IGeoPoint::get_X), static_cast<double>(i));
   }
 }
 
@@ -58,7 +58,7 @@ TYPED_TEST(EachPolyline, CreatesItsPointsOnce) {
 TYPED_TEST(EachPolyline, KeepsChangesOfAHostInACopyOfItsPoints) {
   this->AddPoints(1);
   this->PointAt(1)->put_X(7);
-  EXPECT_EQ(Get(*this->PointAt(1), &IGeoPoint::get_X), 7.0);
+  EXPECT_EQ(GetValue(*this->PointAt(1), &IGeoPoint::get_X), 7.0);
   EXPECT_EQ(ObjectOf<TypeParam>(this->element).points[0].x, 1.0);
 }
 
@@ -106,7 +106,7 @@ TYPED_TEST(EachPolyline, LeavesPointsUsableAfterItsEnd) {
   this->element.Reset();
   EXPECT_EQ(CountOf(*points), 2);
   points.Reset();
-  EXPECT_EQ(Get(*point, &IGeoPoint::get_X), 2.0);
+  EXPECT_EQ(GetValue(*point, &IGeoPoint::get_X), 2.0);
 }
 
 TYPED_TEST(EachPolyline, ReservesTheOtherOperation) {

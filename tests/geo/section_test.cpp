@@ -13,9 +13,9 @@ class Section : public HostTest {};
 template <class Interface>
 void ExpectField(Interface& section, HRESULT (Interface::*get)(double*),
                  HRESULT (Interface::*put)(double), double value) {
-  EXPECT_EQ(Get(section, get), 0.0);
+  EXPECT_EQ(GetValue(section, get), 0.0);
   EXPECT_EQ((section.*put)(value), S_OK);
-  EXPECT_EQ(Get(section, get), value);
+  EXPECT_EQ(GetValue(section, get), value);
   EXPECT_EQ((section.*get)(nullptr), E_POINTER);
 }
 
@@ -73,7 +73,7 @@ TEST_F(Section, HasANameAndAKind) {
                              CLSID_CoGeoSectionProfile, CLSID_CoGeoSectionThick}) {
     const auto section = Create<IGeoSection>(clsid);
     EXPECT_EQ(GetText(*section, &IGeoSection::get_Name), L"");
-    EXPECT_EQ(Get(*section, &IGeoSection::get_Kind), SECTION_NONE);
+    EXPECT_EQ(GetValue(*section, &IGeoSection::get_Kind), SECTION_NONE);
     EXPECT_EQ(section->put_Name(Bstr(L"Stütze").Get()), S_OK);
     EXPECT_EQ(GetText(*section, &IGeoSection::get_Name), L"Stütze");
     EXPECT_EQ(section->put_Name(nullptr), S_OK);

@@ -30,7 +30,7 @@ class ServerOptions : public HostTest {
     return LoadFile(*server, file.Path());
   }
 
-  LONG Result() { return Get(*options, &IIFCServerOptions::get_LoadResult); }
+  LONG Result() { return GetValue(*options, &IIFCServerOptions::get_LoadResult); }
 
   double CountOf(const wchar_t* name) {
     double count = -1;
@@ -47,12 +47,13 @@ class ServerOptions : public HostTest {
 
 TEST_F(ServerOptions, BeginWithTheClassicDialectAndTheDocumentedLimits) {
   const LoadLimits limits;
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_Dialect), STEP_DIALECT_CLASSIC);
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_MaxBytes), double(limits.maxBytes));
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_MaxInstances), double(limits.maxInstances));
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_MaxStatementBytes),
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_Dialect), STEP_DIALECT_CLASSIC);
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_MaxBytes), double(limits.maxBytes));
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_MaxInstances), double(limits.maxInstances));
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_MaxStatementBytes),
             double(limits.maxStatementBytes));
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_MaxMemoryBytes), double(limits.maxMemoryBytes));
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_MaxMemoryBytes),
+            double(limits.maxMemoryBytes));
 }
 
 TEST_F(ServerOptions, KeepWhatAHostSets) {
@@ -61,11 +62,11 @@ TEST_F(ServerOptions, KeepWhatAHostSets) {
   EXPECT_EQ(options->put_MaxInstances(0), S_OK);
   EXPECT_EQ(options->put_MaxStatementBytes(300), S_OK);
   EXPECT_EQ(options->put_MaxMemoryBytes(4000), S_OK);
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_Dialect), STEP_DIALECT_ISO);
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_MaxBytes), 1000);
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_MaxInstances), 0);
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_MaxStatementBytes), 300);
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::get_MaxMemoryBytes), 4000);
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_Dialect), STEP_DIALECT_ISO);
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_MaxBytes), 1000);
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_MaxInstances), 0);
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_MaxStatementBytes), 300);
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::get_MaxMemoryBytes), 4000);
 }
 
 TEST_F(ServerOptions, RefuseValuesThatAreNone) {
@@ -83,7 +84,7 @@ TEST_F(ServerOptions, WithoutAnOptionALoadKeepsNoReport) {
   EXPECT_EQ(Load("IFC2X3", kPoint), S_OK);
   EXPECT_EQ(Result(), LOAD_RESULT_LOADED);
   EXPECT_EQ(CountOf(L"statements"), 0);
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::CheckModel), VARIANT_FALSE);
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::CheckModel), VARIANT_FALSE);
 }
 
 TEST_F(ServerOptions, ALoadReadsByTheDialect) {
@@ -112,7 +113,7 @@ TEST_F(ServerOptions, TellWhatALoadMet) {
   EXPECT_EQ(CountOf(L"statements"), 3);
   EXPECT_EQ(CountOf(L"repeatedNumbers"), 1);
   EXPECT_EQ(CountOf(L"danglingReferences"), 0);
-  EXPECT_EQ(Get(*options, &IIFCServerOptions::CheckModel), VARIANT_TRUE);
+  EXPECT_EQ(GetValue(*options, &IIFCServerOptions::CheckModel), VARIANT_TRUE);
   EXPECT_EQ(CountOf(L"danglingReferences"), 1);
   EXPECT_THAT(GetText(*options, &IIFCServerOptions::get_ReportText), HasSubstr(L"used twice"));
   EXPECT_THAT(GetText(*options, &IIFCServerOptions::get_ReportJson),

@@ -11,9 +11,9 @@ class Storey : public HostTest {};
 
 TEST_F(Storey, IsEmptyAndHasNoNumberIfAHostCreatedIt) {
   const auto storey = Create<IGeoStorey>(CLSID_CoGeoStorey);
-  EXPECT_EQ(Get(*storey, &IGeoStorey::get_Height), 0.0);
-  EXPECT_EQ(Get(*storey, &IGeoStorey::get_Level), 0.0);
-  EXPECT_EQ(Get(*storey, &IGeoStorey::get_Number), 32767);
+  EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Height), 0.0);
+  EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Level), 0.0);
+  EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Number), 32767);
   EXPECT_EQ(GetText(*storey, &IGeoStorey::get_Name), L"");
 }
 
@@ -24,9 +24,9 @@ TEST_F(Storey, ReturnsWhatTheConversionWrote) {
   object.height = 2.5;
   object.number = -1;
   object.name = "Erdgescho\xDF";
-  EXPECT_EQ(Get(*storey, &IGeoStorey::get_Level), 3.0);
-  EXPECT_EQ(Get(*storey, &IGeoStorey::get_Height), 2.5);
-  EXPECT_EQ(Get(*storey, &IGeoStorey::get_Number), -1);
+  EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Level), 3.0);
+  EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Height), 2.5);
+  EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Number), -1);
   EXPECT_EQ(GetText(*storey, &IGeoStorey::get_Name), L"Erdgescho\u00DF");
 }
 
@@ -37,7 +37,7 @@ TEST_F(Storey, CanGetAnotherNameAndHeight) {
   EXPECT_EQ(storey->put_Name(nullptr), S_OK);
   EXPECT_EQ(GetText(*storey, &IGeoStorey::get_Name), L"");
   EXPECT_EQ(storey->put_Height(4.5), S_OK);
-  EXPECT_EQ(Get(*storey, &IGeoStorey::get_Height), 4.5);
+  EXPECT_EQ(GetValue(*storey, &IGeoStorey::get_Height), 4.5);
 }
 
 TEST_F(Storey, RefusesNullOutputs) {

@@ -177,7 +177,7 @@ TEST_F(HostileModel, WithManyStoreysFindsTheStoreyOfEachElement) {
   Convert();
   int number = 0;
   for (const auto& column : GetColumns()) {
-    ASSERT_EQ(Get(*column, &IGeoObject::get_StoreyNumber), number++);
+    ASSERT_EQ(GetValue(*column, &IGeoObject::get_StoreyNumber), number++);
   }
   EXPECT_EQ(number, kMany);
 }

@@ -35,11 +35,12 @@ void ExpectStoreys(IIFCServer& server, const std::filesystem::path& path) {
     ASSERT_EQ(storeys->Item(i, storey.Put()), S_OK);
     EXPECT_FALSE(GetText(*storey, &IGeoStorey::get_Name).empty());
     if (below) {
-      const double level = Get(*storey, &IGeoStorey::get_Level);
-      const double levelBelow = Get(*below, &IGeoStorey::get_Level);
+      const double level = GetValue(*storey, &IGeoStorey::get_Level);
+      const double levelBelow = GetValue(*below, &IGeoStorey::get_Level);
       EXPECT_LE(levelBelow, level);
-      EXPECT_EQ(Get(*below, &IGeoStorey::get_Height), level - levelBelow);
-      EXPECT_EQ(Get(*below, &IGeoStorey::get_Number) + 1, Get(*storey, &IGeoStorey::get_Number));
+      EXPECT_EQ(GetValue(*below, &IGeoStorey::get_Height), level - levelBelow);
+      EXPECT_EQ(GetValue(*below, &IGeoStorey::get_Number) + 1,
+                GetValue(*storey, &IGeoStorey::get_Number));
     }
     below = storey;
   }

@@ -3,9 +3,11 @@
 include("${CMAKE_CURRENT_LIST_DIR}/run.cmake")
 
 # configure(NAME TREE ARGUMENTS...): makes the build folder NAME; one that is there is configured anew.
+# The warnings of CMake go to the variable `warnings`.
 function(configure name tree)
-  run(ignored "${CMAKE_COMMAND}" -S "${tree}" -B "${WORK_DIR}/${name}" -G Ninja
+  run(output "${CMAKE_COMMAND}" -S "${tree}" -B "${WORK_DIR}/${name}" -G Ninja
     "-DCMAKE_CXX_COMPILER=${COMPILER}" "-DCMAKE_CXX_FLAGS=${FLAGS}" ${ARGN})
+  set(warnings "${output_errors}" PARENT_SCOPE)
 endfunction()
 
 # expect_targets(NAME HAS TARGETS...): whether the build folder NAME must have each of the targets.
@@ -27,6 +29,16 @@ function(expect_tests name has)
     message(FATAL_ERROR "${name} has no tests")
   elseif(NOT has AND NOT tests MATCHES "Total Tests: 0")
     message(FATAL_ERROR "${name} has tests:\n${tests}")
+  endif()
+endfunction()
+
+# expect_expansion(NAME HAS): whether the build folder NAME must compile the expansion of packed models.
+function(expect_expansion name has)
+  file(READ "${WORK_DIR}/${name}/build.ninja" rules)
+  if(rules MATCHES "zip_model\\.cpp" AND NOT has)
+    message(FATAL_ERROR "${name} builds the expansion of packed models")
+  elseif(has AND NOT rules MATCHES "zip_model\\.cpp")
+    message(FATAL_ERROR "${name} does not build the expansion of packed models")
   endif()
 endfunction()
 
@@ -67,4 +79,20 @@ expect_targets(part NO kelifc_command core_test)
 run(ignored "${CMAKE_COMMAND}" --install "${WORK_DIR}/part" --prefix "${WORK_DIR}/part-installed")
 if(EXISTS "${WORK_DIR}/part-installed")
   message(FATAL_ERROR "KelIFC installs as a part of another project")
+endif()
+
+# A project that asks for the command and for packed models gets both. Without the command there is
+# nothing that expands packed models, and KelIFC says so.
+file(WRITE "${WORK_DIR}/asking/CMakeLists.txt" "cmake_minimum_required(VERSION 3.25)
+project(asking LANGUAGES CXX)
+add_subdirectory([[${SOURCE_DIR}]] kelifc)
+")
+configure(packed "${WORK_DIR}/asking" -DKELIFC_BUILD_COMMAND=ON -DKELIFC_BUILD_ARCHIVE=${ARCHIVE})
+expect_targets(packed YES kelifc_command)
+expect_expansion(packed ${ARCHIVE})
+configure(ignored "${WORK_DIR}/asking" -DKELIFC_BUILD_ARCHIVE=ON)
+expect_targets(ignored YES kelifc)
+expect_targets(ignored NO kelifc_command kelifc_archive)
+if(NOT warnings MATCHES "KELIFC_BUILD_ARCHIVE is ignored")
+  message(FATAL_ERROR "Nothing says that KELIFC_BUILD_ARCHIVE is ignored:\n${warnings}")
 endif()

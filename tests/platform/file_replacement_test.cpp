@@ -114,6 +114,31 @@ TEST_F(FileReplacementTest, WritesADeviceDirectly) {
   EXPECT_TRUE(fs::is_character_file("/dev/null"));
 }
 
+#ifdef __linux__
+TEST_F(FileReplacementTest, WritesAnOpenFileWithoutANameDirectly) {
+  Write(Path("a.ifc"), "old");
+  const std::ifstream open(Path("a.ifc"));
+  std::string link;
+  for (const auto& entry : fs::directory_iterator("/proc/self/fd")) {
+    std::error_code error;
+    if (fs::equivalent(entry.path(), Path("a.ifc"), error)) link = entry.path().string();
+  }
+  ASSERT_NE(link, "");
+  {
+    FileReplacement named(link.c_str());
+    EXPECT_EQ(fs::path(named.GetPath()).parent_path(), folder);
+  }
+  fs::remove(Path("a.ifc"));
+  FileReplacement replacement(link.c_str());
+  ASSERT_TRUE(replacement.IsGood());
+  EXPECT_EQ(replacement.GetPath(), link);
+  Write(replacement.GetPath(), "new");
+  EXPECT_TRUE(replacement.Commit());
+  EXPECT_EQ(Read(link), "new");
+  EXPECT_EQ(CountFiles(), 0U);
+}
+#endif
+
 TEST_F(FileReplacementTest, ReportsWhatCannotBeWritten) {
   EXPECT_EQ(FileReplacement(nullptr).GetFailure(), "No such file or directory");
   EXPECT_EQ(FileReplacement("").GetFailure(), "No such file or directory");

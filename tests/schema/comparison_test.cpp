@@ -147,6 +147,11 @@ TEST(ComparisonOfValues, LooksIntoInlineValues) {
   EXPECT_FALSE(AreSame(head + "IFCLABEL('x'),$)", head + "$,$)"));
 }
 
+TEST(ComparisonOfValues, NoticesAnotherSchema) {
+  EXPECT_TRUE(AreSame("FILE_SCHEMA(('IFC2X3'))", "FILE_SCHEMA( ('IFC2X3') )"));
+  EXPECT_FALSE(AreSame("FILE_SCHEMA(('IFC2X3'))", "FILE_SCHEMA(('IFC2X2'))"));
+}
+
 TEST(ComparisonOfValues, ComparesTheNameAndTheTextOfAnEntityWithoutAClass) {
   EXPECT_TRUE(AreSame("IFCFOO(1,'a')", "IFCFOO(1,'a')"));
   EXPECT_FALSE(AreSame("IFCFOO(1,'a')", "IFCFOO(1, 'a')"));

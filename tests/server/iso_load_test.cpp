@@ -165,6 +165,24 @@ TEST(IsoLoad, ReadsOnlyTheLastStatementOfANumber) {
               ElementsAre(SourcePlace{4, 2}, SourcePlace{5, 1}, SourcePlace{6, 1}));
 }
 
+TEST(IsoLoad, ReadsNoStatementThatItDropsIntoAnotherInstance) {
+  IfcServer server;
+  LoadOptions options = OptionsFor(STEP_DIALECT_ISO);
+  options.keepUnknown = false;
+  const std::string text = HeadOf("IFC20_LONGFORM") +
+                           "#1=IFCFOO('a');\n#1=IFCMATERIAL('b');\n#1=IFCMATERIAL('c');\n"
+                           "#2=IFCMATERIAL('d');\n#2=IFCFOO('e');\n";
+  ASSERT_EQ(server.LoadIfcMemory(text.data(), text.size(), options), 0);
+  EXPECT_EQ(RecordOf(server, 1), "IFCMATERIAL('c',$,(),()");
+  EXPECT_EQ(RecordOf(server, 2), "IFCMATERIAL('d',$,(),()");
+}
+
+TEST(IsoLoad, ReadsNoStatementBeforeTheSchema) {
+  IfcServer server;
+  ASSERT_EQ(LoadIso(server, "ISO-10303-21;#1=IFCFOO(1);FILE_SCHEMA(('IFC2X3'));#1=IFCFOO(2);"), 0);
+  EXPECT_EQ(RecordOf(server, 1), "IFCFOO(2");
+}
+
 TEST(IsoLoad, LosesOnlyTheStatementWhoseStringDoesNotEnd) {
   IfcServer server;
   EXPECT_EQ(LoadData(server,

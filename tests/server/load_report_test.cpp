@@ -105,8 +105,8 @@ TEST_P(LoadReportInDialect, FindsReferencesToNumbersWithoutAStatement) {
         ElementsAre(FindingSubject{1, "IFCPOLYLINE", 1}, FindingSubject{1, "IFCPOLYLINE", 1},
                     FindingSubject{5, "IFCNOTHING", 3}));
     ASSERT_EQ(model.Report().danglingByAttribute.size(), 2U);
-    EXPECT_EQ(model.Report().danglingByAttribute.at({"IFCPOLYLINE", 1}), 2U);
-    EXPECT_EQ(model.Report().danglingByAttribute.at({"IFCNOTHING", 3}), 1U);
+    EXPECT_EQ(model.Report().danglingByAttribute.at({"IFCPOLYLINE", 1, "Points"}), 2U);
+    EXPECT_EQ(model.Report().danglingByAttribute.at({"IFCNOTHING", 3, ""}), 1U);
   }
 }
 
@@ -162,6 +162,31 @@ TEST_P(LoadReportInDialect, ChecksAStreamAndAFileToo) {
   EXPECT_EQ(server.GetLoadReport().findings.GetCount(LoadFinding::kDanglingReference), 0U);
 }
 
+TEST_P(LoadReportInDialect, IsNotCheckedIfTheSourceHasChanged) {
+  const std::string text = ModelOf("IFC2X3", "#1=IFCPOLYLINE((#2));\n");
+  LoadOptions options;
+  options.dialect = GetParam();
+  IfcServer server;
+  const TempFile file(text);
+  ASSERT_EQ(server.LoadIfc(file.GetPath(), options), 0);
+  std::string changed = text;
+  changed[changed.find("#2") + 1] = '3';  // the same length
+  std::ofstream(file.GetPath(), std::ios::binary) << changed;
+  EXPECT_FALSE(server.CheckModel());
+  EXPECT_TRUE(server.GetLoadReport().hasSourceChanged);
+  EXPECT_FALSE(server.GetLoadReport().isChecked);
+  EXPECT_EQ(server.GetLoadReport().findings.GetCount(LoadFinding::kDanglingReference), 0U);
+
+  std::ofstream(file.GetPath(), std::ios::binary) << text << " ";
+  EXPECT_FALSE(server.CheckModel());
+  EXPECT_TRUE(server.GetLoadReport().hasSourceChanged);
+
+  std::ofstream(file.GetPath(), std::ios::binary) << text;
+  EXPECT_TRUE(server.CheckModel());
+  EXPECT_FALSE(server.GetLoadReport().hasSourceChanged);
+  EXPECT_EQ(server.GetLoadReport().findings.GetCount(LoadFinding::kDanglingReference), 1U);
+}
+
 TEST_P(LoadReportInDialect, HoldsTheCountsUpToALimit) {
   LoadLimits limits;
   limits.maxInstances = 2;
@@ -205,6 +230,24 @@ TEST(LoadReport, StringsOfBothDialectsHideReferences) {
   Loaded iso(ModelOf("IFC2X3", "#1=IFCNOTHING('''#8\\','\\S\\'#7','');\n"), STEP_DIALECT_ISO);
   ASSERT_TRUE(iso.server.CheckModel());
   EXPECT_EQ(iso.Report().findings.GetCount(LoadFinding::kDanglingReference), 0U);
+}
+
+TEST_P(LoadReportInDialect, FindsAttributesThatCannotBeRead) {
+  Loaded model(ModelOf("IFC2X3",
+                       "#1=IFCCARTESIANPOINT(('a',2.));\n#2=IFCPOLYLINE(#1);\n"
+                       "#3=IFCPOLYLINE((#1,#4));\n#4=IFCDIRECTION((1.,0.));\n"
+                       "#5=IFCPERSON($,12,'b',$,$,$,$,$);\n#6=IFCPOLYLINE((#1,#7,#7));\n"),
+               GetParam());
+  ASSERT_EQ(model.result, 0);
+  ASSERT_TRUE(model.server.CheckModel());
+  const LoadFindings& findings = model.Report().findings;
+  EXPECT_EQ(findings.GetCount(LoadFinding::kUnreadAttribute), 4U);
+  EXPECT_EQ(findings.GetCount(LoadFinding::kDanglingReference), 2U);
+  EXPECT_THAT(
+      findings.GetPlaces(LoadFinding::kUnreadAttribute),
+      ElementsAre(SourcePlace{2, 23}, SourcePlace{3, 16}, SourcePlace{4, 20}, SourcePlace{6, 16}));
+  EXPECT_EQ(model.Report().unreadByAttribute.at({"IFCPOLYLINE", 1, "Points"}), 2U);
+  EXPECT_EQ(model.Report().unreadByAttribute.at({"IFCPERSON", 2, "FamilyName"}), 1U);
 }
 
 TEST(LoadReport, KnowsNoAttributesOfInstancesOfSeveralTypes) {

@@ -83,10 +83,6 @@ void EmitClass(TextWriter& out, const Description& description, const Class& typ
 void EmitBases(const Description& description, Files& files) {
   const std::string path(kPath);
   TextWriter out;
-  out.Line(GeneratedBy(description));
-  out.Line("#ifndef " + schemac::Guard(path));
-  out.Line("#define " + schemac::Guard(path));
-  out.Line();
   out.Line("#include \"kelifc/geo/dual.h\"");
   out.Line("#include \"kelifc/geo/interfaces.h\"");
   out.Line();
@@ -98,8 +94,7 @@ void EmitBases(const Description& description, Files& files) {
   for (const Class& type : description.classes) EmitClass(out, description, type);
   out.Line("}  // namespace KelIFC");
   out.Line();
-  out.Line("#endif  // " + schemac::Guard(path));
-  files[path] = out.Text();
+  files[path] = GuardedHeader(description, path, out.Text());
 }
 
 }  // namespace comgen

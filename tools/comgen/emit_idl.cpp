@@ -13,36 +13,6 @@ namespace {
 /// number.
 constexpr std::size_t kIdentifiersPerInterface = 0x100;
 
-std::string_view ValueType(const Type& type) {
-  switch (type.kind) {
-    case Kind::kPointer:  // in reserved operations: any pointer that a script can hold
-    case Kind::kUnknown:
-      return "IUnknown*";
-    case Kind::kLong:
-      return "long";
-    case Kind::kShort:
-      return "short";
-    case Kind::kDouble:
-      return "double";
-    case Kind::kBool:
-      return "VARIANT_BOOL";
-    case Kind::kString:
-      return "BSTR";
-    case Kind::kVariant:
-      return "VARIANT";
-    case Kind::kInterface:
-      break;
-  }
-  return "";
-}
-
-std::string TypeOf(const Argument& argument) {
-  const Type& type = argument.type;
-  const std::string value =
-      type.kind == Kind::kInterface ? type.interface + "*" : std::string(ValueType(type));
-  return argument.isOut ? value + "*" : value;
-}
-
 /// Returns a text in double quotes.
 std::string Quoted(const std::string& text) {
   std::string quoted = "\"";
@@ -135,7 +105,7 @@ class InterfaceWriter {
     const std::string direction = isResult ? "[out, retval] " : argument.isOut ? "[out] " : "[in] ";
     const std::string name =
         argument.name.empty() ? "argument" + std::to_string(index + 1) : argument.name;
-    return direction + TypeOf(argument) + " " + name;
+    return direction + ArgumentType(argument, Language::kIdl) + " " + name;
   }
 
   TextWriter& out;

@@ -30,7 +30,7 @@ void EmitOperation(TextWriter& out, const Operation& operation) {
   }
   std::vector<std::string> arguments;
   for (const Argument& argument : operation.arguments) {
-    const std::string type = ArgumentType(argument);
+    const std::string type = ArgumentType(argument, Language::kCpp);
     arguments.push_back(argument.name.empty() ? type : type + " " + argument.name);
   }
   out.Call("  virtual HRESULT " + operation.name, arguments, " = 0;");
@@ -67,10 +67,6 @@ void EmitConstant(TextWriter& out, const std::string& type, const std::string& n
 void EmitInterfaces(const Description& description, Files& files) {
   const std::string path(kPath);
   TextWriter out;
-  out.Line(GeneratedBy(description));
-  out.Line("#ifndef " + schemac::Guard(path));
-  out.Line("#define " + schemac::Guard(path));
-  out.Line();
   out.Line("#include \"kelifc/platform/com_interfaces.h\"");
   out.Line("#include \"kelifc/platform/com_variant.h\"");
   out.Line("#include \"kelifc/platform/export.h\"");
@@ -89,8 +85,7 @@ void EmitInterfaces(const Description& description, Files& files) {
     EmitConstant(out, "CLSID", "CLSID_" + type.name, type.identifier);
   }
   out.Line();
-  out.Line("#endif  // " + schemac::Guard(path));
-  files[path] = out.Text();
+  files[path] = GuardedHeader(description, path, out.Text());
 }
 
 }  // namespace comgen

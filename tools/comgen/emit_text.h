@@ -10,11 +10,18 @@ namespace comgen {
 /// Returns the first line of every generated file.
 std::string GeneratedBy(const Description& description);
 
+/// Returns a generated header with this content between include guards.
+std::string GuardedHeader(const Description& description, const std::string& path,
+                          const std::string& content);
+
 /// Returns an identifier as the initialisers of the members of a GUID, without the outer braces.
 std::string IdentifierMembers(const std::string& identifier);
 
-/// Returns the C++ type of an argument.
-std::string ArgumentType(const Argument& argument);
+/// The languages in which comgen writes interfaces.
+enum class Language { kCpp, kIdl };
+
+/// Returns the type of an argument.
+std::string ArgumentType(const Argument& argument, Language language);
 
 /// Returns the name of the class or class template that implements the reserved operations of an
 /// interface.

@@ -5,7 +5,7 @@
 
 namespace command {
 
-// The three subcommands. A function that fails throws Failure. Paths are as the user gave them.
+// The subcommands. A function that fails throws Failure. Paths are as the user gave them.
 
 /// How a command reads its model.
 struct Reading {
@@ -46,6 +46,41 @@ struct SaveOptions {
 /// Loads the model and writes it to `output`. With `faithful`, which needs the dialect "iso", what
 /// was not changed is written as it stands in the source.
 void RunSave(const SaveOptions& options);
+
+struct ElementsOptions {
+  Reading reading;
+  std::string model;
+  std::string output;  ///< a path; empty means standard output
+  bool json = false;
+  bool csv = false;
+  bool csvRaw = false;  ///< cells of the CSV are not guarded against spreadsheets
+  bool bodies = false;  ///< the JSON has the boundary of each body
+  bool failOnLoss = false;
+};
+
+/// Reads the building completely and prints its elements.
+void RunElements(const ElementsOptions& options);
+
+struct AuditOptions {
+  Reading reading;
+  std::string model;
+  std::string output;  ///< a path; empty means standard output
+  bool json = false;
+  bool failOnLoss = false;
+};
+
+/// Reads the building completely and prints what was read and what was lost.
+void RunAudit(const AuditOptions& options);
+
+struct DiffOptions {
+  Reading reading;
+  std::string oldModel;
+  std::string newModel;
+  bool json = false;
+};
+
+/// Reads two revisions of a building completely and prints what differs.
+void RunDiff(const DiffOptions& options);
 
 }  // namespace command
 

@@ -12,6 +12,7 @@ enum class Status {
   kFile = 1,            ///< a file cannot be opened, created or written to its end
   kNoModel = 2,         ///< not a STEP file, or its schema is unknown
   kNotConvertible = 3,  ///< the release has no conversion
+  kLost = 4,            ///< done, but something was lost, and the user asked for this status
   kUsage = 64,          ///< the command line is wrong
   kMissing = 69,        ///< this build lacks a component
 };

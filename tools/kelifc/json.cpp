@@ -1,5 +1,7 @@
 #include "tools/kelifc/json.h"
 
+#include <array>
+#include <cmath>
 #include <utility>
 
 namespace command {
@@ -45,6 +47,15 @@ std::string ToText(const Json& object) {
   JsonText text;
   for (const auto& [key, value] : object.items()) text.Add(key, value);
   return text.Finish();
+}
+
+std::string QuotedText(std::string_view text) { return OnOneLine(Json(text)); }
+
+std::string NumberText(double value) {
+  if (!std::isfinite(value)) return "null";
+  std::array<char, 64> digits = {};
+  char* const end = nlohmann::detail::to_chars(digits.data(), digits.data() + digits.size(), value);
+  return {digits.data(), end};
 }
 
 }  // namespace command

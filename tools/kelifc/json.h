@@ -44,6 +44,13 @@ class JsonText {
 /// Writes an object as JsonText does.
 std::string ToText(const Json& object);
 
+/// A text as JSON, with its quotes.
+std::string QuotedText(std::string_view text);
+
+/// A number as JSON: the shortest text that reads back as the same double; null for a number that
+/// is not finite.
+std::string NumberText(double value);
+
 }  // namespace command
 
 #endif  // TOOLS_KELIFC_JSON_H_

@@ -7,6 +7,7 @@
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/failure.h"
 #include "tools/kelifc/output.h"
+#include "tools/kelifc/text.h"
 
 namespace {
 
@@ -17,7 +18,14 @@ struct Request {
   command::StructureOptions structure;
   command::InfoOptions info;
   command::SaveOptions save;
+  command::ElementsOptions elements;
+  command::AuditOptions audit;
+  command::DiffOptions diff;
 };
+
+constexpr auto kModel = "MODEL.ifc";
+constexpr auto kModelHelp = "the model to read; - means standard input";
+constexpr auto kJsonHelp = "print one JSON object instead of a table";
 
 /// The options that all subcommands have. Returns the option of the dialect.
 CLI::Option* DescribeReading(CLI::App& subcommand, command::Reading& reading) {
@@ -38,6 +46,60 @@ CLI::Option* DescribeReading(CLI::App& subcommand, command::Reading& reading) {
   return dialect;
 }
 
+void DescribeOutput(CLI::App& subcommand, std::string& output) {
+  subcommand.add_option("--output", output, "write to FILE instead of standard output")
+      ->option_text("FILE")
+      ->check([](const std::string& file) { return file.empty() ? "FILE is empty" : ""; });
+}
+
+/// A subcommand that reads the building completely reads strings as published unless the user says
+/// otherwise.
+void DescribeComplete(CLI::App& subcommand, command::Reading& reading) {
+  reading.dialect = "iso";
+  DescribeReading(subcommand, reading)
+      ->description("the rules for strings and statements: classic or iso (default: iso)");
+}
+
+void DescribeFailOnLoss(CLI::App& subcommand, bool& failOnLoss) {
+  subcommand.add_flag("--fail-on-loss", failOnLoss, "exit with status 4 if something was lost");
+}
+
+void DescribeElements(CLI::App& app, command::ElementsOptions& options) {
+  CLI::App* elements = app.add_subcommand("elements", "every structural element");
+  CLI::Option* json = elements->add_flag("--json", options.json, kJsonHelp);
+  CLI::Option* csv = elements->add_flag("--csv", options.csv, "print a row of CSV for each element")
+                         ->excludes(json);
+  elements
+      ->add_flag("--csv-raw", options.csvRaw,
+                 "with --csv: no apostrophe before text that a spreadsheet takes for a formula")
+      ->needs(csv);
+  elements->add_flag("--bodies", options.bodies,
+                     "with --json: print the boundary of each body, too");
+  DescribeOutput(*elements, options.output);
+  DescribeFailOnLoss(*elements, options.failOnLoss);
+  DescribeComplete(*elements, options.reading);
+  elements->add_option(kModel, options.model, kModelHelp)->required()->option_text(" ");
+}
+
+void DescribeAudit(CLI::App& app, command::AuditOptions& options) {
+  CLI::App* audit = app.add_subcommand("audit", "what was read, and what was lost and why");
+  audit->add_flag("--json", options.json, kJsonHelp);
+  DescribeOutput(*audit, options.output);
+  DescribeFailOnLoss(*audit, options.failOnLoss);
+  DescribeComplete(*audit, options.reading);
+  audit->add_option(kModel, options.model, kModelHelp)->required()->option_text(" ");
+}
+
+void DescribeDiff(CLI::App& app, command::DiffOptions& options) {
+  CLI::App* diff = app.add_subcommand("diff", "structural difference of two revisions");
+  diff->add_flag("--json", options.json, kJsonHelp);
+  DescribeComplete(*diff, options.reading);
+  diff->add_option("OLD.ifc", options.oldModel, kModelHelp)->required()->option_text(" ");
+  diff->add_option("NEW.ifc", options.newModel, "the model to compare with it")
+      ->required()
+      ->option_text(" ");
+}
+
 /// A faithful save reads the model by the rules of ISO 10303-21.
 void DescribeFaithful(CLI::App& save, command::SaveOptions& options, CLI::Option* dialect) {
   save.add_flag("--faithful", options.faithful,
@@ -55,20 +117,14 @@ void Describe(CLI::App& app, Request& request) {
   app.set_version_flag("--version", std::string("kelifc ") + KELIFC_VERSION);
   app.allow_windows_style_options(false);  // an argument that begins with a slash is a path
   app.require_subcommand(1);
-  constexpr auto kModel = "MODEL.ifc";
-  constexpr auto kModelHelp = "the model to read; - means standard input";
-
   CLI::App* structure = app.add_subcommand("structure", "the converted building structure");
-  structure->add_flag("--json", request.structure.json, "print one JSON object instead of a table");
-  structure
-      ->add_option("--output", request.structure.output, "write to FILE instead of standard output")
-      ->option_text("FILE")
-      ->check([](const std::string& file) { return file.empty() ? "FILE is empty" : ""; });
+  structure->add_flag("--json", request.structure.json, kJsonHelp);
+  DescribeOutput(*structure, request.structure.output);
   DescribeReading(*structure, request.structure.reading);
   structure->add_option(kModel, request.structure.model, kModelHelp)->required()->option_text(" ");
 
   CLI::App* info = app.add_subcommand("info", "what the file holds");
-  info->add_flag("--json", request.info.json, "print one JSON object instead of a table");
+  info->add_flag("--json", request.info.json, kJsonHelp);
   info->add_flag("--report", request.info.report, "print what is wrong in the file, too");
   DescribeReading(*info, request.info.reading);
   info->add_option(kModel, request.info.model, kModelHelp)->required()->option_text(" ");
@@ -79,17 +135,24 @@ void Describe(CLI::App& app, Request& request) {
   save->add_option("OUT.ifc", request.save.output, "the file to write")
       ->required()
       ->option_text(" ");
+
+  DescribeElements(app, request.elements);
+  DescribeAudit(app, request.audit);
+  DescribeDiff(app, request.diff);
 }
 
 void Run(const CLI::App& app, const Request& request) {
   if (app.got_subcommand("structure")) RunStructure(request.structure);
   if (app.got_subcommand("info")) RunInfo(request.info);
   if (app.got_subcommand("save")) RunSave(request.save);
+  if (app.got_subcommand("elements")) RunElements(request.elements);
+  if (app.got_subcommand("audit")) RunAudit(request.audit);
+  if (app.got_subcommand("diff")) RunDiff(request.diff);
 }
 
 int Fail(Status status, std::string message) {
   std::replace(message.begin(), message.end(), '\n', ' ');
-  std::fprintf(stderr, "kelifc: %s\n", message.c_str());
+  std::fprintf(stderr, "kelifc: %s\n", command::Visible(message).c_str());
   return static_cast<int>(status);
 }
 

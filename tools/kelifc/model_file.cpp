@@ -73,8 +73,32 @@ void LoadModelWithReport(IfcServer& server, const std::string& path, const Readi
   LoadWithProgress(server, path, reading, [&](const char* file) {
     const int code = server.LoadIfc(file, OptionsOf(reading));
     if (code != KelIFC::LOAD_RESULT_LOADED || server.CheckModel()) return code;
+    if (server.GetLoadReport().hasSourceChanged) {
+      throw Failure(Status::kFile, path, "the file changed while it was read");
+    }
     return static_cast<int>(KelIFC::LOAD_RESULT_CANNOT_OPEN);  // the file is gone meanwhile
   });
+}
+
+void RequireConvertible(KelIFC::IfcServer& server, const std::string& path) {
+  const KelIFC::IFC_RELEASE release = server.GetRelease();
+  if (release >= KelIFC::IFC_RELEASE_2X) return;
+  throw Failure(Status::kNotConvertible, path,
+                std::string("release ") + ReleaseText(release) + " cannot be converted");
+}
+
+KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
+                              KelIFC::KeptBodies keptBodies) {
+  IfcServer server;
+  LoadWithProgress(server, path, reading, [&](const char* file) {
+    LoadOptions options = OptionsOf(reading);
+    options.keepUnknown = true;  // the reading knows entities that have no class
+    return server.LoadIfc(file, options);
+  });
+  RequireConvertible(server, path);
+  KelIFC::ReadingOptions options;
+  options.keptBodies = keptBodies;
+  return KelIFC::ReadBuilding(server, options);
 }
 
 std::string Utf8FromModel(const IfcServer& server, std::string_view text) {

@@ -25,6 +25,14 @@ ModelSource LoadModel(KelIFC::IfcServer& server, const std::string& path, const 
 void LoadModelWithReport(KelIFC::IfcServer& server, const std::string& path,
                          const Reading& reading);
 
+/// Throws Failure with Status::kNotConvertible if the release of a loaded model has no conversion.
+void RequireConvertible(KelIFC::IfcServer& server, const std::string& path);
+
+/// Loads the model at `path`, as LoadModel does, and reads the building. Throws Failure, too, with
+/// Status::kNotConvertible if the release has none.
+KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
+                              KelIFC::KeptBodies keptBodies);
+
 /// Converts a text that the server returns, such as a schema or a name, to UTF-8.
 std::string Utf8FromModel(const KelIFC::IfcServer& server, std::string_view text);
 

@@ -1,7 +1,6 @@
 #include "tools/kelifc/output.h"
 
 #include <cerrno>
-#include <cstdio>
 #include <cstring>
 
 #include "kelifc/platform/program.h"
@@ -10,18 +9,45 @@
 
 namespace command {
 
-void WriteOutput(const std::string& path, std::string_view text) {
-  const std::string name = path.empty() ? "standard output" : path;
-  std::FILE* file = path.empty() ? stdout : std::fopen(path.c_str(), "wb");
+Output::Output(const std::string& path)
+    : name(path.empty() ? "standard output" : path),
+      file(path.empty() ? stdout : std::fopen(path.c_str(), "wb")),
+      isStandard(path.empty()) {
   if (file == nullptr) throw Failure(Status::kFile, name, std::strerror(errno));
-
   KelIFC::SetBinary(file);  // the output has the same bytes on every system
-  // The message names the first error. Closing the file flushes it, so closing can fail as well.
-  int error = 0;
-  if (std::fwrite(text.data(), 1, text.size(), file) != text.size()) error = errno;
-  const int closed = path.empty() ? std::fflush(file) : std::fclose(file);
-  if (closed != 0 && error == 0) error = errno;
-  if (error != 0) throw Failure(Status::kFile, name, std::strerror(error));
+}
+
+Output::~Output() {
+  if (file != nullptr && !isStandard) std::fclose(file);
+}
+
+void Output::Write(std::string_view text) {
+  constexpr std::size_t kBlock = std::size_t{1} << 16;
+  buffer += text;
+  if (buffer.size() >= kBlock) Flush();
+}
+
+void Output::Flush() {
+  if (std::fwrite(buffer.data(), 1, buffer.size(), file) != buffer.size()) {
+    throw Failure(Status::kFile, name, std::strerror(errno));
+  }
+  buffer.clear();
+}
+
+void Output::Close() {
+  Flush();
+  std::FILE* const closed = file;
+  file = nullptr;
+  // Closing the file flushes it, so closing can fail as well.
+  if ((isStandard ? std::fflush(closed) : std::fclose(closed)) != 0) {
+    throw Failure(Status::kFile, name, std::strerror(errno));
+  }
+}
+
+void WriteOutput(const std::string& path, std::string_view text) {
+  Output output(path);
+  output.Write(text);
+  output.Close();
 }
 
 }  // namespace command

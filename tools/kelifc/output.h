@@ -1,13 +1,39 @@
 #ifndef TOOLS_KELIFC_OUTPUT_H_
 #define TOOLS_KELIFC_OUTPUT_H_
 
+#include <cstdio>
 #include <string>
 #include <string_view>
 
 namespace command {
 
-/// Writes `text` to the file at `path`, or to standard output if `path` is empty. Throws Failure
-/// with Status::kFile if the text is not written completely, for example because the disk is full.
+/// A file to write, or standard output if the path is empty. All functions throw Failure with
+/// Status::kFile if the text cannot be written, for example because the disk is full.
+class Output {
+ public:
+  /// Creates the file.
+  explicit Output(const std::string& path);
+
+  /// Closes the file. What was not written by Close may be lost.
+  ~Output();
+  Output(const Output&) = delete;
+  Output& operator=(const Output&) = delete;
+
+  void Write(std::string_view text);
+
+  /// Writes what is left. It is called once, at the end.
+  void Close();
+
+ private:
+  void Flush();
+
+  std::string name;
+  std::FILE* file;  // null after Close
+  bool isStandard;
+  std::string buffer;
+};
+
+/// Writes `text` to the file at `path`, or to standard output if `path` is empty.
 void WriteOutput(const std::string& path, std::string_view text);
 
 }  // namespace command

@@ -1,7 +1,6 @@
 #include "kelifc/kelifc.h"
 
 #include "tools/kelifc/commands.h"
-#include "tools/kelifc/failure.h"
 #include "tools/kelifc/model_file.h"
 #include "tools/kelifc/output.h"
 #include "tools/kelifc/structure_format.h"
@@ -16,11 +15,7 @@ using KelIFC::IfcServer;
 /// failures and reports no progress.
 void LoadConvertible(IfcServer& model, const std::string& path, const Reading& reading) {
   LoadModel(model, path, reading);
-  const KelIFC::IFC_RELEASE release = model.GetRelease();
-  if (release < KelIFC::IFC_RELEASE_2X) {
-    throw Failure(Status::kNotConvertible, path,
-                  std::string("release ") + ReleaseText(release) + " cannot be converted");
-  }
+  RequireConvertible(model, path);
 }
 
 }  // namespace

@@ -114,8 +114,10 @@ struct Entity {
   std::vector<Marked> customWrite;
   ReleaseSet noParse = ReleaseSet::None();
   ReleaseSet noWrite = ReleaseSet::None();
-  std::vector<Marked> departures;               ///< reasons that belong to no attribute
-  std::map<std::string, std::string> comments;  ///< of the operations that are written by hand
+  std::vector<Marked> departures;  ///< reasons that belong to no attribute
+  /// Of what is written by hand, by the name of the operation. A constructor is named by the class
+  /// and its parameters.
+  std::map<std::string, std::string> comments;
 };
 
 /// A defined type: a class with a value as second base, behind the select it can stand in, or as

@@ -90,7 +90,7 @@ std::string GuardedHeader(const std::string& path, std::string_view source,
 }
 
 TemplateWords WordsOf(const ReleaseInfo& info) {
-  return {{"mark", std::string(info.mark)},
+  return {{"release", std::string(info.title)},
           {"namespace", std::string(info.nameSpace)},
           {"folder", std::string(info.folder)},
           {"suffix", std::string(info.suffix)},

@@ -9,8 +9,11 @@ namespace {
 constexpr std::string_view kDefinedType =
     R"(class KELIFC_API @name@ : public @base@, public @value@ {
  public:
+  /// An unset value.
   @name@();
+  /// A value that is set.
   @name@(@bare@);
+  /// A copy of the value; it is unset if `value` is.
   @name@(const @value@& value);
 @fromText@  @name@(const @name@&);
   @name@& operator=(const @name@&);
@@ -27,6 +30,14 @@ constexpr std::string_view kDefinedType =
   const char* ParseBody(const char* cursor) override;
 };
 
+)";
+
+/// What a defined type has besides if it is a text.
+constexpr std::string_view kFromText = R"(  /// A text that is set; null makes it unset.
+  @name@(const char* text);
+)";
+constexpr std::string_view kAssignText = R"(  /// Sets the text; null makes it unset.
+  @name@& operator=(const char* text);
 )";
 
 constexpr std::string_view kIntegers = R"(class KELIFC_API @name@ : public LIST<INTEGER> {
@@ -87,7 +98,7 @@ class HeaderEmitter {
     EmitIncludes(path);
     TemplateWords words = WordsOf(info);
     words["title"] = family.title;
-    out.Fill("/// @title@, release @mark@.\nnamespace @namespace@ {\n\n", words);
+    out.Fill("/// @title@, release @release@.\nnamespace @namespace@ {\n\n", words);
     EmitEnumerations();
     for (const auto& [name, type] : model.definedTypes) {
       if (type->family == family.name && name != family.name) EmitDefinedTypeAfterBase(*type);
@@ -178,8 +189,8 @@ class HeaderEmitter {
     if (value.bare.empty())
       throw DescriptionError(type.place, "a defined type cannot hold this kind");
     const bool isText = type.kind == Kind::kString;
-    words["fromText"] = isText ? Fill("  @name@(const char* text);\n", words) : "";
-    words["assignText"] = isText ? Fill("  @name@& operator=(const char* text);\n", words) : "";
+    words["fromText"] = isText ? Fill(kFromText, words) : "";
+    words["assignText"] = isText ? Fill(kAssignText, words) : "";
     out.Doc("", type.doc);
     out.Fill(kDefinedType, words);
   }
@@ -221,12 +232,22 @@ class HeaderEmitter {
     if (!isAbstract) out.Fill("  @name@();\n", words);
     for (const auto& constructor : type.constructors) {
       const bool isSingle = constructor.text.find(',') == std::string::npos;
+      out.Doc("  ", CommentOf(*type.entity, constructor));
       EmitPlaces("  ", constructor);
       out.Line((isSingle ? "  explicit " : "  ") + type.entity->name + constructor.text + ";");
     }
     out.Fill(kCopy, words);
     if (!isAbstract) out.Fill("  ~@name@() override;\n", words);
     out.Line();
+  }
+
+  static const std::string& CommentOf(const Entity& entity, const HandWritten& constructor) {
+    const std::string name = entity.name + constructor.text;
+    const auto comment = entity.comments.find(name);
+    if (comment == entity.comments.end()) {
+      throw DescriptionError(constructor.place, "no line tells what " + name + " does");
+    }
+    return comment->second;
   }
 
   void EmitOperations(const ResolvedClass& type) {

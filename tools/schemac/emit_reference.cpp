@@ -14,7 +14,7 @@ std::string Releases(Has has) {
   std::string text;
   for (std::size_t release = 0; release < kReleaseCount; ++release) {
     if (!has(release)) continue;
-    text += (text.empty() ? "" : ", ") + std::string(kReleases[release].mark);
+    text += (text.empty() ? "" : ", ") + std::string(kReleases[release].title);
   }
   return text.empty() ? "none" : text;
 }

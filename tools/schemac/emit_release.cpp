@@ -11,7 +11,7 @@ constexpr std::string_view kForward = R"(namespace KelIFC {
 class BOOLEAN;
 }
 
-/// The classes of release @mark@.
+/// The classes of release @release@.
 namespace @namespace@ {
 
 using namespace KelIFC;
@@ -27,7 +27,7 @@ constexpr std::string_view kClassList = R"(#include "kelifc/schema/@folder@/fwd.
 
 namespace KelIFC {
 
-/// The classes of release @mark@ under one name, for logic that is written once over the releases.
+/// The classes of release @release@ under one name, for logic that is written once over the releases.
 struct Release@suffix@ {
   static constexpr IFC_RELEASE kRelease = @constant@;
 
@@ -43,7 +43,7 @@ struct Release@suffix@ {
 )";
 
 constexpr std::string_view kUmbrella =
-    R"(// Every class of release @mark@, those of all releases included.
+    R"(// Every class of release @release@, those of all releases included.
 @includes@#include "kelifc/schema/@folder@/release.h"
 
 )";

@@ -55,8 +55,14 @@ class EntityLine {
   void ReadMake() { entity.constructors.push_back(Marked{in.Rest(), releases, line.place}); }
   void ReadDeparts() { entity.departures.push_back({in.Rest(), releases}); }
 
+  /// The name of the class means a constructor; its parameters follow.
   void ReadTell() {
-    const std::string operation = in.Name("an operation");
+    std::string operation = in.Name("an operation");
+    if (operation == entity.name) {
+      in.Expect("(");
+      operation += "(" + in.Until(")") + ")";
+      in.Expect(")");
+    }
     entity.comments[operation] = in.Rest();
   }
 

@@ -3,11 +3,11 @@
 namespace schemac {
 
 const std::array<ReleaseInfo, kReleaseCount> kReleases = {{
-    {"151", "KelIFC151", "ifc151", "151", "IFC_RELEASE_151"},
-    {"20", "KelIFC20", "ifc20", "20", "IFC_RELEASE_20"},
-    {"2x", "KelIFC2x", "ifc2x", "2x", "IFC_RELEASE_2X"},
-    {"2x2", "KelIFC2x2", "ifc2x2", "2x2", "IFC_RELEASE_2X2"},
-    {"2x3", "KelIFC2x3", "ifc2x3", "2x3", "IFC_RELEASE_2X3"},
+    {"151", "1.5.1", "KelIFC151", "ifc151", "151", "IFC_RELEASE_151"},
+    {"20", "2.0", "KelIFC20", "ifc20", "20", "IFC_RELEASE_20"},
+    {"2x", "2x", "KelIFC2x", "ifc2x", "2x", "IFC_RELEASE_2X"},
+    {"2x2", "2x2", "KelIFC2x2", "ifc2x2", "2x2", "IFC_RELEASE_2X2"},
+    {"2x3", "2x3", "KelIFC2x3", "ifc2x3", "2x3", "IFC_RELEASE_2X3"},
 }};
 
 namespace {

@@ -11,7 +11,8 @@ namespace schemac {
 
 /// What the generator knows of one schema release, in the order of publication.
 struct ReleaseInfo {
-  std::string_view mark;       ///< as descriptions write it: "2x3"
+  std::string_view mark;       ///< as descriptions write it: "151"
+  std::string_view title;      ///< as people write it: "1.5.1"
   std::string_view nameSpace;  ///< "KelIFC2x3"
   std::string_view folder;     ///< "ifc2x3"
   std::string_view suffix;     ///< ending of the names that belong to it: "2x3"

@@ -40,6 +40,13 @@ RegionProperties PropertiesOfEllipse(const ProfileFacts& facts) {
   return properties;
 }
 
+RegionProperties PropertiesOf(const ProfileFacts& facts, const Region& region,
+                              const FlatRegion& flat) {
+  if (facts.shape == ProfileShape::kEllipse) return PropertiesOfEllipse(facts);
+  const bool hasAllHoles = flat.holes.size() == region.holes.size();
+  return hasAllHoles ? building::PropertiesOf(region) : building::PropertiesOf(flat);
+}
+
 bool IsOddQuarterTurn(double rotation) { return std::abs(std::abs(rotation) - kQuarter) < 1e-6; }
 
 // Takes shape and sizes from the file, if the position leaves the shape what it is.
@@ -69,9 +76,7 @@ std::optional<PlacedProfile> MakeProfile(const ProfileFacts& facts) {
   if (regions.size() != 1) return std::nullopt;
   auto flat = Flatten(regions.front());
   if (!flat) return std::nullopt;
-  const RegionProperties properties = facts.shape == ProfileShape::kEllipse
-                                          ? PropertiesOfEllipse(facts)
-                                          : PropertiesOf(regions.front());
+  const RegionProperties properties = PropertiesOf(facts, regions.front(), *flat);
   if (!(properties.area > 0.0)) return std::nullopt;
   PlacedProfile placed;
   placed.offset = {-properties.centroid.x, -properties.centroid.y};
@@ -82,6 +87,8 @@ std::optional<PlacedProfile> MakeProfile(const ProfileFacts& facts) {
   SetProperties(profile, properties);
   MapPoints(profile, [&placed](const Point2& point) { return point + placed.offset; });
   SetShape(profile, facts);
+  if (profile.shape == ProfileShape::kArbitrary) RecogniseShape(profile);
+  Designate(profile);
   return placed;
 }
 

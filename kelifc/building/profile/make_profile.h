@@ -2,6 +2,7 @@
 #define KELIFC_BUILDING_PROFILE_MAKE_PROFILE_H_
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "kelifc/building/facts/profile_facts.h"
@@ -33,14 +34,18 @@ struct PlacedProfile {
 
 /// The profile of an extrusion: profile X becomes y, profile Y becomes z, the origin moves to the
 /// centroid. Its sizes are those of the file where the file has a shape, otherwise those that
-/// Recognise finds. A position that turns by a multiple of 90 degrees or by any angle turns the
-/// outline. None if the facts make no region or more than one.
+/// RecogniseShape finds. A position that turns by a multiple of 90 degrees or by any angle turns
+/// the outline. A rectangle, an ellipse or an L that is turned by 90 degrees has h and b exchanged,
+/// so that h lies along z. None if the facts make no region or more than one.
 std::optional<PlacedProfile> MakeProfile(const ProfileFacts& facts);
 
 /// The profile of a region that was found by slicing: the axes are turned to the principal axes
 /// with iy >= iz (the outline stays as it is if that is within 0.01 degrees), the origin moves to
 /// the centroid. `rotation` and `centroid` say how: profile coordinates (y, z) come from region
-/// coordinates by subtracting the centroid and turning by -rotation.
+/// coordinates by subtracting the centroid and turning by -rotation, which is more than -90 and at
+/// most 90 degrees. A region without distinct principal axes, as a square, is turned to its longest
+/// edge by at most 45 degrees. The shape is recognised in any rotation: an L has principal axes
+/// beside its legs. Area and moments are those of the polygon.
 struct SlicedProfile {
   BuildingProfile profile;
   Point2 centroid;
@@ -66,12 +71,17 @@ RegionProperties PropertiesOf(const FlatRegion& region);
 bool RecogniseShape(BuildingProfile& profile);
 
 /// Sets the designation from the sizes, within the tolerances of the dimension tables, and
-/// `nameContradicts` from the name.
+/// `nameContradicts` from the name. A shape that is turned, which stays kArbitrary, has its
+/// designation, too. An outline without a shape has the designation of its name if the extents and
+/// the area agree with it.
 void Designate(BuildingProfile& profile);
 
-/// True if two profiles are one: shape and parameters, rounded to 0.01 mm, are equal; of kArbitrary
-/// all points.
+/// True if two profiles are one: shape and parameters, rounded to 0.01 mm, are equal, and the
+/// outlines are turned and mirrored alike; of kArbitrary all points. Names do not count.
 bool AreSameProfile(const BuildingProfile& a, const BuildingProfile& b);
+
+/// A text that is equal for profiles that are one.
+std::string ProfileKey(const BuildingProfile& profile);
 
 }  // namespace KelIFC::building
 

@@ -38,13 +38,6 @@ void Centre(Corners& corners) {
   }
 }
 
-std::optional<Region> RegionOf(Corners corners) {
-  Centre(corners);
-  auto contour = RoundedContour(corners);
-  if (!contour) return std::nullopt;
-  return Region{std::move(*contour), {}};
-}
-
 Corners RectangleCorners(double b, double h, double r) {
   return {{{-b / 2.0, -h / 2.0}, r},
           {{b / 2.0, -h / 2.0}, r},
@@ -56,14 +49,14 @@ Contour CircleContour(double radius) {
   return {{{radius, 0.0}, {-radius, 0.0}}, {{0, {0.0, radius}}, {1, {0.0, -radius}}}};
 }
 
-std::optional<Region> Rectangle(const Sizes& s) {
-  if (!(s.h > 0.0 && s.b > 0.0)) return std::nullopt;
-  return RegionOf(RectangleCorners(s.b, s.h, 0.0));
+Corners Rectangle(const Sizes& s) {
+  if (!(s.h > 0.0 && s.b > 0.0)) return {};
+  return RectangleCorners(s.b, s.h, 0.0);
 }
 
-std::optional<Region> RoundedRectangle(const Sizes& s) {
-  if (!(s.h > 0.0 && s.b > 0.0)) return std::nullopt;
-  return RegionOf(RectangleCorners(s.b, s.h, s.r));
+Corners RoundedRectangle(const Sizes& s) {
+  if (!(s.h > 0.0 && s.b > 0.0)) return {};
+  return RectangleCorners(s.b, s.h, s.r);
 }
 
 std::optional<Region> HollowRectangle(const Sizes& s) {
@@ -71,11 +64,10 @@ std::optional<Region> HollowRectangle(const Sizes& s) {
   // Along the diagonal of a corner the hole must stay inside of the outer arc.
   const double lag = s.r - s.t - s.r1;
   if (lag > 0.0 && !(lag * std::numbers::sqrt2 + s.r1 < s.r)) return std::nullopt;
-  auto region = RegionOf(RectangleCorners(s.b, s.h, s.r));
+  auto outer = RoundedContour(RectangleCorners(s.b, s.h, s.r));
   auto hole = RoundedContour(RectangleCorners(s.b - 2.0 * s.t, s.h - 2.0 * s.t, s.r1));
-  if (!region || !hole) return std::nullopt;
-  region->holes.push_back(std::move(*hole));
-  return region;
+  if (!outer || !hole) return std::nullopt;
+  return Region{std::move(*outer), {std::move(*hole)}};
 }
 
 std::optional<Region> Circle(const Sizes& s) {
@@ -103,31 +95,22 @@ std::optional<Region> Ellipse(const Sizes& s) {
   return region;
 }
 
-std::optional<Region> Trapezium(const Sizes& s) {
-  if (!(s.h > 0.0 && s.b > 0.0 && s.b1 > 0.0)) return std::nullopt;
-  return RegionOf({{{0.0, 0.0}}, {{s.b, 0.0}}, {{s.offset + s.b1, s.h}}, {{s.offset, s.h}}});
+Corners Trapezium(const Sizes& s) {
+  if (!(s.h > 0.0 && s.b > 0.0 && s.b1 > 0.0)) return {};
+  return {{{0.0, 0.0}}, {{s.b, 0.0}}, {{s.offset + s.b1, s.h}}, {{s.offset, s.h}}};
 }
 
-std::optional<Region> AsymmetricI(const Sizes& s) {
-  if (!(s.tw > 0.0 && s.tw < s.b && s.tw < s.b1)) return std::nullopt;
-  if (!(s.tf > 0.0 && s.tf1 > 0.0 && s.tf + s.tf1 < s.h)) return std::nullopt;
+Corners AsymmetricI(const Sizes& s) {
+  if (!(s.tw > 0.0 && s.tw < s.b && s.tw < s.b1)) return {};
+  if (!(s.tf > 0.0 && s.tf1 > 0.0 && s.tf + s.tf1 < s.h)) return {};
   const double web = s.tw / 2.0;
   const double top = s.h - s.tf1;
-  return RegionOf({{{-s.b / 2.0, 0.0}},
-                   {{s.b / 2.0, 0.0}},
-                   {{s.b / 2.0, s.tf}},
-                   {{web, s.tf}, s.r},
-                   {{web, top}, s.r1},
-                   {{s.b1 / 2.0, top}},
-                   {{s.b1 / 2.0, s.h}},
-                   {{-s.b1 / 2.0, s.h}},
-                   {{-s.b1 / 2.0, top}},
-                   {{-web, top}, s.r1},
-                   {{-web, s.tf}, s.r},
-                   {{-s.b / 2.0, s.tf}}});
+  return {{{-s.b / 2.0, 0.0}},  {{s.b / 2.0, 0.0}},  {{s.b / 2.0, s.tf}}, {{web, s.tf}, s.r},
+          {{web, top}, s.r1},   {{s.b1 / 2.0, top}}, {{s.b1 / 2.0, s.h}}, {{-s.b1 / 2.0, s.h}},
+          {{-s.b1 / 2.0, top}}, {{-web, top}, s.r1}, {{-web, s.tf}, s.r}, {{-s.b / 2.0, s.tf}}};
 }
 
-std::optional<Region> SymmetricI(const Sizes& s) {
+Corners SymmetricI(const Sizes& s) {
   Sizes both = s;
   both.b1 = s.b;
   both.tf1 = s.tf;
@@ -135,130 +118,131 @@ std::optional<Region> SymmetricI(const Sizes& s) {
   return AsymmetricI(both);
 }
 
-std::optional<Region> U(const Sizes& s) {
+Corners U(const Sizes& s) {
   const double toe = s.tf - s.b / 2.0 * s.k;
   const double root = s.tf + (s.b / 2.0 - s.tw) * s.k;
-  if (!(s.tw > 0.0 && s.tw < s.b && toe > 0.0 && root > 0.0)) return std::nullopt;
-  if (!(2.0 * std::max(toe, root) < s.h)) return std::nullopt;
-  return RegionOf({{{0.0, 0.0}},
-                   {{s.b, 0.0}},
-                   {{s.b, toe}, s.r1},
-                   {{s.tw, root}, s.r},
-                   {{s.tw, s.h - root}, s.r},
-                   {{s.b, s.h - toe}, s.r1},
-                   {{s.b, s.h}},
-                   {{0.0, s.h}}});
+  if (!(s.tw > 0.0 && s.tw < s.b && toe > 0.0 && root > 0.0)) return {};
+  if (!(2.0 * std::max(toe, root) < s.h)) return {};
+  return {{{0.0, 0.0}},
+          {{s.b, 0.0}},
+          {{s.b, toe}, s.r1},
+          {{s.tw, root}, s.r},
+          {{s.tw, s.h - root}, s.r},
+          {{s.b, s.h - toe}, s.r1},
+          {{s.b, s.h}},
+          {{0.0, s.h}}};
 }
 
-std::optional<Region> L(const Sizes& s) {
+Corners L(const Sizes& s) {
   // The inner faces are y = t + (b / 2 - x) k and x = t + (h / 2 - y) k.
   const double toeOfB = s.t - s.b / 2.0 * s.k;
   const double toeOfH = s.t - s.h / 2.0 * s.k;
   const double y = (s.t + s.k * s.b / 2.0 - s.k * s.t - s.k * s.k * s.h / 2.0) / (1.0 - s.k * s.k);
   const double x = s.t + (s.h / 2.0 - y) * s.k;
-  if (!(toeOfB > 0.0 && toeOfH > 0.0 && x > 0.0 && y > 0.0)) return std::nullopt;
-  if (!(std::max(x, toeOfH) < s.b && std::max(y, toeOfB) < s.h)) return std::nullopt;
-  return RegionOf({{{0.0, 0.0}},
-                   {{s.b, 0.0}},
-                   {{s.b, toeOfB}, s.r1},
-                   {{x, y}, s.r},
-                   {{toeOfH, s.h}, s.r1},
-                   {{0.0, s.h}}});
+  if (!(toeOfB > 0.0 && toeOfH > 0.0 && x > 0.0 && y > 0.0)) return {};
+  if (!(std::max(x, toeOfH) < s.b && std::max(y, toeOfB) < s.h)) return {};
+  return {{{0.0, 0.0}},  {{s.b, 0.0}},          {{s.b, toeOfB}, s.r1},
+          {{x, y}, s.r}, {{toeOfH, s.h}, s.r1}, {{0.0, s.h}}};
 }
 
-std::optional<Region> T(const Sizes& s) {
+Corners T(const Sizes& s) {
   const double toe = s.tf - s.b / 4.0 * s.k;
   const double root = s.tf + (s.b / 4.0 - s.tw / 2.0) * s.k;
-  if (!(s.tw > 0.0 && s.tw < s.b && toe > 0.0 && root > 0.0)) return std::nullopt;
-  if (!(std::max(toe, root) < s.h)) return std::nullopt;
+  if (!(s.tw > 0.0 && s.tw < s.b && toe > 0.0 && root > 0.0)) return {};
+  if (!(std::max(toe, root) < s.h)) return {};
   const double web = s.tw / 2.0;
-  return RegionOf({{{-web, 0.0}},
-                   {{web, 0.0}},
-                   {{web, s.h - root}, s.r},
-                   {{s.b / 2.0, s.h - toe}, s.r1},
-                   {{s.b / 2.0, s.h}},
-                   {{-s.b / 2.0, s.h}},
-                   {{-s.b / 2.0, s.h - toe}, s.r1},
-                   {{-web, s.h - root}, s.r}});
+  return {{{-web, 0.0}},
+          {{web, 0.0}},
+          {{web, s.h - root}, s.r},
+          {{s.b / 2.0, s.h - toe}, s.r1},
+          {{s.b / 2.0, s.h}},
+          {{-s.b / 2.0, s.h}},
+          {{-s.b / 2.0, s.h - toe}, s.r1},
+          {{-web, s.h - root}, s.r}};
 }
 
-std::optional<Region> Z(const Sizes& s) {
-  if (!(s.tw > 0.0 && s.tw < s.b && s.tf > 0.0 && 2.0 * s.tf < s.h)) return std::nullopt;
+Corners Z(const Sizes& s) {
+  if (!(s.tw > 0.0 && s.tw < s.b && s.tf > 0.0 && 2.0 * s.tf < s.h)) return {};
   const double web = s.tw / 2.0;
-  return RegionOf({{{-web, 0.0}},
-                   {{s.b - web, 0.0}},
-                   {{s.b - web, s.tf}, s.r1},
-                   {{web, s.tf}, s.r},
-                   {{web, s.h}},
-                   {{web - s.b, s.h}},
-                   {{web - s.b, s.h - s.tf}, s.r1},
-                   {{-web, s.h - s.tf}, s.r}});
+  return {{{-web, 0.0}},
+          {{s.b - web, 0.0}},
+          {{s.b - web, s.tf}, s.r1},
+          {{web, s.tf}, s.r},
+          {{web, s.h}},
+          {{web - s.b, s.h}},
+          {{web - s.b, s.h - s.tf}, s.r1},
+          {{-web, s.h - s.tf}, s.r}};
 }
 
-std::optional<Region> C(const Sizes& s) {
-  if (!(s.t > 0.0 && 2.0 * s.t < s.b && s.t < s.c && 2.0 * s.c < s.h)) return std::nullopt;
+Corners C(const Sizes& s) {
+  if (!(s.t > 0.0 && 2.0 * s.t < s.b && s.t < s.c && 2.0 * s.c < s.h)) return {};
   const double outside = s.r > 0.0 ? s.r + s.t : s.r;
-  return RegionOf({{{0.0, 0.0}, outside},
-                   {{s.b, 0.0}, outside},
-                   {{s.b, s.c}},
-                   {{s.b - s.t, s.c}},
-                   {{s.b - s.t, s.t}, s.r},
-                   {{s.t, s.t}, s.r},
-                   {{s.t, s.h - s.t}, s.r},
-                   {{s.b - s.t, s.h - s.t}, s.r},
-                   {{s.b - s.t, s.h - s.c}},
-                   {{s.b, s.h - s.c}},
-                   {{s.b, s.h}, outside},
-                   {{0.0, s.h}, outside}});
+  return {{{0.0, 0.0}, outside},   {{s.b, 0.0}, outside},         {{s.b, s.c}},
+          {{s.b - s.t, s.c}},      {{s.b - s.t, s.t}, s.r},       {{s.t, s.t}, s.r},
+          {{s.t, s.h - s.t}, s.r}, {{s.b - s.t, s.h - s.t}, s.r}, {{s.b - s.t, s.h - s.c}},
+          {{s.b, s.h - s.c}},      {{s.b, s.h}, outside},         {{0.0, s.h}, outside}};
 }
 
-std::optional<Region> Arbitrary(const Sizes& /*sizes*/) { return std::nullopt; }
+using CornerMaker = Corners (*)(const Sizes&);
+using RegionMaker = std::optional<Region> (*)(const Sizes&);
 
-// By ProfileShape.
-constexpr std::array<std::optional<Region> (*)(const Sizes&), 15> kMakers = {Arbitrary,
-                                                                             Rectangle,
-                                                                             RoundedRectangle,
-                                                                             HollowRectangle,
-                                                                             Circle,
-                                                                             HollowCircle,
-                                                                             Ellipse,
-                                                                             Trapezium,
-                                                                             SymmetricI,
-                                                                             AsymmetricI,
-                                                                             U,
-                                                                             L,
-                                                                             T,
-                                                                             Z,
-                                                                             C};
+// By ProfileShape. A shape has a maker in one of the tables, kArbitrary in none.
+constexpr std::array<CornerMaker, 15> kCornerMakers = {
+    nullptr,   Rectangle,  RoundedRectangle, nullptr, nullptr, nullptr, nullptr,
+    Trapezium, SymmetricI, AsymmetricI,      U,       L,       T,       Z,
+    C};
+constexpr std::array<RegionMaker, 15> kRegionMakers = {
+    nullptr, nullptr, nullptr, HollowRectangle, Circle,  HollowCircle, Ellipse, nullptr,
+    nullptr, nullptr, nullptr, nullptr,         nullptr, nullptr,      nullptr};
 
-}  // namespace
-
-std::optional<Region> ShapeRegion(ProfileShape shape, const ProfileParameters& parameters) {
+// None if a size is not finite, too large or negative.
+std::optional<Sizes> SizesOf(const ProfileParameters& parameters) {
   const auto size = [&parameters](ProfileParameter parameter) {
     return parameters[static_cast<std::size_t>(parameter)];
   };
   using enum ProfileParameter;
   for (std::size_t i = 0; i < kProfileParameterCount; ++i) {
-    const bool isSigned =
-        i == static_cast<std::size_t>(kOffset) || i == static_cast<std::size_t>(kSlope);
+    const auto parameter = static_cast<ProfileParameter>(i);
     if (!(std::abs(parameters[i]) < kLargestSize)) return std::nullopt;
-    if (parameters[i] < 0.0 && !isSigned) return std::nullopt;
+    if (parameters[i] < 0.0 && parameter != kOffset && parameter != kSlope) return std::nullopt;
   }
   if (std::abs(size(kSlope)) > kSteepestSlope) return std::nullopt;
-  if (static_cast<std::size_t>(shape) >= kMakers.size()) return std::nullopt;
-  return kMakers[static_cast<std::size_t>(shape)]({.h = size(kH),
-                                                   .b = size(kB),
-                                                   .b1 = size(kB1),
-                                                   .d = size(kD),
-                                                   .t = size(kT),
-                                                   .tw = size(kTw),
-                                                   .tf = size(kTf),
-                                                   .tf1 = size(kTf1),
-                                                   .c = size(kC),
-                                                   .r = size(kR),
-                                                   .r1 = size(kR1),
-                                                   .k = std::tan(size(kSlope)),
-                                                   .offset = size(kOffset)});
+  return Sizes{.h = size(kH),
+               .b = size(kB),
+               .b1 = size(kB1),
+               .d = size(kD),
+               .t = size(kT),
+               .tw = size(kTw),
+               .tf = size(kTf),
+               .tf1 = size(kTf1),
+               .c = size(kC),
+               .r = size(kR),
+               .r1 = size(kR1),
+               .k = std::tan(size(kSlope)),
+               .offset = size(kOffset)};
+}
+
+}  // namespace
+
+std::vector<RoundedCorner> ShapeCorners(ProfileShape shape, const ProfileParameters& parameters) {
+  const auto at = static_cast<std::size_t>(shape);
+  const auto sizes = SizesOf(parameters);
+  if (!sizes || at >= kCornerMakers.size() || kCornerMakers[at] == nullptr) return {};
+  Corners corners = kCornerMakers[at](*sizes);
+  if (!corners.empty()) Centre(corners);
+  return corners;
+}
+
+std::optional<Region> ShapeRegion(ProfileShape shape, const ProfileParameters& parameters) {
+  const auto at = static_cast<std::size_t>(shape);
+  const auto sizes = SizesOf(parameters);
+  if (!sizes || at >= kRegionMakers.size()) return std::nullopt;
+  if (kRegionMakers[at] != nullptr) return kRegionMakers[at](*sizes);
+  const Corners corners = ShapeCorners(shape, parameters);
+  if (corners.empty()) return std::nullopt;
+  auto contour = RoundedContour(corners);
+  if (!contour) return std::nullopt;
+  return Region{std::move(*contour), {}};
 }
 
 }  // namespace KelIFC::building

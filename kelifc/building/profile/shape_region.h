@@ -7,6 +7,7 @@
 
 #include "kelifc/building/facts/contour.h"
 #include "kelifc/building/profile.h"
+#include "kelifc/building/profile/rounded_contour.h"
 
 namespace KelIFC::building {
 
@@ -21,6 +22,11 @@ using ProfileParameters = std::array<double, kProfileParameterCount>;
 ///
 /// None for kArbitrary, and if the sizes make no shape.
 std::optional<Region> ShapeRegion(ProfileShape shape, const ProfileParameters& parameters);
+
+/// The corners of the outer contour of a shape with straight edges, counter-clockwise in the order
+/// in which the shape is described, with the radius of each. Empty for round and hollow shapes and
+/// if the sizes make no shape.
+std::vector<RoundedCorner> ShapeCorners(ProfileShape shape, const ProfileParameters& parameters);
 
 }  // namespace KelIFC::building
 

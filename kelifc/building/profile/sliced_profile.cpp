@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "kelifc/building/profile/make_profile.h"
+#include "kelifc/building/profile/recognise.h"
 
 namespace KelIFC::building {
 
@@ -26,21 +27,6 @@ double PrincipalRotation(const RegionProperties& properties) {
   if (std::abs(rotation) < kSmallestRotation) return 0.0;
   if (kQuarter - std::abs(rotation) < kSmallestRotation) return kQuarter;
   return rotation;
-}
-
-// The direction of the longest edge against the nearest axis, from -45 to 45 degrees.
-double RotationOfLongestEdge(const Outline& outline) {
-  double longest = -1.0;
-  Vector2 direction(1.0, 0.0);
-  for (std::size_t i = 0; i < outline.size(); ++i) {
-    const Vector2 edge = outline[(i + 1) % outline.size()] - outline[i];
-    if (Length(edge) > longest * (1.0 + 1e-9)) {
-      longest = Length(edge);
-      direction = edge;
-    }
-  }
-  const double rotation = std::remainder(std::atan2(direction.y, direction.x), kQuarter);
-  return std::abs(rotation) < kSmallestRotation ? 0.0 : rotation;
 }
 
 // Subtracts a point and turns by minus the rotation; exactly for multiples of 90 degrees.
@@ -102,13 +88,18 @@ SlicedProfile MakeProfile(const FlatRegion& region, const std::string& name) {
   const RegionProperties properties = PropertiesOf(region);
   SlicedProfile sliced;
   sliced.centroid = properties.centroid;
-  if (IsIsotropic(properties)) {
-    sliced.rotation = RotationOfLongestEdge(region.outer);
-  } else {
+  if (!IsIsotropic(properties)) {
     sliced.rotation = PrincipalRotation(properties);
+  } else if (!Recognise(region)) {
+    sliced.rotation = RotationOfLongestEdge(region.outer);
   }
   sliced.profile = ProfileIn(region, properties, sliced.rotation);
   sliced.profile.name = name;
+  if (const auto found = RecogniseTurned({sliced.profile.outline, sliced.profile.holes})) {
+    sliced.profile.shape = found->shape;
+    sliced.profile.parameters = found->parameters;
+  }
+  Designate(sliced.profile);
   return sliced;
 }
 

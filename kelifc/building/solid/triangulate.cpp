@@ -86,6 +86,7 @@ class Ring {
         [&](std::uint32_t edge) {
           // Joins have cut the edge into parts, which are a chain.
           for (std::uint32_t i = edge; i != kNone; i = parts[i]) {
+            if (i == corner || next[i] == corner) continue;
             const double x = CrossingOf(At(i), At(next[i]), place.y);
             // The region is to the right of edges that run down.
             if (x <= place.x && x > bestX && At(next[i]).y < At(i).y) {

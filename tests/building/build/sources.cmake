@@ -1,2 +1,9 @@
 set(stage_tests
+  assemble_test.cpp
+  body_maker_test.cpp
+  openings_test.cpp
+  storeys_test.cpp
+  idealise_member_test.cpp
+  idealise_surface_test.cpp
+  idealise_test.cpp
 )

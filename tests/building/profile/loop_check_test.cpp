@@ -80,6 +80,17 @@ TEST(LoopCheck, AcceptsACombOfManyTeeth) {
   EXPECT_FALSE(IsSimple({comb, {}}));
 }
 
+TEST(LoopCheck, AcceptsManyHolesThatTouchTheOuterLoop) {
+  FlatRegion region{{{0, 0}, {3, 0}, {3, 1000}, {0, 1000}}, {}};
+  for (int i = 0; i < 400; ++i) {
+    const double y = 1.0 + 2.0 * i;
+    region.holes.push_back({{0, y}, {0, y + 1}, {1, y + 1}, {1, y}});
+  }
+  EXPECT_TRUE(IsSimple(region));
+  region.holes.push_back({{-1, 5}, {-1, 6}, {-0.5, 6}, {-0.5, 5}});
+  EXPECT_FALSE(IsSimple(region));
+}
+
 TEST(LoopCheck, AcceptsAHoleThatTouchesTheOuterLoop) {
   const Outline square{{0, 0}, {2, 0}, {2, 2}, {0, 2}};
   EXPECT_TRUE(IsSimple({square, {{{1, 0}, {0, 1}, {1, 2}, {2, 1}}}}));

@@ -75,6 +75,17 @@ TEST(MakeProfile, AScaleOfThePositionScalesTheSizes) {
   EXPECT_NEAR(placed->profile[kSlope], 0.05, 1e-15);
 }
 
+TEST(MakeProfile, AHoleWithoutAnAreaChangesNothing) {
+  ProfileFacts facts;
+  const Contour square{{{0, 0}, {2, 0}, {2, 2}, {0, 2}}, {}};
+  facts.regions = {{square, {{{{1, 1}, {1.5, 1}, {1.2, 1.00000001}}, {}}}}};
+  const auto placed = MakeProfile(facts);
+  ASSERT_TRUE(placed);
+  EXPECT_TRUE(placed->profile.holes.empty());
+  EXPECT_EQ(placed->profile.area, 4.0);
+  EXPECT_EQ(placed->profile.shape, ProfileShape::kRectangle);
+}
+
 TEST(MakeProfile, FactsWithoutARegionOrWithSeveralGiveNone) {
   EXPECT_FALSE(MakeProfile(FactsOf(ProfileShape::kCircle, {{kD, -1}})));
   ProfileFacts facts;

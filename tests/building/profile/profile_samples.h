@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <initializer_list>
+#include <numbers>
 #include <utility>
 
 #include "kelifc/building/profile/make_profile.h"
@@ -28,6 +29,30 @@ inline Transform2 Rotated(double angle, bool isMirrored = false) {
   const double s = std::sin(angle);
   const double side = isMirrored ? -1.0 : 1.0;
   return {{c, s}, {-s * side, c * side}, {}};
+}
+
+inline Outline RegularPolygon(int count, double radius, const Point2& centre) {
+  Outline outline;
+  for (int i = 0; i < count; ++i) {
+    const double angle = 2.0 * std::numbers::pi * i / count;
+    outline.emplace_back(centre.x + radius * std::cos(angle), centre.y + radius * std::sin(angle));
+  }
+  return outline;
+}
+
+/// A square around the origin whose corners are arcs of so many chords.
+inline Outline RoundedSquare(double side, double radius, int chords) {
+  Outline outline;
+  const double reach = side / 2.0 - radius;
+  for (int corner = 0; corner < 4; ++corner) {
+    const double x = corner == 0 || corner == 3 ? reach : -reach;
+    const double y = corner < 2 ? reach : -reach;
+    for (int i = 0; i <= chords; ++i) {
+      const double angle = std::numbers::pi / 2.0 * (corner + static_cast<double>(i) / chords);
+      outline.emplace_back(x + radius * std::cos(angle), y + radius * std::sin(angle));
+    }
+  }
+  return outline;
 }
 
 }  // namespace KelIFC::building

@@ -1,8 +1,15 @@
 set(stage_tests
+  designate_test.cpp
+  find_circle_test.cpp
+  find_corners_test.cpp
   flatten_test.cpp
   loop_check_test.cpp
   make_profile_test.cpp
+  profile_key_test.cpp
+  profile_name_test.cpp
+  recognise_test.cpp
   regions_of_test.cpp
   section_moments_test.cpp
   sliced_profile_test.cpp
+  standard_sections_test.cpp
 )

@@ -364,7 +364,7 @@ TYPED_TEST(Columns, AreConvertedWithoutAStorey) {
   this->AddColumn(m.Extrusion(m.Circle(0.2), 3));
   this->Convert();
   const auto column = Only(this->GetColumns());
-  EXPECT_EQ(Get(*column, &IGeoObject::get_StoreyNumber), 32767);
+  EXPECT_EQ(GetValue(*column, &IGeoObject::get_StoreyNumber), 32767);
 }
 
 TYPED_TEST(Columns, SurviveUnsetAttributes) {

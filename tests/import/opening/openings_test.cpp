@@ -180,9 +180,9 @@ TYPED_TEST(Openings, OfASlabAreHolesWhateverFillsThem) {
   EXPECT_EQ(this->NameOf(*hole), L"hole");
   EXPECT_THAT(PointsOf(*hole), ElementsAre(IsAt(-1, -0.5, 10.2), IsAt(1, -0.5, 10.2),
                                            IsAt(1, 0.5, 10.2), IsAt(-1, 0.5, 10.2)));
-  EXPECT_EQ(
-      Get(static_cast<IGeoPolyline&>(*hole.template As<IGeoPolyline>()), &IGeoPolyline::get_Closed),
-      VARIANT_FALSE);
+  EXPECT_EQ(GetValue(static_cast<IGeoPolyline&>(*hole.template As<IGeoPolyline>()),
+                     &IGeoPolyline::get_Closed),
+            VARIANT_FALSE);
 }
 
 TYPED_TEST(Openings, OfASlabAreKeptWithoutAContour) {

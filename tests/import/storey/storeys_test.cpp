@@ -32,9 +32,9 @@ std::vector<Seen> ReadStoreys(const ComPtr<IIFCServer>& server) {
   for (LONG i = 1; i <= CountOf(*storeys); ++i) {
     ComPtr<IGeoStorey> storey;
     EXPECT_EQ(storeys->Item(i, storey.Put()), S_OK);
-    seen.push_back({Get(*storey, &IGeoStorey::get_Number), Get(*storey, &IGeoStorey::get_Level),
-                    Get(*storey, &IGeoStorey::get_Height),
-                    GetText(*storey, &IGeoStorey::get_Name)});
+    seen.push_back(
+        {GetValue(*storey, &IGeoStorey::get_Number), GetValue(*storey, &IGeoStorey::get_Level),
+         GetValue(*storey, &IGeoStorey::get_Height), GetText(*storey, &IGeoStorey::get_Name)});
   }
   return seen;
 }

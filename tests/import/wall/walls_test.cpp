@@ -32,7 +32,7 @@ TYPED_TEST(Walls, AreTheDiagonalOfTheirMiddlePlane) {
   const auto wall = Only(this->GetWalls());
   EXPECT_THAT(PointsOf(*wall), ElementsAre(IsAt(10, -2.5, 0), IsAt(10, 2.5, 3)));
   EXPECT_EQ(this->SectionOf(*wall), L"IFC_H_20");
-  EXPECT_EQ(Get(*wall, &IGeoWall::get_IsOpen), VARIANT_FALSE);
+  EXPECT_EQ(GetValue(*wall, &IGeoWall::get_IsOpen), VARIANT_FALSE);
 }
 
 TYPED_TEST(Walls, HaveTheirLengthAlongXWhateverIsLonger) {

@@ -71,13 +71,15 @@ TEST(EmitHeader, NamesThePlacesOfWhatIsWrittenByHand) {
       Resolved(
           "entity IfcA : IfcUnknown all file\n  doc A.\n  make (REAL x, REAL y)\n  custom Parse\n"
           "  ops GetN: integer,\n      GetM: integer\n  tell GetN N.\n  tell GetM M.\n"
+          "  tell IfcA(REAL x, REAL y) Two numbers.\n"
           "function IfcTurn(const IfcA& a): REAL\n  doc Turns.\n",
           "// entity IfcA\n\nIfcA::IfcA(REAL x, REAL y) {}\nINTEGER IfcA::GetN() const {}\n"
           "INTEGER IfcA::GetM() const {}\nconst char* IfcA::Parse(const char* cursor) {}\n"
           "// function IfcTurn\nREAL IfcTurn(const IfcA& a) {}\n")
           .Header();
-  EXPECT_TRUE(
-      Holds(header, "  // Description: f.schema:4. Body: f.inl:3.\n  IfcA(REAL x, REAL y);\n"));
+  EXPECT_TRUE(Holds(header,
+                    "  /// Two numbers.\n  // Description: f.schema:4. Body: f.inl:3.\n  IfcA(REAL "
+                    "x, REAL y);\n"));
   EXPECT_TRUE(Holds(header,
                     "  // Description: f.schema:5. Body: f.inl:6.\n"
                     "  const char* Parse(const char* cursor) override;\n"));
@@ -86,8 +88,22 @@ TEST(EmitHeader, NamesThePlacesOfWhatIsWrittenByHand) {
                     "  virtual INTEGER GetN() const;\n"));
   EXPECT_TRUE(Holds(header, "  // Description: f.schema:7. Body: f.inl:5.\n"));
   EXPECT_TRUE(Holds(header,
-                    "// Description: f.schema:10. Body: f.inl:8.\n"
+                    "// Description: f.schema:11. Body: f.inl:8.\n"
                     "KELIFC_API REAL IfcTurn(const IfcA& a);\n"));
+}
+
+TEST(EmitHeader, WantsACommentOnEachConstructor) {
+  EXPECT_EQ(
+      Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  make (REAL x)\n  make (REAL x, REAL y)\n"
+              "  tell IfcA(REAL x) One number.\n"),
+      "f.schema:5:3: error: no line tells what IfcA(REAL x, REAL y) does");
+}
+
+TEST(EmitHeader, NamesTheReleaseAsPeopleWriteIt) {
+  const std::string body = "entity IfcA : IfcUnknown all\n  doc A.\n";
+  EXPECT_TRUE(Holds(Resolved(body, k151).Header(), "/// A family, release 1.5.1.\n"));
+  EXPECT_TRUE(Holds(Resolved(body, k20).Header(), "/// A family, release 2.0.\n"));
+  EXPECT_TRUE(Holds(Resolved(body, k2x3).Header(), "/// A family, release 2x3.\n"));
 }
 
 }  // namespace

@@ -35,7 +35,7 @@ TEST(EmitReference, ListsEnumerationsAndDefinedTypes) {
   const std::string page = PageOf(
       "enum IfcKind\n  doc Kinds.\n  ..20 A 1\n  2x.. A 2 B 3\n"
       "type IfcText : IfcValue string 2x2.. file\n  doc A text.\n");
-  EXPECT_TRUE(Holds(page, "Release 151, 20: `A` 1."));
+  EXPECT_TRUE(Holds(page, "Release 1.5.1, 2.0: `A` 1."));
   EXPECT_TRUE(Holds(page, "Release 2x, 2x2, 2x3: `A` 2, `B` 3."));
   EXPECT_TRUE(Holds(page, "A text. A `IfcValue` and a `STRING`."));
 }

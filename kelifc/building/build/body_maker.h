@@ -1,0 +1,53 @@
+#ifndef KELIFC_BUILDING_BUILD_BODY_MAKER_H_
+#define KELIFC_BUILDING_BUILD_BODY_MAKER_H_
+
+#include <cstddef>
+#include <unordered_map>
+#include <vector>
+
+#include "kelifc/building/facts/solid_facts.h"
+#include "kelifc/building/facts/transform3.h"
+#include "kelifc/building/read_building.h"
+#include "kelifc/building/solid/body.h"
+
+namespace KelIFC::building {
+
+/// Makes the bodies of a model, with its limits. A representation that several products map is
+/// evaluated once, in its own coordinates, and moved to each place.
+class BodyMaker {
+ public:
+  explicit BodyMaker(const ReadingOptions& options)
+      : pointsLeft(options.maxPoints),
+        maxBodyPoints(options.maxBodyPoints),
+        depth(options.maxDepth) {}
+
+  /// Announces one call of Make. Only what was announced more than once is shared.
+  void Announce(const std::vector<SolidPointer>& items);
+
+  /// Makes a body in the coordinates to which `placement` leads. The fault is kLimit after the
+  /// bodies of the model have too many points.
+  BodyResult Make(const std::vector<SolidPointer>& items, const Transform3& placement);
+
+ private:
+  struct Shared {
+    std::size_t usesLeft = 0;
+    bool isMade = false;
+    std::vector<SolidPointer> items;
+    BodyResult result;  // in the coordinates of the items
+  };
+
+  Shared* FindShared(const std::vector<SolidPointer>& items);
+  BodyResult Evaluate(const std::vector<SolidPointer>& items, const Transform3& placement);
+  void Charge(std::size_t points);
+
+  // The key is the first of the mapped items. It is compared and never ordered, so results do not
+  // depend on addresses.
+  std::unordered_map<const Solid*, Shared> shared;
+  std::size_t pointsLeft;
+  std::size_t maxBodyPoints;
+  std::size_t depth;
+};
+
+}  // namespace KelIFC::building
+
+#endif  // KELIFC_BUILDING_BUILD_BODY_MAKER_H_

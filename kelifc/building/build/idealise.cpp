@@ -1,0 +1,124 @@
+#include "kelifc/building/build/idealise.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+#include "kelifc/building/build/idealise_direct.h"
+#include "kelifc/building/build/idealise_reading.h"
+#include "kelifc/building/build/idealise_slices.h"
+#include "kelifc/building/build/idealise_surface.h"
+#include "kelifc/building/build/point_match.h"
+
+namespace KelIFC::building {
+namespace {
+
+using namespace idealising;
+
+// Bodies of more faces are not sliced: they are no prisms, and slices of them are costly.
+constexpr std::size_t kMostFaces = 200'000;
+
+Idealisation AsBody(const EvaluatedBody& body) {
+  Idealisation result;
+  result.box = body.box;
+  result.volume = body.volume;
+  if (body.isClosed) result.volumeRatio = 1.0;
+  result.isApproximate = !body.isClosed || !body.isExact;
+  return result;
+}
+
+void Move(std::vector<Point3>& points, const Vector3& by) {
+  for (Point3& p : points) p += by;
+}
+
+void MoveMember(MemberAxis& member, const Vector3& by) {
+  Move(member.points, by);
+  for (std::optional<EndPlane>& end : member.ends) {
+    if (end) end->point += by;
+  }
+}
+
+void MoveSurface(SurfaceRegion& surface, const Vector3& by) {
+  Move(surface.outline, by);
+  for (OutlineArc& arc : surface.arcs) arc.through += by;
+  for (std::vector<Point3>& hole : surface.holes) Move(hole, by);
+  if (surface.sweep) Move(surface.sweep->points, by);
+}
+
+void Take(Reading reading, const Subject& subject, const SingleSolid& single,
+          Idealisation& result) {
+  const Vector3& centre = subject.boundary.Centre();
+  result.kind = reading.kind;
+  result.box = BoxOf(reading.solid);
+  result.box.min += centre;
+  result.box.max += centre;
+  result.volume = reading.fit.volume;
+  result.deviation = reading.fit.deviation;
+  result.volumeRatio = reading.fit.ratio;
+  result.isApproximate = result.isApproximate || reading.fit.isApproximate;
+  result.cutouts = reading.fit.cutouts;
+  if (reading.kind == ElementKind::kMember) {
+    MoveMember(reading.member, centre);
+    result.member = std::move(reading.member);
+    result.profile = std::move(reading.profile);
+    result.endProfile = std::move(reading.endProfile);
+    return;
+  }
+  FinishSurface(subject, ProfilePlaneOf(single, reading.surface.normal), centre, reading.surface);
+  MoveSurface(reading.surface, centre);
+  result.surface = std::move(reading.surface);
+}
+
+// True if the boundary falls into parts that have no point in common.
+bool HasSeveralParts(Boundary& boundary) {
+  const Mesh& mesh = boundary.Mesh();
+  const std::vector<std::size_t> welded = Weld(mesh.points, 1e-6);
+  std::vector<std::size_t> parent = welded;
+  const auto root = [&](std::size_t i) {
+    while (parent[i] != i) {
+      parent[i] = parent[parent[i]];
+      i = parent[i];
+    }
+    return i;
+  };
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    const std::size_t first = mesh.LoopOf(face, 0)[0];
+    for (std::size_t loop = 0; loop < mesh.LoopCount(face); ++loop) {
+      for (const Mesh::Index i : mesh.LoopOf(face, loop)) parent[root(i)] = root(first);
+    }
+  }
+  const std::size_t whole = root(mesh.LoopOf(0, 0)[0]);
+  for (std::size_t face = 1; face < mesh.FaceCount(); ++face) {
+    if (root(mesh.LoopOf(face, 0)[0]) != whole) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+Idealisation Idealise(const IdealisationInput& input) {
+  if (input.body == nullptr) return {};
+  const EvaluatedBody& body = *input.body;
+  const SingleSolid single =
+      input.product != nullptr ? FindSingleSolid(*input.product) : SingleSolid();
+  Idealisation result = AsBody(body);
+  result.source = SourceOf(input.product, single, body);
+  Boundary boundary(body);
+  if (!boundary.IsUsable()) return result;
+  result.isApproximate = !body.isExact;
+  Subject subject{boundary, input.product, input.role};
+  std::optional<Reading> best = ReadDirect(subject, single);
+  if (!IsGood(best) && body.mesh.FaceCount() <= kMostFaces) {
+    KeepBetter(best, ReadBySlices(subject, DirectionsOf(single)));
+  }
+  if (best && IsAcceptable(*best)) {
+    Take(std::move(*best), subject, single, result);
+    return result;
+  }
+  const BodySource source = HasSeveralParts(boundary) ? BodySource::kMulti : result.source;
+  result = AsBody(body);
+  result.source = source;
+  return result;
+}
+
+}  // namespace KelIFC::building

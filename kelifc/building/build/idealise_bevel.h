@@ -1,0 +1,23 @@
+#ifndef KELIFC_BUILDING_BUILD_IDEALISE_BEVEL_H_
+#define KELIFC_BUILDING_BUILD_IDEALISE_BEVEL_H_
+
+#include <optional>
+
+#include "kelifc/building/build/idealise_boundary.h"
+#include "kelifc/building/build/idealise_scan.h"
+
+namespace KelIFC::building::idealising {
+
+/// Turns the points of a loop so that their places correspond to those of another one. False if
+/// their numbers differ or are large.
+bool Align(const Outline& model, Outline& loop);
+
+/// The outline of a plate whose rim is not square to it, as at the mitre of a wall or at the eaves
+/// of a roof: around the sections at both faces. `section` is the one in the middle. None if the
+/// sections do not correspond, or if no edge is bevelled.
+std::optional<Outline> OutlineAroundBevels(Boundary& boundary, const PlaneFrame& plane,
+                                           const Section& section, const Span& span);
+
+}  // namespace KelIFC::building::idealising
+
+#endif  // KELIFC_BUILDING_BUILD_IDEALISE_BEVEL_H_

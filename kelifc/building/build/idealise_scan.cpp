@@ -1,0 +1,107 @@
+#include "kelifc/building/build/idealise_scan.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace KelIFC::building::idealising {
+namespace {
+
+// Points of an outline nearer than this to the line of their neighbours are left out, in metres.
+constexpr double kCollinear = 2e-5;
+
+// Coordinates nearer to each other than this are one, in metres.
+constexpr double kSameCoordinate = 1e-6;
+
+// Sections are the same if their sizes differ by less, in metres.
+constexpr double kSameSize = 5e-4;
+
+struct Interval {
+  double from = 0.0;
+  double to = 0.0;
+};
+
+// The longest intervals without points, longest first.
+std::vector<Interval> FindIntervals(const Boundary& boundary, const Vector3& normal,
+                                    const Span& span) {
+  std::vector<double> coordinates{span.from, span.to};
+  for (const Point3& p : boundary.Points()) {
+    const double at = At(p, normal);
+    if (at > span.from && at < span.to) coordinates.push_back(at);
+  }
+  std::sort(coordinates.begin(), coordinates.end());
+  std::vector<Interval> intervals;
+  for (std::size_t i = 0; i + 1 < coordinates.size(); ++i) {
+    if (coordinates[i + 1] - coordinates[i] > kSameCoordinate) {
+      intervals.push_back({coordinates[i], coordinates[i + 1]});
+    }
+  }
+  std::stable_sort(intervals.begin(), intervals.end(), [](const Interval& a, const Interval& b) {
+    return a.to - a.from > b.to - b.from;
+  });
+  if (intervals.size() > kMostStations) intervals.resize(kMostStations);
+  return intervals;
+}
+
+bool AreClose(const Span& a, const Span& b) {
+  return std::fabs(a.from - b.from) < kSameSize && std::fabs(a.to - b.to) < kSameSize;
+}
+
+bool AreSame(const Section& a, const Section& b) {
+  if (a.regionCount != b.regionCount || a.region.holes.size() != b.region.holes.size()) {
+    return false;
+  }
+  const Extent2 first = ExtentOf(a.region.outer);
+  const Extent2 second = ExtentOf(b.region.outer);
+  const double perimeter = PerimeterOf(a.region.outer);
+  return AreClose(first.x, second.x) && AreClose(first.y, second.y) &&
+         std::fabs(a.area - b.area) < kSameSize * perimeter;
+}
+
+}  // namespace
+
+double AreaOf(const FlatRegion& region) {
+  double area = std::fabs(AreaOf(region.outer));
+  for (const Outline& hole : region.holes) area -= std::fabs(AreaOf(hole));
+  return area;
+}
+
+std::optional<Section> SectionAt(Boundary& boundary, const PlaneFrame& plane, double at) {
+  const Vector3 normal = NormalOf(plane);
+  PlaneFrame moved = plane;
+  moved.origin += (at - At(plane.origin, normal)) * normal;
+  std::vector<FlatRegion> regions = Slice(boundary.Mesh(), moved, kCollinear);
+  if (regions.empty() || regions[0].outer.size() < 3) return std::nullopt;
+  Section section;
+  section.area = AreaOf(regions[0]);
+  section.at = at;
+  if (!(section.area > 1e-9)) return std::nullopt;
+  for (const FlatRegion& region : regions) {
+    if (AreaOf(region) > 1e-3 * section.area) ++section.regionCount;
+  }
+  section.region = std::move(regions[0]);
+  return section;
+}
+
+std::vector<Section> ScanSections(Boundary& boundary, const PlaneFrame& plane, const Span& span) {
+  std::vector<Section> sections;
+  for (const Interval& interval : FindIntervals(boundary, NormalOf(plane), span)) {
+    const double length = interval.to - interval.from;
+    std::optional<Section> section = SectionAt(boundary, plane, (interval.from + interval.to) / 2);
+    if (!section) continue;
+    section->length = length;
+    auto same = std::find_if(sections.begin(), sections.end(),
+                             [&](const Section& known) { return AreSame(known, *section); });
+    if (same != sections.end()) {
+      same->length += length;
+    } else {
+      same = sections.insert(same, std::move(*section));
+    }
+    const double longest = same->length;
+    if (longest > 0.5 * span.Length()) break;
+  }
+  std::stable_sort(sections.begin(), sections.end(),
+                   [](const Section& a, const Section& b) { return a.length > b.length; });
+  return sections;
+}
+
+}  // namespace KelIFC::building::idealising

@@ -1,0 +1,106 @@
+#include "kelifc/building/build/idealise_slices.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "kelifc/building/build/idealise_curved.h"
+#include "kelifc/building/build/idealise_directions.h"
+#include "kelifc/building/build/idealise_member.h"
+#include "kelifc/building/build/idealise_surface.h"
+
+namespace KelIFC::building::idealising {
+namespace {
+
+constexpr std::size_t kMostTrials = 8;
+constexpr double kLeastPromise = 0.03;
+
+struct Trial {
+  ElementKind kind = ElementKind::kMember;
+  Vector3 direction;
+  double suitability = 0.0;  // by the box of the boundary
+  double promise = 0.0;
+};
+
+// A plane across a direction, turned towards another direction that lies in it.
+PlaneFrame AlignedFrame(const std::vector<Direction>& directions, const Vector3& across) {
+  constexpr double kInPlane = 0.01;
+  const Direction* best = nullptr;
+  for (const Direction& direction : directions) {
+    if (std::fabs(Dot(direction.vector, across)) > kInPlane) continue;
+    if (best == nullptr || direction.length > best->length) best = &direction;
+  }
+  PlaneFrame frame = FrameAcross(across, {});
+  if (best == nullptr) return frame;
+  frame.x = Unit(best->vector - Dot(best->vector, across) * across);
+  frame.y = Cross(across, frame.x);
+  return frame;
+}
+
+Outline BoxAcross(const Boundary& boundary, const PlaneFrame& frame) {
+  Extent2 extent;
+  for (const Point3& p : boundary.Points()) extent.Add(Project(frame, p));
+  return {{extent.x.from, extent.y.from},
+          {extent.x.to, extent.y.from},
+          {extent.x.to, extent.y.to},
+          {extent.x.from, extent.y.to}};
+}
+
+// The part of the surface that runs along a direction or is square to it promises a prism. A
+// boundary of very many faces is sliced only along directions that promise much.
+double PrismPart(Subject& subject, const Direction& direction) {
+  constexpr std::size_t kManyFaces = 2000;
+  constexpr double kMuch = 0.25;
+  const double area = std::max(subject.boundary.Area(), 1e-12);
+  const double part = std::min(1.0, (direction.beside + direction.across) / area);
+  if (part < kMuch && subject.boundary.Faces().size() > kManyFaces) return 0.0;
+  return 0.3 + 0.7 * part;
+}
+
+std::vector<Trial> MakeTrials(Subject& subject, const std::vector<Direction>& directions) {
+  std::vector<Trial> trials;
+  for (const Direction& direction : directions) {
+    const Outline box = BoxAcross(subject.boundary, AlignedFrame(directions, direction.vector));
+    const double extent = subject.boundary.Along(direction.vector).Length();
+    const double prism = PrismPart(subject, direction);
+    Trial trial;
+    trial.direction = direction.vector;
+    trial.suitability = SuitabilityOfMember(subject.role, ProportionsOfMember(box, extent));
+    trial.promise = trial.suitability * prism;
+    trials.push_back(trial);
+    trial.kind = ElementKind::kSurface;
+    trial.suitability = SuitabilityOfSurface(subject.role, ProportionsOfSurface(box, {}, extent));
+    trial.promise = trial.suitability * prism + PreferenceOf(subject, direction.vector);
+    trials.push_back(trial);
+  }
+  std::stable_sort(trials.begin(), trials.end(),
+                   [](const Trial& a, const Trial& b) { return a.promise > b.promise; });
+  return trials;
+}
+
+bool MayBeCurvedWall(Subject& subject) {
+  return (subject.role == ElementRole::kWall || subject.role == ElementRole::kOther) &&
+         subject.boundary.Faces().size() >= 8;
+}
+
+}  // namespace
+
+std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>& hints) {
+  std::optional<Reading> best;
+  if (MayBeCurvedWall(subject)) {
+    best = ReadCurvedWall(subject, {0.0, 0.0, 1.0});
+    if (IsGood(best)) return best;
+  }
+  const std::vector<Direction> directions = FindDirections(subject.boundary, hints);
+  std::vector<Trial> trials = MakeTrials(subject, directions);
+  if (trials.size() > kMostTrials) trials.resize(kMostTrials);
+  for (const Trial& trial : trials) {
+    if (trial.promise < kLeastPromise) break;
+    if (best && !best->fit.isApproximate && ScoreOf(*best) >= trial.suitability) continue;
+    KeepBetter(best, trial.kind == ElementKind::kMember ? ReadMember(subject, trial.direction)
+                                                        : ReadSurface(subject, trial.direction));
+    if (IsGood(best)) break;
+  }
+  return best;
+}
+
+}  // namespace KelIFC::building::idealising

@@ -1,0 +1,238 @@
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+
+#include "tests/building/build/idealise_samples.h"
+
+namespace KelIFC::building {
+namespace {
+
+constexpr double kTiny = 1e-6;
+
+void ExpectPoint(const Point3& p, double x, double y, double z) {
+  EXPECT_NEAR(p.x, x, kTiny);
+  EXPECT_NEAR(p.y, y, kTiny);
+  EXPECT_NEAR(p.z, z, kTiny);
+}
+
+void ExpectExact(const Idealisation& element) {
+  EXPECT_NEAR(element.deviation, 0.0, kTiny);
+  ASSERT_TRUE(element.volumeRatio);
+  EXPECT_NEAR(*element.volumeRatio, 1.0, kTiny);
+  EXPECT_FALSE(element.isApproximate);
+  EXPECT_EQ(element.cutouts, 0u);
+}
+
+TEST(IdealiseMember, TakesAColumnFromItsExtrusion) {
+  const Sample sample({Prism(RectangleProfile(-0.15, -0.2, 0.15, 0.2), 3.0)}, At(5.0, 6.0, 7.0));
+  const Idealisation column = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(column.kind, ElementKind::kMember);
+  EXPECT_EQ(column.source, BodySource::kExtrusion);
+  ExpectExact(column);
+  ASSERT_EQ(column.member->points.size(), 2u);
+  ExpectPoint(column.member->points[0], 5.0, 6.0, 7.0);
+  ExpectPoint(column.member->points[1], 5.0, 6.0, 10.0);
+  EXPECT_NEAR(column.member->y.x, 1.0, kTiny);
+  EXPECT_FALSE(column.member->ends[0]);
+  EXPECT_FALSE(column.member->ends[1]);
+  EXPECT_NEAR(column.profile->area, 0.12, kTiny);
+  EXPECT_NEAR(column.volume, 0.36, kTiny);
+  ExpectPoint(column.box.min, 4.85, 5.8, 7.0);
+  ExpectPoint(column.box.max, 5.15, 6.2, 10.0);
+}
+
+TEST(IdealiseMember, KeepsTheAxisAtTheOriginOfAnEccentricProfile) {
+  const Sample sample({PrismAlongX(RectangleProfile(0.0, -0.4, 0.2, 0.0), 5.0)});
+  const Idealisation beam = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  ExpectExact(beam);
+  ExpectPoint(beam.member->points[0], 0.0, 0.0, 0.0);
+  ExpectPoint(beam.member->points[1], 5.0, 0.0, 0.0);
+  // The axis runs along the left upper edge of the profile.
+  EXPECT_NEAR(beam.member->offset.x, -0.1, kTiny);
+  EXPECT_NEAR(beam.member->offset.y, 0.2, kTiny);
+}
+
+TEST(IdealiseMember, FindsAColumnInItsBoundary) {
+  const Sample sample({Block({1.0, 2.0, 0.0}, {1.3, 2.4, 3.0})});
+  const Idealisation column = sample.BySlices(ElementRole::kMember);
+  ASSERT_EQ(column.kind, ElementKind::kMember);
+  ExpectExact(column);
+  ExpectPoint(column.member->points[0], 1.15, 2.2, 0.0);
+  ExpectPoint(column.member->points[1], 1.15, 2.2, 3.0);
+  EXPECT_EQ(column.profile->shape, ProfileShape::kRectangle);
+  EXPECT_NEAR((*column.profile)[ProfileParameter::kH], 0.4, kTiny);
+  EXPECT_NEAR((*column.profile)[ProfileParameter::kB], 0.3, kTiny);
+  EXPECT_NEAR(column.profile->iy, 0.3 * 0.4 * 0.4 * 0.4 / 12, kTiny);
+}
+
+TEST(IdealiseMember, FindsABeamFarFromTheOrigin) {
+  const Sample sample({Block({0.0, 0.0, 0.0}, {6.0, 0.3, 0.5})}, At(5.2e5, 4.8e6, 100.0));
+  const Idealisation beam = sample.BySlices(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  ExpectExact(beam);
+  ExpectPoint(beam.member->points[0], 5.2e5, 4.8e6 + 0.15, 100.25);
+  ExpectPoint(beam.member->points[1], 5.2e5 + 6.0, 4.8e6 + 0.15, 100.25);
+  EXPECT_NEAR((*beam.profile)[ProfileParameter::kH], 0.5, kTiny);
+}
+
+TEST(IdealiseMember, TurnsTheProfileWithARotatedColumn) {
+  Transform3 placement;
+  const double angle = std::numbers::pi / 6;
+  placement.x = {std::cos(angle), std::sin(angle), 0.0};
+  placement.y = {-std::sin(angle), std::cos(angle), 0.0};
+  const Sample sample({Block({-0.2, -0.2, 0.0}, {0.2, 0.2, 3.0})}, placement);
+  const Idealisation column = sample.BySlices(ElementRole::kMember);
+  ASSERT_EQ(column.kind, ElementKind::kMember);
+  ExpectExact(column);
+  EXPECT_EQ(column.profile->shape, ProfileShape::kRectangle);
+  EXPECT_NEAR(std::fabs(Dot(column.member->y, placement.x)), 1.0, kTiny);
+}
+
+TEST(IdealiseMember, CutsSkewEndsByPlanes) {
+  // Seen from the side the beam is a trapezium: 4 m below, 3 m above, 0.5 m high.
+  const Sample sample(
+      {PrismAlongY(PolygonProfile({{0.0, 0.0}, {4.0, 0.0}, {3.5, 0.5}, {0.5, 0.5}}), 0.3)});
+  const Idealisation beam = sample.BySlices(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  ExpectExact(beam);
+  ASSERT_TRUE(beam.member->ends[0]);
+  ASSERT_TRUE(beam.member->ends[1]);
+  // At half its height the beam is 0.25 m shorter at both ends.
+  ExpectPoint(beam.member->points[0], 0.25, 0.15, 0.25);
+  ExpectPoint(beam.member->points[1], 3.75, 0.15, 0.25);
+  const double diagonal = std::sqrt(0.5);
+  EXPECT_NEAR(beam.member->ends[0]->normal.x, -diagonal, kTiny);
+  EXPECT_NEAR(beam.member->ends[1]->normal.x, diagonal, kTiny);
+  EXPECT_NEAR(beam.member->ends[1]->normal.z, diagonal, kTiny);
+  EXPECT_NEAR(beam.volume, 3.5 * 0.5 * 0.3, kTiny);
+}
+
+TEST(IdealiseMember, CountsACopeAsACutOut) {
+  // A column of 4 m with a block of 0.1 by 0.4 by 0.2 m cut off at its head.
+  const Sample sample(
+      {Minus(Block({0.0, 0.0, 0.0}, {0.4, 0.4, 4.0}), Block({0.3, -1.0, 3.8}, {1.0, 1.0, 5.0}))});
+  for (const Idealisation& column :
+       {sample.BySlices(ElementRole::kMember), sample.ByFacts(ElementRole::kMember)}) {
+    ASSERT_EQ(column.kind, ElementKind::kMember);
+    EXPECT_NEAR(column.deviation, 0.0, kTiny);
+    EXPECT_EQ(column.cutouts, 1u);
+    EXPECT_FALSE(column.isApproximate);
+    EXPECT_NEAR(*column.volumeRatio, 0.64 / 0.632, kTiny);
+    EXPECT_NEAR(column.member->points[1].z, 4.0, kTiny);
+  }
+  EXPECT_EQ(sample.ByFacts(ElementRole::kMember).source, BodySource::kBoolean);
+}
+
+TEST(IdealiseMember, CountsHolesInTheWebAsCutOuts) {
+  const Sample sample({Minus(
+      Minus(Block({0.0, 0.0, 0.0}, {6.0, 0.1, 0.5}), Block({1.0, -1.0, 0.2}, {1.2, 1.0, 0.3})),
+      Block({4.0, -1.0, 0.2}, {4.2, 1.0, 0.3}))});
+  const Idealisation beam = sample.BySlices(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  EXPECT_NEAR(beam.deviation, 0.0, kTiny);
+  EXPECT_EQ(beam.cutouts, 2u);
+  EXPECT_FALSE(beam.isApproximate);
+  EXPECT_NEAR(*beam.volumeRatio, 0.3 / 0.296, kTiny);
+}
+
+TEST(IdealiseMember, GivesATaperedBeamAProfileAtItsEnd) {
+  // The beam is 0.8 m high at its start and 0.4 m at its end; its lower edge rises.
+  const Sample sample(
+      {PrismAlongY(PolygonProfile({{0.0, 0.0}, {8.0, 0.4}, {8.0, 0.8}, {0.0, 0.8}}), 0.2)});
+  const Idealisation beam = sample.BySlices(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  ASSERT_TRUE(beam.endProfile);
+  EXPECT_NEAR((*beam.profile)[ProfileParameter::kH], 0.8, kTiny);
+  EXPECT_NEAR((*beam.endProfile)[ProfileParameter::kH], 0.4, kTiny);
+  ExpectPoint(beam.member->points[0], 0.0, 0.1, 0.4);
+  ExpectPoint(beam.member->points[1], 8.0, 0.1, 0.6);
+  EXPECT_FALSE(beam.isApproximate);
+  EXPECT_LT(beam.deviation, 1e-3);
+}
+
+TEST(IdealiseMember, ReadsABeamThatIsExtrudedSideways) {
+  // The profile of the extrusion is the elevation: 6 by 0.5 m, with a notch below one end.
+  const Sample sample({PrismAlongY(
+      PolygonProfile({{0.0, 0.0}, {5.8, 0.0}, {5.8, 0.1}, {6.0, 0.1}, {6.0, 0.5}, {0.0, 0.5}}),
+      0.25)});
+  const Idealisation beam = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  EXPECT_NEAR(beam.deviation, 0.0, kTiny);
+  EXPECT_EQ(beam.cutouts, 1u);
+  EXPECT_FALSE(beam.isApproximate);
+  EXPECT_NEAR((*beam.profile)[ProfileParameter::kH], 0.5, kTiny);
+  EXPECT_NEAR((*beam.profile)[ProfileParameter::kB], 0.25, kTiny);
+  EXPECT_NEAR(beam.member->points[1].x, 6.0, kTiny);
+}
+
+TEST(IdealiseMember, MirrorsTheOutlineAndNotTheAxes) {
+  // An angle with legs of 0.1 m (along x) and 0.2 m (along y), 0.01 m thick.
+  const ProfilePointer angle =
+      PolygonProfile({{0.0, 0.0}, {0.1, 0.0}, {0.1, 0.01}, {0.01, 0.01}, {0.01, 0.2}, {0.0, 0.2}});
+  MappedItems mapped;
+  mapped.transform.x = {-1.0, 0.0, 0.0};
+  mapped.items = {Prism(angle, 3.0)};
+  const Sample sample({SolidOf(mapped)});
+  const Idealisation column = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(column.kind, ElementKind::kMember);
+  ExpectExact(column);
+  const Vector3 x = column.member->points[1] - column.member->points[0];
+  EXPECT_NEAR(x.z, 3.0, kTiny);
+  EXPECT_NEAR(Length(column.member->y), 1.0, kTiny);
+  EXPECT_NEAR(column.profile->area, 0.01 * 0.29, kTiny);
+  ExpectPoint(column.box.min, -0.1, 0.0, 0.0);
+}
+
+TEST(IdealiseMember, ScalesTheProfileOfAScaledMap) {
+  MappedItems mapped;
+  mapped.transform.x = {2.0, 0.0, 0.0};
+  mapped.transform.y = {0.0, 2.0, 0.0};
+  mapped.transform.z = {0.0, 0.0, 2.0};
+  mapped.items = {Prism(RectangleProfile(-0.1, -0.1, 0.1, 0.1), 2.0)};
+  const Sample sample({SolidOf(mapped)});
+  const Idealisation column = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(column.kind, ElementKind::kMember);
+  ExpectExact(column);
+  EXPECT_NEAR(column.profile->area, 0.16, kTiny);
+  EXPECT_NEAR(column.member->points[1].z, 4.0, kTiny);
+}
+
+TEST(IdealiseMember, FollowsTheArcOfARevolvedBeam) {
+  // A section of 0.2 by 0.2 m whose centre runs a quarter turn about y at 3 m.
+  Revolution form;
+  form.profile = RectangleProfile(2.9, -0.1, 3.1, 0.1);
+  form.axis = {0.0, 1.0, 0.0};
+  form.angle = std::numbers::pi / 2;
+  const Sample sample({SolidOf(form)});
+  const Idealisation beam = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  EXPECT_EQ(beam.source, BodySource::kRevolved);
+  EXPECT_EQ(beam.member->curve, CurveForm::kArc);
+  ASSERT_EQ(beam.member->points.size(), 3u);
+  ExpectPoint(beam.member->points[0], 3.0, 0.0, 0.0);
+  ExpectPoint(beam.member->points[1], 3.0 * std::sqrt(0.5), 0.0, -3.0 * std::sqrt(0.5));
+  ExpectPoint(beam.member->points[2], 0.0, 0.0, -3.0);
+  EXPECT_LT(beam.deviation, 3e-4);
+  EXPECT_FALSE(beam.isApproximate);
+  EXPECT_NEAR(*beam.volumeRatio, 1.0, 1e-3);
+}
+
+TEST(IdealiseMember, FollowsThePathOfASweptDisk) {
+  SweptDisk form;
+  form.radius = 0.05;
+  form.directrix.points = {{0.0, 0.0, 0.0}, {3.0, 0.0, 0.0}, {3.0, 0.0, 2.0}};
+  const Sample sample({SolidOf(form)});
+  const Idealisation pipe = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(pipe.kind, ElementKind::kMember);
+  EXPECT_EQ(pipe.source, BodySource::kSweptDisk);
+  EXPECT_EQ(pipe.member->curve, CurveForm::kPolyline);
+  ASSERT_EQ(pipe.member->points.size(), 3u);
+  EXPECT_EQ(pipe.profile->shape, ProfileShape::kCircle);
+  EXPECT_LT(pipe.deviation, 1e-3);
+  EXPECT_FALSE(pipe.isApproximate);
+}
+
+}  // namespace
+}  // namespace KelIFC::building

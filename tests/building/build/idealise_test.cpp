@@ -1,0 +1,99 @@
+#include "kelifc/building/build/idealise.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <limits>
+
+#include "tests/building/build/idealise_samples.h"
+
+namespace KelIFC::building {
+namespace {
+
+TEST(Idealise, LeavesASteppedBodyABody) {
+  // Four steps of 0.3 by 0.2 m, 1.2 m wide.
+  std::vector<Point2> points{{0.0, 0.0}, {1.2, 0.0}};
+  for (int i = 4; i > 0; --i) {
+    points.emplace_back(0.3 * i, 0.2 * (5 - i));
+    points.emplace_back(0.3 * (i - 1), 0.2 * (5 - i));
+  }
+  const Sample sample({PrismAlongY(PolygonProfile(points), 1.2)});
+  const Idealisation stair = sample.ByFacts(ElementRole::kOther);
+  EXPECT_EQ(stair.kind, ElementKind::kBody);
+  EXPECT_FALSE(stair.member);
+  EXPECT_FALSE(stair.surface);
+  EXPECT_NEAR(stair.volume, 1.2 * 0.3 * 0.2 * 10, 1e-9);
+  EXPECT_EQ(stair.source, BodySource::kExtrusion);
+}
+
+TEST(Idealise, LeavesASphereABody) {
+  Primitive form;
+  form.form = Primitive::Form::kSphere;
+  form.sizes = {1.0, 1.0, 1.0};
+  for (const ElementRole role : {ElementRole::kMember, ElementRole::kSlab, ElementRole::kOther}) {
+    EXPECT_EQ(Sample({SolidOf(form)}).BySlices(role).kind, ElementKind::kBody);
+  }
+}
+
+TEST(Idealise, CallsSeparateRegionsMulti) {
+  Region first{Rectangle(0.0, 0.0, 0.1, 0.2), {}};
+  Region second{Rectangle(0.5, 0.0, 0.6, 0.2), {}};
+  const Sample sample({Prism(ProfileOf({first, second}), 4.0)});
+  const Idealisation pair = sample.ByFacts(ElementRole::kMember);
+  EXPECT_EQ(pair.kind, ElementKind::kBody);
+  EXPECT_EQ(pair.source, BodySource::kMulti);
+}
+
+TEST(Idealise, ReadsAnOpenBoundaryAsApproximate) {
+  Mesh open;
+  open.points = BoxMesh({0.0, 0.0, 0.0}, {0.3, 0.3, 3.0}).points;
+  for (const auto& face :
+       std::vector<std::vector<Mesh::Index>>{{3, 2, 1, 0}, {0, 1, 5, 4}, {1, 2, 6, 5}}) {
+    open.AddFace(face);
+  }
+  EvaluatedBody body;
+  body.mesh = open;
+  body.box = BoxOf(open);
+  const Idealisation element = Idealise({&body, nullptr, ElementRole::kMember});
+  EXPECT_FALSE(element.volumeRatio);
+  EXPECT_TRUE(element.isApproximate);
+}
+
+TEST(Idealise, SurvivesNumbersThatAreNotFinite) {
+  for (const double bad :
+       {std::numeric_limits<double>::quiet_NaN(), std::numeric_limits<double>::infinity(), 1e300}) {
+    EvaluatedBody body;
+    body.mesh = BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, bad});
+    const Idealisation element = Idealise({&body, nullptr, ElementRole::kMember});
+    EXPECT_EQ(element.kind, ElementKind::kBody);
+  }
+}
+
+TEST(Idealise, GivesABodyForNothing) {
+  EXPECT_EQ(Idealise({}).kind, ElementKind::kBody);
+  const EvaluatedBody empty;
+  EXPECT_EQ(Idealise({&empty, nullptr, ElementRole::kWall}).kind, ElementKind::kBody);
+}
+
+TEST(Idealise, FallsBackToTheBoundaryWhereTheFactsDiffer) {
+  // The facts say 3 m, the body is 4 m long.
+  Sample sample({Prism(RectangleProfile(-0.1, -0.1, 0.1, 0.1), 3.0)});
+  sample.body = Evaluate(Prism(RectangleProfile(-0.1, -0.1, 0.1, 0.1), 4.0)).body;
+  const Idealisation column = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(column.kind, ElementKind::kMember);
+  EXPECT_NEAR(column.member->points[1].z, 4.0, 1e-9);
+  EXPECT_NEAR(column.deviation, 0.0, 1e-9);
+}
+
+TEST(Idealise, DoesNotDependOnTheOrderOfCalls) {
+  const Sample sample(
+      {Minus(Block({0.0, 0.0, 0.0}, {0.4, 0.4, 4.0}), Block({0.3, -1.0, 3.8}, {1.0, 1.0, 5.0}))});
+  const Idealisation first = sample.BySlices(ElementRole::kMember);
+  const Idealisation second = sample.BySlices(ElementRole::kMember);
+  EXPECT_EQ(first.deviation, second.deviation);
+  EXPECT_EQ(first.member->points[1].x, second.member->points[1].x);
+  EXPECT_EQ(first.volume, second.volume);
+}
+
+}  // namespace
+}  // namespace KelIFC::building
