@@ -80,10 +80,8 @@ TEST(Curve, TrimmedAgainstTheSenseRunsBackwards) {
 }
 
 TEST(Curve, TrimmedByPointsAndParametersFollowsItsPreference) {
-  const std::string trims =
-      "(#32,IFCPARAMETERVALUE(180.)),(#33,IFCPARAMETERVALUE(270.)),.T.,";
-  const std::string points =
-      "#32=IFCCARTESIANPOINT((1000.,0.));#33=IFCCARTESIANPOINT((0.,1000.));";
+  const std::string trims = "(#32,IFCPARAMETERVALUE(180.)),(#33,IFCPARAMETERVALUE(270.)),.T.,";
+  const std::string points = "#32=IFCCARTESIANPOINT((1000.,0.));#33=IFCCARTESIANPOINT((0.,1000.));";
   const Path byPoints =
       PathOf(kCircle + points + "#30=IFCTRIMMEDCURVE(#31," + trims + ".CARTESIAN.);");
   ExpectPoint(byPoints.points.back(), 0.0, 1.0, 0.0);
@@ -182,12 +180,12 @@ TEST(Curve, OfCurvesThatMultiplyIsALimit) {
     text += "#" + std::to_string(at) + "=IFCCOMPOSITECURVE((#" + std::to_string(at + 1) + ",#" +
             std::to_string(at + 2) + "),.F.);";
     for (int k = 1; k <= 2; ++k) {
-      text += "#" + std::to_string(at + k) +
-              "=IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.," + next + ");";
+      text += "#" + std::to_string(at + k) + "=IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.," + next +
+              ");";
     }
   }
-  const ReadText read = ReadData(CommonText() + text +
-                                 "#31=IFCPOLYLINE((#10,#32));#32=IFCCARTESIANPOINT((9.,0.));");
+  const ReadText read =
+      ReadData(CommonText() + text + "#31=IFCPOLYLINE((#10,#32));#32=IFCCARTESIANPOINT((9.,0.));");
   const Model model(*read.server);
   ReadContext context{model, Units(), {}, 10'000};
   Unreadable why;

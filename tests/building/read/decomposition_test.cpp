@@ -55,18 +55,17 @@ TEST(Products, AreThePartsOfWholesAtAnyDepth) {
 }
 
 TEST(Products, OfStructuralClassesStayProductsBelowOthers) {
-  const ReadText read =
-      ReadData(Element(1, "IFCSTAIR") + Element(2, "IFCRAILING") + Element(3, "IFCMEMBER") +
-               Element(4, "IFCBUILDINGELEMENTPROXY") + Aggregate(20, 1, "#2") +
-               Aggregate(21, 2, "#3,#4"));
+  const ReadText read = ReadData(Element(1, "IFCSTAIR") + Element(2, "IFCRAILING") +
+                                 Element(3, "IFCMEMBER") + Element(4, "IFCBUILDINGELEMENTPROXY") +
+                                 Aggregate(20, 1, "#2") + Aggregate(21, 2, "#3,#4"));
   EXPECT_EQ(ProductsOf(read), (Numbers{3}));
   EXPECT_EQ(read.Find(3)->whole, 0U);
 }
 
 TEST(Products, ThatContainThemselvesAreFaults) {
-  const ReadText read = ReadData(Element(1, "IFCWALL") + Element(2, "IFCWALL") +
-                                 Element(3, "IFCWALL") + Aggregate(20, 1, "#2") +
-                                 Aggregate(21, 2, "#1,#3"));
+  const ReadText read =
+      ReadData(Element(1, "IFCWALL") + Element(2, "IFCWALL") + Element(3, "IFCWALL") +
+               Aggregate(20, 1, "#2") + Aggregate(21, 2, "#1,#3"));
   ASSERT_EQ(read.facts.products.size(), 3U);
   for (const std::size_t number : {1, 2}) {
     const ProductFacts& product = *read.Find(number);
@@ -123,12 +122,12 @@ std::string Contain(int number, int structure, const std::string& elements) {
 
 TEST(Storey, IsThatOfTheElementTheWholeOrTheSpace) {
   for (const std::string& schema : kSchemas) {
-    const ReadText read = ReadData(
-        std::string(kStructure) + Element(1, "IFCWALL") + Element(2, "IFCWALL") +
-            Element(3, "IFCWALL") + Element(4, "IFCSTAIR") + Element(5, "IFCSLAB") +
-            Element(6, "IFCBEAM") + Contain(70, 61, "#1,#4") + Contain(71, 62, "#2") +
-            Contain(72, 60, "#3") + Aggregate(73, 4, "#5") + Aggregate(74, 61, "#6"),
-        schema);
+    const ReadText read =
+        ReadData(std::string(kStructure) + Element(1, "IFCWALL") + Element(2, "IFCWALL") +
+                     Element(3, "IFCWALL") + Element(4, "IFCSTAIR") + Element(5, "IFCSLAB") +
+                     Element(6, "IFCBEAM") + Contain(70, 61, "#1,#4") + Contain(71, 62, "#2") +
+                     Contain(72, 60, "#3") + Aggregate(73, 4, "#5") + Aggregate(74, 61, "#6"),
+                 schema);
     EXPECT_EQ(read.Find(1)->storey, 61U) << schema;
     EXPECT_EQ(read.Find(2)->storey, 61U);
     EXPECT_EQ(read.Find(3)->storey, 0U);
@@ -138,9 +137,9 @@ TEST(Storey, IsThatOfTheElementTheWholeOrTheSpace) {
 }
 
 TEST(Storey, IsNoneInACycle) {
-  const ReadText read = ReadData(
-      Element(1, "IFCWALL") + "#62=IFCSPACE('r',$,$,$,$,$,$,$,.ELEMENT.,.INTERNAL.,$);" +
-      Contain(70, 62, "#1") + Aggregate(71, 62, "#62"));
+  const ReadText read =
+      ReadData(Element(1, "IFCWALL") + "#62=IFCSPACE('r',$,$,$,$,$,$,$,.ELEMENT.,.INTERNAL.,$);" +
+               Contain(70, 62, "#1") + Aggregate(71, 62, "#62"));
   EXPECT_EQ(read.Only().storey, 0U);
 }
 

@@ -41,19 +41,19 @@ TEST(Head, IsEmptyWithoutAProject) {
 
 std::string Storey(int number, const std::string& name, const std::string& placement,
                    const std::string& elevation) {
-  return "#" + std::to_string(number) + "=IFCBUILDINGSTOREY('g',$,'" + name + "',$,$," +
-         placement + ",$,$,.ELEMENT.," + elevation + ");";
+  return "#" + std::to_string(number) + "=IFCBUILDINGSTOREY('g',$,'" + name + "',$,$," + placement +
+         ",$,$,.ELEMENT.," + elevation + ");";
 }
 
 TEST(Storeys, AreSortedByTheirPlacementOrTheirAttribute) {
   for (const std::string& schema : kSchemas) {
-    const ReadText read = ReadData(
-        CommonText() +
-            "#40=IFCLOCALPLACEMENT($,#41);#41=IFCAXIS2PLACEMENT3D(#42,$,$);"
-            "#42=IFCCARTESIANPOINT((0.,0.,3000.));" +
-            Storey(50, "top", "$", "6500.") + Storey(51, "first", "#40", "9999.") +
-            Storey(52, "none", "$", "$") + Storey(53, "same", "#99", "6500."),
-        schema);
+    const ReadText read =
+        ReadData(CommonText() +
+                     "#40=IFCLOCALPLACEMENT($,#41);#41=IFCAXIS2PLACEMENT3D(#42,$,$);"
+                     "#42=IFCCARTESIANPOINT((0.,0.,3000.));" +
+                     Storey(50, "top", "$", "6500.") + Storey(51, "first", "#40", "9999.") +
+                     Storey(52, "none", "$", "$") + Storey(53, "same", "#99", "6500."),
+                 schema);
     const std::vector<BuildingStorey>& storeys = read.facts.head.storeys;
     ASSERT_EQ(storeys.size(), 4U);
     EXPECT_EQ(storeys[0].name, "none");

@@ -52,9 +52,9 @@ TEST(Revolution, HasItsAxisAndItsAngleInRadians) {
 }
 
 TEST(Revolution, IsAtMostAFullTurnAndNeverNegative) {
-  const auto revolution = ReadForm<Revolution>(
-      std::string(kPoint) + "#30=IFCREVOLVEDAREASOLID(#14,#11,#52,-500.);"
-                            "#52=IFCAXIS1PLACEMENT(#50,$);");
+  const auto revolution = ReadForm<Revolution>(std::string(kPoint) +
+                                               "#30=IFCREVOLVEDAREASOLID(#14,#11,#52,-500.);"
+                                               "#52=IFCAXIS1PLACEMENT(#50,$);");
   ExpectVector(revolution.axis, 0.0, 0.0, -1.0);
   EXPECT_NEAR(revolution.angle, 6.283185307179586, 1e-12);
 }
@@ -69,8 +69,11 @@ TEST(SweptDisk, FollowsThePartOfItsDirectrixThatItsParametersName) {
     std::size_t points;
     double endY;
   };
-  const Case cases[] = {{"0.,2.", 3, 1.0}, {"0.,1.", 3, 1.0}, {"$,$", 3, 1.0},
-                        {"0.5,1.5", 3, 0.5}, {"1.,2.", 2, 1.0}};
+  const Case cases[] = {{"0.,2.", 3, 1.0},
+                        {"0.,1.", 3, 1.0},
+                        {"$,$", 3, 1.0},
+                        {"0.5,1.5", 3, 0.5},
+                        {"1.,2.", 2, 1.0}};
   for (const std::string& schema : kSchemas) {
     for (const Case& test : cases) {
       const auto disk = ReadForm<SweptDisk>(

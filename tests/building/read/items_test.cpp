@@ -29,10 +29,10 @@ TEST(Boolean, HasItsOperationAndOperands) {
   };
   for (const auto& [text, operation] : rows) {
     for (const std::string& schema : kSchemas) {
-      const auto result = ReadForm<BooleanResult>(
-          kSolid + ("#30=" + std::string(text)) +
-              ",#40,#41);#41=IFCHALFSPACESOLID(#42,.T.);#42=IFCPLANE(#11);",
-          schema);
+      const auto result =
+          ReadForm<BooleanResult>(kSolid + ("#30=" + std::string(text)) +
+                                      ",#40,#41);#41=IFCHALFSPACESOLID(#42,.T.);#42=IFCPLANE(#11);",
+                                  schema);
       EXPECT_EQ(result.operation, operation);
       EXPECT_NE(FormOf<Extrusion>(result.first), nullptr) << text;
       EXPECT_NE(FormOf<HalfSpace>(result.second), nullptr) << text;
@@ -47,8 +47,8 @@ TEST(Boolean, KeepsAnOperandThatCannotBeRead) {
 }
 
 TEST(Boolean, OfItselfIsACycle) {
-  const auto result = ReadForm<BooleanResult>(std::string(kSolid) +
-                                              "#30=IFCBOOLEANRESULT(.UNION.,#40,#30);");
+  const auto result =
+      ReadForm<BooleanResult>(std::string(kSolid) + "#30=IFCBOOLEANRESULT(.UNION.,#40,#30);");
   EXPECT_EQ(ReasonOf(result.second), LossReason::kCycle);
 }
 
@@ -68,8 +68,9 @@ TEST(Boolean, NestedTooDeepIsALimit) {
 TEST(Boolean, MayBeNestedAsDeepAsTheOptionSays) {
   ReadingOptions options;
   options.maxDepth = 3;
-  const std::string two = "#30=IFCBOOLEANRESULT(.UNION.,#41,#40);"
-                          "#41=IFCBOOLEANRESULT(.UNION.,#40,#40);";
+  const std::string two =
+      "#30=IFCBOOLEANRESULT(.UNION.,#41,#40);"
+      "#41=IFCBOOLEANRESULT(.UNION.,#40,#40);";
   EXPECT_NE(FormOf<BooleanResult>(ReadItem(kSolid + two, "IFC2X3", options)), nullptr);
   options.maxDepth = 2;
   EXPECT_EQ(ReadFault(kSolid + two, "IFC2X3", options).reason, LossReason::kLimit);
@@ -85,8 +86,7 @@ const char kMap[] =
 TEST(MappedItem, MovesTheOriginOfTheMapToItsTarget) {
   for (const std::string& schema : kSchemas) {
     const auto mapped = ReadForm<MappedItems>(
-        std::string(kSolid) + kMap +
-            "#32=IFCCARTESIANTRANSFORMATIONOPERATOR3D($,$,#38,$,$);",
+        std::string(kSolid) + kMap + "#32=IFCCARTESIANTRANSFORMATIONOPERATOR3D($,$,#38,$,$);",
         schema);
     ASSERT_EQ(mapped.items.size(), 1U) << schema;
     EXPECT_EQ(mapped.items[0]->id, 40U);
@@ -97,10 +97,10 @@ TEST(MappedItem, MovesTheOriginOfTheMapToItsTarget) {
 TEST(MappedItem, ScalesAndMirrors) {
   for (const std::string& schema : kSchemas) {
     // x goes to y and y to x, so z, which is not stated, stays: the map mirrors.
-    const auto mapped = ReadForm<MappedItems>(
-        std::string(kSolid) + kMap +
-            "#32=IFCCARTESIANTRANSFORMATIONOPERATOR3D(#36,#37,#38,2.,#13);",
-        schema);
+    const auto mapped =
+        ReadForm<MappedItems>(std::string(kSolid) + kMap +
+                                  "#32=IFCCARTESIANTRANSFORMATIONOPERATOR3D(#36,#37,#38,2.,#13);",
+                              schema);
     ExpectPoint(mapped.transform(Point3(2.0, 3.0, 1.0)), 6.0, 2.0, 2.5);
     EXPECT_NEAR(mapped.transform.Determinant(), -8.0, 1e-12);
   }
@@ -117,14 +117,14 @@ TEST(MappedItem, CanScaleEachAxisByItself) {
 }
 
 TEST(MappedItem, IsReadOnceForAllItsUses) {
-  const ReadText read = ReadData(
-      CommonText() + kSolid + kMap +
-      "#32=IFCCARTESIANTRANSFORMATIONOPERATOR3D($,$,#38,$,$);"
-      "#20=IFCCOLUMN('a',$,$,$,$,$,#21,$);#21=IFCPRODUCTDEFINITIONSHAPE($,$,(#22));"
-      "#22=IFCSHAPEREPRESENTATION($,'Body','MappedRepresentation',(#30));"
-      "#23=IFCCOLUMN('b',$,$,$,$,$,#24,$);#24=IFCPRODUCTDEFINITIONSHAPE($,$,(#25));"
-      "#25=IFCSHAPEREPRESENTATION($,'Body','MappedRepresentation',(#26));"
-      "#26=IFCMAPPEDITEM(#31,#32);");
+  const ReadText read =
+      ReadData(CommonText() + kSolid + kMap +
+               "#32=IFCCARTESIANTRANSFORMATIONOPERATOR3D($,$,#38,$,$);"
+               "#20=IFCCOLUMN('a',$,$,$,$,$,#21,$);#21=IFCPRODUCTDEFINITIONSHAPE($,$,(#22));"
+               "#22=IFCSHAPEREPRESENTATION($,'Body','MappedRepresentation',(#30));"
+               "#23=IFCCOLUMN('b',$,$,$,$,$,#24,$);#24=IFCPRODUCTDEFINITIONSHAPE($,$,(#25));"
+               "#25=IFCSHAPEREPRESENTATION($,'Body','MappedRepresentation',(#26));"
+               "#26=IFCMAPPEDITEM(#31,#32);");
   ASSERT_EQ(read.facts.products.size(), 2U);
   const auto* first = FormOf<MappedItems>(read.facts.products[0].items.at(0));
   const auto* second = FormOf<MappedItems>(read.facts.products[1].items.at(0));
@@ -169,10 +169,9 @@ TEST(MappedItem, IsAFaultIfItCannotBeRead) {
 }
 
 TEST(MappedItem, OfNothingHasNoItems) {
-  const ReadText read = ReadData(
-      CommonText() + ColumnText() +
-      "#30=IFCMAPPEDITEM(#31,$);#31=IFCREPRESENTATIONMAP(#11,#32);"
-      "#32=IFCSHAPEREPRESENTATION($,'Body','',());");
+  const ReadText read = ReadData(CommonText() + ColumnText() +
+                                 "#30=IFCMAPPEDITEM(#31,$);#31=IFCREPRESENTATIONMAP(#11,#32);"
+                                 "#32=IFCSHAPEREPRESENTATION($,'Body','',());");
   ASSERT_TRUE(read.Only().fault);
   EXPECT_EQ(read.Only().fault->reason, LossReason::kNoItems);
 }

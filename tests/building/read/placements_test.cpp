@@ -41,13 +41,13 @@ TEST(InverseOfAxes, UndoesTheMap) {
 
 TEST(Placement, IsTheProductOfItsChain) {
   for (const std::string& schema : kSchemas) {
-    const ReadText read = ReadData(
-        PlacedColumn() +
-            "#40=IFCLOCALPLACEMENT(#41,#42);#42=IFCAXIS2PLACEMENT3D(#43,$,$);"
-            "#43=IFCCARTESIANPOINT((1000.,0.,500.));#41=IFCLOCALPLACEMENT($,#44);"
-            "#44=IFCAXIS2PLACEMENT3D(#45,#13,#46);#45=IFCCARTESIANPOINT((0.,2000.,0.));"
-            "#46=IFCDIRECTION((0.,7.,0.));",
-        schema);
+    const ReadText read =
+        ReadData(PlacedColumn() +
+                     "#40=IFCLOCALPLACEMENT(#41,#42);#42=IFCAXIS2PLACEMENT3D(#43,$,$);"
+                     "#43=IFCCARTESIANPOINT((1000.,0.,500.));#41=IFCLOCALPLACEMENT($,#44);"
+                     "#44=IFCAXIS2PLACEMENT3D(#45,#13,#46);#45=IFCCARTESIANPOINT((0.,2000.,0.));"
+                     "#46=IFCDIRECTION((0.,7.,0.));",
+                 schema);
     ASSERT_FALSE(read.Only().fault) << schema;
     ExpectPoint(read.Only().placement.origin, 0.0, 3.0, 0.5);
     ExpectVector(read.Only().placement.x, 0.0, 1.0, 0.0);
@@ -90,8 +90,9 @@ TEST(Placement, IsAFaultIfItCannotBeRead) {
 
 TEST(Placement, FollowsAChainOfAnyLength) {
   constexpr std::size_t kLength = 100'000;
-  std::string data = PlacedColumn() + "#42=IFCAXIS2PLACEMENT3D(#43,$,$);"
-                                      "#43=IFCCARTESIANPOINT((1.,0.,0.));";
+  std::string data = PlacedColumn() +
+                     "#42=IFCAXIS2PLACEMENT3D(#43,$,$);"
+                     "#43=IFCCARTESIANPOINT((1.,0.,0.));";
   data += "#40=IFCLOCALPLACEMENT(#100,#42);";
   for (std::size_t i = 0; i < kLength; ++i) {
     const std::string next = i + 1 < kLength ? "#" + std::to_string(101 + i) : "$";

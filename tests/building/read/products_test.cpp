@@ -51,13 +51,27 @@ TEST(Product, HasItsAxis) {
   }
 }
 
+TEST(Product, HasNoAxisOfVeryManyPoints) {
+  std::string points = "#9";
+  for (int i = 0; i < 300; ++i) points += ",#9";
+  const ReadText read =
+      ReadData(CommonText() + kSolid +
+               "#20=IFCWALL('w',$,$,$,$,$,#21,$);#21=IFCPRODUCTDEFINITIONSHAPE($,$,(#22,#23));"
+               "#22=IFCSHAPEREPRESENTATION($,'Body','SweptSolid',(#30));"
+               "#23=IFCSHAPEREPRESENTATION($,'Axis','Curve2D',(#40));#40=IFCPOLYLINE((" +
+               points + "));");
+  EXPECT_FALSE(read.Only().fault);
+  EXPECT_FALSE(read.Only().axis);
+}
+
 TEST(Product, HasItsOpeningsAndWhatFillsThem) {
   for (const std::string& schema : kSchemas) {
     const ReadText read = ReadData(
         CommonText() + kSolid +
             "#20=IFCWALL('w',$,$,$,$,$,#21,$);#21=IFCPRODUCTDEFINITIONSHAPE($,$,(#22));"
             "#22=IFCSHAPEREPRESENTATION($,'Body','SweptSolid',(#30));"
-            "#40=IFCOPENINGELEMENT('1xS3BCk291UvhgP2dvNMKI',$,$,$,$,#43,#21,$);#41=IFCOPENINGELEMENT('o2',$,$,$,$,$,$,$);"
+            "#40=IFCOPENINGELEMENT('1xS3BCk291UvhgP2dvNMKI',$,$,$,$,#43,#21,$);#41="
+            "IFCOPENINGELEMENT('o2',$,$,$,$,$,$,$);"
             "#42=IFCOPENINGELEMENT('o3',$,$,$,$,$,#21,$);#43=IFCLOCALPLACEMENT($,#44);"
             "#44=IFCAXIS2PLACEMENT3D(#45,$,$);#45=IFCCARTESIANPOINT((100.,0.,0.));"
             "#46=IFCDOOR('d',$,$,$,$,$,$,$,$,$);#47=IFCWINDOW('f',$,$,$,$,$,$,$,$,$);"

@@ -70,7 +70,11 @@ TEST(Profile, OfASizedShapeHasItsSizesInMetres) {
        {{P::kB, 0.22}, {P::kB1, 0.18}, {P::kTf1, 0.012}, {P::kR1, 0.01}}},
       {"LSHAPEPROFILEDEF(.AREA.,'N',#12,100.,$,10.,12.,6.,3.,$,$)",
        ProfileShape::kL,
-       {{P::kH, 0.1}, {P::kB, 0.1}, {P::kT, 0.01}, {P::kR, 0.012}, {P::kR1, 0.006},
+       {{P::kH, 0.1},
+        {P::kB, 0.1},
+        {P::kT, 0.01},
+        {P::kR, 0.012},
+        {P::kR1, 0.006},
         {P::kSlope, 0.05235987755982989}}},
       {"USHAPEPROFILEDEF(.AREA.,'N',#12,200.,75.,8.5,11.5,11.5,6.,$,$)",
        ProfileShape::kU,
@@ -83,7 +87,11 @@ TEST(Profile, OfASizedShapeHasItsSizesInMetres) {
        {{P::kH, 0.2}, {P::kB, 0.07}, {P::kT, 0.002}, {P::kC, 0.02}, {P::kR1, 0.003}}},
       {"ZSHAPEPROFILEDEF(.AREA.,'N',#12,200.,70.,2.,3.,4.,5.)",
        ProfileShape::kZ,
-       {{P::kH, 0.2}, {P::kB, 0.07}, {P::kTw, 0.002}, {P::kTf, 0.003}, {P::kR, 0.004},
+       {{P::kH, 0.2},
+        {P::kB, 0.07},
+        {P::kTw, 0.002},
+        {P::kTf, 0.003},
+        {P::kR, 0.004},
         {P::kR1, 0.005}}},
   };
   for (const ShapeCase& test : cases) {
@@ -115,12 +123,12 @@ const char kSquare[] =
 
 TEST(Profile, OfACurveIsARegionWithHoles) {
   for (const std::string& schema : kSchemas) {
-    const ProfileFacts facts = ProfileOf(
-        std::string(kSquare) +
-            "#30=IFCARBITRARYPROFILEDEFWITHVOIDS(.AREA.,'N',#40,(#44));"
-            "#44=IFCCIRCLE(#45,100.);#45=IFCAXIS2PLACEMENT2D(#46,$);"
-            "#46=IFCCARTESIANPOINT((200.,200.));",
-        schema);
+    const ProfileFacts facts =
+        ProfileOf(std::string(kSquare) +
+                      "#30=IFCARBITRARYPROFILEDEFWITHVOIDS(.AREA.,'N',#40,(#44));"
+                      "#44=IFCCIRCLE(#45,100.);#45=IFCAXIS2PLACEMENT2D(#46,$);"
+                      "#46=IFCCARTESIANPOINT((200.,200.));",
+                  schema);
     EXPECT_EQ(facts.shape, ProfileShape::kArbitrary);
     ASSERT_EQ(facts.regions.size(), 1U);
     EXPECT_EQ(facts.regions[0].outer.points.size(), 4U);
@@ -138,10 +146,9 @@ TEST(Profile, OfACentreLineIsAStrip) {
 }
 
 TEST(Profile, OfSeveralProfilesHasTheirRegions) {
-  const ProfileFacts facts = ProfileOf(
-      std::string(kSquare) +
-      "#30=IFCCOMPOSITEPROFILEDEF(.AREA.,'N',(#31,#14),$);"
-      "#31=IFCARBITRARYCLOSEDPROFILEDEF(.AREA.,$,#40);");
+  const ProfileFacts facts = ProfileOf(std::string(kSquare) +
+                                       "#30=IFCCOMPOSITEPROFILEDEF(.AREA.,'N',(#31,#14),$);"
+                                       "#31=IFCARBITRARYCLOSEDPROFILEDEF(.AREA.,$,#40);");
   ASSERT_EQ(facts.regions.size(), 2U);
   EXPECT_EQ(facts.regions[1].outer.points.size(), 4U);
 }
@@ -163,10 +170,9 @@ TEST(Profile, DerivedFromAShapeScalesItsSizesAndMirrorsItsPosition) {
 }
 
 TEST(Profile, DerivedFromARegionMovesItsPosition) {
-  const ProfileFacts facts = ProfileOf(
-      std::string(kSquare) + kOperator +
-      "#30=IFCDERIVEDPROFILEDEF(.AREA.,$,#31,#35,$);"
-      "#31=IFCARBITRARYCLOSEDPROFILEDEF(.AREA.,'P',#40);");
+  const ProfileFacts facts = ProfileOf(std::string(kSquare) + kOperator +
+                                       "#30=IFCDERIVEDPROFILEDEF(.AREA.,$,#31,#35,$);"
+                                       "#31=IFCARBITRARYCLOSEDPROFILEDEF(.AREA.,'P',#40);");
   EXPECT_EQ(facts.name, "P");
   ExpectPoint(facts.position(Point2(0.4, 0.4)), -0.79, 0.8);
 }

@@ -57,10 +57,10 @@ TEST(Representation, OfTheBodyIsChosen) {
 }
 
 TEST(Representation, OfAMapOfCurvesIsNotABody) {
-  const ReadText read = ReadData(ColumnWith(
-      "#22=IFCSHAPEREPRESENTATION($,'Body','',(#50));#50=IFCMAPPEDITEM(#51,$);"
-      "#51=IFCREPRESENTATIONMAP(#11,#52);#52=IFCSHAPEREPRESENTATION($,'','',(#41));"
-      "#23=IFCSHAPEREPRESENTATION($,'','',(#40));"));
+  const ReadText read = ReadData(
+      ColumnWith("#22=IFCSHAPEREPRESENTATION($,'Body','',(#50));#50=IFCMAPPEDITEM(#51,$);"
+                 "#51=IFCREPRESENTATIONMAP(#11,#52);#52=IFCSHAPEREPRESENTATION($,'','',(#41));"
+                 "#23=IFCSHAPEREPRESENTATION($,'','',(#40));"));
   ASSERT_EQ(read.Only().items.size(), 1U);
   EXPECT_EQ(read.Only().items[0]->id, 40U);
 }

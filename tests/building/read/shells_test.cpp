@@ -80,10 +80,10 @@ TEST(Face, OfEdgesFollowsTheirLinesAndArcs) {
 }
 
 TEST(Face, OnACurvedSurfaceIsUnsupported) {
-  const Unreadable fault = ReadFault(
-      std::string(kPoints) +
-      "#32=IFCFACESURFACE((#34),#37,.T.);#37=IFCSURFACEOFREVOLUTION($,$,$);"
-      "#34=IFCFACEOUTERBOUND(#36,.T.);#36=IFCPOLYLOOP((#40,#41,#42));");
+  const Unreadable fault =
+      ReadFault(std::string(kPoints) +
+                "#32=IFCFACESURFACE((#34),#37,.T.);#37=IFCSURFACEOFREVOLUTION($,$,$);"
+                "#34=IFCFACEOUTERBOUND(#36,.T.);#36=IFCPOLYLOOP((#40,#41,#42));");
   EXPECT_EQ(fault.reason, LossReason::kUnsupportedItem);
   EXPECT_EQ(fault.at, 32U);
 }
@@ -91,11 +91,10 @@ TEST(Face, OnACurvedSurfaceIsUnsupported) {
 TEST(Shell, OfMorePointsThanAllowedIsALimit) {
   ReadingOptions options;
   options.maxBodyPoints = 3;
-  const Unreadable fault = ReadFault(
-      std::string(kPoints) +
-          "#32=IFCFACE((#34));#34=IFCFACEOUTERBOUND(#36,.T.);"
-          "#36=IFCPOLYLOOP((#40,#41,#42,#43));",
-      "IFC2X3", options);
+  const Unreadable fault = ReadFault(std::string(kPoints) +
+                                         "#32=IFCFACE((#34));#34=IFCFACEOUTERBOUND(#36,.T.);"
+                                         "#36=IFCPOLYLOOP((#40,#41,#42,#43));",
+                                     "IFC2X3", options);
   EXPECT_EQ(fault.reason, LossReason::kLimit);
 }
 

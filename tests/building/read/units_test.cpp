@@ -13,9 +13,8 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 
 Units UnitsOf(const std::string& units, const std::string& schema = "IFC2X3") {
-  const ReadText read =
-      ReadData("#1=IFCPROJECT('p',$,'P',$,$,$,$,$,#2);#2=IFCUNITASSIGNMENT((#3,#4));" + units,
-               schema);
+  const ReadText read = ReadData(
+      "#1=IFCPROJECT('p',$,'P',$,$,$,$,$,#2);#2=IFCUNITASSIGNMENT((#3,#4));" + units, schema);
   const Model model(*read.server);
   return ReadUnits(model.Find(1));
 }
@@ -56,12 +55,11 @@ TEST(Units, ReadGradsByTheirFactor) {
 }
 
 TEST(Units, AreMetresAndRadiansWithoutAUsableUnit) {
-  for (const char* text :
-       {"", "#3=IFCSIUNIT(*,.AREAUNIT.,.MILLI.,.SQUARE_METRE.);",
-        "#3=IFCCONVERSIONBASEDUNIT($,.LENGTHUNIT.,'X',#5);"
-        "#5=IFCMEASUREWITHUNIT(IFCLENGTHMEASURE(-1.),$);",
-        "#3=IFCCONVERSIONBASEDUNIT($,.LENGTHUNIT.,'X',#5);"
-        "#5=IFCMEASUREWITHUNIT(IFCLENGTHMEASURE(0.),#3);"}) {
+  for (const char* text : {"", "#3=IFCSIUNIT(*,.AREAUNIT.,.MILLI.,.SQUARE_METRE.);",
+                           "#3=IFCCONVERSIONBASEDUNIT($,.LENGTHUNIT.,'X',#5);"
+                           "#5=IFCMEASUREWITHUNIT(IFCLENGTHMEASURE(-1.),$);",
+                           "#3=IFCCONVERSIONBASEDUNIT($,.LENGTHUNIT.,'X',#5);"
+                           "#5=IFCMEASUREWITHUNIT(IFCLENGTHMEASURE(0.),#3);"}) {
     const Units units = UnitsOf(text);
     EXPECT_EQ(units.length.name, "METRE") << text;
     EXPECT_EQ(units.length.metres, 1.0) << text;
