@@ -8,7 +8,11 @@ namespace KelIFC::building {
 
 using Kind = AttributeValueKind;
 
+// A reference that neither names an instance nor holds one is unset.
 bool Value::IsSet() const {
+  if (value.GetKind() == Kind::kReference) {
+    return value.AsReferenceNumber() != 0 || value.AsReference() != nullptr;
+  }
   return value.GetKind() != Kind::kUnset && value.GetKind() != Kind::kDerived;
 }
 

@@ -178,8 +178,8 @@ std::optional<Transform3> PlacementReader::Read(const Instance& placement, Unrea
     at = next.Target();
   }
   for (std::size_t i = chain.size(); i-- > 0;) {
-    Entry entry = Complete(chain[i], parent);
-    parent = &(entries[chain[i].Number()] = std::move(entry));
+    const Entry entry = Complete(chain[i], parent);
+    parent = &(entries[chain[i].Number()] = entry);
   }
   if (parent == nullptr) return Transform3();
   why = parent->why;

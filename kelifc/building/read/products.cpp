@@ -11,6 +11,10 @@ namespace {
 // A representation of more items than this is copied for the first of its products only.
 constexpr std::size_t kMostCopiedItems = 64;
 
+// An axis of more points is left out: each product has a copy of its axis, and curves can be
+// shared.
+constexpr std::size_t kMostAxisPoints = 256;
+
 OpeningKind KindOf(const Instance& fill) {
   if (fill.GetEntity() == Entity::kDoor) return OpeningKind::kDoor;
   if (fill.GetEntity() == Entity::kWindow) return OpeningKind::kWindow;
@@ -75,10 +79,13 @@ std::vector<SolidPointer> ProductReader::ReadBody(const Instance& product, Unrea
 void ProductReader::ReadAxis(const Instance& product, ProductFacts& facts) {
   const Instance representation = RepresentationChooser::FindByName(product, "AXIS");
   const Instance curve = representation.Get(Attribute::kItems)[0].Target();
-  if (!curve) return;
+  if (!curve || withoutAxis.count(curve.Number()) != 0) return;
   Unreadable why;
-  if (std::optional<Path> path = ReadCurve(context, curve, why)) {
+  std::optional<Path> path = ReadCurve(context, curve, why);
+  if (path && path->points.size() <= kMostAxisPoints) {
     facts.axis = ToSpaceCurve(std::move(*path));
+  } else {
+    withoutAxis.insert(curve.Number());
   }
 }
 

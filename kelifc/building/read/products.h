@@ -43,6 +43,7 @@ class ProductReader {
   RepresentationChooser chooser;
   std::unordered_map<std::size_t, MaterialFacts> materials;  // by number of the definition
   std::unordered_set<std::size_t> used;                      // representations, by number
+  std::unordered_set<std::size_t> withoutAxis;               // curves that are no axis, by number
 };
 
 }  // namespace KelIFC::building

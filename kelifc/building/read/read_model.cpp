@@ -1,5 +1,8 @@
 #include "kelifc/building/read/read_model.h"
 
+#include <algorithm>
+#include <cstddef>
+
 #include "kelifc/building/read/decomposition.h"
 #include "kelifc/building/read/head.h"
 #include "kelifc/building/read/products.h"
@@ -7,6 +10,14 @@
 
 namespace KelIFC::building {
 namespace {
+
+// Points and steps that the curves and shells of a model may take: many for each instance, so that
+// only shapes that multiply each other reach it.
+std::size_t BudgetOf(const IfcServer& server, const ReadingOptions& options) {
+  constexpr std::size_t kAtLeast = 10'000'000;
+  constexpr std::size_t kPerInstance = 8;
+  return std::min(options.maxPoints, kAtLeast + kPerInstance * server.GetNumberCount());
+}
 
 bool IsReadable(IFC_RELEASE release) {
   return release == IFC_RELEASE_2X || release == IFC_RELEASE_2X2 || release == IFC_RELEASE_2X3;
@@ -19,7 +30,7 @@ ModelFacts ReadModel(IfcServer& server, const ReadingOptions& options) {
   if (!IsReadable(server.GetRelease())) return facts;
   const Model model(server);
   const Relations relations(model);
-  ReadContext context{model, ReadUnits(relations.Project()), options, options.maxPoints};
+  ReadContext context{model, ReadUnits(relations.Project()), options, BudgetOf(server, options)};
   PlacementReader placements(context);
   facts.head = ReadHead(context, relations, placements);
   Decomposition decomposition(model, relations);

@@ -9,6 +9,9 @@ namespace {
 // Maps in maps are looked into so far; what is deeper counts as a solid.
 constexpr int kMaxLook = 16;
 
+// How many representations are searched for one of a name.
+constexpr std::size_t kMostNamed = 16;
+
 constexpr std::string_view kBody = "BODY";
 
 // Names of representations that do not show the body.
@@ -61,14 +64,21 @@ Instance RepresentationChooser::ChooseBody(const Instance& product, Unreadable& 
   if (!stated.IsSet()) return {};
   const Instance shape = Follow(product, Attribute::kRepresentation, why);
   if (!shape) return {};
+  const auto [found, isNew] = choices.try_emplace(shape.Number());
+  if (isNew) found->second = ChooseFrom(shape);
+  why = found->second.why;
+  return found->second.body;
+}
+
+RepresentationChooser::Choice RepresentationChooser::ChooseFrom(const Instance& shape) {
   const Value list = shape.Get(Attribute::kRepresentations);
-  why = {LossReason::kNoItems, shape.Number()};
-  Instance chosen;
+  Choice choice;
+  choice.why = {LossReason::kNoItems, shape.Number()};
   int best = 0;
   for (std::size_t i = 0; i < list.Size(); ++i) {
     const Instance representation = list[i].Target();
     if (!representation) {
-      if (best == 0) why = {LossReason::kDangling, shape.Number()};
+      if (best == 0) choice.why = {LossReason::kDangling, shape.Number()};
       continue;
     }
     const std::string name = NameOf(representation);
@@ -76,18 +86,18 @@ Instance RepresentationChooser::ChooseBody(const Instance& product, Unreadable& 
     const int rank =
         2 * static_cast<int>(ContentOf(representation, kMaxLook)) + (name == kBody ? 1 : 0);
     if (rank < 2 || rank <= best) {
-      if (best == 0) why = {LossReason::kNoItems, representation.Number()};
+      if (best == 0) choice.why = {LossReason::kNoItems, representation.Number()};
       continue;
     }
     best = rank;
-    chosen = representation;
+    choice.body = representation;
   }
-  return chosen;
+  return choice;
 }
 
 Instance RepresentationChooser::FindByName(const Instance& product, std::string_view name) {
   const Value list = RepresentationsOf(product);
-  for (std::size_t i = 0; i < list.Size(); ++i) {
+  for (std::size_t i = 0; i < std::min(list.Size(), kMostNamed); ++i) {
     const Instance representation = list[i].Target();
     if (representation && NameOf(representation) == name) return representation;
   }

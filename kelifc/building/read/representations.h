@@ -18,16 +18,23 @@ class RepresentationChooser {
   /// shows something else. None, and `why`, if there is none with items.
   Instance ChooseBody(const Instance& product, Unreadable& why);
 
-  /// The first representation of a name; none if there is none.
+  /// The first representation of a name, in upper case, of the first 16; none if there is none.
   static Instance FindByName(const Instance& product, std::string_view name);
 
  private:
   // What the items of a representation are, the better one the greater.
   enum class Content { kEmpty, kNeverBody, kUnknown, kSolid };
 
-  Content ContentOf(const Instance& representation, int depth);
+  struct Choice {
+    Instance body;
+    Unreadable why;
+  };
 
-  std::unordered_map<std::size_t, Content> contents;  // by number
+  Content ContentOf(const Instance& representation, int depth);
+  Choice ChooseFrom(const Instance& shape);
+
+  std::unordered_map<std::size_t, Content> contents;  // of representations, by number
+  std::unordered_map<std::size_t, Choice> choices;    // of shapes, by number
 };
 
 }  // namespace KelIFC::building

@@ -1,2 +1,20 @@
 set(stage_tests
+  attribute_test.cpp
+  bezier_test.cpp
+  curves_test.cpp
+  decomposition_test.cpp
+  entity_test.cpp
+  head_test.cpp
+  item_forms_test.cpp
+  items_test.cpp
+  materials_test.cpp
+  offset_test.cpp
+  path_test.cpp
+  placements_test.cpp
+  products_test.cpp
+  profiles_test.cpp
+  read_model_test.cpp
+  representations_test.cpp
+  shells_test.cpp
+  units_test.cpp
 )
