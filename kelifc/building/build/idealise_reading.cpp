@@ -120,7 +120,7 @@ double ScoreOf(const Reading& reading) {
   }
   // A few cut-outs are usual. Many, or large ones, hint at a better way to see the element.
   if (reading.fit.cutouts == 0) return reading.suitability;
-  return reading.suitability - 0.03 - std::max(0.0, *reading.fit.ratio - 1.05);
+  return reading.suitability - 0.03 - std::max(0.0, *reading.fit.ratio - 1.0);
 }
 
 bool IsAcceptable(const Reading& reading) {
@@ -143,7 +143,10 @@ void KeepBetter(std::optional<Reading>& best, std::optional<Reading> other) {
 }
 
 bool IsGood(const std::optional<Reading>& reading) {
-  return reading && !reading->fit.isApproximate && ScoreOf(*reading) >= kSuitable;
+  // A large cut may run along the whole element; then slices find a better section.
+  constexpr double kLargestCut = 1.02;
+  return reading && !reading->fit.isApproximate && ScoreOf(*reading) >= kSuitable &&
+         (reading->fit.cutouts == 0 || *reading->fit.ratio < kLargestCut);
 }
 
 Proportions ProportionsOfMember(const Outline& section, double length) {

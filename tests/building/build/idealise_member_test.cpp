@@ -126,6 +126,17 @@ TEST(IdealiseMember, CountsACopeAsACutOut) {
   EXPECT_EQ(sample.ByFacts(ElementRole::kMember).source, BodySource::kBoolean);
 }
 
+TEST(IdealiseMember, TakesACutAlongTheWholeLengthIntoTheProfile) {
+  // A beam of 0.1 by 0.2 m with a rabbet of 0.05 by 0.05 m.
+  const Sample sample({Minus(PrismAlongX(RectangleProfile(0.0, 0.0, 0.1, 0.2), 4.0),
+                             Block({-1.0, 0.05, 0.15}, {5.0, 1.0, 1.0}))});
+  const Idealisation beam = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  ExpectExact(beam);
+  EXPECT_EQ(beam.source, BodySource::kBoolean);
+  EXPECT_NEAR(beam.profile->area, 0.1 * 0.2 - 0.05 * 0.05, kTiny);
+}
+
 TEST(IdealiseMember, CountsHolesInTheWebAsCutOuts) {
   const Sample sample({Minus(
       Minus(Block({0.0, 0.0, 0.0}, {6.0, 0.1, 0.5}), Block({1.0, -1.0, 0.2}, {1.2, 1.0, 0.3})),
