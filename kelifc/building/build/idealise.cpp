@@ -81,7 +81,7 @@ Idealisation Idealise(const IdealisationInput& input) {
   Boundary boundary(body);
   if (!boundary.IsUsable()) return result;
   result.isApproximate = !body.isExact;
-  Subject subject{boundary, input.product, input.role};
+  Subject subject{boundary, input.product, input.role, input.profiles};
   std::optional<Reading> best = ReadDirect(subject, single);
   bool isSeveral = false;
   if (!IsGood(best) && body.mesh.FaceCount() <= kMostFaces) {

@@ -25,5 +25,6 @@ target_sources(kelifc_building PRIVATE
   build/idealise_source.cpp
   build/idealise_surface.cpp
   build/idealise_taper.cpp
+  build/made_profiles.cpp
   build/point_match.cpp
 )
