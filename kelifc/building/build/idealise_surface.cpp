@@ -5,6 +5,7 @@
 
 #include "kelifc/building/build/idealise_bevel.h"
 #include "kelifc/building/build/idealise_scan.h"
+#include "kelifc/building/build/idealise_solid.h"
 
 namespace KelIFC::building::idealising {
 namespace {
@@ -117,10 +118,36 @@ std::optional<Reading> ReadWithSection(Subject& subject, const PlaneFrame& plane
   return best;
 }
 
+Point3 InSpace(const Point2& p) { return {p.x, p.y, 0.0}; }
+
+// A circle of two half circles becomes one of four quarters, so that its points have an area.
+Contour WithHalvedArcs(const Contour& contour) {
+  Contour halved;
+  auto arc = contour.arcs.begin();
+  for (std::size_t i = 0; i < contour.points.size(); ++i) {
+    halved.points.push_back(contour.points[i]);
+    ArcInSpace turn;
+    const Point3 start = InSpace(contour.points[i]);
+    const Point3 end = InSpace(contour.points[(i + 1) % contour.points.size()]);
+    if (arc == contour.arcs.end() || arc->edge != i) continue;
+    if (!MakeArc(start, InSpace(arc->through), end, turn)) return contour;
+    ++arc;
+    const auto at = [&](double part) {
+      const Point3 p = turn.Turn(start, part * turn.angle);
+      return Point2{p.x, p.y};
+    };
+    halved.arcs.push_back({halved.points.size() - 1, at(0.25)});
+    halved.points.push_back(at(0.5));
+    halved.arcs.push_back({halved.points.size() - 1, at(0.75)});
+  }
+  return halved;
+}
+
 }  // namespace
 
-Reading MakeSurface(const Subject& subject, const PlaneFrame& plane, const Contour& outline,
+Reading MakeSurface(const Subject& subject, const PlaneFrame& plane, const Contour& contour,
                     const std::vector<Outline>& holes, const Span& span) {
+  const Contour outline = contour.points.size() < 3 ? WithHalvedArcs(contour) : contour;
   Reading reading;
   reading.kind = ElementKind::kSurface;
   SurfaceRegion& surface = reading.surface;

@@ -158,6 +158,19 @@ TEST(IdealiseSurface, KeepsTheArcsOfAnOutline) {
   EXPECT_NEAR(slab.volume, 0.2 * (16.0 + 2.0 * std::numbers::pi), 1e-3);
 }
 
+TEST(IdealiseSurface, GivesARoundSlabFourPoints) {
+  Contour contour = ContourOf({{2.0, 0.0}, {-2.0, 0.0}});
+  contour.arcs = {{0, {0.0, 2.0}}, {1, {0.0, -2.0}}};
+  const Idealisation slab =
+      Sample({Prism(ProfileOf({{contour, {}}}), 0.2)}).ByFacts(ElementRole::kSlab);
+  ASSERT_EQ(slab.kind, ElementKind::kSurface);
+  EXPECT_FALSE(slab.isApproximate);
+  EXPECT_EQ(slab.surface->outline.size(), 4u);
+  EXPECT_EQ(slab.surface->arcs.size(), 4u);
+  EXPECT_NEAR(AreaOf(*slab.surface), 8.0, kTiny);
+  EXPECT_NEAR(slab.volume, 0.2 * 4.0 * std::numbers::pi, 1e-3);
+}
+
 TEST(IdealiseSurface, SweepsACurvedWallAlongItsMiddle) {
   // A quarter ring between 4.8 and 5.2 m, 3 m high.
   Contour contour = ContourOf({{4.8, 0.0}, {5.2, 0.0}, {0.0, 5.2}, {0.0, 4.8}});
