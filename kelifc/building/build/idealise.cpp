@@ -5,10 +5,10 @@
 #include <utility>
 
 #include "kelifc/building/build/idealise_direct.h"
+#include "kelifc/building/build/idealise_parts.h"
 #include "kelifc/building/build/idealise_reading.h"
 #include "kelifc/building/build/idealise_slices.h"
 #include "kelifc/building/build/idealise_surface.h"
-#include "kelifc/building/build/point_match.h"
 
 namespace KelIFC::building {
 namespace {
@@ -69,31 +69,6 @@ void Take(Reading reading, const Subject& subject, const SingleSolid& single,
   result.surface = std::move(reading.surface);
 }
 
-// True if the boundary falls into parts that have no point in common.
-bool HasSeveralParts(Boundary& boundary) {
-  const Mesh& mesh = boundary.Mesh();
-  const std::vector<std::size_t> welded = Weld(mesh.points, 1e-6);
-  std::vector<std::size_t> parent = welded;
-  const auto root = [&](std::size_t i) {
-    while (parent[i] != i) {
-      parent[i] = parent[parent[i]];
-      i = parent[i];
-    }
-    return i;
-  };
-  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
-    const std::size_t first = mesh.LoopOf(face, 0)[0];
-    for (std::size_t loop = 0; loop < mesh.LoopCount(face); ++loop) {
-      for (const Mesh::Index i : mesh.LoopOf(face, loop)) parent[root(i)] = root(first);
-    }
-  }
-  const std::size_t whole = root(mesh.LoopOf(0, 0)[0]);
-  for (std::size_t face = 1; face < mesh.FaceCount(); ++face) {
-    if (root(mesh.LoopOf(face, 0)[0]) != whole) return true;
-  }
-  return false;
-}
-
 }  // namespace
 
 Idealisation Idealise(const IdealisationInput& input) {
@@ -106,16 +81,18 @@ Idealisation Idealise(const IdealisationInput& input) {
   Boundary boundary(body);
   if (!boundary.IsUsable()) return result;
   result.isApproximate = !body.isExact;
-  Subject subject{boundary, input.product, input.role};
+  Subject subject{boundary, input.product, input.role, input.profiles};
   std::optional<Reading> best = ReadDirect(subject, single);
+  bool isSeveral = false;
   if (!IsGood(best) && body.mesh.FaceCount() <= kMostFaces) {
-    KeepBetter(best, ReadBySlices(subject, DirectionsOf(single)));
+    isSeveral = HasSeveralParts(boundary);
+    KeepBetter(best, ReadBySlices(subject, DirectionsOf(single), isSeveral));
   }
   if (best && IsAcceptable(*best)) {
     Take(std::move(*best), subject, single, result);
     return result;
   }
-  const BodySource source = HasSeveralParts(boundary) ? BodySource::kMulti : result.source;
+  const BodySource source = isSeveral ? BodySource::kMulti : result.source;
   result = AsBody(body);
   result.source = source;
   return result;

@@ -4,6 +4,7 @@
 #include <optional>
 #include <string>
 
+#include "kelifc/building/build/made_profiles.h"
 #include "kelifc/building/building.h"
 #include "kelifc/building/facts/product_facts.h"
 #include "kelifc/building/profile/make_profile.h"
@@ -19,10 +20,12 @@ struct IdealisationInput {
   const EvaluatedBody* body = nullptr;    ///< in world coordinates
   const ProductFacts* product = nullptr;  ///< its items, placement, axis and layers; may be null
   ElementRole role = ElementRole::kOther;
+  MadeProfiles* profiles = nullptr;  ///< shared by the elements of a model; may be null
 };
 
 /// An idealised element. The profiles are not yet shared with other elements: member->profile and
-/// endProfile are set by the caller.
+/// endProfile are set by the caller. The material of each layer is its place in the layers of the
+/// product; the caller replaces it. The layers of a surface follow each other along its normal.
 struct Idealisation {
   ElementKind kind = ElementKind::kBody;
   BodySource source = BodySource::kBrep;

@@ -19,11 +19,13 @@ struct PlacedInSpace {
   PlaneFrame frame;
 };
 
-std::optional<PlacedInSpace> PlaceProfile(const ProfileFacts& facts,
+std::optional<PlacedInSpace> PlaceProfile(Subject& subject, const ProfilePointer& facts,
                                           const StraightExtrusion& straight) {
-  std::optional<PlacedProfile> placed = MakeProfile(Scaled(facts, straight.scale));
+  MadeProfiles own;
+  MadeProfiles& profiles = subject.profiles != nullptr ? *subject.profiles : own;
+  const std::optional<PlacedProfile>& placed = profiles.Get(facts, straight.scale);
   if (!placed) return std::nullopt;
-  PlacedInSpace result{std::move(*placed), straight.frame};
+  PlacedInSpace result{*placed, straight.frame};
   if (!straight.isMirrored) return result;
   result.frame.y = -result.frame.y;
   result.placed.offset.y = -result.placed.offset.y;
@@ -69,8 +71,8 @@ std::optional<Reading> ReadStraightMember(Subject& subject, const StraightExtrus
 }
 
 std::optional<Reading> ReadTaperedMember(Subject& subject, const StraightExtrusion& straight,
-                                         const PlacedInSpace& start, const ProfileFacts& facts) {
-  std::optional<PlacedInSpace> end = PlaceProfile(facts, straight);
+                                         const PlacedInSpace& start, const ProfilePointer& facts) {
+  std::optional<PlacedInSpace> end = PlaceProfile(subject, facts, straight);
   if (!end) return std::nullopt;
   Reading reading;
   SetMemberSizes(subject, start.placed.profile.outline, straight.depth, reading);
@@ -115,11 +117,11 @@ std::optional<Reading> ReadExtrusion(Subject& subject, const Extrusion& extrusio
                                      const Transform3& toLocal, bool isCut) {
   const std::optional<StraightExtrusion> straight = MakeStraight(extrusion, toLocal);
   if (!straight || !extrusion.profile) return std::nullopt;
-  const std::optional<PlacedInSpace> profile = PlaceProfile(*extrusion.profile, *straight);
+  const std::optional<PlacedInSpace> profile = PlaceProfile(subject, extrusion.profile, *straight);
   if (!profile) return std::nullopt;
   if (extrusion.endProfile) {
     if (isCut) return std::nullopt;
-    return ReadTaperedMember(subject, *straight, *profile, *extrusion.endProfile);
+    return ReadTaperedMember(subject, *straight, *profile, extrusion.endProfile);
   }
   const BuildingProfile& shape = profile->placed.profile;
   const double asMember =

@@ -45,9 +45,6 @@ std::vector<Vector3> DirectionsOf(const SingleSolid& single);
 /// parallel to a normal.
 std::optional<Point3> ProfilePlaneOf(const SingleSolid& single, const Vector3& normal);
 
-/// The facts of a profile, scaled.
-ProfileFacts Scaled(const ProfileFacts& facts, double factor);
-
 }  // namespace KelIFC::building::idealising
 
 #endif  // KELIFC_BUILDING_BUILD_IDEALISE_DIRECT_H_

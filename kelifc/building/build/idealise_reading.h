@@ -15,6 +15,7 @@ struct Subject {
   Boundary& boundary;
   const ProductFacts* product = nullptr;  ///< may be null
   ElementRole role = ElementRole::kOther;
+  MadeProfiles* profiles = nullptr;  ///< may be null
 };
 
 /// The proportions of a body. A member is slender, a surface is flat; a body can be both.

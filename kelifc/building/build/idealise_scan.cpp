@@ -15,6 +15,11 @@ constexpr double kSameCoordinate = 1e-6;
 // Sections are the same if their sizes differ by less, in metres.
 constexpr double kSameSize = 5e-4;
 
+// After so many stations the scan ends if the section of the longest interval, and the last one,
+// hold over less than this part of the length: the boundary is no prism.
+constexpr std::size_t kFewStations = 8;
+constexpr double kLeastPart = 0.1;
+
 struct Interval {
   double from = 0.0;
   double to = 0.0;
@@ -84,6 +89,7 @@ std::optional<Section> SectionAt(Boundary& boundary, const PlaneFrame& plane, do
 
 std::vector<Section> ScanSections(Boundary& boundary, const PlaneFrame& plane, const Span& span) {
   std::vector<Section> sections;
+  std::size_t taken = 0;
   for (const Interval& interval : FindIntervals(boundary, NormalOf(plane), span)) {
     const double length = interval.to - interval.from;
     std::optional<Section> section = SectionAt(boundary, plane, (interval.from + interval.to) / 2);
@@ -98,6 +104,10 @@ std::vector<Section> ScanSections(Boundary& boundary, const PlaneFrame& plane, c
     }
     const double longest = same->length;
     if (longest > 0.5 * span.Length()) break;
+    if (++taken >= kFewStations && longest < kLeastPart * span.Length() &&
+        sections[0].length < kLeastPart * span.Length()) {
+      break;
+    }
   }
   std::stable_sort(sections.begin(), sections.end(),
                    [](const Section& a, const Section& b) { return a.length > b.length; });

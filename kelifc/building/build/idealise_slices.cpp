@@ -12,6 +12,7 @@ namespace KelIFC::building::idealising {
 namespace {
 
 constexpr std::size_t kMostTrials = 8;
+constexpr std::size_t kMostTrialsOfSeveral = 3;
 constexpr double kLeastPromise = 0.03;
 
 struct Trial {
@@ -84,7 +85,8 @@ bool MayBeCurvedWall(Subject& subject) {
 
 }  // namespace
 
-std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>& hints) {
+std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>& hints,
+                                    bool isSeveral) {
   std::optional<Reading> best;
   if (MayBeCurvedWall(subject)) {
     best = ReadCurvedWall(subject, {0.0, 0.0, 1.0});
@@ -92,7 +94,8 @@ std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>
   }
   const std::vector<Direction> directions = FindDirections(subject.boundary, hints);
   std::vector<Trial> trials = MakeTrials(subject, directions);
-  if (trials.size() > kMostTrials) trials.resize(kMostTrials);
+  const std::size_t most = isSeveral ? kMostTrialsOfSeveral : kMostTrials;
+  if (trials.size() > most) trials.resize(most);
   for (const Trial& trial : trials) {
     if (trial.promise < kLeastPromise) break;
     if (best && !best->fit.isApproximate && ScoreOf(*best) >= trial.suitability) continue;

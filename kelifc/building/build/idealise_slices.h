@@ -10,8 +10,10 @@ namespace KelIFC::building::idealising {
 
 /// Reads a subject from its boundary alone: tries the directions in which it may have been swept,
 /// the most promising first, as a member along each and as a surface square to each. `hints` are
-/// further directions to try.
-std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>& hints);
+/// further directions to try. Of a boundary of several parts only few directions are tried, since
+/// it is hardly ever a prism.
+std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>& hints,
+                                    bool isSeveral);
 
 }  // namespace KelIFC::building::idealising
 

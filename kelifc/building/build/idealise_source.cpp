@@ -109,25 +109,4 @@ std::optional<StraightExtrusion> MakeStraight(const Extrusion& extrusion,
   return straight;
 }
 
-ProfileFacts Scaled(const ProfileFacts& facts, double factor) {
-  if (std::fabs(factor - 1.0) < 1e-9) return facts;
-  ProfileFacts scaled = facts;
-  for (std::size_t i = 0; i < scaled.parameters.size(); ++i) {
-    if (static_cast<ProfileParameter>(i) != ProfileParameter::kSlope) {
-      scaled.parameters[i] *= factor;
-    }
-  }
-  const auto scale = [&](Point2& p) { p = {p.x * factor, p.y * factor}; };
-  const auto scaleContour = [&](Contour& contour) {
-    for (Point2& p : contour.points) scale(p);
-    for (ContourArc& arc : contour.arcs) scale(arc.through);
-  };
-  scale(scaled.position.origin);
-  for (Region& region : scaled.regions) {
-    scaleContour(region.outer);
-    for (Contour& hole : region.holes) scaleContour(hole);
-  }
-  return scaled;
-}
-
 }  // namespace KelIFC::building::idealising

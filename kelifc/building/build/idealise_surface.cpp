@@ -5,6 +5,7 @@
 
 #include "kelifc/building/build/idealise_bevel.h"
 #include "kelifc/building/build/idealise_scan.h"
+#include "kelifc/building/build/idealise_solid.h"
 
 namespace KelIFC::building::idealising {
 namespace {
@@ -53,8 +54,10 @@ Faces FindFaces(Boundary& boundary, const Vector3& normal) {
     const Boundary::Face& facts = boundary.Faces()[face];
     const double cosine = Dot(facts.normal, normal);
     if (std::fabs(cosine) < kSquare) continue;
-    const double level = At(mesh.points[mesh.LoopOf(face, 0)[0]], normal);
-    (cosine > 0.0 ? upper : lower).emplace_back(level, facts.area);
+    // A face that is not quite square counts at its mean level.
+    Span level;
+    for (const Mesh::Index i : mesh.LoopOf(face, 0)) level.Add(At(mesh.points[i], normal));
+    (cosine > 0.0 ? upper : lower).emplace_back(level.Middle(), facts.area);
   }
   const Level top = MainLevel(std::move(upper));
   const Level bottom = MainLevel(std::move(lower));
@@ -88,6 +91,18 @@ std::optional<Reading> ReadWithOutline(Subject& subject, const PlaneFrame& plane
   return reading;
 }
 
+// The outline of the larger one of the two faces of a plate.
+std::optional<Outline> LargerFace(Boundary& boundary, const PlaneFrame& plane, const Span& span) {
+  std::optional<Section> larger;
+  for (const double place : {1e-4, 0.9999}) {
+    std::optional<Section> section = SectionAt(boundary, plane, span.from + place * span.Length());
+    if (!section || section->regionCount != 1) continue;
+    if (!larger || section->area > larger->area) larger = std::move(section);
+  }
+  if (!larger) return std::nullopt;
+  return std::move(larger->region.outer);
+}
+
 std::optional<Reading> ReadWithSection(Subject& subject, const PlaneFrame& plane,
                                        const Section& section, const Faces& faces) {
   if (section.regionCount != 1) return std::nullopt;
@@ -96,16 +111,43 @@ std::optional<Reading> ReadWithSection(Subject& subject, const PlaneFrame& plane
       ReadWithOutline(subject, plane, section.region.outer, section.region.holes, span);
   if (best && !best->fit.isApproximate) return best;
   std::optional<Outline> around = OutlineAroundBevels(subject.boundary, plane, section, faces.span);
+  if (!around) around = LargerFace(subject.boundary, plane, faces.span);
   if (!around) return best;
   KeepBetter(best,
              ReadWithOutline(subject, plane, std::move(*around), section.region.holes, faces.span));
   return best;
 }
 
+Point3 InSpace(const Point2& p) { return {p.x, p.y, 0.0}; }
+
+// A circle of two half circles becomes one of four quarters, so that its points have an area.
+Contour WithHalvedArcs(const Contour& contour) {
+  Contour halved;
+  auto arc = contour.arcs.begin();
+  for (std::size_t i = 0; i < contour.points.size(); ++i) {
+    halved.points.push_back(contour.points[i]);
+    ArcInSpace turn;
+    const Point3 start = InSpace(contour.points[i]);
+    const Point3 end = InSpace(contour.points[(i + 1) % contour.points.size()]);
+    if (arc == contour.arcs.end() || arc->edge != i) continue;
+    if (!MakeArc(start, InSpace(arc->through), end, turn)) return contour;
+    ++arc;
+    const auto at = [&](double part) {
+      const Point3 p = turn.Turn(start, part * turn.angle);
+      return Point2{p.x, p.y};
+    };
+    halved.arcs.push_back({halved.points.size() - 1, at(0.25)});
+    halved.points.push_back(at(0.5));
+    halved.arcs.push_back({halved.points.size() - 1, at(0.75)});
+  }
+  return halved;
+}
+
 }  // namespace
 
-Reading MakeSurface(const Subject& subject, const PlaneFrame& plane, const Contour& outline,
+Reading MakeSurface(const Subject& subject, const PlaneFrame& plane, const Contour& contour,
                     const std::vector<Outline>& holes, const Span& span) {
+  const Contour outline = contour.points.size() < 3 ? WithHalvedArcs(contour) : contour;
   Reading reading;
   reading.kind = ElementKind::kSurface;
   SurfaceRegion& surface = reading.surface;

@@ -16,6 +16,7 @@ target_sources(kelifc_building PRIVATE
   build/idealise_measure.cpp
   build/idealise_member.cpp
   build/idealise_orient.cpp
+  build/idealise_parts.cpp
   build/idealise_profile.cpp
   build/idealise_reading.cpp
   build/idealise_scan.cpp
@@ -24,5 +25,6 @@ target_sources(kelifc_building PRIVATE
   build/idealise_source.cpp
   build/idealise_surface.cpp
   build/idealise_taper.cpp
+  build/made_profiles.cpp
   build/point_match.cpp
 )

@@ -158,6 +158,19 @@ TEST(IdealiseSurface, KeepsTheArcsOfAnOutline) {
   EXPECT_NEAR(slab.volume, 0.2 * (16.0 + 2.0 * std::numbers::pi), 1e-3);
 }
 
+TEST(IdealiseSurface, GivesARoundSlabFourPoints) {
+  Contour contour = ContourOf({{2.0, 0.0}, {-2.0, 0.0}});
+  contour.arcs = {{0, {0.0, 2.0}}, {1, {0.0, -2.0}}};
+  const Idealisation slab =
+      Sample({Prism(ProfileOf({{contour, {}}}), 0.2)}).ByFacts(ElementRole::kSlab);
+  ASSERT_EQ(slab.kind, ElementKind::kSurface);
+  EXPECT_FALSE(slab.isApproximate);
+  EXPECT_EQ(slab.surface->outline.size(), 4u);
+  EXPECT_EQ(slab.surface->arcs.size(), 4u);
+  EXPECT_NEAR(AreaOf(*slab.surface), 8.0, kTiny);
+  EXPECT_NEAR(slab.volume, 0.2 * 4.0 * std::numbers::pi, 1e-3);
+}
+
 TEST(IdealiseSurface, SweepsACurvedWallAlongItsMiddle) {
   // A quarter ring between 4.8 and 5.2 m, 3 m high.
   Contour contour = ContourOf({{4.8, 0.0}, {5.2, 0.0}, {0.0, 5.2}, {0.0, 4.8}});
@@ -178,6 +191,31 @@ TEST(IdealiseSurface, SweepsACurvedWallAlongItsMiddle) {
     EXPECT_LT(wall.deviation, 5e-4);
     EXPECT_NEAR(wall.volume, 0.5 * std::numbers::pi * 5.0 * 0.4 * 3.0, 1e-2);
   }
+}
+
+TEST(IdealiseSurface, ContainsTheMitredAndPointedEndsOfAWall) {
+  // In plan 5 m by 0.24 m: cut at 45 degrees on the left, and with a tip of 0.08 m on the right.
+  const Sample sample({Prism(
+      PolygonProfile({{0.0, 0.0}, {5.0, 0.0}, {5.08, 0.12}, {5.0, 0.24}, {0.24, 0.24}}), 2.5)});
+  const Idealisation wall = sample.ByFacts(ElementRole::kWall);
+  ASSERT_EQ(wall.kind, ElementKind::kSurface);
+  EXPECT_NEAR(wall.deviation, 0.0, 1e-4);
+  EXPECT_FALSE(wall.isApproximate);
+  EXPECT_EQ(wall.cutouts, 2u);
+  EXPECT_NEAR(AreaOf(*wall.surface), 5.08 * 2.5, 1e-3);
+  const double plan = 5.0 * 0.24 - 0.24 * 0.24 / 2 + 0.08 * 0.24 / 2;
+  EXPECT_NEAR(*wall.volumeRatio, 5.08 * 0.24 / plan, 1e-4);
+}
+
+TEST(IdealiseSurface, TakesTheMeanThicknessOfAWedge) {
+  // 0.20 m thick at one side, 0.21 m at the other.
+  const Sample sample(
+      {PrismAlongY(PolygonProfile({{0.0, 0.0}, {4.0, 0.0}, {4.0, 0.21}, {0.0, 0.2}}), 3.0)});
+  const Idealisation slab = sample.BySlices(ElementRole::kSlab);
+  ASSERT_EQ(slab.kind, ElementKind::kSurface);
+  EXPECT_NEAR(slab.surface->thickness, 0.205, 1e-3);
+  EXPECT_NEAR(slab.deviation, 0.005, 1e-3);
+  EXPECT_NEAR(*slab.volumeRatio, 1.0, 1e-3);
 }
 
 TEST(IdealiseSurface, UnitesTheLayersOfAWall) {

@@ -85,6 +85,23 @@ TEST(Idealise, FallsBackToTheBoundaryWhereTheFactsDiffer) {
   EXPECT_NEAR(column.deviation, 0.0, 1e-9);
 }
 
+TEST(Idealise, SharesTheProfilesOfElements) {
+  const Sample sample({Prism(RectangleProfile(-0.1, -0.1, 0.1, 0.1), 3.0)});
+  MadeProfiles profiles;
+  const Idealisation own = sample.ByFacts(ElementRole::kMember);
+  for (int i = 0; i < 2; ++i) {
+    const Idealisation shared =
+        Idealise({&sample.body, &sample.product, ElementRole::kMember, &profiles});
+    ASSERT_TRUE(shared.profile);
+    EXPECT_TRUE(AreSameProfile(*shared.profile, *own.profile));
+    EXPECT_EQ(shared.deviation, own.deviation);
+  }
+  const auto& extrusion = std::get<Extrusion>(sample.product.items[0]->form);
+  const PlacedProfile* kept = &*profiles.Get(extrusion.profile, 1.0);
+  EXPECT_EQ(kept, &*profiles.Get(extrusion.profile, 1.0));
+  EXPECT_NEAR(profiles.Get(extrusion.profile, 2.0)->profile.area, 0.16, 1e-12);
+}
+
 TEST(Idealise, DoesNotDependOnTheOrderOfCalls) {
   const Sample sample(
       {Minus(Block({0.0, 0.0, 0.0}, {0.4, 0.4, 4.0}), Block({0.3, -1.0, 3.8}, {1.0, 1.0, 5.0}))});

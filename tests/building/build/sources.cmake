@@ -6,4 +6,5 @@ set(stage_tests
   idealise_member_test.cpp
   idealise_surface_test.cpp
   idealise_test.cpp
+  point_match_test.cpp
 )
