@@ -148,7 +148,8 @@ class LineMember:
         first, last = self.areas
         if not self.is_tapered:
             return span * first
-        return span * (first + last + math.sqrt(first * last)) / 3  # exact for similar profiles
+        middle = [abs(plane_area(loop)) for loop in self.loops_at(0.5 * self.span)]
+        return span * (first + 4 * (middle[0] - sum(middle[1:])) + last) / 6
 
     def loops_at(self, along):
         if not self.is_tapered or any(len(a) != len(b)

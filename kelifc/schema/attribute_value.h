@@ -47,7 +47,7 @@ enum class AttributeValueKind : std::uint8_t {
 class KELIFC_API AttributeValue {
  public:
   /// An unset value.
-  AttributeValue() = default;
+  AttributeValue() noexcept : integer(0) {}
 
   /// Returns what the value is. It decides which of the operations below apply.
   AttributeValueKind GetKind() const { return kind; }
@@ -108,7 +108,7 @@ class KELIFC_API AttributeValue {
 
   AttributeValueKind kind = AttributeValueKind::kUnset;
   union {
-    std::int64_t integer = 0;  // also the LOGICAL_VALUE of a boolean or logical value
+    std::int64_t integer;  // also the LOGICAL_VALUE of a boolean or logical value
     double real;
     std::size_t number;  // of a reference
   };

@@ -199,7 +199,7 @@ TEST_F(LostColumn, GivesAStatusOfItsOwnIfTheUserAsksForIt) {
     EXPECT_EQ(run.status, kLost);
     EXPECT_EQ(run.err, "kelifc: " + path + ": 1 of 1 products were lost\n");
     EXPECT_EQ(run.out, Kelifc({command, "--json", path}).out);
-    EXPECT_EQ(Kelifc({command, "--fail-on-loss", "house.ifc"}).status, 0);
+    EXPECT_EQ(Kelifc({command, "--fail-on-loss", "hall.ifc"}).status, 0);
   }
 }
 

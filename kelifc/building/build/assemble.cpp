@@ -241,11 +241,13 @@ void Assembler::AddMaterials(BuildingElement& element, const MaterialFacts& fact
 std::size_t Assembler::FindWhole(std::size_t id) const {
   std::size_t found = 0;
   std::size_t at = id;
+  std::size_t mark = 0;  // a product that was passed; to meet it again is to be in a cycle
   for (std::size_t depth = 0; depth <= options.maxDepth; ++depth) {
     const auto place = places.find(at);
     at = place == places.end() ? 0 : place->second.whole;
-    if (at == 0) return found;
     if (at == id) return 0;
+    if (at == 0 || at == mark) return found;
+    if ((depth & (depth + 1)) == 0) mark = at;  // after 1, 2, 4, ... steps
     const auto whole = places.find(at);
     if (found == 0 && whole != places.end() && whole->second.isElement) found = at;
   }
