@@ -65,13 +65,45 @@ FlatRegion Placed(const FlatRegion& region, int quarters, bool isMirrored) {
 }
 
 // Random sizes in millimetres.
+ProfileFacts RandomSection(ProfileShape shape, Random& random) {
+  const double h = random(120, 600);
+  const double b = random(80, 100);
+  const double t = random(5, 12);
+  const double r = random(4, 14);
+  const double tf = random(14, 18);
+  const double edge = t / 2;
+  const double k = random(0.03, 0.08);
+  const double b1 = b + random(5, 90);
+  switch (shape) {
+    case ProfileShape::kI:
+      return FactsOf(shape, {{kH, h}, {kB, b1}, {kTw, t}, {kTf, tf}, {kR, r}});
+    case ProfileShape::kAsymmetricI: {
+      ProfileFacts facts = FactsOf(shape, {{kH, h}, {kB, b}, {kTw, t}, {kTf, tf}, {kR, r}});
+      ValueOf(facts.parameters, kB1) = b1 * 1e-3;
+      ValueOf(facts.parameters, kTf1) = (tf + 2) * 1e-3;
+      ValueOf(facts.parameters, kR1) = (r + 2) * 1e-3;
+      return facts;
+    }
+    case ProfileShape::kU: {
+      ProfileFacts facts = FactsOf(shape, {{kH, h}, {kB, b}, {kTw, t}, {kTf, tf}, {kR, r}});
+      ValueOf(facts.parameters, kR1) = edge * 1e-3;
+      ValueOf(facts.parameters, kSlope) = k;
+      return facts;
+    }
+    case ProfileShape::kL:
+      return FactsOf(shape, {{kH, h}, {kB, b1}, {kT, t}, {kR, r}, {kR1, edge}});
+    case ProfileShape::kC:
+      return FactsOf(shape, {{kH, h}, {kB, b}, {kT, 3}, {kC, random(20, 40)}, {kR, 4}});
+    default:
+      return FactsOf(shape, {{kH, h}, {kB, b1}, {kTw, t}, {kTf, tf}, {kR, r}, {kR1, edge}});
+  }
+}
+
 ProfileFacts RandomFacts(ProfileShape shape, Random& random) {
   const double h = random(120, 600);
   const double b = random(80, 300);
   const double t = random(5, 12);
   const double r = random(4, 14);
-  const double tf = random(14, 18);
-  const double k = random(0.03, 0.08);
   switch (shape) {
     case ProfileShape::kRectangle:
       return FactsOf(shape, {{kH, h}, {kB, b}});
@@ -85,34 +117,8 @@ ProfileFacts RandomFacts(ProfileShape shape, Random& random) {
       return FactsOf(shape, {{kD, h}, {kT, t}});
     case ProfileShape::kTrapezium:
       return FactsOf(shape, {{kH, h}, {kB, b + 50}, {kB1, b}, {kOffset, random(-40, 20)}});
-    case ProfileShape::kI:
-      return FactsOf(shape, {{kH, h}, {kB, b}, {kTw, t}, {kTf, tf}, {kR, r}});
-    case ProfileShape::kAsymmetricI:
-      return FactsOf(shape, {{kH, h},
-                             {kB, b},
-                             {kTw, t},
-                             {kTf, tf},
-                             {kR, r},
-                             {kB1, b + random(5, 90)},
-                             {kTf1, tf + 2},
-                             {kR1, r + 2}});
-    case ProfileShape::kU:
-      return FactsOf(shape, {{kH, h},
-                             {kB, random(60, 100)},
-                             {kTw, t},
-                             {kTf, tf},
-                             {kR, r},
-                             {kR1, random(3, 8)},
-                             {kSlope, k}});
-    case ProfileShape::kL:
-      return FactsOf(shape, {{kH, h}, {kB, b}, {kT, t}, {kR, r}, {kR1, t / 2}});
-    case ProfileShape::kT:
-    case ProfileShape::kZ:
-      return FactsOf(shape, {{kH, h}, {kB, b}, {kTw, t}, {kTf, tf}, {kR, r}, {kR1, t / 2}});
-    case ProfileShape::kC:
-      return FactsOf(shape, {{kH, h}, {kB, b}, {kT, 3}, {kC, random(20, 40)}, {kR, 4}});
     default:
-      return FactsOf(shape, {});
+      return RandomSection(shape, random);
   }
 }
 
@@ -204,6 +210,37 @@ TEST(Recognise, AllowsPointsRoundedToTenthsOfAMillimetre) {
   ASSERT_TRUE(found);
   EXPECT_EQ(found->shape, ProfileShape::kI);
   EXPECT_NEAR(ValueOf(found->parameters, kR), 0.018, 5e-4);
+}
+
+// A slice between two ends whose fillets have different chords has irregular points.
+Outline WithIrregularFillets(const Contour& contour, Random& random) {
+  Outline outline;
+  ForEachEdge(contour, [&](const Point2& start, const Point2&, const auto& arc) {
+    outline.push_back(start);
+    if (!arc) return;
+    const int parts = random.Count(8, 14);
+    for (int i = 1; i < parts; ++i) {
+      PlaneArc moved = *arc;
+      moved.radius += random(-3e-4, 1e-4);
+      outline.push_back(moved.At((i + random(-0.3, 0.3)) / parts));
+    }
+  });
+  return outline;
+}
+
+TEST(Recognise, AllowsFilletsOfIrregularPoints) {
+  Random random;
+  for (const ProfileShape shape : {ProfileShape::kI, ProfileShape::kAsymmetricI, ProfileShape::kT,
+                                   ProfileShape::kRoundedRectangle}) {
+    for (int i = 0; i < 20; ++i) {
+      const ProfileFacts facts = RandomFacts(shape, random);
+      const Region region = RegionsOf(facts).at(0);
+      const auto found = Recognise({WithIrregularFillets(region.outer, random), {}});
+      ASSERT_TRUE(found) << TextOf(shape) << ' ' << i;
+      EXPECT_EQ(found->shape, shape);
+      EXPECT_NEAR(ValueOf(found->parameters, kR), ValueOf(facts.parameters, kR), 5e-4);
+    }
+  }
 }
 
 TEST(Recognise, LeavesOutlinesThatDifferByAMillimetre) {
