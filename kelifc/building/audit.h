@@ -13,7 +13,7 @@
 namespace KelIFC {
 
 /// The number of the enumerators of LossReason.
-constexpr std::size_t kLossReasonCount = 11;
+constexpr std::size_t kLossReasonCount = static_cast<std::size_t>(LossReason::kLimit) + 1;
 
 /// What became of the products of one class.
 struct ClassAudit {

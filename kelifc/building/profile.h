@@ -32,7 +32,8 @@ enum class ProfileParameter : std::uint8_t {
 };
 
 /// The number of the enumerators of ProfileParameter.
-constexpr std::size_t kProfileParameterCount = 13;
+constexpr std::size_t kProfileParameterCount =
+    static_cast<std::size_t>(ProfileParameter::kOffset) + 1;
 
 /// The name of a parameter as the command prints it, such as "h" or "tw". Empty for a value that is
 /// no enumerator.
