@@ -12,43 +12,48 @@
 
 namespace KelIFC {
 
-constexpr std::size_t kLossReasonCount = 11;
+/// The number of the enumerators of LossReason.
+constexpr std::size_t kLossReasonCount = static_cast<std::size_t>(LossReason::kLimit) + 1;
 
-/// What became of the products of one class. members + surfaces + bodies + decomposed + the sum of
-/// lost == products.
+/// What became of the products of one class.
 struct ClassAudit {
-  std::string className;
-  BuildingTotals totals;                                ///< of this class
-  std::array<std::size_t, kLossReasonCount> lost = {};  ///< by reason
+  std::string className;                                ///< the entity, such as "IfcColumn"
+  BuildingTotals totals;                                ///< the counts of this class
+  std::array<std::size_t, kLossReasonCount> lost = {};  ///< by LossReason; the sum is totals.lost
 };
 
 /// What is wrong with the elevation of a storey.
 enum class ElevationFinding : std::uint8_t {
-  kNone,
-  kMissing,  ///< it has none
-  kEqual,    ///< another storey has the same, within 1 mm
+  kNone,     ///< nothing
+  kMissing,  ///< the storey has no elevation
+  kEqual,    ///< another storey has the same elevation, within 1 mm
 };
 
-/// Compares the storeys that elements state with those in which they are by height.
+/// A storey and its elements: those that it contains in the file, and those that are in it by their
+/// height.
 struct StoreyAudit {
-  std::size_t id = 0;
-  std::string name;
-  double elevation = 0.0;
-  ElevationFinding finding = ElevationFinding::kNone;
-  std::size_t stated = 0;              ///< so many elements state it
-  std::size_t byHeight = 0;            ///< so many elements are in it by height
-  std::vector<std::size_t> differing;  ///< elements that state it, but are in another by height
+  std::size_t id = 0;                                  ///< the instance number of the storey
+  std::string name;                                    ///< the name of the storey, in UTF-8
+  double elevation = 0.0;                              ///< in metres, as BuildingStorey::elevation
+  ElevationFinding finding = ElevationFinding::kNone;  ///< what is wrong with the elevation
+  std::size_t stated = 0;    ///< how many elements the storey contains in the file
+  std::size_t byHeight = 0;  ///< how many elements are in the storey by their height
+
+  /// The instance numbers of the elements that the storey contains in the file, but that are in
+  /// another storey by their height. In the order of the file.
+  std::vector<std::size_t> differing;
 };
 
+/// What Audit finds.
 struct BuildingAudit {
-  std::vector<ClassAudit> classes;   ///< by name
-  std::vector<StoreyAudit> storeys;  ///< as in the building
+  std::vector<ClassAudit> classes;   ///< by className
+  std::vector<StoreyAudit> storeys;  ///< in the order of Building::storeys
 
-  /// Some storeys have an elevation, and others do not.
+  /// True if some storeys have an elevation and others do not.
   bool hasMixedElevations = false;
 };
 
-/// Counts what was read of a building and what was lost, and checks its storeys.
+/// Counts the products of a building by class and by loss reason, and checks its storeys.
 KELIFC_API BuildingAudit Audit(const Building& building);
 
 }  // namespace KelIFC

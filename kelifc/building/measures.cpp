@@ -2,12 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <vector>
 
 namespace KelIFC {
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 /// The arc of a circle from `from` to `to` through a point between them.
 struct Arc {
@@ -26,12 +25,12 @@ struct ArcSizes {
 /// The angle at the point between the ends is half of the rest of the circle.
 ArcSizes SizesOf(const Arc& arc) {
   const double chord = Length(arc.to - arc.from);
-  if (chord == 0.0) return {0.5 * Length(arc.through - arc.from), 2.0 * kPi};
+  if (chord == 0.0) return {0.5 * Length(arc.through - arc.from), 2.0 * std::numbers::pi};
   const double inscribed = Angle(arc.from - arc.through, arc.to - arc.through);
   const double sine = std::sin(inscribed);
-  constexpr double kStraight = 1e-9;
+  constexpr double kStraight = 1e-9;  // a flatter arc is measured as its chord
   if (sine < kStraight) return {};
-  return {chord / (2.0 * sine), 2.0 * (kPi - inscribed)};
+  return {chord / (2.0 * sine), 2.0 * (std::numbers::pi - inscribed)};
 }
 
 double LengthOfArc(const Arc& arc) {

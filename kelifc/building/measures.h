@@ -10,16 +10,16 @@ namespace KelIFC {
 
 // Sizes of idealised elements, in metres and square metres. Arcs are measured as arcs.
 
-/// The length of the axis.
+/// The length of the axis of a member.
 KELIFC_API double LengthOf(const MemberAxis& member);
 
-/// The length of the curve at the lower edge.
+/// The length of the base line of a curved wall, which is the curve at its lower edge.
 KELIFC_API double LengthOf(const WallSweep& sweep);
 
-/// The length of the outline and of all holes; of a curved wall that of its base line.
+/// The length of the outline and of all holes of a surface; of a curved wall that of its base line.
 KELIFC_API double PerimeterOf(const SurfaceRegion& surface);
 
-/// The area of the region without its holes; of a curved wall the length of its base line times its
+/// The area of a surface without its holes; of a curved wall the length of its base line times its
 /// height. Openings are not subtracted.
 KELIFC_API double AreaOf(const SurfaceRegion& surface);
 

@@ -14,61 +14,70 @@
 
 namespace KelIFC {
 
-/// A size of a profile, in metres; kSlope in radians. ParametersOf lists those of each shape. h is
-/// along z and b along y.
+/// A size of a profile, in metres; kSlope in radians. ParametersOf returns those of a shape.
 enum class ProfileParameter : std::uint8_t {
-  kH,
-  kB,      ///< of kTrapezium: of the bottom; of kAsymmetricI: of the bottom flange
-  kB1,     ///< of the top of kTrapezium, of the top flange of kAsymmetricI
+  kH,      ///< the height, along z
+  kB,      ///< the width, along y: of kTrapezium the bottom, of kAsymmetricI the bottom flange
+  kB1,     ///< the width of the top of kTrapezium, or of the top flange of kAsymmetricI
   kD,      ///< the outside diameter
-  kT,      ///< the thickness of the wall
+  kT,      ///< the thickness of the wall, or of the legs of kL
   kTw,     ///< the thickness of the web
-  kTf,     ///< the thickness of the flange; of kAsymmetricI: of the bottom flange
+  kTf,     ///< the thickness of the flanges; of kAsymmetricI that of the bottom flange
   kTf1,    ///< the thickness of the top flange of kAsymmetricI
-  kC,      ///< the girth of kC
-  kR,      ///< the radius of a fillet; of a hollow or rounded rectangle: outside; of kC: inside
-  kR1,     ///< the radius of an edge; of kHollowRectangle: inside; of kAsymmetricI: the top fillet
-  kSlope,  ///< of the flanges or legs
-  kOffset  ///< of the start of the top of kTrapezium from the start of the bottom, along y
+  kC,      ///< the outside length of the lips of the shape kC
+  kR,      ///< the radius of the fillets; of rectangles outside, of the shape kC inside
+  kR1,     ///< the radius of the edges; of kHollowRectangle inside, of kAsymmetricI the top fillets
+  kSlope,  ///< the angle between the inner and the outer faces of the flanges or legs
+  kOffset  ///< of kTrapezium: from the left end of the bottom to that of the top, along y
 };
 
-constexpr std::size_t kProfileParameterCount = 13;
+/// The number of the enumerators of ProfileParameter.
+constexpr std::size_t kProfileParameterCount =
+    static_cast<std::size_t>(ProfileParameter::kOffset) + 1;
 
-/// The name of a parameter, as the command prints it: "h", "tw".
+/// The name of a parameter as the command prints it, such as "h" or "tw". Empty for a value that is
+/// no enumerator.
 KELIFC_API std::string_view TextOf(ProfileParameter parameter);
 
-/// The parameters that a shape has, in the order in which they are printed. The list ends at
-/// `count`.
+/// The parameters of a shape, in the order in which the command prints them.
 struct ProfileParameterList {
-  std::array<ProfileParameter, kProfileParameterCount> parameters = {};
-  std::size_t count = 0;
+  std::array<ProfileParameter, kProfileParameterCount> parameters = {};  ///< the first `count`
+  std::size_t count = 0;  ///< the number of the parameters
 
+  /// The first parameter.
   const ProfileParameter* begin() const { return parameters.data(); }
+  /// The place after the last parameter.
   const ProfileParameter* end() const { return parameters.data() + count; }
 };
+
+/// The parameters that a shape has. The list is empty for kArbitrary and for a value that is no
+/// enumerator.
 KELIFC_API ProfileParameterList ParametersOf(ProfileShape shape);
 
-/// A closed line of the plane. The first point is not repeated.
+/// A closed polyline in the plane, in metres. The first point is not repeated.
 using Outline = std::vector<Point2>;
 
-/// A profile. Its coordinates are (y, z) in metres, with the origin at the centroid of its area.
+/// A cross-section. Its coordinates are (y, z) in metres; the origin is the centroid of its area.
 /// Point2::x holds y, and Point2::y holds z. Seen from the end of a member towards its start, y
-/// points to the right and z up.
+/// points to the right and z upwards.
 struct BuildingProfile {
-  std::string name;  ///< as in the file, in UTF-8; may be empty
-  ProfileShape shape = ProfileShape::kArbitrary;
-  std::array<double, kProfileParameterCount> parameters = {};  ///< 0 for those that the shape lacks
-  Outline outline;             ///< counter-clockwise; chords differ from arcs by 0.1 mm at most
-  std::vector<Outline> holes;  ///< clockwise
-  double area = 0.0;
-  double iy = 0.0;          ///< the integral of z squared over the area
-  double iz = 0.0;          ///< the integral of y squared
-  double iyz = 0.0;         ///< the integral of y z
-  std::string designation;  ///< as "HEB220"; empty if the sizes are not those of a known one
+  std::string name;  ///< the name in the file, in UTF-8; empty if there is none
+  ProfileShape shape = ProfileShape::kArbitrary;  ///< which parameters describe the profile
 
-  /// True if the name is a designation whose sizes are not those of the outline.
+  /// By ProfileParameter; 0 for a parameter that the shape does not have.
+  std::array<double, kProfileParameterCount> parameters = {};
+  Outline outline;             ///< counter-clockwise; chords are at most 0.1 mm from their arc
+  std::vector<Outline> holes;  ///< clockwise
+  double area = 0.0;           ///< without the holes, in square metres
+  double iy = 0.0;             ///< the integral of z squared over the area, in m^4
+  double iz = 0.0;             ///< the integral of y squared, in m^4
+  double iyz = 0.0;            ///< the integral of y times z, in m^4
+  std::string designation;     ///< such as "HEB220"; empty if no standard section has the sizes
+
+  /// True if the name is the designation of a section with other sizes than the outline has.
   bool nameContradicts = false;
 
+  /// The value of a parameter; 0 if the shape does not have it.
   double operator[](ProfileParameter parameter) const {
     return parameters[static_cast<std::size_t>(parameter)];
   }

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <initializer_list>
 
 #include "kelifc/building/profile.h"
@@ -6,47 +5,39 @@
 namespace KelIFC {
 namespace {
 
-using Parameter = ProfileParameter;
+using enum ProfileParameter;
 
-struct ShapeParameters {
-  ProfileShape shape = ProfileShape::kArbitrary;
+constexpr ProfileParameterList ListOf(std::initializer_list<ProfileParameter> parameters) {
   ProfileParameterList list;
-
-  ShapeParameters(ProfileShape shape, std::initializer_list<Parameter> parameters) : shape(shape) {
-    std::copy(parameters.begin(), parameters.end(), list.parameters.begin());
-    list.count = parameters.size();
-  }
-};
-
-const ShapeParameters* FindShape(ProfileShape shape) {
-  using S = ProfileShape;
-  using P = Parameter;
-  static const std::initializer_list<ShapeParameters> kShapes = {
-      {S::kRectangle, {P::kH, P::kB}},
-      {S::kRoundedRectangle, {P::kH, P::kB, P::kR}},
-      {S::kHollowRectangle, {P::kH, P::kB, P::kT, P::kR, P::kR1}},
-      {S::kCircle, {P::kD}},
-      {S::kHollowCircle, {P::kD, P::kT}},
-      {S::kEllipse, {P::kH, P::kB}},
-      {S::kTrapezium, {P::kH, P::kB, P::kB1, P::kOffset}},
-      {S::kI, {P::kH, P::kB, P::kTw, P::kTf, P::kR}},
-      {S::kAsymmetricI, {P::kH, P::kB, P::kTw, P::kTf, P::kR, P::kB1, P::kTf1, P::kR1}},
-      {S::kU, {P::kH, P::kB, P::kTw, P::kTf, P::kR, P::kR1, P::kSlope}},
-      {S::kL, {P::kH, P::kB, P::kT, P::kR, P::kR1, P::kSlope}},
-      {S::kT, {P::kH, P::kB, P::kTw, P::kTf, P::kR, P::kR1, P::kSlope}},
-      {S::kZ, {P::kH, P::kB, P::kTw, P::kTf, P::kR, P::kR1}},
-      {S::kC, {P::kH, P::kB, P::kT, P::kC, P::kR}}};
-  const auto* const found =
-      std::find_if(kShapes.begin(), kShapes.end(),
-                   [shape](const ShapeParameters& entry) { return entry.shape == shape; });
-  return found == kShapes.end() ? nullptr : found;
+  for (const ProfileParameter parameter : parameters) list.parameters[list.count++] = parameter;
+  return list;
 }
+
+// By ProfileShape.
+constexpr std::array<ProfileParameterList, 15> kLists = {
+    ListOf({}),                                      // kArbitrary
+    ListOf({kH, kB}),                                // kRectangle
+    ListOf({kH, kB, kR}),                            // kRoundedRectangle
+    ListOf({kH, kB, kT, kR, kR1}),                   // kHollowRectangle
+    ListOf({kD}),                                    // kCircle
+    ListOf({kD, kT}),                                // kHollowCircle
+    ListOf({kH, kB}),                                // kEllipse
+    ListOf({kH, kB, kB1, kOffset}),                  // kTrapezium
+    ListOf({kH, kB, kTw, kTf, kR}),                  // kI
+    ListOf({kH, kB, kTw, kTf, kR, kB1, kTf1, kR1}),  // kAsymmetricI
+    ListOf({kH, kB, kTw, kTf, kR, kR1, kSlope}),     // kU
+    ListOf({kH, kB, kT, kR, kR1, kSlope}),           // kL
+    ListOf({kH, kB, kTw, kTf, kR, kR1, kSlope}),     // kT
+    ListOf({kH, kB, kTw, kTf, kR, kR1}),             // kZ
+    ListOf({kH, kB, kT, kC, kR}),                    // kC
+};
+static_assert(kLists.size() == static_cast<std::size_t>(ProfileShape::kC) + 1);
 
 }  // namespace
 
 ProfileParameterList ParametersOf(ProfileShape shape) {
-  const ShapeParameters* const found = FindShape(shape);
-  return found == nullptr ? ProfileParameterList() : found->list;
+  const auto at = static_cast<std::size_t>(shape);
+  return at < kLists.size() ? kLists[at] : ProfileParameterList();
 }
 
 }  // namespace KelIFC

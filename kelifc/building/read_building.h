@@ -10,25 +10,28 @@ namespace KelIFC {
 
 class IfcServer;
 
-/// Which elements keep the boundary of their body.
-enum class KeptBodies { kNone, kOfBodies, kAll };
+/// Which elements keep the boundary of their body in BuildingBody::mesh.
+enum class KeptBodies {
+  kNone,      ///< no element
+  kOfBodies,  ///< the elements of the kind kBody
+  kAll        ///< all elements
+};
 
+/// What ReadBuilding keeps, and the limits that protect the host from damaged or malicious files. A
+/// product that exceeds a limit becomes a loss with the reason kLimit.
 struct ReadingOptions {
-  /// kOfBodies: those of the elements that are neither members nor surfaces.
-  KeptBodies keptBodies = KeptBodies::kOfBodies;
+  KeptBodies keptBodies = KeptBodies::kOfBodies;  ///< which elements have a mesh
 
-  /// The largest number of points of all bodies together, and of one body. A product beyond it
-  /// becomes a loss with the reason kLimit.
-  std::size_t maxPoints = 200'000'000;
-  std::size_t maxBodyPoints = 5'000'000;
+  std::size_t maxPoints = 200'000'000;    ///< the largest number of points of all bodies together
+  std::size_t maxBodyPoints = 5'000'000;  ///< the largest number of points of one body
 
   /// The deepest nesting of mapped items, boolean results and decompositions.
   std::size_t maxDepth = 64;
 };
 
-/// Reads all structural elements of a model of the releases 2x, 2x2 and 2x3. The model does not
-/// change. The result is empty for the other releases and for an empty model. It throws nothing but
-/// std::bad_alloc.
+/// Reads all structural elements of a model of the releases 2x, 2x2 and 2x3 and returns them by
+/// value. The model does not change. For another release and for an empty model the result is
+/// empty. The only exception is std::bad_alloc.
 KELIFC_API Building ReadBuilding(IfcServer& server, const ReadingOptions& options = {});
 
 }  // namespace KelIFC

@@ -42,7 +42,7 @@ ElementRole RoleOf(std::string_view className) {
   return found == kRoles.end() ? ElementRole::kOther : found->role;
 }
 
-/// True for a whole that has no body, and whose parts stand for it.
+/// True for a whole that has no body and is replaced by its parts.
 bool IsDecomposed(const ProductFacts& product) {
   const bool hasNoShape = !product.fault ||
                           product.fault->reason == LossReason::kNoRepresentation ||
@@ -218,7 +218,7 @@ BuildingIndex Assembler::MaterialIndex(const LayerFacts& layer) {
   return materials.Add(layer.material, {layer.material});
 }
 
-/// Materials are counted in the order of the file, layer by layer.
+/// Adds the materials of an element to the building, layer by layer in the order of the file.
 void Assembler::AddMaterials(BuildingElement& element, const MaterialFacts& facts) {
   if (!facts.materials.empty()) {
     element.material = materials.Add(facts.materials.front(), {facts.materials.front()});
@@ -236,12 +236,12 @@ void Assembler::AddMaterials(BuildingElement& element, const MaterialFacts& fact
   if (element.surface) element.surface->layers = std::move(layers);
 }
 
-/// The element that a product is a part of. Decomposed and lost wholes are passed over. A product
-/// that is a part of itself has none.
+/// The element that a product is a part of; 0 if there is none, or if the product is a part of
+/// itself. Wholes that are decomposed or lost are skipped.
 std::size_t Assembler::FindWhole(std::size_t id) const {
   std::size_t found = 0;
   std::size_t at = id;
-  std::size_t mark = 0;  // a product that was passed; to meet it again is to be in a cycle
+  std::size_t mark = 0;  // an earlier product; if it comes again, the products are in a cycle
   for (std::size_t depth = 0; depth <= options.maxDepth; ++depth) {
     const auto place = places.find(at);
     at = place == places.end() ? 0 : place->second.whole;

@@ -20,6 +20,7 @@ constexpr double kSamePlane = 1e-3;  // metres
 constexpr double kCovers = 0.9;
 constexpr double kCoversWithSupport = 0.25;
 
+// The faces of an end are compared with at most so many planes, so that the time is linear.
 constexpr std::size_t kMostPlanes = 8;
 
 struct EndFaces {

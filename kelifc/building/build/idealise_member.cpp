@@ -70,7 +70,7 @@ std::optional<Reading> ReadMember(Subject& subject, const Vector3& direction) {
 }
 
 Vector3 OrientAxis(const Subject& subject, const Vector3& direction) {
-  constexpr double kHorizontal = 0.02;
+  constexpr double kHorizontal = 0.02;  // the sine of the largest slope of a horizontal axis
   if (subject.product != nullptr && subject.product->axis &&
       subject.product->axis->points.size() >= 2) {
     const std::vector<Point3>& points = subject.product->axis->points;

@@ -6,8 +6,8 @@
 namespace KelIFC::building::idealising {
 namespace {
 
-constexpr double kParallel = 0.999;
-constexpr double kTiny = 1e-9;
+constexpr double kParallel = 0.999;  // the cosine of 2.6 degrees
+constexpr double kTiny = 1e-9;       // lengths and cosines up to this are rounding errors
 
 Vector3 AxisOf(const Transform3& placement, int axis) {
   return Unit(axis == 1 ? placement.x : axis == 2 ? placement.y : placement.z);

@@ -8,7 +8,8 @@
 namespace KelIFC::building::idealising {
 namespace {
 
-constexpr double kLeastSize = 1e-6;  // metres
+// Divisors are at least this size, in metres, so that proportions stay finite.
+constexpr double kLeastSize = 1e-6;
 
 // Solids whose volume is not in this range of that of the body are not measured.
 constexpr double kLeastVolume = 0.7;

@@ -11,6 +11,7 @@
 namespace KelIFC::building::idealising {
 namespace {
 
+// Each trial slices the boundary several times, so only the most promising ones are made.
 constexpr std::size_t kMostTrials = 8;
 constexpr std::size_t kMostTrialsOfSeveral = 3;
 constexpr double kLeastPromise = 0.03;
@@ -24,7 +25,7 @@ struct Trial {
 
 // A plane across a direction, turned towards another direction that lies in it.
 PlaneFrame AlignedFrame(const std::vector<Direction>& directions, const Vector3& across) {
-  constexpr double kInPlane = 0.01;
+  constexpr double kInPlane = 0.01;  // the sine of the largest angle out of the plane
   const Direction* best = nullptr;
   for (const Direction& direction : directions) {
     if (std::fabs(Dot(direction.vector, across)) > kInPlane) continue;

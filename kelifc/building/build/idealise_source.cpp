@@ -6,6 +6,7 @@
 namespace KelIFC::building::idealising {
 namespace {
 
+// The search for the only solid follows at most so many nested maps and boolean results.
 constexpr int kMostSteps = 256;
 
 BodySource SourceOf(const Solid& solid) {
@@ -87,7 +88,7 @@ std::optional<Point3> ProfilePlaneOf(const SingleSolid& single, const Vector3& n
 
 std::optional<StraightExtrusion> MakeStraight(const Extrusion& extrusion,
                                               const Transform3& toLocal) {
-  constexpr double kTiny = 1e-6;
+  constexpr double kTiny = 1e-6;  // of lengths relative to each other, and of cosines
   const Transform3 placed = Combine(toLocal, extrusion.position);
   StraightExtrusion straight;
   straight.scale = Length(placed.x);

@@ -10,12 +10,13 @@
 namespace KelIFC::building::idealising {
 namespace {
 
+// Sections that hold over a smaller part of the thickness come last.
 constexpr double kLeastPart = 0.1;
 
-// The cosine from which on a face is square to the normal.
+// A face is square to the normal if the cosine of its own normal is at least this: 0.5 degrees.
 constexpr double kSquare = 1.0 - 4e-5;
 
-// The level, along a direction, at which the faces that look in it have the largest area.
+// A position along a direction, and the area of the faces there.
 struct Level {
   double at = 0.0;
   double area = 0.0;
@@ -46,7 +47,7 @@ struct Faces {
 };
 
 Faces FindFaces(Boundary& boundary, const Vector3& normal) {
-  constexpr double kLeastPart = 0.3;
+  constexpr double kLeastFace = 0.3;  // of the area of the opposite face
   const Mesh& mesh = boundary.Mesh();
   std::vector<std::pair<double, double>> upper;
   std::vector<std::pair<double, double>> lower;
@@ -63,8 +64,8 @@ Faces FindFaces(Boundary& boundary, const Vector3& normal) {
   const Level bottom = MainLevel(std::move(lower));
   Faces faces;
   faces.span = boundary.Along(normal);
-  faces.hasLower = bottom.area > kLeastPart * top.area;
-  faces.hasUpper = top.area > kLeastPart * bottom.area;
+  faces.hasLower = bottom.area > kLeastFace * top.area;
+  faces.hasUpper = top.area > kLeastFace * bottom.area;
   if (faces.hasLower && faces.hasUpper && top.at - bottom.at < 1e-5) return {faces.span};
   if (faces.hasLower) faces.span.from = bottom.at;
   if (faces.hasUpper) faces.span.to = top.at;

@@ -55,7 +55,7 @@ Vector3 NormalOfLargestFace(const Mesh& mesh) {
 
 /// The direction of the only extrusion of an opening, in the world; zero if its shape is another.
 Vector3 DirectionOfExtrusion(const OpeningFacts& facts) {
-  constexpr int kDeepestMap = 8;
+  constexpr int kDeepestMap = 8;  // of a deeper opening the largest face counts
   Transform3 toWorld = facts.placement;
   const std::vector<SolidPointer>* items = &facts.items;
   for (int depth = 0; depth < kDeepestMap; ++depth) {
@@ -76,7 +76,7 @@ Vector3 DirectionOfExtrusion(const OpeningFacts& facts) {
 
 PlaneFrame FrameOf(const Plane& plane) {
   const Vector3& n = plane.normal;
-  const bool isSteep = std::abs(n.z) > 0.9;  // then z is no good start for a square direction
+  const bool isSteep = std::abs(n.z) > 0.9;  // the cross product with z would be inaccurate
   PlaneFrame frame;
   frame.origin = plane.point;
   frame.x = Cross(isSteep ? Vector3(0.0, 1.0, 0.0) : Vector3(0.0, 0.0, 1.0), n);

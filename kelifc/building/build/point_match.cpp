@@ -13,6 +13,7 @@ double KeyOf(const Point3& p) {
   return p.x * kKeyDirection.x + p.y * kKeyDirection.y + p.z * kKeyDirection.z;
 }
 
+// Bounds the time if very many points have about the same coordinate along the direction.
 constexpr std::size_t kMostCompared = 64;
 
 }  // namespace

@@ -4,14 +4,13 @@
 #include <array>
 #include <charconv>
 #include <cmath>
+#include <numbers>
 
 #include "kelifc/building/measures.h"
 #include "kelifc/building/profile/make_profile.h"
 
 namespace KelIFC::building {
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 /// A length in metres as millimetres, rounded to 0.01 mm.
 std::string Millimetres(double metres) {
@@ -95,7 +94,7 @@ Displacement DisplacementOf(const BuildingElement& from, const BuildingElement& 
   Displacement displacement = {MoveOf(from.box, to.box), 0.0};
   if (from.surface && to.surface) {
     const double angle = Angle(from.surface->normal, to.surface->normal);
-    displacement.rotated = std::min(angle, kPi - angle);  // a plane has two normals
+    displacement.rotated = std::min(angle, std::numbers::pi - angle);  // a plane has two normals
   }
   return displacement;
 }
@@ -116,7 +115,7 @@ std::string SectionText(const Building& building, const BuildingElement& element
 
 bool HaveSameSection(const Building& oldBuilding, const BuildingElement& oldElement,
                      const Building& newBuilding, const BuildingElement& newElement) {
-  constexpr double kSameThickness = 1e-4;
+  constexpr double kSameThickness = 1e-4;  // metres
   if (oldElement.kind != newElement.kind) return false;
   if (oldElement.member && newElement.member) {
     return ProfileKey(ProfileOf(oldBuilding, oldElement)) ==

@@ -35,7 +35,7 @@ struct CellHash {
 };
 
 std::int64_t CellOf(double coordinate, double size) {
-  constexpr double kLargest = 1e15;
+  constexpr double kLargest = 1e15;  // converts to an integer without overflow
   return static_cast<std::int64_t>(std::floor(std::clamp(coordinate / size, -kLargest, kLargest)));
 }
 
@@ -118,7 +118,7 @@ Matcher::Grid Matcher::MakeGrid(double size) const {
 
 void Matcher::AddCandidates(std::size_t oldIndex, const Grid& grid, double largestDistance,
                             std::vector<Candidate>& candidates) const {
-  // Many elements can be in one place. So much of them is looked at that time stays linear.
+  // Many elements can be in one place. The limit keeps the time linear.
   constexpr std::size_t kMostVisited = 256;
   const BuildingElement& element = oldBuilding.elements[oldIndex];
   const Point3 centre = CentreOf(element);

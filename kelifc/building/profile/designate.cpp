@@ -15,7 +15,7 @@ namespace {
 
 using enum ProfileParameter;
 
-constexpr double kSizeTolerance = 0.5e-3;
+constexpr double kSizeTolerance = 0.5e-3;    // metres
 constexpr double kAreaTolerance = 0.05;      // of an outline that a name explains
 constexpr double kAreaContradiction = 0.10;  // of an outline that no shape explains
 
@@ -66,7 +66,7 @@ void DesignateByName(BuildingProfile& profile, const RecognisedShape& shape,
 // If one number is a side and the other is far from the other side, it is a length or the thickness
 // of a plate, which contradicts nothing.
 bool MayBeSides(const std::array<double, 2>& numbers, const ProfileParameters& parameters) {
-  constexpr double kOtherSize = 2.0;
+  constexpr double kOtherSize = 2.0;  // the ratio from which on two sizes do not mean the same side
   const auto sides = std::minmax({ValueOf(parameters, kH), ValueOf(parameters, kB)});
   const auto named = std::minmax({numbers[0], numbers[1]});
   const auto isSame = [](double a, double b) { return std::abs(a - b) <= kSizeTolerance; };

@@ -9,8 +9,12 @@ namespace KelIFC::building {
 
 namespace {
 
+// With fewer chords a loop is a polygon. The chords of a regular polygon of 12 edges turn by 30
+// degrees; the largest turn allows for rounded coordinates.
 constexpr std::size_t kFewestChords = 12;
 constexpr double kLargestChord = 31.0 * std::numbers::pi / 180.0;
+
+// Rounded coordinates may turn a very short chord back by this angle, in radians.
 constexpr double kLargestBackStep = std::numbers::pi / 180.0;
 constexpr double kRelativeTolerance = 0.05;  // of the radius
 

@@ -5,7 +5,7 @@
 
 namespace KelIFC::building {
 
-/// True if a shape has a parameter, by the table at ProfileParameter.
+/// True if ParametersOf lists the parameter for the shape.
 bool HasParameter(ProfileShape shape, ProfileParameter parameter);
 
 /// True if a shape that is turned by 90 degrees is the same shape with h and b exchanged.

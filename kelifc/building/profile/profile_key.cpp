@@ -11,9 +11,9 @@ namespace KelIFC::building {
 
 namespace {
 
-constexpr double kRounding = 1e5;       // hundredths of a millimetre in a metre
-constexpr double kSlopeRounding = 1e4;  // in a radian
-constexpr double kExtentTolerance = 1e-3;
+constexpr double kRounding = 1e5;          // hundredths of a millimetre in a metre
+constexpr double kSlopeRounding = 1e4;     // in a radian
+constexpr double kExtentTolerance = 1e-3;  // metres
 constexpr double kMomentTolerance = 0.02;  // of the sum of both moments
 constexpr int kNoPosition = -1;
 

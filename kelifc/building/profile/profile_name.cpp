@@ -46,7 +46,7 @@ class NameReader {
   std::optional<double> Number() {
     SkipSeparators();
     if (rest.empty() || !IsDigit(rest.front())) return std::nullopt;
-    constexpr double kMost = 1e6;
+    constexpr double kMost = 1e6;  // no size is larger
     double value = 0.0;
     for (; !rest.empty() && IsDigit(rest.front()); rest.remove_prefix(1)) {
       value = std::min(kMost, value * 10.0 + (rest.front() - '0'));

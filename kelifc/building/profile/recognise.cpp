@@ -20,6 +20,7 @@ namespace {
 using enum ProfileParameter;
 using Corners = std::vector<RoundedCorner>;
 
+// No shape has more corners: an I and a C have 12.
 constexpr std::size_t kMostCorners = 12;
 
 // A fillet of a right angle moves by 0.41 mm if its radius grows by 1 mm.

@@ -7,8 +7,8 @@ namespace KelIFC::building {
 
 namespace {
 
-constexpr double kSamePoint = 1e-9;
-constexpr double kOverlap = 1e-7;  // by which two arcs may exceed the edge between them
+constexpr double kSamePoint = 1e-9;  // metres
+constexpr double kOverlap = 1e-7;    // by which two arcs may exceed the edge between them
 
 // The arc of a corner: its ends on the two edges, and a point between them.
 struct Rounding {

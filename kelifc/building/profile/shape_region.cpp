@@ -12,7 +12,7 @@ namespace KelIFC::building {
 
 namespace {
 
-constexpr double kLargestSize = 1e6;
+constexpr double kLargestSize = 1e6;    // sizes beyond it are faults of the file, in metres
 constexpr double kSteepestSlope = 0.7;  // in radians; the faces of an L of 45 degrees are parallel
 constexpr std::size_t kMostEllipseChords = 4096;
 

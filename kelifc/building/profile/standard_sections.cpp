@@ -21,6 +21,10 @@ using enum ProfileParameter;
 
 constexpr double kMillimetre = 1e-3;
 constexpr double kSquareCentimetre = 1e-4;
+
+// How far sizes may be from those of the tables, in metres. Without fillets there is less evidence,
+// so the tolerance is smaller. A wall of a hollow section is thin, so its tolerance is smaller,
+// too.
 constexpr double kLengthTolerance = 0.5e-3;
 constexpr double kSharpLengthTolerance = 0.3e-3;
 constexpr double kWallTolerance = 0.25e-3;

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <string>
 
 #include "kelifc/building/read/bezier.h"
@@ -11,8 +12,7 @@
 namespace KelIFC::building {
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
-constexpr double kFullTurn = 2.0 * kPi;
+constexpr double kFullTurn = 2.0 * std::numbers::pi;
 
 // A turn that differs from a full one or from none by less than this, in radians, is that.
 constexpr double kTurnTolerance = 1e-9;
@@ -193,9 +193,9 @@ std::optional<CurveReader::Conic> CurveReader::ReadConic(const Instance& curve) 
 Path CurveReader::ArcOf(const Conic& conic, double start, double sweep) const {
   const bool isCircle = conic.rx == conic.ry;
   const double turn = std::abs(sweep);
-  const std::size_t count =
-      isCircle ? static_cast<std::size_t>(std::max(1.0, std::ceil(turn / kPi - kTurnTolerance)))
-               : ChordsOf(std::max(conic.rx, conic.ry), sweep);
+  const double halfTurns = std::ceil(turn / std::numbers::pi - kTurnTolerance);
+  const std::size_t count = isCircle ? static_cast<std::size_t>(std::max(1.0, halfTurns))
+                                     : ChordsOf(std::max(conic.rx, conic.ry), sweep);
   const auto at = [&](double steps) {
     const double angle = start + sweep * steps / static_cast<double>(count);
     return conic.axes(Point3(conic.rx * std::cos(angle), conic.ry * std::sin(angle), 0.0));

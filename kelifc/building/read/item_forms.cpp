@@ -1,4 +1,5 @@
 #include <cmath>
+#include <numbers>
 #include <utility>
 
 #include "kelifc/building/read/curves.h"
@@ -11,7 +12,7 @@
 namespace KelIFC::building {
 namespace {
 
-constexpr double kFullTurn = 6.28318530717958647692;
+constexpr double kFullTurn = 2.0 * std::numbers::pi;
 
 using Form = Primitive::Form;
 

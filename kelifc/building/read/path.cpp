@@ -3,11 +3,11 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 namespace KelIFC::building {
 namespace {
 
-constexpr double kPi = 3.14159265358979323846;
 constexpr std::size_t kMostChords = 4096;
 
 double Distance(const Point3& a, const Point3& b) { return Length(b - a); }
@@ -58,7 +58,7 @@ ArcOfPoints::ArcOfPoints(const Point3& start, const Point3& through, const Point
   y = Cross(normal / std::sqrt(square), x);
   const Vector3 last = end - centre;
   sweep = std::atan2(Dot(last, y), Dot(last, x));
-  if (sweep <= 0.0) sweep += 2.0 * kPi;
+  if (sweep <= 0.0) sweep += 2.0 * std::numbers::pi;
   if (!std::isfinite(radius) || !std::isfinite(sweep)) sweep = 0.0;
 }
 
@@ -72,7 +72,7 @@ Point3 ArcOfPoints::At(double fraction) const {
 std::size_t ChordsOf(double radius, double sweep) {
   if (!(radius > 0.0) || !std::isfinite(radius)) return 1;
   const double step = 2.0 * std::acos(std::max(0.0, 1.0 - kChordError / radius));
-  const double count = std::ceil(std::abs(sweep) / std::min(step, kPi / 4.0) - 1e-9);
+  const double count = std::ceil(std::abs(sweep) / std::min(step, std::numbers::pi / 4.0) - 1e-9);
   return static_cast<std::size_t>(std::clamp(count, 1.0, static_cast<double>(kMostChords)));
 }
 

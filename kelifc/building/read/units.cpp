@@ -1,14 +1,13 @@
 #include "kelifc/building/read/units.h"
 
 #include <cmath>
+#include <numbers>
 #include <optional>
 #include <string>
 #include <string_view>
 
 namespace KelIFC::building {
 namespace {
-
-constexpr double kPi = 3.14159265358979323846;
 
 // Units can be defined by each other; more levels than this are not followed.
 constexpr int kMaxUnitDepth = 8;
@@ -28,9 +27,16 @@ constexpr NamedFactor kPrefixes[] = {
 // The exact factors of conversion-based units. Many files round the factor of a degree to a few
 // digits; the exact one replaces a factor that differs by less than 0.1 %.
 constexpr NamedFactor kConversions[] = {
-    {"DEGREE", kPi / 180.0}, {"DEGREES", kPi / 180.0}, {"DEG", kPi / 180.0}, {"GRAD", kPi / 200.0},
-    {"GON", kPi / 200.0},    {"INCH", 0.0254},         {"FOOT", 0.3048},     {"FEET", 0.3048},
-    {"YARD", 0.9144},        {"MILE", 1609.344},
+    {"DEGREE", std::numbers::pi / 180.0},
+    {"DEGREES", std::numbers::pi / 180.0},
+    {"DEG", std::numbers::pi / 180.0},
+    {"GRAD", std::numbers::pi / 200.0},
+    {"GON", std::numbers::pi / 200.0},
+    {"INCH", 0.0254},
+    {"FOOT", 0.3048},
+    {"FEET", 0.3048},
+    {"YARD", 0.9144},
+    {"MILE", 1609.344},
 };
 
 template <std::size_t Count>
