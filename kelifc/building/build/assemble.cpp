@@ -14,8 +14,8 @@
 #include "kelifc/building/build/first_use.h"
 #include "kelifc/building/build/idealise.h"
 #include "kelifc/building/build/openings.h"
-#include "kelifc/building/build/profile_key.h"
 #include "kelifc/building/build/storeys.h"
+#include "kelifc/building/profile/make_profile.h"
 
 namespace KelIFC::building {
 namespace {

@@ -3,7 +3,6 @@ target_sources(kelifc_building PRIVATE
   build/body_maker.cpp
   build/finite.cpp
   build/openings.cpp
-  build/profile_key.cpp
   build/storeys.cpp
   build/idealise.cpp
   build/idealise_bevel.cpp

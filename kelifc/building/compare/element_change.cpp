@@ -5,8 +5,8 @@
 #include <charconv>
 #include <cmath>
 
-#include "kelifc/building/build/profile_key.h"
 #include "kelifc/building/measures.h"
+#include "kelifc/building/profile/make_profile.h"
 
 namespace KelIFC::building {
 namespace {
