@@ -63,9 +63,9 @@ struct AttributeDescription {
   std::string_view setter = {};  ///< the one that sets it or adds to it; empty for none
   std::string_view type =
       {};  ///< the class that references lead to, or the enumeration; may be empty
-  std::int16_t position = kNoPosition;  ///< in the statement, counted from 0
-  AttributeKind kind = AttributeKind::kUnknown;
-  AttributeUse use = AttributeUse::kKept;
+  std::int16_t position = kNoPosition;           ///< in the statement, counted from 0
+  AttributeKind kind = AttributeKind::kUnknown;  ///< how a file writes the value
+  AttributeUse use = AttributeUse::kKept;        ///< whether and how an instance gets the value
   bool isRequired = false;         ///< the schema does not allow `$`; false where that is not known
   bool isWritten = false;          ///< a save writes the kept value; false: a fixed text or nothing
   AttributeReader read = nullptr;  ///< null for a value that the instance does not keep
@@ -83,7 +83,7 @@ enum class EntityForm : std::uint8_t {
 struct KELIFC_API EntityDescription {
   std::string_view name =
       {};  ///< as the C++ class spells it, which may differ from the schema in case
-  EntityForm form = EntityForm::kEntity;
+  EntityForm form = EntityForm::kEntity;              ///< whether the class has instances
   bool isInFile = false;                              ///< a load makes instances of it by its name
   AttributeKind valueKind = AttributeKind::kUnknown;  ///< of a value type
   AttributeReader readValue = nullptr;                ///< of a value type that can have instances
@@ -93,7 +93,7 @@ struct KELIFC_API EntityDescription {
   const EntityDescription* record = nullptr;
   /// The attributes that the class adds: those in a statement in their order, then the others.
   const AttributeDescription* attributes = nullptr;
-  std::size_t attributeCount = 0;
+  std::size_t attributeCount = 0;  ///< of `attributes`
   std::size_t positionCount =
       0;  ///< how many attributes a statement has, those of `record` included
 
@@ -120,11 +120,14 @@ KELIFC_API const EntityDescription* DescribeInstance(const IfcUnknown& instance)
 
 /// A range of classes, for range-based for loops: `for (const EntityDescription* entity : range)`.
 struct EntityRange {
-  const EntityDescription* const* first = nullptr;
-  std::size_t count = 0;
+  const EntityDescription* const* first = nullptr;  ///< null in an empty range
+  std::size_t count = 0;                            ///< of classes
 
+  /// Returns the place of the first class.
   const EntityDescription* const* begin() const { return first; }
+  /// Returns the place after the last class.
   const EntityDescription* const* end() const { return first + count; }
+  /// Returns the number of classes.
   std::size_t size() const { return count; }
 };
 

@@ -10,6 +10,10 @@ namespace {
 
 using Kind = AttributeValueKind;
 
+const IfcOther* AsOther(const IfcUnknown& instance) {
+  return dynamic_cast<const IfcOther*>(&instance);
+}
+
 }  // namespace
 
 IfcUnknown* AttributeValue::AsReference() const {
@@ -69,17 +73,13 @@ AttributeValue AttributeValue::TypedValue() const {
 
 InstanceView::InstanceView(const IfcUnknown& viewed)
     : instance(&viewed), description(DescribeInstance(viewed)) {
-  if (description != nullptr) return;
-  if (const auto* other = dynamic_cast<const IfcOther*>(instance)) {
-    statement = other->GetAttributes();
-  }
+  const IfcOther* const other = description == nullptr ? AsOther(viewed) : nullptr;
+  if (other != nullptr) statement = other->GetAttributes();
 }
 
 std::string_view InstanceView::EntityName() const {
-  if (description == nullptr) {
-    const auto* const other = dynamic_cast<const IfcOther*>(instance);
-    if (other != nullptr) return other->GetStepEntityName();
-  }
+  const IfcOther* const other = description == nullptr ? AsOther(*instance) : nullptr;
+  if (other != nullptr) return other->GetStepEntityName();
   return instance->GetStepName();
 }
 

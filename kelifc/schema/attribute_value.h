@@ -47,8 +47,9 @@ enum class AttributeValueKind : std::uint8_t {
 class KELIFC_API AttributeValue {
  public:
   /// An unset value.
-  AttributeValue() = default;
+  AttributeValue() noexcept : integer(0) {}
 
+  /// Returns what the value is. It decides which of the operations below apply.
   AttributeValueKind GetKind() const { return kind; }
 
   /// Returns the instance that a reference leads to: one of the model, which owns it, or the inline
@@ -107,7 +108,7 @@ class KELIFC_API AttributeValue {
 
   AttributeValueKind kind = AttributeValueKind::kUnset;
   union {
-    std::int64_t integer = 0;  // also the LOGICAL_VALUE of a boolean or logical value
+    std::int64_t integer;  // also the LOGICAL_VALUE of a boolean or logical value
     double real;
     std::size_t number;  // of a reference
   };
@@ -124,6 +125,8 @@ class KELIFC_API AttributeValue {
 /// library does not define, such as one that a host derives, has no values.
 class KELIFC_API InstanceView {
  public:
+  /// The values of `instance`, which must outlive the view. Linear in the length of raw text,
+  /// otherwise constant time.
   explicit InstanceView(const IfcUnknown& instance);
 
   /// Returns the name of the entity: as the C++ class spells it, or for raw text as the file does.

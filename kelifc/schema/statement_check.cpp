@@ -91,7 +91,8 @@ void StatementCheck::CheckStatement(const ScanBuffer& scanner, const Assignment&
   const auto note = [&](LoadFinding kind, const FoundValue& value, std::string_view name) {
     const std::size_t position = isComplex ? 0 : value.attribute;
     const auto offset = static_cast<std::size_t>(value.at - scanner.GetText());
-    report.findings.Note(kind, scanner.GetPlace(offset), {statement.number, entity.name, position});
+    report.findings.Note(kind, scanner.GetPlace(offset),
+                         {statement.number, entity.name, position, std::string(name)});
     auto& counts = kind == LoadFinding::kDanglingReference ? report.danglingByAttribute
                                                            : report.unreadByAttribute;
     ++counts[{entity.name, position, std::string(name)}];

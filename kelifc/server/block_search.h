@@ -3,8 +3,8 @@
 
 #include <bit>
 
-// Searches text for the first of a few characters, sixteen bytes at a time if the processor can.
-// Only the condition below checks the processor.
+// Searches text for the first of a few characters, sixteen bytes at a time if the processor has the
+// instructions for it. Only the condition below depends on the processor.
 
 #if defined(__SSE2__) || defined(_M_X64)
 

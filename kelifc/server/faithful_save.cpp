@@ -73,7 +73,7 @@ class FaithfulSave::Reader {
  public:
   Reader(std::istream& statements, std::istream& bytes) : input(statements), source(bytes) {}
 
-  // The next statement, or null at the end. Its bytes are appended to those that wait.
+  // Returns the next statement, or null at the end. Appends its bytes to `gap` and `raw`.
   char* Next() {
     char* const text = scanner.Next();
     if (text == nullptr) return nullptr;
@@ -197,7 +197,7 @@ void FaithfulSave::WriteStatement(Reader& reader, char* text, std::ostream& out)
       return;
     case Action::kReplace:
       WriteInstance(out, assignment.number);
-      // A statement without an end has no `;` but a line end.
+      // A statement without `;` ends with its line.
       if (reader.raw.empty() || reader.raw.back() != ';') detail::PutChar(out, '\n');
   }
 }
@@ -249,7 +249,7 @@ std::uint32_t FaithfulSave::PositionOf(std::uint64_t number) const {
   return server.idToIndex.Find(number);
 }
 
-// Without the line end, which is the source's.
+// Writes no line end, because the one of the source is copied.
 void FaithfulSave::WriteInstance(std::ostream& out, std::uint64_t number) {
   std::string_view text = TextOf(number, out);
   NoteReferences(text);
@@ -267,8 +267,8 @@ std::string_view FaithfulSave::TextOf(std::uint64_t number, std::ostream& out) {
   return statement.GetText();
 }
 
-// Instances that a class added during the load are written if one that is written refers to them.
-// Returns the numbers of those that no text before referred to.
+// Adds the instances to write to which a statement refers, and that a class added during the load.
+// Returns the numbers of those that are new in `additions`.
 std::vector<std::uint64_t> FaithfulSave::NoteReferences(std::string_view text) {
   std::vector<std::uint64_t> noted;
   bool isInString = false;
@@ -293,7 +293,7 @@ void FaithfulSave::CollectAdditions(std::ostream& out) {
     const bool isNew = position >= origin->addedEnd;
     if (isNew ? placed.count(n) == 0 : HasValue(TextOf(n, out))) additions.insert(n);
   }
-  // What is added here may itself refer to others.
+  // An instance that is added here can refer to others.
   std::vector<std::uint64_t> open(additions.begin(), additions.end());
   while (!open.empty()) {
     const std::uint64_t number = open.back();

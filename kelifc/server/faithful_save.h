@@ -24,8 +24,8 @@ class ModelOrigin;
 /// Writes a model as a copy of its source, in which the statements of changed instances are
 /// replaced. SaveOptions::faithful defines what is copied.
 ///
-/// An instance is changed if its statement, parsed once more into an instance apart from the model,
-/// has other values. The source is streamed twice; memory is bounded by the longest statement.
+/// To find the changed instances, each statement is parsed again into an instance outside the
+/// model, and the values of both are compared. The memory depends on the longest statement only.
 class FaithfulSave {
  public:
   explicit FaithfulSave(IfcServer& model) : server(model) {}
@@ -63,7 +63,7 @@ class FaithfulSave {
   std::size_t lastDataEnd = 0;  // which statement ends the last data section; 0 if none does
 
   // While the file is written:
-  IfcServer apart;  // holds nothing; statements are parsed with it
+  IfcServer apart;  // the model of the instances that are parsed for the comparison; else empty
   IsoStatementReader values;
   RegisteredMaterials registered;
   bool isSchemaSeen = false;

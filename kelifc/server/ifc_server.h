@@ -224,25 +224,25 @@ class KELIFC_API IfcServer {
   /// CheckModel keeps them until then.
   int LoadIfcMemory(const void* data, std::size_t size, const LoadOptions& options);
 
-  /// Writes all numbered instances to a STEP file, as SaveIfcFile does it, and returns a
-  /// SAVE_RESULT. What differs:
+  /// Writes all numbered instances to a STEP file, as SaveIfcFile does, and returns a SAVE_RESULT.
+  /// There are these differences:
   ///  - The file is written beside `path` and replaces it at the end, as FileReplacement defines. A
   ///    failure at any time leaves the old file as it was.
   ///  - Every failure has a result other than 0. The error handler receives one message.
   ///  - A faithful save copies from the source of the model what the host did not change.
   int SaveIfc(const char* path, const SaveOptions& options);
 
-  /// The dialect that the model was loaded in, and in which it is saved. STEP_DIALECT_CLASSIC after
-  /// Reset and after a load that failed. In the dialect of ISO 10303-21 the texts of attributes are
-  /// UTF-8.
+  /// Returns the dialect in which the model was loaded, and in which it is saved. Returns
+  /// STEP_DIALECT_CLASSIC after Reset and after a load that failed. In the dialect of ISO 10303-21
+  /// the texts of attributes are UTF-8.
   STEP_DIALECT GetDialect() const { return dialect; }
 
-  /// What LoadIfc, LoadIfcStream or LoadIfcMemory found wrong in the file that was loaded last.
-  /// LoadIfcFile leaves it empty.
+  /// Returns what the last LoadIfc, LoadIfcStream or LoadIfcMemory found wrong in its file. It is
+  /// empty after LoadIfcFile.
   const LoadFindings& GetLoadFindings() const { return report.findings; }
 
-  /// What LoadIfc, LoadIfcStream or LoadIfcMemory met in the file that was loaded last. LoadIfcFile
-  /// leaves it empty. Of a load that failed it has what was counted up to the failure.
+  /// Returns the report of the last LoadIfc, LoadIfcStream or LoadIfcMemory. It is empty after
+  /// LoadIfcFile. After a load that failed it has the counts up to the failure.
   const LoadReport& GetLoadReport() const { return report; }
 
   /// Adds to the report what a load does not look for: references to numbers that no statement has,
@@ -255,9 +255,9 @@ class KELIFC_API IfcServer {
   /// rest of the report does not change. The same holds if it throws std::bad_alloc.
   bool CheckModel();
 
-  /// Where the source has the statement of an instance: all 0 for a number that no statement has,
-  /// and for models that LoadIfcFile loaded. Of statements with the same number the last one
-  /// counts. Constant time.
+  /// Returns the place of the statement of an instance in the source. All its members are 0 for a
+  /// number that no statement has, and for a model that LoadIfcFile loaded. Of statements with the
+  /// same number the last one counts. Takes constant time.
   StatementPlace GetStatementPlace(std::size_t number) const;
 
   /// The line of that place, from 1; 0 for none.

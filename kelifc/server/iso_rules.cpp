@@ -11,10 +11,10 @@ namespace {
 
 constexpr bool IsLineEnd(int c) { return c == '\n' || c == '\r'; }
 constexpr bool IsGap(int c) { return IsLineEnd(c) || c == '\0'; }
-// No further is looked for the begin of a statement in a line.
+// The begin of a statement is searched in this many characters of a line.
 constexpr std::size_t kLongestBegin = 64;
 
-// What begins a statement at the begin of a line, besides a number.
+// The words that begin a statement at the begin of a line. A number does so, too.
 constexpr std::string_view kKeywords[] = {"FILE_DESCRIPTION", "FILE_NAME", "FILE_SCHEMA", "ENDSEC",
                                           "DATA"};
 
@@ -60,7 +60,8 @@ char* IsoRules::TakeMark() {
   return nullptr;
 }
 
-// Leaves out a character that means nothing, and looks at the line that begins after a line end.
+// Leaves out a character that means nothing. After a line end, checks whether the next line begins
+// a statement.
 char* IsoRules::TakeGap(char c) {
   const bool endsLine = c == '\n' || (c == '\r' && Peek(1) != '\n');
   FlushRun(cursor);
@@ -89,8 +90,8 @@ void IsoRules::TakeInString(char c) {
   ++cursor;
 }
 
-// Goes on with an escape. Returns false if the character is not a part of it; the escape is then
-// at its end, too.
+// Continues an escape with a character. Returns false if the character does not belong to the
+// escape; then the escape has ended.
 bool IsoRules::StepOn(Escape& escape, char c) {
   const Escape before = escape;
   escape = Escape::kNone;
@@ -119,8 +120,8 @@ bool IsoRules::StepOn(Escape& escape, char c) {
   return false;
 }
 
-// With the cursor on the first quote after `\S\`. What follows is looked at for no more than a
-// megabyte, all of which has to be in the buffer.
+// The cursor is on the first quote after `\S\`. At most a megabyte after it is read, because all of
+// it has to be in the buffer.
 std::size_t IsoRules::CountQuotesOfText() {
   constexpr std::size_t kFurthest = std::size_t{1024} * 1024;
   std::size_t distance = 0;
@@ -131,7 +132,7 @@ std::size_t IsoRules::CountQuotesOfText() {
   });
 }
 
-// With the cursor on a slash: steps over the comment that begins there, if one does.
+// The cursor is on a slash. Skips the comment that begins there, if one does.
 bool IsoRules::SkipComment() {
   if (Peek(1) != '*') return false;
   FlushRun(cursor);
@@ -159,7 +160,7 @@ void IsoRules::SkipCommentBody(const SourcePlace& begin) {
 }
 
 // True if the line at the cursor begins as a statement: with a number and `=`, or with a keyword of
-// the file's structure and `(` or `;`. Blanks may stand before and between.
+// the structure of a file and `(` or `;`. There can be blanks before and between them.
 bool IsoRules::IsAtNewStatement() {
   const std::size_t begin = SkipBlanks(0);
   if (Peek(begin) == '#') {
@@ -175,13 +176,13 @@ bool IsoRules::IsAtNewStatement() {
   return false;
 }
 
-// The distance of the first character, from a distance on, that is no blank.
+// Returns the distance of the first character at or after a distance that is not a blank.
 std::size_t IsoRules::SkipBlanks(std::size_t distance) {
   while (distance < kLongestBegin && (Peek(distance) == ' ' || Peek(distance) == '\t')) ++distance;
   return distance;
 }
 
-// True if a keyword stands at a distance from the cursor, in any case.
+// True if there is a keyword at a distance from the cursor, in upper or lower case.
 bool IsoRules::IsKeyword(std::size_t distance, std::string_view keyword) {
   for (const char letter : keyword) {
     const int found = Peek(distance++);
@@ -191,7 +192,7 @@ bool IsoRules::IsKeyword(std::size_t distance, std::string_view keyword) {
   return true;
 }
 
-// Ends the statement ahead of the line at the cursor, unless its text is of blanks only.
+// Ends the statement before the line at the cursor. A statement of blanks only is ignored.
 char* IsoRules::EndBeforeNewStatement() {
   const std::size_t blanks = CountLeadingBlanks();
   if (blanks == GetLength()) {

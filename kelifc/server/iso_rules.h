@@ -15,15 +15,16 @@ namespace KelIFC {
 ///    leaves nothing.
 ///  - Line ends (a line feed, a carriage return, or both) vanish, in strings too, because exporters
 ///    wrap long lines anywhere. So do NUL bytes. Blanks at the begin of a statement vanish.
-///  - A `;` in a string is text. Quotes begin and end strings; a doubled quote ends one and begins
-///    another, which comes to the same. A quote after `\S\` can be text: see CountQuotesAfterShift.
+///  - A `;` in a string is text. Quotes begin and end strings. A doubled quote counts as the end of
+///    a string and the begin of another one, which has the same effect. A quote after `\S\` can be
+///    text: see CountQuotesAfterShift.
 ///  - A line that begins with `#`, digits and `=` begins a statement in any case, unless it is part
 ///    of a comment. So does a line that begins with FILE_DESCRIPTION, FILE_NAME, FILE_SCHEMA,
-///    ENDSEC or DATA and then `(` or `;`. If the statement before it has no `;`, it ends there. If
-///    its string is open, it is left out as a whole. So a string without an end costs one
-///    statement.
+///    ENDSEC or DATA and then `(` or `;`. If the statement before it has no `;`, that statement
+///    ends there. If one of its strings is open, the whole statement is left out. So a string
+///    without an end costs one statement.
 ///  - Text after the last `;` is left out. So is a comment without an end.
-/// What has no end is reported.
+/// Statements, strings and comments without an end are reported.
 class IsoRules : public ScanBuffer {
  public:
   using ScanBuffer::ScanBuffer;
@@ -32,8 +33,8 @@ class IsoRules : public ScanBuffer {
   void SetFindings(LoadFindings* target) { findings = target; }
 
  protected:
-  /// Starts a statement. One line end before it, as nearly every file has it, is skipped here,
-  /// which is faster than to search for it.
+  /// Starts a statement. Nearly every file has one line end before each statement. It is skipped
+  /// here, because a search for it is slower.
   void Begin() {
     const bool hasReturn = cursor + 2 < dataEnd && buffer[cursor] == '\r';
     const std::size_t lineEnd = cursor + (hasReturn ? 1 : 0);
@@ -49,7 +50,8 @@ class IsoRules : public ScanBuffer {
   void TakeEnd();
 
  private:
-  // How far an escape in a string has been read. A quote or a backslash in an escape is no mark.
+  // How much of an escape in a string has been read. A quote or a backslash inside an escape
+  // neither ends the string nor begins another escape.
   enum class Escape : std::uint8_t { kNone, kOpen, kShift, kShifted, kExtended, kPage, kClosing };
 
   static bool StepOn(Escape& escape, char c);

@@ -32,7 +32,7 @@ const char* IsoStatementReader::Read(const char* text, const char* end) {
   kept = text;
   limit = end;
   for (const char* at = text; at != end;) {
-    // All that may need a change: blanks, strings, binary values, lower case.
+    // Blanks, strings, binary values and letters in lower case may need a change.
     at = FindMatch<Below<'#'>, Is<kQuote>, Within<'a', 'z'>>(at, end);
     if (at != end) at = TakeToken(at);
   }
@@ -56,7 +56,7 @@ const char* IsoStatementReader::TakeLowerCase(const char* at) {
   return kept = at;
 }
 
-// Steps over a string that means the same in both notations, and replaces any other.
+// Skips a string that means the same in both notations, and replaces any other one.
 const char* IsoStatementReader::TakeString(const char* quote) {
   const char* at = FindMatch<Is<kQuote>, Is<kEscape>, UpperByte>(quote + 1, limit);
   const bool hasUpperBytes = at != limit && *at != kQuote && *at != kEscape;
@@ -99,7 +99,7 @@ void IsoStatementReader::FlushTo(const char* position) { out.append(kept, positi
 
 namespace {
 
-// Rewrites one statement on its way to a stream.
+// Writes one statement to a stream, with its values in the notation of ISO 10303-21.
 class Writer {
  public:
   Writer(std::ostream& stream, std::string_view statement)

@@ -19,10 +19,10 @@ class IsoStatementReader {
   /// `sink` receives the bad escapes of all statements. It may be null.
   explicit IsoStatementReader(BadEscapeSink* sink = nullptr) : badEscapes(sink) {}
 
-  /// Returns [text, end), a statement or a part of it that holds no comment, in the notation of the
-  /// values: `text` itself if nothing changes, which is the usual case, otherwise a text that is
+  /// Returns [text, end), a statement or a part of it without comments, in the notation of the
+  /// values. Usually nothing changes, and the result is `text` itself. Otherwise the result is
   /// valid until the next call. There is a NUL at `end`, and at the end of the result.
-  ///  - What may stand between tokens is removed.
+  ///  - Blanks and control characters between tokens are removed.
   ///  - Letters outside strings become upper case.
   ///  - Strings are decoded.
   ///  - Binary values become one character per bit.
@@ -41,7 +41,7 @@ class IsoStatementReader {
   BadEscapeSink* badEscapes;
   std::string out;
   std::string decoded;
-  const char* kept = nullptr;  // what stands from here to the current token is not in `out` yet
+  const char* kept = nullptr;  // the text from here to the current token is not in `out` yet
   const char* limit = nullptr;
 };
 

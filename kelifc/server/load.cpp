@@ -118,7 +118,7 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
 }
 
 int IfcServer::LoadFrom(const ModelSource& model, const LoadState& initial) {
-  struct LoadEnd {  // also where memory runs out in the middle
+  struct LoadEnd {  // runs also if an allocation fails
     LoadState& load;
     ~LoadEnd() { load = LoadState(); }
   } const end{load};
@@ -137,7 +137,8 @@ int IfcServer::LoadFrom(const ModelSource& model, const LoadState& initial) {
 
 int IfcServer::LoadPasses(const ModelSource& model) {
   MakeRoom(model.GetSize());
-  // Where memory is watched each block stands alone, so that none can be touched unseen.
+  // A build that watches memory allocates each instance on its own, so that it finds each access
+  // outside an instance.
   std::optional<LoadArena> memory;
   if (!kIsMemoryWatched) load.memory = &memory.emplace();
   std::unique_ptr<std::istream> in = model.Open();
@@ -190,7 +191,7 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   idToIndex.Reserve(expected);
 }
 
-// Called once for each block that was read, looks at what changes slowly.
+// Called once for each block of the file. Checks the memory and reports the progress.
 bool IfcServer::GoesOn() {
   if (!load.isRunning) return true;
   load.bytesReported = load.scanner->GetBytesRead();
@@ -205,8 +206,8 @@ bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
   return !load.isStopped;
 }
 
-// Texts stand outside the blocks of instances; the statements that they were read from are longer.
-// The statements of the first pass do not count.
+// The texts of instances are outside the blocks. They are shorter than the statements from which
+// they were read, so the length of the statements is counted for them, in the second pass only.
 bool IfcServer::IsWithinMemory() const {
   const std::uint64_t blocks = load.memory == nullptr ? 0 : load.memory->GetBytes();
   const std::uint64_t texts = load.bytesBefore == 0 ? 0 : load.statementBytes;

@@ -47,8 +47,9 @@ struct FindingSubject {
   std::size_t number = 0;     ///< of the instance; 0 if it is not known
   std::string entity;         ///< in upper case; empty if it is not known
   std::size_t attribute = 0;  ///< the position in the statement, from 1; 0 if it is not known
+  std::string name = {};      ///< of the attribute in the schema; empty if it is not known
 
-  /// Returns true if both have the same number, entity and attribute.
+  /// Returns true if both have the same number, entity and attribute. The name follows from these.
   friend bool operator==(const FindingSubject& a, const FindingSubject& b) {
     return a.number == b.number && a.entity == b.entity && a.attribute == b.attribute;
   }

@@ -48,6 +48,7 @@ struct LoadReport {
 
   /// True after a call of CheckModel that returned true. What follows is only known then.
   bool isChecked = false;
+  /// Counts by the entity and the position of the attribute.
   using AttributeCounts = std::map<EntityAttribute, std::uint64_t>;
   AttributeCounts danglingByAttribute;  ///< references to numbers that no statement has
   AttributeCounts unreadByAttribute;    ///< attributes that cannot be read

@@ -89,6 +89,7 @@ std::string PlaceAsJson(const SourcePlace& place, const FindingSubject& subject)
   if (subject.number != 0) object.Add("number", std::uint64_t{subject.number});
   if (!subject.entity.empty()) object.Add("entity", Quoted(subject.entity));
   if (subject.attribute != 0) object.Add("attribute", std::uint64_t{subject.attribute});
+  if (!subject.name.empty()) object.Add("name", Quoted(subject.name));
   return object.Object();
 }
 
@@ -125,6 +126,7 @@ std::string PlaceText(const SourcePlace& place, const FindingSubject& subject) {
   text += " (#" + std::to_string(subject.number);
   if (!subject.entity.empty()) text += "=" + Shown(subject.entity);
   if (subject.attribute != 0) text += ", attribute " + std::to_string(subject.attribute);
+  if (!subject.name.empty()) text += " " + subject.name;
   return text + ")";
 }
 

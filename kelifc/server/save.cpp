@@ -26,7 +26,8 @@ namespace {
 constexpr int kSaved = 0;
 constexpr int kCannotCreate = 1;
 
-// The header is the same for all models but for its three fields; a file name goes in as it is.
+// The header is the same for all models except for its three fields. The file name is written
+// without any change.
 void WriteHeader(std::ostream& out, std::string_view fileName, std::string_view schema) {
   out << "ISO-10303-21;\n"
          "HEADER;\n"
@@ -102,7 +103,7 @@ int IfcServer::SaveModel(const char* path, std::string_view schema, const SaveOp
   FileReplacement target(path);
   reason = target.GetFailure();
   if (!target.IsGood()) return SAVE_RESULT_CANNOT_WRITE;
-  // A source has its own line ends.
+  // A faithful save copies the line ends of the source.
   FileOutput file(target.GetPath(), faithful ? std::ios::binary : std::ios::openmode{});
   reason = GetLastSystemError();
   if (!file.IsOpen()) return SAVE_RESULT_CANNOT_WRITE;
@@ -127,11 +128,12 @@ void IfcServer::WriteModel(std::ostream& out, std::string_view fileName, std::st
   detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
 }
 
-// Takes the numbers a batch at a time. In a file without order each step from a number to its
-// instance waits for memory; so the steps of a whole batch wait together.
+// Writes the instances in batches. If the numbers of a file are not in order, each step from a
+// number to its instance waits for memory. The memory for a whole batch is prefetched, so that
+// these times overlap.
 void IfcServer::WriteInstances(std::ostream& out) {
   constexpr std::size_t kBatch = 32;
-  constexpr std::size_t kWritten = 256;  // bytes of an instance; all of them are read
+  constexpr std::size_t kWritten = 256;  // bytes of an instance that are prefetched
   std::array<std::uint64_t, kBatch> batch = {};
   TextStream statement;
   std::uint64_t last = 0;

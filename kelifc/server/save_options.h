@@ -16,16 +16,18 @@ enum SAVE_RESULT : std::int32_t {
 
 /// How IfcServer::SaveIfc writes a model.
 struct SaveOptions {
-  /// Writes what the host did not change as it stands in the source of the model: the header but
-  /// for the name, the time and the preprocessor version of FILE_NAME, the statements of instances
-  /// that are as they were read, and all that stands between statements.
-  ///  - The statement of a changed instance is written by its class, that of a deleted one is left
-  ///    out. New instances follow at the end of the last data section, by rising number.
-  ///  - Instances that a class added during the load are written if a statement that a class wrote
-  ///    refers to them.
+  /// Copies what the host did not change from the source of the model: the header except for the
+  /// name, the time and the preprocessor version of FILE_NAME, the statements of unchanged
+  /// instances, and everything between the statements.
+  ///  - The class of a changed instance writes its statement. The statement of a deleted instance
+  ///  is
+  ///    left out. New instances follow at the end of the last data section, in ascending order of
+  ///    their numbers.
+  ///  - Instances that a class added during the load are written if the host changed them, or if a
+  ///    statement that a class wrote refers to them.
   ///  - The model must have been loaded by LoadIfc, LoadIfcStream or LoadIfcMemory in the dialect
   ///  of
-  ///    ISO 10303-21. The source is read again; it must still hold the same bytes.
+  ///    ISO 10303-21. The source is read again, and must still have the same bytes.
   bool faithful = false;
 };
 

@@ -22,7 +22,8 @@ std::uint64_t ScanBuffer::PeekNumber() const {
   return number;
 }
 
-// The piece that holds a character of the text, counted with the characters that were removed.
+// Returns the piece with a character of the text. `offset` includes the characters that DropFront
+// removed.
 const ScanBuffer::Piece& ScanBuffer::FindPiece(std::size_t offset) const {
   if (pieces.empty()) return start;
   const auto next = std::upper_bound(
@@ -65,9 +66,9 @@ bool ScanBuffer::Refill() {
   return !ended;
 }
 
-// Moves the text to the front of the buffer and all that follows after it. A text is moved at most
-// once, since it then stays at the front. One character stays between a text and what follows, for
-// the NUL that ends the text.
+// Moves the text to the front of the buffer, and everything that follows it. A text is moved at
+// most once, because it then stays at the front. One character remains free after the text, for the
+// NUL that ends it.
 void ScanBuffer::CloseGaps() {
   const std::size_t length = textEnd - textBegin;
   const std::size_t begin = length == 0 ? 0 : length + 1;

@@ -13,8 +13,8 @@
 
 namespace KelIFC {
 
-/// The part of a scanner that does not depend on the dialect: a stream in blocks, the text of one
-/// statement that is gathered in place in them, and where it stood in the file.
+/// The part of a scanner that does not depend on the dialect. It reads a stream in blocks, collects
+/// the text of one statement inside its buffer, and knows the place of the statement in the file.
 ///
 /// The buffer is as long as two blocks, or as the longest statement. All work is linear in the
 /// length of the stream.
@@ -33,15 +33,16 @@ class ScanBuffer {
   const char* GetText() const { return buffer.get() + textBegin; }
   const char* GetTextEnd() const { return buffer.get() + textEnd; }
 
-  /// The number of the next statement, as far as it can be told without parsing: 0 unless it begins
-  /// with `#` and digits and is in the buffer.
+  /// Returns the number of the next statement without parsing it. Returns 0 if the statement does
+  /// not begin with `#` and digits, or if it is not in the buffer yet.
   std::uint64_t PeekNumber() const;
 
   /// The number of bytes that have been read from the stream.
   std::uint64_t GetBytesRead() const { return bytesRead; }
 
-  /// A statement that grows beyond `bytes` ends the input from now on; 0 removes the limit. The
-  /// length is looked at when another block is read, so a statement may exceed it by a block.
+  /// Sets the length of the longest statement. A longer one ends the input. 0 removes the limit.
+  /// The length is checked when another block is read, so a statement may exceed the limit by a
+  /// block.
   void SetLimit(std::size_t bytes) { limit = bytes; }
 
   /// True if a statement exceeded the limit.
@@ -87,9 +88,9 @@ class ScanBuffer {
     dropped = count;
   }
 
-  // The character at a distance from the cursor, or -1 at the end of the input. Reads on where
-  // needed, so that positions may move, all by the same distance. Nothing may be flushed and not
-  // skipped at this moment.
+  // Returns the character at a distance from the cursor, or -1 at the end of the input. Reads more
+  // blocks if necessary; then all positions may move by the same distance. It must not be called
+  // between FlushRun and SkipTo.
   int Peek(std::size_t distance) {
     while (dataEnd - cursor <= distance) {
       if (!Refill()) return -1;
@@ -103,7 +104,7 @@ class ScanBuffer {
   // Joins the run up to `end` to the text, in most cases without moving a byte.
   void FlushRun(std::size_t end);
 
-  // Leaves out what stands between the text and `position`.
+  // Leaves out the characters between the text and `position`.
   void SkipTo(std::size_t position) {
     MoveTo(position);
     NotePiece();
@@ -118,7 +119,7 @@ class ScanBuffer {
     lineStart = AbsoluteOf(position);
   }
 
-  // Notes where the text at the cursor stands in the file.
+  // Notes the place in the file of the text at the cursor.
   void NotePiece() {
     const std::size_t offset = textEnd - textBegin + cursor - runBegin;
     if (offset == 0) {
@@ -137,8 +138,9 @@ class ScanBuffer {
   // The offset in the stream of a position that is not before the cursor.
   std::uint64_t AbsoluteOf(std::size_t position) const { return dataBegin + position; }
 
-  // Positions in the buffer, in this order. The text of the statement is [textBegin, textEnd) and
-  // the run [runBegin, cursor), which joins it as soon as something is left out after it.
+  // Positions in the buffer, in this order. The text of the statement is [textBegin, textEnd),
+  // followed by the run [runBegin, cursor). The run joins the text as soon as a character after it
+  // is left out.
   std::size_t textBegin = 0;
   std::size_t textEnd = 0;
   std::size_t runBegin = 0;
@@ -148,7 +150,7 @@ class ScanBuffer {
   std::unique_ptr<char[]> buffer;
 
  private:
-  // A part of the text that stood in one piece in the file.
+  // A part of the text that is in one piece in the file.
   struct Piece {
     std::size_t offset = 0;  // in the text
     SourcePlace place;
@@ -170,7 +172,7 @@ class ScanBuffer {
   std::size_t blockSize;
   std::size_t limit = 0;
   std::uint64_t bytesRead = 0;
-  std::uint64_t dataBegin = 0;  // from a position after all gaps to its offset in the stream
+  std::uint64_t dataBegin = 0;  // added to a position after all gaps: its offset in the stream
   std::size_t capacity = 0;
   bool ended = false;
   bool isBeyondLimit = false;

@@ -22,7 +22,7 @@ std::size_t AsSize(std::uint64_t limit) {
   return limit == 0 ? SIZE_MAX : static_cast<std::size_t>(std::min<std::uint64_t>(limit, SIZE_MAX));
 }
 
-// Notes the bad escapes of the statement that a scanner has handed out last.
+// Notes the bad escapes of the last statement that a scanner returned.
 class EscapeNotes : public BadEscapeSink {
  public:
   EscapeNotes(const ScanBuffer& source, LoadFindings* target, const std::size_t& statementNumber)
@@ -42,7 +42,7 @@ class EscapeNotes : public BadEscapeSink {
 
 }  // namespace
 
-// Passes the statements of a file to the pass, until the file ends, the pass ends or a limit is
+// Reads the statements of a file for one pass, until the file ends, the pass ends or a limit is
 // reached.
 template <class AnyScanner>
 void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {

@@ -7,15 +7,15 @@
 namespace KelIFC {
 
 /// Cuts the text of a STEP file into statements. It knows comments, line ends, quoted strings and
-/// the `;` that ends a statement, and nothing else; `Rules` are those of a dialect. The file
-/// streams through one buffer, and each statement is handed out in place in it.
+/// the `;` that ends a statement, and nothing else. `Rules` are the rules of a dialect. The file
+/// streams through one buffer, and each statement is returned without a copy.
 template <class Rules>
 class BasicScanner : public Rules {
  public:
   using Rules::Rules;
 
-  /// The next statement without its `;`, or null at the end of the input. The text ends with a NUL,
-  /// may be written to, and is valid until the next call.
+  /// Returns the next statement without its `;`, or null at the end of the input. The text ends
+  /// with a NUL and is valid until the next call. The caller may write to it.
   char* Next() {
     this->Begin();
     while (this->FindMark()) {

@@ -22,8 +22,8 @@ constexpr std::string_view kHead = "ISO-10303-21";
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
-// Reads the left side of nearly every statement: `#`, up to nine digits and the `=`, with nothing
-// between. Any other form leaves the result at 0, whatever it means.
+// Reads the left side of a statement in its usual form: `#`, up to nine digits and the `=`, with
+// nothing between them. Returns the number 0 for any other form.
 Assignment ReadPlainAssignment(char* statement) {
   constexpr std::ptrdiff_t kMostDigits = 9;
   if (*statement != '#') return {};
@@ -114,8 +114,8 @@ void IfcServer::NoteStatement(std::size_t id, const IfcUnknown* made, const char
   if (load.collector != nullptr && id != 0) load.collector->NoteStatement(id, made, text);
 }
 
-// Makes the instance of a statement. An instance of several types has no name in the dialect of
-// ISO 10303-21.
+// Makes the instance of a statement. In the dialect of ISO 10303-21, an instance of several types
+// has an empty name.
 IfcUnknown* IfcServer::MakeStated(const char* text) {
   const bool isComplex = IsIso() && *detail::SkipBlanks(text) == '(';
   IfcUnknown* const made = isComplex ? MakeByRelease("") : ParseClass(text, nullptr);
@@ -154,7 +154,8 @@ void IfcServer::NoteNumber(std::size_t id) {
   }
 }
 
-// If the numbers are not in order, each look-up waits for memory, which its statement can prefetch.
+// If the numbers are not in order, each look-up waits for memory. ScanStatements then prefetches
+// the memory for the next number.
 void IfcServer::NoteOrder(std::size_t id) {
   constexpr std::size_t kNear = 256;
   load.isUnordered = id - load.lastNumber > kNear;

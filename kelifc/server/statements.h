@@ -26,11 +26,11 @@ std::int16_t ParseStatement(IfcServer* server, char* statement);
 
 /// A statement `#n=...` cut in two at its first `=`.
 struct Assignment {
-  std::size_t number = 0;  ///< 0 if the statement is none or its left side is not `#n`
+  std::size_t number = 0;  ///< 0 if there is no `=`, or if the left side is not `#n`
   char* text = nullptr;    ///< the right side
 };
 
-/// Cuts a statement. The text is written to on the way.
+/// Cuts a statement in two. Modifies the text.
 Assignment CutAssignment(char* statement);
 
 }  // namespace KelIFC

@@ -104,7 +104,7 @@ class ValuesOfClasses : public testing::TestWithParam<ReleaseRecords> {
 
   /// A text for an attribute that differs from those of other positions.
   std::string TextOf(const AttributeDescription& attribute) {
-    const std::string n = std::to_string(attribute.position + 11);
+    std::string n = std::to_string(attribute.position + 11);
     switch (attribute.kind) {
       case AttributeKind::kUnknown:
         return "$";

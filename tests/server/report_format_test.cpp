@@ -22,7 +22,8 @@ LoadReport SampleReport() {
   report.droppedByEntity["IFC\"\x01\xE4"] = 2;
   report.findings.Note(LoadFinding::kRepeatedNumber, {4, 5}, {7, "", 0});
   for (std::uint64_t line = 1; line <= 12; ++line) {
-    report.findings.Note(LoadFinding::kDanglingReference, {line, 2}, {9, "IFCWALL", 6});
+    report.findings.Note(LoadFinding::kDanglingReference, {line, 2},
+                         {9, "IFCWALL", 6, "ObjectPlacement"});
   }
   report.danglingByAttribute[{"IFCWALL", 6, "ObjectPlacement"}] = 12;
   return report;
@@ -33,7 +34,8 @@ TEST(ReportFormat, TextHasTheCountsAndTheFirstPlaces) {
   EXPECT_THAT(text, HasSubstr("Numbered statements 12\n"));
   EXPECT_THAT(text, HasSubstr("Left out            2\n  IFC\"\\x01\\xe4"));
   EXPECT_THAT(text, HasSubstr("\n1 x number used twice\n  line 4:5 (#7)\n"));
-  EXPECT_THAT(text, HasSubstr("  line 10:2 (#9=IFCWALL, attribute 6)\n  and 2 more\n"));
+  EXPECT_THAT(text,
+              HasSubstr("  line 10:2 (#9=IFCWALL, attribute 6 ObjectPlacement)\n  and 2 more\n"));
   EXPECT_THAT(text, Not(HasSubstr("Nothing is wrong")));
   EXPECT_THAT(FormatReport(LoadReport()), HasSubstr("\nNothing is wrong in the file.\n"));
 }
@@ -44,9 +46,11 @@ TEST(ReportFormat, JsonHasEveryPlace) {
                               R"("added":3,"droppedEntities":{"IFC\"\u0001\u00e4":2},)"
                               R"("repeatedNumbers":{"count":1,"places":)"
                               R"([{"line":4,"column":5,"number":7}]},)"));
-  EXPECT_THAT(json, HasSubstr(R"({"line":12,"column":2,"number":9,"entity":"IFCWALL",)"
-                              R"("attribute":6}],"attributes":[{"entity":"IFCWALL",)"
-                              R"("attribute":6,"name":"ObjectPlacement","count":12}]})"));
+  EXPECT_THAT(
+      json,
+      HasSubstr(R"({"line":12,"column":2,"number":9,"entity":"IFCWALL",)"
+                R"("attribute":6,"name":"ObjectPlacement"}],"attributes":[{"entity":"IFCWALL",)"
+                R"("attribute":6,"name":"ObjectPlacement","count":12}]})"));
   EXPECT_THAT(json, HasSubstr(R"("badEscapes":{"count":0,"places":[]})"));
 }
 

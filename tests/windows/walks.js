@@ -88,6 +88,52 @@ expect("new name", model.Columns(1).Name, "renamed");
 expectError("a property that can only be read", null, function () { model.Columns = 1; });
 expectError("unknown name", 0x800a01b6, function () { model.NoSuchName(); });
 
+// The same object has the options and the report of a load. A function follows the load.
+var calls = 0;
+var last = 0;
+var rises = true;
+server.Dialect = 1;
+server.SetProgress(function (done, total) {
+  ++calls;
+  rises = rises && done >= last && done <= total;
+  last = done;
+});
+server.Load(WScript.Arguments(0));
+expect("result of a load", server.LoadResult, 0);
+expect("dialect", server.Dialect, 1);
+expect("calls during a load", calls > 0, true);
+expect("progress that rises", rises, true);
+expect("statements", server.ReportCount("statements") > 0, true);
+expect("bad escapes", server.ReportCount("badEscapes"), 0);
+expect("check", server.CheckModel(), true);
+expect("JSON", server.ReportJson.indexOf("{\"statements\":"), 0);
+expect("text", server.ReportText.length > 0, true);
+expect("line of no instance", server.SourceLine(0), 0);
+expectError("count of another name", 0x80070057, function () { server.ReportCount("none"); });
+expectError("another dialect", 0x80070057, function () { server.Dialect = 2; });
+expectError("limit below 0", 0x80070057, function () { server.MaxBytes = -1; });
+
+function expectEndedLoad(what, result) {
+  expectError(what, 0x80030002, function () { server.Load(WScript.Arguments(0)); });
+  expect("result of a " + what, server.LoadResult, result);
+}
+
+server.MaxBytes = 10;
+expect("limit", server.MaxBytes, 10);
+expectEndedLoad("load beyond the bytes", 4);
+server.MaxBytes = 0;
+server.MaxInstances = 3;
+expectEndedLoad("load beyond the instances", 4);
+server.MaxInstances = 0;
+server.MaxStatementBytes = 20;
+expectEndedLoad("load beyond the length of a statement", 4);
+server.MaxStatementBytes = 0;
+server.SetProgress(function () { return false; });
+expectEndedLoad("load that its function stops", 5);
+server.SetProgress(function () { server.CancelLoad(); return true; });
+expectEndedLoad("load that is cancelled", 5);
+server.SetProgress(function () { return true; });
+
 try {
   server.Load("no such file.ifc");
   expect("missing file", "loaded", "an error");

@@ -46,6 +46,7 @@ Expect "code", model.Columns(1).ObjectCode, 4
 server.Dialect = 1
 Expect "dialect", server.Dialect, 1
 server.MaxInstances = 1000000
+server.SetProgress Nothing
 server.Load WScript.Arguments(0)
 Expect "load result", server.LoadResult, 0
 Expect "statements", server.ReportCount("statements") > 0, True
@@ -74,6 +75,12 @@ ExpectError "missing file", &H80030002
 server.Load WScript.Arguments(1)
 Expect "words of an error", Err.Description, "The IFC release of " & WScript.Arguments(1) & " cannot be converted."
 ExpectError "file of an old release", &H80030002
+server.MaxBytes = 10
+server.Load WScript.Arguments(0)
+ExpectError "file beyond a limit", &H80030002
+Expect "result of a load beyond a limit", server.LoadResult, 4
+server.Dialect = 2
+ExpectError "another dialect", 5
 WScript.Echo "The walk has ended."
 WScript.Quit failures
 

@@ -96,6 +96,7 @@ const CoreClass* FindCoreClass(std::string_view name) {
 
 std::vector<const CoreClass*> CoreClasses() {
   std::vector<const CoreClass*> classes;
+  classes.reserve(kCoreClasses.size());
   for (const auto& row : kCoreClasses) classes.push_back(&row);
   return classes;
 }

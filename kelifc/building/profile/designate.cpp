@@ -62,14 +62,22 @@ void DesignateByName(BuildingProfile& profile, const RecognisedShape& shape,
   if (agrees && named.area > 0.0) profile.designation = named.designation;
 }
 
-// True if two numbers are the sides of a rectangle in millimetres, centimetres, metres or inches.
-bool AreSides(const std::array<double, 2>& numbers, const ProfileParameters& parameters) {
+// True if two numbers, in millimetres, centimetres, metres or inches, are the sides of a rectangle.
+// If one number is a side and the other is far from the other side, it is a length or the thickness
+// of a plate, which contradicts nothing.
+bool MayBeSides(const std::array<double, 2>& numbers, const ProfileParameters& parameters) {
+  constexpr double kOtherSize = 2.0;
   const auto sides = std::minmax({ValueOf(parameters, kH), ValueOf(parameters, kB)});
   const auto named = std::minmax({numbers[0], numbers[1]});
+  const auto isSame = [](double a, double b) { return std::abs(a - b) <= kSizeTolerance; };
+  const auto isFar = [](double a, double b) { return !(a < kOtherSize * b && b < kOtherSize * a); };
   for (const double unit : {1e-3, 1e-2, 1.0, 25.4e-3}) {
-    if (std::abs(named.first * unit - sides.first) <= kSizeTolerance &&
-        std::abs(named.second * unit - sides.second) <= kSizeTolerance) {
-      return true;
+    const double smaller = named.first * unit;
+    const double larger = named.second * unit;
+    if (isSame(smaller, sides.first) && isSame(larger, sides.second)) return true;
+    for (const auto& [one, other] : {std::pair{smaller, larger}, {larger, smaller}}) {
+      if (isSame(one, sides.first) && isFar(other, sides.second)) return true;
+      if (isSame(one, sides.second) && isFar(other, sides.first)) return true;
     }
   }
   return false;
@@ -85,7 +93,7 @@ void Designate(BuildingProfile& profile) {
     DesignateByName(profile, shape, *named);
   } else if (shape.shape == ProfileShape::kRectangle) {
     const auto numbers = ParseTwoNumbers(profile.name);
-    profile.nameContradicts = numbers && !AreSides(*numbers, shape.parameters);
+    profile.nameContradicts = numbers && !MayBeSides(*numbers, shape.parameters);
   }
   if (!profile.designation.empty()) return;
   const StandardSection* section = FindStandardSection(shape.shape, shape.parameters);

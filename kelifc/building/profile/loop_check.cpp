@@ -11,7 +11,7 @@ namespace KelIFC::building {
 
 namespace {
 
-constexpr std::size_t kMostPairwise = 128;
+constexpr std::size_t kMostPairwise = 512;
 constexpr std::size_t kMostDirectWork = 20'000'000;  // pairs of a point and an edge
 
 bool IsBefore(const Point2& a, const Point2& b) { return a.x != b.x ? a.x < b.x : a.y < b.y; }
@@ -99,13 +99,25 @@ class Edges {
   Point2 origin;
 };
 
-bool IsSimplePairwise(const FlatRegion& region) {
-  const Edges edges(region);
-  for (std::size_t i = 0; i < edges.all.size(); ++i) {
-    for (std::size_t j = 0; j < i; ++j) {
-      if (DoCross(edges.all[i], edges.all[j])) return false;
+// True if two of the edges cross. Edges that lie beside each other are not compared.
+bool HasCrossing(std::vector<SweptEdge> edges) {
+  std::sort(edges.begin(), edges.end(),
+            [](const SweptEdge& a, const SweptEdge& b) { return a.left.x < b.left.x; });
+  for (std::size_t i = 0; i < edges.size(); ++i) {
+    const SweptEdge& edge = edges[i];
+    const auto [low, high] = std::minmax({edge.left.y, edge.right.y});
+    for (std::size_t j = i + 1; j < edges.size() && edges[j].left.x <= edge.right.x; ++j) {
+      const SweptEdge& other = edges[j];
+      const bool isBeside = (other.left.y < low && other.right.y < low) ||
+                            (other.left.y > high && other.right.y > high);
+      if (!isBeside && DoCross(edge, other)) return true;
     }
   }
+  return false;
+}
+
+bool IsSimplePairwise(const FlatRegion& region) {
+  if (HasCrossing(Edges(region).all)) return false;
   for (std::size_t i = 0; i < region.holes.size(); ++i) {
     if (PlaceOf(region.holes[i], region.outer) != Place::kInside) return false;
     for (std::size_t j = 0; j < region.holes.size(); ++j) {

@@ -2,12 +2,10 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
 #include <string>
 
 #include "kelifc/building/profile/make_profile.h"
 #include "kelifc/building/profile/parameter_table.h"
-#include "kelifc/building/profile/section_moments.h"
 
 namespace KelIFC::building {
 
@@ -26,7 +24,7 @@ void Append(std::string& key, double value, double rounding) {
   key += ' ';
 }
 
-// How far an outline extends from its centroid, and its moments.
+// How far an outline, without its holes, extends from its centroid, and its moments.
 struct Extents {
   double left = 0.0, right = 0.0, low = 0.0, high = 0.0;
   double iy = 0.0, iz = 0.0, iyz = 0.0;
@@ -35,14 +33,14 @@ struct Extents {
   Extents Turned() const { return {high, low, left, right, iz, iy, -iyz}; }
 };
 
-template <typename Points>
-Extents ExtentsOf(const Points& points, const Point2& centroid) {
-  Extents extents{-1e300, -1e300, -1e300, -1e300};
-  for (const Point2& point : points) {
-    extents.left = std::max(extents.left, centroid.x - point.x);
-    extents.right = std::max(extents.right, point.x - centroid.x);
-    extents.low = std::max(extents.low, centroid.y - point.y);
-    extents.high = std::max(extents.high, point.y - centroid.y);
+Extents ExtentsOf(const Outline& outline) {
+  const RegionProperties properties = PropertiesOf(FlatRegion{outline, {}});
+  Extents extents{-1e300, -1e300, -1e300, -1e300, properties.iy, properties.iz, properties.iyz};
+  for (const Point2& point : outline) {
+    extents.left = std::max(extents.left, properties.centroid.x - point.x);
+    extents.right = std::max(extents.right, point.x - properties.centroid.x);
+    extents.low = std::max(extents.low, properties.centroid.y - point.y);
+    extents.high = std::max(extents.high, point.y - properties.centroid.y);
   }
   return extents;
 }
@@ -62,17 +60,9 @@ int PositionOf(const BuildingProfile& profile) {
     return 0;
   }
   const auto region = ShapeRegion(profile.shape, profile.parameters);
-  const auto flat = region ? Flatten(*region) : std::nullopt;
-  if (!flat) return kNoPosition;
-  const RegionProperties properties = PropertiesOf(*region);
-  Extents standard = ExtentsOf(flat->outer, properties.centroid);
-  standard.iy = properties.iy;
-  standard.iz = properties.iz;
-  standard.iyz = properties.iyz;
-  Extents actual = ExtentsOf(profile.outline, {});
-  actual.iy = profile.iy;
-  actual.iz = profile.iz;
-  actual.iyz = profile.iyz;
+  if (!region) return kNoPosition;
+  Extents standard = ExtentsOf(Flatten(region->outer));
+  const Extents actual = ExtentsOf(profile.outline);
   for (int position = 0; position < 8; ++position) {
     if (AreLike(actual, standard)) return position;
     standard = position == 3 ? standard.Turned().Mirrored() : standard.Turned();

@@ -99,8 +99,7 @@ std::optional<RecognisedShape> RecogniseMirrored(const Corners& corners, const O
   return Match(moved, points);
 }
 
-std::optional<RecognisedShape> RecogniseSolid(const Outline& loop) {
-  const Corners corners = FindCorners(loop, kMostCorners);
+std::optional<RecognisedShape> RecogniseCorners(const Corners& corners, const Outline& loop) {
   if (corners.size() < 4) return std::nullopt;
   for (const Mirror mirror : {Mirror{false, false}, {true, false}, {false, true}, {true, true}}) {
     if (auto found = RecogniseMirrored(corners, loop, mirror)) return found;
@@ -114,12 +113,14 @@ bool IsRectangle(const std::optional<RecognisedShape>& found) {
 }
 
 std::optional<RecognisedShape> RecogniseHollowRectangle(const Outline& outer, const Outline& hole) {
-  const auto outside = RecogniseSolid(outer);
+  const Corners outerCorners = FindCorners(outer, kMostCorners);
+  const Corners holeCorners = FindCorners(hole, kMostCorners);
+  const auto outside = RecogniseCorners(outerCorners, outer);
   if (!IsRectangle(outside)) return std::nullopt;
-  const auto inside = RecogniseSolid(hole);
+  const auto inside = RecogniseCorners(holeCorners, hole);
   if (!IsRectangle(inside)) return std::nullopt;
-  const Point2 a = BoxOf(FindCorners(outer, kMostCorners)).Centre();
-  const Point2 b = BoxOf(FindCorners(hole, kMostCorners)).Centre();
+  const Point2 a = BoxOf(outerCorners).Centre();
+  const Point2 b = BoxOf(holeCorners).Centre();
   const auto half = [&](ProfileParameter parameter) {
     return (ValueOf(outside->parameters, parameter) - ValueOf(inside->parameters, parameter)) / 2.0;
   };
@@ -178,7 +179,9 @@ std::optional<RecognisedShape> Recognise(const FlatRegion& region) {
   std::vector<Outline> holes = region.holes;
   for (Outline& hole : holes) std::reverse(hole.begin(), hole.end());
   if (const auto circle = FindCircle(region.outer)) return RecogniseCircle(*circle, holes);
-  if (holes.empty()) return RecogniseSolid(region.outer);
+  if (holes.empty()) {
+    return RecogniseCorners(FindCorners(region.outer, kMostCorners), region.outer);
+  }
   return RecogniseHollowRectangle(region.outer, holes.front());
 }
 

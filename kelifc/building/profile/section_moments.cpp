@@ -68,17 +68,27 @@ class Moments {
     constexpr std::array<double, 3> kWeights = {0.5688888888888889, 0.4786286704993665,
                                                 0.2369268850561891};
     const int pieces = static_cast<int>(std::ceil(std::abs(arc.sweep) / kPiece));
-    const double count = pieces;
-    for (int piece = 0; piece < pieces; ++piece) {
-      for (std::size_t i = 0; i < kPlaces.size(); ++i) {
-        for (const double side : {-1.0, 1.0}) {
-          if (i == 0 && side > 0.0) continue;
-          const Point2 point = arc.At((piece + 0.5 + side * kPlaces[i] / 2.0) / count);
-          const double weight = kWeights[i] / 2.0 * arc.sweep / count;
-          Add(point, {-(point.y - arc.centre.y) * weight, (point.x - arc.centre.x) * weight});
-        }
+    const double step = arc.sweep / pieces;
+    const Vector2 forward = DirectionOf(step);
+    const std::array<Vector2, 3> turns = {Vector2(1.0, 0.0), DirectionOf(kPlaces[1] * step / 2.0),
+                                          DirectionOf(kPlaces[2] * step / 2.0)};
+    Vector2 middle = DirectionOf(arc.start + step / 2.0) * arc.radius;
+    for (int piece = 0; piece < pieces; ++piece, middle = Turned(middle, forward)) {
+      AddArcPoint(arc, middle, kWeights[0] / 2.0 * step);
+      for (std::size_t i = 1; i < turns.size(); ++i) {
+        AddArcPoint(arc, Turned(middle, turns[i]), kWeights[i] / 2.0 * step);
+        AddArcPoint(arc, Turned(middle, {turns[i].x, -turns[i].y}), kWeights[i] / 2.0 * step);
       }
     }
+  }
+
+  void AddArcPoint(const PlaneArc& arc, const Vector2& spoke, double weight) {
+    Add(arc.centre + spoke, {-spoke.y * weight, spoke.x * weight});
+  }
+
+  static Vector2 DirectionOf(double angle) { return {std::cos(angle), std::sin(angle)}; }
+  static Vector2 Turned(const Vector2& v, const Vector2& turn) {
+    return {v.x * turn.x - v.y * turn.y, v.x * turn.y + v.y * turn.x};
   }
 
   // Adds the integrand at a point times a part of the line.

@@ -54,12 +54,11 @@ void AppendIsoString(std::string& out, std::string_view text);
 /// such as tabs.
 constexpr bool IsIsoBlank(char c) { return c > '\0' && c <= ' '; }
 
-/// Returns how many quotes of a row of quotes after `\S\` belong to the text of the string. The row
-/// is ambiguous: `\S\'` is a character, but the quote can also end a string whose last escape is
-/// incomplete. The row ends the string if a comma or a closing parenthesis follows it, after any
-/// blanks, or if nothing follows; then its last quote is the closing one. The first quote of the
-/// text, or the first two if their number is even, belong to the escape. The others are doubled
-/// quotes.
+/// Returns how many of the quotes after `\S\` belong to the text of the string. Such a row of
+/// quotes is ambiguous: `\S\'` is a character, but the quote can also end a string whose last
+/// escape is incomplete. If a comma, a closing parenthesis or nothing follows the row, after any
+/// blanks, the last quote ends the string. Of the quotes that belong to the text, the first one is
+/// part of the escape, or the first two if their number is even. The others are doubled quotes.
 ///
 /// `next` returns the next character at each call, beginning with the first quote, and NUL at the
 /// end of the text.

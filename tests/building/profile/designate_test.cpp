@@ -89,11 +89,12 @@ TEST(Designate, BelievesANameOfAnOutlineWithoutAShape) {
 
 TEST(Designate, ComparesRectanglesWithTheTwoNumbersOfTheirName) {
   auto facts = FactsOf(ProfileShape::kRectangle, {{kH, 600}, {kB, 300}});
-  for (const char* name : {"300x600", "600x300", "30x60", "0.3x0.6", "Column", "300x600 C30"}) {
+  for (const char* name :
+       {"300x600", "600x300", "30x60", "0.3x0.6", "Column", "300x600 C30", "300x6000", "12x600"}) {
     facts.name = name;
     EXPECT_FALSE(ProfileOf(facts).nameContradicts) << name;
   }
-  for (const char* name : {"300x500", "300*700"}) {
+  for (const char* name : {"300x500", "300*700", "400x400", "100x100"}) {
     facts.name = name;
     EXPECT_TRUE(ProfileOf(facts).nameContradicts) << name;
   }
