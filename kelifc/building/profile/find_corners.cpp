@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <numbers>
+#include <optional>
+#include <utility>
 
 #include "kelifc/building/profile/plane_arc.h"
 
@@ -183,7 +185,66 @@ class CornerFinder {
   std::vector<ChordArc> arcs;
 };
 
+// The indices of the longest edges, rising. Of equal ones the first.
+std::vector<std::size_t> LongestEdges(const Outline& points, std::size_t count) {
+  std::vector<double> lengths;
+  std::vector<std::size_t> edges;
+  for (std::size_t i = 0; i < points.size(); ++i) {
+    lengths.push_back(Distance(points[i], points[(i + 1) % points.size()]));
+    edges.push_back(i);
+    if (!std::isfinite(lengths.back())) return {};
+  }
+  std::nth_element(edges.begin(), edges.begin() + static_cast<std::ptrdiff_t>(count), edges.end(),
+                   [&lengths](std::size_t a, std::size_t b) {
+                     return lengths[a] != lengths[b] ? lengths[a] > lengths[b] : a < b;
+                   });
+  edges.resize(count);
+  std::sort(edges.begin(), edges.end());
+  return edges;
+}
+
+// The corner of two lines, the first of which ends where an arc begins and the second of which
+// begins where it ends.
+std::optional<RoundedCorner> CornerOf(const Point2& start, Vector2 before, const Point2& end,
+                                      Vector2 after) {
+  constexpr double kTangentDifference = 1e-3;  // in metres, and a tenth of the tangent
+  Normalise(before);
+  Normalise(after);
+  const double sine = Cross(before, after);
+  const double turn = std::abs(std::atan2(sine, Dot(before, after)));
+  const double first = Cross(end - start, after) / sine;
+  const Point2 corner = start + before * first;
+  const double second = Dot(end - corner, after);
+  const double tangent = (first + second) / 2.0;
+  if (!(first > 0.0 && second > 0.0 && turn < kOneCorner)) return std::nullopt;
+  if (!(std::abs(first - second) <= kTangentDifference + 0.1 * tangent)) return std::nullopt;
+  return RoundedCorner{corner, tangent / std::tan(turn / 2.0)};
+}
+
 }  // namespace
+
+std::vector<RoundedCorner> FindCornersBetween(const Outline& loop, std::size_t count) {
+  const Outline points = WithoutFlatPoints(loop);
+  const std::size_t size = points.size();
+  if (size <= count || count < 3) return {};
+  const std::vector<std::size_t> edges = LongestEdges(points, count);
+  std::vector<RoundedCorner> corners;
+  for (std::size_t i = 0; i < edges.size(); ++i) {
+    const std::size_t edge = edges[i];
+    const std::size_t next = edges[(i + 1) % edges.size()];
+    const Point2& start = points[(edge + 1) % size];
+    const std::size_t chords = (next + size - edge - 1) % size;
+    if (chords == 0) {
+      corners.push_back({start, 0.0});
+      continue;
+    }
+    const auto corner = CornerOf(start, start - points[edge], points[next],
+                                 points[(next + 1) % size] - points[next]);
+    if (chords == 1 || !corner) return {};
+    corners.push_back(*corner);
+  }
+  return corners;
+}
 
 std::vector<RoundedCorner> FindCorners(const Outline& loop, std::size_t limit) {
   const Outline points = WithoutFlatPoints(loop);

@@ -18,6 +18,13 @@ constexpr double kShapeTolerance = 5e-4;
 /// are corners without a radius. Empty if there are more corners than `limit`. Linear time.
 std::vector<RoundedCorner> FindCorners(const Outline& loop, std::size_t limit);
 
+/// The corners between the `count` longest edges of a counter-clockwise loop. The points between
+/// two of these edges become one corner with the radius of the arc that is tangent to both edges at
+/// their ends; they need not be regular, as those of a slice through facets are not. Empty if the
+/// loop has no more edges, if there is no such arc, or if only one edge cuts the corner. Whether
+/// the points lie near the arcs is not checked. Linear time.
+std::vector<RoundedCorner> FindCornersBetween(const Outline& loop, std::size_t count);
+
 struct FoundCircle {
   Point2 centre;
   double radius = 0.0;

@@ -107,20 +107,31 @@ std::optional<RecognisedShape> RecogniseCorners(const Corners& corners, const Ou
   return std::nullopt;
 }
 
+// The corners by the arcs of a loop and, if these are irregular, by its longest edges.
+std::optional<RecognisedShape> RecogniseSolid(const Outline& loop, Point2* centre = nullptr) {
+  for (const std::size_t edges : {0U, 4U, 6U, 8U, 12U}) {
+    const Corners corners =
+        edges == 0 ? FindCorners(loop, kMostCorners) : FindCornersBetween(loop, edges);
+    auto found = RecogniseCorners(corners, loop);
+    if (!found) continue;
+    if (centre != nullptr) *centre = BoxOf(corners).Centre();
+    return found;
+  }
+  return std::nullopt;
+}
+
 bool IsRectangle(const std::optional<RecognisedShape>& found) {
   return found && (found->shape == ProfileShape::kRectangle ||
                    found->shape == ProfileShape::kRoundedRectangle);
 }
 
 std::optional<RecognisedShape> RecogniseHollowRectangle(const Outline& outer, const Outline& hole) {
-  const Corners outerCorners = FindCorners(outer, kMostCorners);
-  const Corners holeCorners = FindCorners(hole, kMostCorners);
-  const auto outside = RecogniseCorners(outerCorners, outer);
+  Point2 a;
+  Point2 b;
+  const auto outside = RecogniseSolid(outer, &a);
   if (!IsRectangle(outside)) return std::nullopt;
-  const auto inside = RecogniseCorners(holeCorners, hole);
+  const auto inside = RecogniseSolid(hole, &b);
   if (!IsRectangle(inside)) return std::nullopt;
-  const Point2 a = BoxOf(outerCorners).Centre();
-  const Point2 b = BoxOf(holeCorners).Centre();
   const auto half = [&](ProfileParameter parameter) {
     return (ValueOf(outside->parameters, parameter) - ValueOf(inside->parameters, parameter)) / 2.0;
   };
@@ -179,9 +190,7 @@ std::optional<RecognisedShape> Recognise(const FlatRegion& region) {
   std::vector<Outline> holes = region.holes;
   for (Outline& hole : holes) std::reverse(hole.begin(), hole.end());
   if (const auto circle = FindCircle(region.outer)) return RecogniseCircle(*circle, holes);
-  if (holes.empty()) {
-    return RecogniseCorners(FindCorners(region.outer, kMostCorners), region.outer);
-  }
+  if (holes.empty()) return RecogniseSolid(region.outer);
   return RecogniseHollowRectangle(region.outer, holes.front());
 }
 

@@ -64,6 +64,27 @@ TEST(FindCorners, MakesTwoCornersOfHalfACircle) {
   }
 }
 
+TEST(FindCornersBetween, MakesOneCornerOfPointsBetweenLongEdges) {
+  const Outline outline{{0, 0}, {1, 0}, {1, 0.9}, {0.994, 0.94}, {0.96, 0.99}, {0.9, 1}, {0, 1}};
+  const auto corners = FindCornersBetween(outline, 4);
+  ASSERT_EQ(corners.size(), 4U);
+  EXPECT_EQ(corners[0].radius, 0.0);
+  EXPECT_NEAR(corners[1].radius, 0.1, 1e-12);
+  EXPECT_NEAR(corners[1].point.x, 1.0, 1e-12);
+  EXPECT_NEAR(corners[1].point.y, 1.0, 1e-12);
+}
+
+TEST(FindCornersBetween, RefusesChamfersAndWhatHasNoArc) {
+  EXPECT_TRUE(FindCornersBetween(RoundedSquare(0.4, 0.05, 1), 4).empty());
+  EXPECT_TRUE(FindCornersBetween({{0, 0}, {1, 0}, {1, 1}, {0, 1}}, 4).empty());
+  // The tangents differ.
+  EXPECT_TRUE(
+      FindCornersBetween({{0, 0}, {1, 0}, {1, 0.9}, {0.9, 0.98}, {0.7, 1}, {0, 1}}, 4).empty());
+  const double nan = std::numeric_limits<double>::quiet_NaN();
+  EXPECT_TRUE(FindCornersBetween({{nan, 0}, {1, 0}, {2, nan}, {2, 2}, {0, 1}}, 4).empty());
+  EXPECT_TRUE(FindCornersBetween(Outline(50, Point2(1, 1)), 4).empty());
+}
+
 TEST(FindCorners, GivesUpBeyondTheLimit) {
   EXPECT_TRUE(FindCorners(RegularPolygon(100'000, 0.2, {}), 12).empty());
   Outline zigzag{{100, -1}, {-1, -1}};

@@ -206,6 +206,37 @@ TEST(Recognise, AllowsPointsRoundedToTenthsOfAMillimetre) {
   EXPECT_NEAR(ValueOf(found->parameters, kR), 0.018, 5e-4);
 }
 
+// A slice between two ends whose fillets have different chords has irregular points.
+Outline WithIrregularFillets(const Contour& contour, Random& random) {
+  Outline outline;
+  ForEachEdge(contour, [&](const Point2& start, const Point2&, const auto& arc) {
+    outline.push_back(start);
+    if (!arc) return;
+    const int parts = random.Count(8, 14);
+    for (int i = 1; i < parts; ++i) {
+      PlaneArc moved = *arc;
+      moved.radius += random(-3e-4, 1e-4);
+      outline.push_back(moved.At((i + random(-0.3, 0.3)) / parts));
+    }
+  });
+  return outline;
+}
+
+TEST(Recognise, AllowsFilletsOfIrregularPoints) {
+  Random random;
+  for (const ProfileShape shape : {ProfileShape::kI, ProfileShape::kAsymmetricI, ProfileShape::kL,
+                                   ProfileShape::kT, ProfileShape::kRoundedRectangle}) {
+    for (int i = 0; i < 20; ++i) {
+      const ProfileFacts facts = RandomFacts(shape, random);
+      const Region region = RegionsOf(facts).at(0);
+      const auto found = Recognise({WithIrregularFillets(region.outer, random), {}});
+      ASSERT_TRUE(found) << TextOf(shape) << ' ' << i;
+      EXPECT_EQ(found->shape, shape);
+      EXPECT_NEAR(ValueOf(found->parameters, kR), ValueOf(facts.parameters, kR), 5e-4);
+    }
+  }
+}
+
 TEST(Recognise, LeavesOutlinesThatDifferByAMillimetre) {
   const auto facts = FactsOf(ProfileShape::kI, {{kH, 300}, {kB, 150}, {kTw, 7.1}, {kTf, 10.7}});
   FlatRegion flat = FlatRegionOf(RegionsOf(facts).at(0), 1);
