@@ -103,16 +103,21 @@ void Arrangement::AddFace(std::vector<PointLoop> loops, std::size_t operand) {
     count += loop.size();
   }
   face.plane.origin += sum / static_cast<double>(count);
-  double deviation = 0.0;
-  for (const PointLoop& loop : face.loops) {
-    for (const Index p : loop) deviation = std::max(deviation, std::abs(HeightOf(At(p), face)));
-  }
   const bool isTriangle = face.loops.size() == 1 && face.loops[0].size() == 3;
-  if (deviation > 0.5 * tolerance && !isTriangle) {
+  if (!isTriangle && DeviationOf(face) > 0.5 * tolerance) {
     AddTriangles(face);
   } else {
     faces.push_back(std::move(face));
   }
+}
+
+/// The largest distance of a point of a face from its plane.
+double Arrangement::DeviationOf(const Face& face) const {
+  double deviation = 0.0;
+  for (const PointLoop& loop : face.loops) {
+    for (const Index p : loop) deviation = std::max(deviation, std::abs(HeightOf(At(p), face)));
+  }
+  return deviation;
 }
 
 void Arrangement::AddTriangles(const Face& face) {
@@ -183,6 +188,7 @@ void Arrangement::Attach(Edge& edge, Index point) {
 }
 
 bool Arrangement::Build() {
+  mostWork = std::min<std::size_t>(1'000'000 + 3000 * edges.size(), 400'000'000);
   std::vector<BuildingBox> boxes;
   for (const Edge& edge : edges) boxes.push_back(BoxAround(At(edge.a), At(edge.b)));
   edgeTree = BoxTree(boxes);
@@ -315,27 +321,30 @@ void Arrangement::SplitBoundaries() {
       return left < right || (left == right && p < q);
     });
   }
-  for (Face& face : faces) {
-    std::size_t number = 0;
-    for (const PointLoop& loop : face.loops) {
-      for (std::size_t i = 0; i < loop.size(); ++i) {
-        const Edge& edge = edges[face.edges[number++]];
-        PointLoop points = {edge.a};
-        points.insert(points.end(), edge.attached.begin(), edge.attached.end());
-        points.push_back(edge.b);
-        if (loop[i] != edge.a) std::reverse(points.begin(), points.end());
-        for (std::size_t k = 0; k + 1 < points.size(); ++k) {
-          face.boundary.emplace_back(points[k], points[k + 1]);
-        }
+  for (Face& face : faces) SplitBoundary(face);
+}
+
+void Arrangement::SplitBoundary(Face& face) {
+  std::size_t number = 0;
+  PointLoop points;
+  for (const PointLoop& loop : face.loops) {
+    for (const Index from : loop) {
+      const Edge& edge = edges[face.edges[number++]];
+      points = {edge.a};
+      points.insert(points.end(), edge.attached.begin(), edge.attached.end());
+      points.push_back(edge.b);
+      if (from != edge.a) std::reverse(points.begin(), points.end());
+      for (std::size_t k = 0; k + 1 < points.size(); ++k) {
+        face.boundary.emplace_back(points[k], points[k + 1]);
       }
     }
-    // A spike, which rounding makes of two edges that are almost one, is no boundary.
-    CancelOpposite(face.boundary);
-    SortUnique(face.inside);
-    face.on = face.inside;
-    for (const auto& [from, to] : face.boundary) face.on.push_back(from);
-    SortUnique(face.on);
   }
+  // A spike, which rounding makes of two edges that are almost one, is no boundary.
+  CancelOpposite(face.boundary);
+  SortUnique(face.inside);
+  face.on = face.inside;
+  for (const auto& [from, to] : face.boundary) face.on.push_back(from);
+  SortUnique(face.on);
 }
 
 bool Arrangement::AreCoplanar(const Face& a, const Face& b) const {

@@ -45,7 +45,7 @@ class Arrangement {
   /// Both meshes are moved by -`origin`.
   Arrangement(const Mesh& first, const Mesh& second, const Point3& origin, double tolerance);
 
-  /// Finds all contacts. Returns false if that takes too much work.
+  /// Finds all contacts. Returns false if that takes more than about 3000 steps for each edge.
   bool Build();
 
   const std::vector<Face>& Faces() const { return faces; }
@@ -60,6 +60,8 @@ class Arrangement {
   void AddMesh(const Mesh& mesh, const Point3& origin, std::size_t operand);
   void AddFace(std::vector<PointLoop> loops, std::size_t operand);
   void AddTriangles(const Face& face);
+  double DeviationOf(const Face& face) const;
+  void SplitBoundary(Face& face);
   void CollectEdges();
   std::size_t EdgeOf(Index a, Index b) const;
   void AttachVerticesToEdges();
@@ -78,9 +80,7 @@ class Arrangement {
     return Dot(point - face.plane.origin, face.normal);
   }
   void Attach(Edge& edge, Index point);
-  bool Work(std::size_t amount) { return (work += amount) < kMostWork; }
-
-  static constexpr std::size_t kMostWork = 400'000'000;
+  bool Work(std::size_t amount) { return (work += amount) < mostWork; }
 
   double tolerance;
   PointIndex index;
@@ -90,6 +90,7 @@ class Arrangement {
   BoxTree faceTree;
   std::vector<bool> isOf[2];  // whether a point is a vertex of an operand
   std::size_t work = 0;
+  std::size_t mostWork = 0;
 };
 
 }  // namespace KelIFC::building

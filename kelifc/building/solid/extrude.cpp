@@ -2,6 +2,7 @@
 #include <cmath>
 #include <numbers>
 #include <numeric>
+#include <utility>
 
 #include "kelifc/building/solid/made_mesh.h"
 #include "kelifc/building/solid/mesh_tools.h"
@@ -89,6 +90,18 @@ class Turning {
     return Dot(Point3(p.x, p.y, 0.0) - solid.axisPoint, across);
   }
 
+  /// The least and the largest distance of the points of a profile; 0 counts as one.
+  std::pair<double, double> RangeOf(const FlatProfile& profile) const {
+    std::pair<double, double> range;
+    for (const FlatRegion& region : profile.regions) {
+      for (const Point2& p : region.outer) {
+        range.first = std::min(range.first, DistanceOf(p));
+        range.second = std::max(range.second, DistanceOf(p));
+      }
+    }
+    return range;
+  }
+
   void Add(Mesh& mesh, const FlatRegion& region, const Transform3& map, bool isRound) const {
     RingSweep sweep;
     sweep.loopSizes = LoopSizesOf(region);
@@ -171,15 +184,7 @@ MadeMesh MakeRevolution(const Revolution& solid, const Transform3& map, std::siz
   if (Length(flat.axis) == 0.0 || std::abs(angle) < 1e-9) {
     return MadeMesh(LossReason::kDegenerate);
   }
-  double least = 0.0;
-  double most = 0.0;
-  const Turning measure(flat, angle, 1);
-  for (const FlatRegion& region : profile.regions) {
-    for (const Point2& p : region.outer) {
-      least = std::min(least, measure.DistanceOf(p));
-      most = std::max(most, measure.DistanceOf(p));
-    }
-  }
+  const auto [least, most] = Turning(flat, angle, 1).RangeOf(profile);
   // A region on both sides of the axis would run through itself.
   if (least < -1e-6 && most > 1e-6) return MadeMesh(LossReason::kSelfIntersecting);
   const std::size_t steps = ChordCount(std::max(-least, most), angle);

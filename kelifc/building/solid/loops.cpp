@@ -269,6 +269,7 @@ std::vector<NestedLoop> NestLoops(const std::vector<Point2>& points,
     return points[loops[loop][LeftmostOf(points, loops[loop])]].x;
   };
   std::vector<std::pair<double, std::size_t>> order;
+  order.reserve(holes.size());
   for (const std::size_t hole : holes) order.emplace_back(left(hole), hole);
   std::sort(order.begin(), order.end());
   Nesting nesting(points, loops, areas);

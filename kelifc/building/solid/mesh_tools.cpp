@@ -1,6 +1,7 @@
 #include "kelifc/building/solid/mesh_tools.h"
 
 #include <algorithm>
+#include <numeric>
 #include <tuple>
 
 #include "kelifc/building/solid/body.h"
@@ -105,6 +106,46 @@ void Append(Mesh& mesh, const Mesh& other) {
 Mesh Moved(const Mesh& mesh, const Transform3& map) {
   Mesh result = map.Determinant() < 0.0 ? Flip(mesh) : mesh;
   for (Point3& point : result.points) point = map(point);
+  return result;
+}
+
+std::vector<Mesh> PartsOf(const Mesh& mesh) {
+  // Points that a face joins have one root.
+  std::vector<Mesh::Index> roots(mesh.points.size());
+  std::iota(roots.begin(), roots.end(), Mesh::Index{0});
+  const auto rootOf = [&](Mesh::Index p) {
+    while (roots[p] != p) p = roots[p] = roots[roots[p]];
+    return p;
+  };
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    const Mesh::Index first = rootOf(mesh.LoopOf(face, 0)[0]);
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      for (const Mesh::Index p : mesh.LoopOf(face, i)) roots[rootOf(p)] = rootOf(first);
+    }
+  }
+  std::vector<Mesh::Index> parts(mesh.points.size(), kNone);
+  std::vector<Mesh::Index> numbers(mesh.points.size());
+  std::vector<Mesh> result;
+  std::vector<Mesh::Index> loop;
+  for (Mesh::Index p = 0; p < mesh.points.size(); ++p) {
+    Mesh::Index& part = parts[rootOf(p)];
+    if (part == kNone) {
+      part = static_cast<Mesh::Index>(result.size());
+      result.emplace_back();
+    }
+    numbers[p] = static_cast<Mesh::Index>(result[part].points.size());
+    result[part].points.push_back(mesh.points[p]);
+  }
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    Mesh& part = result[parts[rootOf(mesh.LoopOf(face, 0)[0])]];
+    part.BeginFace();
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      loop.clear();
+      for (const Mesh::Index p : mesh.LoopOf(face, i)) loop.push_back(numbers[p]);
+      part.AddLoop(loop);
+    }
+  }
+  std::erase_if(result, [](const Mesh& part) { return part.IsEmpty(); });
   return result;
 }
 

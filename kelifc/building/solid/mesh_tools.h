@@ -25,6 +25,14 @@ void Append(Mesh& mesh, const Mesh& other);
 /// Applies a map to all points. A map that mirrors reverses the loops.
 Mesh Moved(const Mesh& mesh, const Transform3& map);
 
+/// A mesh in which edges that lack a neighbour have the points of other such edges that lie on them
+/// within a distance. It closes boundaries whose faces meet along an edge that only one of them
+/// divides. Edges that three faces use count as lacking one.
+Mesh SplitEdges(const Mesh& mesh, double tolerance);
+
+/// The parts of a mesh that share no point, in the order of their first points.
+std::vector<Mesh> PartsOf(const Mesh& mesh);
+
 /// A directed use of the edge between two points.
 struct EdgeUse {
   Mesh::Index from = 0;

@@ -52,14 +52,20 @@ std::size_t PlaneSection::FirstOutside(const Mesh::Loop& loop) const {
 }
 
 void PlaneSection::AddLoop(const Mesh::Loop& loop, std::vector<PointLoop>& loops) {
-  const std::size_t count = loop.size();
   const std::size_t first = FirstOutside(loop);
-  if (first == count) {
+  if (first == loop.size()) {
     loops.emplace_back(loop.begin(), loop.end());
     return;
   }
-  bool isOpen = false;
   const std::size_t firstChain = chains.size();
+  AddChains(loop, first);
+  if (chains.size() > firstChain) CloseLoop(firstChain, loops);
+}
+
+/// Adds the pieces of a loop below the plane. The loop begins at a point that is not below.
+void PlaneSection::AddChains(const Mesh::Loop& loop, std::size_t first) {
+  const std::size_t count = loop.size();
+  bool isOpen = false;
   for (std::size_t k = 0; k < count; ++k) {
     const std::uint32_t from = loop[(first + k) % count];
     const std::uint32_t to = loop[(first + k + 1) % count];
@@ -71,46 +77,39 @@ void PlaneSection::AddLoop(const Mesh::Loop& loop, std::vector<PointLoop>& loops
     if (!isOpen) {
       chains.emplace_back();
       chains.back().points.push_back(sides[from] > 0 ? Crossing(from, to) : from);
-      isOpen = true;
     }
     chains.back().points.push_back(sides[to] > 0 ? Crossing(from, to) : to);
-    if (sides[to] > 0) isOpen = false;
+    isOpen = sides[to] <= 0;
   }
-  // The loop begins outside, so a chain that is open at its end ends in the plane. If another one
-  // starts there, they are one chain, or a whole loop that only touches the plane.
-  if (!isOpen || chains.size() == firstChain) return;
-  Chain& last = chains.back();
-  if (last.points.back() != chains[firstChain].points.front()) return;
+}
+
+/// If the last chain of a loop ends where the first one starts, they are one chain, or the loop
+/// only touches the plane.
+void PlaneSection::CloseLoop(std::size_t firstChain, std::vector<PointLoop>& loops) {
+  PointLoop& last = chains.back().points;
+  PointLoop& first = chains[firstChain].points;
+  if (last.back() != first.front()) return;
   if (chains.size() == firstChain + 1) {
-    last.points.pop_back();
-    loops.push_back(std::move(last.points));
+    last.pop_back();
+    loops.push_back(std::move(last));
   } else {
-    last.points.insert(last.points.end(), chains[firstChain].points.begin() + 1,
-                       chains[firstChain].points.end());
-    chains[firstChain] = std::move(last);
+    last.insert(last.end(), first.begin() + 1, first.end());
+    first = std::move(last);
   }
   chains.pop_back();
 }
 
+/// Along the line a start and an end alternate, so that the nth start and the nth end belong
+/// together.
 void PlaneSection::SortEnds(const Vector3& along) {
+  starts.clear();
   ends.clear();
   for (std::size_t i = 0; i < chains.size(); ++i) {
-    ends.push_back({Dot(points[chains[i].points.front()] - origin, along), i, true});
-    ends.push_back({Dot(points[chains[i].points.back()] - origin, along), i, false});
+    starts.emplace_back(Dot(points[chains[i].points.front()] - origin, along), i);
+    ends.emplace_back(Dot(points[chains[i].points.back()] - origin, along), i);
   }
-  std::sort(ends.begin(), ends.end(), [](const End& a, const End& b) {
-    return a.place < b.place ||
-           (a.place == b.place && (a.isStart != b.isStart ? b.isStart : a.chain < b.chain));
-  });
-  // Along the line a start and an end alternate. Ends that coincide may stand in the wrong order.
-  for (std::size_t i = 0; i + 1 < ends.size(); ++i) {
-    if (ends[i].isStart == (i % 2 == 0)) continue;
-    std::size_t other = i + 1;
-    while (other < ends.size() && ends[other].isStart == ends[i].isStart) ++other;
-    if (other == ends.size()) break;
-    std::rotate(ends.begin() + static_cast<long>(i), ends.begin() + static_cast<long>(other),
-                ends.begin() + static_cast<long>(other) + 1);
-  }
+  std::sort(starts.begin(), starts.end());
+  std::sort(ends.begin(), ends.end());
 }
 
 /// Adds the points of the face in the plane between two points of the line, in order.
@@ -136,26 +135,25 @@ void PlaneSection::JoinChains(const Vector3& along, std::vector<PointLoop>& loop
     const double right = Dot(points[b] - origin, along);
     return left < right || (left == right && a < b);
   });
-  for (Chain& chain : chains) chain.next = chains.size();
   PointLoop line;
-  for (std::size_t i = 0; i + 1 < ends.size(); i += 2) {
-    if (!ends[i].isStart || ends[i + 1].isStart) continue;
+  for (std::size_t i = 0; i < chains.size(); ++i) {
     line.clear();
-    PointLoop& last = chains[ends[i + 1].chain].points;
-    AddBetween(along, chains[ends[i].chain].points.front(), last.back(), line);
+    Chain& chain = chains[ends[i].second];
+    AddBetween(along, chains[starts[i].second].points.front(), chain.points.back(), line);
     for (std::size_t k = 0; k + 1 < line.size(); ++k) cap.emplace_back(line[k], line[k + 1]);
     // Back along the line, without the ends that the chains have.
-    for (std::size_t k = line.size(); k-- > 2;) last.push_back(line[k - 1]);
-    chains[ends[i + 1].chain].next = ends[i].chain;
+    for (std::size_t k = line.size(); k-- > 2;) chain.points.push_back(line[k - 1]);
+    chain.next = starts[i].second;
   }
+  LinkChains(loops);
+}
+
+void PlaneSection::LinkChains(std::vector<PointLoop>& loops) {
   for (Chain& start : chains) {
     PointLoop loop;
-    Chain* chain = &start;
-    while (!chain->points.empty()) {
+    for (Chain* chain = &start; !chain->points.empty(); chain = &chains[chain->next]) {
       loop.insert(loop.end(), chain->points.begin(), chain->points.end());
       chain->points.clear();
-      if (chain->next == chains.size()) break;
-      chain = &chains[chain->next];
     }
     loop.erase(std::unique(loop.begin(), loop.end()), loop.end());
     while (loop.size() > 1 && loop.front() == loop.back()) loop.pop_back();

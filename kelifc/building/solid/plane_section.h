@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 #include "kelifc/building/mesh.h"
@@ -36,18 +37,18 @@ class PlaneSection {
     PointLoop points;
     std::size_t next = 0;
   };
-  /// An end of a chain, by its place along the line in which the face meets the plane.
-  struct End {
-    double place = 0.0;
-    std::size_t chain = 0;
-    bool isStart = false;
-  };
+  /// The place of an end of a chain along the line in which the face meets the plane, and the
+  /// chain.
+  using End = std::pair<double, std::size_t>;
 
   std::uint32_t Crossing(std::uint32_t a, std::uint32_t b);
   void AddLoop(const Mesh::Loop& loop, std::vector<PointLoop>& loops);
+  void AddChains(const Mesh::Loop& loop, std::size_t first);
+  void CloseLoop(std::size_t firstChain, std::vector<PointLoop>& loops);
   std::size_t FirstOutside(const Mesh::Loop& loop) const;
   bool IsBelow(std::uint32_t from, std::uint32_t to) const;
   void SortEnds(const Vector3& along);
+  void LinkChains(std::vector<PointLoop>& loops);
   void JoinChains(const Vector3& along, std::vector<PointLoop>& loops,
                   std::vector<DirectedEdge>& cap);
   void AddBetween(const Vector3& along, std::uint32_t from, std::uint32_t to,
@@ -65,6 +66,7 @@ class PlaneSection {
 
   // Of the face at hand.
   std::vector<Chain> chains;
+  std::vector<End> starts;
   std::vector<End> ends;
   std::vector<std::uint32_t> inPlane;
 };

@@ -179,10 +179,18 @@ class Orienter {
   std::vector<Part> parts;
 };
 
-/// A shell with welded points, its faces turned outwards.
+/// A shell with welded points, its faces turned outwards. Files round coordinates, so that what
+/// does not close within the usual distance may within a larger one.
 Mesh MakeShell(const Mesh& shell, const Transform3& map) {
-  const Mesh welded = WithOrderedLoops(Weld(Moved(shell, map), kWeldDistance));
-  return Orienter(welded).Result();
+  const Mesh moved = WithOrderedLoops(Weld(Moved(shell, map), kWeldDistance));
+  const Mesh first = Orienter(moved).Result();
+  if (IsBalanced(first)) return first;
+  for (const double distance : {kWeldDistance, 1e-6, 1e-5, 1e-4}) {
+    const Mesh welded = Weld(moved, distance);
+    const Mesh whole = Orienter(SplitEdges(welded, std::max(distance, 1e-6))).Result();
+    if (!whole.IsEmpty() && IsBalanced(whole) && std::abs(VolumeOf(whole)) > 1e-15) return whole;
+  }
+  return first;
 }
 
 }  // namespace

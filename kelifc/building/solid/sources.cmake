@@ -16,7 +16,9 @@ target_sources(kelifc_building PRIVATE
   solid/primitive.cpp
   solid/rings.cpp
   solid/shells.cpp
+  solid/select_faces.cpp
   solid/slice.cpp
+  solid/split_edges.cpp
   solid/sweep_curve.cpp
   solid/triangulate.cpp
 )

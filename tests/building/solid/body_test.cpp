@@ -233,6 +233,38 @@ TEST(Body, OfAShellTurnsHolesAgainstTheirFace) {
   ExpectClosed(Evaluate(SolidOf(Shells{{wrong}, false})), 9.0);
 }
 
+TEST(Body, OfAShellWhoseNeighboursDivideAnEdgeIsClosed) {
+  Mesh mesh = BoxMesh({0.0, 0.0, 0.0}, {2.0, 1.0, 1.0});
+  Mesh divided;
+  divided.points = mesh.points;
+  divided.points.insert(divided.points.end(), {{1.0, 0.0, 0.0}, {1.0, 0.0, 1.0}});
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    const Mesh::Loop loop = mesh.LoopOf(face, 0);
+    if (face != 2) {
+      divided.AddFace({loop.begin(), loop.end()});
+    } else {
+      divided.AddFace({0, 8, 9, 4});
+      divided.AddFace({8, 1, 5, 9});
+    }
+  }
+  EXPECT_FALSE(IsClosed(divided));
+  ExpectClosed(Evaluate(SolidOf(Shells{{divided}, false})), 2.0);
+}
+
+TEST(Body, OfAShellWithRoundedCoordinatesIsClosed) {
+  const Mesh box = BoxMesh({0.0, 0.0, 0.0}, {1.0, 2.0, 3.0});
+  Mesh loose;
+  for (std::size_t face = 0; face < box.FaceCount(); ++face) {
+    std::vector<Mesh::Index> points;
+    for (const Mesh::Index p : box.LoopOf(face, 0)) {
+      points.push_back(static_cast<Mesh::Index>(loose.points.size()));
+      loose.points.push_back(box.points[p] + Vector3(2e-6 * static_cast<double>(face % 3), 0, 0));
+    }
+    loose.AddFace(points);
+  }
+  ExpectClosed(Evaluate(SolidOf(Shells{{loose}, false})), 6.0, 1e-4);
+}
+
 TEST(Body, OfAnOpenShellIsNotClosed) {
   const Mesh box = BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0});
   Mesh open;

@@ -315,6 +315,25 @@ TEST(Combine, OfRandomPrismsWithHolesKeepsTheSumOfVolumes) {
   }
 }
 
+TEST(Combine, OfItemsThatOverlapWorksOnEach) {
+  const SolidPointer cross = SolidOf(MappedItems{
+      Transform3(),
+      {Block({-2.0, -0.5, 0.0}, {2.0, 0.5, 1.0}), Block({-0.5, -2.0, 0.0}, {0.5, 2.0, 1.0})}});
+  const BodyResult result = Evaluate(Minus(cross, Block({-0.2, -3.0, 0.5}, {0.3, 3.0, 2.0})));
+  EXPECT_TRUE(result.body.isExact);
+  // Each bar on its own: 4 - 0.5 * 1 * 0.5, and 4 - 0.5 * 4 * 0.5.
+  ExpectSolid(result.body.mesh, 3.75 + 3.0);
+}
+
+TEST(Combine, ByItemsThatOverlapSubtractsAll) {
+  const SolidPointer cross = SolidOf(MappedItems{
+      Transform3(),
+      {Block({-2.0, -0.5, 0.0}, {2.0, 0.5, 1.0}), Block({-0.5, -2.0, 0.0}, {0.5, 2.0, 1.0})}});
+  const BodyResult result = Evaluate(Minus(Block({-3.0, -3.0, 0.0}, {3.0, 3.0, 1.0}), cross));
+  EXPECT_TRUE(result.body.isExact);
+  ExpectSolid(result.body.mesh, 36.0 - 7.0);
+}
+
 TEST(Combine, OfNumbersThatAreNotFiniteFails) {
   Mesh bad = BoxMesh({0.0, 0.0, 0.0}, {1.0, 1.0, 1.0});
   bad.points[2].y = std::numeric_limits<double>::infinity();

@@ -1,6 +1,11 @@
 set(stage_tests
   body_test.cpp
   boolean_test.cpp
+  box_tree_test.cpp
   distance_test.cpp
+  loops_test.cpp
+  mesh_tools_test.cpp
+  point_index_test.cpp
   slice_test.cpp
+  triangulate_test.cpp
 )
