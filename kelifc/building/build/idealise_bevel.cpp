@@ -10,8 +10,9 @@ namespace {
 // Larger outlines are not aligned, since that takes the square of the number of points.
 constexpr std::size_t kMostAligned = 256;
 
-// The places of the sections near both faces, as parts of the thickness.
-constexpr double kPlaces[] = {0.02, 0.98};
+// The places of the sections at both faces and in the middle, where a rim may have its tip, as
+// parts of the thickness. A little beside, so that no section runs through points.
+constexpr double kPlaces[] = {1e-4, 0.4999, 0.5001, 0.9999};
 
 // Edges that move by less from face to face are square, in metres.
 constexpr double kSquareEdge = 1e-4;
@@ -22,17 +23,15 @@ Vector2 OutwardOf(const Outline& outline, std::size_t edge) {
   return {along.y, -along.x};
 }
 
-// How far each edge of the middle section has to move outwards to reach the edge at a face.
-bool AddShifts(const Outline& middle, const Outline& near, double place,
-               std::vector<double>& shifts) {
-  const double stretch = 0.5 / std::fabs(place - 0.5);
+// How far each edge of a section has to move outwards to reach that of another one.
+bool AddShifts(const Outline& middle, const Outline& near, std::vector<double>& shifts) {
   for (std::size_t i = 0; i < middle.size(); ++i) {
     const std::size_t next = (i + 1) % middle.size();
     const Vector2 outward = OutwardOf(middle, i);
     const double first = Dot(near[i] - middle[i], outward);
     const double second = Dot(near[next] - middle[next], outward);
     if (std::fabs(first - second) > kSquareEdge) return false;
-    shifts[i] = std::max(shifts[i], stretch * first);
+    shifts[i] = std::max(shifts[i], first);
   }
   return true;
 }
@@ -90,7 +89,7 @@ std::optional<Outline> OutlineAroundBevels(Boundary& boundary, const PlaneFrame&
     if (!near || near->regionCount != 1 || !Align(middle, near->region.outer)) {
       return std::nullopt;
     }
-    if (!AddShifts(middle, near->region.outer, place, shifts)) return std::nullopt;
+    if (!AddShifts(middle, near->region.outer, shifts)) return std::nullopt;
   }
   if (*std::max_element(shifts.begin(), shifts.end()) < kSquareEdge) return std::nullopt;
   return MoveEdges(middle, shifts);

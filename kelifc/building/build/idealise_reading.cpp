@@ -30,12 +30,12 @@ double GradeOf(const Grade (&grades)[n], double value) {
 
 // Grades by falling limit. The last one holds for all values.
 constexpr Grade kMemberAsMember[] = {{3.0, 1.0}, {1.2, 0.8}, {0.8, 0.3}, {0.0, 0.1}};
-constexpr Grade kPlaneAsMember[] = {{3.0, 0.5}, {2.5, 0.4}, {0.0, 0.05}};
+constexpr Grade kPlaneAsMember[] = {{3.0, 0.5}, {2.5, 0.4}, {1.2, 0.15}, {0.0, 0.05}};
 constexpr Grade kPlaneAsSurface[] = {{3.0, 1.0}, {1.5, 0.8}, {1.0, 0.45}, {0.5, 0.2}, {0.0, 0.05}};
 constexpr Grade kMemberAsSurface[] = {{3.0, 0.5}, {1.5, 0.2}, {0.0, 0.05}};
 constexpr Grade kFootingAsMember[] = {{2.5, 0.95}, {1.2, 0.3}, {0.0, 0.05}};
 constexpr Grade kFootingAsSurface[] = {{2.5, 0.9}, {1.0, 0.6}, {0.7, 0.35}, {0.0, 0.05}};
-constexpr Grade kAnything[] = {{3.0, 0.9}, {2.0, 0.6}, {0.0, 0.05}};
+constexpr Grade kAnything[] = {{3.0, 0.9}, {2.0, 0.6}, {1.2, 0.3}, {0.0, 0.05}};
 
 // The factor if the element is flat rather than slender, or the other way round.
 constexpr double kOtherKindIsNearer = 0.6;
@@ -120,7 +120,7 @@ double ScoreOf(const Reading& reading) {
   }
   // A few cut-outs are usual. Many, or large ones, hint at a better way to see the element.
   if (reading.fit.cutouts == 0) return reading.suitability;
-  return reading.suitability - 0.03 - std::max(0.0, *reading.fit.ratio - 1.05);
+  return reading.suitability - 0.03 - std::max(0.0, *reading.fit.ratio - 1.0);
 }
 
 bool IsAcceptable(const Reading& reading) {
@@ -143,7 +143,10 @@ void KeepBetter(std::optional<Reading>& best, std::optional<Reading> other) {
 }
 
 bool IsGood(const std::optional<Reading>& reading) {
-  return reading && !reading->fit.isApproximate && ScoreOf(*reading) >= kSuitable;
+  // A large cut may run along the whole element; then slices find a better section.
+  constexpr double kLargestCut = 1.02;
+  return reading && !reading->fit.isApproximate && ScoreOf(*reading) >= kSuitable &&
+         (reading->fit.cutouts == 0 || *reading->fit.ratio < kLargestCut);
 }
 
 Proportions ProportionsOfMember(const Outline& section, double length) {

@@ -53,8 +53,10 @@ Faces FindFaces(Boundary& boundary, const Vector3& normal) {
     const Boundary::Face& facts = boundary.Faces()[face];
     const double cosine = Dot(facts.normal, normal);
     if (std::fabs(cosine) < kSquare) continue;
-    const double level = At(mesh.points[mesh.LoopOf(face, 0)[0]], normal);
-    (cosine > 0.0 ? upper : lower).emplace_back(level, facts.area);
+    // A face that is not quite square counts at its mean level.
+    Span level;
+    for (const Mesh::Index i : mesh.LoopOf(face, 0)) level.Add(At(mesh.points[i], normal));
+    (cosine > 0.0 ? upper : lower).emplace_back(level.Middle(), facts.area);
   }
   const Level top = MainLevel(std::move(upper));
   const Level bottom = MainLevel(std::move(lower));
@@ -88,6 +90,18 @@ std::optional<Reading> ReadWithOutline(Subject& subject, const PlaneFrame& plane
   return reading;
 }
 
+// The outline of the larger one of the two faces of a plate.
+std::optional<Outline> LargerFace(Boundary& boundary, const PlaneFrame& plane, const Span& span) {
+  std::optional<Section> larger;
+  for (const double place : {1e-4, 0.9999}) {
+    std::optional<Section> section = SectionAt(boundary, plane, span.from + place * span.Length());
+    if (!section || section->regionCount != 1) continue;
+    if (!larger || section->area > larger->area) larger = std::move(section);
+  }
+  if (!larger) return std::nullopt;
+  return std::move(larger->region.outer);
+}
+
 std::optional<Reading> ReadWithSection(Subject& subject, const PlaneFrame& plane,
                                        const Section& section, const Faces& faces) {
   if (section.regionCount != 1) return std::nullopt;
@@ -96,6 +110,7 @@ std::optional<Reading> ReadWithSection(Subject& subject, const PlaneFrame& plane
       ReadWithOutline(subject, plane, section.region.outer, section.region.holes, span);
   if (best && !best->fit.isApproximate) return best;
   std::optional<Outline> around = OutlineAroundBevels(subject.boundary, plane, section, faces.span);
+  if (!around) around = LargerFace(subject.boundary, plane, faces.span);
   if (!around) return best;
   KeepBetter(best,
              ReadWithOutline(subject, plane, std::move(*around), section.region.holes, faces.span));

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <memory>
 #include <numbers>
 
 #include "tests/building/build/idealise_samples.h"
@@ -125,6 +126,17 @@ TEST(IdealiseMember, CountsACopeAsACutOut) {
   EXPECT_EQ(sample.ByFacts(ElementRole::kMember).source, BodySource::kBoolean);
 }
 
+TEST(IdealiseMember, TakesACutAlongTheWholeLengthIntoTheProfile) {
+  // A beam of 0.1 by 0.2 m with a rabbet of 0.05 by 0.05 m.
+  const Sample sample({Minus(PrismAlongX(RectangleProfile(0.0, 0.0, 0.1, 0.2), 4.0),
+                             Block({-1.0, 0.05, 0.15}, {5.0, 1.0, 1.0}))});
+  const Idealisation beam = sample.ByFacts(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  ExpectExact(beam);
+  EXPECT_EQ(beam.source, BodySource::kBoolean);
+  EXPECT_NEAR(beam.profile->area, 0.1 * 0.2 - 0.05 * 0.05, kTiny);
+}
+
 TEST(IdealiseMember, CountsHolesInTheWebAsCutOuts) {
   const Sample sample({Minus(
       Minus(Block({0.0, 0.0, 0.0}, {6.0, 0.1, 0.5}), Block({1.0, -1.0, 0.2}, {1.2, 1.0, 0.3})),
@@ -135,6 +147,31 @@ TEST(IdealiseMember, CountsHolesInTheWebAsCutOuts) {
   EXPECT_EQ(beam.cutouts, 2u);
   EXPECT_FALSE(beam.isApproximate);
   EXPECT_NEAR(*beam.volumeRatio, 0.3 / 0.296, kTiny);
+}
+
+TEST(IdealiseMember, RecognisesAnIBeamWithFilletsInItsFacets) {
+  auto facts = std::make_shared<ProfileFacts>();
+  facts->shape = ProfileShape::kI;
+  const auto set = [&](ProfileParameter parameter, double value) {
+    facts->parameters[static_cast<std::size_t>(parameter)] = value;
+  };
+  set(ProfileParameter::kH, 0.22);
+  set(ProfileParameter::kB, 0.22);
+  set(ProfileParameter::kTw, 0.0095);
+  set(ProfileParameter::kTf, 0.016);
+  set(ProfileParameter::kR, 0.018);
+  const Sample sample({PrismAlongX(facts, 5.0)});
+  EXPECT_GE(sample.body.mesh.FaceCount(), 30u);
+  const Idealisation beam = sample.BySlices(ElementRole::kMember);
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  ExpectExact(beam);
+  EXPECT_EQ(beam.profile->shape, ProfileShape::kI);
+  EXPECT_NEAR((*beam.profile)[ProfileParameter::kTw], 0.0095, 5e-4);
+  EXPECT_NEAR((*beam.profile)[ProfileParameter::kR], 0.018, 5e-4);
+  // The area is that of the plates, and of the fillets the square less a quarter disk.
+  const double area = 2 * 0.22 * 0.016 + 0.188 * 0.0095 + (4.0 - std::numbers::pi) * 0.018 * 0.018;
+  EXPECT_NEAR(beam.profile->area, area, 1e-5);
+  EXPECT_NEAR(beam.member->y.y, 1.0, kTiny);
 }
 
 TEST(IdealiseMember, GivesATaperedBeamAProfileAtItsEnd) {

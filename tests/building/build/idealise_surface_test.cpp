@@ -180,6 +180,31 @@ TEST(IdealiseSurface, SweepsACurvedWallAlongItsMiddle) {
   }
 }
 
+TEST(IdealiseSurface, ContainsTheMitredAndPointedEndsOfAWall) {
+  // In plan 5 m by 0.24 m: cut at 45 degrees on the left, and with a tip of 0.08 m on the right.
+  const Sample sample({Prism(
+      PolygonProfile({{0.0, 0.0}, {5.0, 0.0}, {5.08, 0.12}, {5.0, 0.24}, {0.24, 0.24}}), 2.5)});
+  const Idealisation wall = sample.ByFacts(ElementRole::kWall);
+  ASSERT_EQ(wall.kind, ElementKind::kSurface);
+  EXPECT_NEAR(wall.deviation, 0.0, 1e-4);
+  EXPECT_FALSE(wall.isApproximate);
+  EXPECT_EQ(wall.cutouts, 2u);
+  EXPECT_NEAR(AreaOf(*wall.surface), 5.08 * 2.5, 1e-3);
+  const double plan = 5.0 * 0.24 - 0.24 * 0.24 / 2 + 0.08 * 0.24 / 2;
+  EXPECT_NEAR(*wall.volumeRatio, 5.08 * 0.24 / plan, 1e-4);
+}
+
+TEST(IdealiseSurface, TakesTheMeanThicknessOfAWedge) {
+  // 0.20 m thick at one side, 0.21 m at the other.
+  const Sample sample(
+      {PrismAlongY(PolygonProfile({{0.0, 0.0}, {4.0, 0.0}, {4.0, 0.21}, {0.0, 0.2}}), 3.0)});
+  const Idealisation slab = sample.BySlices(ElementRole::kSlab);
+  ASSERT_EQ(slab.kind, ElementKind::kSurface);
+  EXPECT_NEAR(slab.surface->thickness, 0.205, 1e-3);
+  EXPECT_NEAR(slab.deviation, 0.005, 1e-3);
+  EXPECT_NEAR(*slab.volumeRatio, 1.0, 1e-3);
+}
+
 TEST(IdealiseSurface, UnitesTheLayersOfAWall) {
   const Sample sample(
       {Block({0.0, 0.0, 0.0}, {5.0, 0.2, 3.0}), Block({0.0, 0.2, 0.0}, {5.0, 0.3, 3.0})});
