@@ -189,7 +189,8 @@ TEST_F(LostColumn, IsListedWithItsReasonAndItsLine) {
   EXPECT_EQ(losses[0]["class"], "IfcColumn");
   EXPECT_EQ(losses[0]["name"], "=\x1B[1m\xC3\xBC");
   EXPECT_EQ(losses[0]["reason"], "no-representation");
-  EXPECT_EQ(Json({"elements", "--json", "--dialect", "classic", path})["losses"][0]["line"], 6);
+  const auto classic = Json({"elements", "--json", "--dialect", "classic", "house.ifc"})["losses"];
+  EXPECT_EQ(classic[0]["line"], 159);
 }
 
 TEST_F(LostColumn, GivesAStatusOfItsOwnIfTheUserAsksForIt) {

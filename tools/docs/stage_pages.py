@@ -24,7 +24,7 @@ TOP_PAGES = {
     "tools/docs/cpp-api.md": "cpp-api.md",
 }
 FENCE = re.compile(r"\s*(```|~~~)")
-LINK = re.compile(r"\[([^\]\[]+)\]\(([^)\s#]+)(#[^)\s]*)?\)")
+LINK = re.compile(r"(?<!!)\[([^\]\[]+)\]\(([^)\s#]+)(#[^)\s]*)?\)")
 
 
 def page_places(tree):
@@ -72,6 +72,10 @@ def stage(tree, pages):
         target = pages / place
         target.parent.mkdir(parents=True, exist_ok=True)
         target.write_text("".join(lines), encoding="utf-8")
+    for picture in (tree / "docs").glob("**/*.svg"):
+        target = pages / picture.relative_to(tree / "docs")
+        target.parent.mkdir(parents=True, exist_ok=True)
+        target.write_bytes(picture.read_bytes())
 
 
 def main():

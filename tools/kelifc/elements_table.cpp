@@ -1,3 +1,4 @@
+#include <cmath>
 #include <unordered_map>
 
 #include "tools/kelifc/elements_format.h"
@@ -42,10 +43,18 @@ std::string StoreyTable(const Building& building) {
 std::string ProfileText(const BuildingProfile& profile) {
   if (!profile.designation.empty()) return profile.designation;
   if (!profile.name.empty()) return Visible(profile.name);
-  return std::string(TextOf(profile.shape));
+  std::string text(TextOf(profile.shape));
+  for (const KelIFC::ProfileParameter parameter : KelIFC::ParametersOf(profile.shape)) {
+    if (profile[parameter] == 0.0) continue;
+    text += " " + std::string(TextOf(parameter)) + "=" + Brief(1000.0 * profile[parameter]);
+  }
+  return text;
 }
 
-/// The profile of a member, the thickness of a surface.
+/// In millimetres, to a thousandth.
+std::string DeviationText(double metres) { return Brief(std::round(1e6 * metres) / 1000.0); }
+
+/// The profile of a member with its sizes in millimetres, the thickness of a surface.
 std::string SectionText(const Building& building, const BuildingElement& element) {
   if (element.member && element.member->profile < building.profiles.size()) {
     return ProfileText(building.profiles[element.member->profile]);
@@ -65,7 +74,7 @@ std::string ElementTable(const Building& building) {
     table.Add({Number(element.id), element.className, Visible(element.name),
                storeys[element.storey], std::string(TextOf(element.kind)),
                SectionText(building, element), length ? Brief(*length) : "", Brief(element.volume),
-               Brief(1000.0 * element.deviation), element.isApproximate ? "approximate" : ""});
+               DeviationText(element.deviation), element.isApproximate ? "approximate" : ""});
   }
   return "\nElements\n" + table.ToText();
 }

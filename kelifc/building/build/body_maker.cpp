@@ -76,12 +76,16 @@ BodyResult BodyMaker::Make(const std::vector<SolidPointer>& items, const Transfo
 
 BodyResult BodyMaker::Evaluate(const std::vector<SolidPointer>& items,
                                const Transform3& placement) {
+  const Solid* const first = items.empty() ? nullptr : items.front().get();
+  const auto known = tooLarge.find(first);
+  if (known != tooLarge.end() && known->second == items) return Fault(LossReason::kLimit, items);
   BodyLimits limits;
   limits.maxPoints = std::min(pointsLeft, maxBodyPoints);
   limits.maxDepth = depth;
   BodyResult result = EvaluateBody(items, placement, limits);
   // A body that is beyond the limit took as much work as one that is as large as the limit.
   const bool isBeyond = result.fault && result.fault->reason == LossReason::kLimit;
+  if (isBeyond && limits.maxPoints == maxBodyPoints) tooLarge.emplace(first, items);
   Charge(isBeyond ? limits.maxPoints : result.body.mesh.points.size());
   return result;
 }

@@ -43,6 +43,8 @@ class BodyMaker {
   // The key is the first of the mapped items. It is compared and never ordered, so results do not
   // depend on addresses.
   std::unordered_map<const Solid*, Shared> shared;
+  // What is beyond the limit of one body, by the first item. It is not evaluated again.
+  std::unordered_map<const Solid*, std::vector<SolidPointer>> tooLarge;
   std::size_t pointsLeft;
   std::size_t maxBodyPoints;
   std::size_t depth;

@@ -81,5 +81,20 @@ TEST(BodyMaker, MakesNothingAfterTheLastPoint) {
   }
 }
 
+TEST(BodyMaker, CountsABodyThatIsTooLargeOnce) {
+  ReadingOptions options;
+  options.maxBodyPoints = 12;  // one block, and not two
+  options.maxPoints = 24;
+  BodyMaker bodies(options);
+  const SolidPointer block = Block(1.0, 1.0, 1.0);
+  const std::vector<SolidPointer> two = {block, Mapped({block}, MovedTo(9.0, 0.0, 0.0))};
+  for (int i = 0; i < 10; ++i) {
+    const BodyResult result = bodies.Make(two, Transform3());
+    ASSERT_TRUE(result.fault);
+    EXPECT_EQ(result.fault->reason, LossReason::kLimit);
+  }
+  EXPECT_FALSE(bodies.Make({block}, Transform3()).fault);
+}
+
 }  // namespace
 }  // namespace KelIFC::building

@@ -44,6 +44,13 @@ class StagePages(unittest.TestCase):
         self.write("examples/main.cpp", "")
         self.assertEqual(self.staged("a.md"), "walk (`examples/main.cpp`), `examples/main.cpp`")
 
+    def test_pictures_go_with_the_pages_that_show_them(self):
+        self.write("docs/pictures/house.svg", "<svg/>")
+        self.write("docs/guide.md", "![A house](pictures/house.svg)\n")
+        stage_pages.stage(self.tree, self.pages)
+        self.assertEqual((self.pages / "guide.md").read_text(), "![A house](pictures/house.svg)\n")
+        self.assertEqual((self.pages / "pictures/house.svg").read_text(), "<svg/>")
+
     def test_code_stays_as_it_is(self):
         code = "```cpp\n[a](../README.md)\n```\n\n    [a](../README.md)\n"
         self.write("docs/a.md", code)
