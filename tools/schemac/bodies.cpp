@@ -149,7 +149,7 @@ void ParseBodies(const std::string& file, std::string_view text, Description& de
     } else if (hasSection) {
       (description.bodies.back().text += line) += '\n';
     } else if (!IsBlankOrComment(line)) {
-      throw DescriptionError(place, "code ahead of the first section");
+      throw DescriptionError(place, "code before the first section");
     }
   }
 }

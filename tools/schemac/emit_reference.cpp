@@ -61,7 +61,7 @@ class PageWriter {
   std::string Run(const Family& family) {
     out.Line("# " + family.title);
     out.Line();
-    out.Line("Made from `kelifc/schema/" + family.name + ".schema`.");
+    out.Line("Generated from `kelifc/schema/" + family.name + ".schema`.");
     for (const auto& enumeration : description.enumerations) {
       if (enumeration.family == family.name) AddEnumeration(enumeration);
     }
@@ -90,7 +90,7 @@ class PageWriter {
         line += (i == 0 ? "`" : ", `") + table.rows[i].first + "` " +
                 std::to_string(table.rows[i].second);
       }
-      if (table.rows.empty()) line += "the text as it stands";
+      if (table.rows.empty()) line += "the text is kept unchanged";
       out.Line(line + ".");
     }
   }
@@ -129,7 +129,7 @@ class PageWriter {
     AddOperations(entity, operations);
     for (const auto& departure : departures) {
       out.Line();
-      out.Line("Departs from the regular form" + In(entity, departure) + ": " + departure.text +
+      out.Line("Departure from the regular form" + In(entity, departure) + ": " + departure.text +
                ".");
     }
   }
@@ -180,7 +180,7 @@ class PageWriter {
   void AddAttributes(const Entity& entity) {
     if (entity.attributes.empty()) return;
     out.Line();
-    out.Line("| attribute | held as | releases | remark |");
+    out.Line("| attribute | type | releases | remark |");
     out.Line("|---|---|---|---|");
     for (const auto& attribute : entity.attributes) {
       out.Line("| " + attribute.name + " | " + HeldAs(entity, attribute) + " | " +
@@ -202,9 +202,9 @@ class PageWriter {
     std::vector<std::string> remarks;
     if (attribute.isInverse) remarks.emplace_back("inverse, not in the file");
     if (!attribute.inFile && !attribute.isInverse) remarks.emplace_back("not in the file");
-    if (!attribute.initial.empty()) remarks.push_back("starts as `" + attribute.initial + "`");
+    if (!attribute.initial.empty()) remarks.push_back("initially `" + attribute.initial + "`");
     if (!attribute.absent.empty())
-      remarks.push_back("counts as " + attribute.absent + " while unset");
+      remarks.push_back("reads as " + attribute.absent + " while unset");
     if (!attribute.writtenAs.empty()) remarks.push_back("written as `" + attribute.writtenAs + "`");
     if (!attribute.reason.empty()) remarks.push_back(attribute.reason);
     return Joined(remarks);
@@ -219,7 +219,7 @@ class PageWriter {
   void AddOperations(const Entity& entity, const std::vector<Appearance>& operations) {
     if (operations.empty()) return;
     out.Line();
-    out.Line("Operations, in slot order:");
+    out.Line("Operations, in the order of their slots:");
     out.Line();
     for (const auto& operation : operations) {
       out.Line("- `" + operation.text + "`" + In(entity, operation) +
@@ -257,7 +257,7 @@ void EmitReference(const Description& description, const std::vector<ReleaseMode
   TextWriter index;
   index.Line("# The entity classes");
   index.Line();
-  index.Line("One page per family, made from the descriptions in `kelifc/schema`.");
+  index.Line("One page for each family, generated from the descriptions in `kelifc/schema`.");
   index.Line();
   for (const auto& family : description.families) {
     files["docs/reference/" + family.name + ".md"] = PageWriter(description, models).Run(family);

@@ -88,7 +88,7 @@ class EntityLine {
     const std::string word = in.Name("a kind");
     const KindInfo* kind = FindKind(word);
     if (kind == nullptr || kind->published.empty()) {
-      throw DescriptionError(place, "'" + word + "' is no kind of a position");
+      throw DescriptionError(place, "'" + word + "' is not a kind for a position");
     }
     return kind->kind;
   }
@@ -243,7 +243,7 @@ class EntityLine {
     const Place place = in.Here();
     const std::string word = in.Name("the kind of the attribute");
     const KindInfo* kind = FindKind(word);
-    if (kind == nullptr) throw DescriptionError(place, "'" + word + "' is no kind");
+    if (kind == nullptr) throw DescriptionError(place, "'" + word + "' is not a kind");
     attribute.kind = kind->kind;
     attribute.inFile = kind->isInFile;
     if (kind->takesName) attribute.type = in.Name("the class or enumeration");

@@ -62,7 +62,7 @@ class OperationWriter {
     resolved.isConst = operation.isConst || (resolved.result != "void" && !givesWritable);
     const auto comment = type.entity->comments.find(operation.name);
     if (comment == type.entity->comments.end() && !operation.isOverride) {
-      throw DescriptionError(operation.place, "no line tells what " + operation.name + " does");
+      throw DescriptionError(operation.place, "no 'tell' line describes " + operation.name);
     }
     if (comment != type.entity->comments.end()) resolved.doc = comment->second;
     type.operations.push_back(std::move(resolved));
@@ -77,7 +77,7 @@ class OperationWriter {
     });
     if (found == all.end()) {
       throw DescriptionError(operation.place, operation.name + " forwards to " + inner +
-                                                  ", which stands nowhere above it");
+                                                  ", which is not declared above it");
     }
     ResolvedOperation resolved = Begin(operation);
     resolved.isConst = true;
@@ -166,7 +166,7 @@ class OperationWriter {
     TemplateWords words = Words(operation, false);
     ResolvedOperation resolved = GetterOf(operation, words);
     resolved.isConst = !Info().getter->isPointer;
-    resolved.doc = Fill("@Name@ for derived classes, told at Get@Name@.", words);
+    resolved.doc = Fill("Returns @Name@ for derived classes, as Get@Name@ does.", words);
     type.operations.push_back(std::move(resolved));
   }
 
@@ -193,7 +193,7 @@ class OperationWriter {
     }
     if (!attribute->absent.empty()) {
       words["absent"] = attribute->absent;
-      resolved.doc = Fill("@Name@; @absent@ while it is unset.", words);
+      resolved.doc = Fill("Returns @Name@, or @absent@ while it is unset.", words);
       resolved.body = {Fill("return @member@.GetExists() ? @member@ : @result@(@absent@);", words)};
     }
     type.operations.push_back(std::move(resolved));
@@ -212,14 +212,14 @@ class OperationWriter {
 
   void AddAdder(const Operation& operation) {
     if (Info().view.empty()) {
-      throw DescriptionError(operation.place, attribute->name + " is no aggregate");
+      throw DescriptionError(operation.place, attribute->name + " is not an aggregate");
     }
     const TemplateWords words = Words(operation, false);
     ResolvedOperation resolved = Begin(operation);
     resolved.result = "void";
     resolved.parameters = Fill("@target@* item", words);
     resolved.doc =
-        Fill("Adds a reference to @Name@; what the model does not hold is left out.", words);
+        Fill("Adds a reference to @Name@. An instance that the model does not hold is left out.", words);
     resolved.body = {Fill("AddMember(@member@, item, *this);", words)};
     type.operations.push_back(std::move(resolved));
   }

@@ -87,7 +87,7 @@ class Resolver {
       }
       const auto at = model.indexOf.find(base);
       const bool isLater = at != model.indexOf.end() && at->second >= model.indexOf[entity.name];
-      if (isLater) throw DescriptionError(entity.place, "the base " + base + " stands behind it");
+      if (isLater) throw DescriptionError(entity.place, "the base " + base + " is described after it");
       if (const CoreClass* core = FindCoreClass(base)) type.isUnknown |= core->isUnknown;
       if (const ResolvedClass* other = model.Find(base)) type.isUnknown |= other->isUnknown;
     }

@@ -42,13 +42,13 @@ TEST_P(RefusedBodies, AreReportedWithTheirPlace) {
 
 INSTANTIATE_TEST_SUITE_P(
     Bodies, RefusedBodies,
-    testing::Values(Fault{"int x;\n", "1:1: error: code ahead of the first section"},
+    testing::Values(Fault{"int x;\n", "1:1: error: code before the first section"},
                     Fault{"// entity IfcB\n", "1:11: error: IfcB is not described"},
                     Fault{"// function IfcA\n", "1:13: error: IfcA is not described"},
                     Fault{"// function IfcTurn [151]\n",
                           "1:21: error: a release that the entry does not have"},
                     Fault{"// entity IfcA of old\n", "1:16: error: expected the end of the line"},
-                    Fault{"// entity IfcA [3x]\n", "1:17: error: '3x' names no releases"}));
+                    Fault{"// entity IfcA [3x]\n", "1:17: error: '3x' does not name releases"}));
 
 TEST(AttachBodies, FindsEachOverloadByItsParameters) {
   const Resolved resolved(kTwoNumbers,

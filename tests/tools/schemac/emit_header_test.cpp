@@ -32,9 +32,9 @@ TEST(EmitHeader, TellsDepartures) {
           "entity IfcA : IfcUnknown all file\n  doc A.\n  drop enum .X.   -- never kept\n"
           "  Name string   -- cut short\n  without Write   -- not written\n")
           .Header();
-  EXPECT_TRUE(Holds(header, "/// Departs: never kept."));
+  EXPECT_TRUE(Holds(header, "/// Departure: never kept."));
   EXPECT_TRUE(Holds(header, "/// cut short"));
-  EXPECT_TRUE(Holds(header, "/// Departs: not written."));
+  EXPECT_TRUE(Holds(header, "/// Departure: not written."));
 }
 
 TEST(EmitHeader, ShowsDefinedTypesBehindTheirBase) {
@@ -51,7 +51,7 @@ TEST(EmitHeader, ShowsAListOfIntegersAsATypeOfItsOwn) {
   const std::string header = Resolved("type IfcAngle integers all\n  doc An angle.\n").Header();
   EXPECT_TRUE(Holds(header, "/// An angle.\nclass KELIFC_API IfcAngle : public LIST<INTEGER> {"));
   EXPECT_EQ(Refusal("type IfcText string all\n  doc T.\n"),
-            "f.schema:2:1: error: IfcText stands behind no select");
+            "f.schema:2:1: error: IfcText does not derive from a select");
 }
 
 TEST(EmitHeader, KeepsOpenEnumerationsUnderTheirName) {
@@ -96,7 +96,7 @@ TEST(EmitHeader, WantsACommentOnEachConstructor) {
   EXPECT_EQ(
       Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  make (REAL x)\n  make (REAL x, REAL y)\n"
               "  tell IfcA(REAL x) One number.\n"),
-      "f.schema:5:3: error: no line tells what IfcA(REAL x, REAL y) does");
+      "f.schema:5:3: error: no 'tell' line describes IfcA(REAL x, REAL y)");
 }
 
 TEST(EmitHeader, NamesTheReleaseAsPeopleWriteIt) {

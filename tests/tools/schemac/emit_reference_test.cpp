@@ -26,9 +26,9 @@ TEST(EmitReference, TellsWhereAClassIsAndWhatItKeeps) {
   EXPECT_TRUE(Holds(page, "- Writes (2x): `IfcA(.X.)`."));
   EXPECT_TRUE(Holds(page, "- Writes (2x2, 2x3): `IfcA(Size, .X.)`."));
   EXPECT_TRUE(
-      Holds(page, "| Size | `IfcLengthMeasure` | 2x2, 2x3 | counts as 0.1 while unset, why |"));
+      Holds(page, "| Size | `IfcLengthMeasure` | 2x2, 2x3 | reads as 0.1 while unset, why |"));
   EXPECT_TRUE(Holds(page, "- `IfcLengthMeasure GetSize() const` (2x2, 2x3) -- "));
-  EXPECT_TRUE(Holds(page, "Departs from the regular form: never kept."));
+  EXPECT_TRUE(Holds(page, "Departure from the regular form: never kept."));
 }
 
 TEST(EmitReference, ListsEnumerationsAndDefinedTypes) {

@@ -98,17 +98,17 @@ TEST(ResolveOperations, ForwardsToTheOperationWithAnUnderscore) {
 
 TEST(ResolveOperations, ForwardsOnlyToAnOperationWithoutParametersAboveIt) {
   const std::string message =
-      "f.schema:4:7: error: GetN forwards to _GetN, which stands nowhere above it";
+      "f.schema:4:7: error: GetN forwards to _GetN, which is not declared above it";
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetN forward\n"), message);
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
                     "  ops GetN forward, _GetN: integer\n  tell _GetN N.\n"),
             message);
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
                     "  ops [2x] _GetN: integer, [2x3] GetN forward\n  tell _GetN N.\n"),
-            "f.schema:4:34: error: GetN forwards to _GetN, which stands nowhere above it");
+            "f.schema:4:34: error: GetN forwards to _GetN, which is not declared above it");
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
                     "  ops _GetN(index): integer, GetN forward\n  tell _GetN N.\n"),
-            "f.schema:4:30: error: GetN forwards to _GetN, which stands nowhere above it");
+            "f.schema:4:30: error: GetN forwards to _GetN, which is not declared above it");
 }
 
 TEST(ResolveOperations, WantsASignatureOrAnAttribute) {
@@ -118,7 +118,7 @@ TEST(ResolveOperations, WantsASignatureOrAnAttribute) {
 
 TEST(ResolveOperations, WantsALineThatTellsWhatAHandWrittenOneDoes) {
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetX: real\n"),
-            "f.schema:4:7: error: no line tells what GetX does");
+            "f.schema:4:7: error: no 'tell' line describes GetX");
 }
 
 TEST(ResolveOperations, WantsAClassForAReferenceThatIsShown) {
@@ -128,7 +128,7 @@ TEST(ResolveOperations, WantsAClassForAReferenceThatIsShown) {
 
 TEST(ResolveOperations, AddsToAggregatesOnly) {
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  X real\n  ops AddX\n"),
-            "f.schema:5:7: error: X is no aggregate");
+            "f.schema:5:7: error: X is not an aggregate");
 }
 
 }  // namespace

@@ -108,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Fault{"entity IfcA : IfcB all\n  doc A.\n", "2:1: error: the base IfcB is not described"},
         Fault{"entity IfcA : IfcB all\n  doc A.\nentity IfcB : IfcUnknown all\n  doc B.\n",
-              "2:1: error: the base IfcB stands behind it"},
+              "2:1: error: the base IfcB is described after it"},
         Fault{"entity IfcA : IfcUnknown all\n", "2:1: error: IfcA has no doc line"},
         Fault{"entity IfcA : IfcUnknown all\n  doc A.\nentity IfcA : IfcUnknown all\n  doc A.\n",
               "4:1: error: IfcA is described twice"},
