@@ -32,7 +32,7 @@ constexpr std::string_view kDefinedType =
 
 )";
 
-/// What a defined type has besides if it is a text.
+/// Additional members of a defined type that is a text.
 constexpr std::string_view kFromText = R"(  /// A text that is set; null makes it unset.
   @name@(const char* text);
 )";
@@ -53,7 +53,7 @@ constexpr std::string_view kIntegers = R"(class KELIFC_API @name@ : public LIST<
 
 )";
 
-/// A select without IfcUnknown in it only marks the classes it may hold.
+/// A select that does not derive from IfcUnknown only marks the classes that it can hold.
 constexpr std::string_view kSelectBody = R"( public:
   @name@(const @name@&) = default;
   @name@& operator=(const @name@&) = default;
@@ -79,7 +79,7 @@ constexpr std::string_view kNames = R"(  /// Returns the name of the entity as t
   const char* GetStepName() const override;
 )";
 
-/// What every header of a family includes.
+/// The headers that every header of a family includes.
 constexpr std::string_view kUsualHeaders[] = {
     "kelifc/core/aggregate.h",   "kelifc/core/binary.h",         "kelifc/core/boolean.h",
     "kelifc/core/coordinates.h", "kelifc/core/enum.h",           "kelifc/core/enum_text.h",
@@ -158,7 +158,7 @@ class HeaderEmitter {
     }
   }
 
-  /// A type whose base is of this family waits until the base has been written.
+  /// A type whose base belongs to this family is written after the base.
   void EmitDefinedTypeAfterBase(const DefinedType& type) {
     if (FamilyOf(model, type.base) == family.name) {
       waiting.push_back(&type);
@@ -300,7 +300,7 @@ class HeaderEmitter {
     }
   }
 
-  /// Where a part that is written by hand is described and defined.
+  /// Writes where a part that is written by hand is described and defined.
   template <class Part>
   void EmitPlaces(const std::string& indent, const Part& part) {
     if (part.bodyPlace.file.empty()) return;

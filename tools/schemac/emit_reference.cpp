@@ -8,7 +8,7 @@ namespace schemac {
 
 namespace {
 
-/// "2x, 2x2, 2x3", from a test of each release.
+/// The releases that pass a test, such as "2x, 2x2, 2x3".
 template <class Has>
 std::string Releases(Has has) {
   std::string text;
@@ -23,7 +23,7 @@ std::string Releases(ReleaseSet set) {
   return Releases([&](std::size_t release) { return set.Has(release); });
 }
 
-/// A text that appears in some releases, in the order in which it was first met.
+/// A text that appears in some releases.
 struct Appearance {
   std::string text;
   std::string doc;
@@ -44,7 +44,7 @@ std::string Joined(const std::vector<std::string>& pieces) {
   return text;
 }
 
-/// `|` would end a cell of a table.
+/// Escapes `|`, which would end a cell of a table.
 std::string Cell(std::string text) {
   for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at + 2)) {
     text.insert(at, "\\");
@@ -52,7 +52,8 @@ std::string Cell(std::string text) {
   return text;
 }
 
-/// Writes the page of one family: what each class keeps, writes and offers, over all releases.
+/// Writes the page of one family: the attributes, the record and the operations of each class in
+/// all releases.
 class PageWriter {
  public:
   PageWriter(const Description& description, const std::vector<ReleaseModel>& models)
@@ -148,7 +149,7 @@ class PageWriter {
     }
   }
 
-  /// What a class writes itself, behind what its bases write.
+  /// Returns the record that a class writes, with the positions of its bases.
   static std::string Record(const ReleaseModel& model, const ResolvedClass& type) {
     if (!type.isUnknown || type.entity->isAbstract) return {};
     if (type.customWrite) return "by hand, see the source";
@@ -235,7 +236,7 @@ class PageWriter {
              Releases(function.releases) + ". " + function.doc);
   }
 
-  /// " (2x)" for what does not hold in all releases of the entity.
+  /// Returns text such as " (2x)" unless the fact applies to all releases of the entity.
   static std::string In(const Entity& entity, const Appearance& appearance) {
     bool everywhere = true;
     for (std::size_t release = 0; release < kReleaseCount; ++release) {

@@ -65,7 +65,7 @@ std::vector<std::string> ClassNames(const ReleaseModel& model) {
   return names;
 }
 
-/// `form`, a template of one line, for each name.
+/// Returns `form`, a template of one line, for each name.
 std::string ForEach(const std::vector<std::string>& names, std::string_view form,
                     TemplateWords words) {
   TextWriter out;

@@ -10,7 +10,7 @@ namespace schemac {
 
 namespace {
 
-/// Follows the comment of a getter of an inverse attribute.
+/// The end of the comment of a getter of an inverse attribute.
 constexpr std::string_view kInverseDoc = " Inverse: setters of other instances never fill it.";
 
 bool StartsWith(std::string_view text, std::string_view head) {
@@ -45,7 +45,7 @@ class OperationWriter {
  private:
   using Role = ResolvedOperation::Role;
 
-  /// The beginning of a name, and what adds an operation that has it.
+  /// The beginning of a name, and the function that adds operations with such a name.
   struct Verb {
     std::string_view head;
     void (OperationWriter::*add)(const Operation&);
@@ -68,7 +68,7 @@ class OperationWriter {
     type.operations.push_back(std::move(resolved));
   }
 
-  /// A const operation that calls the one with '_' in front of its name.
+  /// Adds a const operation that calls the operation with '_' before its name.
   void AddForward(const Operation& operation) {
     const std::string inner = "_" + operation.name;
     const auto& all = type.operations;
@@ -99,8 +99,8 @@ class OperationWriter {
     return resolved;
   }
 
-  /// Finds the verb and the attribute that a name consists of; null if the class has no such
-  /// attribute in this release. An attribute of other releases sets `isElsewhere`.
+  /// Splits a name into a verb and an attribute. Returns null if the class does not have the
+  /// attribute in this release. Sets `isElsewhere` if another release has it.
   const Verb* FindVerb(const Operation& operation) {
     isElsewhere = false;
     for (const auto& verb : kVerbs) {
@@ -142,8 +142,8 @@ class OperationWriter {
 
   const KindInfo& Info() const { return InfoOf(attribute->kind); }
 
-  /// The words of the attribute. Only an attribute that is narrowed to a class can be shown as a
-  /// pointer.
+  /// Returns the words of the attribute. Throws if the operation returns pointers and the attribute
+  /// is not narrowed to a class.
   TemplateWords Words(const Operation& operation, bool isConst) const {
     TemplateWords words = WordsOf(model, *attribute);
     if (Info().getter->isPointer && words["target"].empty()) {
@@ -153,7 +153,7 @@ class OperationWriter {
     return words;
   }
 
-  /// A getter in its general form, without a description.
+  /// Returns a getter in its general form, without a comment.
   ResolvedOperation GetterOf(const Operation& operation, TemplateWords& words) const {
     ResolvedOperation resolved = Begin(operation);
     resolved.result = Fill(Info().getter->result, words);
@@ -218,8 +218,8 @@ class OperationWriter {
     ResolvedOperation resolved = Begin(operation);
     resolved.result = "void";
     resolved.parameters = Fill("@target@* item", words);
-    resolved.doc =
-        Fill("Adds a reference to @Name@. An instance that the model does not hold is left out.", words);
+    resolved.doc = Fill(
+        "Adds a reference to @Name@. An instance that the model does not hold is left out.", words);
     resolved.body = {Fill("AddMember(@member@, item, *this);", words)};
     type.operations.push_back(std::move(resolved));
   }

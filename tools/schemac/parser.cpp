@@ -9,7 +9,7 @@ namespace schemac {
 
 namespace {
 
-/// Reads the description of one file: keeps the entry that indented lines belong to.
+/// Reads the description of one file. It keeps the entry to which indented lines belong.
 class Parser {
  public:
   explicit Parser(Description& description) : description(description) {}
@@ -50,7 +50,7 @@ class Parser {
     description.families.push_back({family, in.Rest()});
   }
 
-  /// Begins an entry: the lines that follow belong to it.
+  /// Begins an entry. The indented lines that follow belong to it.
   template <class Entry>
   Entry& Begin(std::vector<Entry>& entries, const Line& line) {
     Entry& entry = entries.emplace_back();
@@ -150,7 +150,8 @@ class Parser {
 
   Description& description;
   std::string family;
-  // The parts of the last entry that the lines of its body add to; null where it has no such part.
+  // The parts of the last entry that its body can change. A pointer is null if the entry does not
+  // have the part.
   std::string* doc = nullptr;
   Entity* entity = nullptr;
   Enumeration* enumeration = nullptr;
