@@ -9,8 +9,8 @@
 
 #include "tests/schema/model.h"
 
-// The classes of each release as its makers agreed on them: what a file can name, what it cannot,
-// and what a host can make. The descriptions must give exactly these.
+// The agreed classes of each release: those that a file can contain, those that it cannot contain,
+// and those that a host can create. The descriptions must define exactly these classes.
 
 namespace KelIFC {
 namespace {

@@ -1,7 +1,7 @@
 #include "tests/schema/model.h"
 #include "tests/schema/slot_order.h"
 
-// Departures of single classes, each as a record that is read and written again.
+// The departures of single classes. Each test reads a record and writes it again.
 
 namespace KelIFC {
 namespace {
@@ -162,7 +162,7 @@ TYPED_TEST(NewestRecords, LiningGivesTheUsualValuesForWhatIsUnset) {
   EXPECT_EQ(model.TextOf(1), text);
 }
 
-/// The class reads the reference in its last position, `unset` behind other ones.
+/// The class reads the reference in its last position. `unset` has the positions before it.
 template <class R, class Properties>
 void ExpectShapeAspectStyle(const std::string& entity, int unset) {
   std::string text = entity + "(" + kRoot;
@@ -225,7 +225,7 @@ TYPED_TEST(NewestRecords, PlanarForceKeepsThreeNumbers) {
             "IFCSTRUCTURALLOADPLANARFORCE('F',1.,$,3.)");
 }
 
-TEST(SweptDiskSolid, StoresNoParameterThatAHostGives) {
+TEST(SweptDiskSolid, DoesNotStoreAParameterThatAHostSets) {
   KelIFC2x3::IfcSweptDiskSolid solid;
   solid.Parse("IFCSWEPTDISKSOLID(#1,0.5,$,1.,2.)");
   EXPECT_EQ(Text(solid), "IFCSWEPTDISKSOLID(#1,0.5,$,1.,2.)");

@@ -27,7 +27,7 @@ TYPED_TEST(Kernel, ReplacesAnIdentifierThatDoesNotDecode) {
   }
 }
 
-TYPED_TEST(Kernel, WritesANewIdentifierForAnEmptyOneAndKeepsItEmpty) {
+TYPED_TEST(Kernel, WritesANewIdentifierForAnEmptyTextAndKeepsTheEmptyText) {
   typename TypeParam::IfcBuilding building;
   building.SetGlobalId("");
   const std::string first = Text(building);

@@ -39,7 +39,7 @@ TYPED_TEST(Materials, UsageKeepsSenseAndOffset) {
             "IFCMATERIALLAYERSETUSAGE(#1,.AXIS2.,.POSITIVE.,1.)");
 }
 
-TEST(OldestMaterials, KeepWhatTheirReleaseHas) {
+TEST(OldestMaterials, KeepTheAttributesOfTheirRelease) {
   EXPECT_EQ(Rewritten<Release151>("IFCMATERIAL('brick',#7)"), "IFCMATERIAL('brick',#7)");
   EXPECT_EQ(Rewritten<Release20>("IFCMATERIAL('brick',$,(#1),(#2))"),
             "IFCMATERIAL('brick',$,(),())");
@@ -56,8 +56,8 @@ TEST(OldestMaterials, KeepWhatTheirReleaseHas) {
   }
 }
 
-// A material that is read behind its registry takes what its own record says.
-TEST(MaterialRegistry, TellsItsMaterials) {
+// A material that is read after its registry keeps the value of its own record.
+TEST(MaterialRegistry, ReturnsItsMaterials) {
   Model<Release151> model({{2, "IFCMATERIAL('a',$)"}, {1, "IFCPROJECTMATERIALREGISTRY((#2,#3))"}});
   EXPECT_EQ(model.Get<KelIFC151::IfcMaterial>(2)->GetRegisteredBy(),
             model.server.GetItem(std::size_t{1}));

@@ -30,7 +30,7 @@ TYPED_TEST(OldestElements, DoorsAndWindowsKeepTheirMaterialAlone) {
   }
 }
 
-TEST(OldestWall, IsSolidIn151WhateverItWas) {
+TEST(OldestWall, IsAlwaysWrittenAsSolidIn151) {
   EXPECT_EQ(Rewritten<Release151>("IFCWALL(" + kProduct151 + ",*,.LAYEREDWALL.,#9,1.,2.)"),
             "IFCWALL(" + kProduct151 + ",*,.SOLIDWALL.,#9,$,$)");
 }
@@ -67,7 +67,7 @@ TEST(OldestBeam, KeepsItsMeasures) {
   EXPECT_EQ(Rewritten<Release20>(text), text);
 }
 
-TEST(OldestColumn, GivesItsMeasuresButDoesNotWriteThem) {
+TEST(OldestColumn, ReturnsItsMeasuresButDoesNotWriteThem) {
   Model<Release20> model({{1, "IFCCOLUMN(" + kProduct20 + ",#9,1.5,2.5)"}});
   const auto* column = model.Get<KelIFC20::IfcColumn>(1);
   EXPECT_EQ(static_cast<double>(column->calcColumnSectionArea()), 1.5);
@@ -155,7 +155,7 @@ TEST(OldestRelationship, KeepsItsHistoryAndPropertiesIn151) {
   EXPECT_EQ(Rewritten<Release151>(text), text);
 }
 
-TEST(RelControls, KeepsWhatItNames) {
+TEST(RelControls, KeepsItsReferences) {
   const std::string text = "IFCRELCONTROLS(" + kId + ",$,$,.T.,.F.,#7,(#8))";
   EXPECT_EQ(Rewritten<Release20>(text), text);
 }

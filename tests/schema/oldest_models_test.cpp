@@ -4,14 +4,14 @@
 #include "tests/schema/model.h"
 #include "tests/server/temp_file.h"
 
-// The shipped models of the two oldest releases, from their file to their shapes and back.
+// Loads the shipped models of the two oldest releases, reads their shapes and writes them again.
 
 namespace KelIFC {
 namespace {
 
 std::string Example(const std::string& name) { return std::string(kExamplesDir) + "/" + name; }
 
-/// What each instance writes, by number.
+/// Returns the text that each instance writes, by number.
 std::map<std::size_t, std::string> RecordsOf(IfcServer& server) {
   std::map<std::size_t, std::string> records;
   for (std::size_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) {
@@ -20,7 +20,7 @@ std::map<std::size_t, std::string> RecordsOf(IfcServer& server) {
   return records;
 }
 
-/// The only object of a kind of container.
+/// Returns the only object of a kind of container.
 template <class Part, class Whole>
 const Part* OnlyPart(const Whole* whole) {
   if (whole == nullptr || whole->GetContains().GetSize() != 1) return nullptr;
@@ -52,7 +52,7 @@ class OldestModels : public testing::Test {
  public:
   OldestModels() { status = server.LoadIfcFile(Example(Shipped<R>::kFile).c_str()); }
 
-  /// What the ground floor contains.
+  /// Returns the objects that the ground floor contains.
   auto Parts() {
     const auto* site = OnlyPart<typename R::IfcSite>(Shipped<R>::Project(server));
     const auto* building = OnlyPart<typename R::IfcBuilding>(site);
@@ -126,8 +126,8 @@ TYPED_TEST(OldestModels, ComeBackTheSameFromTheirSecondSave) {
   ASSERT_EQ(last.LoadIfcFile(second.GetPath()), 0);
   const auto before = RecordsOf(again);
   auto after = RecordsOf(last);
-  // Each plane placement that is read adds a direction, which is unset when it has been read
-  // itself.
+  // Each placement in the plane that is read adds a direction. The direction is unset after it has
+  // been read.
   std::size_t added = 0;
   for (const auto& [number, record] : after) {
     const auto known = before.find(number);
@@ -158,7 +158,7 @@ TEST(OldestModel, OfAPavilionHasARoundOutline) {
   EXPECT_EQ(round, 1u);
 }
 
-TEST(OldestModel, OfAShedTellsItsSolidsAndBoxes) {
+TEST(OldestModel, OfAShedReturnsItsSolidsAndBoxes) {
   IfcServer server;
   ASSERT_EQ(server.LoadIfcFile(Example("shed.ifc").c_str()), 0);
   std::size_t solids = 0;

@@ -263,7 +263,7 @@ TYPED_TEST(OldestShapes, VectorTurnsAPointIntoANewOne) {
   EXPECT_EQ(move(nullptr), nullptr);
 }
 
-TEST(BoundedCurveDim, IsThatOfTheCurve) {
+TEST(BoundedCurveDim, ReturnsTheDimensionOfTheCurve) {
   Model<Release151> model({{1, "IFCCARTESIANPOINT((1.,2.))"}, {2, "IFCPOLYLINE((#1))"}});
   EXPECT_EQ(
       static_cast<int>(KelIFC151::IfcBoundedCurveDim(*model.Get<KelIFC151::IfcBoundedCurve>(2))),

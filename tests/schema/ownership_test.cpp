@@ -1,11 +1,11 @@
 #include "tests/schema/model.h"
 
-// Who owns an instance after a host has handed it to an operation that embeds instances.
+// Tests who owns an instance after a host has passed it to an operation that embeds instances.
 
 namespace KelIFC {
 namespace {
 
-/// An instance of a class that counts how many of its kind were destroyed.
+/// An instance of a class that counts its destroyed instances.
 template <class Base>
 class Counted : public Base {
  public:
@@ -19,7 +19,7 @@ using Point = Counted<IfcCartesianPoint>;
 using Measure = Counted<IfcLengthMeasure>;
 using Number = Counted<KelIFC2x3::IfcReal>;
 
-/// A model of one release and ways to hand its instances on.
+/// A model of one release, and functions that pass its instances to operations.
 template <class R>
 class Ownership : public testing::Test {
  protected:
@@ -42,7 +42,7 @@ class Ownership : public testing::Test {
     return instance;
   }
 
-  /// The model holds the instance, and destroys it only once.
+  /// Checks that the model holds the instance and destroys it only once.
   template <class Type>
   void ExpectHeldOnce(const Type* instance) {
     ASSERT_EQ(Type::destroyed, 0);

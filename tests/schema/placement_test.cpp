@@ -228,14 +228,14 @@ TYPED_TEST(NewerPlacement, LocalPlacementHasTwoReferences) {
   EXPECT_EQ(model.TextOf(3), "IFCLOCALPLACEMENT(#1,#2)");
 }
 
-TEST(LocalPlacement, StandsBehindTheAttributesOfTheRootInTheOldestReleases) {
+TEST(LocalPlacement, FollowsTheAttributesOfTheRootInTheOldestReleases) {
   EXPECT_EQ(Rewritten<Release151>("IFCLOCALPLACEMENT('01234567890123456789',#2,#3)"),
             "IFCLOCALPLACEMENT('01234567890123456789',#2,#3)");
   EXPECT_EQ(Rewritten<Release20>("IFCLOCALPLACEMENT('01234567890123456789',#5,'label',#2,#3)"),
             "IFCLOCALPLACEMENT('01234567890123456789',#5,'label',#2,#3)");
 }
 
-TEST(LocalPlacement, WritesAnIdentifierWhereTheTextIsEmptyInTheOldestReleases) {
+TEST(LocalPlacement, WritesAnIdentifierForAnEmptyTextInTheOldestReleases) {
   const std::string text = Rewritten<Release151>("IFCLOCALPLACEMENT($,#2,#3)");
   EXPECT_EQ(text.size(), std::string("IFCLOCALPLACEMENT('01234567890123456789',#2,#3)").size());
 }

@@ -101,7 +101,7 @@ TYPED_TEST(Relationships, FillingThatLeadsNowhereLeavesTheSwitch) {
   EXPECT_FALSE(model.server.GetSupportsFillings());
 }
 
-TEST(RelFillsElement, WritesTheRootAloneIn2x) {
+TEST(RelFillsElement, WritesOnlyTheAttributesOfTheRootIn2x) {
   const std::string text = "IFCRELFILLSELEMENT(" + kRoot + ",#2,#4)";
   EXPECT_EQ(Rewritten<Release2x>(text), "IFCRELFILLSELEMENT(" + kRoot + ")");
   EXPECT_EQ(Rewritten<Release2x2>(text), text);
@@ -159,7 +159,7 @@ TYPED_TEST(Relationships, TakeTypedSetsFromAHost) {
   EXPECT_EQ(relation->GetRelatedObjects()[1], column);
 }
 
-TYPED_TEST(Relationships, OfTouchingElementsGiveTheGeometryOfTheConnection) {
+TYPED_TEST(Relationships, OfTouchingElementsReturnTheGeometryOfTheConnection) {
   using Touching = typename TypeParam::IfcRelConnectsElements;
   Model<TypeParam> model({{1, "IFCRELCONNECTSELEMENTS(" + kRoot + ",#2,$,$)"},
                           {2, "IFCDIRECTION((1.,0.))"},
@@ -177,7 +177,7 @@ TYPED_TEST(Relationships, OfTouchingElementsGiveTheGeometryOfTheConnection) {
   EXPECT_EQ(SlotOf(&Touching::SetConnectionGeometry), -1);
 }
 
-TEST(OlderRelationships, OfTouchingElementsGiveTheGeometryOfTheConnection) {
+TEST(OlderRelationships, OfTouchingElementsReturnTheGeometryOfTheConnection) {
   const std::string record = "IFCRELCONNECTSELEMENTS('01234567890123456789',";
   Model<Release151> oldest({{1, record + "#9,$,.T.,.F.,#2,$,$)"}, {2, "IFCDIRECTION((1.,0.))"}});
   EXPECT_EQ(oldest.Get<KelIFC151::IfcRelConnectsElements>(1)->GetConnectionGeometry(),

@@ -91,7 +91,7 @@ TYPED_TEST(NewerUnits, MeasureWithUnitReadsTheUnitFromAValueItDoesNotKnow) {
   EXPECT_EQ(measure->GetUnitComponent(), nullptr);
 }
 
-TEST(PrefixCoefficient, IsThatOfTheTable) {
+TEST(PrefixCoefficient, ReturnsTheFactorOfTheTable) {
   const double expected[] = {1.0,  1e18, 1e15, 1e12, 1e9,  1e6,   1e3,   1e2,  10,
                              1e-1, 1e-2, 1e-3, 1e-6, 1e-9, 1e-12, 1e-15, 1e-18};
   for (std::int32_t prefix = 0; prefix < 17; ++prefix) {

@@ -125,7 +125,7 @@ bool IsBefore(const std::string& a, const std::string& b) {
   });
 }
 
-/// Writes the names of the members that a class keeps. Returns an empty text if there are none.
+/// Returns the pointers to the members that a class keeps, or an empty text if there are none.
 std::string MembersText(const EntityRow& row) {
   TextWriter pointers;
   for (const auto& attribute : row.attributes) {

@@ -63,7 +63,7 @@ TEST(AttachBodies, FindsEachOverloadByItsParameters) {
   EXPECT_EQ(resolved.model.functions.front().bodyPlace.line, 7);
 }
 
-/// The message with which the code is refused for the newest release.
+/// Returns the error for the code in the newest release.
 std::string RefusedCode(const std::string& body, const std::string& code) {
   try {
     const Resolved resolved(body, code);
@@ -73,7 +73,7 @@ std::string RefusedCode(const std::string& body, const std::string& code) {
   return "";
 }
 
-TEST(AttachBodies, WantsEachBodyInASectionOfTheRelease) {
+TEST(AttachBodies, RequiresEachBodyInASectionOfTheRelease) {
   const std::string body =
       "entity IfcA : IfcUnknown all\n  doc A.\n  ops GetN: integer\n  tell GetN N.\n";
   const std::string code = "\nINTEGER IfcA::GetN() const { return 1; }\n";
@@ -85,7 +85,7 @@ TEST(AttachBodies, WantsEachBodyInASectionOfTheRelease) {
   EXPECT_EQ(RefusedCode(body, ""), message);
 }
 
-TEST(AttachBodies, WantsTheBodiesOfConstructorsRecordsAndFunctions) {
+TEST(AttachBodies, RequiresTheBodiesOfConstructorsRecordsAndFunctions) {
   EXPECT_EQ(RefusedCode("entity IfcA : IfcUnknown all\n  doc A.\n  make (REAL x)\n", ""),
             "f.schema:4:3: error: no section of IfcA defines 'IfcA::IfcA(REAL x)' for release 2x3");
   EXPECT_EQ(RefusedCode("entity IfcA : IfcUnknown all\n  doc A.\n  custom Write\n", ""),

@@ -14,7 +14,7 @@ std::string PageOf(const std::string& body) {
   return files.at("docs/reference/f.md");
 }
 
-TEST(EmitReference, TellsWhereAClassIsAndWhatItKeeps) {
+TEST(EmitReference, DescribesTheReleasesAndTheAttributesOfAClass) {
   const std::string page = PageOf(
       "entity IfcA : IfcUnknown 2x.. file new 2x3\n  doc What it is.\n"
       "  [2x2..] Size measure absent 0.1   -- why\n  drop enum .X.   -- never kept\n"

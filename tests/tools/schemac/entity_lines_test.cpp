@@ -64,7 +64,7 @@ TEST(ReadEntityLine, ReadsPositionsThatAreNotStored) {
   EXPECT_EQ(steps[8].name, "Name");
 }
 
-TEST(ReadEntityLine, ReadsWhatTheSchemaSaysOfAnAttribute) {
+TEST(ReadEntityLine, ReadsTheNameAndTheRuleOfTheSchema) {
   const auto description = Describe(
       "entity IfcA : IfcUnknown all\n  Text label published Description required 2x..\n"
       "  Kind enum IfcKind ignored\n");

@@ -37,7 +37,7 @@ struct Fault {
 
 class RefusedDescription : public testing::TestWithParam<Fault> {};
 
-TEST_P(RefusedDescription, IsToldWithItsPlace) {
+TEST_P(RefusedDescription, IsReportedWithItsPlace) {
   EXPECT_EQ(Refusal(GetParam().body), std::string("f.schema:") + GetParam().message);
 }
 
