@@ -38,7 +38,7 @@ std::string Record(const IfcUnknown& instance, const std::string& value) {
   return text + ")";
 }
 
-TYPED_TEST(AllClasses, NameThemselvesOnce) {
+TYPED_TEST(AllClasses, ReturnTheSameNameFromClassAndInstance) {
   this->ForEach([](auto& instance) {
     EXPECT_STREQ(instance.GetStepName(), std::decay_t<decltype(instance)>::GetItemName());
   });

@@ -311,7 +311,7 @@ using Releases = testing::Types<Release151, Release20, Release2x, Release2x2, Re
 TYPED_TEST_SUITE(AttributeTableOf, Releases);
 
 // The sample records are those that the classes read and write in another test.
-TYPED_TEST(AttributeTableOf, FitsTheRecordsThatTheClassesRead) {
+TYPED_TEST(AttributeTableOf, MatchesTheRecordsThatTheClassesRead) {
   for (const SampleRecord& record : Samples<TypeParam>()) {
     const EntityDescription& entity = Entity(TypeParam::kRelease, record.name);
     const std::vector<std::string> positions = Positions(record.read);

@@ -17,7 +17,7 @@ TEST(DimensionsForSiUnit, KnowsEveryName) {
                      exponents.AmountOfSubstanceExponent != 0 ||
                      exponents.LuminousIntensityExponent != 0;
   }
-  EXPECT_EQ(withDimension, 28) << "all but the two angles";
+  EXPECT_EQ(withDimension, 28) << "all units except the two angles";
 }
 
 TEST(DimensionsForSiUnit, ReturnsTheExponentsOfTheNewton) {

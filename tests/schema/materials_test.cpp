@@ -8,7 +8,7 @@ class Materials : public testing::Test {};
 using NewerReleases = testing::Types<Release2x, Release2x2, Release2x3>;
 TYPED_TEST_SUITE(Materials, NewerReleases);
 
-TYPED_TEST(Materials, LayerSetTellsItsLayersAheadOfThem) {
+TYPED_TEST(Materials, LayerSetSetsTheInverseOfLayersThatFollowIt) {
   Model<TypeParam> model({{1, "IFCMATERIALLAYERSET((#2,#3,#4,#5),'wall')"},
                           {2, "IFCMATERIALLAYER(#6,0.1,.T.)"},
                           {3, "IFCMATERIALLAYER(#6,0.25,$)"},
@@ -21,7 +21,7 @@ TYPED_TEST(Materials, LayerSetTellsItsLayersAheadOfThem) {
   EXPECT_EQ(model.template Get<Layer>(3)->GetToMaterialLayerSet(), layers);
   EXPECT_DOUBLE_EQ(layers->GetTotalThickness(), 0.35);
   EXPECT_EQ(layers->GetMaterialLayers().GetSize(), 4u);
-  EXPECT_EQ(layers->GetMaterialLayers()[3], nullptr) << "a material is no layer";
+  EXPECT_EQ(layers->GetMaterialLayers()[3], nullptr) << "a material is not a layer";
   EXPECT_EQ(model.TextOf(1), "IFCMATERIALLAYERSET((#2, #3, #4, #5),'wall')");
   EXPECT_EQ(model.TextOf(2), "IFCMATERIALLAYER(#6,0.1,.T.)");
 }

@@ -23,7 +23,7 @@ class OldestElements : public testing::Test {
 using OldestReleases = testing::Types<Release151, Release20>;
 TYPED_TEST_SUITE(OldestElements, OldestReleases);
 
-TYPED_TEST(OldestElements, DoorsAndWindowsKeepTheirMaterialAlone) {
+TYPED_TEST(OldestElements, DoorsAndWindowsKeepOnlyTheirMaterial) {
   for (const std::string name : {"IFCDOOR(", "IFCWINDOW("}) {
     EXPECT_EQ(Rewritten<TypeParam>(name + this->Product() + ",#9,2.,1.)"),
               name + this->Product() + ",#9)");
@@ -43,7 +43,7 @@ TEST(OldestWall, KeepsLayersAndMeasuresIn20) {
   EXPECT_EQ(static_cast<double>(wall->GetCalcWallArea()), 2.73);
   EXPECT_EQ(static_cast<double>(wall->GetCalcWallVolume()), 0.41);
   EXPECT_EQ(wall->GetLayerInformation(), model.server.GetItem(std::size_t{9}));
-  EXPECT_EQ(wall->GetHasMaterial(), nullptr) << "the layers tell the material";
+  EXPECT_EQ(wall->GetHasMaterial(), nullptr) << "the layers define the material";
 }
 
 TEST(OldestSlabs, KeepTheirLayers) {
@@ -86,14 +86,14 @@ TEST(OldestOpening, KeepsItsArea) {
   EXPECT_EQ(Rewritten<Release20>(text), text);
 }
 
-TYPED_TEST(OldestElements, TellTheirMaterial) {
+TYPED_TEST(OldestElements, ReturnTheirMaterial) {
   Model<TypeParam> model(
       {{1, "IFCDOOR(" + this->Product() + ",#9)"}, {9, "IFCMATERIAL('oak',$,(),())"}});
   EXPECT_EQ(model.template Get<typename TypeParam::IfcDoor>(1)->GetHasMaterial(),
             model.server.GetItem(std::size_t{9}));
 }
 
-TYPED_TEST(OldestElements, AreContainedByOneRelationshipAheadOfThem) {
+TYPED_TEST(OldestElements, AreContainedByARelationshipBeforeThem) {
   const std::string text = "IFCRELCONTAINS(" + this->Relationship() + ",#2,(#3,#4,#99),";
   const std::string tail = this->kIs151 ? ".SITECONTAINER.,.T.)" : ".SITECONTAINER.,.REFERENCED.)";
   Model<TypeParam> model({{1, text + tail},
@@ -120,7 +120,7 @@ TYPED_TEST(OldestElements, LoseAKindOfContainmentThatTheTableDoesNotHave) {
             head + "$," + end);
 }
 
-TYPED_TEST(OldestElements, TouchAndWriteTheRelationshipAlone) {
+TYPED_TEST(OldestElements, ThatTouchWriteOnlyTheRelationship) {
   const std::string root = this->Relationship();
   Model<TypeParam> model({{1, "IFCWALL(" + this->Product() + ")"},
                           {2, "IFCWALL(" + this->Product() + ")"},

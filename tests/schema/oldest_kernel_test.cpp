@@ -87,7 +87,7 @@ TYPED_TEST(OldestKernel, PlacementsAreRelativeToProductsAndToTheProject) {
   EXPECT_EQ(UnknownOf(model.template Get<Placement>(3)->GetPlacementRelTo()),
             model.server.GetItem(std::size_t{4}));
   EXPECT_EQ(model.template Get<Placement>(5)->GetPlacementRelTo(), nullptr)
-      << "a placement is nothing that another is relative to";
+      << "a placement cannot be relative to a placement";
 }
 
 TEST(OldestSpatialStructure, IsWrittenWithFixedTypesIn151) {
@@ -171,7 +171,8 @@ TEST(OldestShapes, OfAProductAreAddedToItsProductShapeIn151) {
   model.Get<KelIFC151::IfcColumn>(1)->AddShapeRepresentation(shape);
   EXPECT_EQ(model.TextOf(2), "IFCPRODUCTSHAPE('id',(#3, #3),'solid')");
   model.Get<KelIFC151::IfcColumn>(4)->AddShapeRepresentation(shape);
-  EXPECT_EQ(model.TextOf(3), "IFCSHAPEREPRESENTATION((),#9,.BREP.,$)") << "no shape of a product";
+  EXPECT_EQ(model.TextOf(3), "IFCSHAPEREPRESENTATION((),#9,.BREP.,$)")
+      << "#3 is not a product shape, so nothing is added";
 }
 
 TEST(OldestProperties, AreReturnedAsAView) {
@@ -181,7 +182,7 @@ TEST(OldestProperties, AreReturnedAsAView) {
   const auto view = model.Get<KelIFC151::IfcColumn>(1)->GetExtendedProperties();
   ASSERT_EQ(view.GetSize(), 2u);
   EXPECT_EQ(view[1], model.server.GetItem(std::size_t{2}));
-  EXPECT_EQ(view[2], nullptr) << "a column is no set of properties";
+  EXPECT_EQ(view[2], nullptr) << "a column is not a property set";
   EXPECT_EQ(model.TextOf(2), "IFCPROPERTYSET('set',(#3))");
   EXPECT_EQ(model.TextOf(3), "IFCSIMPLEPROPERTY('height',IFCLENGTHMEASURE(2.5))");
   ASSERT_NE(model.Get<KelIFC151::IfcSimpleProperty>(3)->GetValueComponent(), nullptr);

@@ -68,7 +68,7 @@ class OldestModels : public testing::Test {
 using OldestReleases = testing::Types<Release151, Release20>;
 TYPED_TEST_SUITE(OldestModels, OldestReleases);
 
-TYPED_TEST(OldestModels, AreWalkedFromTheProjectToTheElements) {
+TYPED_TEST(OldestModels, LeadFromTheProjectToTheElements) {
   ASSERT_EQ(this->status, 0);
   EXPECT_EQ(this->server.GetRelease(), TypeParam::kRelease);
   const auto parts = this->Parts();
@@ -84,10 +84,10 @@ TYPED_TEST(OldestModels, AreWalkedFromTheProjectToTheElements) {
     EXPECT_NE(placement->GetPlacementRelTo(), nullptr);
     EXPECT_NE(placement->GetRelativePlacement(), nullptr);
   }
-  EXPECT_GE(placed, parts.GetSize() - 1) << "a proxy is no product";
+  EXPECT_GE(placed, parts.GetSize() - 1) << "a proxy is not a product";
 }
 
-TYPED_TEST(OldestModels, TellTheirUnits) {
+TYPED_TEST(OldestModels, ReturnTheirUnits) {
   const auto* units = Shipped<TypeParam>::Project(this->server)->GetUnitsInContext();
   ASSERT_NE(units, nullptr);
   const auto all = units->GetUnits();
@@ -114,7 +114,7 @@ TYPED_TEST(OldestModels, HaveOpeningsWithFillings) {
   EXPECT_EQ(openings, 1u);
 }
 
-TYPED_TEST(OldestModels, ComeBackTheSameFromTheirSecondSave) {
+TYPED_TEST(OldestModels, AreTheSameAfterTheirSecondSave) {
   const TempFile first;
   ASSERT_EQ(this->server.SaveIfcFile(first.GetPath()), 0);
   IfcServer again;

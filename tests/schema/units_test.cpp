@@ -31,14 +31,14 @@ TYPED_TEST(Units, SiUnitWithoutPrefixHasTheFactorOne) {
   EXPECT_EQ(model.TextOf(1), "IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.)");
 }
 
-TYPED_TEST(Units, PrefixInLowerCaseIsNone) {
+TYPED_TEST(Units, PrefixInLowerCaseIsUnset) {
   EXPECT_EQ(Rewritten<TypeParam>("IFCSIUNIT(*,.LENGTHUNIT.,.milli.,.METRE.)"),
             "IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.)");
 }
 
-TYPED_TEST(Units, DollarForTheDimensionsStaysForTheTypeThatFollows) {
+TYPED_TEST(Units, DollarForTheDimensionsIsReadAsTheTypeThatFollows) {
   EXPECT_EQ(Rewritten<TypeParam>("IFCSIUNIT($,.LENGTHUNIT.,$,.METRE.)"), "IFCSIUNIT(*,$,$,$)")
-      << "only a mark is passed by, so every later position is one off";
+      << "only `*` is skipped, so each later position is off by one";
 }
 
 TYPED_TEST(Units, AreAlsoInstances) {
@@ -84,7 +84,7 @@ TYPED_TEST(NewerUnits, MeasureWithUnitMergesTheNamesOfLengths) {
             "IFCMEASUREWITHUNIT(IFCLENGTHMEASURE(0.5),#2)");
 }
 
-TYPED_TEST(NewerUnits, MeasureWithUnitReadsTheUnitFromAValueItDoesNotKnow) {
+TYPED_TEST(NewerUnits, MeasureWithUnitReadsTheUnitFromAnUnknownValue) {
   Model<TypeParam> model({{1, "IFCMEASUREWITHUNIT(IFCDIRECTION((1.,0.)),#2)"}});
   const auto* measure = model.template Get<typename TypeParam::IfcMeasureWithUnit>(1);
   EXPECT_EQ(measure->GetValueComponent(), nullptr);

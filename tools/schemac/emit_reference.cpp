@@ -102,7 +102,7 @@ class PageWriter {
     out.Line();
     const std::string bases = type.base.empty() ? " A `" : " A `" + type.base + "` and a `";
     out.Line(type.doc + bases + std::string(InfoOf(type.kind).type) + "`. Releases: " +
-             Releases(type.releases) + "; a file can name it in: " + Releases(type.file) + ".");
+             Releases(type.releases) + "; a file can contain it in: " + Releases(type.file) + ".");
   }
 
   void AddEntity(const Entity& entity) {
@@ -137,8 +137,8 @@ class PageWriter {
 
   void AddFacts(const Entity& entity, const std::vector<Appearance>& bases,
                 const std::vector<Appearance>& writes) {
-    out.Line("- Releases: " + Releases(entity.releases) + "; a file can name it in: " +
-             Releases(entity.file) + "; a host can make it in: " + Releases(entity.made) + ".");
+    out.Line("- Releases: " + Releases(entity.releases) + "; a file can contain it in: " +
+             Releases(entity.file) + "; a host can create it in: " + Releases(entity.made) + ".");
     for (const auto& base : bases) {
       if (!base.text.empty()) out.Line("- Bases" + In(entity, base) + ": `" + base.text + "`.");
     }

@@ -196,7 +196,7 @@ TEST(Accessors, ExistForEveryAttributeExceptTheListedOnes) {
     std::set<std::string> outdated;
     std::set_difference(exceptions.begin(), exceptions.end(), missing.begin(), missing.end(),
                         std::inserter(outdated, outdated.end()));
-    EXPECT_EQ(outdated, std::set<std::string>()) << "an exception that is described";
+    EXPECT_EQ(outdated, std::set<std::string>()) << "a listed exception that has an accessor";
   }
 }
 

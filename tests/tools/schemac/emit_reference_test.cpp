@@ -21,8 +21,8 @@ TEST(EmitReference, DescribesTheReleasesAndTheAttributesOfAClass) {
       "  ops GetSize\n");
   EXPECT_TRUE(Holds(page, "## IfcA\n\nWhat it is.\n"));
   EXPECT_TRUE(Holds(page,
-                    "- Releases: 2x, 2x2, 2x3; a file can name it in: 2x, 2x2, 2x3; "
-                    "a host can make it in: 2x3."));
+                    "- Releases: 2x, 2x2, 2x3; a file can contain it in: 2x, 2x2, 2x3; "
+                    "a host can create it in: 2x3."));
   EXPECT_TRUE(Holds(page, "- Writes (2x): `IfcA(.X.)`."));
   EXPECT_TRUE(Holds(page, "- Writes (2x2, 2x3): `IfcA(Size, .X.)`."));
   EXPECT_TRUE(
