@@ -8,7 +8,7 @@ namespace KelIFC {
 
 namespace {
 
-// The names of a schema are ASCII; the locale has no say.
+// The names of a schema are ASCII, so the comparison does not depend on the locale.
 char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
 
 bool IsBefore(std::string_view a, std::string_view b) {
@@ -22,7 +22,8 @@ bool IsSame(std::string_view a, std::string_view b) {
          });
 }
 
-/// The attribute of a name that a class adds itself; null if there is none.
+/// Returns the attribute with a name among those that the class itself adds, or null if there is
+/// none.
 const AttributeDescription* FindOwn(const EntityDescription& entity, std::string_view name) {
   const AttributeDescription* derived = nullptr;
   for (std::size_t i = 0; i < entity.attributeCount; ++i) {

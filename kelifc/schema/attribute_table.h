@@ -58,16 +58,17 @@ struct AttributeDescription {
   /// The position of an attribute that is not in a statement.
   static constexpr std::int16_t kNoPosition = -1;
 
-  std::string_view name = {};    ///< in the schema; empty where the description does not know it
+  std::string_view name = {};    ///< in the schema; empty if the description does not know it
   std::string_view getter = {};  ///< the operation of the class that returns it; empty for none
-  std::string_view setter = {};  ///< the one that sets it or adds to it; empty for none
+  std::string_view setter = {};  ///< the operation that sets it or adds to it; empty for none
   std::string_view type =
       {};  ///< the class that references lead to, or the enumeration; may be empty
   std::int16_t position = kNoPosition;           ///< in the statement, counted from 0
   AttributeKind kind = AttributeKind::kUnknown;  ///< how a file writes the value
   AttributeUse use = AttributeUse::kKept;        ///< whether and how an instance gets the value
-  bool isRequired = false;         ///< the schema does not allow `$`; false where that is not known
-  bool isWritten = false;          ///< a save writes the kept value; false: a fixed text or nothing
+  bool isRequired = false;  ///< the schema does not allow `$`; false if that is not known
+  bool isWritten =
+      false;  ///< a save writes the kept value; false: it writes a fixed text or nothing
   AttributeReader read = nullptr;  ///< null for a value that the instance does not keep
 };
 
@@ -84,7 +85,7 @@ struct KELIFC_API EntityDescription {
   std::string_view name =
       {};  ///< as the C++ class spells it, which may differ from the schema in case
   EntityForm form = EntityForm::kEntity;              ///< whether the class has instances
-  bool isInFile = false;                              ///< a load makes instances of it by its name
+  bool isInFile = false;                              ///< a load makes instances of it
   AttributeKind valueKind = AttributeKind::kUnknown;  ///< of a value type
   AttributeReader readValue = nullptr;                ///< of a value type that can have instances
   const EntityDescription* bases[2] = {nullptr, nullptr};  ///< its supertypes and selects, or null
@@ -97,25 +98,27 @@ struct KELIFC_API EntityDescription {
   std::size_t positionCount =
       0;  ///< how many attributes a statement has, those of `record` included
 
-  /// The attribute at a position of a statement, counted from 0; null for a position that the
-  /// description does not know.
+  /// Returns the attribute at a position of a statement, counted from 0. Returns null for a
+  /// position that the description does not know.
   const AttributeDescription* AttributeAt(std::size_t position) const;
 
-  /// The attribute of a name, its own or an inherited one, compared without regard to case; null
-  /// if there is none. Of two with one name the one that the statement keeps comes first.
+  /// Returns the attribute with a name, which can be an inherited one, or null if there is none.
+  /// Names are compared without regard to case. Of two with one name the one that the statement
+  /// keeps comes first.
   const AttributeDescription* FindAttribute(std::string_view attributeName) const;
 
-  /// True if this is `other` or derives from it. Classes of two releases are never related.
+  /// Returns true if this is `other` or derives from it. Classes of two releases are never related.
   bool IsKindOf(const EntityDescription& other) const;
 };
 
-/// The class of a release with a name, compared without regard to case. Null for a name that the
-/// release does not have and for IFC_RELEASE_NONE.
+/// Returns the class of a release with a name, which is compared without regard to case. Returns
+/// null for a name that the release does not have and for IFC_RELEASE_NONE.
 KELIFC_API const EntityDescription* FindEntity(IFC_RELEASE release, std::string_view name);
 
-/// The class of an instance, found in constant time. Null for raw text (IfcOther) and for a class
-/// that the library does not define, such as one that a host derives. A class that all releases
-/// share is described for the release of the model of the instance, or for 2x3 if there is none.
+/// Returns the class of an instance in constant time. Returns null for raw text (IfcOther), and for
+/// a class that the library does not define, such as a class that a host derives. For a class that
+/// all releases share, returns the description for the release of the model of the instance, or for
+/// 2x3 if there is no model.
 KELIFC_API const EntityDescription* DescribeInstance(const IfcUnknown& instance);
 
 /// A range of classes, for range-based for loops: `for (const EntityDescription* entity : range)`.
@@ -131,7 +134,7 @@ struct EntityRange {
   std::size_t size() const { return count; }
 };
 
-/// All classes of a release in alphabetical order; empty for IFC_RELEASE_NONE.
+/// Returns all classes of a release in alphabetical order, or an empty range for IFC_RELEASE_NONE.
 KELIFC_API EntityRange AllEntities(IFC_RELEASE release);
 
 }  // namespace KelIFC

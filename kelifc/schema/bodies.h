@@ -1,9 +1,9 @@
 #ifndef KELIFC_SCHEMA_BODIES_H_
 #define KELIFC_SCHEMA_BODIES_H_
 
-// What the sources of entity classes include ahead of their namespace. The operations that are
-// written by hand stand in files of their own, <family>/<entity>.inl: each is compiled once in the
-// namespace of every release that has the entity, so that its text names classes plainly.
+// The headers that the sources of entity classes include before their namespace. The code that is
+// written by hand is in <family>.inl. It is compiled in the namespace of each release that has the
+// entity, so it uses the names of the classes without a qualifier.
 
 #include <array>
 #include <cmath>
@@ -23,7 +23,7 @@
 
 namespace KelIFC {
 
-/// The cross product of two directions of space, right-handed.
+/// Returns the right-handed cross product of two directions in space.
 inline std::array<double, 3> CrossOf(const std::array<double, 3>& a,
                                      const std::array<double, 3>& b) {
   return {a[1] * b[2] - a[2] * b[1], a[2] * b[0] - a[0] * b[2], a[0] * b[1] - a[1] * b[0]};

@@ -1,8 +1,9 @@
 #ifndef KELIFC_SCHEMA_BODY_EDITING_H_
 #define KELIFC_SCHEMA_BODY_EDITING_H_
 
-// What an editor includes before a file of bodies, so that it can resolve the names in it. Nothing
-// else includes this header: schemac copies the bodies into the namespace of each release.
+// The headers that an editor includes before an .inl file, so that it can resolve the names in the
+// file. No source includes this header: schemac copies the bodies into the namespace of each
+// release.
 
 #include "kelifc/schema/bodies.h"
 #include "kelifc/schema/ifc2x3.h"

@@ -1,7 +1,7 @@
 #ifndef KELIFC_SCHEMA_COMMON_H_
 #define KELIFC_SCHEMA_COMMON_H_
 
-// What the header of every family of entities needs besides the value classes.
+// The declarations that the header of each family needs in addition to the value classes.
 
 #include <cstddef>
 #include <cstdint>

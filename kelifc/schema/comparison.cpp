@@ -9,8 +9,8 @@
 namespace KelIFC {
 namespace {
 
-// An instance of raw text writes all that it keeps. If it cannot be written, for lack of memory,
-// the two count as different.
+// An instance of raw text writes all its data. If memory runs out while it is written, the two
+// instances count as different.
 bool CompareRaw(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison& /*same*/) {
   TextStream first;
   TextStream second;
@@ -19,7 +19,7 @@ bool CompareRaw(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison&
   return first && second && first.GetText() == second.GetText();
 }
 
-// A statement of a model can have the name of this class, too.
+// A statement of a model can have the name of this class.
 bool CompareSchemas(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison& same) {
   return same(static_cast<const StepFileSchema&>(a).GetProtocol(),
               static_cast<const StepFileSchema&>(b).GetProtocol());

@@ -29,7 +29,8 @@ const ComparisonTable& GetComparisons2x();
 const ComparisonTable& GetComparisons2x2();
 const ComparisonTable& GetComparisons2x3();
 
-/// Compares the attributes of a class and of its bases. This one is for a class that has none.
+/// Compares the attributes of a class and of its bases. The general form is for classes without
+/// attributes.
 template <class T>
 struct Fields {
   static bool AreSame(const T& /*a*/, const T& /*b*/, const ValueComparison& /*same*/) {
@@ -74,7 +75,7 @@ struct Fields<IfcLengthMeasure> {
 template <>
 struct Fields<IfcParameterValue> : Fields<IfcLengthMeasure> {};
 
-/// Compares two instances as instances of T, which they must be.
+/// Compares two instances, which must be instances of T.
 template <class T>
 bool CompareAs(const IfcUnknown& a, const IfcUnknown& b, const ValueComparison& same) {
   return Fields<T>::AreSame(static_cast<const T&>(a), static_cast<const T&>(b), same);

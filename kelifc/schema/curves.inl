@@ -45,7 +45,7 @@ namespace {
 
 constexpr IfcTrimmingPreference kCartesian = IfcTrimmingPreference(1);
 
-/// The first element of a trim that is of a class, null if there is none.
+/// Returns the first element of a trim that is of a class, or null if there is none.
 template <class Type>
 const Type* FirstOf(const SET_OF_MEMBERS& trims, const IfcUnknown& owner) {
   const auto elements = ViewOf<SET<const Type*>>(trims, owner);
@@ -102,8 +102,8 @@ void IfcTrimmedCurve::AddTrim2(IfcParameterValue* item) { EmbedMember(trim2, ite
 
 // function IfcCurveDim
 
-// A trimmed or composite curve leads to another one; a chain that is longer than any real curve, or
-// that meets itself, tells nothing.
+// A trimmed or composite curve leads to another curve. The dimension is 3 for a cycle and for a
+// chain that is longer than those of real curves.
 INTEGER IfcCurveDim(const IfcCurve& curve) {
   constexpr int kLongestChain = 64;
   const INTEGER untold(3);

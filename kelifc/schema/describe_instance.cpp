@@ -15,7 +15,7 @@ namespace KelIFC {
 
 namespace {
 
-/// The descriptions of a class by release. Those of a class of one release are all the same.
+/// The descriptions of a class by release. All of them are the same for a class of one release.
 using Descriptions = std::array<const EntityDescription*, IFC_RELEASE_2X3 + 1>;
 using TypeIndex = std::unordered_map<std::type_index, Descriptions>;
 

@@ -18,11 +18,12 @@ struct IfcDimensionalExponents {
   std::int32_t LuminousIntensityExponent = 0;         ///< of the candela
 };
 
-/// The exponents that the name of an SI unit stands for; all 0 for a number that is no
+/// Returns the exponents for the name of an SI unit. All of them are 0 for a number that is not an
 /// IfcSiUnitName.
 KELIFC_API IfcDimensionalExponents DimensionsForSiUnit(std::int32_t name);
 
-/// The factor of an SI prefix; 1.0 for 0 and for a number that is no IfcSiPrefix.
+/// Returns the factor of an SI prefix. Returns 1.0 for 0 and for a number that is not an
+/// IfcSiPrefix.
 KELIFC_API double CoefficientOfPrefix(std::int32_t prefix);
 
 }  // namespace KelIFC

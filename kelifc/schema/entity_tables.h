@@ -14,7 +14,7 @@ struct EntityType {
   const EntityDescription* entity;
 };
 
-/// What schemac writes about the classes of one release.
+/// The generated tables of the classes of one release.
 struct EntityTables {
   EntityRange entities;  ///< in alphabetical order without regard to case
   std::span<const EntityType> types;

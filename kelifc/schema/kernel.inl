@@ -1,6 +1,6 @@
 // entity IfcRoot [2x..]
 
-// A text that is no identifier leaves the zeroed form as it is.
+// A text that is not a valid identifier does not change the zeros.
 _GUID IfcRoot::GetGlobalGUID() const {
   _GUID guid = {};
   DecodeGlobalId64(globalId.c_str(), guid);

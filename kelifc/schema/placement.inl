@@ -1,7 +1,7 @@
 // entity IfcDirection
 
 IfcDirection::IfcDirection(INTEGER dimension) {
-  // The ratios are unset; a negative dimension gives none.
+  // The ratios are unset. A negative dimension means no ratios.
   const int count = dimension;
   directionRatios.Resize(count > 0 ? static_cast<std::size_t>(count) : 0);
 }
@@ -75,7 +75,7 @@ void IfcPlacement::SetLocation(IfcCartesianPoint& item) { location.SetReference(
 
 namespace {
 
-/// Turns the first axis by a right angle.
+/// Sets the second axis to the first axis, turned by a right angle.
 void DeriveSecondAxis(IfcDirection* second, const IfcDirection* first, IfcServer* server) {
   if (second == nullptr) return;
   *second = IfcOrthogonalComplement(first);
@@ -88,7 +88,7 @@ void DeriveSecondAxis(IfcDirection* second, const IfcDirection* first, IfcServer
 
 namespace {
 
-/// The second axis stays as it was made: without values.
+/// Leaves the second axis as Parse makes it, with unset ratios.
 void DeriveSecondAxis(IfcDirection* /*second*/, const IfcDirection* /*first*/,
                       IfcServer* /*server*/) {}
 
@@ -108,9 +108,9 @@ const IfcDirection& AxisOfPlane(bool first, IfcServer* server) {
 
 }  // namespace
 
-// The second axis is an instance of the model, made once, without ratios and as long as the
-// location has coordinates. It has a number above those of the file, so no statement is read into
-// it.
+// The second axis is an instance of the model, which is made once. It has one unset ratio for each
+// coordinate of the location. Its number is above the numbers of the file, so no statement is read
+// into it.
 const char* IfcAxis2Placement2D::Parse(const char* cursor) {
   cursor = ParseRecord(IfcPlacement::Parse(cursor), refDirection);
   if (GetServer() != nullptr && static_cast<std::size_t>(secondAxis) == 0) {
@@ -140,7 +140,8 @@ LIST<const IfcDirection*> IfcAxis2Placement2D::GetP() const {
 
 namespace {
 
-/// An axis of the world; its server is that of the placement which asked last.
+/// Returns an axis of the world. All placements share it, and its server is that of the last
+/// caller.
 const IfcDirection* AxisOfWorld(std::size_t index, IfcServer* server) {
   static IfcDirection axes[] = {IfcDirection(1.0, 0.0, 0.0), IfcDirection(0.0, 1.0, 0.0),
                                 IfcDirection(0.0, 0.0, 1.0)};
@@ -161,7 +162,7 @@ LIST<const IfcDirection*> IfcAxis2Placement3D::GetP() const {
     for (std::size_t i = 0; i < 3; ++i) axes.Add(AxisOfWorld(i, server));
     return axes;
   }
-  // The orientation of their cross product, without the vector.
+  // This is the direction of IfcCrossProduct, without an allocation of the vector.
   std::array<double, 3> up = {};
   std::array<double, 3> along = {};
   if (z->GetRatios(up.data(), up.size()) != 3) up = {};

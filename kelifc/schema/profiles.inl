@@ -30,7 +30,7 @@ const IfcPolyLine* IfcRectangleProfileDef::GetCurveForSurface() const {
 
 namespace {
 
-/// The next corner: `length` along `direction`.
+/// Returns the next corner, which is `length` away along `direction`.
 IfcCartesianPoint* NextCorner(IfcServer* server, const IfcCartesianPoint& corner,
                               const IfcDirection& direction, const IfcLengthMeasure& length) {
   auto* along = new IfcDirection(direction);

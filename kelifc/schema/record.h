@@ -16,26 +16,27 @@
 #include "kelifc/core/unknown.h"
 #include "kelifc/core/value_member.h"
 
-// How the record of an entity is read and written: as a row of parts. A part is an attribute, or
-// one of the classes below for a position that is not simply an attribute.
+// The record of an entity is read and written as a sequence of parts. A part is an attribute, or
+// one of the classes below if the position is not simply an attribute.
 
 namespace KelIFC {
 
-/// Reads the parts one behind the other and gives the cursor behind the last.
+/// Reads the parts in order and returns the cursor after the last part.
 template <class... Parts>
 const char* ParseRecord(const char* cursor, Parts&&... parts) {
   ((cursor = parts.Parse(cursor)), ...);
   return cursor;
 }
 
-/// Writes a comma and a part for each part: a class whose base has written attributes.
+/// Writes a comma and the part for each part. This is for a class whose base writes attributes
+/// before it.
 template <class... Parts>
 std::ostream& WriteNext(std::ostream& out, const Parts&... parts) {
   ((detail::PutChar(out, ','), parts.Write(out)), ...);
   return out;
 }
 
-/// Writes the parts with commas between them: the first attributes of a record.
+/// Writes the parts with commas between them. This is for the first attributes of a record.
 template <class... Parts>
 std::ostream& WriteFirst(std::ostream& out) {
   return out;
@@ -46,7 +47,7 @@ std::ostream& WriteFirst(std::ostream& out, const First& first, const Parts&... 
   return WriteNext(out, parts...);
 }
 
-/// A position that is read as a `Value` and forgotten.
+/// A position that is read as a `Value` and not kept.
 template <class Value>
 struct Dropped {
   const char* Parse(const char* cursor) const { return Value().Parse(cursor); }
@@ -59,15 +60,15 @@ struct Literal {
   std::string_view text;
 };
 
-/// A position in which a subtype has redeclared an attribute as derived: a `*` is passed by, and
-/// anything else stays for the next part.
+/// The position of an attribute that a subtype redeclares as derived. A `*` is skipped. Any other
+/// text is left for the next part.
 struct Redeclared {
   explicit Redeclared(IfcUnknown& owner) : owner(owner) {}
   const char* Parse(const char* cursor) const { return owner.ParseDef(cursor); }
   IfcUnknown& owner;
 };
 
-/// An enumeration with its table. A text that the table does not know gives `missing`.
+/// An enumeration with its table. A text that is not in the table reads as `missing`.
 template <class Enum, std::size_t N>
 struct EnumeratedPart {
   const char* Parse(const char* cursor) const {
@@ -89,7 +90,7 @@ EnumeratedPart<const Enum, N> Enumerated(const Enum& value, const EnumTextRow (&
   return {value, table, missing};
 }
 
-/// An enumeration that is kept as its text; `$` if it is unset.
+/// An enumeration that is kept as its text. It is written as `$` if it is unset.
 struct EnumeratedText {
   explicit EnumeratedText(const ENUM& value) : value(value) {}
   void Write(std::ostream& out) const;
@@ -103,7 +104,7 @@ struct TextsReader {
 };
 inline TextsReader Texts(LIST<STRING>& texts) { return {texts}; }
 
-/// A typed value that stands in place; written with the name of its type, `$` if there is none.
+/// An inline value. It is written with the name of its type, or as `$` if it is unset.
 struct ValueInPlaceReader {
   const char* Parse(const char* cursor) const {
     return ParseValueMember(owner.GetServer(), cursor, member);
@@ -120,8 +121,8 @@ inline ValueInPlaceReader ValueInPlace(MEMBER& member, IfcUnknown& owner) {
 }
 inline ValueInPlaceWriter ValueInPlace(const MEMBER& member, const IfcUnknown&) { return {member}; }
 
-/// The identifier of 22 characters: one that does not decode is replaced when it is read, and an
-/// empty one by a new one, which is not kept, when it is written.
+/// The identifier of 22 characters. A load replaces an identifier that cannot be decoded. A save
+/// writes a new identifier, which is not kept, if the text is empty.
 struct GlobalId64Reader {
   const char* Parse(const char* cursor) const;
   STRING& text;
@@ -133,14 +134,15 @@ struct GlobalId64Writer {
 inline GlobalId64Reader GlobalId64(STRING& text) { return {text}; }
 inline GlobalId64Writer GlobalId64(const STRING& text) { return {text}; }
 
-/// The identifier of 20 characters: an empty one is written as a new one, which is not kept.
+/// The identifier of 20 characters. A save writes a new identifier, which is not kept, if the text
+/// is empty.
 struct GlobalId85 {
   explicit GlobalId85(const STRING& text) : text(text) {}
   void Write(std::ostream& out) const;
   const STRING& text;
 };
 
-/// A number with one digit behind the point and an upper-case exponent; never unset.
+/// A number with one digit after the point and an upper-case exponent. It is never unset.
 struct Scientific {
   explicit Scientific(const REAL& value) : value(value) {}
   void Write(std::ostream& out) const;

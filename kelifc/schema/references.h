@@ -13,11 +13,12 @@
 #include "kelifc/core/set_of_members.h"
 #include "kelifc/core/unknown.h"
 
-// What the accessors of entities do with references.
+// The work of the accessors of entities on references.
 
 namespace KelIFC {
 
-/// The instance side of a class or select; null for null and for a select that is no instance.
+/// Returns the instance that an object of a class or select is. Returns null for null and for a
+/// select that is not an instance.
 template <class Type>
 const IfcUnknown* UnknownOf(const Type* item) {
   if constexpr (std::is_base_of_v<IfcUnknown, Type>) {
@@ -27,7 +28,8 @@ const IfcUnknown* UnknownOf(const Type* item) {
   }
 }
 
-/// What a reference leads to; null if it is unset, leads nowhere or to another class.
+/// Returns the instance of a reference. Returns null if the reference is unset, or does not lead to
+/// an instance of the class.
 template <class Type>
 Type* InstanceOf(MEMBER& member) {
   return const_cast<Type*>(CachedCast<Type>(member.GetInstance()));
@@ -37,8 +39,9 @@ const Type* InstanceOf(const MEMBER& member) {
   return CachedCast<Type>(member.GetInstance());
 }
 
-/// The typed view of an aggregate of `owner`: as long as the aggregate, null where a reference
-/// leads nowhere or to another class; empty without a server.
+/// Returns the typed view of an aggregate of `owner`, with one item for each member. An item is
+/// null if the reference does not lead to an instance of the class. The view is empty without a
+/// server.
 template <class View, class Members>
 View ViewOf(const Members& members, const IfcUnknown& owner) {
   View view;
@@ -46,7 +49,7 @@ View ViewOf(const Members& members, const IfcUnknown& owner) {
   return view;
 }
 
-/// Adds a reference to `item`; nothing if the model of `owner` does not hold it.
+/// Adds a reference to `item`. Adds nothing if the model of `owner` does not hold it.
 template <class Type, class Members>
 void AddMember(Members& members, const Type* item, const IfcUnknown& owner) {
   const std::size_t number = FindNumber(owner.GetServer(), UnknownOf(item));
@@ -54,9 +57,9 @@ void AddMember(Members& members, const Type* item, const IfcUnknown& owner) {
 }
 
 /// Adds an instance that a host passes to an operation of `owner`. MEMBER::Embed decides who owns
-/// the instance afterwards. Nothing is added for null, and for an instance that `members` own
-/// already. A set holds one inline value only: a second one is destroyed, or given back to the
-/// model that holds it.
+/// the instance afterwards. Nothing is added for null and for an instance that `members` already
+/// own. A set holds one inline value only: a second value is destroyed, or stays with the model
+/// that holds it.
 template <class Members>
 void EmbedMember(Members& members, IfcUnknown* item, IfcUnknown& owner) {
   if (item == nullptr) return;
@@ -65,12 +68,13 @@ void EmbedMember(Members& members, IfcUnknown* item, IfcUnknown& owner) {
   }
   MEMBER member;
   member.Embed(item, owner);
-  // A number needs no owner, and the aggregate can outlive this one as part of a copy.
+  // A number needs no owner. A copy of the aggregate can outlive this owner.
   const auto number = static_cast<std::size_t>(member);
   members.Add(number == 0 ? member : MEMBER(number));
 }
 
-/// Replaces the members by references to `items`, leaving out what the model does not hold.
+/// Replaces the members by references to `items`. Instances that the model does not hold are left
+/// out.
 template <class Members, class Items>
 void ReplaceMembers(Members& members, const Items& items, const IfcUnknown& owner) {
   members.Clear();
@@ -78,8 +82,8 @@ void ReplaceMembers(Members& members, const Items& items, const IfcUnknown& owne
   for (std::size_t i = 1; i <= items.GetSize(); ++i) AddMember(members, items[i], owner);
 }
 
-/// Calls `add` of the instance that a reference of the relationship `source` leads to, if it is of
-/// the class that has that operation.
+/// Calls `add` of the instance that a reference of the relationship `source` leads to. Does nothing
+/// if the class of the instance does not have that operation.
 template <class Source, class Target, class Item>
 void LinkBack(Source& source, const MEMBER& reference, void (Target::*add)(Item*)) {
   IfcUnknown* const instance =
@@ -88,13 +92,13 @@ void LinkBack(Source& source, const MEMBER& reference, void (Target::*add)(Item*
   if (target != nullptr) (target->*add)(&source);
 }
 
-/// The same for each member of an aggregate.
+/// Does the same for each member of an aggregate.
 template <class Source, class Members, class Target, class Item>
 void LinkBack(Source& source, const Members& members, void (Target::*add)(Item*)) {
   for (std::size_t i = 1; i <= members.GetSize(); ++i) LinkBack(source, members[i], add);
 }
 
-/// A new instance, null if there is no memory for it.
+/// Returns a new instance, or null if there is not enough memory.
 template <class Type>
 Type* MakeOrNull() {
   try {
@@ -104,7 +108,8 @@ Type* MakeOrNull() {
   }
 }
 
-/// A new instance that is registered with the server; without one the caller owns it.
+/// Returns a new instance that is registered with the server, or null if there is not enough
+/// memory. If `server` is null, the caller owns the instance.
 template <class Type>
 Type* MakeItem(IfcServer* server) {
   Type* item = MakeOrNull<Type>();

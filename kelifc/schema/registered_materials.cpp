@@ -11,7 +11,8 @@
 namespace KelIFC {
 namespace {
 
-// The classes keep their attributes protected. These two name them and are never instantiated.
+// The attributes are protected, so these two classes derive from the entity classes. They have no
+// objects.
 struct Material : KelIFC151::IfcMaterial {
   static MEMBER& RegisteredBy(KelIFC151::IfcMaterial& material) {
     return material.*(&Material::registeredBy);
@@ -24,7 +25,7 @@ struct Registry : KelIFC151::IfcProjectMaterialRegistry {
   }
 };
 
-// The numbers of the registries, in the order of their statements.
+// Returns the instance numbers of the registries, in the order of their statements.
 std::vector<std::size_t> FindRegistries(IfcServer& model) {
   std::vector<std::pair<std::uint64_t, std::size_t>> found;
   for (std::size_t n = model.GetNextNumber(0); n != 0; n = model.GetNextNumber(n)) {

@@ -11,18 +11,18 @@
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/release_tables.h"
 
-// What the server asks of the releases' classes besides their names.
+// The functions through which the server uses the classes of the releases.
 
 namespace KelIFC {
 
 namespace {
 
-/// Remembers an answer for each of the last classes that it was asked about. The walks over a whole
-/// model ask about every instance.
+/// Caches the results for the classes of the last calls, because a walk over a whole model asks
+/// about every instance.
 template <class Answer>
 class AnswersByClass {
  public:
-  /// The answer for the class of an instance. `find` is called if the answer is not known.
+  /// Returns the result for the class of an instance. Calls `find` if the result is not cached.
   template <class Find>
   Answer Get(const IfcUnknown& instance, Find find) {
     const std::type_info* const type = &typeid(instance);
@@ -58,7 +58,8 @@ bool IsA(const IfcUnknown* instance) {
   return CachedCast<Product>(instance) != nullptr;
 }
 
-/// How the identifier of a class is read; null for a class without one.
+/// Returns the function that reads the identifier of a class, or null for a class without an
+/// identifier.
 GuidReader FindGuidReader(const IfcUnknown* instance) {
   if (IsA<KelIFC2x::IfcRoot>(instance)) return GuidOf<KelIFC2x::IfcRoot>;
   if (IsA<KelIFC2x2::IfcRoot>(instance)) return GuidOf<KelIFC2x2::IfcRoot>;

@@ -2,7 +2,7 @@
 
 namespace {
 
-/// The first item of a class, null if there is none.
+/// Returns the first item of a class, or null if there is none.
 template <class Type>
 const Type* FirstItem(const IfcShapeRepresentation& representation) {
   const SET<const IfcRepresentationItem*> items = representation.GetItems();

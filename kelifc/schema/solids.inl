@@ -17,7 +17,7 @@ PlanPoint InPlan(const IfcCartesianPoint& point) {
   return {numbers[0], numbers[1]};
 }
 
-/// Adds the points of curves to the outline, which it belongs to.
+/// Adds the points of curves to an outline.
 class OutlineWriter {
  public:
   explicit OutlineWriter(IfcPolyLine& outline) : outline(outline) {}
@@ -47,14 +47,14 @@ class OutlineWriter {
       AddArc(InPlan(*centre), InPlan(*first), InPlan(*second), sense);
       AddTrim(*second);
     } else if (dynamic_cast<const IfcLine*>(basis) != nullptr) {
-      // Against the sense the second trim stands at both ends of the first piece.
+      // If the sense is reversed, the second trim is at both ends of the first piece.
       if (isFirst) AddTrim(sense ? *first : *second);
       AddTrim(*second);
     }
   }
 
-  /// Chords of an arc, without its ends; at least one point. The angles span a turn at most, and
-  /// where they are no numbers the arc ends.
+  /// Adds the inner points of the chords of an arc, at least one. The arc is one turn at most. It
+  /// ends if an angle is NaN.
   void AddArc(PlanPoint centre, PlanPoint first, PlanPoint second, bool sense) {
     double x = first.x - centre.x;
     double y = first.y - centre.y;
@@ -77,7 +77,7 @@ class OutlineWriter {
     } while (!isAtEnd);
   }
 
-  // The outline owns what is made for it, so that the model does not grow.
+  // The outline owns the points that are made for it, so that the model does not grow.
   void AddTrim(const IfcCartesianPoint& point) {
     if (FindNumber(outline.GetServer(), &point) != 0) {
       outline.AddPoint(point);
@@ -116,7 +116,7 @@ const IfcPolyLine* IfcAttDrivenExtrudedSolid::GetPath() const {
 
 namespace {
 
-/// What a reference to the value would be numbered: a value in place has no number.
+/// Returns the instance number that a reference to the value has, which is 0 for an inline value.
 double NumberInPlace(IfcReal* value, IfcUnknown& owner) {
   if (value == nullptr) return 0.0;
   MEMBER member;

@@ -30,7 +30,7 @@ constexpr AttributeKind ElementKind(AttributeKind list) {
   }
 }
 
-/// True for `.T.` and `.F.` and, if it is asked for, `.U.`
+/// Returns true for `.T.` and `.F.`, and on request for `.U.`.
 bool IsTruthValue(const FoundValue& value, bool mayBeUnknown) {
   if (value.form != ValueForm::kEnumeration || value.at[1] == '\0' || value.at[2] != '.') {
     return false;
@@ -113,7 +113,8 @@ void StatementCheck::CheckStatement(const ScanBuffer& scanner, const Assignment&
   }
 }
 
-// True for values in lists of lists and in typed values, about which the table says nothing.
+// Returns whether a value fits its attribute. Values in lists of lists and in typed values always
+// fit, because the table does not describe them.
 bool StatementCheck::Fits(const FoundValue& value, const AttributeDescription& attribute) const {
   if (value.form == ValueForm::kOmitted || attribute.use == AttributeUse::kDerived) return true;
   const bool isList = IsList(attribute.kind);
@@ -130,7 +131,7 @@ bool StatementCheck::FitsAsElement(const FoundValue& value,
   return HasForm(value, ElementKind(attribute.kind)) && LeadsTo(value, attribute);
 }
 
-// True unless the instance that a reference leads to is known to be of a class that does not fit.
+// Returns false if a reference is known to lead to an instance of a class that does not fit.
 bool StatementCheck::LeadsTo(const FoundValue& value, const AttributeDescription& attribute) const {
   if (value.form != ValueForm::kReference || attribute.type.empty()) return true;
   const EntityDescription* wanted = FindEntity(release, attribute.type);

@@ -15,7 +15,7 @@ using Kind = AttributeValueKind;
 
 constexpr std::string_view kBitPairs[2][2] = {{"00", "01"}, {"10", "11"}};
 
-/// The integer in a text that is the source of one. A text out of range gives the nearest bound.
+/// Returns the integer in a text. An integer out of range becomes the nearest bound.
 std::int64_t IntegerIn(std::string_view text) {
   const bool isNegative = !text.empty() && text.front() == '-';
   if (!text.empty() && text.front() == '+') text.remove_prefix(1);
@@ -116,7 +116,8 @@ AttributeValue ValueReader::Of(const MEMBER& reference, const IfcUnknown& holder
   value.kind = Kind::kReference;
   value.number = reference;
   value.holder = &holder;
-  // A number that was set while the attribute had an inline value is what a save writes.
+  // If a host sets a reference while the attribute has an inline value, a save writes the
+  // reference.
   if (value.number != 0) return value;
   const IfcUnknown* const instance = reference.GetInstance();
   return instance == nullptr ? Derived() : OfInlineInstance(*instance, value);

@@ -20,7 +20,7 @@
 #include "kelifc/core/unit_assignment.h"
 #include "kelifc/schema/attribute_value.h"
 
-// How the attributes of each class become an AttributeValue.
+// Functions that make an AttributeValue from the attributes of each class.
 
 namespace KelIFC {
 
@@ -41,18 +41,19 @@ class ValueReader {
   static AttributeValue Of(const LIST<T>& list, const IfcUnknown& holder) {
     return list.GetExists() ? OfList(&list, kOperations<LIST<T>>, holder) : AttributeValue();
   }
-  /// A set that is read from a file does not become marked as existing.
+  /// A load does not mark a set as existing, so a set that is not empty counts as set.
   template <class T>
   static AttributeValue Of(const SET<T>& set, const IfcUnknown& holder) {
     const bool isSet = set.GetExists() || !set.GetEmpty();
     return isSet ? OfList(&set, kOperations<SET<T>>, holder) : AttributeValue();
   }
 
-  /// An enumeration with a table. A value that no row has is unset.
+  /// Returns an enumerator of an enumeration with a table. A value that is not in the table is
+  /// unset.
   static AttributeValue OfEnumeration(std::int32_t value, const EnumTextRow* table,
                                       std::size_t rowCount);
 
-  /// A value of raw text; `position` counts from 1.
+  /// Returns a value of raw text. `position` counts from 1.
   static AttributeValue OfText(const StatementView& statement, std::size_t position,
                                const IfcUnknown& holder);
 
@@ -65,7 +66,7 @@ class ValueReader {
   static AttributeValue OfTruth(AttributeValueKind kind, LOGICAL_VALUE truth);
   /// `value` is the reference that leads to the instance.
   static AttributeValue OfInlineInstance(const IfcUnknown& instance, AttributeValue value);
-  /// `value` has the holder already.
+  /// The caller has set the holder of `value`.
   static AttributeValue OfRaw(AttributeValueKind kind, const StatementView& statement,
                               std::size_t position, AttributeValue value);
 
@@ -81,7 +82,7 @@ class ValueReader {
   static constexpr AttributeValue::ListOperations kOperations = {SizeOf<List>, ElementOf<List>};
 };
 
-/// Reads a member of `Class`, which the instance must be.
+/// Reads a member of an instance, which must be of the class `Class`.
 template <class Class, auto Member>
 AttributeValue ReadMember(const IfcUnknown& instance) {
   return ValueReader::Of(static_cast<const Class&>(instance).*Member, instance);
@@ -101,8 +102,8 @@ AttributeValue ReadValueType(const IfcUnknown& instance) {
   return ValueReader::Of(static_cast<const Value&>(static_cast<const Class&>(instance)), instance);
 }
 
-/// Names the attributes of a class. The classes keep them protected, so `Kept` derives from the
-/// class. It is never instantiated.
+/// Pointers to the attributes of a class. The attributes are protected, so `Kept` derives from the
+/// class. `Kept` has no objects.
 template <class Class>
 struct Kept;
 

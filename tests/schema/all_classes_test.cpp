@@ -2,7 +2,7 @@
 
 #include "tests/schema/model.h"
 
-// What holds for every class of a release, whatever it stores.
+// Tests that apply to every class of a release.
 
 namespace KelIFC {
 namespace {
@@ -15,7 +15,7 @@ constexpr bool kIsInstance =
 template <class R>
 class AllClasses : public testing::Test {
  public:
-  /// Calls `check` with a new instance of each class that can be made.
+  /// Calls `check` with a new instance of each class that a host can create.
   template <class Check>
   static void ForEach(Check check) {
     R::ForEachClass([&]<class Type>() {
@@ -38,7 +38,7 @@ std::string Record(const IfcUnknown& instance, const std::string& value) {
   return text + ")";
 }
 
-TYPED_TEST(AllClasses, NameThemselvesOnce) {
+TYPED_TEST(AllClasses, ReturnTheSameNameFromClassAndInstance) {
   this->ForEach([](auto& instance) {
     EXPECT_STREQ(instance.GetStepName(), std::decay_t<decltype(instance)>::GetItemName());
   });

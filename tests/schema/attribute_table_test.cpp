@@ -66,7 +66,7 @@ TEST(AllEntities, AreInAlphabeticalOrderAndFoundByName) {
   EXPECT_EQ(AllEntities(IFC_RELEASE_NONE).size(), 0u);
 }
 
-TEST(AttributeAt, CountsThePositionsOfAStatementFromTheRootDown) {
+TEST(AttributeAt, CountsThePositionsOfAStatementFromTheRoot) {
   EXPECT_EQ(Statement(IFC_RELEASE_2X3, "IfcDoor"),
             "GlobalId OwnerHistory Name Description ObjectType ObjectPlacement Representation Tag "
             "OverallHeight OverallWidth");
@@ -107,7 +107,7 @@ TEST(AttributeAt, SaysWhichPositionASubtypeDerives) {
   EXPECT_EQ(unit.AttributeAt(1)->type, "IfcUnitEnum");
 }
 
-TEST(AttributeAt, ContinuesWithTheClassThatTheRecordContinuesWith) {
+TEST(AttributeAt, ContinuesWithTheAttributesOfTheRecord) {
   const EntityDescription& wall = Entity(IFC_RELEASE_151, "IfcWall");
   EXPECT_EQ(wall.bases[0]->name, "IfcBuildingElement");
   EXPECT_EQ(wall.record->name, "IfcElement");
@@ -126,7 +126,7 @@ TEST(AttributeDescription, NamesTheOperationsOfTheClass) {
   EXPECT_EQ(Attribute(IFC_RELEASE_20, "IfcBeam", "BeamArea").getter, "calcBeamArea");
 }
 
-TEST(AttributeDescription, HasTheNameOfTheSchemaWhereTheClassHasAnother) {
+TEST(AttributeDescription, HasTheNameOfTheSchemaIfTheClassUsesAnotherName) {
   const AttributeDescription& load =
       Attribute(IFC_RELEASE_2X3, "IfcStructuralPointAction", "DestabilizingLoad");
   EXPECT_EQ(load.getter, "GetDestablizingLoad");
@@ -135,7 +135,7 @@ TEST(AttributeDescription, HasTheNameOfTheSchemaWhereTheClassHasAnother) {
 }
 
 TEST(AttributeDescription, SaysWhatAnInstanceKeeps) {
-  // The first two texts of a person are read into the names.
+  // A load reads the first two texts of a person as the names.
   EXPECT_EQ(Attribute(IFC_RELEASE_2X3, "IfcPerson", "FamilyName").use, AttributeUse::kDropped);
   EXPECT_EQ(Attribute(IFC_RELEASE_151, "IfcPerson", "FamilyName").use, AttributeUse::kKept);
   EXPECT_EQ(Attribute(IFC_RELEASE_2X3, "IfcProfileDef", "ProfileType").use, AttributeUse::kDropped);
@@ -164,14 +164,14 @@ TEST(FindAttribute, FindsInverseAttributesToo) {
   EXPECT_EQ(openings.getter, "GetHasOpenings");
 }
 
-TEST(FindAttribute, PrefersTheKeptOneOfTwo) {
+TEST(FindAttribute, PrefersTheAttributeThatTheInstanceKeeps) {
   const AttributeDescription& position =
       Attribute(IFC_RELEASE_20, "IfcAttDrivenExtrudedSegment", "Position");
   EXPECT_EQ(position.position, 3);
   EXPECT_EQ(position.use, AttributeUse::kKept);
 }
 
-TEST(FindAttribute, ReturnsNullForAnUnknownNameAndForNone) {
+TEST(FindAttribute, ReturnsNullForAnUnknownNameAndForAnEmptyName) {
   const EntityDescription& history = Entity(IFC_RELEASE_20, "IfcProject");
   EXPECT_EQ(history.FindAttribute("Height"), nullptr);
   EXPECT_EQ(history.FindAttribute(""), nullptr);
@@ -198,7 +198,7 @@ TEST(EntityDescription, SaysWhatTheClassIs) {
   EXPECT_FALSE(Entity(IFC_RELEASE_2X3, "IfcProfileDef").isInFile);
 }
 
-// What holds for every attribute of every class.
+// Tests that apply to every attribute of every class.
 
 TEST(AttributeTable, HasDensePositionsAfterThoseOfTheRecord) {
   for (const IFC_RELEASE release : kReleases) {
@@ -244,7 +244,7 @@ TEST(AttributeTable, NamesEveryPositionOfTheNewerReleases) {
   }
 }
 
-/// The positions of a record, which are cut at the commas outside parentheses and texts.
+/// The positions of a record, which are split at the commas outside parentheses and texts.
 std::vector<std::string> Positions(const std::string& record) {
   std::vector<std::string> positions(record.empty() ? 0 : 1);
   int depth = 0;
@@ -311,7 +311,7 @@ using Releases = testing::Types<Release151, Release20, Release2x, Release2x2, Re
 TYPED_TEST_SUITE(AttributeTableOf, Releases);
 
 // The sample records are those that the classes read and write in another test.
-TYPED_TEST(AttributeTableOf, FitsTheRecordsThatTheClassesRead) {
+TYPED_TEST(AttributeTableOf, MatchesTheRecordsThatTheClassesRead) {
   for (const SampleRecord& record : Samples<TypeParam>()) {
     const EntityDescription& entity = Entity(TypeParam::kRelease, record.name);
     const std::vector<std::string> positions = Positions(record.read);

@@ -39,7 +39,7 @@ TEST(ReadAttribute, CountsInheritedPositionsToo) {
   EXPECT_EQ(door[static_cast<std::size_t>(-1)].GetKind(), Kind::kUnset);
 }
 
-TEST(ReadAttribute, CountsThePositionsOfAStatementThatHasAnOrderOfItsOwn) {
+TEST(ReadAttribute, CountsThePositionsOfAStatementWithAnExplicitOrder) {
   Model<Release20> model({{1, "IFCATTDRIVENEXTRUDEDSEGMENT(*,*,2.5,#2,#3)"}});
   const InstanceView segment(*model.server.GetItem(1));
   EXPECT_EQ(segment[0].GetKind(), Kind::kDerived);
@@ -62,20 +62,20 @@ TEST(ReadAttribute, ReturnsTheKeptNumberAndNotTheWrittenOne) {
   EXPECT_EQ(circle[1].GetKind(), Kind::kReal);
 }
 
-TEST(ReadAttribute, ReturnsTheKeptTextWhereASaveWritesAnother) {
+TEST(ReadAttribute, ReturnsTheKeptTextIfASaveWritesAnotherText) {
   Statement stair("IFCSTAIR('0123456789ABCDEFGHIJ_$',#2,$,$,$,$,$,$,.SPIRAL_STAIR.)");
   EXPECT_EQ(stair[8].GetKind(), Kind::kEnumeration);
   EXPECT_EQ(stair[8].AsEnumerator(), "SPIRAL_STAIR");
 }
 
-TEST(AttributeValue, TellsAnEmptyTextFromAnUnsetOne) {
+TEST(AttributeValue, DistinguishesAnEmptyTextFromAnUnsetText) {
   Statement person("IFCORGANIZATION($,'','x',$,$)");
   EXPECT_EQ(person[0].GetKind(), Kind::kUnset);
   EXPECT_EQ(person[1].GetKind(), Kind::kText);
   EXPECT_EQ(person[1].AsText(), "");
 }
 
-TEST(AttributeValue, HasTheNameOfAnEnumerator) {
+TEST(AttributeValue, ReturnsTheNameOfAnEnumerator) {
   Statement unit("IFCSIUNIT(*,.LENGTHUNIT.,.MILLI.,.METRE.)");
   EXPECT_EQ(unit[0].GetKind(), Kind::kDerived);
   EXPECT_EQ(unit[1].AsEnumerator(), "LENGTHUNIT");
@@ -85,7 +85,7 @@ TEST(AttributeValue, HasTheNameOfAnEnumerator) {
   EXPECT_EQ(bare[2].GetKind(), Kind::kUnset);
 }
 
-TEST(AttributeValue, KnowsTheTruthOfBooleanAndLogicalValues) {
+TEST(AttributeValue, ReturnsTheTruthOfBooleanAndLogicalValues) {
   Statement curve("IFCCOMPOSITECURVE((#2),.U.)");
   EXPECT_EQ(curve[1].GetKind(), Kind::kLogical);
   EXPECT_EQ(curve[1].AsLogical(), LOGICAL_UNKNOWN);
@@ -99,7 +99,7 @@ TEST(AttributeValue, KnowsTheTruthOfBooleanAndLogicalValues) {
   EXPECT_EQ(other[3].AsEnumerator(), "F");
 }
 
-TEST(AttributeValue, HasTheBitsOfABinaryValue) {
+TEST(AttributeValue, ReturnsTheBitsOfABinaryValue) {
   Model<Release20> model({{1, "IFCOWNERHISTORY(#2,#3,\"10\",$,$,$)"}});
   const AttributeValue flag = ReadAttribute(*model.server.GetItem(1), 2);
   EXPECT_EQ(flag.GetKind(), Kind::kBinary);
@@ -136,7 +136,7 @@ TEST(AttributeValue, LeadsToAnInlineInstanceWithoutANumber) {
   EXPECT_EQ(points.At(0).AsReferenceNumber(), 0U);
 }
 
-TEST(AttributeValue, HasTypeAndValueOfATypedValue) {
+TEST(AttributeValue, ReturnsTheTypeAndTheValueOfATypedValue) {
   Statement property("IFCPROPERTYSINGLEVALUE('a',$,IFCLABEL('x'),$)");
   const AttributeValue value = property[2];
   EXPECT_EQ(value.GetKind(), Kind::kTyped);
@@ -150,7 +150,7 @@ TEST(AttributeValue, HasTypeAndValueOfATypedValue) {
   EXPECT_TRUE(logical[2].TypedValue().AsBoolean());
 }
 
-TEST(AttributeValue, HasTypedValuesInsideASelect) {
+TEST(AttributeValue, ReturnsTheTypedValuesOfASelect) {
   Statement curve("IFCTRIMMEDCURVE(#2,(#3,IFCPARAMETERVALUE(0.5)),(#4),.T.,.CARTESIAN.)");
   const AttributeValue trims = curve[1];
   ASSERT_EQ(trims.Size(), 2U);
@@ -161,7 +161,7 @@ TEST(AttributeValue, HasTypedValuesInsideASelect) {
   EXPECT_EQ(curve[4].AsEnumerator(), "CARTESIAN");
 }
 
-TEST(AttributeValue, HasTheElementsOfAList) {
+TEST(AttributeValue, ReturnsTheElementsOfAList) {
   Statement point("IFCCARTESIANPOINT((1.,2.5,-3.))");
   const AttributeValue coordinates = point[0];
   EXPECT_EQ(coordinates.GetKind(), Kind::kList);
@@ -181,7 +181,7 @@ TEST(AttributeValue, KeepsTheOrderAndTheEqualElementsOfASet) {
   EXPECT_EQ(NumbersOf(units[0]), (std::vector<std::size_t>{7, 5, 7}));
 }
 
-TEST(AttributeValue, TellsAnEmptyListFromAnUnsetOneWhereTheClassDoes) {
+TEST(AttributeValue, DistinguishesAnEmptyListFromAnUnsetListIfTheClassDoes) {
   EXPECT_EQ(Statement("IFCPOLYLINE(())")[0].GetKind(), Kind::kList);
   EXPECT_EQ(Statement("IFCPOLYLINE($)")[0].GetKind(), Kind::kUnset);
   EXPECT_EQ(Statement("IFCUNITASSIGNMENT(())")[0].GetKind(), Kind::kUnset);
@@ -280,7 +280,7 @@ TEST(InstanceView, KeepsTheValuesOfRawTextAlive) {
   EXPECT_EQ(three.AsEnumerator(), "THREE");
 }
 
-TEST(InstanceView, KnowsTheTruthOfAnEnumeratorInRawText) {
+TEST(InstanceView, ReturnsTheTruthOfAnEnumeratorInRawText) {
   Statement foo("IFCFOO(.T.,.F.,.U.,.ELEMENT.)");
   EXPECT_TRUE(foo[0].AsBoolean());
   EXPECT_EQ(foo[1].AsLogical(), LOGICAL_FALSE);

@@ -1,4 +1,4 @@
-// What holds for the values of every class of every release.
+// Tests that apply to the values of every class of every release.
 
 #include <gtest/gtest.h>
 
@@ -31,7 +31,7 @@ std::string UpperCase(std::string_view text) {
   return upper;
 }
 
-/// The kinds that a value can have where a statement has another one.
+/// The kinds that a value can have if the statement has another kind.
 bool IsKind(const AttributeValue& value, ATTRIBUTE_KIND kind) {
   switch (kind) {
     case ATTRIBUTE_NONE:
@@ -90,7 +90,7 @@ class ValuesOfClasses : public testing::TestWithParam<ReleaseRecords> {
     for (const SampleRecord& record : GetParam().records()) AddEnumerators(record);
   }
 
-  /// Takes a text of each enumeration from the sample records.
+  /// Reads a text of each enumeration from the sample records.
   void AddEnumerators(const SampleRecord& record) {
     const EntityDescription* const entity = FindEntity(GetParam().release, record.name);
     const StatementView positions(record.read);
@@ -102,7 +102,7 @@ class ValuesOfClasses : public testing::TestWithParam<ReleaseRecords> {
     }
   }
 
-  /// A text for an attribute that differs from those of other positions.
+  /// Returns a text for an attribute. The texts of other positions differ from it.
   std::string TextOf(const AttributeDescription& attribute) {
     std::string n = std::to_string(attribute.position + 11);
     switch (attribute.kind) {
@@ -139,7 +139,7 @@ class ValuesOfClasses : public testing::TestWithParam<ReleaseRecords> {
     return {};
   }
 
-  /// The positions of a statement between its parentheses.
+  /// Returns the positions of a statement between its parentheses.
   std::string RecordOf(const EntityDescription& entity) {
     std::string record;
     for (std::size_t i = 0; i < entity.positionCount; ++i) {
@@ -158,7 +158,7 @@ class ValuesOfClasses : public testing::TestWithParam<ReleaseRecords> {
     return instance;
   }
 
-  /// The entities that a file can name.
+  /// Returns the entities that a file can contain.
   std::vector<const EntityDescription*> Entities() const {
     std::vector<const EntityDescription*> entities;
     for (const EntityDescription* entity : AllEntities(GetParam().release)) {
@@ -171,7 +171,7 @@ class ValuesOfClasses : public testing::TestWithParam<ReleaseRecords> {
   std::map<std::string_view, std::string> enumerators;
 };
 
-TEST_P(ValuesOfClasses, AreThoseOfTheStatementThatWasParsed) {
+TEST_P(ValuesOfClasses, MatchTheStatementThatWasParsed) {
   std::size_t compared = 0;
   for (const EntityDescription* entity : Entities()) {
     const std::string record = RecordOf(*entity);
@@ -194,7 +194,7 @@ TEST_P(ValuesOfClasses, AreThoseOfTheStatementThatWasParsed) {
   EXPECT_GT(compared, 2 * Entities().size());
 }
 
-TEST_P(ValuesOfClasses, AreThoseOfTheStatementThatASaveWrites) {
+TEST_P(ValuesOfClasses, MatchTheStatementThatASaveWrites) {
   std::size_t compared = 0;
   for (const EntityDescription* entity : Entities()) {
     const auto instance = Make(*entity, RecordOf(*entity));
@@ -213,7 +213,7 @@ TEST_P(ValuesOfClasses, AreThoseOfTheStatementThatASaveWrites) {
   EXPECT_GT(compared, Entities().size());
 }
 
-TEST_P(ValuesOfClasses, AreUnsetIfTheStatementHasNone) {
+TEST_P(ValuesOfClasses, AreUnsetIfTheStatementHasNoValues) {
   for (const EntityDescription* entity : Entities()) {
     std::string record;
     for (std::size_t i = 0; i < entity->positionCount; ++i) record += i == 0 ? "$" : ",$";
@@ -230,7 +230,7 @@ TEST_P(ValuesOfClasses, AreUnsetIfTheStatementHasNone) {
   }
 }
 
-TEST_P(ValuesOfClasses, AreReadForEachPositionThatIsKept) {
+TEST_P(ValuesOfClasses, AreReadForEachKeptPosition) {
   for (const EntityDescription* entity : AllEntities(GetParam().release)) {
     for (std::size_t i = 0; i < entity->attributeCount; ++i) {
       const AttributeDescription& attribute = entity->attributes[i];

@@ -9,8 +9,8 @@
 
 #include "tests/schema/model.h"
 
-// The classes of each release as its makers agreed on them: what a file can name, what it cannot,
-// and what a host can make. The descriptions must give exactly these.
+// The agreed classes of each release: those that a file can contain, those that it cannot contain,
+// and those that a host can create. The descriptions must define exactly these classes.
 
 namespace KelIFC {
 namespace {
@@ -303,7 +303,7 @@ class ClassLists : public testing::Test {};
 using Releases = testing::Types<Release151, Release20, Release2x, Release2x2, Release2x3>;
 TYPED_TEST_SUITE(ClassLists, Releases);
 
-TYPED_TEST(ClassLists, FileNamesMakeTheirClass) {
+TYPED_TEST(ClassLists, NamesInAFileCreateTheirClass) {
   for (const auto& name : Split(Expected<TypeParam>::kFile)) {
     const std::unique_ptr<IfcUnknown> instance(Expected<TypeParam>::kMake(name.c_str()));
     ASSERT_NE(instance, nullptr) << name;
@@ -311,13 +311,13 @@ TYPED_TEST(ClassLists, FileNamesMakeTheirClass) {
   }
 }
 
-TYPED_TEST(ClassLists, OtherNamesMakeNothing) {
+TYPED_TEST(ClassLists, OtherNamesCreateNothing) {
   for (const auto& name : Split(Expected<TypeParam>::kNotFile)) {
     EXPECT_EQ(Expected<TypeParam>::kMake(name.c_str()), nullptr) << name;
   }
 }
 
-TYPED_TEST(ClassLists, HoldEveryClassAndNoOther) {
+TYPED_TEST(ClassLists, ContainExactlyTheClassesOfTheRelease) {
   Names expected = Split(Expected<TypeParam>::kFile);
   const Names others = Split(Expected<TypeParam>::kNotFile);
   expected.insert(others.begin(), others.end());
@@ -334,7 +334,7 @@ TYPED_TEST(ClassLists, HoldEveryClassAndNoOther) {
   EXPECT_TRUE(std::includes(expected.begin(), expected.end(), described.begin(), described.end()));
 }
 
-TYPED_TEST(ClassLists, HostsCanMakeTheseClasses) {
+TYPED_TEST(ClassLists, HostsCanCreateTheseClasses) {
   Names made;
   TypeParam::ForEachClass([&]<class Type>() {
     if constexpr (Makable<Type>) {

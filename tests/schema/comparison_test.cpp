@@ -11,7 +11,7 @@
 namespace KelIFC {
 namespace {
 
-// The positions of a record, cut at the commas that stand outside strings and parentheses.
+// Returns the positions of a record, which are split at the commas outside strings and parentheses.
 std::vector<std::string> PositionsOf(const std::string& record) {
   std::vector<std::string> positions(1);
   int depth = 0;
@@ -43,7 +43,7 @@ std::unique_ptr<IfcUnknown> Make(IfcServer& server, const std::string& text) {
   return instance;
 }
 
-// Whether two statements of a release have the same values.
+// Returns whether two statements of a release have the same values.
 bool AreSame(const std::string& a, const std::string& b, IFC_RELEASE release = IFC_RELEASE_2X3) {
   IfcServer server;
   server.SetRelease(release);
@@ -66,7 +66,7 @@ class Comparison : public testing::TestWithParam<ReleaseRecords> {
   IfcServer server;
 };
 
-TEST_P(Comparison, FindsTwoInstancesOfOneTextTheSame) {
+TEST_P(Comparison, FindsTwoInstancesWithTheSameTextEqual) {
   for (const auto& record : GetParam().records()) {
     for (const auto& positions : {record.read, record.unset}) {
       EXPECT_TRUE(HaveSameValues(*Make(record, positions), *Make(record, positions)))
@@ -104,17 +104,17 @@ INSTANTIATE_TEST_SUITE_P(OfRelease, Comparison,
                            return "Of" + std::to_string(static_cast<int>(info.param.release));
                          });
 
-TEST(ComparisonOfValues, NoticesNumbersThatAreWrittenTheSame) {
+TEST(ComparisonOfValues, DistinguishesNumbersThatASaveWritesWithTheSameText) {
   EXPECT_FALSE(AreSame("IFCCARTESIANPOINT((0.,1.))", "IFCCARTESIANPOINT((0.0005,1.))"));
   EXPECT_FALSE(AreSame("IFCCARTESIANPOINT((0.,1.))", "IFCCARTESIANPOINT((-0.,1.))"));
   EXPECT_TRUE(AreSame("IFCCARTESIANPOINT((0.,1.))", "IFCCARTESIANPOINT((0.0,1.00))"));
 }
 
-TEST(ComparisonOfValues, TellsAnUnsetNumberFromZero) {
+TEST(ComparisonOfValues, DistinguishesAnUnsetNumberFromZero) {
   EXPECT_FALSE(AreSame("IFCBOUNDINGBOX(#1,0.,$,$)", "IFCBOUNDINGBOX(#1,$,$,$)"));
 }
 
-TEST(ComparisonOfValues, TellsAnEmptyTextFromAnUnsetOne) {
+TEST(ComparisonOfValues, DistinguishesAnEmptyTextFromAnUnsetText) {
   EXPECT_FALSE(AreSame("IFCPERSON('','a',$,$,$,$,$,$)", "IFCPERSON($,'a',$,$,$,$,$,$)"));
 }
 
@@ -137,7 +137,7 @@ TEST(ComparisonOfValues, NoticesAnotherKindOfTrim) {
                        "IFCTRIMMEDCURVE(#1,(#2),(#3),.T.,.PARAMETER.)"));
 }
 
-TEST(ComparisonOfValues, LooksIntoInlineValues) {
+TEST(ComparisonOfValues, ComparesInlineValues) {
   const std::string head = "IFCPROPERTYSINGLEVALUE('a',$,";
   EXPECT_TRUE(AreSame(head + "IFCLABEL('x'),$)", head + "IFCLABEL('x'),$)"));
   EXPECT_FALSE(AreSame(head + "IFCLABEL('x'),$)", head + "IFCLABEL('y'),$)"));
@@ -158,7 +158,7 @@ TEST(ComparisonOfValues, ComparesTheNameAndTheTextOfAnEntityWithoutAClass) {
   EXPECT_FALSE(AreSame("IFCFOO(1)", "IFCBAR(1)"));
 }
 
-TEST(ComparisonOfValues, FindsClassesDifferent) {
+TEST(ComparisonOfValues, FindsInstancesOfDifferentClassesDifferent) {
   EXPECT_FALSE(AreSame("IFCWALL($)", "IFCSLAB($)"));
 }
 

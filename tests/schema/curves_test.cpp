@@ -24,7 +24,7 @@ TYPED_TEST(Curves, PolylineWhoseFirstPointDoesNotResolveCountsAsSpatial) {
   }
 }
 
-TYPED_TEST(Curves, TakeTheirDimensionFromWhatTheyStandOn) {
+TYPED_TEST(Curves, HaveTheDimensionOfTheirPointsOrTheirBasis) {
   Model<TypeParam> model({{1, "IFCCARTESIANPOINT((1.,2.))"},
                           {2, "IFCPOLYLINE((#1,#1))"},
                           {3, "IFCLINE(#1,#9)"},
@@ -45,7 +45,7 @@ TYPED_TEST(Curves, TakeTheirDimensionFromWhatTheyStandOn) {
   }
 }
 
-TYPED_TEST(Curves, ThatAreTheirOwnBasisTellNoDimension) {
+TYPED_TEST(Curves, ThatAreTheirOwnBasisCountAsSpatial) {
   Model<TypeParam> model({{1, "IFCTRIMMEDCURVE(#1,(),(),.T.,.CARTESIAN.)"},
                           {2, "IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,#3)"},
                           {3, "IFCCOMPOSITECURVE((#2),.F.)"}});
@@ -53,7 +53,7 @@ TYPED_TEST(Curves, ThatAreTheirOwnBasisTellNoDimension) {
   EXPECT_EQ(static_cast<int>(model.template Get<typename TypeParam::IfcCurve>(3)->GetDim()), 3);
 }
 
-TYPED_TEST(Curves, CompositeTellsWhetherItIsClosedButNoCount) {
+TYPED_TEST(Curves, CompositeReturnsWhetherItIsClosedButNoCount) {
   Model<TypeParam> model({{1, "IFCCOMPOSITECURVE((),.U.)"},
                           {2, "IFCCOMPOSITECURVESEGMENT(.CONTINUOUS.,.T.,$)"},
                           {3, "IFCCOMPOSITECURVESEGMENT(.DISCONTINUOUS.,.T.,$)"},
@@ -75,7 +75,7 @@ TYPED_TEST(Curves, SegmentOfUnknownTransitionIsWrittenWithoutOne) {
             "IFCCOMPOSITECURVESEGMENT($,.T.,#3)");
 }
 
-TYPED_TEST(Curves, TrimmedCurveGivesPointsAndParameters) {
+TYPED_TEST(Curves, TrimmedCurveReturnsPointsAndParameters) {
   const std::string text =
       "IFCTRIMMEDCURVE(#2,(IFCPARAMETERVALUE(0.5),#1),(#1,IFCPARAMETERVALUE(90.)),.T.,.PARAMETER.)";
   Model<TypeParam> model({{1, "IFCCARTESIANPOINT((1.,2.))"}, {3, text}});
@@ -104,7 +104,7 @@ TYPED_TEST(Curves, TrimmedCurveOfUnknownPreferenceIsWrittenByParameter) {
             "IFCTRIMMEDCURVE(#2,(),(),.F.,.CARTESIAN.)");
 }
 
-TYPED_TEST(Curves, TrimsTakeValuesInPlaceAndPointsOfTheModelByReference) {
+TYPED_TEST(Curves, TrimsKeepInlineValuesAndReferencesToPointsOfTheModel) {
   Model<TypeParam> model(
       {{1, "IFCCARTESIANPOINT((1.,2.))"}, {3, "IFCTRIMMEDCURVE($,(),(),.T.,$)"}});
   auto* curve = model.template Get<typename TypeParam::IfcTrimmedCurve>(3);
@@ -119,20 +119,20 @@ TYPED_TEST(Curves, TrimsTakeValuesInPlaceAndPointsOfTheModelByReference) {
   EXPECT_EQ(curve->GetParameterTrim2(), nullptr);
 }
 
-TYPED_TEST(Curves, EllipseKeepsItsPositionAloneWhenItIsWritten) {
+TYPED_TEST(Curves, EllipseWritesOnlyItsPosition) {
   const bool hasPosition = TypeParam::kRelease > IFC_RELEASE_2X;
   EXPECT_EQ(Rewritten<TypeParam>("IFCELLIPSE(#1,2.,3.)"),
             hasPosition ? "IFCELLIPSE(#1)" : "IFCELLIPSE()");
 }
 
-TYPED_TEST(Curves, ConicsAndLinesAreWrittenAsTheirNameUpTo2x) {
+TYPED_TEST(Curves, ConicsAndLinesWriteOnlyTheirNameUpTo2x) {
   const bool isWritten = TypeParam::kRelease > IFC_RELEASE_2X;
   EXPECT_EQ(Rewritten<TypeParam>("IFCCIRCLE(#1,2.)"),
             isWritten ? "IFCCIRCLE(#1,2.)" : "IFCCIRCLE()");
   EXPECT_EQ(Rewritten<TypeParam>("IFCLINE(#1,#2)"), isWritten ? "IFCLINE(#1,#2)" : "IFCLINE()");
 }
 
-TYPED_TEST(Curves, PolylineTakesPointsByNumberAndByInstance) {
+TYPED_TEST(Curves, PolylineAcceptsPointsByNumberAndByInstance) {
   Model<TypeParam> model({{1, "IFCCARTESIANPOINT((1.,2.))"}, {3, "IFCPOLYLINE((#1))"}});
   auto* line = model.template Get<typename TypeParam::IfcPolyLine>(3);
   line->AddPoint(std::size_t{77});

@@ -17,17 +17,17 @@ TEST(DimensionsForSiUnit, KnowsEveryName) {
                      exponents.AmountOfSubstanceExponent != 0 ||
                      exponents.LuminousIntensityExponent != 0;
   }
-  EXPECT_EQ(withDimension, 28) << "all but the two angles";
+  EXPECT_EQ(withDimension, 28) << "all units except the two angles";
 }
 
-TEST(DimensionsForSiUnit, TellsANewton) {
+TEST(DimensionsForSiUnit, ReturnsTheExponentsOfTheNewton) {
   const IfcDimensionalExponents newton = DimensionsForSiUnit(IfcSiUnitName_NEWTON);
   EXPECT_EQ(newton.LengthExponent, 1);
   EXPECT_EQ(newton.MassExponent, 1);
   EXPECT_EQ(newton.TimeExponent, -2);
 }
 
-TEST(DimensionsForSiUnit, GivesNoneForAnUnknownName) {
+TEST(DimensionsForSiUnit, ReturnsZerosForAnUnknownName) {
   EXPECT_EQ(DimensionsForSiUnit(0).LengthExponent, 0);
   EXPECT_EQ(DimensionsForSiUnit(31).MassExponent, 0);
 }

@@ -1,7 +1,7 @@
 #include "tests/schema/model.h"
 #include "tests/schema/slot_order.h"
 
-// Departures of single classes, each as a record that is read and written again.
+// The departures of single classes. Each test reads a record and writes it again.
 
 namespace KelIFC {
 namespace {
@@ -26,7 +26,7 @@ TYPED_TEST(Records, ProfileThatIsReadCountsAsAnArea) {
   EXPECT_EQ(made.GetProfileType(), 0);
 }
 
-TYPED_TEST(Records, ProfileOfAnyTypeButZeroIsWrittenAsAnArea) {
+TYPED_TEST(Records, ProfileOfAnyTypeExceptCurveIsWrittenAsAnArea) {
   using Rectangle = typename TypeParam::IfcRectangleProfileDef;
   Rectangle made;
   using Type = decltype(made.GetProfileType());
@@ -53,7 +53,7 @@ TYPED_TEST(Records, BooleanResultKeepsItsOperator) {
             "IFCBOOLEANRESULT(.UNION.,#2,#3)");
 }
 
-TYPED_TEST(Records, FaceBoundTellsItsOrientation) {
+TYPED_TEST(Records, FaceBoundReturnsItsOrientation) {
   Model<TypeParam> model({{1, "IFCFACEOUTERBOUND(#2,.F.)"}, {2, "IFCPOLYLOOP((#3,#4))"}});
   const auto* bound = model.template Get<typename TypeParam::IfcFaceBound>(1);
   EXPECT_FALSE(static_cast<bool>(bound->GetOrientation()));
@@ -76,13 +76,13 @@ TYPED_TEST(Records, NewContextIsAPlanOfADesign) {
             "IFCREPRESENTATIONCONTEXT('Plan','Design')");
 }
 
-TYPED_TEST(Records, PrecisionHasAFormOfItsOwn) {
+TYPED_TEST(Records, PrecisionIsWrittenWithAnExponent) {
   const std::string head = "IFCGEOMETRICREPRESENTATIONCONTEXT($,'Model',3,";
   EXPECT_EQ(Rewritten<TypeParam>(head + "0.00001,#1,#2)"), head + "1.0E-05,#1,#2)");
   EXPECT_EQ(Rewritten<TypeParam>(head + "$,#1,#2)"), head + "0.0E+00,#1,#2)");
 }
 
-TYPED_TEST(Records, PersonTakesTheFirstTwoTextsForItsNames) {
+TYPED_TEST(Records, PersonReadsTheFirstTwoTextsAsItsNames) {
   Model<TypeParam> model({{1, "IFCPERSON('Id1','Smith','Ann',$,$,$,$,$)"}});
   EXPECT_EQ(model.template Get<typename TypeParam::IfcPerson>(1)->GetFamilyName(),
             std::string("Id1"));
@@ -112,7 +112,7 @@ TYPED_TEST(Records, StairKeepsTheShapeThatAHostSets) {
   stair.SetShapeType(shape);
   EXPECT_EQ(stair.GetShapeType(), std::string("SPIRAL_STAIR"));
   EXPECT_NE(Text(stair).find(",.STRAIGHT_RUN_STAIR.)"), std::string::npos);
-  EXPECT_EQ(SlotOf(&Stair::SetShapeType), -1) << "no slot of a derived class moves";
+  EXPECT_EQ(SlotOf(&Stair::SetShapeType), -1) << "the slots of derived classes stay the same";
 }
 
 TYPED_TEST(Records, ProxyWithoutCompositionIsWrittenWithoutOne) {
@@ -147,7 +147,7 @@ TYPED_TEST(NewestRecords, SingleValueKeepsItsTypedForm) {
             "IFCPROPERTYSINGLEVALUE('n','d',$,$)");
 }
 
-TYPED_TEST(NewestRecords, LiningGivesTheUsualValuesForWhatIsUnset) {
+TYPED_TEST(NewestRecords, LiningReturnsTheUsualValuesForUnsetAttributes) {
   const std::string text = "IFCWINDOWLININGPROPERTIES(" + kRoot + ",$,$,$,$,$,$,$,$,$)";
   Model<TypeParam> model({{1, text}});
   const auto* lining = model.template Get<typename TypeParam::IfcWindowLiningProperties>(1);
@@ -162,7 +162,7 @@ TYPED_TEST(NewestRecords, LiningGivesTheUsualValuesForWhatIsUnset) {
   EXPECT_EQ(model.TextOf(1), text);
 }
 
-/// The class reads the reference in its last position, `unset` behind other ones.
+/// The class reads the reference in its last position. `unset` has the positions before it.
 template <class R, class Properties>
 void ExpectShapeAspectStyle(const std::string& entity, int unset) {
   std::string text = entity + "(" + kRoot;
@@ -175,7 +175,7 @@ void ExpectShapeAspectStyle(const std::string& entity, int unset) {
   EXPECT_EQ(SlotOf(&Properties::GetShapeAspectStyle), -1) << entity;
 }
 
-TYPED_TEST(NewestRecords, LiningsAndPanelsGiveTheirStyle) {
+TYPED_TEST(NewestRecords, LiningsAndPanelsReturnTheirStyle) {
   using R = TypeParam;
   ExpectShapeAspectStyle<R, typename R::IfcWindowLiningProperties>("IFCWINDOWLININGPROPERTIES", 8);
   ExpectShapeAspectStyle<R, typename R::IfcWindowPanelProperties>("IFCWINDOWPANELPROPERTIES", 4);
@@ -188,7 +188,7 @@ TYPED_TEST(NewestRecords, DoorLiningHasNoUsualValues) {
   EXPECT_FALSE(lining.GetLiningDepth().GetExists());
 }
 
-TYPED_TEST(NewestRecords, DoorStyleKnowsTheDoubledWordOnly) {
+TYPED_TEST(NewestRecords, DoorStyleReadsOnlyTheRepeatedWord) {
   const std::string head = "IFCDOORSTYLE(" + kRoot + ",$,$,$,$,.REVOLVING.,";
   EXPECT_EQ(Rewritten<TypeParam>(head + ".ALUMINIUM_PLASTICPLASTIC.,.T.,.F.)"),
             head + ".ALUMINIUM_PLASTICPLASTIC.,.T.,.F.)");
@@ -196,7 +196,7 @@ TYPED_TEST(NewestRecords, DoorStyleKnowsTheDoubledWordOnly) {
             head + ".NOTDEFINED.,.T.,.F.)");
 }
 
-TYPED_TEST(NewestRecords, AssemblyKeepsWhatIsSetInMemoryOnly) {
+TYPED_TEST(NewestRecords, AssemblyKeepsItsPlaceAndTypeOnlyInMemory) {
   Model<TypeParam> model({{1, "IFCELEMENTASSEMBLY(" + kElement + ",.SITE.,.TRUSS.)"}});
   auto* assembly = model.template Get<typename TypeParam::IfcElementAssembly>(1);
   EXPECT_EQ(model.TextOf(1), "IFCELEMENTASSEMBLY(" + kElement + ",.NOTDEFINED.,.NOTDEFINED.)");
@@ -225,7 +225,7 @@ TYPED_TEST(NewestRecords, PlanarForceKeepsThreeNumbers) {
             "IFCSTRUCTURALLOADPLANARFORCE('F',1.,$,3.)");
 }
 
-TEST(SweptDiskSolid, StoresNoParameterThatAHostGives) {
+TEST(SweptDiskSolid, DoesNotStoreAParameterThatAHostSets) {
   KelIFC2x3::IfcSweptDiskSolid solid;
   solid.Parse("IFCSWEPTDISKSOLID(#1,0.5,$,1.,2.)");
   EXPECT_EQ(Text(solid), "IFCSWEPTDISKSOLID(#1,0.5,$,1.,2.)");

@@ -16,7 +16,7 @@ TYPED_TEST(Kernel, KeepsAnIdentifierOfTwentyTwoCharacters) {
   EXPECT_EQ(Rewritten<TypeParam>(text), text);
 }
 
-TYPED_TEST(Kernel, ReplacesAnIdentifierThatDoesNotDecode) {
+TYPED_TEST(Kernel, ReplacesAnIdentifierThatCannotBeDecoded) {
   for (const std::string id : {"'0123456789ABCDEFGHIJ_'", "'0123456789ABCDEFGHIJ_$0'",
                                "'0123456789ABCDEFGHIJ_#'", "''", "$"}) {
     Model<TypeParam> model({{1, "IFCBUILDINGSTOREY(" + id + ",$,$,$,$,$,$,$,$,$)"}});
@@ -27,7 +27,7 @@ TYPED_TEST(Kernel, ReplacesAnIdentifierThatDoesNotDecode) {
   }
 }
 
-TYPED_TEST(Kernel, WritesANewIdentifierForAnEmptyOneAndKeepsItEmpty) {
+TYPED_TEST(Kernel, WritesANewIdentifierForAnEmptyTextAndKeepsTheEmptyText) {
   typename TypeParam::IfcBuilding building;
   building.SetGlobalId("");
   const std::string first = Text(building);
@@ -36,7 +36,7 @@ TYPED_TEST(Kernel, WritesANewIdentifierForAnEmptyOneAndKeepsItEmpty) {
   EXPECT_EQ(first.find("IFCBUILDING('"), 0u);
 }
 
-TYPED_TEST(Kernel, SetsAndGivesTheBinaryIdentifier) {
+TYPED_TEST(Kernel, SetsAndReturnsTheBinaryIdentifier) {
   typename TypeParam::IfcBuilding building;
   EXPECT_TRUE(IsNullGuid(building.GetGlobalGUID()));
   const _GUID guid = {0x01234567, 0x89AB, 0xCDEF, {1, 2, 3, 4, 5, 6, 7, 8}};
@@ -45,7 +45,7 @@ TYPED_TEST(Kernel, SetsAndGivesTheBinaryIdentifier) {
   EXPECT_TRUE(building.GetGlobalGUID() == guid);
 }
 
-TYPED_TEST(Kernel, SiteDropsItsPlaceOnTheGlobe) {
+TYPED_TEST(Kernel, SiteDropsItsLatitudeAndLongitude) {
   EXPECT_EQ(Rewritten<TypeParam>("IFCSITE(" + kId +
                                  ",$,$,$,$,$,$,$,.COMPLEX.,(1,2,3),(4,5,6),7.,'title',#9)"),
             "IFCSITE(" + kId + ",$,$,$,$,$,$,$,.ELEMENT.,$,$,$,$,$)");
@@ -67,14 +67,14 @@ TYPED_TEST(Kernel, StoreyWithoutElevationHasNone) {
       model.template Get<typename TypeParam::IfcBuildingStorey>(1)->GetElevation().GetExists());
 }
 
-TYPED_TEST(Kernel, ProductWithoutPlacementOrShapeGivesNull) {
+TYPED_TEST(Kernel, ProductWithoutPlacementOrShapeReturnsNull) {
   Model<TypeParam> model({{1, "IFCBUILDINGSTOREY(" + kId + ",$,$,$,$,$,$,$,$,$)"}});
   const auto* storey = model.template Get<typename TypeParam::IfcBuildingStorey>(1);
   EXPECT_EQ(storey->GetObjectPlacement(), nullptr);
   EXPECT_EQ(storey->GetRepresentation(), nullptr);
 }
 
-TYPED_TEST(Kernel, ReferenceToAnInstanceOfAnotherClassGivesNull) {
+TYPED_TEST(Kernel, ReferenceToAnInstanceOfAnotherClassReturnsNull) {
   Model<TypeParam> model(
       {{1, "IFCBUILDINGSTOREY(" + kId + ",$,$,$,$,#2,#2,$,$,$)"}, {2, "IFCDIRECTION((1.,0.))"}});
   const auto* storey = model.template Get<typename TypeParam::IfcBuildingStorey>(1);
@@ -82,7 +82,7 @@ TYPED_TEST(Kernel, ReferenceToAnInstanceOfAnotherClassGivesNull) {
   EXPECT_EQ(model.TextOf(1), "IFCBUILDINGSTOREY(" + kId + ",$,$,$,$,#2,#2,$,.ELEMENT.,$)");
 }
 
-TYPED_TEST(Kernel, ProjectGivesItsUnitsAndContexts) {
+TYPED_TEST(Kernel, ProjectReturnsItsUnitsAndContexts) {
   Model<TypeParam> model({{1, "IFCPROJECT(" + kId + ",$,'P',$,$,'long','phase',(#2,#99),#3)"},
                           {2, "IFCREPRESENTATIONCONTEXT('a','b')"},
                           {3, "IFCUNITASSIGNMENT(())"}});
@@ -92,7 +92,8 @@ TYPED_TEST(Kernel, ProjectGivesItsUnitsAndContexts) {
   ASSERT_EQ(contexts.GetSize(), 2u);
   EXPECT_NE(contexts[1], nullptr);
   EXPECT_EQ(contexts[2], nullptr) << "a dangling number keeps its position";
-  EXPECT_EQ(project->GetRepresentationContexts().GetSize(), 2u) << "a view robs nothing";
+  EXPECT_EQ(project->GetRepresentationContexts().GetSize(), 2u)
+      << "a view does not change the attribute";
 }
 
 TYPED_TEST(Kernel, SettersOutsideAModelMakeReferencesUnset) {
@@ -130,7 +131,7 @@ TYPED_TEST(Kernel, CopyKeepsItsReferencesThroughTheSource) {
   EXPECT_NE(copy.GetObjectPlacement(), nullptr);
 }
 
-TYPED_TEST(Kernel, NamesItselfAsTheSchemaDoes) {
+TYPED_TEST(Kernel, HasTheNameOfTheSchema) {
   EXPECT_STREQ(TypeParam::IfcBuildingStorey::GetItemName(), "IfcBuildingStorey");
   EXPECT_STREQ((typename TypeParam::IfcBuilding()).GetStepName(), "IfcBuilding");
 }

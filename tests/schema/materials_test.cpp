@@ -8,7 +8,7 @@ class Materials : public testing::Test {};
 using NewerReleases = testing::Types<Release2x, Release2x2, Release2x3>;
 TYPED_TEST_SUITE(Materials, NewerReleases);
 
-TYPED_TEST(Materials, LayerSetTellsItsLayersAheadOfThem) {
+TYPED_TEST(Materials, LayerSetSetsTheInverseOfLayersThatFollowIt) {
   Model<TypeParam> model({{1, "IFCMATERIALLAYERSET((#2,#3,#4,#5),'wall')"},
                           {2, "IFCMATERIALLAYER(#6,0.1,.T.)"},
                           {3, "IFCMATERIALLAYER(#6,0.25,$)"},
@@ -21,7 +21,7 @@ TYPED_TEST(Materials, LayerSetTellsItsLayersAheadOfThem) {
   EXPECT_EQ(model.template Get<Layer>(3)->GetToMaterialLayerSet(), layers);
   EXPECT_DOUBLE_EQ(layers->GetTotalThickness(), 0.35);
   EXPECT_EQ(layers->GetMaterialLayers().GetSize(), 4u);
-  EXPECT_EQ(layers->GetMaterialLayers()[3], nullptr) << "a material is no layer";
+  EXPECT_EQ(layers->GetMaterialLayers()[3], nullptr) << "a material is not a layer";
   EXPECT_EQ(model.TextOf(1), "IFCMATERIALLAYERSET((#2, #3, #4, #5),'wall')");
   EXPECT_EQ(model.TextOf(2), "IFCMATERIALLAYER(#6,0.1,.T.)");
 }
@@ -39,7 +39,7 @@ TYPED_TEST(Materials, UsageKeepsSenseAndOffset) {
             "IFCMATERIALLAYERSETUSAGE(#1,.AXIS2.,.POSITIVE.,1.)");
 }
 
-TEST(OldestMaterials, KeepWhatTheirReleaseHas) {
+TEST(OldestMaterials, KeepTheAttributesOfTheirRelease) {
   EXPECT_EQ(Rewritten<Release151>("IFCMATERIAL('brick',#7)"), "IFCMATERIAL('brick',#7)");
   EXPECT_EQ(Rewritten<Release20>("IFCMATERIAL('brick',$,(#1),(#2))"),
             "IFCMATERIAL('brick',$,(),())");
@@ -56,8 +56,8 @@ TEST(OldestMaterials, KeepWhatTheirReleaseHas) {
   }
 }
 
-// A material that is read behind its registry takes what its own record says.
-TEST(MaterialRegistry, TellsItsMaterials) {
+// A material that is read after its registry keeps the value of its own record.
+TEST(MaterialRegistry, ReturnsItsMaterials) {
   Model<Release151> model({{2, "IFCMATERIAL('a',$)"}, {1, "IFCPROJECTMATERIALREGISTRY((#2,#3))"}});
   EXPECT_EQ(model.Get<KelIFC151::IfcMaterial>(2)->GetRegisteredBy(),
             model.server.GetItem(std::size_t{1}));

@@ -17,20 +17,20 @@
 
 namespace KelIFC {
 
-/// What an instance writes, with the parenthesis that the file writer adds.
+/// Returns the text that an instance writes, with the parenthesis that the file writer adds.
 inline std::string Text(const IfcUnknown& instance) {
   std::ostringstream out;
   instance.Write(out);
   return out.str() + ")";
 }
 
-/// A model of one release that is filled statement by statement, as the two passes of a load do.
+/// A model of one release. It is filled with statements in two passes, as a load does.
 template <class R>
 class Model {
  public:
   Model() { server.SetRelease(R::kRelease); }
 
-  /// Makes the instances of all statements `number, text`, then reads them in order.
+  /// Makes the instances of all statements `number, text`. Then it reads the statements in order.
   explicit Model(const std::vector<std::pair<std::size_t, std::string>>& statements) : Model() {
     for (const auto& [number, text] : statements) {
       server.InsertItem(number, server.ParseClass(text.c_str(), nullptr));
@@ -53,7 +53,7 @@ class Model {
   IfcServer server;
 };
 
-/// The record that a single statement writes again.
+/// Returns the record that a single statement writes again.
 template <class R>
 std::string Rewritten(const std::string& text) {
   return Model<R>({{1, text}}).TextOf(1);

@@ -23,14 +23,14 @@ TEST(OldestPerson, HasPlainTextsIn20) {
   EXPECT_EQ(model.Get<KelIFC20::IfcPerson>(1)->GetPrefixTitles(), std::string("Mr."));
 }
 
-TEST(OldestOrganization, KeepsRolesAndAddressesIn20Alone) {
+TEST(OldestOrganization, KeepsRolesAndAddressesOnlyIn20) {
   EXPECT_EQ(Rewritten<Release20>("IFCORGANIZATION('BLIS',(#1),(#557),'text')"),
             "IFCORGANIZATION('BLIS',(#1),(#557),'text')");
   EXPECT_EQ(Rewritten<Release151>("IFCORGANIZATION('id','name','text',(#1),(#2))"),
             "IFCORGANIZATION('id','name','text',$,$)");
 }
 
-TEST(OldestApplication, NamesItselfAheadOfItsMaker) {
+TEST(OldestApplication, WritesItsIdentifierBeforeItsDeveloper) {
   const std::string text = "IFCAPPLICATION('id','full name','10',#559)";
   Model<Release20> model({{1, text}});
   EXPECT_EQ(model.TextOf(1), text);
@@ -55,7 +55,7 @@ TEST(OldestHistory, HoldsFlagsInDoubleQuotesIn20) {
             "IFCOWNERHISTORY(#1,#2,$,$,$,$)");
 }
 
-TEST(OldestRegistries, TellTheirPrograms) {
+TEST(OldestRegistries, ReturnTheirPrograms) {
   Model<Release151> model({{1, "IFCPROJECTAPPREGISTRY((#2,#4,#99))"},
                            {2, "IFCREGISTEREDAPPLICATION('id','name',#3)"},
                            {3, "IFCORGANIZATION($,'maker',$,$,$)"},

@@ -23,14 +23,14 @@ class OldestElements : public testing::Test {
 using OldestReleases = testing::Types<Release151, Release20>;
 TYPED_TEST_SUITE(OldestElements, OldestReleases);
 
-TYPED_TEST(OldestElements, DoorsAndWindowsKeepTheirMaterialAlone) {
+TYPED_TEST(OldestElements, DoorsAndWindowsKeepOnlyTheirMaterial) {
   for (const std::string name : {"IFCDOOR(", "IFCWINDOW("}) {
     EXPECT_EQ(Rewritten<TypeParam>(name + this->Product() + ",#9,2.,1.)"),
               name + this->Product() + ",#9)");
   }
 }
 
-TEST(OldestWall, IsSolidIn151WhateverItWas) {
+TEST(OldestWall, IsAlwaysWrittenAsSolidIn151) {
   EXPECT_EQ(Rewritten<Release151>("IFCWALL(" + kProduct151 + ",*,.LAYEREDWALL.,#9,1.,2.)"),
             "IFCWALL(" + kProduct151 + ",*,.SOLIDWALL.,#9,$,$)");
 }
@@ -43,7 +43,7 @@ TEST(OldestWall, KeepsLayersAndMeasuresIn20) {
   EXPECT_EQ(static_cast<double>(wall->GetCalcWallArea()), 2.73);
   EXPECT_EQ(static_cast<double>(wall->GetCalcWallVolume()), 0.41);
   EXPECT_EQ(wall->GetLayerInformation(), model.server.GetItem(std::size_t{9}));
-  EXPECT_EQ(wall->GetHasMaterial(), nullptr) << "the layers tell the material";
+  EXPECT_EQ(wall->GetHasMaterial(), nullptr) << "the layers define the material";
 }
 
 TEST(OldestSlabs, KeepTheirLayers) {
@@ -67,7 +67,7 @@ TEST(OldestBeam, KeepsItsMeasures) {
   EXPECT_EQ(Rewritten<Release20>(text), text);
 }
 
-TEST(OldestColumn, GivesItsMeasuresButDoesNotWriteThem) {
+TEST(OldestColumn, ReturnsItsMeasuresButDoesNotWriteThem) {
   Model<Release20> model({{1, "IFCCOLUMN(" + kProduct20 + ",#9,1.5,2.5)"}});
   const auto* column = model.Get<KelIFC20::IfcColumn>(1);
   EXPECT_EQ(static_cast<double>(column->calcColumnSectionArea()), 1.5);
@@ -86,14 +86,14 @@ TEST(OldestOpening, KeepsItsArea) {
   EXPECT_EQ(Rewritten<Release20>(text), text);
 }
 
-TYPED_TEST(OldestElements, TellTheirMaterial) {
+TYPED_TEST(OldestElements, ReturnTheirMaterial) {
   Model<TypeParam> model(
       {{1, "IFCDOOR(" + this->Product() + ",#9)"}, {9, "IFCMATERIAL('oak',$,(),())"}});
   EXPECT_EQ(model.template Get<typename TypeParam::IfcDoor>(1)->GetHasMaterial(),
             model.server.GetItem(std::size_t{9}));
 }
 
-TYPED_TEST(OldestElements, AreContainedByOneRelationshipAheadOfThem) {
+TYPED_TEST(OldestElements, AreContainedByARelationshipBeforeThem) {
   const std::string text = "IFCRELCONTAINS(" + this->Relationship() + ",#2,(#3,#4,#99),";
   const std::string tail = this->kIs151 ? ".SITECONTAINER.,.T.)" : ".SITECONTAINER.,.REFERENCED.)";
   Model<TypeParam> model({{1, text + tail},
@@ -120,7 +120,7 @@ TYPED_TEST(OldestElements, LoseAKindOfContainmentThatTheTableDoesNotHave) {
             head + "$," + end);
 }
 
-TYPED_TEST(OldestElements, TouchAndWriteTheRelationshipAlone) {
+TYPED_TEST(OldestElements, ThatTouchWriteOnlyTheRelationship) {
   const std::string root = this->Relationship();
   Model<TypeParam> model({{1, "IFCWALL(" + this->Product() + ")"},
                           {2, "IFCWALL(" + this->Product() + ")"},
@@ -155,7 +155,7 @@ TEST(OldestRelationship, KeepsItsHistoryAndPropertiesIn151) {
   EXPECT_EQ(Rewritten<Release151>(text), text);
 }
 
-TEST(RelControls, KeepsWhatItNames) {
+TEST(RelControls, KeepsItsReferences) {
   const std::string text = "IFCRELCONTROLS(" + kId + ",$,$,.T.,.F.,#7,(#8))";
   EXPECT_EQ(Rewritten<Release20>(text), text);
 }

@@ -13,7 +13,7 @@ using OldestReleases = testing::Types<Release151, Release20>;
 TYPED_TEST_SUITE(OldestKernel, OldestReleases);
 
 const std::string kId = "'0123456789ABCDEFGHIJ'";
-/// What stands ahead of the attributes of a product: root, object, product.
+/// The positions before the attributes of a product: root, object, product.
 const std::string kObject151 = kId + ",#2,(#3),(#4),(#5)";
 const std::string kProduct151 = kObject151 + ",#6,#7,#8,#9";
 const std::string kObject20 = kId + ",#2,'label','user',(#3)";
@@ -28,13 +28,13 @@ TEST(OldestRoot, KeepsAnyTextAsIdentifier) {
   }
 }
 
-/// The identifier that a record begins with.
+/// Returns the identifier at the start of a record.
 std::string IdIn(const std::string& record) {
   const auto open = record.find('\'');
   return record.substr(open + 1, record.rfind('\'') - open - 1);
 }
 
-TEST(OldestRoot, WritesANewIdentifierForAnEmptyOneAndKeepsItEmpty) {
+TEST(OldestRoot, WritesANewIdentifierForAnEmptyTextAndKeepsTheEmptyText) {
   for (const std::string id : {"''", "$"}) {
     Model<Release151> model({{1, "IFCLOCALPLACEMENT(" + id + ",$,#2)"}});
     const std::string first = IdIn(model.TextOf(1));
@@ -87,7 +87,7 @@ TYPED_TEST(OldestKernel, PlacementsAreRelativeToProductsAndToTheProject) {
   EXPECT_EQ(UnknownOf(model.template Get<Placement>(3)->GetPlacementRelTo()),
             model.server.GetItem(std::size_t{4}));
   EXPECT_EQ(model.template Get<Placement>(5)->GetPlacementRelTo(), nullptr)
-      << "a placement is nothing that another is relative to";
+      << "a placement cannot be relative to a placement";
 }
 
 TEST(OldestSpatialStructure, IsWrittenWithFixedTypesIn151) {
@@ -99,7 +99,7 @@ TEST(OldestSpatialStructure, IsWrittenWithFixedTypesIn151) {
             "IFCBUILDINGSTOREY(" + kProduct151 + ",.BUILDINGSTOREY.,1.,2.,3.,4.)");
 }
 
-TEST(OldestSpatialStructure, KeepsWhatItsReleaseHasIn20) {
+TEST(OldestSpatialStructure, KeepsItsAttributesIn20) {
   for (const std::string& record :
        {"IFCSITE(" + kProduct20 + ",(1, 2, 3),(4, 5, 6),7.,#8,9.,10.)",
         "IFCBUILDING(" + kProduct20 + ",'ref','name',1.,2.,3.,4.,5.)",
@@ -108,7 +108,7 @@ TEST(OldestSpatialStructure, KeepsWhatItsReleaseHasIn20) {
   }
 }
 
-TEST(OldestSpatialStructure, GivesAnglesAsTheyStand) {
+TEST(OldestSpatialStructure, ReturnsTheAnglesOfTheFile) {
   Model<Release20> model({{1, "IFCSITE(" + kProduct20 + ",(49,6,-12),$,7.,$,9.,10.)"}});
   const auto* site = model.Get<KelIFC20::IfcSite>(1);
   const KelIFC20::IfcCompoundPlaneAngleMeasure latitude = site->GetRefLatitude();
@@ -146,7 +146,7 @@ TEST(OldestProxy, IsAlwaysAProduct) {
             "IFCPROXY(" + kObject20 + ",.PRODUCT.,#8,(#9))");
 }
 
-TEST(OldestShapes, OfAProductAreFoundAmongItsRepresentationsIn20) {
+TEST(OldestShapes, OfAProductAreItemsOfItsRepresentationsIn20) {
   Model<Release20> model({{1, "IFCCOLUMN(" + kObject20 + ",$,(#9,#10,#2),$,$,1.,2.)"},
                           {2, "IFCPRODUCTDEFINITIONSHAPE('id',$,$,$,(#3))"},
                           {3, "IFCSHAPEREPRESENTATION($,'IAI','BoundingBox',())"},
@@ -162,7 +162,7 @@ TEST(OldestShapes, OfAProductAreFoundAmongItsRepresentationsIn20) {
   shapeless->AddShapeRepresentation(model.Get<KelIFC20::IfcShapeRepresentation>(4));
 }
 
-TEST(OldestShapes, OfAProductGoToItsShapeIn151) {
+TEST(OldestShapes, OfAProductAreAddedToItsProductShapeIn151) {
   Model<Release151> model({{1, "IFCCOLUMN(" + kObject151 + ",$,#2,$,$,$)"},
                            {2, "IFCPRODUCTSHAPE('id',(#3),'solid')"},
                            {3, "IFCSHAPEREPRESENTATION((),#9,.BREP.,'id')"},
@@ -171,17 +171,18 @@ TEST(OldestShapes, OfAProductGoToItsShapeIn151) {
   model.Get<KelIFC151::IfcColumn>(1)->AddShapeRepresentation(shape);
   EXPECT_EQ(model.TextOf(2), "IFCPRODUCTSHAPE('id',(#3, #3),'solid')");
   model.Get<KelIFC151::IfcColumn>(4)->AddShapeRepresentation(shape);
-  EXPECT_EQ(model.TextOf(3), "IFCSHAPEREPRESENTATION((),#9,.BREP.,$)") << "no shape of a product";
+  EXPECT_EQ(model.TextOf(3), "IFCSHAPEREPRESENTATION((),#9,.BREP.,$)")
+      << "#3 is not a product shape, so nothing is added";
 }
 
-TEST(OldestProperties, AreGivenAsAView) {
+TEST(OldestProperties, AreReturnedAsAView) {
   Model<Release151> model({{1, "IFCCOLUMN(" + kId + ",$,(),(),(#2,#1))"},
                            {2, "IFCPROPERTYSET('set',(#3))"},
                            {3, "IFCSIMPLEPROPERTY('height',IFCLENGTHMEASURE(2.5))"}});
   const auto view = model.Get<KelIFC151::IfcColumn>(1)->GetExtendedProperties();
   ASSERT_EQ(view.GetSize(), 2u);
   EXPECT_EQ(view[1], model.server.GetItem(std::size_t{2}));
-  EXPECT_EQ(view[2], nullptr) << "a column is no set of properties";
+  EXPECT_EQ(view[2], nullptr) << "a column is not a property set";
   EXPECT_EQ(model.TextOf(2), "IFCPROPERTYSET('set',(#3))");
   EXPECT_EQ(model.TextOf(3), "IFCSIMPLEPROPERTY('height',IFCLENGTHMEASURE(2.5))");
   ASSERT_NE(model.Get<KelIFC151::IfcSimpleProperty>(3)->GetValueComponent(), nullptr);
@@ -192,7 +193,7 @@ TEST(OldestProperties, LoseAValueOfATypeThatTheReleaseDoesNotKnow) {
             "IFCSIMPLEPROPERTY('street',$)");
 }
 
-TEST(ProductShape, WritesANewIdentifierForAnEmptyOne) {
+TEST(ProductShape, WritesANewIdentifierForAnEmptyText) {
   _GUID guid = {};
   const std::string id = IdIn(Rewritten<Release151>("IFCPRODUCTSHAPE($,(#1),$)"));
   EXPECT_TRUE(IfcServer::DecodeGUID(id.c_str(), guid));

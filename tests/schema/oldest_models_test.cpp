@@ -4,14 +4,14 @@
 #include "tests/schema/model.h"
 #include "tests/server/temp_file.h"
 
-// The shipped models of the two oldest releases, from their file to their shapes and back.
+// Loads the shipped models of the two oldest releases, reads their shapes and writes them again.
 
 namespace KelIFC {
 namespace {
 
 std::string Example(const std::string& name) { return std::string(kExamplesDir) + "/" + name; }
 
-/// What each instance writes, by number.
+/// Returns the text that each instance writes, by number.
 std::map<std::size_t, std::string> RecordsOf(IfcServer& server) {
   std::map<std::size_t, std::string> records;
   for (std::size_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) {
@@ -20,7 +20,7 @@ std::map<std::size_t, std::string> RecordsOf(IfcServer& server) {
   return records;
 }
 
-/// The only object of a kind of container.
+/// Returns the only object of a kind of container.
 template <class Part, class Whole>
 const Part* OnlyPart(const Whole* whole) {
   if (whole == nullptr || whole->GetContains().GetSize() != 1) return nullptr;
@@ -52,7 +52,7 @@ class OldestModels : public testing::Test {
  public:
   OldestModels() { status = server.LoadIfcFile(Example(Shipped<R>::kFile).c_str()); }
 
-  /// What the ground floor contains.
+  /// Returns the objects that the ground floor contains.
   auto Parts() {
     const auto* site = OnlyPart<typename R::IfcSite>(Shipped<R>::Project(server));
     const auto* building = OnlyPart<typename R::IfcBuilding>(site);
@@ -68,7 +68,7 @@ class OldestModels : public testing::Test {
 using OldestReleases = testing::Types<Release151, Release20>;
 TYPED_TEST_SUITE(OldestModels, OldestReleases);
 
-TYPED_TEST(OldestModels, AreWalkedFromTheProjectToTheElements) {
+TYPED_TEST(OldestModels, LeadFromTheProjectToTheElements) {
   ASSERT_EQ(this->status, 0);
   EXPECT_EQ(this->server.GetRelease(), TypeParam::kRelease);
   const auto parts = this->Parts();
@@ -84,10 +84,10 @@ TYPED_TEST(OldestModels, AreWalkedFromTheProjectToTheElements) {
     EXPECT_NE(placement->GetPlacementRelTo(), nullptr);
     EXPECT_NE(placement->GetRelativePlacement(), nullptr);
   }
-  EXPECT_GE(placed, parts.GetSize() - 1) << "a proxy is no product";
+  EXPECT_GE(placed, parts.GetSize() - 1) << "a proxy is not a product";
 }
 
-TYPED_TEST(OldestModels, TellTheirUnits) {
+TYPED_TEST(OldestModels, ReturnTheirUnits) {
   const auto* units = Shipped<TypeParam>::Project(this->server)->GetUnitsInContext();
   ASSERT_NE(units, nullptr);
   const auto all = units->GetUnits();
@@ -114,7 +114,7 @@ TYPED_TEST(OldestModels, HaveOpeningsWithFillings) {
   EXPECT_EQ(openings, 1u);
 }
 
-TYPED_TEST(OldestModels, ComeBackTheSameFromTheirSecondSave) {
+TYPED_TEST(OldestModels, AreTheSameAfterTheirSecondSave) {
   const TempFile first;
   ASSERT_EQ(this->server.SaveIfcFile(first.GetPath()), 0);
   IfcServer again;
@@ -126,8 +126,8 @@ TYPED_TEST(OldestModels, ComeBackTheSameFromTheirSecondSave) {
   ASSERT_EQ(last.LoadIfcFile(second.GetPath()), 0);
   const auto before = RecordsOf(again);
   auto after = RecordsOf(last);
-  // Each plane placement that is read adds a direction, which is unset when it has been read
-  // itself.
+  // Each placement in the plane that is read adds a direction. The direction is unset after it has
+  // been read.
   std::size_t added = 0;
   for (const auto& [number, record] : after) {
     const auto known = before.find(number);
@@ -158,7 +158,7 @@ TEST(OldestModel, OfAPavilionHasARoundOutline) {
   EXPECT_EQ(round, 1u);
 }
 
-TEST(OldestModel, OfAShedTellsItsSolidsAndBoxes) {
+TEST(OldestModel, OfAShedReturnsItsSolidsAndBoxes) {
   IfcServer server;
   ASSERT_EQ(server.LoadIfcFile(Example("shed.ifc").c_str()), 0);
   std::size_t solids = 0;

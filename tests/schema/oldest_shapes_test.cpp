@@ -24,7 +24,7 @@ std::vector<std::pair<double, double>> PairsOf(const Points& points) {
   return pairs;
 }
 
-TYPED_TEST(OldestShapes, ProfilesReadAPositionButWriteTheMark) {
+TYPED_TEST(OldestShapes, ProfilesReadAPositionButWriteAStar) {
   EXPECT_EQ(Rewritten<TypeParam>("IFCRECTANGLEPROFILEDEF(*,.AREA.,2.,3.)"),
             "IFCRECTANGLEPROFILEDEF(*,.AREA.,2.,3.)");
   EXPECT_EQ(Rewritten<TypeParam>("IFCCIRCLEPROFILEDEF(*,.CURVE.,2.)"),
@@ -159,7 +159,7 @@ TYPED_TEST(OldestShapes, PathFollowsAnArcInChords) {
   }
 }
 
-TYPED_TEST(OldestShapes, PathGoesTheOtherWayRoundAgainstTheSense) {
+TYPED_TEST(OldestShapes, PathIsReversedIfTheSenseIsReversed) {
   Model<TypeParam> model(SolidOn("IFCCOMPOSITECURVE((#25),.F.)"));
   const auto points = PathOf(model);
   ASSERT_EQ(points.size(), 49u) << "three quarters";
@@ -177,7 +177,7 @@ TYPED_TEST(OldestShapes, PathJoinsArcsAndLines) {
   EXPECT_EQ(PathOf(model).size(), 36u) << "a second call adds the points again";
 }
 
-TYPED_TEST(OldestShapes, PathOfALineAgainstTheSenseHasItsSecondEndTwice) {
+TYPED_TEST(OldestShapes, PathOfAReversedLineHasItsSecondEndTwice) {
   const std::vector<std::pair<double, double>> against = {{1, 0}, {1, 0}};
   const std::vector<std::pair<double, double>> along = {{0, 1}, {1, 0}};
   Model<TypeParam> first(SolidOn("IFCCOMPOSITECURVE((#22),.F.)"));
@@ -186,12 +186,12 @@ TYPED_TEST(OldestShapes, PathOfALineAgainstTheSenseHasItsSecondEndTwice) {
   EXPECT_EQ(PathOf(second), along);
 }
 
-TYPED_TEST(OldestShapes, PathPassesByWhatIsNotTrimmedByPoints) {
+TYPED_TEST(OldestShapes, PathSkipsCurvesThatAreNotTrimmedByPoints) {
   Model<TypeParam> model(SolidOn("IFCCOMPOSITECURVE((#24,#10,#99),.F.)"));
   EXPECT_TRUE(PathOf(model).empty());
 }
 
-TYPED_TEST(OldestShapes, PathOfAnArcWithoutNumbersEnds) {
+TYPED_TEST(OldestShapes, PathOfAnArcWithNanCoordinatesEnds) {
   Model<TypeParam> model(SolidOn("IFCCOMPOSITECURVE((#26),.F.)"));
   EXPECT_EQ(PathOf(model).size(), 3u);
 }
@@ -202,7 +202,7 @@ TYPED_TEST(OldestShapes, PathOutsideAModelIsEmpty) {
   EXPECT_TRUE(solid.GetPath()->GetPoints().GetEmpty());
 }
 
-TYPED_TEST(OldestShapes, SegmentReadsItsDepthBehindTwoMarks) {
+TYPED_TEST(OldestShapes, SegmentReadsItsDepthAfterTwoStars) {
   const std::string text = "IFCATTDRIVENEXTRUDEDSEGMENT(*,*,2734.,#2,#4)";
   Model<TypeParam> model(
       {{1, text}, {2, "IFCAXIS2PLACEMENT3D(#3,$,$)"}, {4, "IFCCIRCLEPROFILEDEF(*,.AREA.,2.)"}});
@@ -235,16 +235,17 @@ TYPED_TEST(OldestShapes, BoundedPlaneDropsItsInnerBoundaries) {
             "IFCCURVEBOUNDEDPLANE(#1,#2,())");
 }
 
-TYPED_TEST(OldestShapes, ExtrudedAreaSolidCannotBeNamedByAFile) {
+TYPED_TEST(OldestShapes, FileCannotContainAnExtrudedAreaSolid) {
   Model<TypeParam> model({{1, "IFCEXTRUDEDAREASOLID(#1,#2,#3,4.)"}});
   EXPECT_EQ(model.TextOf(1), "null");
   typename TypeParam::IfcExtrudedAreaSolid solid;
   solid.Parse("IFCEXTRUDEDAREASOLID(#1,#2,#3,4.)");
   EXPECT_EQ(static_cast<double>(solid.GetDepth()), 4.0);
-  EXPECT_EQ(Text(solid), "IFCEXTRUDEDAREASOLID(#1,#2)") << "what is its own is not written";
+  EXPECT_EQ(Text(solid), "IFCEXTRUDEDAREASOLID(#1,#2)")
+      << "a save does not write the attributes of the class itself";
 }
 
-TYPED_TEST(OldestShapes, VectorTurnsAPointIntoANewOne) {
+TYPED_TEST(OldestShapes, VectorMovesAPointToANewPoint) {
   Model<TypeParam> model({{1, "IFCCARTESIANPOINT((1.,2.))"}});
   const auto& point = *model.template Get<IfcCartesianPoint>(1);
   const typename TypeParam::IfcVector vector(
@@ -263,7 +264,7 @@ TYPED_TEST(OldestShapes, VectorTurnsAPointIntoANewOne) {
   EXPECT_EQ(move(nullptr), nullptr);
 }
 
-TEST(BoundedCurveDim, IsThatOfTheCurve) {
+TEST(BoundedCurveDim, ReturnsTheDimensionOfTheCurve) {
   Model<Release151> model({{1, "IFCCARTESIANPOINT((1.,2.))"}, {2, "IFCPOLYLINE((#1))"}});
   EXPECT_EQ(
       static_cast<int>(KelIFC151::IfcBoundedCurveDim(*model.Get<KelIFC151::IfcBoundedCurve>(2))),

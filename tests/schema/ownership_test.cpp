@@ -1,11 +1,11 @@
 #include "tests/schema/model.h"
 
-// Who owns an instance after a host has handed it to an operation that embeds instances.
+// Tests who owns an instance after a host has passed it to an operation that embeds instances.
 
 namespace KelIFC {
 namespace {
 
-/// An instance of a class that counts how many of its kind were destroyed.
+/// An instance of a class that counts its destroyed instances.
 template <class Base>
 class Counted : public Base {
  public:
@@ -19,7 +19,7 @@ using Point = Counted<IfcCartesianPoint>;
 using Measure = Counted<IfcLengthMeasure>;
 using Number = Counted<KelIFC2x3::IfcReal>;
 
-/// A model of one release and ways to hand its instances on.
+/// A model of one release, and functions that pass its instances to operations.
 template <class R>
 class Ownership : public testing::Test {
  protected:
@@ -42,7 +42,7 @@ class Ownership : public testing::Test {
     return instance;
   }
 
-  /// The model holds the instance, and destroys it only once.
+  /// Checks that the model holds the instance and destroys it only once.
   template <class Type>
   void ExpectHeldOnce(const Type* instance) {
     ASSERT_EQ(Type::destroyed, 0);
@@ -121,7 +121,7 @@ TYPED_TEST(Ownership, ModelKeepsTheDirectionOfAVectorThatIsReadAgain) {
   this->ExpectHeldOnce(direction);
 }
 
-TYPED_TEST(Ownership, ModelKeepsTheDirectionOfAVectorThatGetsAnother) {
+TYPED_TEST(Ownership, ModelKeepsTheDirectionOfAVectorThatGetsAnotherDirection) {
   auto* direction = this->Add(this->server, this->MakeDirection());
   auto* vector = this->Add(this->server, new typename TestFixture::Vector);
   vector->SetOrientation(direction);
@@ -146,7 +146,7 @@ TYPED_TEST(Ownership, ModelKeepsTheDirectionOfAVectorAndOfItsCopies) {
   this->ExpectHeldOnce(direction);
 }
 
-TYPED_TEST(Ownership, VectorOfNoModelLosesADirectionThatItsModelDeletes) {
+TYPED_TEST(Ownership, VectorWithoutAModelLosesADirectionThatItsModelDeletes) {
   auto* direction = this->Add(this->server, this->MakeDirection());
   const typename TestFixture::Vector vector(direction, IfcLengthMeasure(2.0));
   this->server.DeleteItem(direction);
@@ -170,7 +170,7 @@ TYPED_TEST(Ownership, VectorOwnsADirectionThatNoModelHolds) {
   EXPECT_EQ(vector->GetOrientation(), first);
   EXPECT_EQ(first->GetServer(), &this->server);
   vector->SetOrientation(first);
-  ASSERT_EQ(TestFixture::Direction::destroyed, 0) << "it was handed over twice";
+  ASSERT_EQ(TestFixture::Direction::destroyed, 0) << "it was passed twice";
   EXPECT_EQ(vector->GetOrientation(), first);
   vector->SetOrientation(this->MakeDirection());
   EXPECT_EQ(TestFixture::Direction::destroyed, 1);
@@ -178,7 +178,7 @@ TYPED_TEST(Ownership, VectorOwnsADirectionThatNoModelHolds) {
   EXPECT_EQ(TestFixture::Direction::destroyed, 2);
 }
 
-TYPED_TEST(Ownership, VectorGivesADirectionToTheModelThatHoldsItSince) {
+TYPED_TEST(Ownership, VectorLeavesADirectionToAModelThatHoldsItLater) {
   auto* direction = this->MakeDirection();
   auto* vector = this->Add(this->server, new typename TestFixture::Vector);
   vector->SetOrientation(direction);
@@ -189,7 +189,7 @@ TYPED_TEST(Ownership, VectorGivesADirectionToTheModelThatHoldsItSince) {
   this->ExpectHeldOnce(direction);
 }
 
-TYPED_TEST(Ownership, CopyOfAVectorSetsItsDirectionByItself) {
+TYPED_TEST(Ownership, CopyOfAVectorSetsItsOwnDirection) {
   auto* direction = this->Add(this->server, this->MakeDirection());
   auto source = std::make_unique<typename TestFixture::Vector>();
   source->SetServer(&this->server);
@@ -211,7 +211,7 @@ TYPED_TEST(Ownership, ModelKeepsAPointThatIsAddedToATrim) {
   this->ExpectHeldOnce(point);
 }
 
-TYPED_TEST(Ownership, ModelKeepsAPointThatIsAddedToACurveOfNoModel) {
+TYPED_TEST(Ownership, ModelKeepsAPointThatIsAddedToACurveWithoutAModel) {
   auto* point = this->Add(this->server, new Point(REAL(1.0), REAL(2.0)));
   auto curve = std::make_unique<typename TestFixture::Curve>();
   curve->AddTrim2(point);
@@ -234,7 +234,7 @@ TYPED_TEST(Ownership, ModelKeepsAParameterThatIsAddedToATrim) {
   this->ExpectHeldOnce(parameter);
 }
 
-TYPED_TEST(Ownership, TrimOwnsAParameterThatIsAddedTwiceOnce) {
+TYPED_TEST(Ownership, TrimOwnsAParameterOnceIfItIsAddedTwice) {
   auto* curve = this->Add(this->server, new typename TestFixture::Curve);
   auto* parameter = new Parameter(0.5);
   curve->AddTrim1(parameter);
@@ -254,7 +254,7 @@ TYPED_TEST(Ownership, TrimDestroysASecondInlineValue) {
   EXPECT_EQ(curve->GetParameterTrim1(), parameter);
 }
 
-TYPED_TEST(OldestOwnership, ModelKeepsAPointThatALineIsToOwn) {
+TYPED_TEST(OldestOwnership, ModelKeepsAPointThatIsAddedToALineAsItsOwn) {
   auto* point = this->Add(this->server, new Point(REAL(1.0), REAL(2.0)));
   auto* line = this->Add(this->server, new typename TypeParam::IfcPolyLine);
   line->AddOwnPoint(point);

@@ -49,7 +49,7 @@ TYPED_TEST(Placement, WithoutDirectionsHasTheAxesOfTheWorld) {
   EXPECT_EQ(AllRatios(place->GetP()), kWorld);
 }
 
-TYPED_TEST(Placement, WithAnAxisAloneHasTheAxesOfTheWorld) {
+TYPED_TEST(Placement, WithOnlyAnAxisHasTheAxesOfTheWorld) {
   Model<TypeParam> model({{1, "IFCCARTESIANPOINT((1.,2.,3.))"},
                           {2, "IFCDIRECTION((1.,0.,0.))"},
                           {3, "IFCAXIS2PLACEMENT3D(#1,#2,$)"},
@@ -77,7 +77,7 @@ TYPED_TEST(Placement, WithParallelDirectionsHasNoSecondAxis) {
   EXPECT_EQ(Ratios(place->GetP()[2]), (Numbers{0, 0, 0}));
 }
 
-TYPED_TEST(Placement, CrossProductTakesADirectionOfThePlaneForZero) {
+TYPED_TEST(Placement, CrossProductReadsADirectionInThePlaneAsZero) {
   using Direction = typename TypeParam::IfcDirection;
   const Direction plane(REAL(1.0), REAL(0.0));
   const Direction z(REAL(0.0), REAL(0.0), REAL(1.0));
@@ -86,7 +86,7 @@ TYPED_TEST(Placement, CrossProductTakesADirectionOfThePlaneForZero) {
   EXPECT_EQ(static_cast<double>(product->GetMagnitude()), 0.0);
 }
 
-TYPED_TEST(Placement, CrossProductHasItsLengthForMagnitude) {
+TYPED_TEST(Placement, CrossProductHasItsLengthAsMagnitude) {
   using Direction = typename TypeParam::IfcDirection;
   const Direction x(REAL(3.0), REAL(0.0), REAL(0.0));
   const Direction y(REAL(0.0), REAL(2.0), REAL(0.0));
@@ -113,12 +113,12 @@ TYPED_TEST(Placement, In2DWithoutLocationAddsADirectionWithoutRatios) {
   EXPECT_EQ(model.TextOf(10), "IFCDIRECTION(())");
 }
 
-TYPED_TEST(Placement, In2DAheadOfItsLocationAddsADirectionWithoutRatios) {
+TYPED_TEST(Placement, In2DBeforeItsLocationAddsADirectionWithoutRatios) {
   Model<TypeParam> model({{9, "IFCAXIS2PLACEMENT2D(#12,$)"}, {12, "IFCCARTESIANPOINT((1.,2.))"}});
   EXPECT_EQ(model.TextOf(13), "IFCDIRECTION(())");
 }
 
-TYPED_TEST(Placement, In2DWithoutServerAddsNone) {
+TYPED_TEST(Placement, In2DWithoutServerAddsNoDirection) {
   typename TypeParam::IfcAxis2Placement2D place;
   place.Parse("IFCAXIS2PLACEMENT2D(#1,#2)");
   EXPECT_EQ(Text(place), "IFCAXIS2PLACEMENT2D(#1,#2)");
@@ -131,7 +131,7 @@ TYPED_TEST(Placement, In2DWithoutRefDirectionHasTheAxesOfThePlane) {
   EXPECT_EQ(AllRatios(place->GetP()), (Rows{{1, 0}, {0, 1}}));
 }
 
-TYPED_TEST(NewerPlacement, In2DLeavesTheSecondAxisOfAGivenFirstWithoutValues) {
+TYPED_TEST(NewerPlacement, In2DHasASecondAxisWithoutValuesIfRefDirectionIsSet) {
   Model<TypeParam> model({{7, "IFCCARTESIANPOINT((1.,2.))"},
                           {8, "IFCDIRECTION((0.,1.))"},
                           {9, "IFCAXIS2PLACEMENT2D(#7,#8)"}});
@@ -149,7 +149,7 @@ TYPED_TEST(OlderPlacement, In2DTurnsTheFirstAxis) {
   EXPECT_NEAR(axes[1][1], 0.0, 1e-15);
 }
 
-TYPED_TEST(OlderPlacement, OrthogonalComplementTurnsInThePlaneOnly) {
+TYPED_TEST(OlderPlacement, OrthogonalComplementTurnsOnlyDirectionsInThePlane) {
   using Direction = typename TypeParam::IfcDirection;
   const Direction x(REAL(1.0), REAL(0.0));
   const Direction turned = IfcOrthogonalComplement(&x);
@@ -162,7 +162,7 @@ TYPED_TEST(OlderPlacement, OrthogonalComplementTurnsInThePlaneOnly) {
   EXPECT_EQ(Ratios(&none), Numbers{});
 }
 
-TYPED_TEST(Placement, VectorLosesItsContentsWhenItIsWritten) {
+TYPED_TEST(Placement, VectorWritesNoAttributes) {
   Model<TypeParam> model({{1, "IFCDIRECTION((1.,0.))"}, {2, "IFCVECTOR(#1,2.5)"}});
   const auto* vector = model.template Get<typename TypeParam::IfcVector>(2);
   EXPECT_EQ(static_cast<double>(vector->GetMagnitude()), 2.5);
@@ -171,7 +171,7 @@ TYPED_TEST(Placement, VectorLosesItsContentsWhenItIsWritten) {
   EXPECT_EQ(model.TextOf(2), "IFCVECTOR()");
 }
 
-TYPED_TEST(Placement, VectorOwnsTheDirectionItIsGiven) {
+TYPED_TEST(Placement, VectorOwnsADirectionThatAHostSets) {
   using Direction = typename TypeParam::IfcDirection;
   IfcServer server;
   typename TypeParam::IfcVector vector(&server, new Direction(REAL(1.0), REAL(2.0)),
@@ -186,7 +186,7 @@ TYPED_TEST(Placement, VectorWithoutOrientationHasNoDimension) {
   EXPECT_EQ(static_cast<int>(vector.GetDim()), 0);
 }
 
-TYPED_TEST(Placement, DirectionOfADimensionHasRatiosThatAreUnset) {
+TYPED_TEST(Placement, DirectionWithADimensionHasUnsetRatios) {
   EXPECT_EQ(Text(typename TypeParam::IfcDirection(INTEGER(2))), "IFCDIRECTION(($,$))");
   EXPECT_EQ(Text(typename TypeParam::IfcDirection(INTEGER(-1))), "IFCDIRECTION(())");
 }
@@ -204,7 +204,7 @@ TYPED_TEST(Placement, WithoutLocationHasNoDimension) {
   EXPECT_EQ(static_cast<int>(place.GetDim()), 0);
 }
 
-TYPED_TEST(Placement, TakesALocationByNumberOrInstance) {
+TYPED_TEST(Placement, AcceptsALocationByNumberOrInstance) {
   Model<TypeParam> model({{1, "IFCCARTESIANPOINT((1.,2.,3.))"}, {2, "IFCAXIS2PLACEMENT3D($,$,$)"}});
   auto* place = model.template Get<typename TypeParam::IfcAxis2Placement3D>(2);
   auto* point = model.template Get<IfcCartesianPoint>(1);
@@ -228,14 +228,14 @@ TYPED_TEST(NewerPlacement, LocalPlacementHasTwoReferences) {
   EXPECT_EQ(model.TextOf(3), "IFCLOCALPLACEMENT(#1,#2)");
 }
 
-TEST(LocalPlacement, StandsBehindTheAttributesOfTheRootInTheOldestReleases) {
+TEST(LocalPlacement, FollowsTheAttributesOfTheRootInTheOldestReleases) {
   EXPECT_EQ(Rewritten<Release151>("IFCLOCALPLACEMENT('01234567890123456789',#2,#3)"),
             "IFCLOCALPLACEMENT('01234567890123456789',#2,#3)");
   EXPECT_EQ(Rewritten<Release20>("IFCLOCALPLACEMENT('01234567890123456789',#5,'label',#2,#3)"),
             "IFCLOCALPLACEMENT('01234567890123456789',#5,'label',#2,#3)");
 }
 
-TEST(LocalPlacement, WritesAnIdentifierWhereTheTextIsEmptyInTheOldestReleases) {
+TEST(LocalPlacement, WritesAnIdentifierForAnEmptyTextInTheOldestReleases) {
   const std::string text = Rewritten<Release151>("IFCLOCALPLACEMENT($,#2,#3)");
   EXPECT_EQ(text.size(), std::string("IFCLOCALPLACEMENT('01234567890123456789',#2,#3)").size());
 }
@@ -245,12 +245,12 @@ class SpaceOperator : public testing::Test {};
 using NewestReleases = testing::Types<Release2x2, Release2x3>;
 TYPED_TEST_SUITE(SpaceOperator, NewestReleases);
 
-TYPED_TEST(SpaceOperator, WithThreeScalesWritesNoCommaBehindItsThirdAxis) {
+TYPED_TEST(SpaceOperator, WithThreeScalesWritesNoCommaAfterItsThirdAxis) {
   const std::string name = "IFCCARTESIANTRANSFORMATIONOPERATOR3DNONUNIFORM";
   EXPECT_EQ(Rewritten<TypeParam>(name + "(#1,#2,#3,1.,#4,2.,3.)"), name + "(#1,#2,#3,1.,#42.,3.)");
 }
 
-TYPED_TEST(SpaceOperator, GivesBackWhatTheFileHolds) {
+TYPED_TEST(SpaceOperator, ReturnsTheValuesOfTheFile) {
   Model<TypeParam> model({{1, "IFCCARTESIANTRANSFORMATIONOPERATOR3D($,#2,$,1.5,#2)"},
                           {2, "IFCDIRECTION((1.,0.,0.))"}});
   const auto* change =

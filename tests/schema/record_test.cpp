@@ -11,7 +11,7 @@ namespace {
 enum Kind : std::int32_t { kFirst = 1, kSecond = 2 };
 constexpr EnumTextRow kKinds[] = {{"FIRST", 1}, {"SECOND", 2}};
 
-TEST(ParseRecord, ReadsPartsOneBehindTheOther) {
+TEST(ParseRecord, ReadsPartsInOrder) {
   INTEGER first;
   Kind kind = kFirst;
   INTEGER last;
@@ -22,7 +22,7 @@ TEST(ParseRecord, ReadsPartsOneBehindTheOther) {
   EXPECT_EQ(static_cast<int>(last), 9);
 }
 
-TEST(ParseRecord, LeavesEverythingUnsetBehindTheEnd) {
+TEST(ParseRecord, LeavesPartsUnsetAfterTheEnd) {
   INTEGER first(5);
   Kind kind = kSecond;
   EXPECT_EQ(ParseRecord(nullptr, first, Enumerated(kind, kKinds, kFirst)), nullptr);
@@ -30,13 +30,13 @@ TEST(ParseRecord, LeavesEverythingUnsetBehindTheEnd) {
   EXPECT_EQ(kind, kFirst);
 }
 
-TEST(WriteRecord, PutsCommasBetweenPartsAndAheadOfThoseOfADerivedClass) {
+TEST(WriteRecord, WritesCommasBetweenPartsAndBeforeThePartsOfADerivedClass) {
   std::ostringstream out;
   WriteNext(WriteFirst(out, INTEGER(1), Literal("*")), INTEGER(), Enumerated(kSecond, kKinds));
   EXPECT_EQ(out.str(), "1,*,$,.SECOND.");
 }
 
-TEST(GlobalId64, IsMadeAnewWhereItDoesNotDecode) {
+TEST(GlobalId64, IsReplacedIfItCannotBeDecoded) {
   STRING text;
   EXPECT_STREQ(ParseRecord("'short',rest", GlobalId64(text)), "rest");
   EXPECT_EQ(text.size(), 22u);
@@ -44,7 +44,7 @@ TEST(GlobalId64, IsMadeAnewWhereItDoesNotDecode) {
   EXPECT_EQ(text, std::string("0123456789ABCDEFGHIJ_$"));
 }
 
-TEST(GlobalId85, IsWrittenAnewWhereItIsEmpty) {
+TEST(GlobalId85, IsWrittenAsANewIdentifierIfItIsEmpty) {
   const STRING empty;
   std::ostringstream out;
   WriteFirst(out, GlobalId85(empty));

@@ -6,16 +6,18 @@
 
 namespace KelIFC {
 
-/// A record of a class, derived from its description: the positions between the parentheses.
+/// A record of a class, which schemac makes from its description. The texts are the positions
+/// between the parentheses.
 struct SampleRecord {
   std::string name;     ///< of the entity
   std::string read;     ///< every position set
-  std::string written;  ///< what that is written as
-  std::string unset;    ///< every position `$`, but for the identifier of a root
-  std::string emptied;  ///< what that is written as
+  std::string written;  ///< what a save writes for `read`
+  std::string unset;    ///< every position `$`, except the identifier of a root
+  std::string emptied;  ///< what a save writes for `unset`
 };
 
-/// The classes that a file can name, but for those that are read or written by hand.
+/// The records of the classes that a file can contain, except those that are read or written by
+/// hand.
 const std::vector<SampleRecord>& SampleRecords151();
 const std::vector<SampleRecord>& SampleRecords20();
 const std::vector<SampleRecord>& SampleRecords2x();

@@ -15,7 +15,7 @@ class Records : public testing::TestWithParam<ReleaseRecords> {
  public:
   Records() { server.SetRelease(GetParam().release); }
 
-  /// What a record is written as by a new instance of its class.
+  /// Returns the text that a new instance of the class writes after it has read a record.
   std::string Write(const SampleRecord& record, const std::string& positions) {
     const std::string text = record.name + "(" + positions + ")";
     const std::unique_ptr<IfcUnknown> instance(server.ParseClass(text.c_str(), nullptr));
@@ -31,7 +31,7 @@ class Records : public testing::TestWithParam<ReleaseRecords> {
   IfcServer server;
 };
 
-TEST_P(Records, AreThereForNearlyEveryClass) { EXPECT_GE(All().size(), GetParam().atLeast); }
+TEST_P(Records, ExistForNearlyEveryClass) { EXPECT_GE(All().size(), GetParam().atLeast); }
 
 TEST_P(Records, KeepWhatTheirClassStores) {
   for (const auto& record : All()) {
@@ -45,7 +45,7 @@ TEST_P(Records, OfUnsetPositionsStayUnset) {
   }
 }
 
-TEST_P(Records, IgnoreWhatStandsBehindTheLastPosition) {
+TEST_P(Records, IgnoreTextAfterTheLastPosition) {
   for (const auto& record : All()) {
     const std::string surplus = record.read.empty() ? "1,2" : record.read + ",1,(2),'3'";
     EXPECT_EQ(Write(record, surplus), record.written) << record.name;

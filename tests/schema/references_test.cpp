@@ -9,7 +9,7 @@ using KelIFC2x3::IfcBooleanResult;
 using KelIFC2x3::IfcDirection;
 using KelIFC2x3::IfcHalfSpaceSolid;
 
-TEST(UnknownOf, CrossesFromASelectToTheInstance) {
+TEST(UnknownOf, ReturnsTheInstanceOfASelect) {
   const IfcHalfSpaceSolid solid;
   const IfcBooleanOperand* operand = &solid;
   EXPECT_EQ(UnknownOf(operand), static_cast<const IfcUnknown*>(&solid));
@@ -17,7 +17,7 @@ TEST(UnknownOf, CrossesFromASelectToTheInstance) {
   EXPECT_EQ(UnknownOf(&solid), static_cast<const IfcUnknown*>(&solid));
 }
 
-TEST(SetReference, TakesASelect) {
+TEST(SetReference, AcceptsASelect) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
   auto* result = IfcBooleanResult::NewItem(&server);
@@ -33,12 +33,12 @@ TEST(ViewOf, IsEmptyOutsideAModel) {
   EXPECT_EQ(loop.GetPolygon().GetSize(), 0u);
 }
 
-TEST(MakeItem, GivesTheInstanceToTheCallerWithoutAServer) {
+TEST(MakeItem, LetsTheCallerOwnTheInstanceWithoutAServer) {
   const std::unique_ptr<IfcDirection> direction(IfcDirection::NewItem(nullptr));
   EXPECT_EQ(direction->GetServer(), nullptr);
 }
 
-TEST(MakeItem, RegistersWithTheServer) {
+TEST(MakeItem, RegistersTheInstanceWithTheServer) {
   IfcServer server;
   IfcDirection* direction = IfcDirection::NewItem(&server);
   EXPECT_EQ(server.Find(direction), 1u);

@@ -21,7 +21,7 @@ const std::string kStorey = "IFCBUILDINGSTOREY(" + kProduct + ",$,$,$)";
 const std::string kBuilding = "IFCBUILDING(" + kProduct + ",$,$,$,$,$)";
 const std::string kOpening = "IFCOPENINGELEMENT(" + kProduct + ",$)";
 
-TYPED_TEST(Relationships, FillInverseSetsAheadOfWhatTheyName) {
+TYPED_TEST(Relationships, FillInverseSetsOfInstancesThatFollowThem) {
   Model<TypeParam> model({{1, "IFCRELAGGREGATES(" + kRoot + ",#2,(#3,#4))"},
                           {2, kBuilding},
                           {3, kStorey},
@@ -37,7 +37,7 @@ TYPED_TEST(Relationships, FillInverseSetsAheadOfWhatTheyName) {
   EXPECT_EQ(model.TextOf(1), "IFCRELAGGREGATES(" + kRoot + ",#2,(#3, #4))");
 }
 
-TYPED_TEST(Relationships, PassByWhatDoesNotExistOrIsOfAnotherClass) {
+TYPED_TEST(Relationships, SkipInstancesThatDoNotExistOrAreOfAnotherClass) {
   Model<TypeParam> model(
       {{1, "IFCRELAGGREGATES(" + kRoot + ",#99,(#5,#98))"}, {5, "IFCDIRECTION((1.,0.))"}});
   EXPECT_EQ(model.TextOf(1), "IFCRELAGGREGATES(" + kRoot + ",#99,(#5, #98))");
@@ -50,7 +50,7 @@ TYPED_TEST(Relationships, AddThemselvesOnceToAnObjectThatIsNamedTwice) {
   EXPECT_EQ(model.TextOf(1), "IFCRELASSOCIATES(" + kRoot + ",(#2, #2))");
 }
 
-TYPED_TEST(Relationships, TieElementsToTheirStorey) {
+TYPED_TEST(Relationships, ConnectElementsToTheirStorey) {
   Model<TypeParam> model(
       {{1, kWall}, {2, kStorey}, {3, "IFCRELCONTAINEDINSPATIALSTRUCTURE(" + kRoot + ",(#1),#2)"}});
   const auto* wall = model.template Get<typename TypeParam::IfcWall>(1);
@@ -60,7 +60,7 @@ TYPED_TEST(Relationships, TieElementsToTheirStorey) {
   EXPECT_EQ(storey->GetContainsElements().GetSize(), 1u);
 }
 
-TYPED_TEST(Relationships, TieElementsThatTouchAndWriteTheRootAlone) {
+TYPED_TEST(Relationships, ConnectElementsThatTouchAndWriteOnlyTheRoot) {
   Model<TypeParam> model(
       {{1, kWall}, {2, kWall}, {3, "IFCRELCONNECTSELEMENTS(" + kRoot + ",$,#1,#2)"}});
   using Wall = typename TypeParam::IfcWall;
@@ -69,7 +69,7 @@ TYPED_TEST(Relationships, TieElementsThatTouchAndWriteTheRootAlone) {
   EXPECT_EQ(model.TextOf(3), "IFCRELCONNECTSELEMENTS(" + kRoot + ")");
 }
 
-TYPED_TEST(Relationships, PathConnectionsReadWhatTheirBaseReads) {
+TYPED_TEST(Relationships, PathConnectionsReadTheAttributesOfTheirBase) {
   Model<TypeParam> model(
       {{1, kWall},
        {2, kWall},
@@ -79,7 +79,7 @@ TYPED_TEST(Relationships, PathConnectionsReadWhatTheirBaseReads) {
   EXPECT_EQ(model.TextOf(3), "IFCRELCONNECTSPATHELEMENTS(" + kRoot + ")");
 }
 
-TYPED_TEST(Relationships, TieOpeningsToElementsAndFillings) {
+TYPED_TEST(Relationships, ConnectOpeningsToElementsAndFillings) {
   Model<TypeParam> model({{1, kWall},
                           {2, kOpening},
                           {3, "IFCRELVOIDSELEMENT(" + kRoot + ",#1,#2)"},
@@ -96,12 +96,12 @@ TYPED_TEST(Relationships, TieOpeningsToElementsAndFillings) {
   EXPECT_EQ(model.template Get<typename TypeParam::IfcWindow>(4)->GetFillsVoids().GetSize(), 1u);
 }
 
-TYPED_TEST(Relationships, FillingThatLeadsNowhereLeavesTheSwitch) {
+TYPED_TEST(Relationships, FillingThatLeadsNowhereDoesNotChangeTheSwitch) {
   Model<TypeParam> model({{2, kOpening}, {4, "IFCRELFILLSELEMENT(" + kRoot + ",#2,#99)"}});
   EXPECT_FALSE(model.server.GetSupportsFillings());
 }
 
-TEST(RelFillsElement, WritesTheRootAloneIn2x) {
+TEST(RelFillsElement, WritesOnlyTheAttributesOfTheRootIn2x) {
   const std::string text = "IFCRELFILLSELEMENT(" + kRoot + ",#2,#4)";
   EXPECT_EQ(Rewritten<Release2x>(text), "IFCRELFILLSELEMENT(" + kRoot + ")");
   EXPECT_EQ(Rewritten<Release2x2>(text), text);
@@ -118,7 +118,7 @@ TYPED_TEST(NewestRelationships, AssignObjectsToAProductAndDropTheirType) {
   EXPECT_EQ(model.TextOf(1), "IFCRELASSIGNSTOPRODUCT(" + kRoot + ",(#2),$,#3)");
 }
 
-TYPED_TEST(NewestRelationships, TieElementsToWhatActsOnThem) {
+TYPED_TEST(NewestRelationships, ConnectElementsToActivities) {
   const std::string text = "IFCRELCONNECTSSTRUCTURALACTIVITY(" + kRoot + ",#1,#9)";
   Model<TypeParam> model({{1, kWall}, {2, text}});
   EXPECT_EQ(
@@ -145,7 +145,7 @@ TYPED_TEST(Relationships, ThatAreDeletedLeaveNullInTheViews) {
   EXPECT_EQ(view[1], nullptr);
 }
 
-TYPED_TEST(Relationships, TakeTypedSetsFromAHost) {
+TYPED_TEST(Relationships, AcceptTypedSetsFromAHost) {
   IfcServer server;
   server.SetRelease(TypeParam::kRelease);
   auto* relation = TypeParam::IfcRelAssociates::NewItem(&server);
@@ -155,11 +155,11 @@ TYPED_TEST(Relationships, TakeTypedSetsFromAHost) {
   objects.Add(column);
   objects.Add(&stranger);
   relation->SetRelatedObjects(objects);
-  ASSERT_EQ(relation->GetRelatedObjects().GetSize(), 1u) << "the model does not hold the stranger";
+  ASSERT_EQ(relation->GetRelatedObjects().GetSize(), 1u) << "the model does not hold this instance";
   EXPECT_EQ(relation->GetRelatedObjects()[1], column);
 }
 
-TYPED_TEST(Relationships, OfTouchingElementsGiveTheGeometryOfTheConnection) {
+TYPED_TEST(Relationships, OfTouchingElementsReturnTheGeometryOfTheConnection) {
   using Touching = typename TypeParam::IfcRelConnectsElements;
   Model<TypeParam> model({{1, "IFCRELCONNECTSELEMENTS(" + kRoot + ",#2,$,$)"},
                           {2, "IFCDIRECTION((1.,0.))"},
@@ -173,25 +173,27 @@ TYPED_TEST(Relationships, OfTouchingElementsGiveTheGeometryOfTheConnection) {
   EXPECT_EQ(path->GetConnectionGeometry(), geometry);
   touching->SetConnectionGeometry(nullptr);
   EXPECT_EQ(touching->GetConnectionGeometry(), nullptr);
-  EXPECT_EQ(SlotOf(&Touching::GetConnectionGeometry), -1) << "no slot of a derived class moves";
+  EXPECT_EQ(SlotOf(&Touching::GetConnectionGeometry), -1)
+      << "the slots of derived classes stay the same";
   EXPECT_EQ(SlotOf(&Touching::SetConnectionGeometry), -1);
 }
 
-TEST(OlderRelationships, OfTouchingElementsGiveTheGeometryOfTheConnection) {
+TEST(OlderRelationships, OfTouchingElementsReturnTheGeometryOfTheConnection) {
   const std::string record = "IFCRELCONNECTSELEMENTS('01234567890123456789',";
   Model<Release151> oldest({{1, record + "#9,$,.T.,.F.,#2,$,$)"}, {2, "IFCDIRECTION((1.,0.))"}});
   EXPECT_EQ(oldest.Get<KelIFC151::IfcRelConnectsElements>(1)->GetConnectionGeometry(),
             oldest.server.GetItem(std::size_t{2}));
   Model<Release20> older({{1, record + "$,$,.T.,.F.,#2,$,$)"}, {2, "IFCDIRECTION((1.,0.))"}});
   auto* touching = older.Get<KelIFC20::IfcRelConnectsElements>(1);
-  EXPECT_EQ(touching->GetConnectionGeometry(), nullptr) << "a direction is no such geometry";
+  EXPECT_EQ(touching->GetConnectionGeometry(), nullptr)
+      << "a direction is not a connection geometry";
   auto* line = new KelIFC20::IfcLineConnectionGeometry;
   older.server.AddItem(line);
   touching->SetConnectionGeometry(line);
   EXPECT_EQ(touching->GetConnectionGeometry(), line);
 }
 
-TYPED_TEST(NewestRelationships, OfAnActivityGiveTheActivity) {
+TYPED_TEST(NewestRelationships, OfAnActivityReturnTheActivity) {
   using Acting = typename TypeParam::IfcRelConnectsStructuralActivity;
   using Action = typename TypeParam::IfcStructuralPointAction;
   Model<TypeParam> model({{1, "IFCRELCONNECTSSTRUCTURALACTIVITY(" + kRoot + ",#2,#3)"},

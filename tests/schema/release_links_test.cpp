@@ -5,7 +5,7 @@
 namespace KelIFC {
 namespace {
 
-TEST(ReadGlobalGuid, KnowsTheRootsOfTheThreeNewerReleases) {
+TEST(ReadGlobalGuid, ReadsTheRootsOfTheThreeNewestReleases) {
   const _GUID guid = {1, 2, 3, {4, 5, 6, 7, 8, 9, 10, 11}};
   _GUID read = {};
   KelIFC2x::IfcBuilding oldest;
@@ -19,7 +19,7 @@ TEST(ReadGlobalGuid, KnowsTheRootsOfTheThreeNewerReleases) {
   EXPECT_TRUE(read == guid);
 }
 
-TEST(ReadGlobalGuid, RefusesWhatIsNoRoot) {
+TEST(ReadGlobalGuid, ReturnsFalseForAnInstanceThatIsNotARoot) {
   _GUID read = {};
   const KelIFC2x3::IfcDirection direction;
   const KelIFC20::IfcLocalPlacement older;
@@ -37,7 +37,7 @@ TEST(AsProject, FindsTheProjectOfItsReleaseOnly) {
   EXPECT_EQ(AsProject151(nullptr), nullptr);
 }
 
-TEST(FindingByIdentifier, AnswersForEveryRootOfAModel) {
+TEST(FindingByIdentifier, WorksForEveryRootOfAModel) {
   IfcServer server;
   server.SetRelease(IFC_RELEASE_2X3);
   auto* column = KelIFC2x3::IfcColumn::NewItem(&server);

@@ -7,8 +7,9 @@
 #include <cstring>
 #include <vector>
 
-/// The offset of a virtual operation in its table: the Itanium ABI keeps it, plus 1, in the first
-/// word of a pointer to the operation. -1 for an operation that is not virtual.
+/// Returns the offset of a virtual operation in its table. The Itanium ABI keeps the offset plus 1
+/// in the first word of a pointer to the operation. Returns -1 for an operation that is not
+/// virtual.
 template <class Pointer>
 std::ptrdiff_t SlotOf(Pointer pointer) {
   std::ptrdiff_t word = 0;
@@ -17,7 +18,7 @@ std::ptrdiff_t SlotOf(Pointer pointer) {
   return word % 2 == 1 ? word - 1 : -1;
 }
 
-/// The slots stand one behind the other.
+/// Expects that the slots follow each other.
 inline void ExpectRising(const std::vector<std::ptrdiff_t>& slots) {
   for (std::size_t i = 0; i < slots.size(); ++i) {
     EXPECT_GE(slots[i], 0) << "operation " << i;

@@ -31,14 +31,14 @@ TYPED_TEST(Units, SiUnitWithoutPrefixHasTheFactorOne) {
   EXPECT_EQ(model.TextOf(1), "IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.)");
 }
 
-TYPED_TEST(Units, PrefixInLowerCaseIsNone) {
+TYPED_TEST(Units, PrefixInLowerCaseIsUnset) {
   EXPECT_EQ(Rewritten<TypeParam>("IFCSIUNIT(*,.LENGTHUNIT.,.milli.,.METRE.)"),
             "IFCSIUNIT(*,.LENGTHUNIT.,$,.METRE.)");
 }
 
-TYPED_TEST(Units, DollarForTheDimensionsStaysForTheTypeThatFollows) {
+TYPED_TEST(Units, DollarForTheDimensionsIsReadAsTheTypeThatFollows) {
   EXPECT_EQ(Rewritten<TypeParam>("IFCSIUNIT($,.LENGTHUNIT.,$,.METRE.)"), "IFCSIUNIT(*,$,$,$)")
-      << "only a mark is passed by, so every later position is one off";
+      << "only `*` is skipped, so each later position is off by one";
 }
 
 TYPED_TEST(Units, AreAlsoInstances) {
@@ -84,14 +84,14 @@ TYPED_TEST(NewerUnits, MeasureWithUnitMergesTheNamesOfLengths) {
             "IFCMEASUREWITHUNIT(IFCLENGTHMEASURE(0.5),#2)");
 }
 
-TYPED_TEST(NewerUnits, MeasureWithUnitReadsTheUnitFromAValueItDoesNotKnow) {
+TYPED_TEST(NewerUnits, MeasureWithUnitReadsTheUnitFromAnUnknownValue) {
   Model<TypeParam> model({{1, "IFCMEASUREWITHUNIT(IFCDIRECTION((1.,0.)),#2)"}});
   const auto* measure = model.template Get<typename TypeParam::IfcMeasureWithUnit>(1);
   EXPECT_EQ(measure->GetValueComponent(), nullptr);
   EXPECT_EQ(measure->GetUnitComponent(), nullptr);
 }
 
-TEST(PrefixCoefficient, IsThatOfTheTable) {
+TEST(PrefixCoefficient, ReturnsTheFactorOfTheTable) {
   const double expected[] = {1.0,  1e18, 1e15, 1e12, 1e9,  1e6,   1e3,   1e2,  10,
                              1e-1, 1e-2, 1e-3, 1e-6, 1e-9, 1e-12, 1e-15, 1e-18};
   for (std::int32_t prefix = 0; prefix < 17; ++prefix) {

@@ -68,7 +68,7 @@ class RowWriter {
     row.reader = Fill(InfoOf(attribute.kind).valueReader, words);
   }
 
-  /// What holds for an attribute wherever it is.
+  /// Sets the fields that do not depend on the position of the attribute.
   void Describe(const Attribute& attribute, AttributeRow& row) const {
     const KindInfo& info = InfoOf(attribute.kind);
     row.name = attribute.published.empty() ? attribute.name : attribute.published;
@@ -79,7 +79,8 @@ class RowWriter {
     row.isRequired = attribute.required.Has(model.release);
   }
 
-  /// The public operation with the first of these roles that a class or one above it has.
+  /// Returns the public operation with the first of these roles that the class or one of its bases
+  /// has.
   std::string NameOf(const ResolvedClass& owner, const std::string& attribute,
                      const std::vector<Role>& roles) const {
     for (const Role role : roles) {
@@ -96,8 +97,8 @@ class RowWriter {
     return {};
   }
 
-  /// A step of Parse takes one position of the statement, so the positions in which an attribute is
-  /// read as itself are those in which both orders agree.
+  /// Each step of Parse reads one position of the statement. So a load keeps an attribute if its
+  /// positions in both orders are the same.
   bool IsKept(std::size_t index) const {
     if (!type.hasParse || index >= reads.size()) return false;
     const Step& read = reads[index];

@@ -24,20 +24,21 @@ struct AttributeRow {
   std::string use = "kDropped";
   bool isRequired = false;
   bool isWritten = false;
-  std::string reader;   ///< the AttributeReader of a value that is kept
-  std::string pointer;  ///< the constant of `Kept` that the reader uses; empty for another value
+  std::string reader;   ///< the AttributeReader of a value that the class keeps
+  std::string pointer;  ///< the constant of `Kept` that the reader uses; empty for none
   std::string member;   ///< the data member that it points to
 };
 
-/// The name of the constant that points to a data member for `attribute`, in `Kept` of
-/// kelifc/schema/value_reader.h.
+/// The name of the constant that points to the data member of `attribute`. `Kept` in
+/// kelifc/schema/value_reader.h contains these constants.
 std::string PointerName(const std::string& attribute);
 
-/// How many attributes a statement of a class has. 0 for a name that the release does not have.
+/// Returns the number of attributes in a statement of a class. Returns 0 for a name that the
+/// release does not have.
 std::size_t PositionCount(const ReleaseModel& model, std::string_view name);
 
-/// The attributes that a class adds: its positions in a statement, then the attributes that are in
-/// no statement and that a getter returns.
+/// Returns the attributes that a class adds. Its positions in a statement come first. The
+/// attributes that are in no statement follow, if a getter returns them.
 std::vector<AttributeRow> RowsOf(const ReleaseModel& model, const ResolvedClass& type);
 
 }  // namespace schemac

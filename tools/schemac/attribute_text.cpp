@@ -8,13 +8,13 @@ namespace schemac {
 
 namespace {
 
-/// Words of C++ that an attribute can be called.
+/// Names of attributes that are reserved words of C++.
 constexpr std::array<std::string_view, 2> kReservedWords = {"operator", "private"};
 
-/// The enumerator of the value 0 where no row has it.
+/// The enumerator of the value 0 if no row has it.
 constexpr std::string_view kUnsetRow = "NONE";
 
-/// The enumerator that an attribute starts with and that an unknown text gives.
+/// The enumerator that a new instance holds. An unknown text reads as this enumerator, too.
 std::string InitialEnumerator(const ReleaseModel& model, const Attribute& attribute) {
   if (!attribute.initial.empty()) return Enumerator(attribute.type, attribute.initial);
   const EnumTable& table = *model.FindTable(*model.enumerations.at(attribute.type));

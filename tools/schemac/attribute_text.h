@@ -16,18 +16,18 @@ std::string MemberName(const std::string& attribute);
 /// The C++ type that stores an attribute.
 std::string StoredType(const Attribute& attribute, std::size_t release);
 
-/// The name of the row table of an enumeration.
+/// The name of the table of an enumeration.
 std::string TableName(const std::string& enumeration);
 
-/// The enumerator of a row; an empty row is the value 0 that no row has.
+/// The enumerator of a row. An empty row means the value 0 of an enumeration without a row for 0.
 std::string Enumerator(const std::string& enumeration, const std::string& row);
 
-/// The words that the templates of a kind use, for one attribute: those of GetterForm but `result`
-/// and `const`, and for an initializer or a part of a record `text`, `table`, `missing` and
-/// `start`.
+/// The words that the templates of a kind use for one attribute. These are the words of GetterForm
+/// except `result` and `const`. The words `text`, `table`, `missing` and `start` are for
+/// initializers and parts of a record.
 TemplateWords WordsOf(const ReleaseModel& model, const Attribute& attribute);
 
-/// What follows the name of the data member in its declaration.
+/// The initializer that follows the name of the data member in its declaration.
 std::string FieldInitializer(const ReleaseModel& model, const Attribute& attribute);
 
 /// The part of ParseRecord that reads an attribute.

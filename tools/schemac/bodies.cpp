@@ -8,7 +8,7 @@ namespace {
 
 constexpr std::string_view kCommentMark = "//";
 
-/// Takes the first line of a text, without its line end.
+/// Removes the first line from a text and returns it without its line end.
 std::string_view TakeLine(std::string_view& text) {
   const auto end = text.find('\n');
   const std::string_view line = text.substr(0, end);
@@ -33,7 +33,7 @@ ReleaseSet ReleasesOf(const std::vector<Entry>& entries, const std::string& name
   return releases;
 }
 
-/// Reads the line that begins a section; false if the line is another one.
+/// Reads the line that begins a section. Returns false for any other line.
 bool ReadHead(const Line& line, const Description& description, Body& body) {
   TokenReader in(line);
   if (!in.Take(kCommentMark)) return false;
@@ -53,8 +53,8 @@ bool ReadHead(const Line& line, const Description& description, Body& body) {
   return true;
 }
 
-/// The text of a section with one blank for each run of blanks and line ends and none after an
-/// opening parenthesis, and the line of each character of it.
+/// The text of a section, and the line of each of its characters. The text has one blank for each
+/// run of blanks and line ends, and none after an opening parenthesis.
 class FlatText {
  public:
   explicit FlatText(const Body& body) {
@@ -69,7 +69,7 @@ class FlatText {
     }
   }
 
-  /// The line of a definition; 0 if the text has none.
+  /// Returns the line of a definition, or 0 if the text does not contain it.
   int LineOf(const std::string& definition) const {
     const auto at = flat.find(definition);
     return at == std::string::npos ? 0 : lines[at];
@@ -92,7 +92,7 @@ class Definitions {
     }
   }
 
-  /// The place of a definition, which `described` describes.
+  /// Returns the place of a definition. `described` is the place of its description.
   Place Find(const std::string& definition, const Place& described) const {
     for (std::size_t i = 0; i < texts.size(); ++i) {
       const int line = texts[i].LineOf(definition);
@@ -149,7 +149,7 @@ void ParseBodies(const std::string& file, std::string_view text, Description& de
     } else if (hasSection) {
       (description.bodies.back().text += line) += '\n';
     } else if (!IsBlankOrComment(line)) {
-      throw DescriptionError(place, "code ahead of the first section");
+      throw DescriptionError(place, "code before the first section");
     }
   }
 }

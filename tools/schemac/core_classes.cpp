@@ -53,7 +53,7 @@ constexpr std::array kCoreClasses = {
               true,
               CoreForm::kValue,
               {"IfcValue"}},
-    // Two values that a file names and that are read as an IfcLengthMeasure.
+    // A load reads these two value types as an IfcLengthMeasure.
     CoreClass{"IfcPositiveLengthMeasure",
               "kelifc/core/length_measure.h",
               true,

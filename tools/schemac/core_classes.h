@@ -19,19 +19,19 @@ inline constexpr std::string_view kRoot = "IfcUnknown";
 enum class CoreForm : std::uint8_t {
   kEntity,    ///< a file can name it
   kAbstract,  ///< an entity that other entities derive from
-  kSelect,    ///< it groups the classes that derive from it
+  kSelect,    ///< a group of the classes that derive from it
   kValue,     ///< a value that is written with the name of its type
   kOther,     ///< the schema does not have it
 };
 
-/// A class that is written by hand in the core, for all releases, and that entities build on.
+/// A class of the core, which is written by hand for all releases and which entities use.
 struct CoreClass {
   std::string_view name;
   std::string_view header;
   bool isUnknown;  ///< derives from IfcUnknown
   bool hasParse;   ///< can come first in a chain of Parse and Write
   CoreForm form;
-  std::array<std::string_view, 2> bases = {};  ///< of the schema; empty for none
+  std::array<std::string_view, 2> bases = {};  ///< in the schema; empty for none
 };
 
 /// An attribute of a class of the core.
@@ -44,17 +44,17 @@ struct CoreAttribute {
   std::string_view setter;
 };
 
-/// The row of a name; null for a name that is no class of the core.
+/// Returns the row of a name. Returns null for a name that is not a class of the core.
 const CoreClass* FindCoreClass(std::string_view name);
 
-/// All classes of the core, each after its bases.
+/// Returns all classes of the core, each after its bases.
 std::vector<const CoreClass*> CoreClasses();
 
-/// The attributes of a class of the core, in the order of the file. The schema requires all of
-/// them.
+/// Returns the attributes of a class of the core, in the order of the file. The schema requires all
+/// of them.
 std::vector<const CoreAttribute*> AttributesOf(const CoreClass& type);
 
-/// The headers of all of them.
+/// Returns the headers of all classes of the core.
 std::set<std::string> CoreHeaders();
 
 }  // namespace schemac

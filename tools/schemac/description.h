@@ -20,20 +20,20 @@ struct Attribute {
   std::string name;
   Kind kind = Kind::kString;
   std::string type;          ///< target class, enumeration or cached class; empty for none
-  std::string initial;       ///< row of the enumeration or text that a new instance holds
-  std::string absent;        ///< number that the getter gives while the attribute is unset
-  std::string writtenAs;     ///< literal that is written whatever was read; empty: the value
-  std::string published;     ///< the name in the schema; empty: the same
-  std::string reason;        ///< why it departs from the regular form
+  std::string initial;       ///< row of the enumeration, or text, that a new instance holds
+  std::string absent;        ///< number that the getter returns while the attribute is unset
+  std::string writtenAs;     ///< literal that is always written; empty: the value is written
+  std::string published;     ///< the name in the schema; empty: the same as `name`
+  std::string reason;        ///< why the attribute departs from the regular form
   bool inFile = true;        ///< false: kept in memory only
   bool isInverse = false;    ///< filled by relationships
   bool isOwnerless = false;  ///< a reference that cannot resolve by itself
   bool isIgnored = false;    ///< a Parse that is written by hand skips the value of a file
-  ReleaseSet required = ReleaseSet::None();  ///< where the schema does not let it be unset
+  ReleaseSet required = ReleaseSet::None();  ///< where the schema does not allow `$`
   ReleaseSet releases = ReleaseSet::All();
 };
 
-/// One act of reading or writing a record, in the order of the file.
+/// One step of reading or writing a record, in the order of the file.
 struct Step {
   enum class Act {
     kAttribute,  ///< read into and written from an attribute
@@ -45,13 +45,13 @@ struct Step {
   };
   Place place;
   Act act = Act::kAttribute;
-  std::string name;          ///< the attribute; may be empty for what is not stored
-  std::optional<Kind> kind;  ///< of a position that is not stored, where it is described
-  std::string literal;       ///< what is written for kDrop and kLiteral
+  std::string name;          ///< the attribute; can be empty if nothing is stored
+  std::optional<Kind> kind;  ///< of a position that is not stored, if it is described
+  std::string literal;       ///< the text that is written for kDrop and kLiteral
   std::string target;        ///< class of the instances that kLink reaches
   std::string operation;     ///< the operation that kLink calls on them
   std::string reason;
-  ReleaseSet required = ReleaseSet::None();  ///< where the schema does not let it be unset
+  ReleaseSet required = ReleaseSet::None();  ///< where the schema does not allow `$`
   ReleaseSet releases = ReleaseSet::All();
 };
 
@@ -74,10 +74,10 @@ struct RecordOrder {
 struct Operation {
   Place place;
   std::string name;
-  std::string attribute;      ///< the attribute it is about, where the name does not tell
+  std::string attribute;      ///< the attribute of the operation; empty: the name contains it
   std::string parameters;     ///< in parentheses, for an operation with a signature
-  std::string result;         ///< as described; empty: void
-  bool bothForms = false;     ///< a writable and a const form
+  std::string result;         ///< as in the description; empty: void
+  bool bothForms = false;     ///< the getter has a writable and a const form
   bool isForward = false;     ///< calls the operation of the same name with '_' in front
   bool hasSignature = false;  ///< its body is written by hand
   bool isConst = false;
@@ -86,7 +86,7 @@ struct Operation {
   ReleaseSet releases = ReleaseSet::All();
 };
 
-/// A piece of text that holds for some releases: a base list, a class to go on with.
+/// A text that applies to some releases, such as a list of bases.
 struct Marked {
   std::string text;
   ReleaseSet releases = ReleaseSet::None();
@@ -101,27 +101,27 @@ struct Entity {
   std::string doc;
   std::vector<Marked> bases;  ///< later ones replace earlier ones for their releases
   ReleaseSet releases = ReleaseSet::None();
-  ReleaseSet file = ReleaseSet::None();  ///< where a file can name it
-  ReleaseSet made = ReleaseSet::None();  ///< where a host can make it
+  ReleaseSet file = ReleaseSet::None();  ///< where a file can contain it
+  ReleaseSet made = ReleaseSet::None();  ///< where a host can create it
   bool isAbstract = false;
-  std::vector<Attribute> attributes;  ///< in stored order
+  std::vector<Attribute> attributes;  ///< in the order of the data members
   std::vector<Step> steps;            ///< in file order
   std::vector<RecordOrder> orders;
-  std::vector<Operation> operations;  ///< in slot order
+  std::vector<Operation> operations;  ///< in the order of the slots
   std::vector<Marked> constructors;   ///< parameter lists; bodies are written by hand
-  std::vector<Marked> chains;         ///< class whose Parse and Write go ahead of its own
+  std::vector<Marked> chains;         ///< class whose Parse and Write run first
   std::vector<Marked> customParse;    ///< where Parse is written by hand; no text
   std::vector<Marked> customWrite;
   ReleaseSet noParse = ReleaseSet::None();
   ReleaseSet noWrite = ReleaseSet::None();
   std::vector<Marked> departures;  ///< reasons that belong to no attribute
-  /// Of what is written by hand, by the name of the operation. A constructor is named by the class
-  /// and its parameters.
+  /// The comments of operations that are written by hand, by the name of the operation. The name of
+  /// a constructor is the class with the parameters.
   std::map<std::string, std::string> comments;
 };
 
-/// A defined type: a class with a value as second base, behind the select it can stand in, or as
-/// its only one.
+/// A defined type: a class that derives from a value class. Its first base is the select that can
+/// hold it, if there is one.
 struct DefinedType {
   Place place;
   std::string family;
@@ -133,7 +133,8 @@ struct DefinedType {
   ReleaseSet file = ReleaseSet::None();
 };
 
-/// The rows of an enumeration, in table order; none where the texts are kept as they stand.
+/// The rows of an enumeration, in the order of the table. There are none if the class keeps the
+/// texts.
 struct EnumTable {
   std::vector<std::pair<std::string, std::int32_t>> rows;
   ReleaseSet releases = ReleaseSet::None();
@@ -144,7 +145,7 @@ struct Enumeration {
   std::string family;
   std::string name;
   std::string doc;
-  bool isCore = false;  ///< one for all releases, in the core namespace
+  bool isCore = false;  ///< shared by all releases, in the core namespace
   std::vector<EnumTable> tables;
 };
 

@@ -6,14 +6,14 @@
 
 namespace schemac {
 
-/// A place in a description: lines and columns count from 1.
+/// A place in a description. Lines and columns count from 1.
 struct Place {
   std::string file;
   int line = 0;
   int column = 0;
 };
 
-/// The one way a description is refused; what() reads "file:line:column: error: message".
+/// The error of a description that is refused. what() returns "file:line:column: error: message".
 class DescriptionError : public std::runtime_error {
  public:
   DescriptionError(const Place& place, const std::string& message);

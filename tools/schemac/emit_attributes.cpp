@@ -46,14 +46,14 @@ constexpr std::string_view kPointer = "  static constexpr auto @pointer@ = &Kept
 
 constexpr std::string_view kType = "    {&typeid(@class@), &k@name@},\n";
 
-/// The fields of an entity that are empty or false are left out.
+/// Fields that are empty or false are left out.
 constexpr std::string_view kEntity = R"(@attributes@constexpr EntityDescription k@name@ = {
     .name = "@name@",
     .form = EntityForm::@form@@fields@};
 
 )";
 
-/// Collects the fields of an initializer that have a value of their own.
+/// Collects the fields of an initializer that differ from their default.
 class Fields {
  public:
   explicit Fields(std::string separator) : separator(std::move(separator)) {}
@@ -125,7 +125,7 @@ bool IsBefore(const std::string& a, const std::string& b) {
   });
 }
 
-/// Names the kept members of a class; empty if it has none.
+/// Returns the pointers to the members that a class keeps, or an empty text if there are none.
 std::string MembersText(const EntityRow& row) {
   TextWriter pointers;
   for (const auto& attribute : row.attributes) {

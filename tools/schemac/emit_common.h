@@ -28,13 +28,14 @@ class TextWriter {
   /// A doc comment, wrapped at the line length.
   void Doc(const std::string& indent, const std::string& comment);
 
-  /// `head` and the comma list in parentheses, wrapped behind the opening one where it is long.
+  /// `head` and the arguments in parentheses. A long call is wrapped after the opening parenthesis
+  /// or between arguments.
   void Call(const std::string& head, const std::vector<std::string>& arguments,
             const std::string& tail);
 
   const std::string& Text() const { return text; }
 
-  /// How many lines have been ended.
+  /// Returns the number of complete lines.
   std::size_t LineCount() const;
 
  private:
@@ -48,7 +49,7 @@ std::string FamilyFile(std::string_view releaseFolder, std::string_view family,
 /// The include guard of a path.
 std::string Guard(const std::string& path);
 
-/// The line at the head of every generated file.
+/// The first line of every generated file.
 std::string GeneratedBy(std::string_view source);
 
 /// The description file of a family, from the root of the source tree.
@@ -62,7 +63,7 @@ std::string GuardedHeader(const std::string& path, std::string_view source,
 /// The words that the templates of one release share: mark, namespace, folder, suffix, constant.
 TemplateWords WordsOf(const ReleaseInfo& info);
 
-/// The family in which the release describes a class or defined type; empty for core classes.
+/// The family that describes a class or defined type of the release; empty for core classes.
 std::string FamilyOf(const ReleaseModel& model, std::string_view name);
 
 /// Writes an enumeration and its table.

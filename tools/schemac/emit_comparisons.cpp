@@ -70,7 +70,7 @@ class ComparisonEmitter {
 
  private:
   void EmitDefinedType(const DefinedType& type) {
-    if (type.kind == Kind::kIntegers) return;  // no instance, but the type of an attribute
+    if (type.kind == Kind::kIntegers) return;  // only the type of attributes: no instance has it
     words["name"] = type.name;
     words["value"] = InfoOf(type.kind).type;
     out.Fill(kDefinedType, words);
@@ -84,7 +84,7 @@ class ComparisonEmitter {
     if (!type.entity->isAbstract) rows.Fill(kRow, words);
   }
 
-  /// The comparison of the bases and of the attributes that a record holds.
+  /// Returns the comparison of the bases and of the attributes that a statement contains.
   std::string PartsOf(const ResolvedClass& type) {
     std::string parts;
     for (const auto& base : type.bases) {
@@ -100,7 +100,7 @@ class ComparisonEmitter {
     return parts;
   }
 
-  /// False for IfcUnknown and for selects, which only mark classes.
+  /// Returns false for IfcUnknown and for selects, which have no attributes.
   bool HasFields(const std::string& base) const {
     if (const CoreClass* core = FindCoreClass(base)) return core->isUnknown;
     const ResolvedClass* type = model.Find(base);

@@ -19,20 +19,20 @@ constexpr std::string_view kDefinedType =
   @name@& operator=(const @name@&);
 @assignText@  ~@name@() override;
 
-  /// The name as the schema spells it.
+  /// Returns the name of the type as the schema spells it.
   static const char* GetItemName();
   const char* GetStepName() const override;
-  /// Reads and writes the bare value, as it stands in an attribute.
+  /// Reads and writes only the value, as an attribute of this type contains it.
   const char* Parse(const char* cursor) override;
   std::ostream& Write(std::ostream& out) const override;
-  /// Reads and writes the value with the name of its type, as it stands in a select.
+  /// Reads and writes the value with the name of its type, as a select contains it.
   std::ostream& WriteWithName(std::ostream& out) const override;
   const char* ParseBody(const char* cursor) override;
 };
 
 )";
 
-/// What a defined type has besides if it is a text.
+/// Additional members of a defined type that is a text.
 constexpr std::string_view kFromText = R"(  /// A text that is set; null makes it unset.
   @name@(const char* text);
 )";
@@ -47,13 +47,13 @@ constexpr std::string_view kIntegers = R"(class KELIFC_API @name@ : public LIST<
   @name@& operator=(const @name@&);
   ~@name@() override;
 
-  /// Reads whole numbers between parentheses; without any it stays unset.
+  /// Reads integers between parentheses. Without parentheses the list stays unset.
   const char* Parse(const char* cursor);
 };
 
 )";
 
-/// A select without IfcUnknown in it only marks the classes it may hold.
+/// A select that does not derive from IfcUnknown only marks the classes that it can hold.
 constexpr std::string_view kSelectBody = R"( public:
   @name@(const @name@&) = default;
   @name@& operator=(const @name@&) = default;
@@ -70,16 +70,16 @@ constexpr std::string_view kCopy = R"(  @name@(const @name@&);
 )";
 
 constexpr std::string_view kNewItem =
-    R"(  /// Makes an instance and registers it; without a server the caller owns it.
+    R"(  /// Makes an instance and registers it with the server. If `server` is null, the caller owns it.
   static @name@* NewItem(IfcServer* server);
 )";
 
-constexpr std::string_view kNames = R"(  /// The name as the schema spells it.
+constexpr std::string_view kNames = R"(  /// Returns the name of the entity as the schema spells it.
   static const char* GetItemName();
   const char* GetStepName() const override;
 )";
 
-/// What every header of a family includes.
+/// The headers that every header of a family includes.
 constexpr std::string_view kUsualHeaders[] = {
     "kelifc/core/aggregate.h",   "kelifc/core/binary.h",         "kelifc/core/boolean.h",
     "kelifc/core/coordinates.h", "kelifc/core/enum.h",           "kelifc/core/enum_text.h",
@@ -158,7 +158,7 @@ class HeaderEmitter {
     }
   }
 
-  /// A type whose base is of this family waits until the base has been written.
+  /// A type whose base belongs to this family is written after the base.
   void EmitDefinedTypeAfterBase(const DefinedType& type) {
     if (FamilyOf(model, type.base) == family.name) {
       waiting.push_back(&type);
@@ -185,7 +185,7 @@ class HeaderEmitter {
       return;
     }
     if (type.base.empty())
-      throw DescriptionError(type.place, type.name + " stands behind no select");
+      throw DescriptionError(type.place, type.name + " does not derive from a select");
     if (value.bare.empty())
       throw DescriptionError(type.place, "a defined type cannot hold this kind");
     const bool isText = type.kind == Kind::kString;
@@ -219,7 +219,7 @@ class HeaderEmitter {
 
   void EmitClassHead(const ResolvedClass& type) {
     out.Doc("", type.entity->doc);
-    for (const auto& departure : type.departures) out.Doc("", "Departs: " + departure + ".");
+    for (const auto& departure : type.departures) out.Doc("", "Departure: " + departure + ".");
     std::string head = "class KELIFC_API " + type.entity->name;
     for (std::size_t i = 0; i < type.bases.size(); ++i) {
       head += (i == 0 ? " : public " : ", public ") + type.bases[i];
@@ -245,7 +245,7 @@ class HeaderEmitter {
     const std::string name = entity.name + constructor.text;
     const auto comment = entity.comments.find(name);
     if (comment == entity.comments.end()) {
-      throw DescriptionError(constructor.place, "no line tells what " + name + " does");
+      throw DescriptionError(constructor.place, "no 'tell' line describes " + name);
     }
     return comment->second;
   }
@@ -300,7 +300,7 @@ class HeaderEmitter {
     }
   }
 
-  /// Where a part that is written by hand is described and defined.
+  /// Writes where a part that is written by hand is described and defined.
   template <class Part>
   void EmitPlaces(const std::string& indent, const Part& part) {
     if (part.bodyPlace.file.empty()) return;

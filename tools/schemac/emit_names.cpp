@@ -40,7 +40,7 @@ std::string ToUpper(std::string text) {
   return text;
 }
 
-/// The names that a file can instantiate, in alphabetical order.
+/// The entities that a file can contain, in alphabetical order.
 std::vector<std::string> FileNames(const ReleaseModel& model) {
   std::vector<std::string> names;
   for (const auto& type : model.classes) {

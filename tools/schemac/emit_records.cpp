@@ -28,17 +28,17 @@ constexpr std::string_view kRecord = R"(      {"@name@",
 /// The texts of one position.
 struct Sample {
   std::string read;     ///< as a file has it
-  std::string written;  ///< as it is written again
-  std::string absent;   ///< as a file has it while it is unset
-  std::string emptied;  ///< as the unset value is written
+  std::string written;  ///< as a save writes it
+  std::string absent;   ///< as a file has it if it is unset
+  std::string emptied;  ///< as a save writes the unset value
 };
 
-/// Makes the sample record of one class: every position set, from the chain of its bases down.
+/// Makes the sample record of one class. All positions are set, those of the bases too.
 class RecordWriter {
  public:
   explicit RecordWriter(const ReleaseModel& model) : model(model) {}
 
-  /// False if a class of the chain reads or writes by hand.
+  /// Returns false if Parse or Write of the class or of a base is written by hand.
   bool Run(const ResolvedClass& type) {
     return AddReads(type.hasParse ? type.entity->name : type.readBase) &&
            AddWrites(type.hasWrite ? type.entity->name : type.writeBase);
@@ -107,7 +107,7 @@ class RecordWriter {
             Fill(texts.absent, words), Fill(texts.emptied, words)};
   }
 
-  /// The last row, and for an unset attribute the row of the value that it starts with.
+  /// Adds the last row, and for an unset attribute the row of its initial value.
   void AddRows(const Attribute& attribute, TemplateWords& words) const {
     const EnumTable& table = *model.FindTable(*model.enumerations.at(attribute.type));
     words["row"] = table.rows.back().first;

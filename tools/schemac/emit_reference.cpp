@@ -8,7 +8,7 @@ namespace schemac {
 
 namespace {
 
-/// "2x, 2x2, 2x3", from a test of each release.
+/// The releases that pass a test, such as "2x, 2x2, 2x3".
 template <class Has>
 std::string Releases(Has has) {
   std::string text;
@@ -23,7 +23,7 @@ std::string Releases(ReleaseSet set) {
   return Releases([&](std::size_t release) { return set.Has(release); });
 }
 
-/// A text that appears in some releases, in the order in which it was first met.
+/// A text that appears in some releases.
 struct Appearance {
   std::string text;
   std::string doc;
@@ -44,7 +44,7 @@ std::string Joined(const std::vector<std::string>& pieces) {
   return text;
 }
 
-/// `|` would end a cell of a table.
+/// Escapes `|`, which would end a cell of a table.
 std::string Cell(std::string text) {
   for (std::size_t at = text.find('|'); at != std::string::npos; at = text.find('|', at + 2)) {
     text.insert(at, "\\");
@@ -52,7 +52,8 @@ std::string Cell(std::string text) {
   return text;
 }
 
-/// Writes the page of one family: what each class keeps, writes and offers, over all releases.
+/// Writes the page of one family: the attributes, the record and the operations of each class in
+/// all releases.
 class PageWriter {
  public:
   PageWriter(const Description& description, const std::vector<ReleaseModel>& models)
@@ -61,7 +62,7 @@ class PageWriter {
   std::string Run(const Family& family) {
     out.Line("# " + family.title);
     out.Line();
-    out.Line("Made from `kelifc/schema/" + family.name + ".schema`.");
+    out.Line("Generated from `kelifc/schema/" + family.name + ".schema`.");
     for (const auto& enumeration : description.enumerations) {
       if (enumeration.family == family.name) AddEnumeration(enumeration);
     }
@@ -90,7 +91,7 @@ class PageWriter {
         line += (i == 0 ? "`" : ", `") + table.rows[i].first + "` " +
                 std::to_string(table.rows[i].second);
       }
-      if (table.rows.empty()) line += "the text as it stands";
+      if (table.rows.empty()) line += "the text is kept unchanged";
       out.Line(line + ".");
     }
   }
@@ -101,7 +102,7 @@ class PageWriter {
     out.Line();
     const std::string bases = type.base.empty() ? " A `" : " A `" + type.base + "` and a `";
     out.Line(type.doc + bases + std::string(InfoOf(type.kind).type) + "`. Releases: " +
-             Releases(type.releases) + "; a file can name it in: " + Releases(type.file) + ".");
+             Releases(type.releases) + "; a file can contain it in: " + Releases(type.file) + ".");
   }
 
   void AddEntity(const Entity& entity) {
@@ -129,15 +130,15 @@ class PageWriter {
     AddOperations(entity, operations);
     for (const auto& departure : departures) {
       out.Line();
-      out.Line("Departs from the regular form" + In(entity, departure) + ": " + departure.text +
+      out.Line("Departure from the regular form" + In(entity, departure) + ": " + departure.text +
                ".");
     }
   }
 
   void AddFacts(const Entity& entity, const std::vector<Appearance>& bases,
                 const std::vector<Appearance>& writes) {
-    out.Line("- Releases: " + Releases(entity.releases) + "; a file can name it in: " +
-             Releases(entity.file) + "; a host can make it in: " + Releases(entity.made) + ".");
+    out.Line("- Releases: " + Releases(entity.releases) + "; a file can contain it in: " +
+             Releases(entity.file) + "; a host can create it in: " + Releases(entity.made) + ".");
     for (const auto& base : bases) {
       if (!base.text.empty()) out.Line("- Bases" + In(entity, base) + ": `" + base.text + "`.");
     }
@@ -148,7 +149,7 @@ class PageWriter {
     }
   }
 
-  /// What a class writes itself, behind what its bases write.
+  /// Returns the record that a class writes, with the positions of its bases.
   static std::string Record(const ReleaseModel& model, const ResolvedClass& type) {
     if (!type.isUnknown || type.entity->isAbstract) return {};
     if (type.customWrite) return "by hand, see the source";
@@ -180,7 +181,7 @@ class PageWriter {
   void AddAttributes(const Entity& entity) {
     if (entity.attributes.empty()) return;
     out.Line();
-    out.Line("| attribute | held as | releases | remark |");
+    out.Line("| attribute | type | releases | remark |");
     out.Line("|---|---|---|---|");
     for (const auto& attribute : entity.attributes) {
       out.Line("| " + attribute.name + " | " + HeldAs(entity, attribute) + " | " +
@@ -202,9 +203,9 @@ class PageWriter {
     std::vector<std::string> remarks;
     if (attribute.isInverse) remarks.emplace_back("inverse, not in the file");
     if (!attribute.inFile && !attribute.isInverse) remarks.emplace_back("not in the file");
-    if (!attribute.initial.empty()) remarks.push_back("starts as `" + attribute.initial + "`");
+    if (!attribute.initial.empty()) remarks.push_back("initially `" + attribute.initial + "`");
     if (!attribute.absent.empty())
-      remarks.push_back("counts as " + attribute.absent + " while unset");
+      remarks.push_back("reads as " + attribute.absent + " while unset");
     if (!attribute.writtenAs.empty()) remarks.push_back("written as `" + attribute.writtenAs + "`");
     if (!attribute.reason.empty()) remarks.push_back(attribute.reason);
     return Joined(remarks);
@@ -219,7 +220,7 @@ class PageWriter {
   void AddOperations(const Entity& entity, const std::vector<Appearance>& operations) {
     if (operations.empty()) return;
     out.Line();
-    out.Line("Operations, in slot order:");
+    out.Line("Operations, in the order of their slots:");
     out.Line();
     for (const auto& operation : operations) {
       out.Line("- `" + operation.text + "`" + In(entity, operation) +
@@ -235,7 +236,7 @@ class PageWriter {
              Releases(function.releases) + ". " + function.doc);
   }
 
-  /// " (2x)" for what does not hold in all releases of the entity.
+  /// Returns text such as " (2x)" unless the fact applies to all releases of the entity.
   static std::string In(const Entity& entity, const Appearance& appearance) {
     bool everywhere = true;
     for (std::size_t release = 0; release < kReleaseCount; ++release) {
@@ -257,7 +258,7 @@ void EmitReference(const Description& description, const std::vector<ReleaseMode
   TextWriter index;
   index.Line("# The entity classes");
   index.Line();
-  index.Line("One page per family, made from the descriptions in `kelifc/schema`.");
+  index.Line("One page for each family, generated from the descriptions in `kelifc/schema`.");
   index.Line();
   for (const auto& family : description.families) {
     files["docs/reference/" + family.name + ".md"] = PageWriter(description, models).Run(family);

@@ -27,7 +27,7 @@ constexpr std::string_view kClassList = R"(#include "kelifc/schema/@folder@/fwd.
 
 namespace KelIFC {
 
-/// The classes of release @release@ under one name, for logic that is written once over the releases.
+/// The classes of release @release@, for templates that work with all releases.
 struct Release@suffix@ {
   static constexpr IFC_RELEASE kRelease = @constant@;
 
@@ -43,7 +43,7 @@ struct Release@suffix@ {
 )";
 
 constexpr std::string_view kUmbrella =
-    R"(// Every class of release @release@, those of all releases included.
+    R"(// All classes of release @release@, with those that all releases share.
 @includes@#include "kelifc/schema/@folder@/release.h"
 
 )";
@@ -65,7 +65,7 @@ std::vector<std::string> ClassNames(const ReleaseModel& model) {
   return names;
 }
 
-/// `form`, a template of one line, for each name.
+/// Returns `form`, a template of one line, for each name.
 std::string ForEach(const std::vector<std::string>& names, std::string_view form,
                     TemplateWords words) {
   TextWriter out;

@@ -17,7 +17,8 @@ constexpr std::string_view kTail = R"(}  // namespace
 }  // namespace @namespace@
 )";
 
-/// The pointers are taken in a class derived from the tested one, which can see what is protected.
+/// A class that derives from the tested class takes the pointers, because it has access to
+/// protected operations.
 constexpr std::string_view kClass = R"(struct @name@Slots : @name@ {
 @uses@  static std::vector<std::ptrdiff_t> Read() {
     return {

@@ -62,7 +62,7 @@ constexpr std::string_view kNewItem =
     R"(@name@* @name@::NewItem(IfcServer* server) { return MakeItem<@name@>(server); }
 )";
 
-/// The directives give messages and debuggers the places in the file that a body comes from.
+/// The directives make compilers and debuggers show the lines of the file that contains the body.
 constexpr std::string_view kBody = R"(// The bodies of @name@, from @file@:@line@.
 #line @next@ "@file@"
 @text@)";
@@ -140,7 +140,7 @@ class SourceEmitter {
   void EmitParse(const ResolvedClass& type) {
     out.Line("const char* " + type.entity->name + "::Parse(const char* cursor) {");
     std::vector<std::string> parts = {type.readBase + "::Parse(cursor)"};
-    bool isPending = true;  // true while `parts` holds reading that has not been written out
+    bool isPending = true;  // true while `parts` contains parts that are not yet written
     bool hasLinks = false;
     for (const auto& step : type.reads) {
       if (step.act != Step::Act::kLink) {

@@ -11,7 +11,7 @@ void EmitHeader(const ReleaseModel& model, const Family& family, Files& files);
 /// The source of one family in one release.
 void EmitSource(const ReleaseModel& model, const Family& family, Files& files);
 
-/// The name table of one release: what a file can name.
+/// The table of the names that a file of one release can contain.
 void EmitNames(const ReleaseModel& model, Files& files);
 
 /// The comparison of the values of each class of one release.
@@ -26,11 +26,11 @@ void EmitRelease(const Description& description, const ReleaseModel& model, File
 /// The enumerations of the core namespace, one header per family.
 void EmitCoreEnumerations(const Description& description, Files& files);
 
-/// The reference pages, one per family over all releases, and their index.
+/// The reference pages and their index. Each page describes one family in all releases.
 void EmitReference(const Description& description, const std::vector<ReleaseModel>& models,
                    Files& files);
 
-/// A test source with a sample record of each class that is read and written regularly.
+/// A test source with a sample record of each class whose Parse and Write are generated.
 void EmitRecords(const ReleaseModel& model, Files& files);
 
 /// A test source that compares the order of the virtual operations with the compiler's layout.

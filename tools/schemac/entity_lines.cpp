@@ -9,7 +9,7 @@ namespace schemac {
 
 namespace {
 
-/// The word of a target that is not narrowed to a class.
+/// The word for a reference that can lead to any class.
 constexpr std::string_view kAnyType = "any";
 
 /// Reads one line and adds what it says to an entity.
@@ -37,7 +37,7 @@ class EntityLine {
   }
 
  private:
-  /// A word that begins a line, and what reads the rest of the line.
+  /// A word that begins a line, and the function that reads the rest of the line.
   struct Directive {
     std::string_view word;
     void (EntityLine::*read)();
@@ -55,7 +55,7 @@ class EntityLine {
   void ReadMake() { entity.constructors.push_back(Marked{in.Rest(), releases, line.place}); }
   void ReadDeparts() { entity.departures.push_back({in.Rest(), releases}); }
 
-  /// The name of the class means a constructor; its parameters follow.
+  /// If the operation has the name of the class, it is a constructor and its parameters follow.
   void ReadTell() {
     std::string operation = in.Name("an operation");
     if (operation == entity.name) {
@@ -75,25 +75,25 @@ class EntityLine {
     return step;
   }
 
-  /// The name of a position that is not stored; empty where the line has none.
+  /// Reads the name of a position that is not stored. Returns an empty text if the line has none.
   std::string ReadPositionName() {
     TokenReader ahead = in;
     const char first = ahead.AtEnd() ? ' ' : ahead.Word("a word").front();
     return first >= 'A' && first <= 'Z' ? in.Name("the name of the attribute") : std::string();
   }
 
-  /// The kind of a position that is not stored.
+  /// Reads the kind of a position that is not stored.
   Kind ReadPositionKind() {
     const Place place = in.Here();
     const std::string word = in.Name("a kind");
     const KindInfo* kind = FindKind(word);
     if (kind == nullptr || kind->published.empty()) {
-      throw DescriptionError(place, "'" + word + "' is no kind of a position");
+      throw DescriptionError(place, "'" + word + "' is not a kind for a position");
     }
     return kind->kind;
   }
 
-  /// Adds a position that is not stored, after a word that may follow it.
+  /// Reads an optional word after a position that is not stored, and adds the position.
   void AddPosition(Step step) {
     if (in.Take("required")) step.required = ReadFlagReleases(in, releases);
     entity.steps.push_back(std::move(step));
@@ -112,7 +112,7 @@ class EntityLine {
     AddPosition(std::move(step));
   }
 
-  /// Positions with a name and a kind, or without.
+  /// Reads positions, with or without a name and a kind.
   void ReadLiterals() {
     do {
       Step step = NewStep(Step::Act::kLiteral);
@@ -176,14 +176,14 @@ class EntityLine {
     without = without | releases;
   }
 
-  /// Reads `Parse`, which gives true, or `Write`.
+  /// Reads `Parse` and returns true, or reads `Write` and returns false.
   bool ReadsParse() {
     if (in.Take("Parse")) return true;
     if (!in.Take("Write")) in.Fail("expected 'Parse' or 'Write'");
     return false;
   }
 
-  /// Getters, then setters, of all attributes described so far.
+  /// Adds the getters and then the setters of all attributes described so far.
   void ReadAccessors() {
     for (const std::string verb : {"Get", "Set"}) {
       for (const auto& attribute : entity.attributes) {
@@ -243,7 +243,7 @@ class EntityLine {
     const Place place = in.Here();
     const std::string word = in.Name("the kind of the attribute");
     const KindInfo* kind = FindKind(word);
-    if (kind == nullptr) throw DescriptionError(place, "'" + word + "' is no kind");
+    if (kind == nullptr) throw DescriptionError(place, "'" + word + "' is not a kind");
     attribute.kind = kind->kind;
     attribute.inFile = kind->isInFile;
     if (kind->takesName) attribute.type = in.Name("the class or enumeration");

@@ -11,7 +11,7 @@ constexpr std::string_view kCoreReader = "ReadMember<@class@, Kept<@class@>::@po
 
 constexpr std::string_view kValueReader = "ReadValueType<@class@, @value@>";
 
-/// The C++ name of a class that schemac makes.
+/// Returns the C++ name of a generated class.
 std::string TypeName(const ReleaseModel& model, const std::string& name) {
   return std::string(kReleases[model.release].nameSpace) + "::" + name;
 }
@@ -58,9 +58,9 @@ EntityRow RowOf(const CoreClass& type) {
   return row;
 }
 
-/// A class of the core that the schema does not have is no base of it.
+/// Leaves out classes of the core that the schema does not have.
 std::vector<std::string> SchemaBases(const ReleaseModel& model, const ResolvedClass& type) {
-  constexpr std::size_t kMost = 2;  // of EntityDescription
+  constexpr std::size_t kMost = 2;  // the size of EntityDescription::bases
   std::vector<std::string> bases;
   for (const auto& base : type.bases) {
     const CoreClass* core = FindCoreClass(base);
@@ -93,7 +93,7 @@ EntityRow RowOf(const ReleaseModel& model, const DefinedType& type) {
   EntityRow row;
   row.name = type.name;
   row.type = TypeName(model, type.name);
-  row.isInstantiable = type.kind != Kind::kIntegers;  // that one is no instance
+  row.isInstantiable = type.kind != Kind::kIntegers;  // a list of integers is not an instance
   row.form = "kValueType";
   row.valueKind = InfoOf(type.kind).published;
   row.isInFile = type.file.Has(model.release);

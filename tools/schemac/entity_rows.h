@@ -10,9 +10,8 @@
 
 namespace schemac {
 
-/// One class in the table of entities. The fields are those of EntityDescription in
-/// kelifc/schema/attribute_table.h, but for those that have a comment here; `form` and `valueKind`
-/// are enumerators.
+/// One class in the table of entities. Fields without a comment are those of EntityDescription in
+/// kelifc/schema/attribute_table.h. `form` and `valueKind` are enumerators.
 struct EntityRow {
   std::string name;
   std::string type;  ///< the C++ class; empty for one of the core
@@ -27,8 +26,8 @@ struct EntityRow {
   std::size_t positionCount = 0;
 };
 
-/// All classes of a release, each after its bases: those of the core first. Throws
-/// DescriptionError for a class with more than two bases.
+/// Returns all classes of a release, each after its bases. The classes of the core come first.
+/// Throws DescriptionError for a class with more than two bases.
 std::vector<EntityRow> EntityRows(const ReleaseModel& model);
 
 }  // namespace schemac

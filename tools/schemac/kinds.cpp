@@ -7,43 +7,50 @@
 
 namespace schemac {
 
-constexpr GetterForm kPlainGetter = {"@stored@", "@Name@, unset if absent.", "return @member@;"};
+constexpr GetterForm kPlainGetter = {"@stored@", "Returns @Name@; the result can be unset.",
+                                     "return @member@;"};
 constexpr SetterForm kValueSetter = {"@stored@ value", "Sets @Name@.", "@member@ = value;"};
 
 namespace {
 
-constexpr GetterForm kEnumGetter = {"@stored@", "@Name@.", "return @member@;"};
+constexpr GetterForm kEnumGetter = {"@stored@", "Returns @Name@.", "return @member@;"};
 constexpr GetterForm kPointerGetter = {
     .result = "@const@@target@*",
-    .doc = "@Name@; null if it is unset or does not lead to an instance of @target@.",
+    .doc =
+        "Returns @Name@. Returns null if it is unset or does not lead to an instance of @target@.",
     .body = "return InstanceOf<@target@>(@member@);",
     .isPointer = true,
     .usesInner = true};
 constexpr GetterForm kViewGetter = {
     .result = "@view@<@const@@target@*>",
-    .doc = "The instances of @Name@, as many as it has members; null for one that is no @target@.",
+    .doc =
+        "Returns the instances of @Name@, one for each member. A member that does not lead to an "
+        "instance of @target@ is null.",
     .body = "return ViewOf<@result@>(@member@, *this);",
     .isPointer = true};
 
 constexpr SetterForm kTextSetter = {"const char* text", "Sets @Name@; null makes it unset.",
                                     "@member@ = text;"};
 constexpr SetterForm kBooleanSetter = {"bool value", "Sets @Name@.", "@member@ = BOOLEAN(value);"};
-/// For values that own memory: a copy costs an allocation.
+/// For values that own memory. They are passed by reference because a copy allocates.
 constexpr SetterForm kLargeSetter = {"const @stored@& value", "Sets @Name@.", "@member@ = value;"};
 constexpr SetterForm kReferenceSetter = {
     "@const@@target@* item",
-    "Refers @Name@ to an instance of the model; null or one that the model does not hold makes it "
-    "unset. An inline value that was read from a file stays: a save writes the new reference, but "
+    "Sets @Name@ to an instance of the model. Null, or an instance that the model does not hold, "
+    "makes it unset. An inline value that was read from a file stays: a save writes the new "
+    "reference, but "
     "the getter still returns the inline value.",
     "@member@.SetReference(UnknownOf(item));"};
 constexpr SetterForm kInlineSetter = {
     "@target@* item",
-    "Sets @Name@ to an inline value. A value that is registered in a model stays the model's; any "
-    "other value belongs to this instance. The value that was set before belongs to the caller "
+    "Sets @Name@ to an inline value. A value that is registered in a model still belongs to the "
+    "model; any other value belongs to this instance. The value that was set before belongs to the "
+    "caller "
     "again.",
     "@member@ = item;"};
 constexpr SetterForm kAggregateSetter = {
-    "const @view@<@target@*>& items", "Replaces @Name@; what the model does not hold is left out.",
+    "const @view@<@target@*>& items",
+    "Replaces @Name@. Instances that the model does not hold are left out.",
     "ReplaceMembers(@member@, items, *this);"};
 
 constexpr std::string_view kEnumerated = "Enumerated(@member@, @table@@missing@)";
@@ -253,7 +260,7 @@ constexpr std::array kKinds = {
              .sample = {"$"}},
 };
 
-/// InfoOf takes the row at the place of the kind.
+/// InfoOf uses the kind as the index of its row.
 constexpr bool IsInOrder() {
   for (std::size_t i = 0; i < kKinds.size(); ++i) {
     if (static_cast<std::size_t>(kKinds[i].kind) != i) return false;

@@ -7,7 +7,7 @@
 
 namespace schemac {
 
-/// What an attribute holds, or what a position of a record is read as.
+/// The kind of value that an attribute holds, or as which a position of a record is read.
 enum class Kind : std::uint8_t {
   kString,
   kLabel,       ///< IfcLabel where the release has it, else STRING
@@ -36,8 +36,8 @@ enum class Kind : std::uint8_t {
   kInstance,    ///< an instance that is held by value: a cache
 };
 
-/// How a getter of an attribute looks. The texts are templates (see text_template.h) with the words
-/// Name, member, stored, target, view, result and const; `const` is "const " or empty.
+/// The form of a getter. The texts are templates (see text_template.h) with the words Name, member,
+/// stored, target, view, result and const; `const` is "const " or empty.
 struct GetterForm {
   std::string_view result;
   std::string_view doc;
@@ -46,7 +46,7 @@ struct GetterForm {
   bool usesInner = false;  ///< a getter calls the writable form, where the class describes one
 };
 
-/// How a setter of an attribute looks. The texts are templates with the words of GetterForm.
+/// The form of a setter. The texts are templates with the words of GetterForm.
 struct SetterForm {
   std::string_view parameter;
   std::string_view doc;
@@ -67,7 +67,7 @@ struct SampleTexts {
   std::string_view emptied = "$";  ///< as the unset value is written
 };
 
-/// Everything that one kind means. This is the only place that knows it.
+/// Everything that the generator knows about one kind.
 struct KindInfo {
   Kind kind;
   std::string_view word;            ///< its name in the notation
@@ -91,13 +91,14 @@ struct KindInfo {
   SampleTexts sample = {};
 };
 
-/// The row of a kind.
+/// Returns the row of a kind.
 const KindInfo& InfoOf(Kind kind);
 
-/// The row of a word of the notation; null for a word that names no kind.
+/// Returns the row of a word of the notation. Returns null for a word that is not a kind.
 const KindInfo* FindKind(std::string_view word);
 
-/// The C++ type that reads a value of a kind in a release; empty for a kind that needs a class.
+/// Returns the C++ type that reads a value of a kind in a release. Returns an empty text for a kind
+/// that needs a class.
 std::string_view ValueType(const KindInfo& info, std::size_t release);
 
 }  // namespace schemac

@@ -12,7 +12,7 @@ std::string_view TrimRight(std::string_view text) {
   return last == std::string_view::npos ? std::string_view() : text.substr(0, last + 1);
 }
 
-/// Where the reason begins: a mark at the head of the text or behind a blank.
+/// Returns where the reason begins: at a mark that starts the text or follows a blank.
 std::size_t FindReason(std::string_view text) {
   for (auto at = text.find(kReasonMark); at != std::string_view::npos;
        at = text.find(kReasonMark, at + 1)) {

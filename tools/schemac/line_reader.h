@@ -9,23 +9,23 @@
 
 namespace schemac {
 
-/// One line of a description that says something.
+/// One line of a description that is not empty.
 struct Line {
-  /// A piece that stands in a line of its own in the file.
+  /// A part of the text that is on a further line of the file.
   struct Continuation {
     std::size_t offset;  ///< in `text`
     Place place;
   };
 
   Place place;         ///< of the first character of `text`
-  bool indented;       ///< part of the entry above it
+  bool indented;       ///< the line belongs to the entry above it
   std::string text;    ///< without indentation, comment, reason and trailing blanks
-  std::string reason;  ///< what stands behind " -- ": why the line departs from the regular form
+  std::string reason;  ///< the text after " -- ": why the line departs from the regular form
   std::vector<Continuation> continuations = {};  ///< in ascending order
 };
 
-/// Cuts a description into lines. `#` at the head of a line begins a comment; a line that is
-/// indented deeper than six blanks goes on with the line above it; tabs are refused.
+/// Splits a description into lines. `#` at the start of a line begins a comment. A line that is
+/// indented by six blanks or more continues the line above it. Throws DescriptionError for a tab.
 std::vector<Line> ReadLines(const std::string& file, std::string_view text);
 
 }  // namespace schemac

@@ -1,10 +1,10 @@
-// Makes the entity classes from their descriptions:
+// Generates the entity classes from their descriptions:
 //
 //   schemac OUTPUT-FOLDER FILE...
 //
-// A file NAME.schema describes entities; NAME.inl holds the code that is written by hand for
-// entities and functions that the files named earlier describe.
-// Every file that would be the same keeps its time, so that what depends on it is not built again.
+// A file NAME.schema describes entities. A file NAME.inl contains the code that is written by hand
+// for entities and functions that the files before it describe. Output files that do not change
+// keep their time, so that their dependents are not built again.
 
 #include <exception>
 #include <filesystem>

@@ -6,7 +6,7 @@ namespace {
 
 ReleaseSet ToReleases(const std::string& word, const Place& place) {
   const auto releases = ReleaseSet::Read(word);
-  if (!releases) throw DescriptionError(place, "'" + word + "' names no releases");
+  if (!releases) throw DescriptionError(place, "'" + word + "' does not name releases");
   return *releases;
 }
 

@@ -8,7 +8,8 @@
 
 namespace schemac {
 
-// How a line names releases. Each function throws DescriptionError for a text that names none.
+// The ways in which a line names releases. Each function throws DescriptionError for any other
+// text.
 
 /// Reads releases: `2x..`.
 ReleaseSet ReadReleases(TokenReader& in);
@@ -16,8 +17,8 @@ ReleaseSet ReadReleases(TokenReader& in);
 /// Reads a mark in brackets, `[2x..]`, if one comes next.
 std::optional<ReleaseSet> ReadMark(TokenReader& in);
 
-/// Reads the releases that follow a flag. Without any the flag holds for all of `whole`. A release
-/// outside of `whole` is refused.
+/// Reads the releases that follow a flag. Without releases, the flag applies to all of `whole`. A
+/// release outside of `whole` is refused.
 ReleaseSet ReadFlagReleases(TokenReader& in, ReleaseSet whole);
 
 }  // namespace schemac

@@ -10,7 +10,7 @@ namespace schemac {
 
 namespace {
 
-/// Follows the comment of a getter of an inverse attribute.
+/// The end of the comment of a getter of an inverse attribute.
 constexpr std::string_view kInverseDoc = " Inverse: setters of other instances never fill it.";
 
 bool StartsWith(std::string_view text, std::string_view head) {
@@ -45,7 +45,7 @@ class OperationWriter {
  private:
   using Role = ResolvedOperation::Role;
 
-  /// The beginning of a name, and what adds an operation that has it.
+  /// The beginning of a name, and the function that adds operations with such a name.
   struct Verb {
     std::string_view head;
     void (OperationWriter::*add)(const Operation&);
@@ -62,13 +62,13 @@ class OperationWriter {
     resolved.isConst = operation.isConst || (resolved.result != "void" && !givesWritable);
     const auto comment = type.entity->comments.find(operation.name);
     if (comment == type.entity->comments.end() && !operation.isOverride) {
-      throw DescriptionError(operation.place, "no line tells what " + operation.name + " does");
+      throw DescriptionError(operation.place, "no 'tell' line describes " + operation.name);
     }
     if (comment != type.entity->comments.end()) resolved.doc = comment->second;
     type.operations.push_back(std::move(resolved));
   }
 
-  /// A const operation that calls the one with '_' in front of its name.
+  /// Adds a const operation that calls the operation with '_' before its name.
   void AddForward(const Operation& operation) {
     const std::string inner = "_" + operation.name;
     const auto& all = type.operations;
@@ -77,7 +77,7 @@ class OperationWriter {
     });
     if (found == all.end()) {
       throw DescriptionError(operation.place, operation.name + " forwards to " + inner +
-                                                  ", which stands nowhere above it");
+                                                  ", which is not declared above it");
     }
     ResolvedOperation resolved = Begin(operation);
     resolved.isConst = true;
@@ -99,8 +99,8 @@ class OperationWriter {
     return resolved;
   }
 
-  /// Finds the verb and the attribute that a name consists of; null if the class has no such
-  /// attribute in this release. An attribute of other releases sets `isElsewhere`.
+  /// Splits a name into a verb and an attribute. Returns null if the class does not have the
+  /// attribute in this release. Sets `isElsewhere` if another release has it.
   const Verb* FindVerb(const Operation& operation) {
     isElsewhere = false;
     for (const auto& verb : kVerbs) {
@@ -142,8 +142,8 @@ class OperationWriter {
 
   const KindInfo& Info() const { return InfoOf(attribute->kind); }
 
-  /// The words of the attribute. Only an attribute that is narrowed to a class can be shown as a
-  /// pointer.
+  /// Returns the words of the attribute. Throws if the operation returns pointers and the attribute
+  /// is not narrowed to a class.
   TemplateWords Words(const Operation& operation, bool isConst) const {
     TemplateWords words = WordsOf(model, *attribute);
     if (Info().getter->isPointer && words["target"].empty()) {
@@ -153,7 +153,7 @@ class OperationWriter {
     return words;
   }
 
-  /// A getter in its general form, without a description.
+  /// Returns a getter in its general form, without a comment.
   ResolvedOperation GetterOf(const Operation& operation, TemplateWords& words) const {
     ResolvedOperation resolved = Begin(operation);
     resolved.result = Fill(Info().getter->result, words);
@@ -166,7 +166,7 @@ class OperationWriter {
     TemplateWords words = Words(operation, false);
     ResolvedOperation resolved = GetterOf(operation, words);
     resolved.isConst = !Info().getter->isPointer;
-    resolved.doc = Fill("@Name@ for derived classes, told at Get@Name@.", words);
+    resolved.doc = Fill("Returns @Name@ for derived classes, as Get@Name@ does.", words);
     type.operations.push_back(std::move(resolved));
   }
 
@@ -193,7 +193,7 @@ class OperationWriter {
     }
     if (!attribute->absent.empty()) {
       words["absent"] = attribute->absent;
-      resolved.doc = Fill("@Name@; @absent@ while it is unset.", words);
+      resolved.doc = Fill("Returns @Name@, or @absent@ while it is unset.", words);
       resolved.body = {Fill("return @member@.GetExists() ? @member@ : @result@(@absent@);", words)};
     }
     type.operations.push_back(std::move(resolved));
@@ -212,14 +212,14 @@ class OperationWriter {
 
   void AddAdder(const Operation& operation) {
     if (Info().view.empty()) {
-      throw DescriptionError(operation.place, attribute->name + " is no aggregate");
+      throw DescriptionError(operation.place, attribute->name + " is not an aggregate");
     }
     const TemplateWords words = Words(operation, false);
     ResolvedOperation resolved = Begin(operation);
     resolved.result = "void";
     resolved.parameters = Fill("@target@* item", words);
-    resolved.doc =
-        Fill("Adds a reference to @Name@; what the model does not hold is left out.", words);
+    resolved.doc = Fill(
+        "Adds a reference to @Name@. An instance that the model does not hold is left out.", words);
     resolved.body = {Fill("AddMember(@member@, item, *this);", words)};
     type.operations.push_back(std::move(resolved));
   }

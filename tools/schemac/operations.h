@@ -5,10 +5,10 @@
 
 namespace schemac {
 
-/// Turns the described operations of a class into C++. An operation whose name names an attribute
-/// gets a body; the body of one with a signature is written by hand. An operation on an attribute
-/// that the release does not have is left out. Throws DescriptionError for an operation that is
-/// neither.
+/// Turns the described operations of a class into C++. The body of an operation on an attribute is
+/// generated. The body of an operation with a signature is written by hand. An operation on an
+/// attribute that the release does not have is left out. Throws DescriptionError for any other
+/// operation.
 void ResolveOperations(ResolvedClass& type, const ReleaseModel& model);
 
 }  // namespace schemac

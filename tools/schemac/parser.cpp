@@ -9,7 +9,7 @@ namespace schemac {
 
 namespace {
 
-/// Reads the description of one file: keeps the entry that indented lines belong to.
+/// Reads the description of one file. It keeps the entry to which indented lines belong.
 class Parser {
  public:
   explicit Parser(Description& description) : description(description) {}
@@ -29,7 +29,7 @@ class Parser {
       ReadFamily(in);
       return;
     }
-    if (family.empty()) in.Fail("a description begins with its family");
+    if (family.empty()) in.Fail("a description must begin with its family");
     if (in.Take("entity")) {
       ReadEntity(line, in);
     } else if (in.Take("type")) {
@@ -44,13 +44,13 @@ class Parser {
   }
 
   void ReadFamily(TokenReader& in) {
-    if (!family.empty()) in.Fail("a file describes one family");
+    if (!family.empty()) in.Fail("a file can describe only one family");
     family = in.Name("the name of the family");
     in.Expect(":");
     description.families.push_back({family, in.Rest()});
   }
 
-  /// Begins an entry: the lines that follow belong to it.
+  /// Begins an entry. The indented lines that follow belong to it.
   template <class Entry>
   Entry& Begin(std::vector<Entry>& entries, const Line& line) {
     Entry& entry = entries.emplace_back();
@@ -128,7 +128,7 @@ class Parser {
     } else if (enumeration != nullptr) {
       ReadEnumerationLine(in, *enumeration);
     } else {
-      in.Fail("this line belongs to no entry");
+      in.Fail("this line does not belong to an entry");
     }
   }
 
@@ -141,7 +141,7 @@ class Parser {
       std::int32_t value = 0;
       const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
       if (read.ec != std::errc() || read.ptr != number.data() + number.size()) {
-        throw DescriptionError(place, "'" + number + "' is no whole number");
+        throw DescriptionError(place, "'" + number + "' is not a whole number");
       }
       table.rows.emplace_back(text, value);
     }
@@ -150,7 +150,8 @@ class Parser {
 
   Description& description;
   std::string family;
-  // The parts of the last entry that the lines of its body add to; null where it has no such part.
+  // The parts of the last entry that its body can change. A pointer is null if the entry does not
+  // have the part.
   std::string* doc = nullptr;
   Entity* entity = nullptr;
   Enumeration* enumeration = nullptr;

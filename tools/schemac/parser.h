@@ -8,8 +8,8 @@
 
 namespace schemac {
 
-/// Reads one description file and adds what it says to `description`. The notation is told in
-/// docs/schema-notation.md. Throws DescriptionError at the first line that it cannot read.
+/// Reads one description file and adds what it says to `description`. docs/schema-notation.md
+/// describes the notation. Throws DescriptionError at the first line that it cannot read.
 void ParseDescription(const std::string& file, std::string_view text, Description& description);
 
 }  // namespace schemac

@@ -23,9 +23,9 @@ struct ResolvedOperation {
   std::string doc;
   std::vector<std::string> body;  ///< statements; empty: written by hand
   Place place;                    ///< of its description
-  Place bodyPlace;                ///< of its definition, where it is written by hand
+  Place bodyPlace;                ///< of its definition, if it is written by hand
 
-  /// What it does with an attribute of the class, if its name says that.
+  /// What the operation does with an attribute of the class.
   enum class Role { kNone, kGetter, kSetter, kAdder };
   Role role = Role::kNone;
   std::string attribute;
@@ -45,7 +45,7 @@ struct ResolvedClass {
   std::vector<const Attribute*> attributes;
   std::vector<Step> reads;
   std::vector<Step> writes;
-  std::vector<Step> positions;  ///< those of a statement, after the ones of `recordBase`
+  std::vector<Step> positions;  ///< in a statement, after the positions of `recordBase`
   std::string readBase;         ///< class whose Parse runs first
   std::string writeBase;        ///< class whose Write runs first
   std::string recordBase;       ///< class whose positions come first in a statement
@@ -67,8 +67,8 @@ struct ResolvedFunction {
   std::vector<const Body*> bodies;
 };
 
-/// Everything of one release, in the order of the description. It refers to the description, which
-/// has to live as long.
+/// All classes and functions of one release, in the order of the description. The model refers to
+/// the description, which must outlive it.
 struct ReleaseModel {
   std::size_t release = 0;
   std::vector<ResolvedClass> classes;
@@ -77,17 +77,18 @@ struct ReleaseModel {
   std::map<std::string, const Enumeration*, std::less<>> enumerations;
   std::vector<ResolvedFunction> functions;
 
-  /// The class of a name; null for a name that the release lacks, and for a class of the core.
+  /// Returns the class with a name. Returns null for a name that the release does not have, and for
+  /// a class of the core.
   const ResolvedClass* Find(std::string_view name) const;
 
-  /// True for a class, select or defined type that a reference can be narrowed to, the classes of
-  /// the core included.
+  /// Returns true for a class, select or defined type that a reference can lead to. The classes of
+  /// the core are included.
   bool KnowsClass(std::string_view name) const;
 
-  /// The attribute of a name in a class or in the classes above it; null if there is none.
+  /// Returns the attribute with a name in a class or in its bases, or null if there is none.
   const Attribute* FindAttribute(const ResolvedClass& type, std::string_view name) const;
 
-  /// The table of an enumeration in the release; null if it has none there.
+  /// Returns the table of an enumeration in the release, or null if there is none.
   const EnumTable* FindTable(const Enumeration& enumeration) const;
 };
 

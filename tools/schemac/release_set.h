@@ -9,7 +9,7 @@
 
 namespace schemac {
 
-/// What the generator knows of one schema release, in the order of publication.
+/// What the generator knows about one schema release.
 struct ReleaseInfo {
   std::string_view mark;       ///< as descriptions write it: "151"
   std::string_view title;      ///< as people write it: "1.5.1"
@@ -20,7 +20,7 @@ struct ReleaseInfo {
 };
 
 inline constexpr std::size_t kReleaseCount = 5;
-extern const std::array<ReleaseInfo, kReleaseCount> kReleases;
+extern const std::array<ReleaseInfo, kReleaseCount> kReleases;  // in the order of publication
 
 /// The first release that has the label and identifier classes and both forms of a getter.
 inline constexpr std::size_t kFirstWithLabels = 3;
@@ -31,7 +31,8 @@ class ReleaseSet {
   static constexpr ReleaseSet All() { return ReleaseSet((1U << kReleaseCount) - 1); }
   static constexpr ReleaseSet None() { return ReleaseSet(0); }
 
-  /// Reads "all", "2x3", "2x..", "..20", "2x..2x2" or a comma list of these; none if it is neither.
+  /// Reads "all", "2x3", "2x..", "..20", "2x..2x2" or a list of these with commas. Returns nullopt
+  /// for any other text.
   static std::optional<ReleaseSet> Read(std::string_view text);
 
   constexpr bool Has(std::size_t release) const { return (bits >> release & 1U) != 0; }

@@ -21,7 +21,7 @@ std::vector<std::string> Words(const std::string& text) {
   return words;
 }
 
-/// The last piece of text that holds for the release; null if none does.
+/// Returns the last text that applies to the release, or null if none does.
 const Marked* LastFor(const std::vector<Marked>& pieces, std::size_t release) {
   const auto last = std::find_if(pieces.rbegin(), pieces.rend(),
                                  [&](const Marked& piece) { return piece.releases.Has(release); });
@@ -87,7 +87,8 @@ class Resolver {
       }
       const auto at = model.indexOf.find(base);
       const bool isLater = at != model.indexOf.end() && at->second >= model.indexOf[entity.name];
-      if (isLater) throw DescriptionError(entity.place, "the base " + base + " stands behind it");
+      if (isLater)
+        throw DescriptionError(entity.place, "the base " + base + " is described after it");
       if (const CoreClass* core = FindCoreClass(base)) type.isUnknown |= core->isUnknown;
       if (const ResolvedClass* other = model.Find(base)) type.isUnknown |= other->isUnknown;
     }
@@ -102,7 +103,7 @@ class Resolver {
     }
   }
 
-  /// Classes come in an order in which bases stand first, so the chain above is resolved.
+  /// Bases come before the classes that derive from them, so the bases are already resolved.
   void ResolveRecord(ResolvedClass& type) {
     const Entity& entity = *type.entity;
     for (const auto& step : entity.steps) {
@@ -130,7 +131,7 @@ class Resolver {
     std::vector<Step> steps;
     for (const auto& item : order.items) steps.push_back(StepOf(type, item));
     if (order.forReading) {
-      // What fills inverse sides comes after the positions.
+      // The steps that fill inverse sets come after the positions.
       std::vector<Step> reads;
       std::copy_if(steps.begin(), steps.end(), std::back_inserter(reads), IsRead);
       std::copy_if(type.reads.begin(), type.reads.end(), std::back_inserter(reads),
@@ -144,8 +145,8 @@ class Resolver {
     }
   }
 
-  /// The step of an item: a position that the body describes, or an attribute of the class or of
-  /// one above it.
+  /// Returns the step of an item. The item is a position that the body describes, or an attribute
+  /// of the class or of a base.
   Step StepOf(const ResolvedClass& type, const OrderItem& item) const {
     Step step;
     step.place = item.place;
@@ -184,7 +185,7 @@ class Resolver {
     if (isReachable && !type.hasParse && type.readBase == kRoot) ForwardToRoot(type);
   }
 
-  /// A class that can be made must read and write, if only its name.
+  /// A class that can have instances must read and write, even if it has no attributes.
   static void ForwardToRoot(ResolvedClass& type) {
     type.hasParse = true;
     type.reads.clear();
@@ -200,7 +201,7 @@ class Resolver {
     }
   }
 
-  /// The nearest class above, along the bases that are instances, for which `isWanted` holds.
+  /// Returns the nearest base that is an instance and for which `isWanted` is true.
   template <class IsWanted>
   std::string Ancestor(const ResolvedClass& type, IsWanted isWanted) const {
     for (const auto& base : type.bases) {

@@ -5,8 +5,8 @@
 
 namespace schemac {
 
-/// Resolves the description for one release. Throws DescriptionError where a name, a base or a
-/// record does not hold together.
+/// Resolves the description for one release. Throws DescriptionError for a name, a base or a record
+/// that cannot be resolved.
 ReleaseModel Resolve(const Description& description, std::size_t release);
 
 }  // namespace schemac

@@ -13,7 +13,7 @@ struct ValueWord {
   std::string_view type;
 };
 
-/// The words of signatures for plain values.
+/// The words for plain values in signatures.
 constexpr std::array kResultWords = {
     ValueWord{"integer", "INTEGER"},    ValueWord{"real", "REAL"},
     ValueWord{"boolean", "BOOLEAN"},    ValueWord{"logical", "LOGICAL"},

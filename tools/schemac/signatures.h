@@ -7,11 +7,12 @@
 
 namespace schemac {
 
-/// The C++ type of a described result: `integer`, `list IfcDirection`, `IfcCurve`, or a C++ type.
-/// An empty one is void.
+/// Returns the C++ type of a described result, such as `integer`, `list IfcDirection`, `IfcCurve`,
+/// or a C++ type. An empty result is void.
 std::string ResultType(const std::string& described, const ReleaseModel& model);
 
-/// The C++ parameters, with names, of a described list: `index, real`, `const IfcDirection&`.
+/// Returns the C++ parameters, with names, of a described list, such as `index, real` or `const
+/// IfcDirection&`.
 std::string Parameters(const std::string& described);
 
 }  // namespace schemac

@@ -6,12 +6,13 @@
 
 namespace schemac {
 
-/// The whole text of a file. Throws std::runtime_error that names one that cannot be read.
+/// Returns the whole text of a file. Throws std::runtime_error with the path if the file cannot be
+/// read.
 std::string ReadTextFile(const std::filesystem::path& path);
 
-/// Writes a file, and the folders above it. One that has the text already keeps its time, so that
-/// what depends on it is not built again. Throws std::runtime_error that names one that cannot be
-/// written.
+/// Writes a file and creates its folders. A file that already has the text keeps its time, so that
+/// its dependents are not built again. Throws std::runtime_error with the path if the file cannot
+/// be written.
 void WriteIfChanged(const std::filesystem::path& path, const std::string& text);
 
 }  // namespace schemac

@@ -10,8 +10,8 @@ namespace schemac {
 /// The words of a template and the texts that replace them.
 using TemplateWords = std::map<std::string_view, std::string, std::less<>>;
 
-/// `text` with each `@word@` replaced by its text. A text that is put in is not searched again.
-/// Throws std::logic_error for a word that `words` lacks and for an `@` that stands alone.
+/// Returns `text` with each `@word@` replaced by its text. An inserted text is not searched again.
+/// Throws std::logic_error for a word that is not in `words`, and for a single `@`.
 std::string Fill(std::string_view text, const TemplateWords& words);
 
 }  // namespace schemac

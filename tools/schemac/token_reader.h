@@ -8,33 +8,36 @@
 
 namespace schemac {
 
-/// Reads the words of a line from left to right; every refusal names the column.
+/// Reads the words of a line from left to right. Each error contains the column.
 class TokenReader {
  public:
   explicit TokenReader(const Line& line) : line(line) {}
 
-  /// True if nothing but blanks is left.
+  /// Returns true if only blanks are left.
   bool AtEnd();
 
-  /// The next run of characters without a blank; an error names `what` if none is left.
+  /// Returns the next characters up to a blank. If there are none, throws an error that names
+  /// `what`.
   std::string Word(std::string_view what);
 
-  /// The next run of letters, digits and '_'; an error names `what` if there is none.
+  /// Returns the next letters, digits and '_'. If there are none, throws an error that names
+  /// `what`.
   std::string Name(std::string_view what);
 
-  /// Takes `text` if it comes next.
+  /// Skips `text` if it comes next, and returns whether it did.
   bool Take(std::string_view text);
 
-  /// Takes `text` or refuses the line.
+  /// Skips `text`, or throws an error if something else comes next.
   void Expect(std::string_view text);
 
-  /// Everything up to one of `stops` outside parentheses, or to the end; blanks around it cut.
+  /// Returns the text up to one of `stops` outside parentheses, or to the end, without blanks
+  /// around it.
   std::string Until(std::string_view stops);
 
-  /// Everything that is left.
+  /// Returns the rest of the line.
   std::string Rest() { return Until(""); }
 
-  /// The place of the next word, for messages of the caller.
+  /// Returns the place of the next word, for messages of the caller.
   Place Here();
 
   [[noreturn]] void Fail(const std::string& message);

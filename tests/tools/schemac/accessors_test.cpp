@@ -8,8 +8,8 @@
 #include "tests/tools/schemac/describe.h"
 #include "tools/schemac/text_files.h"
 
-// Every attribute that a class stores has an operation that reads it, and one that sets it or adds
-// to it. The table holds the attributes that lack one of them on purpose.
+// Every attribute that a class stores has an operation that reads it, and an operation that sets it
+// or adds to it. The table lists the attributes that deliberately lack one of them.
 
 namespace schemac {
 namespace {
@@ -22,19 +22,19 @@ struct Exception {
 };
 
 constexpr Exception kExceptions[] = {
-    // What another operation derives and keeps.
+    // Attributes that another operation derives and keeps.
     {"IfcAttDrivenExtrudedSolid", "Path", "..20", "Set"},
     {"IfcAxis2Placement2D", "SecondAxis", "all", "Get Set"},
     {"IfcAxis2Placement3D", "P2", "all", "Get Set"},
     {"IfcRectangleProfileDef", "OutlineCurve", "..20", "Get Set"},
-    // What nothing fills, and what is set one part at a time.
+    // Attributes that nothing fills, and attributes that are set part by part.
     {"IfcBuilding", "ServicedBySystems", "151", "Get Set"},
     {"IfcCompositeCurveSegment", "UsingCurves", "all", "Set"},
     {"IfcDirection", "DirectionRatios", "all", "Set"},
     {"IfcObject", "PartOfGroups", "151", "Get Set"},
     {"IfcPropertySetDefinition", "DefinesType", "2x2..", "Set"},
     {"IfcPropertySingleValue", "Unit", "2x2..", "Get Set"},
-    // What passes through from a file to a file.
+    // Attributes that a load reads and a save writes, without any other use.
     {"IfcBuilding", "BuildingAddress", "2x..", "Get Set"},
     {"IfcElement", "Tag", "2x..", "Get Set"},
     {"IfcGeometricRepresentationContext", "TrueNorth", "2x..", "Get Set"},
@@ -51,7 +51,7 @@ constexpr Exception kExceptions[] = {
     {"IfcProject", "LongName", "2x..", "Get Set"},
     {"IfcProject", "Phase", "2x..", "Get Set"},
     {"IfcProject", "ProjectTypes", "151", "Get Set"},
-    // What a host only reads.
+    // Attributes that a host can only read.
     {"IfcAttDrivenExtrudedSolid", "Segments", "20", "Set"},
     {"IfcCartesianTransformationOperator", "Axis1", "2x..", "Set"},
     {"IfcCartesianTransformationOperator", "Axis2", "2x..", "Set"},
@@ -76,7 +76,7 @@ constexpr Exception kExceptions[] = {
     {"IfcShellBasedSurfaceModel", "SbsmBoundary", "2x..", "Set"},
     {"IfcWindowLiningProperties", "ShapeAspectStyle", "2x2..", "Set"},
     {"IfcWindowPanelProperties", "ShapeAspectStyle", "2x2..", "Set"},
-    // What a host only writes.
+    // Attributes that a host can only set.
     {"IfcSweptDiskSolid", "Directrix", "2x3", "Get"},
     {"IfcSweptDiskSolid", "EndParam", "2x3", "Get"},
     {"IfcSweptDiskSolid", "InnerRadius", "2x3", "Get Set"},
@@ -100,7 +100,7 @@ constexpr Exception kExceptions[] = {
     {"IfcPersonAndOrganization", "Roles", "all", "Get"},
 };
 
-/// The families in the order in which their classes build on each other.
+/// The families in the order in which their classes depend on each other.
 constexpr const char* kFamilies[] = {
     "values",   "kernel",        "placement", "units",      "materials", "representation",
     "actors",   "relationships", "curves",    "profiles",   "topology",  "solids",
@@ -130,7 +130,7 @@ bool CanBeRead(const ResolvedClass& type, const std::string& attribute) {
          Has(type, "Calc" + attribute);
 }
 
-/// Whether an operation adds to an attribute: AddX to X, Xs, HasX or HasXs.
+/// Returns whether an operation adds to an attribute: AddX adds to X, Xs, HasX or HasXs.
 bool AddsTo(const Operation& operation, const std::string& attribute) {
   if (operation.name.rfind("Add", 0) != 0) return false;
   if (!operation.attribute.empty()) return operation.attribute == attribute;
@@ -147,7 +147,7 @@ bool CanBeSet(const ResolvedClass& type, const std::string& attribute) {
   });
 }
 
-/// "IfcStair::ShapeType of 2x lacks Set" for each release and attribute.
+/// Returns text such as "IfcStair::ShapeType of 2x lacks Set" for each release and attribute.
 std::set<std::string> FindMissing(const ReleaseModel& model) {
   std::set<std::string> missing;
   const std::string release(kReleases[model.release].mark);
@@ -176,7 +176,7 @@ std::set<std::string> FindExceptions(std::size_t release) {
   return exceptions;
 }
 
-TEST(Accessors, AreLookedForInEveryFamily) {
+TEST(Accessors, AreSearchedInEveryFamily) {
   std::set<std::string> described;
   for (const auto& file : std::filesystem::directory_iterator(SchemaFolder())) {
     if (file.path().extension() == ".schema") described.insert(file.path().stem().string());
@@ -184,7 +184,7 @@ TEST(Accessors, AreLookedForInEveryFamily) {
   EXPECT_EQ(described, std::set<std::string>(std::begin(kFamilies), std::end(kFamilies)));
 }
 
-TEST(Accessors, AreThereForEveryAttributeButTheExceptions) {
+TEST(Accessors, ExistForEveryAttributeExceptTheListedOnes) {
   const Description description = ReadDescription();
   for (std::size_t release = 0; release < kReleaseCount; ++release) {
     const auto missing = FindMissing(Resolve(description, release));
@@ -196,7 +196,7 @@ TEST(Accessors, AreThereForEveryAttributeButTheExceptions) {
     std::set<std::string> outdated;
     std::set_difference(exceptions.begin(), exceptions.end(), missing.begin(), missing.end(),
                         std::inserter(outdated, outdated.end()));
-    EXPECT_EQ(outdated, std::set<std::string>()) << "an exception that is described";
+    EXPECT_EQ(outdated, std::set<std::string>()) << "a listed exception that has an accessor";
   }
 }
 

@@ -38,7 +38,7 @@ TEST(RowsOf, NamesTheOperationsOnAnAttribute) {
   EXPECT_EQ(rows[2].setter, "SetZ");
 }
 
-TEST(RowsOf, TakesAnAttributeAsKeptWhereBothOrdersAgree) {
+TEST(RowsOf, MarksAnAttributeAsKeptIfBothOrdersAgree) {
   const auto rows = RowsOfA("  X string\n  Y string\n  Z string\n  reads Y Z\n");
   ASSERT_EQ(rows.size(), 3u);
   for (const auto& row : rows) EXPECT_EQ(row.use, "kDropped") << row.name;
@@ -63,7 +63,7 @@ TEST(RowsOf, DescribesARedeclaredAttributeFromItsBase) {
   EXPECT_EQ(rows[0].position, 0);
 }
 
-TEST(RowsOf, NamesTheReaderOfWhatIsKept) {
+TEST(RowsOf, NamesTheReadersOfKeptAttributes) {
   const auto rows = RowsOfA(
       "  X real\n  Z enum IfcKind\n  drop Y enum .N.\n"
       "enum IfcKind\n  doc K.\n  all A 0\n");
@@ -78,7 +78,7 @@ TEST(RowsOf, NamesTheReaderOfWhatIsKept) {
   EXPECT_EQ(rows[2].pointer, "");
 }
 
-TEST(RowsOf, AddsWhatIsInNoStatementIfAGetterReturnsIt) {
+TEST(RowsOf, AddsAnAttributeOutsideTheStatementIfAGetterReturnsIt) {
   const auto rows = RowsOfA(
       "  X set IfcT inverse\n  Y set IfcT memory\n  C cache IfcT\n  Z enum IfcKind memory\n"
       "  drop Z enum .A.\n  ops GetX, GetC, GetZ\nenum IfcKind\n  doc K.\n  all A 0\n");

@@ -5,7 +5,7 @@
 namespace schemac {
 namespace {
 
-/// The first attribute of IfcA with these lines, as `print` shows it.
+/// Returns the text that `print` makes from the first attribute of IfcA with these lines.
 std::string Shown(const std::string& lines,
                   std::string (*print)(const ReleaseModel&, const Attribute&),
                   std::size_t release = k2x3) {
@@ -18,12 +18,12 @@ std::string Shown(const std::string& lines,
   return print(resolved.model, *resolved.model.Find("IfcA")->attributes.front());
 }
 
-TEST(MemberName, StartsInLowerCaseAndIsNoWordOfCpp) {
+TEST(MemberName, StartsInLowerCaseAndIsNotAReservedWord) {
   EXPECT_EQ(MemberName("XDim"), "xDim");
   EXPECT_EQ(MemberName("Operator"), "operatorValue");
 }
 
-TEST(StoredType, IsALabelWhereTheReleaseHasLabels) {
+TEST(StoredType, IsALabelIfTheReleaseHasLabels) {
   Attribute attribute;
   attribute.kind = Kind::kLabels;
   EXPECT_EQ(StoredType(attribute, k2x), "LIST<STRING>");
@@ -51,17 +51,17 @@ TEST(FieldInitializer, StartsAnEnumerationWithTheRowOfZero) {
   EXPECT_EQ(Shown("  X enum IfcKind = B\n", FieldInitializer), " = IfcKind_B");
 }
 
-TEST(FieldInitializer, StartsATextAsDescribed) {
+TEST(FieldInitializer, StartsATextWithTheDescribedValue) {
   EXPECT_EQ(Shown("  X string = Plan\n", FieldInitializer), "{\"Plan\"}");
   EXPECT_EQ(Shown("  X string\n", FieldInitializer), "");
 }
 
-TEST(ReadPart, PassesTheRowThatAnUnknownTextGives) {
+TEST(ReadPart, PassesTheRowForAnUnknownText) {
   EXPECT_EQ(Shown("  X enum IfcKind = B\n", ReadPart), "Enumerated(x, kIfcKindTable, IfcKind_B)");
   EXPECT_EQ(Shown("  X enum IfcKind\n", ReadPart), "Enumerated(x, kIfcKindTable)");
 }
 
-TEST(WritePart, IsALiteralWhereTheDescriptionNamesOne) {
+TEST(WritePart, IsALiteralIfTheDescriptionNamesOne) {
   EXPECT_EQ(Shown("  X real as $\n", WritePart), "Literal(\"$\")");
   EXPECT_EQ(Shown("  X real\n", WritePart), "x");
 }

@@ -42,13 +42,13 @@ TEST_P(RefusedBodies, AreReportedWithTheirPlace) {
 
 INSTANTIATE_TEST_SUITE_P(
     Bodies, RefusedBodies,
-    testing::Values(Fault{"int x;\n", "1:1: error: code ahead of the first section"},
+    testing::Values(Fault{"int x;\n", "1:1: error: code before the first section"},
                     Fault{"// entity IfcB\n", "1:11: error: IfcB is not described"},
                     Fault{"// function IfcA\n", "1:13: error: IfcA is not described"},
                     Fault{"// function IfcTurn [151]\n",
                           "1:21: error: a release that the entry does not have"},
                     Fault{"// entity IfcA of old\n", "1:16: error: expected the end of the line"},
-                    Fault{"// entity IfcA [3x]\n", "1:17: error: '3x' names no releases"}));
+                    Fault{"// entity IfcA [3x]\n", "1:17: error: '3x' does not name releases"}));
 
 TEST(AttachBodies, FindsEachOverloadByItsParameters) {
   const Resolved resolved(kTwoNumbers,
@@ -63,7 +63,7 @@ TEST(AttachBodies, FindsEachOverloadByItsParameters) {
   EXPECT_EQ(resolved.model.functions.front().bodyPlace.line, 7);
 }
 
-/// The message with which the code is refused for the newest release.
+/// Returns the error for the code in the newest release.
 std::string RefusedCode(const std::string& body, const std::string& code) {
   try {
     const Resolved resolved(body, code);
@@ -73,7 +73,7 @@ std::string RefusedCode(const std::string& body, const std::string& code) {
   return "";
 }
 
-TEST(AttachBodies, WantsEachBodyInASectionOfTheRelease) {
+TEST(AttachBodies, RequiresEachBodyInASectionOfTheRelease) {
   const std::string body =
       "entity IfcA : IfcUnknown all\n  doc A.\n  ops GetN: integer\n  tell GetN N.\n";
   const std::string code = "\nINTEGER IfcA::GetN() const { return 1; }\n";
@@ -85,7 +85,7 @@ TEST(AttachBodies, WantsEachBodyInASectionOfTheRelease) {
   EXPECT_EQ(RefusedCode(body, ""), message);
 }
 
-TEST(AttachBodies, WantsTheBodiesOfConstructorsRecordsAndFunctions) {
+TEST(AttachBodies, RequiresTheBodiesOfConstructorsRecordsAndFunctions) {
   EXPECT_EQ(RefusedCode("entity IfcA : IfcUnknown all\n  doc A.\n  make (REAL x)\n", ""),
             "f.schema:4:3: error: no section of IfcA defines 'IfcA::IfcA(REAL x)' for release 2x3");
   EXPECT_EQ(RefusedCode("entity IfcA : IfcUnknown all\n  doc A.\n  custom Write\n", ""),

@@ -18,7 +18,8 @@ inline constexpr std::size_t k2x = 2;
 inline constexpr std::size_t k2x2 = 3;
 inline constexpr std::size_t k2x3 = 4;
 
-/// A description of one family `f` with this body, and with this code written by hand.
+/// Returns a description of one family `f` with this body, and with this code that is written by
+/// hand.
 inline Description Describe(const std::string& body, const std::string& code = "") {
   Description description;
   ParseDescription("f.schema", "family f : A family\n" + body, description);
@@ -26,13 +27,12 @@ inline Description Describe(const std::string& body, const std::string& code = "
   return description;
 }
 
-/// What the release makes of the body. The description lives as long as the model that refers to
-/// it.
+/// The model of one release for a body, with the description to which the model refers.
 struct Resolved {
   explicit Resolved(const std::string& body, std::size_t release = k2x3)
       : description(Describe(body)), model(Resolve(description, release)) {}
 
-  /// The same with code that is written by hand. All of it has to be there.
+  /// The same with code that is written by hand. The code must be complete.
   Resolved(const std::string& body, const std::string& code, std::size_t release = k2x3)
       : description(Describe(body, code)), model(Resolve(description, release)) {
     AttachBodies(description, model);
@@ -54,7 +54,7 @@ struct Resolved {
   ReleaseModel model;
 };
 
-/// The message with which a body is refused, empty if it is accepted.
+/// Returns the error for a body, or an empty text if the body is accepted.
 inline std::string Refusal(const std::string& body, std::size_t release = k2x3) {
   try {
     Resolved resolved(body, release);

@@ -5,7 +5,7 @@
 namespace schemac {
 namespace {
 
-TEST(DescriptionError, ReadsLikeACompilersMessage) {
+TEST(DescriptionError, HasTheFormOfACompilerMessage) {
   const DescriptionError error({"kernel.schema", 12, 7}, "no such kind");
   EXPECT_STREQ(error.what(), "kernel.schema:12:7: error: no such kind");
 }

@@ -28,7 +28,7 @@ TEST(Guard, IsThePathInUpperCase) {
   EXPECT_EQ(Guard("kelifc/schema/ifc2x3/fwd.h"), "KELIFC_SCHEMA_IFC2X3_FWD_H_");
 }
 
-TEST(EmitEnumeration, AddsTheValueThatNoRowHas) {
+TEST(EmitEnumeration, AddsTheValueForATextWithoutARow) {
   Enumeration kind;
   kind.name = "IfcKind";
   kind.doc = "Kinds.";

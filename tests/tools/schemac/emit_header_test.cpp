@@ -3,7 +3,7 @@
 namespace schemac {
 namespace {
 
-TEST(EmitHeader, ShowsAConcreteClassWithItsMembers) {
+TEST(EmitHeader, WritesAConcreteClassWithItsMembers) {
   const std::string header = Resolved(
                                  "entity IfcA : IfcUnknown all file new\n  doc What it is.\n"
                                  "  Name string\n  Next ref IfcA\n  ops GetName, SetNext\n")
@@ -15,7 +15,7 @@ TEST(EmitHeader, ShowsAConcreteClassWithItsMembers) {
   EXPECT_TRUE(Holds(header, "namespace KelIFC2x3 {"));
 }
 
-TEST(EmitHeader, ProtectsTheConstructionOfAbstractClasses) {
+TEST(EmitHeader, MakesTheConstructorsOfAbstractClassesProtected) {
   const std::string header = Resolved("entity IfcA : IfcUnknown all abstract\n  doc A.\n").Header();
   EXPECT_TRUE(Holds(header, " protected:\n  IfcA();\n  ~IfcA() override;\n"));
 }
@@ -26,18 +26,18 @@ TEST(EmitHeader, MakesAnEntityWithoutBasesAMarker) {
   EXPECT_FALSE(Holds(header, "GetItemName"));
 }
 
-TEST(EmitHeader, TellsDepartures) {
+TEST(EmitHeader, WritesDeparturesAsComments) {
   const std::string header =
       Resolved(
           "entity IfcA : IfcUnknown all file\n  doc A.\n  drop enum .X.   -- never kept\n"
           "  Name string   -- cut short\n  without Write   -- not written\n")
           .Header();
-  EXPECT_TRUE(Holds(header, "/// Departs: never kept."));
+  EXPECT_TRUE(Holds(header, "/// Departure: never kept."));
   EXPECT_TRUE(Holds(header, "/// cut short"));
-  EXPECT_TRUE(Holds(header, "/// Departs: not written."));
+  EXPECT_TRUE(Holds(header, "/// Departure: not written."));
 }
 
-TEST(EmitHeader, ShowsDefinedTypesBehindTheirBase) {
+TEST(EmitHeader, WritesDefinedTypesAfterTheirBase) {
   const std::string header = Resolved(
                                  "entity IfcSimpleValue : IfcValue 2x2.. abstract\n  doc V.\n"
                                  "type IfcReal : IfcSimpleValue real 2x3 file\n  doc R.\n")
@@ -47,14 +47,14 @@ TEST(EmitHeader, ShowsDefinedTypesBehindTheirBase) {
   EXPECT_TRUE(Holds(header, "  IfcReal(double value);"));
 }
 
-TEST(EmitHeader, ShowsAListOfIntegersAsATypeOfItsOwn) {
+TEST(EmitHeader, WritesAListOfIntegersAsAClass) {
   const std::string header = Resolved("type IfcAngle integers all\n  doc An angle.\n").Header();
   EXPECT_TRUE(Holds(header, "/// An angle.\nclass KELIFC_API IfcAngle : public LIST<INTEGER> {"));
   EXPECT_EQ(Refusal("type IfcText string all\n  doc T.\n"),
-            "f.schema:2:1: error: IfcText stands behind no select");
+            "f.schema:2:1: error: IfcText does not derive from a select");
 }
 
-TEST(EmitHeader, KeepsOpenEnumerationsUnderTheirName) {
+TEST(EmitHeader, WritesOpenEnumerationsWithTheirName) {
   const std::string header = Resolved(
                                  "enum IfcKind\n  doc Kinds.\n  all\n"
                                  "entity IfcA : IfcUnknown all file\n  doc A.\n"
@@ -92,14 +92,14 @@ TEST(EmitHeader, NamesThePlacesOfWhatIsWrittenByHand) {
                     "KELIFC_API REAL IfcTurn(const IfcA& a);\n"));
 }
 
-TEST(EmitHeader, WantsACommentOnEachConstructor) {
+TEST(EmitHeader, RequiresACommentForEachConstructor) {
   EXPECT_EQ(
       Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  make (REAL x)\n  make (REAL x, REAL y)\n"
               "  tell IfcA(REAL x) One number.\n"),
-      "f.schema:5:3: error: no line tells what IfcA(REAL x, REAL y) does");
+      "f.schema:5:3: error: no 'tell' line describes IfcA(REAL x, REAL y)");
 }
 
-TEST(EmitHeader, NamesTheReleaseAsPeopleWriteIt) {
+TEST(EmitHeader, WritesTheReleaseInItsUsualForm) {
   const std::string body = "entity IfcA : IfcUnknown all\n  doc A.\n";
   EXPECT_TRUE(Holds(Resolved(body, k151).Header(), "/// A family, release 1.5.1.\n"));
   EXPECT_TRUE(Holds(Resolved(body, k20).Header(), "/// A family, release 2.0.\n"));

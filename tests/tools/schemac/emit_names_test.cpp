@@ -3,7 +3,7 @@
 namespace schemac {
 namespace {
 
-TEST(EmitNames, ListsWhatAFileCanName) {
+TEST(EmitNames, ListsTheEntitiesThatAFileCanContain) {
   const Resolved resolved(
       "entity IfcB : IfcUnknown all file\n  doc B.\nentity IfcA : IfcUnknown all file 2x\n  doc "
       "A.\n");
@@ -14,7 +14,7 @@ TEST(EmitNames, ListsWhatAFileCanName) {
   EXPECT_FALSE(Holds(names, "IFCA"));
 }
 
-TEST(EmitNames, GivesNullWhereAReleaseHasNoNames) {
+TEST(EmitNames, WritesNullForAReleaseWithoutNames) {
   const Resolved resolved("entity IfcB : IfcUnknown 2x file\n  doc B.\n", k151);
   Files files;
   EmitNames(resolved.model, files);

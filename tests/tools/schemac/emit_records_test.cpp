@@ -19,7 +19,7 @@ TEST(EmitRecords, SetsEveryPositionOfTheChain) {
   EXPECT_TRUE(Holds(records, "\"$,$,$\", \"$,.X.,()\""));
 }
 
-TEST(EmitRecords, LeavesOutWhatIsReadByHand) {
+TEST(EmitRecords, LeavesOutClassesThatAreReadByHand) {
   EXPECT_FALSE(
       Holds(RecordsOf("entity IfcA : IfcUnknown all file\n  doc A.\n  custom Parse\n"), "IfcA"));
 }

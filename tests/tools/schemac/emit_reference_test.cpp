@@ -14,21 +14,21 @@ std::string PageOf(const std::string& body) {
   return files.at("docs/reference/f.md");
 }
 
-TEST(EmitReference, TellsWhereAClassIsAndWhatItKeeps) {
+TEST(EmitReference, DescribesTheReleasesAndTheAttributesOfAClass) {
   const std::string page = PageOf(
       "entity IfcA : IfcUnknown 2x.. file new 2x3\n  doc What it is.\n"
       "  [2x2..] Size measure absent 0.1   -- why\n  drop enum .X.   -- never kept\n"
       "  ops GetSize\n");
   EXPECT_TRUE(Holds(page, "## IfcA\n\nWhat it is.\n"));
   EXPECT_TRUE(Holds(page,
-                    "- Releases: 2x, 2x2, 2x3; a file can name it in: 2x, 2x2, 2x3; "
-                    "a host can make it in: 2x3."));
+                    "- Releases: 2x, 2x2, 2x3; a file can contain it in: 2x, 2x2, 2x3; "
+                    "a host can create it in: 2x3."));
   EXPECT_TRUE(Holds(page, "- Writes (2x): `IfcA(.X.)`."));
   EXPECT_TRUE(Holds(page, "- Writes (2x2, 2x3): `IfcA(Size, .X.)`."));
   EXPECT_TRUE(
-      Holds(page, "| Size | `IfcLengthMeasure` | 2x2, 2x3 | counts as 0.1 while unset, why |"));
+      Holds(page, "| Size | `IfcLengthMeasure` | 2x2, 2x3 | reads as 0.1 while unset, why |"));
   EXPECT_TRUE(Holds(page, "- `IfcLengthMeasure GetSize() const` (2x2, 2x3) -- "));
-  EXPECT_TRUE(Holds(page, "Departs from the regular form: never kept."));
+  EXPECT_TRUE(Holds(page, "Departure from the regular form: never kept."));
 }
 
 TEST(EmitReference, ListsEnumerationsAndDefinedTypes) {

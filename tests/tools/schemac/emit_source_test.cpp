@@ -21,7 +21,7 @@ TEST(EmitSource, ReadsAndWritesThroughTheChain) {
                     "Literal(\"$\"), size);"));
 }
 
-TEST(EmitSource, LinksAtThePlaceOfTheLine) {
+TEST(EmitSource, LinksInstancesAtThePositionOfTheLine) {
   const std::string source = Resolved(
                                  "entity IfcA : IfcUnknown all file\n  doc A.\n  First ref IfcA\n"
                                  "  link First as IfcA AddBack\n  Second ref IfcA\n"
@@ -42,7 +42,7 @@ TEST(EmitSource, ReadsEnumerationsWithTheirDefault) {
   EXPECT_TRUE(Holds(Resolved(body).Source(), "Enumerated(second, kIfcKindTable, IfcKind_B))"));
 }
 
-TEST(EmitSource, WritesALiteralForWhatIsReadOnly) {
+TEST(EmitSource, WritesALiteralForAnAttributeThatIsOnlyRead) {
   EXPECT_TRUE(
       Holds(Resolved("entity IfcA : IfcUnknown all file\n  doc A.\n  X list any as $\n").Source(),
             "return WriteFirst(IfcUnknown::Write(out), Literal(\"$\"));"));
@@ -81,7 +81,7 @@ TEST(EmitSource, WritesTheTextOfAnEnumerationAsItIs) {
             "return WriteFirst(IfcUnknown::Write(out), EnumeratedText(x));"));
 }
 
-TEST(EmitSource, ReadsListsOfTextsWithAReaderOfTheirOwn) {
+TEST(EmitSource, ReadsListsOfTextsWithTheirOwnReader) {
   const std::string source =
       Resolved("entity IfcA : IfcUnknown all file\n  doc A.\n  X labels\n", k151).Source();
   EXPECT_TRUE(Holds(source, "ParseRecord(IfcUnknown::Parse(cursor), Texts(x));"));

@@ -64,7 +64,7 @@ TEST(ReadEntityLine, ReadsPositionsThatAreNotStored) {
   EXPECT_EQ(steps[8].name, "Name");
 }
 
-TEST(ReadEntityLine, ReadsWhatTheSchemaSaysOfAnAttribute) {
+TEST(ReadEntityLine, ReadsTheNameAndTheRuleOfTheSchema) {
   const auto description = Describe(
       "entity IfcA : IfcUnknown all\n  Text label published Description required 2x..\n"
       "  Kind enum IfcKind ignored\n");
@@ -91,7 +91,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Fault{"entity IfcA : IfcUnknown 2x\n  [151] Name string\n",
               "3:3: error: a release that the entity does not have"},
-        Fault{"entity IfcA : IfcUnknown all\n  Name word\n", "3:8: error: 'word' is no kind"},
+        Fault{"entity IfcA : IfcUnknown all\n  Name word\n", "3:8: error: 'word' is not a kind"},
         Fault{"entity IfcA : IfcUnknown all\n  Name ref\n",
               "3:11: error: expected the class or enumeration"},
         Fault{"entity IfcA : IfcUnknown all\n  Name string odd\n",
@@ -99,9 +99,9 @@ INSTANTIATE_TEST_SUITE_P(
         Fault{"entity IfcA : IfcUnknown all\n  drop value $\n",
               "3:8: error: 'value' cannot be read and dropped"},
         Fault{"entity IfcA : IfcUnknown all\n  drop Name word $\n",
-              "3:13: error: 'word' is no kind of a position"},
+              "3:13: error: 'word' is not a kind for a position"},
         Fault{"entity IfcA : IfcUnknown all\n  literal Name cache $\n",
-              "3:16: error: 'cache' is no kind of a position"},
+              "3:16: error: 'cache' is not a kind for a position"},
         Fault{"entity IfcA : IfcUnknown all\n  unread enum\n", "3:14: error: expected a kind"},
         Fault{"entity IfcA : IfcUnknown all\n  order Name $\n",
               "3:14: error: expected the name of an attribute"},

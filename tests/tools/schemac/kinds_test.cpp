@@ -25,7 +25,7 @@ TEST(Kinds, AreFoundByTheWholeWordOnly) {
   EXPECT_EQ(FindKind(""), nullptr);
 }
 
-TEST(Kinds, ThatHoldANamedTypeTakeItsName) {
+TEST(Kinds, ThatHoldANamedTypeRequireItsName) {
   for (int i = 0; i <= static_cast<int>(kLast); ++i) {
     const KindInfo& info = InfoOf(static_cast<Kind>(i));
     EXPECT_TRUE(!info.holdsNamedType || info.takesName) << info.word;

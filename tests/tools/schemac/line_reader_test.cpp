@@ -22,7 +22,7 @@ TEST(ReadLines, JoinsALineThatIsIndentedBySixBlanksOrMore) {
   EXPECT_EQ(lines[0].text, "ops A, B");
 }
 
-TEST(ReadLines, TakesDashesInsideAWordForText) {
+TEST(ReadLines, ReadsDashesInsideAWordAsText) {
   EXPECT_EQ(ReadLines("f", "doc a--b c-- d").front().text, "doc a--b c-- d");
 }
 

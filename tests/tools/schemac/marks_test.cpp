@@ -16,7 +16,7 @@ TEST(ReadMark, ReadsAMarkIfOneComesNext) {
   EXPECT_EQ(in.Rest(), "Name");
 }
 
-TEST(ReadMark, RefusesATextThatNamesNoReleases) {
+TEST(ReadMark, RefusesATextThatDoesNotNameReleases) {
   for (const auto* text : {"[2y] Name", "[] Name", "[2x"}) {
     const Line line = MakeLine(text);
     TokenReader in(line);
@@ -24,7 +24,7 @@ TEST(ReadMark, RefusesATextThatNamesNoReleases) {
   }
 }
 
-TEST(ReadFlagReleases, TakesAllReleasesWhereNoneFollow) {
+TEST(ReadFlagReleases, ReturnsAllReleasesIfNoneFollow) {
   const Line line = MakeLine("new 2x");
   TokenReader in(line);
   EXPECT_EQ(ReadFlagReleases(in, *ReleaseSet::Read("2x..")), *ReleaseSet::Read("2x.."));

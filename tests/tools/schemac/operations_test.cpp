@@ -5,7 +5,7 @@
 namespace schemac {
 namespace {
 
-/// The operations of IfcA with these lines, as "result name(parameters) const".
+/// Returns the operations of IfcA with these lines, as "result name(parameters) const".
 std::vector<std::string> OperationsOf(const std::string& lines, std::size_t release = k2x3) {
   const Resolved resolved(
       "entity IfcT : IfcUnknown all abstract\n  doc T.\n"
@@ -24,18 +24,18 @@ std::vector<std::string> OperationsOf(const std::string& lines, std::size_t rele
 
 using Texts = std::vector<std::string>;
 
-TEST(ResolveOperations, GivesReferencesAsPointersOfTheirClass) {
+TEST(ResolveOperations, ReturnsReferencesAsPointersOfTheirClass) {
   EXPECT_EQ(OperationsOf("  X ref IfcT\n  ops _GetX, GetX, SetX\n"),
             (Texts{"IfcT* _GetX()", "const IfcT* GetX() const", "void SetX(IfcT* item)"}));
 }
 
-TEST(ResolveOperations, GivesBothFormsInTheTwoNewestReleasesOnly) {
+TEST(ResolveOperations, AddsBothFormsOnlyInTheTwoNewestReleases) {
   EXPECT_EQ(OperationsOf("  X ref IfcT\n  ops GetX~\n", k2x2),
             (Texts{"IfcT* GetX()", "const IfcT* GetX() const"}));
   EXPECT_EQ(OperationsOf("  X ref IfcT\n  ops GetX~\n", k2x), (Texts{"const IfcT* GetX() const"}));
 }
 
-TEST(ResolveOperations, GivesAggregatesAsTypedViews) {
+TEST(ResolveOperations, ReturnsAggregatesAsTypedViews) {
   EXPECT_EQ(OperationsOf("  HasXs set IfcT\n  ops GetHasXs, AddX, SetHasXs\n"),
             (Texts{"SET<const IfcT*> GetHasXs() const", "void AddX(IfcT* item)",
                    "void SetHasXs(const SET<IfcT*>& items)"}));
@@ -53,19 +53,19 @@ TEST(ResolveOperations, SaysThatOtherSettersDoNotFillAnInverseAttribute) {
             std::string::npos);
 }
 
-TEST(ResolveOperations, GivesTextsAsLabelsWhereTheReleaseHasThem) {
+TEST(ResolveOperations, ReturnsTextsAsLabelsIfTheReleaseHasLabels) {
   EXPECT_EQ(OperationsOf("  X label\n  ops GetX, SetX\n", k2x3),
             (Texts{"IfcLabel GetX() const", "void SetX(const char* text)"}));
   EXPECT_EQ(OperationsOf("  X label\n  ops GetX, SetX\n", k2x),
             (Texts{"STRING GetX() const", "void SetX(const char* text)"}));
 }
 
-TEST(ResolveOperations, TakesByReferenceWhatIsDearToCopy) {
+TEST(ResolveOperations, PassesValuesThatOwnMemoryByReference) {
   EXPECT_EQ(OperationsOf("  Point coordinates\n  Size real\n  ops SetPoint, SetSize\n"),
             (Texts{"void SetPoint(const COORDINATES& value)", "void SetSize(REAL value)"}));
 }
 
-TEST(ResolveOperations, GivesStoredMeasuresUnderNamesThatSpeakOfComputing) {
+TEST(ResolveOperations, ReturnsStoredMeasuresForOperationsWithCalcInTheirName) {
   EXPECT_EQ(OperationsOf("  Area real\n  Volume real\n  ops calcArea, CalcVolume\n"),
             (Texts{"REAL calcArea() const", "REAL CalcVolume() const"}));
 }
@@ -98,37 +98,37 @@ TEST(ResolveOperations, ForwardsToTheOperationWithAnUnderscore) {
 
 TEST(ResolveOperations, ForwardsOnlyToAnOperationWithoutParametersAboveIt) {
   const std::string message =
-      "f.schema:4:7: error: GetN forwards to _GetN, which stands nowhere above it";
+      "f.schema:4:7: error: GetN forwards to _GetN, which is not declared above it";
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetN forward\n"), message);
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
                     "  ops GetN forward, _GetN: integer\n  tell _GetN N.\n"),
             message);
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
                     "  ops [2x] _GetN: integer, [2x3] GetN forward\n  tell _GetN N.\n"),
-            "f.schema:4:34: error: GetN forwards to _GetN, which stands nowhere above it");
+            "f.schema:4:34: error: GetN forwards to _GetN, which is not declared above it");
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n"
                     "  ops _GetN(index): integer, GetN forward\n  tell _GetN N.\n"),
-            "f.schema:4:30: error: GetN forwards to _GetN, which stands nowhere above it");
+            "f.schema:4:30: error: GetN forwards to _GetN, which is not declared above it");
 }
 
-TEST(ResolveOperations, WantsASignatureOrAnAttribute) {
+TEST(ResolveOperations, RequiresASignatureOrAnAttribute) {
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetX\n"),
             "f.schema:4:7: error: GetX of IfcA names no attribute and has no signature");
 }
 
-TEST(ResolveOperations, WantsALineThatTellsWhatAHandWrittenOneDoes) {
+TEST(ResolveOperations, RequiresATellLineForAnOperationThatIsWrittenByHand) {
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  ops GetX: real\n"),
-            "f.schema:4:7: error: no line tells what GetX does");
+            "f.schema:4:7: error: no 'tell' line describes GetX");
 }
 
-TEST(ResolveOperations, WantsAClassForAReferenceThatIsShown) {
+TEST(ResolveOperations, RequiresAClassForTheGetterOfAReference) {
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  X ref any\n  ops GetX\n"),
             "f.schema:5:7: error: X is not narrowed to a class");
 }
 
 TEST(ResolveOperations, AddsToAggregatesOnly) {
   EXPECT_EQ(Refusal("entity IfcA : IfcUnknown all\n  doc A.\n  X real\n  ops AddX\n"),
-            "f.schema:5:7: error: X is no aggregate");
+            "f.schema:5:7: error: X is not an aggregate");
 }
 
 }  // namespace

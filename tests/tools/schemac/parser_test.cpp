@@ -37,7 +37,7 @@ struct Fault {
 
 class RefusedDescription : public testing::TestWithParam<Fault> {};
 
-TEST_P(RefusedDescription, IsToldWithItsPlace) {
+TEST_P(RefusedDescription, IsReportedWithItsPlace) {
   EXPECT_EQ(Refusal(GetParam().body), std::string("f.schema:") + GetParam().message);
 }
 
@@ -45,15 +45,15 @@ INSTANTIATE_TEST_SUITE_P(
     Parser, RefusedDescription,
     testing::Values(
         Fault{"thing A\n", "2:1: error: expected 'entity', 'type', 'enum' or 'function'"},
-        Fault{"family g : G\n", "2:8: error: a file describes one family"},
+        Fault{"family g : G\n", "2:8: error: a file can describe only one family"},
         Fault{"entity : IfcUnknown all\n", "2:8: error: expected the name of the entity"},
-        Fault{"entity IfcA : IfcUnknown 3x\n", "2:26: error: '3x' names no releases"},
+        Fault{"entity IfcA : IfcUnknown 3x\n", "2:26: error: '3x' does not name releases"},
         Fault{"entity IfcA : IfcUnknown all odd\n",
               "2:30: error: expected 'abstract', 'file' or 'new'"},
         Fault{"entity IfcA : IfcUnknown 2x file 151\n",
               "2:34: error: a release that the entry does not have"},
-        Fault{"enum IfcKind\n  all FIRST one\n", "3:13: error: 'one' is no whole number"},
-        Fault{"  Name string\n", "2:3: error: this line belongs to no entry"},
+        Fault{"enum IfcKind\n  all FIRST one\n", "3:13: error: 'one' is not a whole number"},
+        Fault{"  Name string\n", "2:3: error: this line does not belong to an entry"},
         Fault{"type IfcA : IfcValue word all\n", "2:22: error: no such kind"}));
 
 TEST(ParseDescription, RefusesAFileWithoutItsFamily) {

@@ -25,7 +25,7 @@ TEST(ReleaseSet, ReadsOneReleaseARangeAndAList) {
   EXPECT_EQ(Marks("151,2x2.."), "151 2x2 2x3");
 }
 
-TEST(ReleaseSet, RefusesWhatNamesNoReleases) {
+TEST(ReleaseSet, RefusesATextThatDoesNotNameReleases) {
   for (const auto* text : {"", "..", "2x4", "2x3..2x", "2x,", "abstract", "2x...", "2x..foo"}) {
     EXPECT_EQ(Marks(text), "none") << text;
   }

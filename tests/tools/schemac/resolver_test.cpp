@@ -10,20 +10,20 @@ const std::string kRootAndLeaf =
     "entity IfcB : IfcA all abstract\n  doc B.\n"
     "entity IfcC : IfcB 2x.. file\n  doc C.\n  Size real\n  [2x3] Extra integer\n";
 
-TEST(Resolve, LeavesOutWhatTheReleaseDoesNotHave) {
+TEST(Resolve, LeavesOutEntriesThatTheReleaseDoesNotHave) {
   EXPECT_EQ(Resolved(kRootAndLeaf, k20).model.Find("IfcC"), nullptr);
   EXPECT_EQ(Resolved(kRootAndLeaf, k2x2).model.Find("IfcC")->attributes.size(), 1u);
   EXPECT_EQ(Resolved(kRootAndLeaf, k2x3).model.Find("IfcC")->attributes.size(), 2u);
 }
 
-TEST(Resolve, PassesByClassesWithoutAttributesInTheChain) {
+TEST(Resolve, SkipsClassesWithoutAttributesInTheChain) {
   const Resolved resolved(kRootAndLeaf);
   EXPECT_FALSE(resolved.model.Find("IfcB")->hasParse);
   EXPECT_EQ(resolved.model.Find("IfcC")->readBase, "IfcA");
   EXPECT_EQ(resolved.model.Find("IfcA")->readBase, "IfcUnknown");
 }
 
-TEST(Resolve, WritesPastABaseThatDoesNotWrite) {
+TEST(Resolve, SkipsABaseThatDoesNotWrite) {
   const Resolved resolved(
       "entity IfcA : IfcUnknown all abstract\n  doc A.\n  Name string\n  [2x] without Write\n"
       "entity IfcB : IfcA all file\n  doc B.\n  Size real\n",
@@ -42,7 +42,7 @@ TEST(Resolve, ReplacesBasesAndChainsForTheirReleases) {
   EXPECT_EQ(Resolved(body, k151).model.Find("IfcB")->readBase, "IfcUnknown");
 }
 
-TEST(Resolve, TakesAnExplicitOrderForReadingAndWriting) {
+TEST(Resolve, UsesAnExplicitOrderForReadingAndWriting) {
   const Resolved resolved(
       "entity IfcA : IfcUnknown all file\n  doc A.\n  First string\n  Second string\n"
       "  drop Third enum .X.\n  order Second Third First *Fourth\n  link First as IfcA Touch\n"
@@ -56,7 +56,7 @@ TEST(Resolve, TakesAnExplicitOrderForReadingAndWriting) {
   EXPECT_EQ(type.writes.size(), 4u);
 }
 
-TEST(Resolve, KeepsTheOrderOfAStatementWhereOnlyReadingDiffers) {
+TEST(Resolve, KeepsTheOrderOfAStatementIfOnlyReadingDiffers) {
   const Resolved resolved(
       "entity IfcA : IfcUnknown all file\n  doc A.\n  First string\n  Second string\n"
       "  reads Second\n  unread Third integer\n");
@@ -79,7 +79,7 @@ TEST(Resolve, ContinuesAStatementWithTheNearestClassThatHasPositions) {
   EXPECT_EQ(resolved.model.Find("IfcD")->recordBase, "IfcA");
 }
 
-TEST(Resolve, ReadsAndWritesInDifferentOrdersWhereToldSo) {
+TEST(Resolve, UsesDifferentOrdersForReadingAndWriting) {
   const Resolved resolved(
       "entity IfcA : IfcUnknown all file\n  doc A.\n  First string\n  Second string\n"
       "  reads Second\n");
@@ -87,7 +87,7 @@ TEST(Resolve, ReadsAndWritesInDifferentOrdersWhereToldSo) {
   EXPECT_EQ(resolved.model.Find("IfcA")->writes.size(), 2u);
 }
 
-TEST(Resolve, GivesAClassWithoutAttributesItsNameToReadAndWrite) {
+TEST(Resolve, LetsAClassWithoutAttributesReadAndWriteItsName) {
   const Resolved resolved("entity IfcA : IfcUnknown all file\n  doc A.\n");
   EXPECT_TRUE(resolved.model.Find("IfcA")->hasParse);
 }
@@ -99,7 +99,7 @@ struct Fault {
 
 class UnresolvableDescription : public testing::TestWithParam<Fault> {};
 
-TEST_P(UnresolvableDescription, IsToldWithItsPlace) {
+TEST_P(UnresolvableDescription, IsReportedWithItsPlace) {
   EXPECT_EQ(Refusal(GetParam().body), std::string("f.schema:") + GetParam().message);
 }
 
@@ -108,7 +108,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(
         Fault{"entity IfcA : IfcB all\n  doc A.\n", "2:1: error: the base IfcB is not described"},
         Fault{"entity IfcA : IfcB all\n  doc A.\nentity IfcB : IfcUnknown all\n  doc B.\n",
-              "2:1: error: the base IfcB stands behind it"},
+              "2:1: error: the base IfcB is described after it"},
         Fault{"entity IfcA : IfcUnknown all\n", "2:1: error: IfcA has no doc line"},
         Fault{"entity IfcA : IfcUnknown all\n  doc A.\nentity IfcA : IfcUnknown all\n  doc A.\n",
               "4:1: error: IfcA is described twice"},

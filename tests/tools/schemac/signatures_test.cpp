@@ -16,7 +16,7 @@ TEST(ResultType, TranslatesWords) {
   EXPECT_EQ(Result("double"), "double");
 }
 
-TEST(ResultType, ShowsClassesOfTheModelAsPointersToConst) {
+TEST(ResultType, ReturnsClassesOfTheModelAsPointersToConst) {
   EXPECT_EQ(Result("IfcA"), "const IfcA*");
   EXPECT_EQ(Result("IfcA*"), "IfcA*");
   EXPECT_EQ(Result("set IfcA"), "SET<const IfcA*>");

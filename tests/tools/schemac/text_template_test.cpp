@@ -12,7 +12,7 @@ TEST(Fill, ReplacesEachWord) {
   EXPECT_EQ(Fill("nothing", {}), "nothing");
 }
 
-TEST(Fill, DoesNotSearchWhatItPutsIn) { EXPECT_EQ(Fill("@a@", {{"a", "@b@"}}), "@b@"); }
+TEST(Fill, DoesNotSearchInsertedText) { EXPECT_EQ(Fill("@a@", {{"a", "@b@"}}), "@b@"); }
 
 TEST(Fill, RefusesAWordWithoutText) {
   EXPECT_THROW(Fill("x @a@", {{"b", "1"}}), std::logic_error);

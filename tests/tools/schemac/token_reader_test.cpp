@@ -17,20 +17,20 @@ TEST(TokenReader, ReadsWordsAndNames) {
   EXPECT_TRUE(in.AtEnd());
 }
 
-TEST(TokenReader, TakesAWordOnlyWhole) {
+TEST(TokenReader, TakesOnlyWholeWords) {
   const Line line = MakeLine("filename");
   TokenReader in(line);
   EXPECT_FALSE(in.Take("file"));
   EXPECT_TRUE(in.Take("filename"));
 }
 
-TEST(TokenReader, StopsOutsideParenthesesOnly) {
+TEST(TokenReader, StopsOnlyOutsideParentheses) {
   const Line line = MakeLine("(A a, B b), C");
   TokenReader in(line);
   EXPECT_EQ(in.Until(","), "(A a, B b)");
 }
 
-TEST(TokenReader, NamesTheColumnOfWhatItRefuses) {
+TEST(TokenReader, NamesTheColumnOfAnError) {
   const Line line = MakeLine("ab ;");
   TokenReader in(line);
   in.Word("a word");
@@ -42,7 +42,7 @@ TEST(TokenReader, NamesTheColumnOfWhatItRefuses) {
   }
 }
 
-TEST(TokenReader, NamesTheLineThatAContinuationIsIn) {
+TEST(TokenReader, NamesTheLineOfAContinuation) {
   const auto lines = ReadLines("f", "  ops A,\n      B,\n        C");
   TokenReader in(lines.front());
   const auto place = [&](std::string_view text) {
