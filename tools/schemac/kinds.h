@@ -31,8 +31,8 @@ enum class Kind : std::uint8_t {
   kEnum,        ///< an enumeration with a table
   kCoreEnum,    ///< an enumeration of the core, which the class reads and writes by hand
   kValue,       ///< an inline value with the name of its type
-  kGlobalId64,  ///< the identifier of 22 characters: a load checks it, a save generates it
-  kGlobalId85,  ///< the identifier of 20 characters: a save generates it
+  kGlobalId64,  ///< the identifier of 22 characters; a load replaces an invalid one
+  kGlobalId85,  ///< the identifier of 20 characters; a save replaces an empty one
   kInstance,    ///< an instance that is held by value: a cache
 };
 
