@@ -90,7 +90,8 @@ struct KELIFC_API EntityDescription {
   AttributeReader readValue = nullptr;                ///< of a value type that can have instances
   const EntityDescription* bases[2] = {nullptr, nullptr};  ///< its supertypes and selects, or null
   /// The class whose attributes come first in a statement; null if there is none. It is not always
-  /// the base: an entity that redeclares an attribute of its base continues further up.
+  /// the base: an entity that redeclares an attribute of its base continues with a class above the
+  /// base.
   const EntityDescription* record = nullptr;
   /// The attributes that the class adds: those in a statement in their order, then the others.
   const AttributeDescription* attributes = nullptr;
@@ -103,8 +104,8 @@ struct KELIFC_API EntityDescription {
   const AttributeDescription* AttributeAt(std::size_t position) const;
 
   /// Returns the attribute with a name, which can be an inherited one, or null if there is none.
-  /// Names are compared without regard to case. Of two with one name the one that the statement
-  /// keeps comes first.
+  /// Names are compared without regard to case. If a class has two attributes with the name, the
+  /// derived one is not returned.
   const AttributeDescription* FindAttribute(std::string_view attributeName) const;
 
   /// Returns true if this is `other` or derives from it. Classes of two releases are never related.

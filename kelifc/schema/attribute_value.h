@@ -41,9 +41,10 @@ enum class AttributeValueKind : std::uint8_t {
   kTyped,        ///< a value with the name of its type, such as `IFCLABEL('text')`
 };
 
-/// One value of an instance, as the instance keeps it: numbers are not rounded, and a value that a
-/// save replaces by a fixed text is the kept one. It is a view, which is valid until the instance
-/// changes or is destroyed. An operation for another kind of value returns what it documents.
+/// One value of an instance, as the instance keeps it. Numbers are not rounded. If a save writes a
+/// fixed text instead of the value, this is still the kept value. It is a view, which is valid
+/// until the instance changes or is destroyed. An operation for another kind of value returns what
+/// it documents.
 class KELIFC_API AttributeValue {
  public:
   /// An unset value.
@@ -59,10 +60,10 @@ class KELIFC_API AttributeValue {
   /// Returns the number of a reference. Returns 0 for an inline instance and for another kind.
   std::size_t AsReferenceNumber() const;
 
-  /// Returns an integer or a real number, 0 for another kind.
+  /// Returns an integer or a real number, or 0 for another kind.
   double AsNumber() const;
-  /// Returns an integer, 0 for another kind. In raw text, a number out of range becomes the nearest
-  /// bound.
+  /// Returns an integer, or 0 for another kind. In raw text, a number out of range becomes the
+  /// nearest bound.
   std::int64_t AsInteger() const;
 
   /// Returns true for a true boolean or logical value and for the enumerator `T`, otherwise false.
@@ -78,8 +79,8 @@ class KELIFC_API AttributeValue {
   /// boolean or logical value. Empty for another kind.
   std::string_view AsEnumerator() const;
 
-  /// Returns how many elements a list has, 0 for another kind. A list that the class keeps without
-  /// a mark whether it is set is unset while it is empty.
+  /// Returns the number of elements of a list, or 0 for another kind. Some classes do not record
+  /// whether a list is set; such a list is unset while it is empty.
   std::size_t Size() const;
   /// Returns an element of a list in constant time, counted from 0. The order is that of the file;
   /// equal elements of a set are kept too. Returns an unset value for an index out of range and for
@@ -95,12 +96,12 @@ class KELIFC_API AttributeValue {
  private:
   friend class ValueReader;
 
-  /// What a list of one C++ type does.
+  /// The operations of a list of one C++ type.
   struct ListOperations {
     std::size_t (*size)(const void* list);
     AttributeValue (*at)(const void* list, std::size_t index, const IfcUnknown& holder);
   };
-  /// What a value of raw text owns.
+  /// The data that a value of raw text owns.
   struct Raw {
     StatementView parts;  // elements of a list, or what a typed value holds
     std::string text;
@@ -133,8 +134,7 @@ class KELIFC_API InstanceView {
   std::string_view EntityName() const;
   /// Returns what DescribeInstance does.
   const EntityDescription* Description() const { return description; }
-  /// Returns how many positions the statement has. A typed value has one. Raw text has as many as
-  /// it holds.
+  /// Returns the number of positions of the statement. A typed value has one position.
   std::size_t Size() const;
   /// Returns the value of a position, counted from 0, inherited ones included. It is unset for a
   /// position out of range and for one that the class does not keep. Constant time.

@@ -39,9 +39,9 @@ struct Step {
     kAttribute,  ///< read into and written from an attribute
     kDrop,       ///< read into a temporary, written as a literal
     kLiteral,    ///< not read, written as a literal
-    kStar,       ///< the mark of a redeclared attribute: skipped, written as `*`
+    kStar,       ///< the `*` of a redeclared attribute
     kUnread,     ///< neither read nor written
-    kLink,       ///< fills the inverse side of a relationship; nothing is written
+    kLink,       ///< fills an inverse set; nothing is written
   };
   Place place;
   Act act = Act::kAttribute;

@@ -10,8 +10,8 @@ namespace schemac {
 /// The kind of value that an attribute holds, or as which a position of a record is read.
 enum class Kind : std::uint8_t {
   kString,
-  kLabel,       ///< IfcLabel where the release has it, else STRING
-  kIdentifier,  ///< IfcIdentifier where the release has it, else STRING
+  kLabel,       ///< IfcLabel if the release has it, otherwise STRING
+  kIdentifier,  ///< IfcIdentifier if the release has it, otherwise STRING
   kReal,
   kInteger,
   kBoolean,
@@ -23,7 +23,7 @@ enum class Kind : std::uint8_t {
   kFlags,       ///< two bits
   kIntegers,    ///< a list of whole numbers, as a defined type of its own
   kEnumText,    ///< an enumeration that is kept as its text
-  kOpenEnum,    ///< the same under the name of the enumeration
+  kOpenEnum,    ///< the same, with the name of the enumeration as its type
   kLabels,      ///< a list of labels
   kReference,   ///< one reference
   kSet,         ///< a set of references
@@ -31,8 +31,8 @@ enum class Kind : std::uint8_t {
   kEnum,        ///< an enumeration with a table
   kCoreEnum,    ///< an enumeration of the core, which the class reads and writes by hand
   kValue,       ///< an inline value with the name of its type
-  kGlobalId64,  ///< the identifier of 22 characters: checked when it is read, made when missing
-  kGlobalId85,  ///< the identifier of 20 characters: made when missing
+  kGlobalId64,  ///< the identifier of 22 characters; a load replaces an invalid one
+  kGlobalId85,  ///< the identifier of 20 characters; a save replaces an empty one
   kInstance,    ///< an instance that is held by value: a cache
 };
 
@@ -43,7 +43,7 @@ struct GetterForm {
   std::string_view doc;
   std::string_view body;
   bool isPointer = false;  ///< the result is a pointer or holds pointers, and has a writable form
-  bool usesInner = false;  ///< a getter calls the writable form, where the class describes one
+  bool usesInner = false;  ///< the getter calls the writable form, if the class has one
 };
 
 /// The form of a setter. The texts are templates with the words of GetterForm.
@@ -57,14 +57,14 @@ struct SetterForm {
 extern const GetterForm kPlainGetter;
 extern const SetterForm kValueSetter;
 
-/// A value in four texts. Each is a template with the words `n`, a number that differs from
-/// position to position, `row`, the text of the last row of an enumeration, and `emptied`, what an
-/// enumeration is written as while it is unset.
+/// The four texts of a sample value. Each text is a template. The word `n` is a number that differs
+/// between positions. `row` is the text of the last row of an enumeration. `emptied` is the text
+/// that a save writes for an unset enumeration.
 struct SampleTexts {
   std::string_view read;           ///< as a file has it
-  std::string_view written = {};   ///< as it is written again; empty: as it was read
-  std::string_view absent = "$";   ///< as a file has it while it is unset
-  std::string_view emptied = "$";  ///< as the unset value is written
+  std::string_view written = {};   ///< as a save writes it; empty: as `read`
+  std::string_view absent = "$";   ///< as a file has it if it is unset
+  std::string_view emptied = "$";  ///< as a save writes the unset value
 };
 
 /// Everything that the generator knows about one kind.
@@ -72,18 +72,18 @@ struct KindInfo {
   Kind kind;
   std::string_view word;            ///< its name in the notation
   std::string_view published = {};  ///< its enumerator of AttributeKind; empty: in no statement
-  std::string_view type = {};  ///< the C++ type that reads it; empty if `holdsNamedType` tells it
-  std::string_view labelled = {};  ///< the type where the release has IfcLabel; empty: the same
+  std::string_view type = {};  ///< the C++ type that reads it; empty if `holdsNamedType` is true
+  std::string_view labelled = {};  ///< the type if the release has IfcLabel; empty: the same
   bool takesName = false;          ///< the notation names a class or an enumeration after it
   bool namesEnumeration = false;   ///< the name is that of an enumeration
   bool holdsNamedType = false;     ///< the attribute is stored as the type that the notation names
   bool isDroppable = true;         ///< a position can be read as it and dropped
-  bool isInFile = true;            ///< an attribute of the kind stands in a record
+  bool isInFile = true;            ///< an attribute of the kind is in a record
   std::string_view reader = "@member@";  ///< the part of ParseRecord
   std::string_view writer = "@member@";  ///< the part of WriteFirst and WriteNext
   std::string_view valueReader = "ReadMember<@class@, @pointer@>";  ///< its AttributeReader
-  std::string_view initializer = "@text@";  ///< what follows the name of the data member
-  std::string_view bare = {};               ///< what a defined type is made from; empty: none
+  std::string_view initializer = "@text@";  ///< the text after the name of the data member
+  std::string_view bare = {};               ///< the parameter of a defined type; empty: none
   std::string_view view = {};               ///< the aggregate that a getter returns
   std::string_view target = {};             ///< the class that references lead to, if it is fixed
   const GetterForm* getter = &kPlainGetter;
