@@ -74,10 +74,8 @@ void AddArcPoints(const Point3& start, const Point3& through, const Point3& end,
   const double radius = Length(start - arc.centre);
   const double step =
       2.0 * std::acos(1.0 - std::min(0.5, kChordError / std::max(radius, kChordError)));
-  const double count = std::clamp(std::ceil(arc.angle / step), 1.0, 500.0);
-  for (double i = 1.0; i < count; i += 1.0) {
-    points.push_back(arc.Turn(start, arc.angle * i / count));
-  }
+  const auto count = static_cast<int>(std::clamp(std::ceil(arc.angle / step), 1.0, 500.0));
+  for (int i = 1; i < count; ++i) points.push_back(arc.Turn(start, arc.angle * i / count));
 }
 
 std::optional<Path> PathOf(const SpaceCurve& curve, const Transform3& map) {

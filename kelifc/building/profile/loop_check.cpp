@@ -63,11 +63,12 @@ Place PlaceOf(const Point2& point, const Outline& loop) {
 Place PlaceOf(const Outline& inner, const Outline& loop) {
   constexpr std::size_t kMostTried = 32;
   const std::size_t count = std::min(inner.size(), kMostTried);
-  for (std::size_t i = 0; i < 2 * count; ++i) {
-    const Point2& point = inner[i % count];
-    const Vector2 edge = inner[(i % count + 1) % inner.size()] - point;
-    const Place place = PlaceOf(i < count ? point : point + edge * 0.5, loop);
-    if (place != Place::kOnBoundary) return place;
+  for (const double along : {0.0, 0.5}) {
+    for (std::size_t i = 0; i < count; ++i) {
+      const Vector2 edge = inner[i + 1 < inner.size() ? i + 1 : 0] - inner[i];
+      const Place place = PlaceOf(inner[i] + edge * along, loop);
+      if (place != Place::kOnBoundary) return place;
+    }
   }
   return Place::kOnBoundary;
 }
