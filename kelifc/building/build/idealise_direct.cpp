@@ -132,7 +132,7 @@ std::optional<Reading> ReadExtrusion(Subject& subject, const Extrusion& extrusio
     const PlaneFrame centred{
         Lift(profile->frame, {-profile->placed.offset.x, -profile->placed.offset.y}),
         profile->frame.x, profile->frame.y};
-    const std::optional<Reading> box = ReadBox(
+    std::optional<Reading> box = ReadBox(
         subject, MakeBox(shape.outline, centred, straight->along, straight->depth), asMember);
     if (box) return box;
   }
