@@ -42,10 +42,10 @@ std::string MakeName() {
 // there is no such file.
 std::string Resolve(const std::string& path) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
+  std::string name(MAX_PATH, '\0');  // allocated before the file is open, which nothing would close
   const HANDLE file = CreateFileA(path.c_str(), 0, kShareAll, nullptr, OPEN_EXISTING,
                                   FILE_FLAG_BACKUP_SEMANTICS, nullptr);
   if (file == INVALID_HANDLE_VALUE) return path;
-  std::string name(MAX_PATH, '\0');
   const DWORD length = GetFinalPathNameByHandleA(file, name.data(), MAX_PATH, 0);
   CloseHandle(file);
   if (length == 0 || length >= MAX_PATH) return path;
