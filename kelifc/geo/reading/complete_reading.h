@@ -42,8 +42,8 @@ class CompleteReading {
   void FindShown();
 
   Building building;
-  std::vector<ShownAs> shown;                              // by the index of the element
-  std::vector<SHORT> storeyNumbers;                        // by the index of the storey
+  std::vector<ShownAs> shown;                                // by the index of the element
+  std::vector<SHORT> storeyNumbers;                          // by the index of the storey
   std::unordered_map<std::size_t, std::size_t> storeysById;  // indices
 };
 

@@ -25,8 +25,7 @@ struct Context {
 /// Appends the elements that the collection shows. `convert` sets the points and the section of a
 /// new element: convert(made, element, context).
 template <class Element, class Collection, class Convert>
-HRESULT FillShown(Collection& collection, CoIFCServer& server, ShownAs shownAs,
-                  Convert&& convert) {
+HRESULT FillShown(Collection& collection, CoIFCServer& server, ShownAs shownAs, Convert&& convert) {
   collection.SetServer(server.Link());
   const auto reading = server.ReadCompletely();
   ComPtr<IGeoStructure> structure;

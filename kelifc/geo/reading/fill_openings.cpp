@@ -45,11 +45,11 @@ HRESULT AppendCorners(CoGeoWall& wall, HRESULT (CoGeoWall::*get)(Interface**),
 HRESULT FillWindowsAndDoors(CoGeoWall& wall, const BuildingElement& element) {
   const Vector3& normal = element.surface->normal;
   for (const BuildingOpening& opening : element.openings) {
-    const HRESULT status = opening.kind == OpeningKind::kDoor
-                               ? AppendCorners<CoGeoDoors, CoGeoDoor>(wall, &CoGeoWall::get_Doors,
-                                                                      opening, normal)
-                               : AppendCorners<CoGeoWindows, CoGeoWindow>(
-                                     wall, &CoGeoWall::get_Windows, opening, normal);
+    const HRESULT status =
+        opening.kind == OpeningKind::kDoor
+            ? AppendCorners<CoGeoDoors, CoGeoDoor>(wall, &CoGeoWall::get_Doors, opening, normal)
+            : AppendCorners<CoGeoWindows, CoGeoWindow>(wall, &CoGeoWall::get_Windows, opening,
+                                                       normal);
     if (FAILED(status)) return status;
   }
   return S_OK;

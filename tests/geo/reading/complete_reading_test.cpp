@@ -63,8 +63,7 @@ TEST(CompleteReading, ShowsNothingThatItsCollectionHasNoPointsFor) {
   EXPECT_EQ(ShownAsOf(BodyOf("IfcWall")), ShownAs::kNothing);
   EXPECT_EQ(ShownAsOf(Named(Slab(1, 2.0, 3.0), "IfcBeam")), ShownAs::kNothing);
   EXPECT_EQ(ShownAsOf(Named(MemberFrom(1, {0.0, 0.0, 0.0}), "IfcSlab")), ShownAs::kNothing);
-  EXPECT_EQ(ShownAsOf(Named(MemberFrom(1, {0.0, 0.0, 0.0}), "IfcStairFlight")),
-            ShownAs::kNothing);
+  EXPECT_EQ(ShownAsOf(Named(MemberFrom(1, {0.0, 0.0, 0.0}), "IfcStairFlight")), ShownAs::kNothing);
   BuildingElement curved = Named(Slab(1, 2.0, 3.0), "IfcWall");
   curved.surface->sweep.emplace();
   EXPECT_EQ(ShownAsOf(curved), ShownAs::kNothing);

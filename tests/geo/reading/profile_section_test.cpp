@@ -65,21 +65,20 @@ class ProfileSection : public HostTest {
 
 TEST_F(ProfileSection, IsARectangleWithTheWidthAlongY) {
   const Sizes sizes = {{ProfileParameter::kH, 0.5}, {ProfileParameter::kB, 0.3}};
-  const auto upright = SectionOf(
-      ProfileOf(ProfileShape::kRectangle, sizes,
-                {{-0.15, -0.25}, {0.15, -0.25}, {0.15, 0.25}, {-0.15, 0.25}}));
+  const auto upright =
+      SectionOf(ProfileOf(ProfileShape::kRectangle, sizes,
+                          {{-0.15, -0.25}, {0.15, -0.25}, {0.15, 0.25}, {-0.15, 0.25}}));
   EXPECT_EQ(GetText(*upright, &IGeoSection::get_Name), L"IFC_R_30x50");
-  const auto lying = SectionOf(
-      ProfileOf(ProfileShape::kRectangle, sizes,
-                {{-0.25, -0.15}, {0.25, -0.15}, {0.25, 0.15}, {-0.25, 0.15}}));
+  const auto lying =
+      SectionOf(ProfileOf(ProfileShape::kRectangle, sizes,
+                          {{-0.25, -0.15}, {0.25, -0.15}, {0.25, 0.15}, {-0.25, 0.15}}));
   EXPECT_EQ(GetText(*lying, &IGeoSection::get_Name), L"IFC_R_50x30");
 }
 
 TEST_F(ProfileSection, IsAPolygonForARectangleThatLiesAskew) {
-  const auto askew =
-      SectionOf(ProfileOf(ProfileShape::kRectangle,
-                          {{ProfileParameter::kH, 0.2}, {ProfileParameter::kB, 0.2}},
-                          {{-0.1414, 0.0}, {0.0, -0.1414}, {0.1414, 0.0}, {0.0, 0.1414}}));
+  const auto askew = SectionOf(ProfileOf(
+      ProfileShape::kRectangle, {{ProfileParameter::kH, 0.2}, {ProfileParameter::kB, 0.2}},
+      {{-0.1414, 0.0}, {0.0, -0.1414}, {0.1414, 0.0}, {0.0, 0.1414}}));
   EXPECT_EQ(GetValue(*askew, &IGeoSection::get_Kind), SECTION_PROFILE);
 }
 
@@ -105,8 +104,8 @@ TEST_F(ProfileSection, IsAPolygonForATeeWithTheFlangeBelow) {
 }
 
 TEST_F(ProfileSection, IsAPolygonForAnyOtherShape) {
-  const auto section = SectionOf(ProfileOf(ProfileShape::kArbitrary, {},
-                                           {{-0.1, -0.1}, {0.2, -0.1}, {-0.1, 0.2}}));
+  const auto section =
+      SectionOf(ProfileOf(ProfileShape::kArbitrary, {}, {{-0.1, -0.1}, {0.2, -0.1}, {-0.1, 0.2}}));
   EXPECT_EQ(GetValue(*section, &IGeoSection::get_Kind), SECTION_PROFILE);
   EXPECT_EQ(GetText(*section, &IGeoSection::get_Name), L"IFC_N3_30x30");
 }
