@@ -50,14 +50,7 @@ HRESULT CoGeoObject::Reserved24(void*) { return E_NOTIMPL; }
 HRESULT CoGeoObject::Reserved25(void*) { return E_NOTIMPL; }
 HRESULT CoGeoObject::Reserved26(void*) { return E_NOTIMPL; }
 
-HRESULT CoGeoObject::get_GUID(BSTR* out) {
-  constexpr int kBracedSize = 39;
-  if (out == nullptr) return E_POINTER;
-  OLECHAR text[kBracedSize];
-  StringFromGUID2(guid, text, kBracedSize);
-  *out = SysAllocString(text);
-  return *out == nullptr ? E_OUTOFMEMORY : S_OK;
-}
+HRESULT CoGeoObject::get_GUID(BSTR* out) { return GiveGuid(guid, out); }
 
 HRESULT CoGeoObject::put_GUID(BSTR text) {
   // A null string is the empty text, which is not an identifier.
@@ -87,6 +80,7 @@ HRESULT CoGeoObject::get_StoreyNumber(SHORT* out) {
   *out = 0;
   return Guard([&] {
     CoIFCServer* const owner = server.Get();
+    if (owner != nullptr && storeyNumber) return GetField(*storeyNumber, out);
     const IfcUnknown* instance = owner == nullptr ? nullptr : owner->Model().GetItem(guid);
     if (instance == nullptr) return E_POINTER;
     ComPtr<IGeoStoreys> storeys;

@@ -3,6 +3,7 @@
 
 #include <cstdint>
 #include <limits>
+#include <optional>
 #include <string>
 
 #include "kelifc/geo/server_link.h"
@@ -69,6 +70,8 @@ class CoGeoObject {
   /// call converts the storeys if no host has asked for them yet. The result is not a failure if
   /// the element is in no storey. Returns E_POINTER if the model has no such instance, and if there
   /// is no server object or it has been released.
+  ///
+  /// An element of the complete reading has its storey number from the beginning.
   virtual HRESULT get_StoreyNumber(SHORT* out);
   virtual HRESULT Reserved23(SHORT);
   virtual HRESULT Reserved24(void*);
@@ -80,6 +83,7 @@ class CoGeoObject {
   std::string name;
   STEP_DIALECT dialect = STEP_DIALECT_CLASSIC;  ///< of the name
   ServerLink server;
+  std::optional<SHORT> storeyNumber;  ///< set by the complete reading only
 };
 
 }  // namespace KelIFC

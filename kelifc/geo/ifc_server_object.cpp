@@ -36,6 +36,7 @@ int CoIFCServer::LoadFile(BSTR fileName) {
 HRESULT CoIFCServer::Load(BSTR fileName) {
   return Guard([&] {
     loadResult = LOAD_RESULT_CANNOT_OPEN;  // also where memory runs out
+    completeReading.reset();
     const int result = loadResult = LoadFile(fileName);
     if (result == LOAD_RESULT_CANNOT_OPEN || result == LOAD_RESULT_CANCELLED) {
       return ReportLoadFailure(LoadFailure::kNotFound, fileName);

@@ -2,6 +2,7 @@
 #define KELIFC_GEO_IFC_SERVER_OBJECT_H_
 
 #include <atomic>
+#include <memory>
 #include <optional>
 
 #include "kelifc/geo/class_bases.h"
@@ -10,6 +11,8 @@
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {
+
+class CompleteReading;
 
 /// The server object: the first object that a host creates. It owns the model and the structure
 /// that is converted from it.
@@ -50,6 +53,24 @@ class CoIFCServer : public CoIFCServerBase {
   HRESULT ReportCount(BSTR name, double* out) override;
   HRESULT SourceLine(LONG number, LONG* out) override;
 
+  // The building model. The collections of elements and losses are created at the first call and
+  // cached; a later load does not change them.
+  HRESULT get_Reading(LONG* out) override;
+  HRESULT put_Reading(LONG reading) override;
+  HRESULT get_Elements(IGeoElements** out) override;
+  HRESULT get_Losses(IGeoLosses** out) override;
+
+  /// Returns true if the structure is filled from the building model.
+  bool IsReadingComplete() const { return isReadingComplete; }
+
+  /// Ends the time in which a host may choose the reading. The structure calls it when a host asks
+  /// for a collection.
+  void FixReading() { isReadingFixed = true; }
+
+  /// Reads the building model at the first call after a load. Never returns null. Throws
+  /// std::bad_alloc.
+  std::shared_ptr<const CompleteReading> ReadCompletely();
+
   /// Returns the model. It is valid while this object lives.
   IfcServer& Model() { return server; }
 
@@ -76,6 +97,11 @@ class CoIFCServer : public CoIFCServerBase {
   std::atomic<bool> isCancelled = false;
   LONG loadResult = LOAD_RESULT_LOADED;
   ComPtr<IGeoStructure> structure;
+  bool isReadingComplete = false;
+  bool isReadingFixed = false;
+  std::shared_ptr<const CompleteReading> completeReading;  // null until it is asked for
+  ComPtr<IGeoElements> elements;
+  ComPtr<IGeoLosses> losses;
   ServerLinkOwner links;  // declared last, so that it is destroyed first
 };
 

@@ -19,4 +19,11 @@ HRESULT GivePoints(ComPtr<IGeoPoints>& child, IGeoPoints** out, const Mvector<Po
   });
 }
 
+HRESULT GivePoint(ComPtr<IGeoPoint>& child, IGeoPoint** out, const Point3& location) {
+  return GiveChild<CoGeoPoint>(child, out, [&](CoGeoPoint& made) {
+    made.location = location;
+    return S_OK;
+  });
+}
+
 }  // namespace KelIFC

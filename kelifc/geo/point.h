@@ -50,6 +50,9 @@ class CoGeoPoint : public LocatedObject<CoGeoPointBase> {
 /// of `points`.
 HRESULT GivePoints(ComPtr<IGeoPoints>& child, IGeoPoints** out, const Mvector<Point3>& points);
 
+/// Stores the point that `child` caches. At the first call it is created at `location`.
+HRESULT GivePoint(ComPtr<IGeoPoint>& child, IGeoPoint** out, const Point3& location);
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_GEO_POINT_H_

@@ -3,6 +3,7 @@
 #include "kelifc/geo/creation.h"
 #include "kelifc/geo/fields.h"
 #include "kelifc/geo/fill.h"
+#include "kelifc/geo/reading/fill_complete.h"
 #include "kelifc/geo/sections.h"
 #include "kelifc/geo/storeys.h"
 #include "kelifc/geo/version.h"
@@ -14,11 +15,14 @@ namespace {
 
 /// Stores a child that is not filled.
 template <class Class>
-HRESULT GiveEmpty(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out) {
+HRESULT GiveEmpty(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out,
+                  const ServerLink& link) {
+  if (CoIFCServer* const server = link.Get()) server->FixReading();
   return GiveChild<Class>(child, out, [](Class&) { return S_OK; });
 }
 
-/// Stores a child that is filled from the model. Without a server object it is not created.
+/// Stores a child that is filled from the model, by `fill` or by the complete reading. Without a
+/// server object it is not created.
 template <class Class, class Fill>
 HRESULT GiveFilled(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out,
                    const ServerLink& link, Fill&& fill) {
@@ -26,7 +30,10 @@ HRESULT GiveFilled(ComPtr<OwnInterface<Class>>& child, OwnInterface<Class>** out
   *out = nullptr;
   CoIFCServer* const server = link.Get();
   if (!child && server == nullptr) return E_POINTER;
-  return GiveChild<Class>(child, out, [&](Class& made) { return fill(made, *server); });
+  if (server != nullptr) server->FixReading();
+  return GiveChild<Class>(child, out, [&](Class& made) {
+    return server->IsReadingComplete() ? FillComplete(made, *server) : fill(made, *server);
+  });
 }
 
 /// Stores a collection of the elements of all storeys.
@@ -65,15 +72,15 @@ HRESULT CoGeoStructure::get_Foots(IGeoFoots** out) {
 }
 
 HRESULT CoGeoStructure::get_Sections(IGeoSections** out) {
-  return GiveEmpty<CoGeoSections>(sections, out);
+  return GiveEmpty<CoGeoSections>(sections, out, server);
 }
 
 HRESULT CoGeoStructure::get_Materials(IGeoMaterials** out) {
-  return GiveEmpty<CoGeoMaterials>(materials, out);
+  return GiveEmpty<CoGeoMaterials>(materials, out, server);
 }
 
 HRESULT CoGeoStructure::get_Objects(IGeoObjects** out) {
-  return GiveEmpty<CoGeoObjects>(objects, out);
+  return GiveEmpty<CoGeoObjects>(objects, out, server);
 }
 
 HRESULT CoGeoStructure::get_Version(BSTR* out) {

@@ -21,6 +21,9 @@ class CoGeoObject;
 /// once, and later calls return the collection with the items that it has. Without a server object,
 /// or after that was released, a collection that would have to be converted is not created, and the
 /// status is E_POINTER. On failure `out` is null; a null `out` returns E_POINTER.
+///
+/// The first of these calls fixes the reading of the server object. The complete reading fills the
+/// storeys and the elements from the building model.
 class CoGeoStructure : public CoGeoStructureBase {
  public:
   /// The storeys, in ascending order of their levels.

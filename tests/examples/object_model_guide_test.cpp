@@ -21,7 +21,7 @@ using document_test::ReadSource;
 TEST(ObjectModelGuide, ShowsWhatIsTestedHere) {
   const auto source = LinesOf(ReadSource("tests/examples/object_model_guide_test.cpp"));
   const auto blocks = document_test::BlocksOf(ReadSource("docs/object-model.md"), "cpp");
-  EXPECT_EQ(blocks.size(), 10U);
+  EXPECT_EQ(blocks.size(), 11U);
   for (const std::string& block : blocks) {
     const auto lines = LinesOf(block);
     EXPECT_NE(std::search(source.begin(), source.end(), lines.begin(), lines.end()), source.end())
@@ -168,6 +168,17 @@ TEST_F(Guide, ReadsTheFacesOfABoundary) {
   ASSERT_EQ(corners.size(), 44U);
   corners.resize(4);
   EXPECT_EQ(corners, (std::vector<LONG>{1, 2, 3, 4}));
+}
+
+TEST_F(Guide, ReadsTheElementsOfTheBuildingModel) {
+  Open("house.ifc");
+  std::string names;
+  const auto reading = server.As<IIFCServerReading>();
+  reading->put_Reading(1);
+  for (const auto& element : KelIFC::Items(reading, &IIFCServerReading::get_Elements)) {
+    names += KelIFC::Get(element, &IGeoElement::get_Name) + "\n";
+  }
+  EXPECT_THAT(names, testing::HasSubstr("Column A\n"));
 }
 
 TEST_F(Guide, KeepsElementsAfterTheServerObjectIsReleased) {

@@ -5,6 +5,10 @@
 
 #include "kelifc/geo/beam.h"
 #include "kelifc/geo/boundary.h"
+#include "kelifc/geo/building_collections.h"
+#include "kelifc/geo/building_element.h"
+#include "kelifc/geo/building_loss.h"
+#include "kelifc/geo/building_profile.h"
 #include "kelifc/geo/collections.h"
 #include "kelifc/geo/column.h"
 #include "kelifc/geo/foot.h"
@@ -33,7 +37,9 @@ using Classes =
                    CoGeoFoot, CoGeoFoots, CoGeoPoint, CoGeoPoints, CoGeoPlate, CoGeoPlates,
                    CoGeoWall, CoGeoWalls, CoGeoWindow, CoGeoWindows, CoGeoDoor, CoGeoDoors,
                    CoGeoHole, CoGeoHoles, CoGeoSectionThick, CoGeoSectionProfile, CoGeoSectionR,
-                   CoGeoSectionC, CoGeoSectionT, CoGeoBRep, CoGeoFace, CoGeoFaces, CoGeoNumbers>;
+                   CoGeoSectionC, CoGeoSectionT, CoGeoBRep, CoGeoFace, CoGeoFaces, CoGeoNumbers,
+                   CoGeoElement, CoGeoElements, CoGeoProfile, CoGeoLoss, CoGeoLosses,
+                   CoGeoPointLists>;
 TYPED_TEST_SUITE(EachClass, Classes);
 
 /// Queries another interface and back, and expects the same pointer.
@@ -124,7 +130,7 @@ TEST(ClassTable, ContainsEachClassOnce) {
     EXPECT_EQ(std::wstring(type.progId).substr(0, 7), L"KelIFC.");
   }
   EXPECT_EQ(names.size(), ComClasses().size());
-  EXPECT_EQ(names.size(), 34U);
+  EXPECT_EQ(names.size(), 40U);
 }
 
 }  // namespace

@@ -50,6 +50,7 @@ function walk(name, collection, facts, use) {
 function nameOf(item) { return item.Name; }
 function placeOf(point) { return point.X + " " + point.Y + " " + point.Z; }
 function numberOf(number) { return number; }
+function numberOfPoints(points) { return points.Count; }
 function verticesOf(face) { return face.Numbers.Count; }
 
 function walkPoints(element) { walk("points", element.Points, placeOf); }
@@ -112,6 +113,37 @@ expect("line of no instance", server.SourceLine(0), 0);
 expectError("count of another name", 0x80070057, function () { server.ReportCount("none"); });
 expectError("another dialect", 0x80070057, function () { server.Dialect = 2; });
 expectError("limit below 0", 0x80070057, function () { server.MaxBytes = -1; });
+
+// The same object chooses the reading, until the first collection of a structure is fetched.
+function walkCompletely() {
+  var complete = new ActiveXObject("KelIFC.IFCServer");
+  complete.Load(WScript.Arguments(0));
+  expectError("another reading", 0x80070057, function () { complete.Reading = 2; });
+  complete.Reading = 1;
+  expect("reading", complete.Reading, 1);
+  walk("elements", complete.Elements, nameOf, function (element) {
+    expect("class of an element", element.ClassName.substr(0, 3), "Ifc");
+    walk("axis", element.Axis, placeOf);
+    walk("outline", element.Outline, placeOf);
+    walk("holes", element.Holes, numberOfPoints);
+    expect("points of the boundary", element.Boundary.Points.Count >= 0, true);
+    expect("box", element.BoxMin.Z <= element.BoxMax.Z, true);
+    if (element.Kind === "member") {
+      expect("area", element.Profile.Area > 0, true);
+      walk("outline of a profile", element.Profile.Outline, placeOf);
+      expectError("another parameter", 0x80070057,
+                  function () { return element.Profile.Parameter("none"); });
+    } else {
+      expect("no profile", !element.Profile, true);
+    }
+  });
+  walk("losses", complete.Losses, function (loss) { return loss.Id + loss.Reason; });
+  walk("columns of the complete reading", complete.Structure.Columns, nameOf, walkPoints);
+  walk("beams of the complete reading", complete.Structure.Beams, nameOf, walkPoints);
+  expectError("reading that is chosen too late", 0x80004005,
+              function () { complete.Reading = 0; });
+}
+walkCompletely();
 
 function expectEndedLoad(what, result) {
   expectError(what, 0x80030002, function () { server.Load(WScript.Arguments(0)); });

@@ -53,6 +53,42 @@ Expect "statements", server.ReportCount("statements") > 0, True
 Expect "check", server.CheckModel, True
 Expect "report", Left(server.ReportJson, 14), "{""statements"":"
 
+' The same object chooses the reading, until the first collection of a structure is fetched.
+Dim complete, element, loss, hole
+Set complete = CreateObject("KelIFC.IFCServer")
+complete.Load WScript.Arguments(0)
+Expect "classic reading", complete.Reading, 0
+complete.Reading = 1
+Expect "complete reading", complete.Reading, 1
+Expect "elements", complete.Elements.Count > 0, True
+For Each element In complete.Elements
+  Expect "class of an element", Left(element.ClassName, 3), "Ifc"
+  Expect "deviation", element.Deviation >= 0, True
+  Expect "box", element.BoxMin.X <= element.BoxMax.X, True
+  Expect "closed body", element.IsClosed, True
+  If element.Kind = "member" Then
+    Expect "axis", element.Axis.Count >= 2, True
+    Expect "profile", element.Profile.Outline.Count >= 3, True
+    Expect "height or diameter", element.Profile.Parameter("h") + element.Profile.Parameter("d") > 0, True
+    Expect "no end profile", element.EndProfile Is Nothing, True
+  ElseIf element.Kind = "surface" Then
+    Expect "thickness", element.Thickness > 0, True
+    Expect "no profile", element.Profile Is Nothing, True
+    For Each hole In element.Holes
+      Expect "hole", hole.Count >= 3, True
+    Next
+  End If
+Next
+For Each loss In complete.Losses
+  Expect "reason", Len(loss.Reason) > 0, True
+Next
+Walk "elements", complete.Elements
+Walk "losses", complete.Losses
+Walk "columns of the complete reading", complete.Structure.Columns
+Walk "walls of the complete reading", complete.Structure.Walls
+Walk "plates of the complete reading", complete.Structure.Plates
+Walk "storeys of the complete reading", complete.Structure.Storeys
+
 ' A name is changed in the object, never in the model.
 model.Columns(1).Name = "renamed"
 Expect "new name", model.Columns(1).Name, "renamed"
@@ -81,6 +117,12 @@ ExpectError "file beyond a limit", &H80030002
 Expect "result of a load beyond a limit", server.LoadResult, 4
 server.Dialect = 2
 ExpectError "another dialect", 5
+server.Reading = 2
+ExpectError "another reading", 5
+complete.Reading = 0
+ExpectError "reading that is chosen too late", &H80004005
+Set nothingAtAll = complete.Elements.Item(0)
+ExpectError "element 0", 5
 WScript.Echo "The walk has ended."
 WScript.Quit failures
 

@@ -95,6 +95,23 @@ constexpr InterfaceRow kInterfaces[] = {
      "get_MaxStatementBytes put_MaxStatementBytes get_MaxMemoryBytes put_MaxMemoryBytes "
      "SetProgress "
      "CancelLoad get_LoadResult CheckModel get_ReportText get_ReportJson ReportCount SourceLine"},
+    {"IIFCServerReading", "5C70FAFB-625F-418D-93E6-F063D029A0D9",
+     "get_Reading put_Reading get_Elements get_Losses"},
+    {"IGeoElement", "6F37ACCB-B5D3-4B4B-8BFC-94D534A91B86",
+     "get_Id get_ClassName get_GUID get_GlobalId get_Name get_Tag get_PredefinedType "
+     "get_StoreyNumber get_StoreyNumberByHeight get_StoreyName get_PartOf get_Material get_Kind "
+     "get_Source get_Deviation get_VolumeRatio get_IsApproximate get_Cutouts get_AxisForm get_Axis "
+     "get_AxisY get_OffsetY get_OffsetZ get_Profile get_EndProfile get_Outline get_Holes "
+     "get_Normal "
+     "get_Thickness get_Height get_BoxMin get_BoxMax get_Volume get_IsClosed get_Boundary"},
+    {"IGeoProfile", "2E97686F-9099-41A5-840F-902FB8D5A427",
+     "get_Name get_Shape get_Designation get_NameContradicts get_Area get_Iy get_Iz get_Iyz "
+     "Parameter get_Outline get_Holes"},
+    {"IGeoLoss", "49310284-FAA2-47DC-A923-7026B6C2D525",
+     "get_Id get_ClassName get_GUID get_GlobalId get_Name get_Reason get_Line get_At"},
+    {"IGeoElements", "87AF2525-5BDF-429C-A37E-5E3C130628CD", "_NewEnum Item Count"},
+    {"IGeoLosses", "C3812875-4060-49A2-9BC7-2E25F1C43CEB", "_NewEnum Item Count"},
+    {"IGeoPointLists", "0BA49885-BFBB-4B88-A6F9-9A55E928BB36", "_NewEnum Item Count"},
 };
 
 struct ClassRow {
@@ -106,7 +123,7 @@ struct ClassRow {
 
 constexpr ClassRow kClasses[] = {
     {"CoIFCServer", "KelIFC.IFCServer.1", "39A9D627-0D20-4A20-9A95-8938494CC566",
-     "IIFCServer IIFCServerOptions"},
+     "IIFCServer IIFCServerOptions IIFCServerReading"},
     {"CoGeoStructure", "KelIFC.GeoStructure.1", "11988719-A5F6-4412-AEE4-0BE561F7A966",
      "IGeoStructure IGeoVersion IGeoVersion2"},
     {"CoGeoStorey", "KelIFC.GeoStorey.1", "C3FD50CF-74B2-4970-BB55-E5B08CA045B7", "IGeoStorey"},
@@ -156,6 +173,14 @@ constexpr ClassRow kClasses[] = {
     {"CoGeoFace", "KelIFC.GeoFace.1", "1F268374-5BE9-4C9D-B174-CA69B1C5276B", "IGeoFace"},
     {"CoGeoFaces", "KelIFC.GeoFaces.1", "C501E1B1-2597-4E18-B6C1-E4BC271E47E0", "IGeoFaces"},
     {"CoGeoNumbers", "KelIFC.GeoNumbers.1", "BCC68B65-E74A-4F28-85EF-21182FBDB41B", "IGeoNumbers"},
+    {"CoGeoElement", "KelIFC.GeoElement.1", "9DE44215-0C24-41F2-89D7-54C9EB8628BA", "IGeoElement"},
+    {"CoGeoElements", "KelIFC.GeoElements.1", "87477131-F86A-495F-9833-6D8368582CA4",
+     "IGeoElements"},
+    {"CoGeoProfile", "KelIFC.GeoProfile.1", "B5E38A6E-6FD3-4023-BA46-235FBA4A58CD", "IGeoProfile"},
+    {"CoGeoLoss", "KelIFC.GeoLoss.1", "7B7BC78A-162D-4E42-838A-E28B1C8C40E2", "IGeoLoss"},
+    {"CoGeoLosses", "KelIFC.GeoLosses.1", "869EF049-9876-4632-940A-B916822FFA9B", "IGeoLosses"},
+    {"CoGeoPointLists", "KelIFC.GeoPointLists.1", "035FD176-1452-45B2-9D89-471B7783E0E5",
+     "IGeoPointLists"},
 };
 
 std::string ReadText(const std::string& path) {
