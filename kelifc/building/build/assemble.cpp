@@ -14,6 +14,7 @@
 #include "kelifc/building/build/first_use.h"
 #include "kelifc/building/build/idealise.h"
 #include "kelifc/building/build/openings.h"
+#include "kelifc/building/build/reading_cache.h"
 #include "kelifc/building/build/storeys.h"
 #include "kelifc/building/profile/make_profile.h"
 
@@ -86,6 +87,8 @@ class Assembler {
   std::vector<ProductFacts> products;
   BodyMaker bodies;
   Building building;
+  MadeProfiles madeProfiles;
+  idealising::ReadingCache madeReadings;
   FirstUse<BuildingProfile> profiles;
   FirstUse<BuildingMaterial> materials;
   std::unordered_map<std::size_t, Place> places;
@@ -139,7 +142,8 @@ std::optional<Unreadable> Assembler::AddElement(ProductFacts& product) try {
   if (result.fault) return result.fault;
   if (!IsFinite(result.body.mesh)) return Unreadable{LossReason::kNotFinite, product.id};
   if (result.body.mesh.IsEmpty()) return Unreadable{LossReason::kDegenerate, product.id};
-  Idealisation ideal = Idealise({&result.body, &product, RoleOf(product.className)});
+  Idealisation ideal =
+      Idealise({&result.body, &product, RoleOf(product.className), &madeProfiles, &madeReadings});
   if (!IsFinite(ideal)) return Unreadable{LossReason::kNotFinite, product.id};
 
   BuildingElement element = ElementOf(product);
