@@ -1,13 +1,10 @@
 #ifndef KELIFC_BUILDING_BUILD_READING_CACHE_H_
 #define KELIFC_BUILDING_BUILD_READING_CACHE_H_
 
-#include <cstddef>
 #include <optional>
-#include <string>
-#include <unordered_map>
-#include <utility>
 
 #include "kelifc/building/build/idealise_reading.h"
+#include "kelifc/building/facts/keyed_cache.h"
 
 namespace KelIFC::building::idealising {
 
@@ -20,31 +17,8 @@ struct FoundReading {
 };
 
 /// Keeps what was found for the subjects of a model. Many elements of a building are equal except
-/// for their place, so the search is made once for them. It is not for several threads at once.
-class ReadingCache {
- public:
-  /// Returns what was found for a subject with this key; null if it is not kept.
-  const FoundReading* Find(const std::string& key) const {
-    const auto found = entries.find(key);
-    return found == entries.end() ? nullptr : &found->second;
-  }
-
-  /// Keeps what was found for the subject with this key. Memory is bounded: if the keys together
-  /// are too long, all other entries are removed first.
-  void Keep(std::string key, const FoundReading& found) {
-    constexpr std::size_t kMostBytes = std::size_t{1} << 24;
-    bytes += key.size();
-    if (bytes > kMostBytes) {
-      entries.clear();
-      bytes = key.size();
-    }
-    entries.emplace(std::move(key), found);
-  }
-
- private:
-  std::unordered_map<std::string, FoundReading> entries;
-  std::size_t bytes = 0;  // of all keys
-};
+/// for their place, so the search is made once for them.
+class ReadingCache : public KeyedCache<FoundReading> {};
 
 }  // namespace KelIFC::building::idealising
 

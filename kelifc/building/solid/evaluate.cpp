@@ -6,6 +6,7 @@
 
 #include "kelifc/building/solid/boolean.h"
 #include "kelifc/building/solid/half_space.h"
+#include "kelifc/building/solid/key_writer.h"
 #include "kelifc/building/solid/mesh_tools.h"
 #include "kelifc/building/solid/vector_math.h"
 
@@ -122,7 +123,7 @@ bool Evaluation::AddBoolean(const Solid& solid, const BooleanResult& form, const
                             std::size_t depth, EvaluatedBody& body) {
   // Cutters and faces are parallel to the axes of the item more often than to those of the world.
   EvaluatedBody own;
-  if (!Operate(form, depth, own)) {
+  if (!OperateOnce(form, depth, own)) {
     return hasFault ? false : Refuse(LossReason::kUnsupportedItem, solid.id);
   }
   if (own.mesh.IsEmpty()) return Refuse(LossReason::kDegenerate, solid.id);
@@ -153,6 +154,38 @@ bool Evaluation::CutByHalfSpace(const HalfSpace& cutter, bool keepsInside, Evalu
   } else {
     body.isExact = false;
   }
+  return true;
+}
+
+// An operation within another one is a part of its result and not kept on its own. What had a fault
+// or may come near a limit is computed, so that faults and limits are the same with the cache.
+bool Evaluation::OperateOnce(const BooleanResult& form, std::size_t depth, EvaluatedBody& body) {
+  if (operations == nullptr || isOperating || hasFault) return Operate(form, depth, body);
+  KeyWriter writer;
+  writer.Add(depth);
+  writer.Add(form);
+  std::string key = writer.Take();
+  if (key.empty()) return Operate(form, depth, body);
+  const DoneOperation* const known = operations->Find(key);
+  if (known != nullptr && Reuse(*known, body)) return true;
+  const std::size_t pointsBefore = pointCount;
+  const std::size_t visitsBefore = visits;
+  isOperating = true;
+  const bool isDone = Operate(form, depth, body);
+  isOperating = false;
+  if (isDone && known == nullptr && !hasFault) {
+    operations->Keep(std::move(key), {body, pointCount - pointsBefore, visits - visitsBefore});
+  }
+  return isDone;
+}
+
+bool Evaluation::Reuse(const DoneOperation& done, EvaluatedBody& body) {
+  constexpr std::size_t kRoom = 8;  // solids are refused before they are made, by an upper bound
+  const std::size_t most = limits.maxPoints / kRoom;
+  if (pointCount + done.points > most || visits + done.visits > most) return false;
+  pointCount += done.points;
+  visits += done.visits;
+  body = done.body;
   return true;
 }
 
