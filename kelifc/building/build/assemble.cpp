@@ -6,7 +6,6 @@
 #include <memory>
 #include <stdexcept>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 #include "kelifc/building/build/body_maker.h"
@@ -16,6 +15,7 @@
 #include "kelifc/building/build/openings.h"
 #include "kelifc/building/build/reading_cache.h"
 #include "kelifc/building/build/storeys.h"
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/profile/make_profile.h"
 
 namespace KelIFC::building {
@@ -91,7 +91,7 @@ class Assembler {
   idealising::ReadingCache madeReadings;
   FirstUse<BuildingProfile> profiles;
   FirstUse<BuildingMaterial> materials;
-  std::unordered_map<std::size_t, Place> places;
+  NumberMap<Place> places;
 };
 
 Building Assembler::Run() {

@@ -87,12 +87,12 @@ FoundReading Search(Subject& subject, const EvaluatedBody& body, const SingleSol
 // The same, from the cache if the subject is equal to an earlier one.
 FoundReading SearchOnce(Subject& subject, const EvaluatedBody& body, const SingleSolid& single,
                         ReadingCache* readings) {
-  std::string key;
-  if (readings != nullptr) key = ReadingKey(subject, body, single);
-  if (key.empty()) return Search(subject, body, single);
+  if (readings == nullptr) return Search(subject, body, single);
+  std::string& key = readings->Buffer();
+  if (!MakeReadingKey(subject, body, single, key)) return Search(subject, body, single);
   if (const FoundReading* known = readings->Find(key)) return *known;
   FoundReading found = Search(subject, body, single);
-  readings->Keep(std::move(key), found);
+  readings->Keep(key, found);
   return found;
 }
 

@@ -51,15 +51,15 @@ void AddSolid(KeyWriter& key, const SingleSolid& single, const Vector3& centre) 
 
 }  // namespace
 
-std::string ReadingKey(const Subject& subject, const EvaluatedBody& body,
-                       const SingleSolid& single) {
-  if (body.mesh.points.size() > kMostPoints) return {};
+bool MakeReadingKey(const Subject& subject, const EvaluatedBody& body, const SingleSolid& single,
+                    std::string& key) {
+  if (body.mesh.points.size() > kMostPoints) return false;
   const Vector3& centre = subject.boundary.Centre();
-  KeyWriter key;
-  AddProduct(key, subject);
-  AddBody(key, body, centre);
-  AddSolid(key, single, centre);
-  return key.Take();
+  KeyWriter writer(key);
+  AddProduct(writer, subject);
+  AddBody(writer, body, centre);
+  AddSolid(writer, single, centre);
+  return writer.IsUsable();
 }
 
 }  // namespace KelIFC::building::idealising

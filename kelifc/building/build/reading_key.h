@@ -8,11 +8,12 @@
 
 namespace KelIFC::building::idealising {
 
-/// A text that holds, bit for bit, everything on which the search for the best reading of a subject
-/// depends. Subjects with equal keys have equal readings in local coordinates. Empty if the body or
-/// what it is made from is so large that its key should not be kept.
-std::string ReadingKey(const Subject& subject, const EvaluatedBody& body,
-                       const SingleSolid& single);
+/// Makes a text that holds, bit for bit, everything on which the search for the best reading of a
+/// subject depends. Subjects with equal keys have equal readings in local coordinates. Returns
+/// false if the body, or what it is made from, is so large that its key should not be kept. `key`
+/// must be empty.
+bool MakeReadingKey(const Subject& subject, const EvaluatedBody& body, const SingleSolid& single,
+                    std::string& key);
 
 }  // namespace KelIFC::building::idealising
 

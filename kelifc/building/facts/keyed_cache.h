@@ -20,21 +20,28 @@ class KeyedCache {
     return found == entries.end() ? nullptr : &found->second;
   }
 
+  /// An empty text for the key to look up. The next call invalidates it.
+  std::string& Buffer() {
+    buffer.clear();
+    return buffer;
+  }
+
   /// Keeps a result. Memory is bounded: if the keys are too long together, all other results are
   /// removed first.
-  void Keep(std::string key, T result) {
+  void Keep(const std::string& key, T result) {
     constexpr std::size_t kMostBytes = std::size_t{1} << 24;
     bytes += key.size();
     if (bytes > kMostBytes) {
       entries.clear();
       bytes = key.size();
     }
-    entries.emplace(std::move(key), std::move(result));
+    entries.emplace(key, std::move(result));
   }
 
  private:
   std::unordered_map<std::string, T> entries;
   std::size_t bytes = 0;  // of all keys
+  std::string buffer;
 };
 
 }  // namespace KelIFC::building

@@ -2,9 +2,9 @@
 #define KELIFC_BUILDING_READ_ITEMS_H_
 
 #include <cstddef>
-#include <unordered_map>
 #include <vector>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/facts/solid_facts.h"
 #include "kelifc/building/read/profiles.h"
 #include "kelifc/building/read/read_context.h"
@@ -62,7 +62,7 @@ class ItemReader {
 
   ReadContext& context;
   ProfileReader profiles;
-  std::unordered_map<std::size_t, Node> nodes;  // by number
+  NumberMap<Node> nodes;
 };
 
 }  // namespace KelIFC::building

@@ -161,11 +161,11 @@ bool Evaluation::CutByHalfSpace(const HalfSpace& cutter, bool keepsInside, Evalu
 // or may come near a limit is computed, so that faults and limits are the same with the cache.
 bool Evaluation::OperateOnce(const BooleanResult& form, std::size_t depth, EvaluatedBody& body) {
   if (operations == nullptr || isOperating || hasFault) return Operate(form, depth, body);
-  KeyWriter writer;
+  std::string& key = operations->Buffer();
+  KeyWriter writer(key);
   writer.Add(depth);
   writer.Add(form);
-  std::string key = writer.Take();
-  if (key.empty()) return Operate(form, depth, body);
+  if (!writer.IsUsable()) return Operate(form, depth, body);
   const DoneOperation* const known = operations->Find(key);
   if (known != nullptr && Reuse(*known, body)) return true;
   const std::size_t pointsBefore = pointCount;
@@ -174,7 +174,7 @@ bool Evaluation::OperateOnce(const BooleanResult& form, std::size_t depth, Evalu
   const bool isDone = Operate(form, depth, body);
   isOperating = false;
   if (isDone && known == nullptr && !hasFault) {
-    operations->Keep(std::move(key), {body, pointCount - pointsBefore, visits - visitsBefore});
+    operations->Keep(key, {body, pointCount - pointsBefore, visits - visitsBefore});
   }
   return isDone;
 }

@@ -1,7 +1,5 @@
 #include "kelifc/building/solid/key_writer.h"
 
-#include <utility>
-
 namespace KelIFC::building {
 namespace {
 
@@ -142,17 +140,14 @@ void KeyWriter::Add(const Primitive& form) {
 void KeyWriter::Add(const SolidPointer& solid) {
   Add(solid != nullptr);
   if (solid == nullptr) return;
-  isUsable = isUsable && depth < kMostDepth && text.size() <= kMostBytes;
-  if (!isUsable) return;
+  isReadable = isReadable && depth < kMostDepth;
+  if (!IsUsable()) return;
   ++depth;
   Add(solid->form.index());
   std::visit([this](const auto& form) { Add(form); }, solid->form);
   --depth;
 }
 
-std::string KeyWriter::Take() {
-  if (!isUsable || text.size() > kMostBytes) return {};
-  return std::move(text);
-}
+bool KeyWriter::IsUsable() const { return isReadable && text.size() <= kMostBytes; }
 
 }  // namespace KelIFC::building

@@ -15,6 +15,9 @@ namespace KelIFC::building {
 /// elements, so that different lists never have the same text.
 class KeyWriter {
  public:
+  /// Writes the key to `key`, which must be empty and outlive the writer.
+  explicit KeyWriter(std::string& key) : text(key) {}
+
   void Add(double value) { AddBytes(&value, sizeof value); }
   void Add(std::size_t value) { AddBytes(&value, sizeof value); }
   void Add(bool value) { text.push_back(value ? '\1' : '\0'); }
@@ -46,11 +49,11 @@ class KeyWriter {
   /// A solid with all solids below it. There is no key for one that cannot be read.
   void Add(const SolidPointer& solid);
 
-  /// The key; empty if there is none, or if it would be too long to be kept.
-  std::string Take();
+  /// False if there is no key, or if it is too long to be kept.
+  bool IsUsable() const;
 
  private:
-  void Add(const Unreadable&) { isUsable = false; }
+  void Add(const Unreadable&) { isReadable = false; }
   void Add(const Contour& contour);
 
   template <class T>
@@ -68,9 +71,9 @@ class KeyWriter {
     text.append(static_cast<const char*>(first), count);
   }
 
-  std::string text;
+  std::string& text;
   std::size_t depth = 0;  // of the solid at hand
-  bool isUsable = true;
+  bool isReadable = true;
 };
 
 }  // namespace KelIFC::building

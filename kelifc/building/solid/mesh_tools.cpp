@@ -1,7 +1,10 @@
 #include "kelifc/building/solid/mesh_tools.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <numeric>
+#include <optional>
 #include <tuple>
 
 #include "kelifc/building/solid/body.h"
@@ -13,6 +16,9 @@ namespace KelIFC::building {
 namespace {
 
 constexpr Mesh::Index kNone = 0xFFFFFFFF;
+
+/// Most bodies have no more points. For them a table of all edges is small.
+constexpr std::size_t kFewPoints = 32;
 
 /// The new loop; empty if it has fewer than three points.
 void RenumberLoop(const Mesh::Loop& loop, const std::vector<Mesh::Index>& numbers,
@@ -166,7 +172,38 @@ std::vector<EdgeUse> SortedEdgesOf(const Mesh& mesh) {
   return edges;
 }
 
+namespace {
+
+/// The same as IsBalanced for a mesh of few points; none if an index is beyond them.
+std::optional<bool> IsBalancedByTable(const Mesh& mesh) {
+  const std::size_t size = mesh.points.size();
+  std::array<std::int32_t, kFewPoints * kFewPoints> table;  // by the two ends of an edge
+  std::fill_n(table.begin(), size * size, 0);
+  std::size_t open = 0;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      const Mesh::Loop loop = mesh.LoopOf(face, i);
+      for (std::size_t k = 0; k < loop.size(); ++k) {
+        const Mesh::Index from = loop[k];
+        const Mesh::Index to = loop[k + 1 < loop.size() ? k + 1 : 0];
+        if (from >= size || to >= size) return std::nullopt;
+        if (from == to) continue;
+        std::int32_t& balance = table[std::min(from, to) * size + std::max(from, to)];
+        if (balance == 0) ++open;
+        balance += from < to ? 1 : -1;
+        if (balance == 0) --open;
+      }
+    }
+  }
+  return open == 0;
+}
+
+}  // namespace
+
 bool IsBalanced(const Mesh& mesh) {
+  if (mesh.points.size() <= kFewPoints) {
+    if (const std::optional<bool> isBalanced = IsBalancedByTable(mesh)) return *isBalanced;
+  }
   const std::vector<EdgeUse> edges = SortedEdgesOf(mesh);
   for (std::size_t i = 0; i < edges.size();) {
     long balance = 0;
