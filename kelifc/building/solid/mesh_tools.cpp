@@ -49,6 +49,20 @@ void CopyFaces(const Mesh& mesh, const std::vector<Mesh::Index>& numbers, Mesh& 
   }
 }
 
+std::vector<EdgeUse> EdgesOf(const Mesh& mesh) {
+  std::vector<EdgeUse> edges;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      const Mesh::Loop loop = mesh.LoopOf(face, i);
+      for (std::size_t k = 0; k < loop.size(); ++k) {
+        const Mesh::Index to = loop[k + 1 < loop.size() ? k + 1 : 0];
+        if (loop[k] != to) edges.push_back({loop[k], to, static_cast<Mesh::Index>(face)});
+      }
+    }
+  }
+  return edges;
+}
+
 std::pair<Mesh::Index, Mesh::Index> EndsOf(const EdgeUse& edge) {
   return {std::min(edge.from, edge.to), std::max(edge.from, edge.to)};
 }
@@ -156,20 +170,28 @@ std::vector<Mesh> PartsOf(const Mesh& mesh) {
 }
 
 std::vector<EdgeUse> SortedEdgesOf(const Mesh& mesh) {
-  std::vector<EdgeUse> edges;
-  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
-    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
-      const Mesh::Loop loop = mesh.LoopOf(face, i);
-      for (std::size_t k = 0; k < loop.size(); ++k) {
-        const Mesh::Index to = loop[k + 1 < loop.size() ? k + 1 : 0];
-        if (loop[k] != to) edges.push_back({loop[k], to, static_cast<Mesh::Index>(face)});
-      }
-    }
-  }
-  std::sort(edges.begin(), edges.end(), [](const EdgeUse& a, const EdgeUse& b) {
+  const auto isBefore = [](const EdgeUse& a, const EdgeUse& b) {
     return std::tuple(EndsOf(a), a.face, a.from) < std::tuple(EndsOf(b), b.face, b.from);
-  });
-  return edges;
+  };
+  std::vector<EdgeUse> edges = EdgesOf(mesh);
+  const std::size_t count = mesh.points.size();
+  const bool isValid = std::all_of(edges.begin(), edges.end(),
+                                   [&](const EdgeUse& edge) { return EndsOf(edge).first < count; });
+  if (!isValid) {
+    std::sort(edges.begin(), edges.end(), isBefore);
+    return edges;
+  }
+  // By the lower end first, without comparisons: few edges share it.
+  std::vector<std::size_t> starts(count + 1, 0);
+  for (const EdgeUse& edge : edges) ++starts[EndsOf(edge).first];
+  std::partial_sum(starts.begin(), starts.end(), starts.begin());
+  std::vector<EdgeUse> sorted(edges.size());
+  for (const EdgeUse& edge : edges) sorted[--starts[EndsOf(edge).first]] = edge;
+  for (std::size_t end = 0; end < count; ++end) {
+    std::sort(sorted.begin() + static_cast<std::ptrdiff_t>(starts[end]),
+              sorted.begin() + static_cast<std::ptrdiff_t>(starts[end + 1]), isBefore);
+  }
+  return sorted;
 }
 
 namespace {
