@@ -41,7 +41,7 @@ class ItemReader {
   };
 
   const Node& Complete(const Instance& instance);
-  void Push(std::vector<Frame>& stack, const Instance& instance);
+  void Push(const Instance& instance);
   void Finish(const Frame& frame);
   std::vector<Instance> ChildrenOf(const Instance& instance) const;
   SolidPointer SolidOf(const Instance& user, const Instance& item) const;
@@ -62,6 +62,7 @@ class ItemReader {
 
   ReadContext& context;
   ProfileReader profiles;
+  std::vector<Frame> stack;  // of Complete; empty between its calls
   NumberMap<Node> nodes;
 };
 

@@ -104,7 +104,7 @@ bool Evaluation::AddMade(MadeMesh made, const Solid& solid, EvaluatedBody& body)
   pointCount += made.mesh.points.size();
   if (pointCount > limits.maxPoints) return Refuse(LossReason::kLimit, solid.id);
   body.isExact = body.isExact && made.isExact;
-  Append(body.mesh, made.mesh);
+  Append(body.mesh, std::move(made.mesh));
   ++body.solidCount;
   return true;
 }
@@ -127,7 +127,7 @@ bool Evaluation::AddBoolean(const Solid& solid, const BooleanResult& form, const
     return hasFault ? false : Refuse(LossReason::kUnsupportedItem, solid.id);
   }
   if (own.mesh.IsEmpty()) return Refuse(LossReason::kDegenerate, solid.id);
-  Mesh moved = Moved(own.mesh, map);
+  Mesh moved = Moved(std::move(own.mesh), map);
   for (const Point3& p : moved.points) {
     if (!building::IsUsable(p)) return Refuse(LossReason::kNotFinite, solid.id);
   }
@@ -135,7 +135,7 @@ bool Evaluation::AddBoolean(const Solid& solid, const BooleanResult& form, const
   if (pointCount > limits.maxPoints) return Refuse(LossReason::kLimit, solid.id);
   AddFlags(own, body);
   body.hasBoolean = true;
-  Append(body.mesh, moved);
+  Append(body.mesh, std::move(moved));
   ++body.solidCount;
   return true;
 }

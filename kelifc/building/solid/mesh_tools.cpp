@@ -6,6 +6,7 @@
 #include <numeric>
 #include <optional>
 #include <tuple>
+#include <utility>
 
 #include "kelifc/building/solid/body.h"
 #include "kelifc/building/solid/point_index.h"
@@ -105,9 +106,9 @@ Mesh Flip(const Mesh& mesh) {
   return result;
 }
 
-void Append(Mesh& mesh, const Mesh& other) {
+void Append(Mesh& mesh, Mesh other) {
   if (mesh.points.empty() && mesh.IsEmpty()) {
-    mesh = other;
+    mesh = std::move(other);
     return;
   }
   const auto first = static_cast<Mesh::Index>(mesh.points.size());
@@ -123,8 +124,8 @@ void Append(Mesh& mesh, const Mesh& other) {
   }
 }
 
-Mesh Moved(const Mesh& mesh, const Transform3& map) {
-  Mesh result = map.Determinant() < 0.0 ? Flip(mesh) : mesh;
+Mesh Moved(Mesh mesh, const Transform3& map) {
+  Mesh result = map.Determinant() < 0.0 ? Flip(mesh) : std::move(mesh);
   for (Point3& point : result.points) point = map(point);
   return result;
 }
