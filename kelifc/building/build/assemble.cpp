@@ -17,6 +17,7 @@
 #include "kelifc/building/build/storeys.h"
 #include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/profile/make_profile.h"
+#include "kelifc/building/solid/key_writer.h"
 
 namespace KelIFC::building {
 namespace {
@@ -51,6 +52,29 @@ bool IsDecomposed(const ProductFacts& product) {
   return product.hasProductParts && product.items.empty() && hasNoShape;
 }
 
+/// True if the points of two outlines are the same, within 0.01 mm.
+bool AreSame(const Outline& a, const Outline& b) {
+  constexpr double kSamePoint = 1e-5;
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](const Point2& p, const Point2& q) { return Distance(p, q) <= kSamePoint; });
+}
+
+bool HaveSamePoints(const BuildingProfile& a, const BuildingProfile& b) {
+  return AreSame(a.outline, b.outline) &&
+         std::equal(a.holes.begin(), a.holes.end(), b.holes.begin(), b.holes.end(), AreSame);
+}
+
+/// Adds the points of a profile to its key.
+void AddPoints(const BuildingProfile& profile, std::string& key) {
+  KeyWriter writer(key);
+  writer.Add(profile.outline.size());
+  for (const Point2& p : profile.outline) writer.Add(p);
+  for (const Outline& hole : profile.holes) {
+    writer.Add(hole.size());
+    for (const Point2& p : hole) writer.Add(p);
+  }
+}
+
 /// Turns the products of one model into a building.
 class Assembler {
  public:
@@ -72,7 +96,7 @@ class Assembler {
   void AddBody(BuildingElement& element, EvaluatedBody body) const;
   void AddMaterials(BuildingElement& element, const MaterialFacts& facts);
   BuildingIndex MaterialIndex(const LayerFacts& layer);
-  std::size_t ProfileIndex(BuildingProfile profile);
+  std::size_t ProfileIndex(BuildingProfile profile, bool isTapered);
   void LinkParts();
   std::size_t FindWhole(std::size_t id) const;
   void Count();
@@ -196,13 +220,23 @@ void Assembler::AddIdealisation(BuildingElement& element, Idealisation ideal) {
   element.member = std::move(ideal.member);
   element.surface = std::move(ideal.surface);
   if (!element.member) return;
-  element.member->profile = ProfileIndex(std::move(ideal.profile).value_or(BuildingProfile()));
+  const bool isTapered = ideal.endProfile.has_value();
+  element.member->profile =
+      ProfileIndex(std::move(ideal.profile).value_or(BuildingProfile()), isTapered);
   element.member->endProfile.reset();
-  if (ideal.endProfile) element.member->endProfile = ProfileIndex(std::move(*ideal.endProfile));
+  if (isTapered) {
+    element.member->endProfile = ProfileIndex(std::move(*ideal.endProfile), isTapered);
+  }
 }
 
-std::size_t Assembler::ProfileIndex(BuildingProfile profile) {
+// The points of the two profiles of a tapered member correspond to each other. A profile of the
+// same shape whose outline starts elsewhere cannot replace either of them.
+std::size_t Assembler::ProfileIndex(BuildingProfile profile, bool isTapered) {
   std::string key = ProfileKey(profile);
+  if (isTapered) {
+    const BuildingProfile* const known = profiles.Find(key);
+    if (known != nullptr && !HaveSamePoints(*known, profile)) AddPoints(profile, key);
+  }
   return profiles.Add(std::move(key), std::move(profile));
 }
 

@@ -15,7 +15,7 @@ namespace KelIFC::building {
 /// elements, so that different lists never have the same text.
 class KeyWriter {
  public:
-  /// Writes the key to `key`, which must be empty and outlive the writer.
+  /// Appends to `key`, which must outlive the writer.
   explicit KeyWriter(std::string& key) : text(key) {}
 
   void Add(double value) { AddBytes(&value, sizeof value); }
