@@ -6,7 +6,6 @@
 #include <memory>
 #include <stdexcept>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 
 #include "kelifc/building/build/body_maker.h"
@@ -14,8 +13,11 @@
 #include "kelifc/building/build/first_use.h"
 #include "kelifc/building/build/idealise.h"
 #include "kelifc/building/build/openings.h"
+#include "kelifc/building/build/reading_cache.h"
 #include "kelifc/building/build/storeys.h"
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/profile/make_profile.h"
+#include "kelifc/building/solid/key_writer.h"
 
 namespace KelIFC::building {
 namespace {
@@ -50,6 +52,29 @@ bool IsDecomposed(const ProductFacts& product) {
   return product.hasProductParts && product.items.empty() && hasNoShape;
 }
 
+/// True if the points of two outlines are the same, within 0.01 mm.
+bool AreSame(const Outline& a, const Outline& b) {
+  constexpr double kSamePoint = 1e-5;
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(),
+                    [](const Point2& p, const Point2& q) { return Distance(p, q) <= kSamePoint; });
+}
+
+bool HaveSamePoints(const BuildingProfile& a, const BuildingProfile& b) {
+  return AreSame(a.outline, b.outline) &&
+         std::equal(a.holes.begin(), a.holes.end(), b.holes.begin(), b.holes.end(), AreSame);
+}
+
+/// Adds the points of a profile to its key.
+void AddPoints(const BuildingProfile& profile, std::string& key) {
+  KeyWriter writer(key);
+  writer.Add(profile.outline.size());
+  for (const Point2& p : profile.outline) writer.Add(p);
+  for (const Outline& hole : profile.holes) {
+    writer.Add(hole.size());
+    for (const Point2& p : hole) writer.Add(p);
+  }
+}
+
 /// Turns the products of one model into a building.
 class Assembler {
  public:
@@ -71,7 +96,7 @@ class Assembler {
   void AddBody(BuildingElement& element, EvaluatedBody body) const;
   void AddMaterials(BuildingElement& element, const MaterialFacts& facts);
   BuildingIndex MaterialIndex(const LayerFacts& layer);
-  std::size_t ProfileIndex(BuildingProfile profile);
+  std::size_t ProfileIndex(BuildingProfile profile, bool isTapered);
   void LinkParts();
   std::size_t FindWhole(std::size_t id) const;
   void Count();
@@ -86,9 +111,11 @@ class Assembler {
   std::vector<ProductFacts> products;
   BodyMaker bodies;
   Building building;
+  MadeProfiles madeProfiles;
+  idealising::ReadingCache madeReadings;
   FirstUse<BuildingProfile> profiles;
   FirstUse<BuildingMaterial> materials;
-  std::unordered_map<std::size_t, Place> places;
+  NumberMap<Place> places;
 };
 
 Building Assembler::Run() {
@@ -139,7 +166,8 @@ std::optional<Unreadable> Assembler::AddElement(ProductFacts& product) try {
   if (result.fault) return result.fault;
   if (!IsFinite(result.body.mesh)) return Unreadable{LossReason::kNotFinite, product.id};
   if (result.body.mesh.IsEmpty()) return Unreadable{LossReason::kDegenerate, product.id};
-  Idealisation ideal = Idealise({&result.body, &product, RoleOf(product.className)});
+  Idealisation ideal =
+      Idealise({&result.body, &product, RoleOf(product.className), &madeProfiles, &madeReadings});
   if (!IsFinite(ideal)) return Unreadable{LossReason::kNotFinite, product.id};
 
   BuildingElement element = ElementOf(product);
@@ -192,13 +220,23 @@ void Assembler::AddIdealisation(BuildingElement& element, Idealisation ideal) {
   element.member = std::move(ideal.member);
   element.surface = std::move(ideal.surface);
   if (!element.member) return;
-  element.member->profile = ProfileIndex(std::move(ideal.profile).value_or(BuildingProfile()));
+  const bool isTapered = ideal.endProfile.has_value();
+  element.member->profile =
+      ProfileIndex(std::move(ideal.profile).value_or(BuildingProfile()), isTapered);
   element.member->endProfile.reset();
-  if (ideal.endProfile) element.member->endProfile = ProfileIndex(std::move(*ideal.endProfile));
+  if (isTapered) {
+    element.member->endProfile = ProfileIndex(std::move(*ideal.endProfile), isTapered);
+  }
 }
 
-std::size_t Assembler::ProfileIndex(BuildingProfile profile) {
+// The points of the two profiles of a tapered member correspond to each other. A profile of the
+// same shape whose outline starts elsewhere cannot replace either of them.
+std::size_t Assembler::ProfileIndex(BuildingProfile profile, bool isTapered) {
   std::string key = ProfileKey(profile);
+  if (isTapered) {
+    const BuildingProfile* const known = profiles.Find(key);
+    if (known != nullptr && !HaveSamePoints(*known, profile)) AddPoints(profile, key);
+  }
   return profiles.Add(std::move(key), std::move(profile));
 }
 

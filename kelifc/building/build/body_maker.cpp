@@ -82,7 +82,7 @@ BodyResult BodyMaker::Evaluate(const std::vector<SolidPointer>& items,
   BodyLimits limits;
   limits.maxPoints = std::min(pointsLeft, maxBodyPoints);
   limits.maxDepth = depth;
-  BodyResult result = EvaluateBody(items, placement, limits);
+  BodyResult result = EvaluateBody(items, placement, limits, &operations);
   // A body that is beyond the limit took as much work as one that is as large as the limit.
   const bool isBeyond = result.fault && result.fault->reason == LossReason::kLimit;
   if (isBeyond && limits.maxPoints == maxBodyPoints) tooLarge.emplace(first, items);

@@ -9,6 +9,7 @@
 #include "kelifc/building/facts/transform3.h"
 #include "kelifc/building/read_building.h"
 #include "kelifc/building/solid/body.h"
+#include "kelifc/building/solid/operation_cache.h"
 
 namespace KelIFC::building {
 
@@ -45,6 +46,7 @@ class BodyMaker {
   std::unordered_map<const Solid*, Shared> shared;
   // What is beyond the limit of one body, by the first item. It is not evaluated again.
   std::unordered_map<const Solid*, std::vector<SolidPointer>> tooLarge;
+  OperationCache operations;
   std::size_t pointsLeft;
   std::size_t maxBodyPoints;
   std::size_t depth;

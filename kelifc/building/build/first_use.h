@@ -20,6 +20,12 @@ class FirstUse {
     return entry->second;
   }
 
+  /// Returns the thing with a key; null if there is none. It is valid until the next Add.
+  const Thing* Find(const std::string& key) const {
+    const auto entry = indices.find(key);
+    return entry == indices.end() ? nullptr : &things[entry->second];
+  }
+
   const std::vector<Thing>& Get() const { return things; }
   std::vector<Thing> Take() { return std::move(things); }
 

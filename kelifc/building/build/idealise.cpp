@@ -9,6 +9,8 @@
 #include "kelifc/building/build/idealise_reading.h"
 #include "kelifc/building/build/idealise_slices.h"
 #include "kelifc/building/build/idealise_surface.h"
+#include "kelifc/building/build/reading_cache.h"
+#include "kelifc/building/build/reading_key.h"
 
 namespace KelIFC::building {
 namespace {
@@ -45,11 +47,11 @@ void MoveSurface(SurfaceRegion& surface, const Vector3& by) {
   if (surface.sweep) Move(surface.sweep->points, by);
 }
 
-void Take(Reading reading, const Subject& subject, const SingleSolid& single,
-          Idealisation& result) {
+void Take(Reading reading, const BuildingBox& box, const Subject& subject,
+          const SingleSolid& single, Idealisation& result) {
   const Vector3& centre = subject.boundary.Centre();
   result.kind = reading.kind;
-  result.box = BoxOf(reading.solid);
+  result.box = box;
   result.box.min += centre;
   result.box.max += centre;
   result.volume = reading.fit.volume;
@@ -69,6 +71,31 @@ void Take(Reading reading, const Subject& subject, const SingleSolid& single,
   result.surface = std::move(reading.surface);
 }
 
+FoundReading Search(Subject& subject, const EvaluatedBody& body, const SingleSolid& single) {
+  FoundReading found;
+  found.best = ReadDirect(subject, single);
+  if (!IsGood(found.best) && body.mesh.FaceCount() <= kMostFaces) {
+    found.isSeveral = HasSeveralParts(subject.boundary);
+    KeepBetter(found.best, ReadBySlices(subject, DirectionsOf(single), found.isSeveral));
+  }
+  if (!found.best) return found;
+  found.box = BoxOf(found.best->solid);
+  found.best->solid = Mesh();
+  return found;
+}
+
+// The same, from the cache if the subject is equal to an earlier one.
+FoundReading SearchOnce(Subject& subject, const EvaluatedBody& body, const SingleSolid& single,
+                        ReadingCache* readings) {
+  if (readings == nullptr) return Search(subject, body, single);
+  std::string& key = readings->Buffer();
+  if (!MakeReadingKey(subject, body, single, key)) return Search(subject, body, single);
+  if (const FoundReading* known = readings->Find(key)) return *known;
+  FoundReading found = Search(subject, body, single);
+  readings->Keep(key, found);
+  return found;
+}
+
 }  // namespace
 
 Idealisation Idealise(const IdealisationInput& input) {
@@ -82,17 +109,12 @@ Idealisation Idealise(const IdealisationInput& input) {
   if (!boundary.IsUsable()) return result;
   result.isApproximate = !body.isExact;
   Subject subject{boundary, input.product, input.role, input.profiles};
-  std::optional<Reading> best = ReadDirect(subject, single);
-  bool isSeveral = false;
-  if (!IsGood(best) && body.mesh.FaceCount() <= kMostFaces) {
-    isSeveral = HasSeveralParts(boundary);
-    KeepBetter(best, ReadBySlices(subject, DirectionsOf(single), isSeveral));
-  }
-  if (best && IsAcceptable(*best)) {
-    Take(std::move(*best), subject, single, result);
+  FoundReading found = SearchOnce(subject, body, single, input.readings);
+  if (found.best && IsAcceptable(*found.best)) {
+    Take(std::move(*found.best), found.box, subject, single, result);
     return result;
   }
-  const BodySource source = isSeveral ? BodySource::kMulti : result.source;
+  const BodySource source = found.isSeveral ? BodySource::kMulti : result.source;
   result = AsBody(body);
   result.source = source;
   return result;

@@ -12,6 +12,10 @@
 
 namespace KelIFC::building {
 
+namespace idealising {
+class ReadingCache;
+}
+
 /// What the element is used as. It decides only where the proportions do not.
 enum class ElementRole { kMember, kWall, kSlab, kPlate, kFooting, kOther };
 
@@ -20,7 +24,10 @@ struct IdealisationInput {
   const EvaluatedBody* body = nullptr;    ///< in world coordinates
   const ProductFacts* product = nullptr;  ///< its items, placement, axis and layers; may be null
   ElementRole role = ElementRole::kOther;
-  MadeProfiles* profiles = nullptr;  ///< shared by the elements of a model; may be null
+
+  /// Shared by the elements of a model, so that equal work is done once; may be null.
+  MadeProfiles* profiles = nullptr;
+  idealising::ReadingCache* readings = nullptr;
 };
 
 /// An idealised element. The profiles are not yet shared with other elements: member->profile and

@@ -27,4 +27,5 @@ target_sources(kelifc_building PRIVATE
   build/idealise_taper.cpp
   build/made_profiles.cpp
   build/point_match.cpp
+  build/reading_key.cpp
 )

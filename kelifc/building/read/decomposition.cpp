@@ -12,7 +12,7 @@ Decomposition::Decomposition(const Model& owner, const Relations& related)
     std::size_t at = product.Number();
     while (CycleOf(at) == 0) {
       at = relations.WholeOf(at).number;
-      if (at == 0 || !withParts.insert(at).second) break;
+      if (at == 0 || !withParts.try_emplace(at, true).second) break;
     }
   }
 }

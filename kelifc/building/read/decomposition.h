@@ -2,10 +2,9 @@
 #define KELIFC_BUILDING_READ_DECOMPOSITION_H_
 
 #include <cstddef>
-#include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/read/relations.h"
 
 namespace KelIFC::building {
@@ -51,9 +50,9 @@ class Decomposition {
   const Model& model;
   const Relations& relations;
   std::vector<Instance> products;
-  std::unordered_map<std::size_t, Node> nodes;
-  std::unordered_set<std::size_t> withParts;
-  std::unordered_map<std::size_t, std::size_t> storeys;
+  NumberMap<Node> nodes;
+  NumberMap<bool> withParts;
+  NumberMap<std::size_t> storeys;
 };
 
 }  // namespace KelIFC::building

@@ -1,5 +1,7 @@
 #include "kelifc/building/read/instance.h"
 
+#include <cstdint>
+
 #include "kelifc/core/other.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/utf8.h"
@@ -96,8 +98,17 @@ Instance Model::Find(std::size_t number) const {
 
 const InstanceClass& Model::ClassOf(const IfcUnknown& instance) const {
   const char* const name = instance.GetStepName();
+  // Names are a few bytes long, so neighbours differ in the upper bits of the place.
+  const auto address = reinterpret_cast<std::uintptr_t>(name);
+  auto& [recentName, recentClass] =
+      recent[(address ^ address >> 4 ^ address >> 10) % recent.size()];
+  if (recentName == name && recentClass != nullptr) return *recentClass;
   const auto found = classes.find(name);
-  if (found != classes.end()) return found->second;
+  if (found != classes.end()) {
+    recentName = name;
+    recentClass = &found->second;
+    return found->second;
+  }
   if (const auto* other = dynamic_cast<const IfcOther*>(&instance)) {
     return rawClasses[static_cast<std::size_t>(FindEntityByName(other->GetStepEntityName()))];
   }

@@ -129,6 +129,8 @@ class Model {
 
   // By the address of the name of a class, which is constant. Classes of raw text are by entity.
   mutable std::unordered_map<const char*, InstanceClass> classes;
+  // Those of `classes` that were found last, at a place that depends on the address.
+  mutable std::array<std::pair<const char*, const InstanceClass*>, 256> recent = {};
   mutable std::array<InstanceClass, kEntityCount> rawClasses;
 };
 

@@ -50,13 +50,12 @@ const ItemReader::Node& ItemReader::Complete(const Instance& instance) {
   const std::size_t number = instance.Number();
   const auto known = nodes.find(number);
   if (known != nodes.end()) return known->second;
-  std::vector<Frame> stack;
-  Push(stack, instance);
+  Push(instance);
   while (!stack.empty()) {
     Frame& top = stack.back();
     if (top.next < top.children.size()) {
       const Instance child = top.children[top.next++];
-      if (nodes.find(child.Number()) == nodes.end()) Push(stack, child);
+      if (nodes.find(child.Number()) == nodes.end()) Push(child);
       continue;
     }
     Finish(top);
@@ -65,7 +64,7 @@ const ItemReader::Node& ItemReader::Complete(const Instance& instance) {
   return nodes[number];
 }
 
-void ItemReader::Push(std::vector<Frame>& stack, const Instance& instance) {
+void ItemReader::Push(const Instance& instance) {
   nodes.try_emplace(instance.Number());
   stack.push_back({instance, ChildrenOf(instance), 0});
 }

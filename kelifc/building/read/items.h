@@ -2,9 +2,9 @@
 #define KELIFC_BUILDING_READ_ITEMS_H_
 
 #include <cstddef>
-#include <unordered_map>
 #include <vector>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/facts/solid_facts.h"
 #include "kelifc/building/read/profiles.h"
 #include "kelifc/building/read/read_context.h"
@@ -41,7 +41,7 @@ class ItemReader {
   };
 
   const Node& Complete(const Instance& instance);
-  void Push(std::vector<Frame>& stack, const Instance& instance);
+  void Push(const Instance& instance);
   void Finish(const Frame& frame);
   std::vector<Instance> ChildrenOf(const Instance& instance) const;
   SolidPointer SolidOf(const Instance& user, const Instance& item) const;
@@ -62,7 +62,8 @@ class ItemReader {
 
   ReadContext& context;
   ProfileReader profiles;
-  std::unordered_map<std::size_t, Node> nodes;  // by number
+  std::vector<Frame> stack;  // of Complete; empty between its calls
+  NumberMap<Node> nodes;
 };
 
 }  // namespace KelIFC::building

@@ -3,9 +3,9 @@
 
 #include <cstddef>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/facts/transform3.h"
 #include "kelifc/building/read/read_context.h"
 
@@ -65,7 +65,7 @@ class PlacementReader {
   Entry Complete(const Instance& placement, const Entry* parent);
 
   ReadContext& context;
-  std::unordered_map<std::size_t, Entry> entries;  // by number
+  NumberMap<Entry> entries;
 };
 
 }  // namespace KelIFC::building

@@ -71,7 +71,7 @@ std::vector<SolidPointer> ProductReader::ReadBody(const Instance& product, Unrea
   if (!representation) return {};
   why = {LossReason::kNoItems, representation.Number()};
   const std::vector<SolidPointer>& solids = items.ReadItems(representation);
-  const bool isFirst = used.insert(representation.Number()).second;
+  const bool isFirst = used.try_emplace(representation.Number(), true).second;
   if (!isFirst && solids.size() > kMostCopiedItems) return {items.ReadShared(representation)};
   return solids;
 }
@@ -85,7 +85,7 @@ void ProductReader::ReadAxis(const Instance& product, ProductFacts& facts) {
   if (path && path->points.size() <= kMostAxisPoints) {
     facts.axis = ToSpaceCurve(std::move(*path));
   } else {
-    withoutAxis.insert(curve.Number());
+    withoutAxis.try_emplace(curve.Number(), true);
   }
 }
 

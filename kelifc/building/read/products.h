@@ -2,10 +2,9 @@
 #define KELIFC_BUILDING_READ_PRODUCTS_H_
 
 #include <cstddef>
-#include <unordered_map>
-#include <unordered_set>
 #include <vector>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/facts/product_facts.h"
 #include "kelifc/building/read/decomposition.h"
 #include "kelifc/building/read/items.h"
@@ -41,9 +40,9 @@ class ProductReader {
   PlacementReader& placements;
   ItemReader items;
   RepresentationChooser chooser;
-  std::unordered_map<std::size_t, MaterialFacts> materials;  // by number of the definition
-  std::unordered_set<std::size_t> used;                      // representations, by number
-  std::unordered_set<std::size_t> withoutAxis;               // curves that are no axis, by number
+  NumberMap<MaterialFacts> materials;  // by definition
+  NumberMap<bool> used;                // representations
+  NumberMap<bool> withoutAxis;         // curves that are no axis
 };
 
 }  // namespace KelIFC::building

@@ -2,8 +2,8 @@
 #define KELIFC_BUILDING_READ_PROFILES_H_
 
 #include <cstddef>
-#include <unordered_map>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/facts/profile_facts.h"
 #include "kelifc/building/read/read_context.h"
 
@@ -38,7 +38,7 @@ class ProfileReader {
   bool ReadPosition(const Instance& profile, ProfileFacts& facts, Unreadable& why);
 
   ReadContext& context;
-  std::unordered_map<std::size_t, Entry> entries;  // by number
+  NumberMap<Entry> entries;
 };
 
 }  // namespace KelIFC::building

@@ -1,5 +1,6 @@
 #include "kelifc/building/read/relations.h"
 
+#include "kelifc/core/detail/prefetch.h"
 #include "kelifc/core/mvector.h"
 
 namespace KelIFC::building {
@@ -17,8 +18,11 @@ void VisitNumbers(const Value& value, Visit visit) {
 }  // namespace
 
 Relations::Relations(const Model& owner) {
-  for (const IfcUnknown* item : owner.Server().GetItems()) {
-    if (item != nullptr) Take(Instance(owner, item));
+  constexpr std::size_t kAhead = 12;  // instances are all over the memory
+  const auto& items = owner.Server().GetItems();
+  for (std::size_t i = 0; i < items.size(); ++i) {
+    if (i + kAhead < items.size()) detail::Prefetch(items[i + kAhead]);
+    if (items[i] != nullptr) Take(Instance(owner, items[i]));
   }
 }
 
@@ -36,7 +40,8 @@ void Relations::Take(const Instance& instance) {
     if (!project) project = instance;
     return;
   }
-  if (isListed.emplace(number, true).second) (isStorey ? storeys : elements).push_back(instance);
+  if (isListed.try_emplace(number, true).second)
+    (isStorey ? storeys : elements).push_back(instance);
 }
 
 void Relations::TakeRelationship(const Instance& instance) {

@@ -2,9 +2,9 @@
 #define KELIFC_BUILDING_READ_RELATIONS_H_
 
 #include <cstddef>
-#include <unordered_map>
 #include <vector>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/read/instance.h"
 
 namespace KelIFC::building {
@@ -43,10 +43,7 @@ class Relations {
 
  private:
   template <class T>
-  using Map = std::unordered_map<std::size_t, T>;
-
-  template <class T>
-  static T Look(const Map<T>& map, std::size_t number) {
+  static T Look(const NumberMap<T>& map, std::size_t number) {
     const auto found = map.find(number);
     return found == map.end() ? T() : found->second;
   }
@@ -57,13 +54,13 @@ class Relations {
   Instance project;
   std::vector<Instance> elements;
   std::vector<Instance> storeys;
-  Map<bool> isListed;  // of elements and storeys
-  Map<Whole> wholes;
-  Map<std::size_t> containers;
-  Map<std::size_t> materials;
-  Map<std::size_t> types;
-  Map<std::size_t> fills;
-  Map<std::vector<std::size_t>> openings;
+  NumberMap<bool> isListed;  // of elements and storeys
+  NumberMap<Whole> wholes;
+  NumberMap<std::size_t> containers;
+  NumberMap<std::size_t> materials;
+  NumberMap<std::size_t> types;
+  NumberMap<std::size_t> fills;
+  NumberMap<std::vector<std::size_t>> openings;
 };
 
 }  // namespace KelIFC::building

@@ -4,8 +4,8 @@
 #include <cstddef>
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/read/read_context.h"
 
 namespace KelIFC::building {
@@ -33,8 +33,8 @@ class RepresentationChooser {
   Content ContentOf(const Instance& representation, int depth);
   Choice ChooseFrom(const Instance& shape);
 
-  std::unordered_map<std::size_t, Content> contents;  // of representations, by number
-  std::unordered_map<std::size_t, Choice> choices;    // of shapes, by number
+  NumberMap<Content> contents;  // of representations
+  NumberMap<Choice> choices;    // of shapes
 };
 
 }  // namespace KelIFC::building

@@ -8,9 +8,9 @@
 namespace KelIFC::building {
 
 BodyResult EvaluateBody(const std::vector<SolidPointer>& items, const Transform3& placement,
-                        const BodyLimits& limits) {
+                        const BodyLimits& limits, OperationCache* operations) {
   BodyResult result;
-  Evaluation evaluation(limits);
+  Evaluation evaluation(limits, operations);
   EvaluatedBody& body = result.body;
   if (!evaluation.Add(items, placement, 0, body)) {
     result.body = EvaluatedBody();

@@ -38,8 +38,11 @@ struct BodyResult {
   std::optional<Unreadable> fault;
 };
 
+class OperationCache;
+
+/// `operations` keeps the results of boolean operations for other bodies; it may be null.
 BodyResult EvaluateBody(const std::vector<SolidPointer>& items, const Transform3& placement,
-                        const BodyLimits& limits = {});
+                        const BodyLimits& limits = {}, OperationCache* operations = nullptr);
 
 /// The box of all points that faces use.
 BuildingBox BoxOf(const Mesh& mesh);

@@ -6,6 +6,7 @@
 
 #include "kelifc/building/solid/boolean.h"
 #include "kelifc/building/solid/half_space.h"
+#include "kelifc/building/solid/key_writer.h"
 #include "kelifc/building/solid/mesh_tools.h"
 #include "kelifc/building/solid/vector_math.h"
 
@@ -103,7 +104,7 @@ bool Evaluation::AddMade(MadeMesh made, const Solid& solid, EvaluatedBody& body)
   pointCount += made.mesh.points.size();
   if (pointCount > limits.maxPoints) return Refuse(LossReason::kLimit, solid.id);
   body.isExact = body.isExact && made.isExact;
-  Append(body.mesh, made.mesh);
+  Append(body.mesh, std::move(made.mesh));
   ++body.solidCount;
   return true;
 }
@@ -122,11 +123,11 @@ bool Evaluation::AddBoolean(const Solid& solid, const BooleanResult& form, const
                             std::size_t depth, EvaluatedBody& body) {
   // Cutters and faces are parallel to the axes of the item more often than to those of the world.
   EvaluatedBody own;
-  if (!Operate(form, depth, own)) {
+  if (!OperateOnce(form, depth, own)) {
     return hasFault ? false : Refuse(LossReason::kUnsupportedItem, solid.id);
   }
   if (own.mesh.IsEmpty()) return Refuse(LossReason::kDegenerate, solid.id);
-  Mesh moved = Moved(own.mesh, map);
+  Mesh moved = Moved(std::move(own.mesh), map);
   for (const Point3& p : moved.points) {
     if (!building::IsUsable(p)) return Refuse(LossReason::kNotFinite, solid.id);
   }
@@ -134,7 +135,7 @@ bool Evaluation::AddBoolean(const Solid& solid, const BooleanResult& form, const
   if (pointCount > limits.maxPoints) return Refuse(LossReason::kLimit, solid.id);
   AddFlags(own, body);
   body.hasBoolean = true;
-  Append(body.mesh, moved);
+  Append(body.mesh, std::move(moved));
   ++body.solidCount;
   return true;
 }
@@ -153,6 +154,38 @@ bool Evaluation::CutByHalfSpace(const HalfSpace& cutter, bool keepsInside, Evalu
   } else {
     body.isExact = false;
   }
+  return true;
+}
+
+// An operation within another one is a part of its result and not kept on its own. What had a fault
+// or may come near a limit is computed, so that faults and limits are the same with the cache.
+bool Evaluation::OperateOnce(const BooleanResult& form, std::size_t depth, EvaluatedBody& body) {
+  if (operations == nullptr || isOperating || hasFault) return Operate(form, depth, body);
+  std::string& key = operations->Buffer();
+  KeyWriter writer(key);
+  writer.Add(depth);
+  writer.Add(form);
+  if (!writer.IsUsable()) return Operate(form, depth, body);
+  const DoneOperation* const known = operations->Find(key);
+  if (known != nullptr && Reuse(*known, body)) return true;
+  const std::size_t pointsBefore = pointCount;
+  const std::size_t visitsBefore = visits;
+  isOperating = true;
+  const bool isDone = Operate(form, depth, body);
+  isOperating = false;
+  if (isDone && known == nullptr && !hasFault) {
+    operations->Keep(key, {body, pointCount - pointsBefore, visits - visitsBefore});
+  }
+  return isDone;
+}
+
+bool Evaluation::Reuse(const DoneOperation& done, EvaluatedBody& body) {
+  constexpr std::size_t kRoom = 8;  // solids are refused before they are made, by an upper bound
+  const std::size_t most = limits.maxPoints / kRoom;
+  if (pointCount + done.points > most || visits + done.visits > most) return false;
+  pointCount += done.points;
+  visits += done.visits;
+  body = done.body;
   return true;
 }
 

@@ -6,6 +6,7 @@
 
 #include "kelifc/building/solid/body.h"
 #include "kelifc/building/solid/made_mesh.h"
+#include "kelifc/building/solid/operation_cache.h"
 
 namespace KelIFC::building {
 
@@ -13,7 +14,9 @@ namespace KelIFC::building {
 /// it visits, so that maps of maps end at the limit.
 class Evaluation {
  public:
-  explicit Evaluation(const BodyLimits& someLimits) : limits(someLimits) {}
+  /// `done` keeps the results of boolean operations; it may be null.
+  Evaluation(const BodyLimits& someLimits, OperationCache* done)
+      : limits(someLimits), operations(done) {}
 
   /// Adds items to a body. Items that cannot be made are left out; the body is not exact then.
   /// Returns false if none can be made, or a limit is reached.
@@ -30,6 +33,8 @@ class Evaluation {
                  EvaluatedBody& body);
   bool AddBoolean(const Solid& solid, const BooleanResult& form, const Transform3& map,
                   std::size_t depth, EvaluatedBody& body);
+  bool OperateOnce(const BooleanResult& form, std::size_t depth, EvaluatedBody& body);
+  bool Reuse(const DoneOperation& done, EvaluatedBody& body);
   bool Operate(const BooleanResult& form, std::size_t depth, EvaluatedBody& body);
   bool CombineWith(const SolidPointer& second, BooleanOperation operation, std::size_t depth,
                    EvaluatedBody& body);
@@ -38,6 +43,8 @@ class Evaluation {
   std::size_t PointsLeft() const;
 
   BodyLimits limits;
+  OperationCache* operations = nullptr;
+  bool isOperating = false;  // within an operation whose result will be kept
   std::size_t pointCount = 0;
   std::size_t visits = 0;
   bool isOverLimit = false;

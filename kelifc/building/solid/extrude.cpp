@@ -146,14 +146,15 @@ MadeMesh MakeExtrusion(const Extrusion& solid, const Transform3& map, std::size_
   if (start.fault) return MadeMesh(*start.fault, solid.profile ? solid.profile->id : 0);
   if (!std::isfinite(solid.depth)) return MadeMesh(LossReason::kNotFinite);
   if (std::abs(solid.depth) <= kWeldDistance) return MadeMesh(LossReason::kDegenerate);
-  FlatProfile end = start;
+  FlatProfile other;
   if (solid.endProfile != nullptr) {
-    end = FlatProfileOf(solid.endProfile);
-    if (end.fault) return MadeMesh(*end.fault, solid.endProfile->id);
-    if (!Match(start, end)) {
+    other = FlatProfileOf(solid.endProfile);
+    if (other.fault) return MadeMesh(*other.fault, solid.endProfile->id);
+    if (!Match(start, other)) {
       return MadeMesh(LossReason::kUnsupportedProfile, solid.endProfile->id);
     }
   }
+  const FlatProfile& end = solid.endProfile != nullptr ? other : start;
   if (2 * start.PointCount() > maxPoints) return MadeMesh(LossReason::kLimit);
   const Transform3 placed = Combine(map, solid.position);
   const Vector3 shift = placed(solid.direction * solid.depth);

@@ -1,8 +1,12 @@
 #include "kelifc/building/solid/mesh_tools.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <numeric>
+#include <optional>
 #include <tuple>
+#include <utility>
 
 #include "kelifc/building/solid/body.h"
 #include "kelifc/building/solid/point_index.h"
@@ -13,6 +17,9 @@ namespace KelIFC::building {
 namespace {
 
 constexpr Mesh::Index kNone = 0xFFFFFFFF;
+
+/// Most bodies have no more points. For them a table of all edges is small.
+constexpr std::size_t kFewPoints = 32;
 
 /// The new loop; empty if it has fewer than three points.
 void RenumberLoop(const Mesh::Loop& loop, const std::vector<Mesh::Index>& numbers,
@@ -41,6 +48,20 @@ void CopyFaces(const Mesh& mesh, const std::vector<Mesh::Index>& numbers, Mesh& 
       result.AddLoop(loop);
     }
   }
+}
+
+std::vector<EdgeUse> EdgesOf(const Mesh& mesh) {
+  std::vector<EdgeUse> edges;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
+      const Mesh::Loop loop = mesh.LoopOf(face, i);
+      for (std::size_t k = 0; k < loop.size(); ++k) {
+        const Mesh::Index to = loop[k + 1 < loop.size() ? k + 1 : 0];
+        if (loop[k] != to) edges.push_back({loop[k], to, static_cast<Mesh::Index>(face)});
+      }
+    }
+  }
+  return edges;
 }
 
 std::pair<Mesh::Index, Mesh::Index> EndsOf(const EdgeUse& edge) {
@@ -85,9 +106,9 @@ Mesh Flip(const Mesh& mesh) {
   return result;
 }
 
-void Append(Mesh& mesh, const Mesh& other) {
+void Append(Mesh& mesh, Mesh other) {
   if (mesh.points.empty() && mesh.IsEmpty()) {
-    mesh = other;
+    mesh = std::move(other);
     return;
   }
   const auto first = static_cast<Mesh::Index>(mesh.points.size());
@@ -103,8 +124,8 @@ void Append(Mesh& mesh, const Mesh& other) {
   }
 }
 
-Mesh Moved(const Mesh& mesh, const Transform3& map) {
-  Mesh result = map.Determinant() < 0.0 ? Flip(mesh) : mesh;
+Mesh Moved(Mesh mesh, const Transform3& map) {
+  Mesh result = map.Determinant() < 0.0 ? Flip(mesh) : std::move(mesh);
   for (Point3& point : result.points) point = map(point);
   return result;
 }
@@ -150,23 +171,62 @@ std::vector<Mesh> PartsOf(const Mesh& mesh) {
 }
 
 std::vector<EdgeUse> SortedEdgesOf(const Mesh& mesh) {
-  std::vector<EdgeUse> edges;
+  const auto isBefore = [](const EdgeUse& a, const EdgeUse& b) {
+    return std::tuple(EndsOf(a), a.face, a.from) < std::tuple(EndsOf(b), b.face, b.from);
+  };
+  std::vector<EdgeUse> edges = EdgesOf(mesh);
+  const std::size_t count = mesh.points.size();
+  const bool isValid = std::all_of(edges.begin(), edges.end(),
+                                   [&](const EdgeUse& edge) { return EndsOf(edge).first < count; });
+  if (!isValid) {
+    std::sort(edges.begin(), edges.end(), isBefore);
+    return edges;
+  }
+  // By the lower end first, without comparisons: few edges share it.
+  std::vector<std::size_t> starts(count + 1, 0);
+  for (const EdgeUse& edge : edges) ++starts[EndsOf(edge).first];
+  std::partial_sum(starts.begin(), starts.end(), starts.begin());
+  std::vector<EdgeUse> sorted(edges.size());
+  for (const EdgeUse& edge : edges) sorted[--starts[EndsOf(edge).first]] = edge;
+  for (std::size_t end = 0; end < count; ++end) {
+    std::sort(sorted.begin() + static_cast<std::ptrdiff_t>(starts[end]),
+              sorted.begin() + static_cast<std::ptrdiff_t>(starts[end + 1]), isBefore);
+  }
+  return sorted;
+}
+
+namespace {
+
+/// The same as IsBalanced for a mesh of few points; none if an index is beyond them.
+std::optional<bool> IsBalancedByTable(const Mesh& mesh) {
+  const std::size_t size = mesh.points.size();
+  std::array<std::int32_t, kFewPoints * kFewPoints> table;  // by the two ends of an edge
+  std::fill_n(table.begin(), size * size, 0);
+  std::size_t open = 0;
   for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
     for (std::size_t i = 0; i < mesh.LoopCount(face); ++i) {
       const Mesh::Loop loop = mesh.LoopOf(face, i);
       for (std::size_t k = 0; k < loop.size(); ++k) {
+        const Mesh::Index from = loop[k];
         const Mesh::Index to = loop[k + 1 < loop.size() ? k + 1 : 0];
-        if (loop[k] != to) edges.push_back({loop[k], to, static_cast<Mesh::Index>(face)});
+        if (from >= size || to >= size) return std::nullopt;
+        if (from == to) continue;
+        std::int32_t& balance = table[std::min(from, to) * size + std::max(from, to)];
+        if (balance == 0) ++open;
+        balance += from < to ? 1 : -1;
+        if (balance == 0) --open;
       }
     }
   }
-  std::sort(edges.begin(), edges.end(), [](const EdgeUse& a, const EdgeUse& b) {
-    return std::tuple(EndsOf(a), a.face, a.from) < std::tuple(EndsOf(b), b.face, b.from);
-  });
-  return edges;
+  return open == 0;
 }
 
+}  // namespace
+
 bool IsBalanced(const Mesh& mesh) {
+  if (mesh.points.size() <= kFewPoints) {
+    if (const std::optional<bool> isBalanced = IsBalancedByTable(mesh)) return *isBalanced;
+  }
   const std::vector<EdgeUse> edges = SortedEdgesOf(mesh);
   for (std::size_t i = 0; i < edges.size();) {
     long balance = 0;

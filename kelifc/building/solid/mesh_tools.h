@@ -20,10 +20,10 @@ Mesh Weld(const Mesh& mesh, double distance);
 Mesh Flip(const Mesh& mesh);
 
 /// Adds the points and faces of a mesh to another one. Nothing is computed.
-void Append(Mesh& mesh, const Mesh& other);
+void Append(Mesh& mesh, Mesh other);
 
 /// Applies a map to all points. A map that mirrors reverses the loops.
-Mesh Moved(const Mesh& mesh, const Transform3& map);
+Mesh Moved(Mesh mesh, const Transform3& map);
 
 /// A mesh in which edges that lack a neighbour have the points of other such edges that lie on them
 /// within a distance. It closes boundaries whose faces meet along an edge that only one of them

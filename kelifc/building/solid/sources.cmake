@@ -8,6 +8,7 @@ target_sources(kelifc_building PRIVATE
   solid/evaluate.cpp
   solid/extrude.cpp
   solid/half_space.cpp
+  solid/key_writer.cpp
   solid/loops.cpp
   solid/made_mesh.cpp
   solid/mesh_tools.cpp

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <limits>
+#include <memory>
+#include <numbers>
 
 #include "tests/building/build/made_facts.h"
 
@@ -44,6 +47,45 @@ TEST(Assemble, AColumnIsAMemberWithItsIdentity) {
   EXPECT_NEAR(element.body.volume, 0.36, 1e-9);
   EXPECT_TRUE(element.body.isClosed);
   EXPECT_NEAR(element.body.box.min.x, 4.85, 1e-9);
+}
+
+/// A circle of chords whose first point is at an angle.
+ProfilePointer ChordCircle(double radius, double angle) {
+  constexpr int kChords = 36;
+  auto profile = std::make_shared<ProfileFacts>();
+  Region region;
+  for (int i = 0; i < kChords; ++i) {
+    const double at = angle + 2.0 * std::numbers::pi * i / kChords;
+    region.outer.points.emplace_back(radius * std::cos(at), radius * std::sin(at));
+  }
+  profile->regions = {region};
+  return profile;
+}
+
+TEST(Assemble, TheProfilesOfATaperedMemberKeepPointsThatCorrespond) {
+  Extrusion straight;
+  straight.profile = ChordCircle(0.2, 0.0);
+  straight.depth = 4.0;
+  Extrusion tapered;
+  tapered.profile = ChordCircle(0.2, 1.0);
+  tapered.endProfile = ChordCircle(0.1, 1.0);
+  tapered.depth = 4.0;
+  const Building building = Assembled({Product(1, "IfcColumn", {Share({5, straight})}),
+                                       Product(2, "IfcColumn", {Share({6, tapered})}),
+                                       Product(3, "IfcColumn", {Share({7, tapered})})});
+  ASSERT_EQ(building.totals.members, 3u);
+  const MemberAxis& member = *building.elements[1].member;
+  ASSERT_TRUE(member.endProfile);
+  const BuildingProfile& start = building.profiles[member.profile];
+  const BuildingProfile& end = building.profiles[*member.endProfile];
+  EXPECT_EQ(start.shape, ProfileShape::kCircle);
+  ASSERT_EQ(start.outline.size(), end.outline.size());
+  for (std::size_t i = 0; i < start.outline.size(); ++i) {
+    EXPECT_NEAR(start.outline[i].x, 2.0 * end.outline[i].x, 1e-9);
+    EXPECT_NEAR(start.outline[i].y, 2.0 * end.outline[i].y, 1e-9);
+  }
+  EXPECT_EQ(building.elements[2].member->profile, member.profile);
+  EXPECT_EQ(building.elements[2].member->endProfile, member.endProfile);
 }
 
 TEST(Assemble, EqualProfilesAndMaterialsAreOneInTheOrderOfTheirFirstUse) {

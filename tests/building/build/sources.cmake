@@ -8,4 +8,5 @@ set(stage_tests
   idealise_surface_test.cpp
   idealise_test.cpp
   point_match_test.cpp
+  reading_cache_test.cpp
 )

@@ -8,6 +8,7 @@ set(stage_tests
   item_forms_test.cpp
   items_test.cpp
   materials_test.cpp
+  number_map_test.cpp
   offset_test.cpp
   path_test.cpp
   placements_test.cpp

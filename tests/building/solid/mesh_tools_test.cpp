@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
+#include <tuple>
 
 #include "solid_samples.h"
 
@@ -56,6 +58,36 @@ TEST(Balance, CountsTheUsesOfAnEdge) {
   triangle.points = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}};
   triangle.AddFace({0, 1, 2});
   EXPECT_FALSE(IsBalanced(triangle));
+}
+
+TEST(Balance, IsTheSameForFewAndForManyPoints) {
+  for (const std::size_t unused : {0, 100}) {
+    Mesh mesh = TubeMesh();
+    mesh.points.resize(mesh.points.size() + unused);
+    EXPECT_TRUE(IsBalanced(mesh));
+    mesh.AddFace({0, 1, 2});
+    EXPECT_FALSE(IsBalanced(mesh));
+    mesh.AddFace({2, 1, 0});
+    EXPECT_TRUE(IsBalanced(mesh));
+    mesh.AddFace({0, 1, 0xFFFFFFF0});
+    EXPECT_FALSE(IsBalanced(mesh));
+  }
+}
+
+TEST(SortedEdges, AreByTheirEndsThenByFace) {
+  Mesh mesh = TubeMesh();
+  mesh.AddFace({7, 0xFFFFFFF0, 0xFFFFFFF1});
+  for (const bool isValid : {false, true}) {
+    const std::vector<EdgeUse> edges = SortedEdgesOf(isValid ? TubeMesh() : mesh);
+    const auto key = [](const EdgeUse& edge) {
+      return std::tuple(std::min(edge.from, edge.to), std::max(edge.from, edge.to), edge.face,
+                        edge.from);
+    };
+    EXPECT_TRUE(std::is_sorted(edges.begin(), edges.end(), [&](const EdgeUse& a, const EdgeUse& b) {
+      return key(a) < key(b);
+    }));
+    EXPECT_EQ(edges.size() % 2, isValid ? 0U : 1U);
+  }
 }
 
 TEST(SplitEdges, AddsThePointsOfNeighboursOnly) {

@@ -3,8 +3,10 @@ set(stage_tests
   boolean_test.cpp
   box_tree_test.cpp
   distance_test.cpp
+  key_writer_test.cpp
   loops_test.cpp
   mesh_tools_test.cpp
+  operation_cache_test.cpp
   point_index_test.cpp
   slice_test.cpp
   triangulate_test.cpp
