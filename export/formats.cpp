@@ -1,0 +1,11 @@
+#include "export/export.h"
+
+namespace KelIFC {
+
+const std::vector<ExportFormat>& ExportFormats() {
+  // One row for each format: {name, extension, missing component, function}.
+  static const std::vector<ExportFormat> formats = {};
+  return formats;
+}
+
+}  // namespace KelIFC

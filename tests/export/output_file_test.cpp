@@ -1,0 +1,108 @@
+#include "export/output_file.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+#include <string>
+
+#include "export/export.h"
+
+namespace KelIFC::exporting {
+namespace {
+
+namespace fs = std::filesystem;
+
+class Files : public testing::Test {
+ protected:
+  Files() { fs::create_directory(folder); }
+  ~Files() override { fs::remove_all(folder); }
+
+  std::string Path(const std::string& name) const { return (folder / name).string(); }
+
+  static std::string Read(const std::string& path) {
+    std::ifstream file(path, std::ios::binary);
+    return {std::istreambuf_iterator<char>(file), {}};
+  }
+
+  std::size_t CountFiles() const {
+    return static_cast<std::size_t>(
+        std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
+  }
+
+ private:
+  fs::path folder =
+      fs::path(testing::TempDir()) / testing::UnitTest::GetInstance()->current_test_info()->name();
+};
+
+TEST_F(Files, AreReplacedByCommit) {
+  const std::string path = Path("a.txt");
+  std::ofstream(path) << "old";
+  OutputFile file(path);
+  file.Write("new ");
+  file.Write("text");
+  EXPECT_EQ(Read(path), "old");
+  file.Commit();
+  EXPECT_EQ(Read(path), "new text");
+  EXPECT_EQ(CountFiles(), 1U);
+}
+
+TEST_F(Files, StayAsTheyWereWithoutCommit) {
+  const std::string path = Path("a.txt");
+  std::ofstream(path) << "old";
+  { OutputFile(path).Write(std::string(3 << 20, 'x')); }
+  EXPECT_EQ(Read(path), "old");
+  EXPECT_EQ(CountFiles(), 1U);
+}
+
+TEST_F(Files, HoldMoreThanTheBuffer) {
+  const std::string path = Path("a.txt");
+  OutputFile file(path);
+  for (int i = 0; i < 300; i++) file.Write(std::string(10'000, 'x'));
+  file.Commit();
+  EXPECT_EQ(fs::file_size(path), 3'000'000U);
+}
+
+TEST_F(Files, ThatCannotBeCreatedAreReported) {
+  try {
+    OutputFile file(Path("missing/a.txt"));
+    FAIL();
+  } catch (const ExportError& error) {
+    EXPECT_EQ(error.failure, ExportFailure::kFile);
+    EXPECT_NE(std::string(error.what()).find("missing/a.txt"), std::string::npos);
+  }
+}
+
+TEST_F(Files, ReportAFullDisk) {
+  if (!fs::exists("/dev/full")) GTEST_SKIP();
+  OutputFile file("/dev/full");
+  file.Write("text");
+  EXPECT_THROW(file.Commit(), ExportError);
+}
+
+TEST_F(Files, CanBeWrittenByOthersAtAPath) {
+  const std::string path = Path("a.txt");
+  std::ofstream(path) << "old";
+  OutputPath output(path);
+  std::ofstream(output.GetPath()) << "new";
+  EXPECT_EQ(Read(path), "old");
+  output.Commit();
+  EXPECT_EQ(Read(path), "new");
+  EXPECT_EQ(CountFiles(), 1U);
+}
+
+TEST_F(Files, AreInFoldersThatAreMade) {
+  MakeFolder(Path("a/b"));
+  MakeFolder(Path("a/b"));
+  EXPECT_TRUE(fs::is_directory(Path("a/b")));
+}
+
+TEST_F(Files, AreNotTakenForFolders) {
+  std::ofstream(Path("a")) << "text";
+  EXPECT_THROW(MakeFolder(Path("a")), ExportError);
+  EXPECT_THROW(MakeFolder(Path("a/b")), ExportError);
+}
+
+}  // namespace
+}  // namespace KelIFC::exporting
