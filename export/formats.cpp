@@ -1,5 +1,6 @@
 #include "export/csv/write_csv.h"
 #include "export/export.h"
+#include "export/sqlite/write_sqlite.h"
 
 namespace KelIFC {
 
@@ -7,6 +8,7 @@ const std::vector<ExportFormat>& ExportFormats() {
   // One row for each format: {name, extension, missing component, function}.
   static const std::vector<ExportFormat> formats = {
       {"csv", "", "", exporting::WriteCsv},
+      exporting::SqliteFormat(),
   };
   return formats;
 }
