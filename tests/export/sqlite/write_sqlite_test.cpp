@@ -6,9 +6,13 @@
 
 #include <filesystem>
 #include <fstream>
+#include <regex>
+
+#include "kelifc/kelifc.h"
 
 #include "export/sqlite/schema.h"
 #include "tests/building/made_building.h"
+#include "tests/paths.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -155,6 +159,33 @@ TEST_F(Sqlite, DescribesItsColumns) {
   Write(TakeoffBuilding());
   EXPECT_THAT(Query("SELECT sql FROM sqlite_schema WHERE name = 'storeys'").at(0).at(0),
               HasSubstr("-- distance to the next higher storey (m)"));
+}
+
+/// A page of the documentation, with single blanks.
+std::string Page(const std::string& name) {
+  std::ifstream file(std::string(kSourceDir) + "/" + name);
+  const std::string text(std::istreambuf_iterator<char>(file), {});
+  return std::regex_replace(text, std::regex(" +"), " ");
+}
+
+TEST_F(Sqlite, TheDocumentationShowsTheTakeoffOfAnExample) {
+  IfcServer server;
+  LoadOptions options;
+  options.dialect = STEP_DIALECT_ISO;
+  ASSERT_EQ(server.LoadIfc((std::string(kExamplesDir) + "/house.ifc").c_str(), options), 0);
+  Write(ReadBuilding(server));
+  const Rows rows = Query(
+      "SELECT class, thickness, surfaces, area, round(volume, 3) AS volume FROM "
+      "takeoff_thicknesses");
+  EXPECT_EQ(rows.size(), 4u);
+  for (const char* name : {"README.md", "docs/exports.md"}) {
+    const std::string page = Page(name);
+    for (const std::vector<std::string>& row : rows) {
+      std::string line;
+      for (const std::string& cell : row) line += (line.empty() ? "\n" : " ") + cell;
+      EXPECT_THAT(page, HasSubstr(line + "\n"));
+    }
+  }
 }
 
 TEST_F(Sqlite, ReplacesTheOldFileAtTheEnd) {
