@@ -70,7 +70,7 @@ async function makeTemplate() {
   requireInlineText(style, 'style');
   const meta = `<meta http-equiv="Content-Security-Policy" content="${policy(script, style)}">`;
   let page = read('index.html').replace(/\r\n?/g, '\n');
-  page = replaceOnce(page, charset, `${charset}\n${licences()}\n${meta}`);
+  page = replaceOnce(page, charset, `${charset}\n${meta}\n${licences()}`);
   page = replaceOnce(page, '<!--STYLE-->', `<style>${style}</style>`);
   page = replaceOnce(page, '<!--SCRIPT-->', `<script type="module">${script}</script>`);
   if (page.split('<!--DATA-->').length !== 2) throw new Error('index.html must contain <!--DATA--> once');
