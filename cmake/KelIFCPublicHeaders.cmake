@@ -7,6 +7,7 @@ set(kelifc_public_headers
   kelifc/building/element_enums.h
   kelifc/building/measures.h
   kelifc/building/mesh.h
+  kelifc/building/plane_cut.h
   kelifc/building/profile.h
   kelifc/building/read_building.h
   kelifc/core/aggregate.h

@@ -10,6 +10,7 @@
 #include "kelifc/building/element_enums.h"
 #include "kelifc/building/measures.h"
 #include "kelifc/building/mesh.h"
+#include "kelifc/building/plane_cut.h"
 #include "kelifc/building/profile.h"
 #include "kelifc/building/read_building.h"
 #include "kelifc/core/binary.h"
