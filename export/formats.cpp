@@ -1,5 +1,8 @@
+#include "export/csv/write_csv.h"
 #include "export/export.h"
 #include "export/glb/write_glb.h"
+#include "export/sqlite/write_sqlite.h"
+#include "export/svg/write_svg.h"
 
 namespace KelIFC {
 
@@ -7,6 +10,9 @@ const std::vector<ExportFormat>& ExportFormats() {
   // One row for each format: {name, extension, missing component, function}.
   static const std::vector<ExportFormat> formats = {
       {"glb", ".glb", "", exporting::WriteGlb},
+      {"svg", "", "", exporting::WriteSvg},
+      {"csv", "", "", exporting::WriteCsv},
+      exporting::SqliteFormat(),
   };
   return formats;
 }

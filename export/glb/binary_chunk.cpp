@@ -80,9 +80,8 @@ void WriteBinary(const DisplayModel& model, const GlbLayout& layout, const Expor
   }
   WriteIndices<std::uint32_t>(model, layout, false, file);
   WriteIndices<std::uint16_t>(model, layout, true, file);
-  file.Write(std::string(layout.Size() - layout.positionSize - layout.longIndexSize -
-                             layout.shortIndexSize,
-                         '\0'));
+  file.Write(std::string(
+      layout.Size() - layout.positionSize - layout.longIndexSize - layout.shortIndexSize, '\0'));
   ReportProgress(options, 1, 1);
 }
 

@@ -12,8 +12,8 @@
 
 namespace KelIFC::exporting {
 
-/// The place of a mesh in the binary chunk of a GLB file. Offsets are in bytes from the beginning of
-/// the part.
+/// The place of a mesh in the binary chunk of a GLB file. Offsets are in bytes from the beginning
+/// of the part.
 struct GlbMesh {
   std::uint64_t positionOffset = 0;  ///< in the part of the positions
   std::uint64_t indexOffset = 0;     ///< in the part of short or of long indices
@@ -22,8 +22,8 @@ struct GlbMesh {
   std::array<float, 3> max = {};     ///< the largest coordinates
 };
 
-/// How the binary chunk is divided: positions, long indices, short indices. Sizes are in bytes. Each
-/// part begins at a multiple of 4.
+/// How the binary chunk is divided: positions, long indices, short indices. Sizes are in bytes.
+/// Each part begins at a multiple of 4.
 struct GlbLayout {
   std::vector<GlbMesh> meshes;  ///< by the mesh of the display model
   std::uint64_t positionSize = 0;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
+#include <initializer_list>
 #include <map>
 #include <optional>
 #include <string_view>
@@ -11,11 +12,12 @@
 #include <utility>
 #include <vector>
 
-#include "export/glb/class_colours.h"
-#include "export/glb/json_text.h"
-#include "export/glb/quaternion.h"
 #include "kelifc/building/element_enums.h"
 #include "kelifc/building/measures.h"
+
+#include "export/glb/class_colours.h"
+#include "export/glb/quaternion.h"
+#include "export/view/json_text.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -26,6 +28,8 @@ constexpr std::size_t kUnsignedInt = 5125;
 constexpr std::size_t kUnsignedShort = 5123;
 constexpr std::size_t kVertexBuffer = 34962;
 constexpr std::size_t kIndexBuffer = 34963;
+
+constexpr std::size_t kPositionStride = 12;  // bytes: three floats
 
 constexpr double kNearZero = 10'000.0;  // metres
 
@@ -96,22 +100,21 @@ class SceneText {
   void WriteHead() {
     text.Key("asset");
     text.BeginObject();
-    Text("version", "2.0");
-    Text("generator", "KelIFC");
+    text.Member("version", "2.0");
+    text.Member("generator", "KelIFC");
     text.EndObject();
-    text.Key("scene");
-    text.Integer(0);
+    text.Member("scene", std::size_t{0});
     text.Key("scenes");
-    text.BeginArray();
+    text.BeginList();
     text.BeginObject();
     WriteChildren(0, 1);
     text.EndObject();
-    text.EndArray();
+    text.EndList();
   }
 
   void WriteNodes() {
     text.Key("nodes");
-    text.BeginArray();
+    text.BeginList();
     WriteRoot();
     std::size_t next = 1 + children.size();
     for (std::size_t group = 0; group < children.size(); ++group) {
@@ -121,30 +124,30 @@ class SceneText {
     for (const std::vector<std::size_t>& group : children) {
       for (const std::size_t element : group) WriteElement(element);
     }
-    text.EndArray();
+    text.EndList();
   }
 
   void WriteChildren(std::size_t first, std::size_t count, std::string_view key = "nodes") {
     if (count == 0) return;
     text.Key(key);
-    text.BeginArray();
-    for (std::size_t i = 0; i < count; ++i) text.Integer(first + i);
-    text.EndArray();
+    text.BeginList();
+    for (std::size_t i = 0; i < count; ++i) text.Value(first + i);
+    text.EndList();
   }
 
   /// The model has z upwards, and the format y.
   void WriteRoot() {
     text.BeginObject();
-    Text("name", options.source.empty() ? "building" : options.source);
+    text.Member("name", options.source.empty() ? "building" : options.source);
     text.Key("matrix");
-    text.RoundedArray({1, 0, 0, 0, 0, 0, -1, 0, 0, 1, 0, 0, 0, 0, 0, 1});
+    RoundedList({1, 0, 0, 0, 0, 0, -1, 0, 0, 1, 0, 0, 0, 0, 0, 1});
     WriteChildren(1, children.size(), "children");
     text.Key("extras");
     text.BeginObject();
-    Text("schema", building.schema);
-    Text("application", building.application);
+    text.Member("schema", building.schema);
+    text.Member("application", building.application);
     text.Key("origin");
-    text.RoundedArray({Origin().x, Origin().y, Origin().z});
+    RoundedList({Origin().x, Origin().y, Origin().z});
     text.EndObject();
     text.EndObject();
   }
@@ -152,17 +155,16 @@ class SceneText {
   void WriteGroup(std::size_t group, std::size_t firstChild) {
     text.BeginObject();
     const bool isStorey = group < building.storeys.size();
-    Text("name", isStorey ? building.storeys[group].name : "without a storey");
+    text.Member("name", isStorey ? building.storeys[group].name : "without a storey");
     WriteChildren(firstChild, children[group].size(), "children");
     if (isStorey) {
       const BuildingStorey& storey = building.storeys[group];
       text.Key("extras");
       text.BeginObject();
-      text.Key("id");
-      text.Integer(storey.id);
-      Text("guid", storey.guid);
-      Text("name", storey.name);
-      if (storey.hasElevation) Value("elevation", storey.elevation);
+      text.Member("id", storey.id);
+      text.Member("guid", storey.guid);
+      text.Member("name", storey.name);
+      if (storey.hasElevation) text.Member("elevation", storey.elevation);
       text.EndObject();
     }
     text.EndObject();
@@ -171,10 +173,9 @@ class SceneText {
   void WriteElement(std::size_t i) {
     const BuildingElement& element = building.elements[i];
     text.BeginObject();
-    Text("name", element.name.empty() ? element.className + " " + std::to_string(element.id)
-                                      : element.name);
-    text.Key("mesh");
-    text.Integer(meshOf[i]);
+    text.Member("name", element.name.empty() ? element.className + " " + std::to_string(element.id)
+                                             : element.name);
+    text.Member("mesh", meshOf[i]);
     WritePlacement(model.elementMatrix[i]);
     text.Key("extras");
     WriteExtras(element);
@@ -184,102 +185,100 @@ class SceneText {
   void WritePlacement(const DisplayMatrix& matrix) {
     const Vector3 place = matrix.origin - Origin();
     text.Key("translation");
-    text.RoundedArray({place.x, place.y, place.z});
+    RoundedList({place.x, place.y, place.z});
     const double length = Length(matrix.x);
     const Quaternion turn = QuaternionOf(matrix.x / length, matrix.y, matrix.z);
     if (turn.w != 1.0) {
       text.Key("rotation");
-      text.RoundedArray({turn.x, turn.y, turn.z, turn.w});
+      RoundedList({turn.x, turn.y, turn.z, turn.w});
     }
     if (length != 1.0) {
       text.Key("scale");
-      text.RoundedArray({length, 1.0, 1.0});
+      text.BeginList();
+      for (const double factor : {length, 1.0, 1.0}) text.Value(factor);
+      text.EndList();
     }
   }
 
   void WriteExtras(const BuildingElement& element) {
     text.BeginObject();
-    text.Key("id");
-    text.Integer(element.id);
-    Text("class", element.className);
-    Text("guid", element.guid);
-    Text("name", element.name);
-    Text("kind", TextOf(element.kind));
+    text.Member("id", element.id);
+    text.Member("class", element.className);
+    text.Member("guid", element.guid);
+    text.Member("name", element.name);
+    text.Member("kind", TextOf(element.kind));
     if (element.member) WriteProfile(element.member->profile);
     if (element.material && *element.material < building.materials.size()) {
-      Text("material", building.materials[*element.material].name);
+      text.Member("material", building.materials[*element.material].name);
     }
-    if (element.storey != 0) {
-      text.Key("storey");
-      text.Integer(element.storey);
-    }
-    if (const std::optional<double> length = LengthOf(element)) Value("length", *length);
+    if (element.storey != 0) text.Member("storey", element.storey);
+    if (const std::optional<double> length = LengthOf(element)) text.Member("length", *length);
     if (element.surface) {
-      Value("area", AreaOf(*element.surface));
-      Value("thickness", element.surface->thickness);
+      text.Member("area", AreaOf(*element.surface));
+      text.Member("thickness", element.surface->thickness);
     }
-    Value("volume", element.volume);
-    Value("deviation", element.deviation);
+    text.Member("volume", element.volume);
+    text.Member("deviation", element.deviation);
     text.Key("approximate");
-    text.Bool(element.isApproximate);
+    text.Flag(element.isApproximate);
     text.EndObject();
   }
 
   void WriteProfile(std::size_t index) {
     if (index >= building.profiles.size()) return;
     const BuildingProfile& profile = building.profiles[index];
-    Text("profile", profile.name.empty() ? profile.designation : profile.name);
+    text.Member("profile", profile.name.empty() ? profile.designation : profile.name);
   }
 
   void WriteMaterials() {
     text.Key("materials");
-    text.BeginArray();
+    text.BeginList();
     for (const auto& [className, isClosed] : materials) {
       const LinearColour colour = ColourOfClass(className);
       text.BeginObject();
-      Text("name", className);
+      text.Member("name", className);
       text.Key("pbrMetallicRoughness");
       text.BeginObject();
       text.Key("baseColorFactor");
-      text.RoundedArray({colour.red, colour.green, colour.blue, 1.0});
-      Value("metallicFactor", 0.0);
-      Value("roughnessFactor", 0.8);
+      RoundedList({colour.red, colour.green, colour.blue, 1.0});
+      text.Member("metallicFactor", 0.0);
+      text.Member("roughnessFactor", 0.8);
       text.EndObject();
       if (!isClosed) {
         text.Key("doubleSided");
-        text.Bool(true);
+        text.Flag(true);
       }
       text.EndObject();
     }
-    text.EndArray();
+    text.EndList();
   }
 
   /// Normals are left out: the format then asks for flat shading, as plane faces need it.
   void WriteMeshes() {
     text.Key("meshes");
-    text.BeginArray();
+    text.BeginList();
     for (const auto& [mesh, material] : meshes) {
       text.BeginObject();
       text.Key("primitives");
-      text.BeginArray();
+      text.BeginList();
       text.BeginObject();
       text.Key("attributes");
       text.BeginObject();
-      Count("POSITION", std::size_t{2} * mesh);
+      text.Member("POSITION", std::size_t{2} * mesh);
       text.EndObject();
-      Count("indices", std::size_t{2} * mesh + 1);
-      Count("material", material);
+      text.Member("indices", std::size_t{2} * mesh + 1);
+      text.Member("material", material);
       text.EndObject();
-      text.EndArray();
+      text.EndList();
       text.EndObject();
     }
-    text.EndArray();
+    text.EndList();
   }
 
   /// Two accessors for each mesh of the display model: its positions and its indices.
   void WriteAccessors() {
     text.Key("accessors");
-    text.BeginArray();
+    text.BeginList();
     for (std::size_t i = 0; i < model.meshes.size(); ++i) {
       const GlbMesh& mesh = layout.meshes[i];
       BeginAccessor(0, mesh.positionOffset, kFloat, model.meshes[i].vertexCount, "VEC3");
@@ -291,24 +290,24 @@ class SceneText {
                     std::size_t{3} * model.meshes[i].triangleCount, "SCALAR");
       text.EndObject();
     }
-    text.EndArray();
+    text.EndList();
   }
 
   void BeginAccessor(std::size_t view, std::uint64_t offset, std::size_t type, std::size_t count,
                      std::string_view shape) {
     text.BeginObject();
-    Count("bufferView", view);
-    Count("byteOffset", static_cast<std::size_t>(offset));
-    Count("componentType", type);
-    Count("count", count);
-    Text("type", shape);
+    text.Member("bufferView", view);
+    text.Member("byteOffset", static_cast<std::size_t>(offset));
+    text.Member("componentType", type);
+    text.Member("count", count);
+    text.Member("type", shape);
   }
 
   void WriteBounds(std::string_view name, const std::array<float, 3>& bounds) {
     text.Key(name);
-    text.BeginArray();
-    for (const float bound : bounds) text.Number(static_cast<double>(bound));
-    text.EndArray();
+    text.BeginList();
+    for (const float bound : bounds) text.Value(static_cast<double>(bound));
+    text.EndList();
   }
 
   /// The views: the positions, the long indices, the short ones. Empty ones are left out.
@@ -316,7 +315,7 @@ class SceneText {
 
   void WriteBuffer() {
     text.Key("bufferViews");
-    text.BeginArray();
+    text.BeginList();
     WriteView(0, layout.positionSize, kVertexBuffer);
     if (layout.longIndexSize > 0) {
       WriteView(layout.positionSize, layout.longIndexSize, kIndexBuffer);
@@ -324,38 +323,29 @@ class SceneText {
     if (layout.shortIndexSize > 0) {
       WriteView(layout.positionSize + layout.longIndexSize, layout.shortIndexSize, kIndexBuffer);
     }
-    text.EndArray();
+    text.EndList();
     text.Key("buffers");
-    text.BeginArray();
+    text.BeginList();
     text.BeginObject();
-    Count("byteLength", static_cast<std::size_t>(layout.Size()));
+    text.Member("byteLength", static_cast<std::size_t>(layout.Size()));
     text.EndObject();
-    text.EndArray();
+    text.EndList();
   }
 
   void WriteView(std::uint64_t offset, std::uint64_t size, std::size_t target) {
     text.BeginObject();
-    Count("buffer", 0);
-    Count("byteOffset", static_cast<std::size_t>(offset));
-    Count("byteLength", static_cast<std::size_t>(size));
-    if (target == kVertexBuffer) Count("byteStride", 12);
-    Count("target", target);
+    text.Member("buffer", std::size_t{0});
+    text.Member("byteOffset", static_cast<std::size_t>(offset));
+    text.Member("byteLength", static_cast<std::size_t>(size));
+    if (target == kVertexBuffer) text.Member("byteStride", kPositionStride);
+    text.Member("target", target);
     text.EndObject();
   }
 
-  void Text(std::string_view key, std::string_view value) {
-    text.Key(key);
-    text.String(value);
-  }
-
-  void Value(std::string_view key, double value) {
-    text.Key(key);
-    text.Number(value);
-  }
-
-  void Count(std::string_view key, std::size_t value) {
-    text.Key(key);
-    text.Integer(value);
+  void RoundedList(std::initializer_list<double> values) {
+    text.BeginList();
+    for (const double value : values) text.Rounded(value);
+    text.EndList();
   }
 
   Point3 Origin() const {

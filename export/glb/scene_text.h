@@ -3,10 +3,11 @@
 
 #include <string>
 
+#include "kelifc/building/building.h"
+
 #include "export/export.h"
 #include "export/glb/binary_chunk.h"
 #include "export/solids/display_model.h"
-#include "kelifc/building/building.h"
 
 namespace KelIFC::exporting {
 

@@ -1,8 +1,9 @@
 #ifndef EXPORT_GLB_WRITE_GLB_H_
 #define EXPORT_GLB_WRITE_GLB_H_
 
-#include "export/export.h"
 #include "kelifc/building/building.h"
+
+#include "export/export.h"
 
 namespace KelIFC::exporting {
 

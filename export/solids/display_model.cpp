@@ -5,12 +5,13 @@
 #include <limits>
 #include <optional>
 
-#include "export/report_progress.h"
-#include "export/solids/display_loops.h"
-#include "export/solids/drawn_edges.h"
 #include "kelifc/building/element_solid.h"
 #include "kelifc/building/mesh.h"
 #include "kelifc/building/triangulation.h"
+
+#include "export/report_progress.h"
+#include "export/solids/display_loops.h"
+#include "export/solids/drawn_edges.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -125,7 +126,8 @@ class DisplayModelMaker {
       if (profile >= prisms.size()) return;
       if (!prisms[profile]) {
         DisplayMatrix unused;
-        prisms[profile] = AddMesh(SolidOf(building, UnitPrism(profile)), true, Origin::kZero, unused);
+        prisms[profile] =
+            AddMesh(SolidOf(building, UnitPrism(profile)), true, Origin::kZero, unused);
       }
       if (*prisms[profile] != kNoDisplayMesh) matrix = *shared;
       model.elementMesh[i] = *prisms[profile];

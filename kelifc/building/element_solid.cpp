@@ -21,7 +21,7 @@ Mesh SolidOfMember(const Building& building, const MemberAxis& member) {
     end = &profiles[*member.endProfile];
   }
   return building::idealising::MakeMemberSolid(member, profiles[member.profile], end,
-                                                kProfileSlack);
+                                               kProfileSlack);
 }
 
 }  // namespace
