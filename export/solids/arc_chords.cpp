@@ -12,10 +12,10 @@ constexpr double kChordError = 1e-3;
 constexpr double kFewestChords = 2.0;
 constexpr double kMostChords = 200.0;
 
-double ChordCountOf(double radius, double angle) {
+int ChordCountOf(double radius, double angle) {
   const double cosine = 1.0 - kChordError / std::max(radius, kChordError);
   const double step = 2.0 * std::acos(cosine);
-  return std::clamp(std::ceil(angle / step), kFewestChords, kMostChords);
+  return static_cast<int>(std::clamp(std::ceil(angle / step), kFewestChords, kMostChords));
 }
 
 }  // namespace
@@ -38,8 +38,8 @@ void AppendArc(std::vector<Point3>& points, const Point3& from, const Point3& th
   const Vector3 v = Cross(n / std::sqrt(square), u);
   double angle = std::atan2(Dot(to - centre, v), Dot(to - centre, u));
   if (angle <= 0.0) angle += 2.0 * std::numbers::pi;
-  const double count = ChordCountOf(Length(u), angle);
-  for (double i = 1.0; i < count; i += 1.0) {
+  const int count = std::isfinite(angle) ? ChordCountOf(Length(u), angle) : 1;
+  for (int i = 1; i < count; ++i) {
     const double turn = angle * i / count;
     points.push_back(centre + (std::cos(turn) * u + std::sin(turn) * v));
   }

@@ -112,7 +112,8 @@ TEST(TrianglesOf, KeepsTheAreaOfRandomRegions) {
     face.AddLoop({{-1.5, -1.0}, {20.0, -2.0}, {22.0, 21.0}, {3.0, 23.0}, {-4.0, 18.0}});
     for (int cell = 0; cell < 100; ++cell) {
       if (random() % 3 == 0) continue;
-      const Point2 centre(2.0 * (cell % 10), 2.0 * (cell / 10));
+      const int row = cell / 10;
+      const Point2 centre(2.0 * (cell % 10), 2.0 * row);
       face.AddLoop(Star(centre, 3 + random() % 20, 0.95, true, random));
     }
     EXPECT_NEAR(face.AreaOfTriangles(), face.area, 1e-9) << round;

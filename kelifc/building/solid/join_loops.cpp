@@ -68,7 +68,8 @@ class LoopJoiner {
           if (box.min.x > place.x || box.max.x < place.x) return kNever;
           const double nearest = side > 0.0 ? box.min.y - place.y : place.y - box.max.y;
           const double farthest = side > 0.0 ? box.max.y - place.y : place.y - box.min.y;
-          return farthest < 0.0 ? kNever : std::max(0.0, nearest);
+          if (farthest < 0.0) return kNever;
+          return std::max(0.0, nearest);
         },
         [&](std::uint32_t edge) {
           const std::uint32_t from = side > 0.0 ? ends[edge] : edge;

@@ -12,7 +12,7 @@
 #include <string>
 #include <vector>
 
-#include "read_glb.h"
+#include "glb_file.h"
 #include "tests/building/made_building.h"
 
 namespace KelIFC::exporting {
@@ -43,7 +43,7 @@ class Glb : public testing::Test {
 
   GlbFile Write() {
     result = WriteGlb(building, options);
-    return ReadGlb(options.path);
+    return GlbFile(options.path);
   }
 
   std::string Bytes() {
@@ -172,7 +172,8 @@ TEST_F(Glb, AModelFarAwayIsMovedToZero) {
   const json origin = file.scene["nodes"][0]["extras"]["origin"];
   EXPECT_NEAR(origin[0].get<double>(), 3.5e6, 10.0);
   for (const json& node : file.ElementNodes()) {
-    for (const json& coordinate : node["translation"]) EXPECT_LT(std::abs(coordinate.get<double>()), 10.0);
+    for (const json& coordinate : node["translation"])
+      EXPECT_LT(std::abs(coordinate.get<double>()), 10.0);
   }
   EXPECT_NEAR(file.VolumeOf(file.ElementNodes()[2]), 12.0 * 0.2, 1e-5);
 }

@@ -37,6 +37,8 @@ TEST(ArcChords, OfPointsOnALineAreOne) {
   EXPECT_EQ(points.size(), 2U);
   AppendArc(points, {0.0, 0.0, 0.0}, {kNaN, 1.0, 0.0}, {2.0, 0.0, 0.0});
   EXPECT_EQ(points.size(), 3U);
+  AppendArc(points, {1e62, 0.0, 0.0}, {0.0, 1e62, 0.0}, {-1e62, 0.0, 0.0});
+  EXPECT_EQ(points.size(), 4U);
 }
 
 TEST(ArcChords, AreNeverMoreThan200) {

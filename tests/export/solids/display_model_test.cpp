@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <cstddef>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <memory>
@@ -102,7 +102,7 @@ TEST(DisplayModel, EdgesAreThoseOfADrawing) {
   for (const DisplayMesh& mesh : model.meshes) {
     EXPECT_EQ(mesh.edgeCount, 12U);
     for (std::size_t i = 0; i < std::size_t{2} * mesh.edgeCount; ++i) {
-      EXPECT_LT(model.edges[2 * mesh.firstEdge + i], mesh.vertexCount);
+      EXPECT_LT(model.edges[std::size_t{2} * mesh.firstEdge + i], mesh.vertexCount);
     }
   }
 }

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "kelifc/building/element_solid.h"
+
 #include "tests/building/made_building.h"
 
 namespace KelIFC::exporting {

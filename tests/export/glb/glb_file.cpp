@@ -1,4 +1,4 @@
-#include "read_glb.h"
+#include "glb_file.h"
 
 #include <bit>
 #include <cstdint>
@@ -26,7 +26,8 @@ void Require(bool condition, const char* message) {
 std::vector<double> GlbFile::NumbersOf(std::size_t accessor) const {
   const nlohmann::json& entry = scene.at("accessors").at(accessor);
   const nlohmann::json& view = scene.at("bufferViews").at(entry.at("bufferView").get<int>());
-  std::size_t at = view.at("byteOffset").get<std::size_t>() + entry.at("byteOffset").get<std::size_t>();
+  std::size_t at =
+      view.at("byteOffset").get<std::size_t>() + entry.at("byteOffset").get<std::size_t>();
   const bool isShort = entry.at("componentType") == 5123;
   const bool isFloat = entry.at("componentType") == 5126;
   const std::size_t size = isShort ? 2 : 4;
@@ -67,22 +68,20 @@ std::vector<nlohmann::json> GlbFile::ElementNodes() const {
   return nodes;
 }
 
-GlbFile ReadGlb(const std::string& path) {
+GlbFile::GlbFile(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   const std::string bytes(std::istreambuf_iterator<char>(file), {});
   Require(bytes.substr(0, 4) == "glTF" && IntegerAt(bytes, 4) == 2, "the header is wrong");
   Require(IntegerAt(bytes, 8) == bytes.size(), "the size is wrong");
   const std::size_t sceneSize = IntegerAt(bytes, 12);
   Require(bytes.substr(16, 4) == "JSON" && sceneSize % 4 == 0, "the first chunk is wrong");
-  GlbFile result;
-  result.scene = nlohmann::json::parse(bytes.substr(20, sceneSize));
+  scene = nlohmann::json::parse(bytes.substr(20, sceneSize));
   const std::size_t next = 20 + sceneSize;
-  if (next == bytes.size()) return result;
+  if (next == bytes.size()) return;
   Require(bytes.substr(next + 4, 4) == std::string("BIN\0", 4), "the second chunk is wrong");
   Require(IntegerAt(bytes, next) == bytes.size() - next - 8, "the size of the chunk is wrong");
-  result.binary = bytes.substr(next + 8);
-  Require(result.binary.size() % 4 == 0, "the binary chunk is not aligned");
-  return result;
+  binary = bytes.substr(next + 8);
+  Require(binary.size() % 4 == 0, "the binary chunk is not aligned");
 }
 
 }  // namespace KelIFC::exporting

@@ -1,5 +1,5 @@
-#ifndef TESTS_EXPORT_GLB_READ_GLB_H_
-#define TESTS_EXPORT_GLB_READ_GLB_H_
+#ifndef TESTS_EXPORT_GLB_GLB_FILE_H_
+#define TESTS_EXPORT_GLB_GLB_FILE_H_
 
 #include <cstddef>
 #include <nlohmann/json.hpp>
@@ -10,6 +10,9 @@ namespace KelIFC::exporting {
 
 /// A GLB file that was read.
 struct GlbFile {
+  /// Reads a file. Throws std::runtime_error if a header or a size is wrong.
+  explicit GlbFile(const std::string& path);
+
   nlohmann::json scene;
   std::string binary;  ///< empty if there is no binary chunk
 
@@ -23,9 +26,6 @@ struct GlbFile {
   std::vector<nlohmann::json> ElementNodes() const;
 };
 
-/// Reads a file. Throws std::runtime_error if a header or a size is wrong.
-GlbFile ReadGlb(const std::string& path);
-
 }  // namespace KelIFC::exporting
 
-#endif  // TESTS_EXPORT_GLB_READ_GLB_H_
+#endif  // TESTS_EXPORT_GLB_GLB_FILE_H_
