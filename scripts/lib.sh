@@ -26,6 +26,11 @@ install_missing() {
     --no-install-recommends "${missing[@]}" </dev/null >/dev/null
 }
 
+# install_node: installs Node.js and npm unless the machine has them from another source.
+install_node() {
+  if ! command -v node >/dev/null || ! command -v npm >/dev/null; then install_missing nodejs npm; fi
+}
+
 # build PRESET [TARGET...]: configures and builds the targets, or all targets if none is given.
 build() {
   local preset=$1
