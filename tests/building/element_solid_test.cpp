@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "kelifc/building/triangulation.h"
+
 #include "tests/building/made_building.h"
 
 namespace KelIFC {

@@ -128,9 +128,9 @@ TEST(TrianglesOf, TakesHolesOfEitherOrientation) {
 TEST(TrianglesOf, HolesThatTouchOrLieOutsideAreDefined) {
   FlatFace face;
   face.AddLoop({{0.0, 0.0}, {4.0, 0.0}, {4.0, 4.0}, {0.0, 4.0}});
-  face.AddLoop({{0.0, 1.0}, {1.0, 2.0}, {1.0, 1.0}});        // touches the edge at x = 0
-  face.AddLoop({{1.0, 1.0}, {2.0, 2.0}, {2.0, 1.0}});        // touches the hole before
-  face.AddLoop({{10.0, 1.0}, {11.0, 2.0}, {11.0, 1.0}});     // outside
+  face.AddLoop({{0.0, 1.0}, {1.0, 2.0}, {1.0, 1.0}});            // touches the edge at x = 0
+  face.AddLoop({{1.0, 1.0}, {2.0, 2.0}, {2.0, 1.0}});            // touches the hole before
+  face.AddLoop({{10.0, 1.0}, {11.0, 2.0}, {11.0, 1.0}});         // outside
   face.AddLoop({{2.5, 2.5}, {2.5, 2.5}, {2.5, 2.5}, {3., 3.}});  // without area
   for (const MeshTriangle& t : TrianglesOf(face.mesh)) {
     for (const Mesh::Index corner : t.corners) EXPECT_LT(corner, face.mesh.points.size());
@@ -140,7 +140,7 @@ TEST(TrianglesOf, HolesThatTouchOrLieOutsideAreDefined) {
 TEST(TrianglesOf, SkipsFacesThatCannotBeTriangulated) {
   constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
   Mesh mesh;
-  mesh.points = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0}, {2.0, 0.0, 0.0},
+  mesh.points = {{0.0, 0.0, 0.0}, {1.0, 0.0, 0.0},  {2.0, 0.0, 0.0},
                  {0.0, 1.0, 0.0}, {kNaN, 0.0, 0.0}, {0.0, 1e300, 0.0}};
   mesh.AddFace({0, 1, 2});
   mesh.AddFace({0, 1});
@@ -160,7 +160,8 @@ TEST(TrianglesOf, FacesThatCrossThemselvesAreDefined) {
   FlatFace face;
   std::vector<Point2> corners;
   for (int i = 0; i < 20000; ++i) {
-    corners.emplace_back(static_cast<double>(random() % 1000), static_cast<double>(random() % 1000));
+    corners.emplace_back(static_cast<double>(random() % 1000),
+                         static_cast<double>(random() % 1000));
   }
   face.AddLoop(corners);
   EXPECT_LT(TrianglesOf(face.mesh).size(), corners.size());

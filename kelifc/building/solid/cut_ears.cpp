@@ -14,9 +14,7 @@ bool AreEqual(const Point2& a, const Point2& b) { return a.x == b.x && a.y == b.
 class EarCutter {
  public:
   explicit EarCutter(PolygonRing& someRing)
-      : ring(someRing),
-        budget(1000 + 100 * ring.point.size()),
-        patience(budget) {
+      : ring(someRing), budget(1000 + 100 * ring.point.size()), patience(budget) {
     FindReflexNodes();
   }
 
