@@ -16,6 +16,7 @@ cmake_dependent_option(KELIFC_BUILD_TESTS "Build the tests; needs GoogleTest"
 option(KELIFC_BUILD_BENCHMARKS "Build the benchmarks; needs Google Benchmark and Python" OFF)
 option(KELIFC_BUILD_FUZZERS "Build the fuzz targets, with clang++ and -fsanitize=fuzzer-no-link" OFF)
 option(KELIFC_BUILD_DOCS "Build the documentation site; needs Doxygen, MkDocs and npm" OFF)
+option(KELIFC_BUILD_PAGE "Build the viewer page into the command; needs Node.js, npm and its registry" OFF)
 option(KELIFC_INSTALL "Make the install rules" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
 

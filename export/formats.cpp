@@ -1,23 +1,18 @@
+#include "export/csv/write_csv.h"
 #include "export/export.h"
-#ifdef KELIFC_HAS_XLSXWRITER
 #include "export/saf/write_saf.h"
-#endif
+#include "export/sqlite/write_sqlite.h"
+#include "export/svg/write_svg.h"
 
 namespace KelIFC {
-namespace {
-
-#ifdef KELIFC_HAS_XLSXWRITER
-constexpr ExportFormat kSaf = {"saf", ".xlsx", "", exporting::WriteSaf};
-#else
-constexpr ExportFormat kSaf = {"saf", ".xlsx", "libxlsxwriter", nullptr};
-#endif
-
-}  // namespace
 
 const std::vector<ExportFormat>& ExportFormats() {
   // One row for each format: {name, extension, missing component, function}.
   static const std::vector<ExportFormat> formats = {
-      kSaf,
+      {"svg", "", "", exporting::WriteSvg},
+      {"csv", "", "", exporting::WriteCsv},
+      exporting::SqliteFormat(),
+      exporting::SafFormat(),
   };
   return formats;
 }

@@ -110,8 +110,6 @@ void WriteNodes(SafWriter& writer) {
   }
 }
 
-}  // namespace
-
 ExportResult WriteSaf(const Building& building, const ExportOptions& options) {
   OutputPath path(options.path);
   const bool isLarge = EstimateRows(building) > kLargeWorkbook;
@@ -133,5 +131,9 @@ ExportResult WriteSaf(const Building& building, const ExportOptions& options) {
   result.omissions = writer.omissions.GetOmissions();
   return result;
 }
+
+}  // namespace
+
+ExportFormat SafFormat() { return {"saf", ".xlsx", "", WriteSaf}; }
 
 }  // namespace KelIFC::exporting

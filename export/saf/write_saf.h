@@ -5,10 +5,10 @@
 
 namespace KelIFC::exporting {
 
-/// Writes a workbook of the SAF format: members, surfaces, nodes, cross-sections, materials and
-/// storeys, and the boundaries of bodies. Parts of other elements are omitted. Throws ExportError
-/// and std::bad_alloc.
-ExportResult WriteSaf(const Building& building, const ExportOptions& options);
+/// The format "saf": a workbook for programs of structural analysis, with members, surfaces, nodes,
+/// cross-sections, materials and storeys, and the boundaries of bodies. Parts of other elements are
+/// left out. In a build without libxlsxwriter it cannot be written.
+ExportFormat SafFormat();
 
 }  // namespace KelIFC::exporting
 
