@@ -24,10 +24,10 @@ std::size_t NodeList::CellHash::operator()(const Cell& cell) const {
   return value ^ (value >> 29);
 }
 
-// The edges of a cell are twice as long as the tolerance, so the points near a point lie in at most
-// eight cells.
+// The edges of a cell are a little longer than twice the tolerance, so the points near a point lie
+// in at most eight cells, also if coordinates are rounded.
 NodeList::Cell NodeList::CellOf(const Point3& point) const {
-  const double size = 2.0 * tolerance;
+  const double size = 2.01 * tolerance;
   return {std::floor(point.x / size), std::floor(point.y / size), std::floor(point.z / size)};
 }
 
