@@ -1,5 +1,6 @@
 #include "export/csv/write_csv.h"
 #include "export/export.h"
+#include "export/saf/write_saf.h"
 #include "export/sqlite/write_sqlite.h"
 #include "export/svg/write_svg.h"
 
@@ -11,6 +12,7 @@ const std::vector<ExportFormat>& ExportFormats() {
       {"svg", "", "", exporting::WriteSvg},
       {"csv", "", "", exporting::WriteCsv},
       exporting::SqliteFormat(),
+      exporting::SafFormat(),
   };
   return formats;
 }
