@@ -3,6 +3,7 @@
 #include "export/glb/write_glb.h"
 #include "export/sqlite/write_sqlite.h"
 #include "export/svg/write_svg.h"
+#include "export/view/write_page.h"
 
 namespace KelIFC {
 
@@ -13,6 +14,7 @@ const std::vector<ExportFormat>& ExportFormats() {
       {"svg", "", "", exporting::WriteSvg},
       {"csv", "", "", exporting::WriteCsv},
       exporting::SqliteFormat(),
+      exporting::PageFormat(),
   };
   return formats;
 }
