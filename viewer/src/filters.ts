@@ -29,7 +29,7 @@ class FacetGroup {
     }
     if (facet.key === 'storey') this.labels.sort((a, b) => this.rank(a) - this.rank(b));
     const details = make('details', { class: 'facet' },
-      make('summary', {}, make('h3', { text: facet.title })), this.makeButtons(), this.list);
+      make('summary', {}, make('h2', { text: facet.title })), this.makeButtons(), this.list);
     details.open = facet.key === 'storey' || facet.key === 'class';
     this.root = details;
     this.showOptions(kFirstOptions);

@@ -15,7 +15,7 @@ import { Model, type Box } from './model';
 import { Store } from './state';
 import { strings } from './strings';
 import { makeTabs } from './tabs';
-import { kDisplays, kViews, look, makeHelp, makeToolbar } from './toolbar';
+import { kDisplays, kViews, look, makeHelp, makePageTools, makeToolbar } from './toolbar';
 import { View } from './view';
 
 const kHoverMilliseconds = 40;
@@ -88,7 +88,7 @@ function connectView(
   });
 }
 
-function makeHead(model: Model, toolbar: HTMLElement): HTMLElement {
+function makeHead(model: Model, pageTools: HTMLElement, toolbar: HTMLElement): HTMLElement {
   const { source, schema, application } = model.description;
   const facts = [schema, application].map(plainText).filter(Boolean).join(' · ');
   const panelButton = makeButton(strings.panel, () => {
@@ -100,7 +100,8 @@ function makeHead(model: Model, toolbar: HTMLElement): HTMLElement {
   return make('header', {},
     make('div', { class: 'title' }, panelButton,
       make('h1', { text: name || strings.product, attributes: { title: name } }),
-      make('p', { class: 'note', text: shortText(facts, 100) })),
+      make('p', { class: 'note', text: shortText(facts, 100) }),
+      pageTools),
     toolbar);
 }
 
@@ -139,7 +140,7 @@ function show(model: Model): void {
   ]);
   const details = new Details(model, store, list, () => view && zoomToSelection(store, view));
   page.replaceChildren(
-    makeHead(model, makeToolbar(store, view, help)), panel, stage, details.root, help);
+    makeHead(model, makePageTools(store, view, help), makeToolbar(store, view)), panel, stage, details.root, help);
   placeAnnouncer(page);
   stage.append(makeLegend(model, store));
   if (view) {

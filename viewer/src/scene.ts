@@ -22,6 +22,19 @@ function colourOf(rgb: Rgb): THREE.Color {
   return new THREE.Color().setRGB(rgb[0] / 255, rgb[1] / 255, rgb[2] / 255, THREE.LinearSRGBColorSpace);
 }
 
+/** The middle one of the three extents of each element: about how wide it looks. */
+function sizesOf(model: Model, height: number): THREE.DataTexture {
+  const texels = new Float32Array(shaders.kStatesWidth * height);
+  for (let i = 0; i < model.count; ++i) {
+    const box = model.boxes.subarray(6 * i, 6 * i + 6);
+    texels[i] = [box[3] - box[0], box[4] - box[1], box[5] - box[2]].sort((a, b) => a - b)[1];
+  }
+  const texture = new THREE.DataTexture(
+    texels, shaders.kStatesWidth, height, THREE.RedFormat, THREE.FloatType);
+  texture.needsUpdate = true;
+  return texture;
+}
+
 export class BuildingScene {
   private readonly scene = new THREE.Scene();
   private readonly capScene = new THREE.Scene();
@@ -40,7 +53,7 @@ export class BuildingScene {
     const height = Math.max(1, Math.ceil(model.count / shaders.kStatesWidth));
     const texels = new Uint8Array(4 * shaders.kStatesWidth * height);
     this.states = new THREE.DataTexture(texels, shaders.kStatesWidth, height);
-    this.uniforms = this.makeUniforms();
+    this.uniforms = this.makeUniforms(sizesOf(model, height));
     this.makeSolidLayers();
     this.cap = this.makeCap();
     this.scene.add(this.cutLines, this.selection);
@@ -121,7 +134,7 @@ export class BuildingScene {
     if (this.display === 'axes') return;
     const segments = cutSegments(this.model, this.store.visible, this.plane);
     this.cutLines.add(this.makeLines(makeLineGeometry(segments), {
-      width: 3, colour: 'cutEdge', depthShift: 4e-4,
+      width: 2, colour: 'cutEdge', depthShift: 4e-4,
     }));
   }
 
@@ -176,13 +189,14 @@ export class BuildingScene {
     return colour.clone().convertSRGBToLinear();
   }
 
-  private makeUniforms(): Record<string, THREE.IUniform> {
+  private makeUniforms(sizes: THREE.DataTexture): Record<string, THREE.IUniform> {
     const names = ['background', 'edgeColour', 'cutColour', 'cutEdge', 'selectedColour',
       'selectedEdge', 'nodeColour'];
     const colours = names.map((name) => [name, { value: new THREE.Color() }] as const);
     return {
       ...Object.fromEntries(colours),
       states: { value: this.states },
+      sizes: { value: sizes },
       clip: { value: kNoClip },
       opacity: { value: 1 },
       edgeOpacity: { value: 0.8 },

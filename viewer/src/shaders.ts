@@ -14,6 +14,11 @@ vec4 stateOf(float element) {
   int index = int(element + 0.5);
   return texelFetch(states, ivec2(index % ${kStatesWidth}, index / ${kStatesWidth}), 0);
 }
+uniform sampler2D sizes;
+float sizeOf(float element) {
+  int index = int(element + 0.5);
+  return texelFetch(sizes, ivec2(index % ${kStatesWidth}, index / ${kStatesWidth}), 0).r;
+}
 bool hasFlag(vec4 state, int flag) {
   return (int(state.a * 255.0 + 0.5) & flag) != 0;
 }
@@ -44,12 +49,19 @@ ${kStateFunctions}
 ${kPlace}
 in float element;
 uniform float depthShift;
+uniform vec2 viewport;
+uniform float pixelRatio;
 out vec3 vPoint;
+out float vFade;
 flat out vec4 vState;
 void main() {
   vState = stateOf(element);
   vPoint = place();
   gl_Position = projectionMatrix * viewMatrix * vec4(vPoint, 1.0);
+  // Edges of elements that are a few pixels wide would hide their colour.
+  float pixels = sizeOf(element) * projectionMatrix[1][1] * viewport.y * 0.5
+      / (max(gl_Position.w, 1e-6) * pixelRatio);
+  vFade = clamp((pixels - 1.0) / 5.0, 0.06, 1.0);
   gl_Position.z -= depthShift * gl_Position.w;
   if (!hasFlag(vState, ${kVisible})) gl_Position = ${kDropped};
 }
@@ -92,11 +104,12 @@ ${kClip}
 uniform vec3 edgeColour;
 uniform float opacity;
 in vec3 vPoint;
+in float vFade;
 flat in vec4 vState;
 out vec4 colour;
 void main() {
   if (isClipped(vPoint)) discard;
-  colour = vec4(edgeColour, opacity);
+  colour = vec4(edgeColour, opacity * vFade);
 }
 `;
 

@@ -66,6 +66,7 @@ export const strings = {
   viewRegion: '3D view',
   canvasLabel: '3D view of the model. Arrow keys turn the view. Press H for all keys.',
   toolbar: 'View tools',
+  pageTools: 'Page tools',
   views: 'Views',
   top: 'Top',
   front: 'Front',

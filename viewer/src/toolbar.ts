@@ -10,6 +10,10 @@ import { number } from './format';
 import { strings } from './strings';
 import type { View } from './view';
 
+/** The steps in which a section moves, in metres. */
+const kSteps = [0.01, 0.02, 0.05, 0.1, 0.2, 0.5, 1, 2, 5, 10, 100];
+const kMostSteps = 500;
+
 export const kDisplays: readonly Display[] = ['solids', 'axes', 'both'];
 export const kViews: readonly ViewName[] = ['top', 'front', 'side', 'iso'];
 
@@ -93,9 +97,10 @@ function sectionTools(store: Store): HTMLElement {
     more.hidden = axis === 'none';
     if (axis === 'none') return;
     const [low, high] = sectionRange(axis, store.model);
-    slider.min = String(low);
-    slider.max = String(high);
-    slider.step = String(Math.max((high - low) / 500, 1e-3));
+    const step = kSteps.find((size) => size * kMostSteps >= high - low) ?? kSteps[kSteps.length - 1];
+    slider.step = String(step);
+    slider.min = (Math.floor(low / step) * step).toFixed(2);
+    slider.max = (Math.ceil(high / step) * step).toFixed(2);
     slider.value = String(position);
     text.textContent = strings.sectionAt(axis, number(position, 2));
     slider.setAttribute('aria-valuetext', text.textContent);
@@ -150,13 +155,22 @@ export function makeHelp(): HTMLDialogElement {
   return dialog;
 }
 
-/** Makes the tools. Without a view, those that need one are left out. */
-export function makeToolbar(store: Store, view: View | null, help: HTMLDialogElement): HTMLElement {
-  const viewing = view
-    ? [viewTools(view), displayTools(store), sectionTools(store)] : [];
+/** Makes the tools of the view. Without a view, those that need one are left out. */
+export function makeToolbar(store: Store, view: View | null): HTMLElement {
+  const tools = view
+    ? [viewTools(view), displayTools(store), colourTools(store), measureTool(store),
+      sectionTools(store)]
+    : [colourTools(store)];
   return make('div', {
     class: 'toolbar', attributes: { role: 'group', 'aria-label': strings.toolbar },
-  }, ...viewing, colourTools(store), ...(view ? [measureTool(store)] : []),
-  linkTool(store, view), themeTool(store),
-  makeButton(strings.help, () => help.showModal()));
+  }, ...tools);
+}
+
+/** Makes the tools of the page. */
+export function makePageTools(
+  store: Store, view: View | null, help: HTMLDialogElement,
+): HTMLElement {
+  return make('div', {
+    class: 'toolbar page-tools', attributes: { role: 'group', 'aria-label': strings.pageTools },
+  }, linkTool(store, view), themeTool(store), makeButton(strings.help, () => help.showModal()));
 }

@@ -72,7 +72,7 @@ function columnsOf(elements) {
   const columns = { count: elements.length, id: elements.map((e) => e.id) };
   columns.class = elements.map((e) => e.class);
   for (const [name, value] of Object.entries(columnDefaults)) {
-    columns[name] = elements.map((e) => e[name] ?? value);
+    columns[name] = elements.map((e) => (e[name] === undefined ? value : e[name]));
   }
   return columns;
 }
