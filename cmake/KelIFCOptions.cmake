@@ -17,6 +17,7 @@ option(KELIFC_BUILD_PYTHON "Build the Python module; needs pybind11 and the comm
 option(KELIFC_BUILD_BENCHMARKS "Build the benchmarks; needs Google Benchmark and Python" OFF)
 option(KELIFC_BUILD_FUZZERS "Build the fuzz targets, with clang++ and -fsanitize=fuzzer-no-link" OFF)
 option(KELIFC_BUILD_DOCS "Build the documentation site; needs Doxygen, MkDocs and npm" OFF)
+option(KELIFC_BUILD_PAGE "Build the viewer page into the command; needs Node.js, npm and its registry" OFF)
 option(KELIFC_INSTALL "Make the install rules" ${PROJECT_IS_TOP_LEVEL})
 option(KELIFC_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" ${PROJECT_IS_TOP_LEVEL})
 

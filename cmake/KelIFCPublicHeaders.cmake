@@ -5,10 +5,13 @@ set(kelifc_public_headers
   kelifc/building/building.h
   kelifc/building/difference.h
   kelifc/building/element_enums.h
+  kelifc/building/element_solid.h
   kelifc/building/measures.h
   kelifc/building/mesh.h
+  kelifc/building/plane_cut.h
   kelifc/building/profile.h
   kelifc/building/read_building.h
+  kelifc/building/triangulation.h
   kelifc/core/aggregate.h
   kelifc/core/binary.h
   kelifc/core/boolean.h

@@ -101,4 +101,22 @@ std::string FileNamePart(std::string_view name) {
   return part.empty() ? "unnamed" : part;
 }
 
+const char* ReleaseText(IFC_RELEASE release) {
+  switch (release) {
+    case IFC_RELEASE_151:
+      return "1.5.1";
+    case IFC_RELEASE_20:
+      return "2.0";
+    case IFC_RELEASE_2X:
+      return "2x";
+    case IFC_RELEASE_2X2:
+      return "2x2";
+    case IFC_RELEASE_2X3:
+      return "2x3";
+    case IFC_RELEASE_NONE:
+      break;
+  }
+  return "";
+}
+
 }  // namespace KelIFC::exporting

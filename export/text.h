@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "kelifc/server/release.h"
+
 namespace KelIFC::exporting {
 
 /// Appends a number in the shortest decimal form that reads as the same double. Appends nothing for
@@ -24,6 +26,9 @@ std::string XmlText(std::string_view text);
 /// A name reduced to the characters A-Z a-z 0-9 _ - and to 40 of them; all others become "-". It is
 /// "unnamed" for an empty name.
 std::string FileNamePart(std::string_view name);
+
+/// "1.5.1", "2.0", "2x", "2x2" or "2x3". "" for IFC_RELEASE_NONE.
+const char* ReleaseText(IFC_RELEASE release);
 
 }  // namespace KelIFC::exporting
 

@@ -7,7 +7,8 @@ jobs=$(nproc)
 cd "$root"
 
 build_packages=(g++ cmake ninja-build pkg-config python3 libgtest-dev libgmock-dev libbenchmark-dev
-  libcli11-dev nlohmann-json3-dev zlib1g-dev libzip-dev)
+  libcli11-dev nlohmann-json3-dev zlib1g-dev libzip-dev libsqlite3-dev
+  libxlsxwriter-dev)
 
 # install_missing PACKAGE...: installs those of the Debian packages that are missing.
 install_missing() {
@@ -23,6 +24,11 @@ install_missing() {
   "${sudo[@]}" apt-get update -qq
   "${sudo[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq \
     --no-install-recommends "${missing[@]}" </dev/null >/dev/null
+}
+
+# install_node: installs Node.js and npm unless the machine has them from another source.
+install_node() {
+  if ! command -v node >/dev/null || ! command -v npm >/dev/null; then install_missing nodejs npm; fi
 }
 
 # build PRESET [TARGET...]: configures and builds the targets, or all targets if none is given.

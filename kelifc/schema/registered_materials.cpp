@@ -11,14 +11,7 @@
 namespace KelIFC {
 namespace {
 
-// The attributes are protected, so these two classes derive from the entity classes. They have no
-// objects.
-struct Material : KelIFC151::IfcMaterial {
-  static MEMBER& RegisteredBy(KelIFC151::IfcMaterial& material) {
-    return material.*(&Material::registeredBy);
-  }
-};
-
+// The attribute is protected, so this class derives from the entity class. It has no objects.
 struct Registry : KelIFC151::IfcProjectMaterialRegistry {
   static const LIST_OF_MEMBERS& Materials(const KelIFC151::IfcProjectMaterialRegistry& registry) {
     return registry.*(&Registry::registeredMaterials);
@@ -42,16 +35,17 @@ std::vector<std::size_t> FindRegistries(IfcServer& model) {
 
 }  // namespace
 
-void RegisteredMaterials::Collect(IfcServer& model) {
+void RegisteredMaterials::Collect(IfcServer& loaded) {
+  model = &loaded;
   registries.clear();
-  for (const std::size_t number : FindRegistries(model)) {
+  for (const std::size_t number : FindRegistries(loaded)) {
     const auto* const registry = dynamic_cast<const KelIFC151::IfcProjectMaterialRegistry*>(
-        model.IfcServer::GetItem(number));
+        loaded.IfcServer::GetItem(number));
     const LIST_OF_MEMBERS& materials = Registry::Materials(*registry);
-    const std::uint64_t offset = model.GetStatementPlace(number).offset;
+    const std::uint64_t offset = loaded.GetStatementPlace(number).offset;
     for (std::size_t i = 1; i <= materials.GetSize(); ++i) {
       const std::size_t material = materials.GetItem(i);
-      if (model.GetStatementPlace(material).offset < offset) registries[material] = number;
+      if (loaded.GetStatementPlace(material).offset < offset) registries[material] = number;
     }
   }
 }
@@ -60,7 +54,13 @@ bool RegisteredMaterials::Complete(std::size_t number, IfcUnknown& stated) const
   const auto found = registries.find(number);
   auto* const material = dynamic_cast<KelIFC151::IfcMaterial*>(&stated);
   if (found == registries.end() || material == nullptr) return false;
-  Material::RegisteredBy(*material) = found->second;
+  // As in the load: the attribute keeps what it holds beside the number. Only an instance of the
+  // model finds the number of the registry.
+  IfcServer* const server = stated.GetServer();
+  stated.SetServer(model);
+  material->SetRegisteredBy(dynamic_cast<KelIFC151::IfcProjectMaterialRegistry*>(
+      model->IfcServer::GetItem(found->second)));
+  stated.SetServer(server);
   return true;
 }
 

@@ -14,11 +14,12 @@ class IfcUnknown;
 /// this attribute in the model is not that of the statement of the material.
 class RegisteredMaterials {
  public:
-  /// Collects the materials of a model that was loaded with options. Only a registry whose
+  /// Collects the materials of a model that was loaded with options and that must live as long as
+  /// this object. Only a registry whose
   /// statement comes after that of the material counts, because reading a material sets the
   /// attribute too. Of several registries the last one counts. Linear in the size of the model, but
   /// for sorting the registries.
-  void Collect(IfcServer& model);
+  void Collect(IfcServer& loaded);
 
   /// Sets RegisteredBy of `stated`, which was parsed from the statement with a number, as the load
   /// set it in the model. Returns false and changes nothing if no registry lists that number or if
@@ -26,6 +27,7 @@ class RegisteredMaterials {
   bool Complete(std::size_t number, IfcUnknown& stated) const;
 
  private:
+  IfcServer* model = nullptr;
   std::unordered_map<std::size_t, std::size_t> registries;  // numbers, by that of the material
 };
 

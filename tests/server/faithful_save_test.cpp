@@ -387,6 +387,14 @@ TEST_F(FaithfulSave151, CopiesAMaterialThatARegistryCompletes) {
   EXPECT_EQ(SaveData(), data);
 }
 
+TEST_F(FaithfulSave151, CopiesAMaterialWhoseRegistryIsAnInlineValueThatAnotherRegistryCompletes) {
+  const std::string data =
+      "DATA;\n#1=IFCMATERIAL(IFCFACE((#9)),$);\n#2=IFCPROJECTMATERIALREGISTRY((#1));\n" +
+      std::string(kTail);
+  Load(data);
+  EXPECT_EQ(SaveData(), data);
+}
+
 TEST_F(FaithfulSave151, WritesAMaterialOfWhichTheHostChangedTheRegistry) {
   const std::string registries =
       "#2=IFCPROJECTMATERIALREGISTRY((#1));\n#3=IFCPROJECTMATERIALREGISTRY(());\n" +

@@ -82,6 +82,22 @@ struct DiffOptions {
 /// Reads two revisions of a building completely and prints what differs.
 void RunDiff(const DiffOptions& options);
 
+/// The name of the format that the subcommand `view` writes. It is not one of `export`.
+inline constexpr const char* kPageFormat = "view";
+
+struct ExportOptions {
+  Reading reading;
+  std::string model;
+  std::string format;          ///< a name of KelIFC::ExportFormats()
+  std::string output;          ///< a path; empty means the name of the model in the current folder
+  double nodeTolerance = 1.0;  ///< in millimetres, for the format "saf"
+  bool csvRaw = false;         ///< cells of the format "csv" are not guarded against spreadsheets
+  bool failOnLoss = false;
+};
+
+/// Reads the building completely and writes it in a format. Prints what the format cannot hold.
+void RunExport(const ExportOptions& options);
+
 }  // namespace command
 
 #endif  // TOOLS_KELIFC_COMMANDS_H_

@@ -25,6 +25,7 @@ class CsvRow {
   std::string Take();
 
  private:
+  void BeginCell();
   void AddCell(std::string_view text);
 
   bool isRaw;

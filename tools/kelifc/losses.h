@@ -9,13 +9,16 @@
 
 namespace command {
 
+/// How many products of a building were lost.
+inline std::string LossText(const KelIFC::Building& building) {
+  const KelIFC::BuildingTotals& totals = building.totals;
+  return std::to_string(totals.lost) + " of " + std::to_string(totals.products) +
+         " products were lost";
+}
+
 /// Throws Failure with Status::kLost if a building has losses.
 inline void RequireNoLoss(const std::string& file, const KelIFC::Building& building) {
-  const KelIFC::BuildingTotals& totals = building.totals;
-  if (totals.lost == 0) return;
-  throw Failure(Status::kLost, file,
-                std::to_string(totals.lost) + " of " + std::to_string(totals.products) +
-                    " products were lost");
+  if (building.totals.lost > 0) throw Failure(Status::kLost, file, LossText(building));
 }
 
 }  // namespace command

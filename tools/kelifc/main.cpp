@@ -1,13 +1,12 @@
 #include <CLI/CLI.hpp>
-#include <algorithm>
-#include <cstdio>
 #include <exception>
 #include <string>
 
+#include "export/export.h"
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/failure.h"
+#include "tools/kelifc/message.h"
 #include "tools/kelifc/output.h"
-#include "tools/kelifc/text.h"
 
 namespace {
 
@@ -21,6 +20,8 @@ struct Request {
   command::ElementsOptions elements;
   command::AuditOptions audit;
   command::DiffOptions diff;
+  command::ExportOptions exporting;
+  command::ExportOptions view;
 };
 
 constexpr auto kModel = "MODEL.ifc";
@@ -100,6 +101,79 @@ void DescribeDiff(CLI::App& app, command::DiffOptions& options) {
       ->option_text(" ");
 }
 
+/// The formats of the option --to. The viewer page has a subcommand of its own.
+std::vector<std::string> FormatNames() {
+  std::vector<std::string> names;
+  for (const KelIFC::ExportFormat& format : KelIFC::ExportFormats()) {
+    if (format.name != command::kPageFormat) names.emplace_back(format.name);
+  }
+  return names;
+}
+
+std::string FormatHelp() {
+  std::string help = "the format:";
+  for (const std::string& name : FormatNames()) {
+    const bool isMissing = !KelIFC::FindExportFormat(name)->missing.empty();
+    help += " " + name + (isMissing ? " (not in this build)" : "");
+  }
+  return help;
+}
+
+/// An option of one format is wrong with another one.
+void DescribeFormatOptions(CLI::App& exporting, command::ExportOptions& options) {
+  CLI::Option* const raw = exporting.add_flag(
+      "--csv-raw", options.csvRaw,
+      "with csv: no apostrophe before text that a spreadsheet takes for a formula");
+  CLI::Option* const tolerance =
+      exporting
+          .add_option("--node-tolerance", options.nodeTolerance,
+                      "with saf: merge points that are up to MM millimetres apart (default: 1)")
+          ->option_text("MM")
+          ->check(CLI::Range(0.0, 1000.0, "MM"));
+  exporting.callback([&options, raw, tolerance] {
+    if (raw->count() != 0 && options.format != "csv") {
+      throw CLI::ValidationError("--csv-raw", "it needs --to csv");
+    }
+    if (tolerance->count() != 0 && options.format != "saf") {
+      throw CLI::ValidationError("--node-tolerance", "it needs --to saf");
+    }
+  });
+}
+
+void DescribeExportOutput(CLI::App& subcommand, std::string& output, const char* text,
+                          const char* help) {
+  subcommand.add_option("--output", output, help)
+      ->option_text(text)
+      ->check([text](const std::string& path) {
+        return path.empty() ? text + std::string(" is empty") : std::string();
+      });
+}
+
+void DescribeExport(CLI::App& app, command::ExportOptions& options) {
+  CLI::App* exporting = app.add_subcommand("export", "write the building in another format");
+  exporting->add_option("--to", options.format, FormatHelp())
+      ->option_text("FORMAT")
+      ->required()
+      ->check(CLI::IsMember(FormatNames()));
+  DescribeExportOutput(*exporting, options.output, "PATH",
+                       "the file to write, with csv and svg the folder (default: the name of the "
+                       "model, in the current folder)");
+  DescribeFormatOptions(*exporting, options);
+  DescribeFailOnLoss(*exporting, options.failOnLoss);
+  DescribeComplete(*exporting, options.reading);
+  exporting->add_option(kModel, options.model, kModelHelp)->required()->option_text(" ");
+}
+
+void DescribeView(CLI::App& app, command::ExportOptions& options) {
+  options.format = command::kPageFormat;
+  CLI::App* view = app.add_subcommand("view", "write a page that shows the building");
+  DescribeExportOutput(*view, options.output, "FILE",
+                       "the page to write (default: the name of the model, in the current folder)");
+  DescribeFailOnLoss(*view, options.failOnLoss);
+  DescribeComplete(*view, options.reading);
+  view->add_option(kModel, options.model, kModelHelp)->required()->option_text(" ");
+}
+
 /// A faithful save reads the model by the rules of ISO 10303-21.
 void DescribeFaithful(CLI::App& save, command::SaveOptions& options, CLI::Option* dialect) {
   save.add_flag("--faithful", options.faithful,
@@ -139,6 +213,8 @@ void Describe(CLI::App& app, Request& request) {
   DescribeElements(app, request.elements);
   DescribeAudit(app, request.audit);
   DescribeDiff(app, request.diff);
+  DescribeExport(app, request.exporting);
+  DescribeView(app, request.view);
 }
 
 void Run(const CLI::App& app, const Request& request) {
@@ -148,11 +224,12 @@ void Run(const CLI::App& app, const Request& request) {
   if (app.got_subcommand("elements")) RunElements(request.elements);
   if (app.got_subcommand("audit")) RunAudit(request.audit);
   if (app.got_subcommand("diff")) RunDiff(request.diff);
+  if (app.got_subcommand("export")) RunExport(request.exporting);
+  if (app.got_subcommand("view")) RunExport(request.view);
 }
 
-int Fail(Status status, std::string message) {
-  std::replace(message.begin(), message.end(), '\n', ' ');
-  std::fprintf(stderr, "kelifc: %s\n", command::Visible(message).c_str());
+int Fail(Status status, const std::string& message) {
+  command::PrintMessage(message);
   return static_cast<int>(status);
 }
 

@@ -45,8 +45,8 @@ template <class Load>
 ModelSource LoadWithProgress(IfcServer& server, const std::string& path, const Reading& reading,
                              Load load) {
   ModelSource source(path);
-  ProgressBar bar(source.GetSize());
-  if (bar.IsShown() && !reading.quiet && !reading.hidesProgress) {
+  ProgressBar bar("reading", IsLargeFile(source.GetSize()) && AllowsBar(reading));
+  if (bar.IsShown()) {
     server.SetProgressHandler([&bar](std::uint64_t done, std::uint64_t total) {
       bar.Update(done, total);
       return true;
@@ -93,7 +93,7 @@ void RequireConvertible(KelIFC::IfcServer& server, const std::string& path) {
 KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
                               KelIFC::KeptBodies keptBodies) {
   IfcServer server;
-  LoadWithProgress(server, path, reading, [&](const char* file) {
+  const ModelSource source = LoadWithProgress(server, path, reading, [&](const char* file) {
     LoadOptions options = OptionsOf(reading);
     options.keepUnknown = true;  // the reading knows entities that have no class
     return server.LoadIfc(file, options);
@@ -101,29 +101,13 @@ KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
   RequireConvertible(server, path);
   KelIFC::ReadingOptions options;
   options.keptBodies = keptBodies;
+  ProgressBar bar("converting", IsLargeFile(source.GetSize()) && AllowsBar(reading));
+  bar.Update(0, 1);  // the conversion does not report its progress
   return KelIFC::ReadBuilding(server, options);
 }
 
 std::string Utf8FromModel(const IfcServer& server, std::string_view text) {
   return server.GetDialect() == KelIFC::STEP_DIALECT_ISO ? std::string(text) : Utf8FromLatin1(text);
-}
-
-const char* ReleaseText(KelIFC::IFC_RELEASE release) {
-  switch (release) {
-    case KelIFC::IFC_RELEASE_151:
-      return "1.5.1";
-    case KelIFC::IFC_RELEASE_20:
-      return "2.0";
-    case KelIFC::IFC_RELEASE_2X:
-      return "2x";
-    case KelIFC::IFC_RELEASE_2X2:
-      return "2x2";
-    case KelIFC::IFC_RELEASE_2X3:
-      return "2x3";
-    case KelIFC::IFC_RELEASE_NONE:
-      break;
-  }
-  return "";
 }
 
 }  // namespace command

@@ -7,6 +7,7 @@
 
 #include "kelifc/kelifc.h"
 
+#include "export/text.h"
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/model_source.h"
 
@@ -40,8 +41,7 @@ KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
 /// Converts a text that the server returns, such as a schema or a name, to UTF-8.
 std::string Utf8FromModel(const KelIFC::IfcServer& server, std::string_view text);
 
-/// "1.5.1", "2.0", "2x", "2x2" or "2x3". "" for IFC_RELEASE_NONE.
-const char* ReleaseText(KelIFC::IFC_RELEASE release);
+using KelIFC::exporting::ReleaseText;
 
 }  // namespace command
 

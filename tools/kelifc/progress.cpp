@@ -14,8 +14,10 @@ constexpr int kBarWidth = 40;
 
 }  // namespace
 
-ProgressBar::ProgressBar(std::uint64_t fileBytes)
-    : shown(fileBytes > kLargeFile && KelIFC::IsTerminal(stderr)) {}
+bool IsLargeFile(std::uint64_t bytes) { return bytes > kLargeFile; }
+
+ProgressBar::ProgressBar(std::string_view task, bool isWanted)
+    : task(task), shown(isWanted && KelIFC::IsTerminal(stderr)) {}
 
 ProgressBar::~ProgressBar() {
   if (shown) std::fputs("\r\033[K", stderr);
@@ -28,7 +30,8 @@ void ProgressBar::Update(std::uint64_t done, std::uint64_t total) {
   percent = now;
   std::string bar(kBarWidth, '.');
   std::fill_n(bar.begin(), percent * kBarWidth / 100, '#');
-  std::fprintf(stderr, "\rreading [%s] %3d %%", bar.c_str(), percent);
+  std::fprintf(stderr, "\r%.*s [%s] %3d %%", static_cast<int>(task.size()), task.data(),
+               bar.c_str(), percent);
   std::fflush(stderr);
 }
 

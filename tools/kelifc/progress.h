@@ -2,25 +2,35 @@
 #define TOOLS_KELIFC_PROGRESS_H_
 
 #include <cstdint>
+#include <string_view>
+
+#include "tools/kelifc/commands.h"
 
 namespace command {
 
-/// A bar on standard error that shows the progress of a load. It is shown only if standard error is
-/// a terminal and the file is larger than 20 MB. The destructor removes it.
+/// False if the user wants no progress bar.
+inline bool AllowsBar(const Reading& reading) { return !reading.quiet && !reading.hidesProgress; }
+
+/// True if a file is so large that loading it takes a while.
+bool IsLargeFile(std::uint64_t bytes);
+
+/// A bar on standard error that shows the progress of a task. The destructor removes it.
 class ProgressBar {
  public:
-  explicit ProgressBar(std::uint64_t fileBytes);
+  /// The bar is shown only if `isWanted` is set and standard error is a terminal. The view `task`,
+  /// such as "reading", must live as long as the bar.
+  ProgressBar(std::string_view task, bool isWanted);
   ~ProgressBar();
   ProgressBar(const ProgressBar&) = delete;
   ProgressBar& operator=(const ProgressBar&) = delete;
 
   bool IsShown() const { return shown; }
 
-  /// Shows that `done` of `total` bytes have been read, counted over all passes. Draws at most once
-  /// for each percent.
+  /// Shows that `done` of `total` steps of the task are done. Draws at most once for each percent.
   void Update(std::uint64_t done, std::uint64_t total);
 
  private:
+  std::string_view task;
   bool shown;
   int percent = -1;
 };

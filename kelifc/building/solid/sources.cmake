@@ -4,10 +4,12 @@ target_sources(kelifc_building PRIVATE
   solid/box_tree.cpp
   solid/combine.cpp
   solid/cut_by_plane.cpp
+  solid/cut_ears.cpp
   solid/distance.cpp
   solid/evaluate.cpp
   solid/extrude.cpp
   solid/half_space.cpp
+  solid/join_loops.cpp
   solid/key_writer.cpp
   solid/loops.cpp
   solid/made_mesh.cpp

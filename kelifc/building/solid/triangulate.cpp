@@ -3,69 +3,44 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <optional>
+#include <utility>
 
 #include "kelifc/building/solid/box_tree.h"
+#include "kelifc/building/solid/join_loops.h"
+#include "kelifc/building/solid/polygon_ring.h"
 #include "kelifc/building/solid/vector_math.h"
 
 namespace KelIFC::building {
 
 namespace {
 
-constexpr std::uint32_t kNone = 0xFFFFFFFF;
-
-bool AreEqual(const Point2& a, const Point2& b) { return a.x == b.x && a.y == b.y; }
-
-/// A region whose holes are joined to its outer loop: a ring of nodes, each with a point.
-class Ring {
+/// Joins the holes of a region to its outer loop along horizontal lines. The ends of the lines are
+/// appended to the points.
+class HoleBridges {
  public:
-  Ring(std::vector<Point2>& somePoints, const std::vector<PointLoop>& loops) : points(somePoints) {
-    for (const PointLoop& loop : loops) AddLoop(loop);
-    if (loops.size() > 1) JoinHoles();
-  }
-
-  std::vector<std::uint32_t> point;
-  std::vector<std::uint32_t> next;
-  std::vector<std::uint32_t> previous;
-
-  const Point2& At(std::uint32_t node) const { return points[point[node]]; }
-
- private:
-  void AddLoop(const PointLoop& loop) {
-    const auto first = static_cast<std::uint32_t>(point.size());
-    const auto count = static_cast<std::uint32_t>(loop.size());
-    starts.push_back(first);
-    for (std::uint32_t i = 0; i < count; ++i) {
-      point.push_back(loop[i]);
-      next.push_back(first + (i + 1) % count);
-      previous.push_back(first + (i + count - 1) % count);
-    }
-  }
+  HoleBridges(PolygonRing& someRing, std::vector<Point2>& somePoints)
+      : ring(someRing), points(somePoints) {}
 
   /// Joins each hole, from left to right, to the nearest edge on its left.
-  void JoinHoles() {
-    std::vector<BuildingBox> boxes(point.size());
-    for (std::uint32_t i = 0; i < point.size(); ++i) {
-      Extend(boxes[i], Point3(At(i).x, At(i).y, 0.0));
-      Extend(boxes[i], Point3(At(next[i]).x, At(next[i]).y, 0.0));
+  void Join() {
+    std::vector<BuildingBox> boxes(ring.point.size());
+    for (std::uint32_t i = 0; i < ring.point.size(); ++i) {
+      Extend(boxes[i], Point3(ring.At(i).x, ring.At(i).y, 0.0));
+      Extend(boxes[i], Point3(ring.At(ring.next[i]).x, ring.At(ring.next[i]).y, 0.0));
     }
     const BoxTree tree(boxes);
-    parts.resize(point.size(), kNone);
+    parts.resize(ring.point.size(), kNoNode);
     std::vector<std::uint32_t> corners;
-    for (std::size_t i = 1; i < starts.size(); ++i) corners.push_back(LeftmostFrom(starts[i]));
+    for (std::size_t i = 1; i < ring.starts.size(); ++i)
+      corners.push_back(ring.LeftmostFrom(ring.starts[i]));
     std::sort(corners.begin(), corners.end(), [&](std::uint32_t a, std::uint32_t b) {
-      return std::pair(At(a).x, a) < std::pair(At(b).x, b);
+      return std::pair(ring.At(a).x, a) < std::pair(ring.At(b).x, b);
     });
     for (const std::uint32_t corner : corners) Join(tree, corner);
   }
 
-  std::uint32_t LeftmostFrom(std::uint32_t start) const {
-    std::uint32_t best = start;
-    for (std::uint32_t i = next[start]; i != start; i = next[i]) {
-      if (At(i).x < At(best).x || (At(i).x == At(best).x && At(i).y < At(best).y)) best = i;
-    }
-    return best;
-  }
-
+ private:
   /// Where the edge from a node to the given end crosses a horizontal line; minus infinity if it
   /// does not.
   double CrossingOf(const Point2& a, const Point2& b, double y) const {
@@ -75,8 +50,8 @@ class Ring {
 
   void Join(const BoxTree& tree, std::uint32_t corner) {
     constexpr double kNever = std::numeric_limits<double>::infinity();
-    const Point2 place = At(corner);
-    std::uint32_t best = kNone;
+    const Point2 place = ring.At(corner);
+    std::uint32_t best = kNoNode;
     double bestX = -kNever;
     tree.Search(
         [&](const BuildingBox& box) {
@@ -85,145 +60,46 @@ class Ring {
         },
         [&](std::uint32_t edge) {
           // Joins have cut the edge into parts, which are a chain.
-          for (std::uint32_t i = edge; i != kNone; i = parts[i]) {
-            if (i == corner || next[i] == corner) continue;
-            const double x = CrossingOf(At(i), At(next[i]), place.y);
+          for (std::uint32_t i = edge; i != kNoNode; i = parts[i]) {
+            if (i == corner || ring.next[i] == corner) continue;
+            const double x = CrossingOf(ring.At(i), ring.At(ring.next[i]), place.y);
             // The region is to the right of edges that run down.
-            if (x <= place.x && x > bestX && At(next[i]).y < At(i).y) {
+            if (x <= place.x && x > bestX && ring.At(ring.next[i]).y < ring.At(i).y) {
               bestX = x;
               best = i;
             }
           }
-          return best == kNone ? kNever : place.x - bestX;
+          return best == kNoNode ? kNever : place.x - bestX;
         });
-    if (best != kNone) Bridge(best, corner, {bestX, place.y});
+    if (best != kNoNode) Bridge(best, corner, {bestX, place.y});
   }
 
   /// Runs from the edge of `node` at `landing` to the corner, round its hole, and back.
   void Bridge(std::uint32_t node, std::uint32_t corner, const Point2& landing) {
     const auto number = static_cast<std::uint32_t>(points.size());
     points.push_back(landing);
-    const std::uint32_t after = next[node];
-    const std::uint32_t before = previous[corner];
+    const std::uint32_t after = ring.next[node];
+    const std::uint32_t before = ring.previous[corner];
     const std::uint32_t out = AddNode(number);
-    const std::uint32_t back = AddNode(point[corner]);
+    const std::uint32_t back = AddNode(ring.point[corner]);
     const std::uint32_t landed = AddNode(number);
-    Link(node, out);
-    Link(out, corner);
-    Link(before, back);
-    Link(back, landed);
-    Link(landed, after);
+    ring.Link(node, out);
+    ring.Link(out, corner);
+    ring.Link(before, back);
+    ring.Link(back, landed);
+    ring.Link(landed, after);
     parts[landed] = parts[node];
     parts[node] = landed;
   }
 
   std::uint32_t AddNode(std::uint32_t number) {
-    point.push_back(number);
-    next.push_back(kNone);
-    previous.push_back(kNone);
-    parts.push_back(kNone);
-    return static_cast<std::uint32_t>(point.size() - 1);
+    parts.push_back(kNoNode);
+    return ring.AddNode(number);
   }
 
-  void Link(std::uint32_t a, std::uint32_t b) {
-    next[a] = b;
-    previous[b] = a;
-  }
-
+  PolygonRing& ring;
   std::vector<Point2>& points;
-  std::vector<std::uint32_t> starts;  // of the loops
-  std::vector<std::uint32_t> parts;   // the next part of the edge of a node
-};
-
-/// Cuts ears off a ring.
-class EarCutter {
- public:
-  explicit EarCutter(Ring& someRing) : ring(someRing), budget(1000 + 100 * ring.point.size()) {
-    FindReflexNodes();
-  }
-
-  std::vector<Triangle2> Cut() {
-    std::vector<Triangle2> result;
-    std::uint32_t node = 0;
-    std::size_t left = CountFrom(node);
-    std::size_t failures = 0;
-    while (left >= 3) {
-      const bool isForced = failures > left;
-      if (isForced ? IsTolerable(node, failures > 2 * left) : IsEar(node)) {
-        const std::uint32_t a = ring.previous[node];
-        const std::uint32_t c = ring.next[node];
-        if (TurnAt(node) > 0.0) result.push_back({ring.point[a], ring.point[node], ring.point[c]});
-        ring.next[a] = c;
-        ring.previous[c] = a;
-        isGone[node] = true;
-        --left;
-        failures = 0;
-        node = ring.next[c];
-      } else {
-        ++failures;
-        node = ring.next[node];
-      }
-    }
-    return result;
-  }
-
- private:
-  double TurnAt(std::uint32_t node) const {
-    return Turn(ring.At(ring.previous[node]), ring.At(node), ring.At(ring.next[node]));
-  }
-
-  std::size_t CountFrom(std::uint32_t start) const {
-    std::size_t count = 1;
-    for (std::uint32_t i = ring.next[start]; i != start; i = ring.next[i]) ++count;
-    return count;
-  }
-
-  void FindReflexNodes() {
-    isGone.assign(ring.point.size(), false);
-    std::vector<BuildingBox> boxes;
-    for (std::uint32_t i = 0; i < ring.point.size(); ++i) {
-      if (TurnAt(i) > 0.0) continue;
-      reflex.push_back(i);
-      Extend(boxes.emplace_back(), Point3(ring.At(i).x, ring.At(i).y, 0.0));
-    }
-    tree = BoxTree(boxes);
-  }
-
-  /// A vertex without a reflex node in its triangle. Vertices on a straight line are cut off, too.
-  bool IsEar(std::uint32_t node) {
-    const double turn = TurnAt(node);
-    if (turn == 0.0) return true;
-    if (turn < 0.0) return false;
-    if (budget == 0 || reflex.empty()) return true;
-    const std::array<Point2, 3> corners = {ring.At(ring.previous[node]), ring.At(node),
-                                           ring.At(ring.next[node])};
-    BuildingBox box;
-    for (const Point2& corner : corners) Extend(box, Point3(corner.x, corner.y, 0.0));
-    bool isFree = true;
-    tree.ForEachNear(box, 0.0, [&](std::uint32_t item) {
-      if (!isFree || isGone[reflex[item]]) return;
-      if (budget > 0) --budget;
-      if (IsInside(ring.At(reflex[item]), corners)) isFree = false;
-    });
-    return isFree;
-  }
-
-  static bool IsInside(const Point2& p, const std::array<Point2, 3>& corners) {
-    if (AreEqual(p, corners[0]) || AreEqual(p, corners[1]) || AreEqual(p, corners[2])) return false;
-    return Turn(corners[0], corners[1], p) >= 0.0 && Turn(corners[1], corners[2], p) >= 0.0 &&
-           Turn(corners[2], corners[0], p) >= 0.0;
-  }
-
-  /// What is cut off where no vertex is an ear, as in a region that crosses itself.
-  bool IsTolerable(std::uint32_t node, bool isDesperate) const {
-    return isDesperate || TurnAt(node) > 0.0;
-  }
-
-  Ring& ring;
-  std::vector<bool> isGone;
-  std::vector<std::uint32_t> reflex;
-  BoxTree tree;
-  std::size_t budget = 0;
+  std::vector<std::uint32_t> parts;  // the next part of the edge of a node
 };
 
 bool IsConvex(const std::vector<Point2>& points, const PointLoop& loop) {
@@ -239,23 +115,40 @@ bool IsConvex(const std::vector<Point2>& points, const PointLoop& loop) {
   return true;
 }
 
+/// The triangles of a region that needs no cutting: without an area or convex. None for others.
+std::optional<std::vector<Triangle2>> FanOf(const std::vector<Point2>& points,
+                                            const std::vector<PointLoop>& loops) {
+  std::vector<Triangle2> result;
+  if (loops.empty() || loops[0].size() < 3) return result;
+  if (loops.size() > 1 || !IsConvex(points, loops[0])) return std::nullopt;
+  const PointLoop& loop = loops[0];
+  for (std::size_t i = 1; i + 1 < loop.size(); ++i) {
+    if (Turn(points[loop[0]], points[loop[i]], points[loop[i + 1]]) > 0.0) {
+      result.push_back({loop[0], loop[i], loop[i + 1]});
+    }
+  }
+  return result;
+}
+
 }  // namespace
 
 std::vector<Triangle2> Triangulate(std::vector<Point2>& points,
                                    const std::vector<PointLoop>& loops) {
-  std::vector<Triangle2> result;
-  if (loops.empty() || loops[0].size() < 3) return result;
-  if (loops.size() == 1 && IsConvex(points, loops[0])) {
-    const PointLoop& loop = loops[0];
-    for (std::size_t i = 1; i + 1 < loop.size(); ++i) {
-      if (Turn(points[loop[0]], points[loop[i]], points[loop[i + 1]]) > 0.0) {
-        result.push_back({loop[0], loop[i], loop[i + 1]});
-      }
-    }
-    return result;
+  if (std::optional<std::vector<Triangle2>> fan = FanOf(points, loops)) return std::move(*fan);
+  PolygonRing ring(points, loops);
+  if (loops.size() > 1) HoleBridges(ring, points).Join();
+  return CutEars(ring);
+}
+
+std::vector<Triangle2> TriangulateCorners(const std::vector<Point2>& points,
+                                          const std::vector<PointLoop>& loops) {
+  if (std::any_of(loops.begin(), loops.end(), [](const PointLoop& loop) { return loop.empty(); })) {
+    return {};
   }
-  Ring ring(points, loops);
-  return EarCutter(ring).Cut();
+  if (std::optional<std::vector<Triangle2>> fan = FanOf(points, loops)) return std::move(*fan);
+  PolygonRing ring(points, loops);
+  if (loops.size() > 1) JoinLoops(ring);
+  return CutEars(ring);
 }
 
 void AppendTriangles(const Mesh& mesh, std::size_t face, std::vector<Triangle3>& triangles) {

@@ -2,15 +2,13 @@
 #define KELIFC_BUILDING_SOLID_TRIANGULATE_H_
 
 #include <array>
-#include <cstdint>
 #include <vector>
 
 #include "kelifc/building/mesh.h"
+#include "kelifc/building/solid/cut_ears.h"
 #include "kelifc/building/solid/loops.h"
 
 namespace KelIFC::building {
-
-using Triangle2 = std::array<std::uint32_t, 3>;
 
 /// Cuts a plane region into counter-clockwise triangles by cutting off ears. The first loop is the
 /// outer one, counter-clockwise; the others are holes, clockwise. Holes are joined to the outer
@@ -19,6 +17,11 @@ using Triangle2 = std::array<std::uint32_t, 3>;
 /// that the ears of hostile regions are cut off untested.
 std::vector<Triangle2> Triangulate(std::vector<Point2>& points,
                                    const std::vector<PointLoop>& loops);
+
+/// Does the same without additional points: holes are joined to points of other loops. No loop may
+/// be empty; the result is empty otherwise.
+std::vector<Triangle2> TriangulateCorners(const std::vector<Point2>& points,
+                                          const std::vector<PointLoop>& loops);
 
 /// A triangle in space.
 using Triangle3 = std::array<Point3, 3>;

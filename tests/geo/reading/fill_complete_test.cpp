@@ -84,8 +84,7 @@ void ExpectFinite(IGeoPoint& point) {
 /// Expects at least `least` points, and a section.
 template <class Element>
 void ExpectUsable(const ComPtr<Element>& element, std::size_t least) {
-  const auto points =
-      ItemsOf(*element.template As<IGeoPolyline>(), &IGeoPolyline::get_Points);
+  const auto points = ItemsOf(*element.template As<IGeoPolyline>(), &IGeoPolyline::get_Points);
   ASSERT_GE(points.size(), least);
   for (const auto& point : points) ExpectFinite(*point);
   ASSERT_NE(GetText(*element, &IGeoObject::get_SectionName), L"");

@@ -1,0 +1,82 @@
+#ifndef EXPORT_SOLIDS_DISPLAY_MODEL_H_
+#define EXPORT_SOLIDS_DISPLAY_MODEL_H_
+
+#include <cstddef>
+#include <cstdint>
+#include <vector>
+
+#include "export/export.h"
+#include "kelifc/building/building.h"
+#include "kelifc/geometry/point.h"
+
+namespace KelIFC::exporting {
+
+/// Stands for no mesh in DisplayModel::elementMesh.
+constexpr std::uint32_t kNoDisplayMesh = 0xFFFFFFFF;
+
+/// The parts of the arrays of a DisplayModel that a mesh uses. Each count is of items with 3, 3 and
+/// 2 numbers.
+struct DisplayMesh {
+  std::uint32_t firstVertex = 0;    ///< in `positions`
+  std::uint32_t vertexCount = 0;    ///< at least 3
+  std::uint32_t firstTriangle = 0;  ///< in `triangles`
+  std::uint32_t triangleCount = 0;  ///< at least 1
+  std::uint32_t firstEdge = 0;      ///< in `edges`
+  std::uint32_t edgeCount = 0;      ///< can be 0
+
+  /// True if the triangles have no gaps, so that only their outer sides can be seen.
+  bool isClosed = false;
+};
+
+/// A map from mesh coordinates to world coordinates: origin + p.x * x + p.y * y + p.z * z. It keeps
+/// orientation.
+struct DisplayMatrix {
+  Vector3 x{1.0, 0.0, 0.0};  ///< the image of the x axis
+  Vector3 y{0.0, 1.0, 0.0};  ///< the image of the y axis
+  Vector3 z{0.0, 0.0, 1.0};  ///< the image of the z axis
+  Point3 origin;             ///< the image of the zero point
+};
+
+/// A line of the idealisation: the axis of a member, or an edge of the region of a surface.
+struct DisplayLoop {
+  std::uint32_t element = 0;     ///< the index in Building::elements
+  std::uint32_t firstPoint = 0;  ///< in `loopPoints`
+  std::uint32_t pointCount = 0;  ///< at least 2
+  bool isClosed = false;         ///< true if the last point is joined to the first one
+};
+
+/// What a building looks like: the solids of its elements as triangles, and the lines of the
+/// idealisation. Lengths are in metres. All numbers are finite.
+///
+/// Straight members with square ends share a mesh for each profile: the profile from x = 0 to x =
+/// 1. Their matrix scales x by the length. The mesh of another element is its own; its matrix moves
+/// it only.
+struct DisplayModel {
+  /// A point near the middle of all elements, in whole metres. `loopPoints` are relative to it.
+  /// Matrices are not.
+  Point3 origin;
+
+  std::vector<float> positions;  ///< 3 for each vertex, in mesh coordinates
+
+  /// 3 for each triangle: vertices, counted from the first vertex of the mesh. Counter-clockwise
+  /// from outside.
+  std::vector<std::uint32_t> triangles;
+
+  /// 2 for each edge that a drawing shows: vertices, counted from the first vertex of the mesh.
+  std::vector<std::uint32_t> edges;
+
+  std::vector<DisplayMesh> meshes;           ///< in the order of their first use
+  std::vector<std::uint32_t> elementMesh;    ///< by element: its mesh, or kNoDisplayMesh
+  std::vector<DisplayMatrix> elementMatrix;  ///< by element
+  std::vector<DisplayLoop> loops;            ///< by rising element
+  std::vector<float> loopPoints;             ///< 3 for each point
+};
+
+/// Makes the display model of a building. It reports progress as a share of 0 to 0.5 and throws
+/// ExportError: if it is cancelled, and with ExportFailure::kFile if an array would have more than
+/// 2^32 - 1 items.
+DisplayModel MakeDisplayModel(const Building& building, const ExportOptions& options);
+
+}  // namespace KelIFC::exporting
+
+#endif  // EXPORT_SOLIDS_DISPLAY_MODEL_H_

@@ -1,0 +1,21 @@
+# Only the format "sqlite" needs SQLite; a build without it lists the format as missing. A build for
+# another system, and another project that does not ask for the component, do not search for it.
+set(sqlite_default OFF)
+if(NOT CMAKE_CROSSCOMPILING AND (PROJECT_IS_TOP_LEVEL OR KELIFC_BUILD_SQLITE))
+  find_package(PkgConfig)
+  if(PKG_CONFIG_FOUND)
+    pkg_check_modules(KELIFC_SQLITE IMPORTED_TARGET GLOBAL sqlite3)
+    set(sqlite_default "${KELIFC_SQLITE_FOUND}")
+  endif()
+endif()
+option(KELIFC_BUILD_SQLITE "Build the export to databases of SQLite" ${sqlite_default})
+if(KELIFC_BUILD_SQLITE AND NOT TARGET PkgConfig::KELIFC_SQLITE)
+  message(FATAL_ERROR "KELIFC_BUILD_SQLITE needs SQLite, which pkg-config does not find")
+endif()
+if(KELIFC_BUILD_SQLITE)
+  target_sources(kelifc_export PRIVATE
+    sqlite/database.cpp sqlite/schema.cpp sqlite/write_sqlite.cpp)
+  target_link_libraries(kelifc_export PRIVATE PkgConfig::KELIFC_SQLITE)
+else()
+  target_sources(kelifc_export PRIVATE sqlite/not_built.cpp)
+endif()
