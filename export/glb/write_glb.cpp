@@ -34,12 +34,21 @@ std::string ChunkHeaderOf(std::uint64_t size, std::string_view type) {
   return bytes;
 }
 
-ExportResult ResultOf(const DisplayModel& model) {
+/// What the file holds and lacks. Elements come first.
+ExportResult ResultOf(const Building& building, const DisplayModel& model) {
   ExportResult result;
   const auto missing = static_cast<std::size_t>(
       std::count(model.elementMesh.begin(), model.elementMesh.end(), kNoDisplayMesh));
   result.elements = model.elementMesh.size() - missing;
   if (missing > 0) result.omissions.push_back({"elements without a solid", missing});
+  std::size_t openings = 0;
+  std::size_t layers = 0;
+  for (const BuildingElement& element : building.elements) {
+    openings += element.openings.size();
+    if (element.surface) layers += element.surface->layers.size();
+  }
+  if (openings > 0) result.omissions.push_back({"openings", openings});
+  if (layers > 0) result.omissions.push_back({"layers", layers});
   return result;
 }
 
@@ -66,7 +75,7 @@ ExportResult WriteGlb(const Building& building, const ExportOptions& options) {
     WriteBinary(model, layout, options, file);
   }
   file.Commit();
-  return ResultOf(model);
+  return ResultOf(building, model);
 }
 
 }  // namespace KelIFC::exporting

@@ -7,8 +7,8 @@
 
 namespace KelIFC::exporting {
 
-/// Writes a building as a binary file of glTF 2.0. Elements without a solid are left out and
-/// counted. Throws ExportError; a file of more than 4 GB cannot be written.
+/// Writes a building as a binary file of glTF 2.0. Elements without a solid, openings and layers
+/// are left out and counted. Throws ExportError; a file of more than 4 GB cannot be written.
 ExportResult WriteGlb(const Building& building, const ExportOptions& options);
 
 }  // namespace KelIFC::exporting

@@ -188,6 +188,18 @@ TEST_F(Glb, ElementsWithoutASolidAreCounted) {
   EXPECT_EQ(result.omissions[0].count, 1U);
 }
 
+TEST_F(Glb, OpeningsAndLayersAreCounted) {
+  building.elements[2].openings.resize(2);
+  building.elements[2].surface->layers.resize(3);
+  Write();
+  EXPECT_EQ(result.elements, 3U);
+  ASSERT_EQ(result.omissions.size(), 2U);
+  EXPECT_EQ(result.omissions[0].what, "openings");
+  EXPECT_EQ(result.omissions[0].count, 2U);
+  EXPECT_EQ(result.omissions[1].what, "layers");
+  EXPECT_EQ(result.omissions[1].count, 3U);
+}
+
 TEST_F(Glb, AnEmptyBuildingIsARootOnly) {
   building = Building();
   const GlbFile file = Write();
