@@ -116,9 +116,13 @@ TEST(LabelField, PlacesNoTextOutsideOfTheFrame) {
   LabelField field(kSheet);
   EXPECT_FALSE(field.PlaceAlong({100.0, 4.0}, {110.0, 4.0}, 0.1, "HEB220"));
   EXPECT_FALSE(field.PlaceBeside({{1e12, 1e12}}, "D240"));
+}
+
+TEST(LabelField, IgnoresABoxOrALineThatIsMuchLargerThanTheSheet) {
+  LabelField field(kSheet);
   field.Block(Outline{{-1e9, -1e9}, {1e9, 1e9}});
-  field.Block(PlanLine{{{-1e9, 0.0}, {1e9, 0.0}}, false});
-  EXPECT_FALSE(field.PlaceAlong({3.0, 4.0}, {7.0, 4.0}, 0.1, "HEB220"));
+  field.Block(PlanLine{{{-1e9, 4.15}, {1e9, 4.15}}, false});
+  EXPECT_TRUE(field.PlaceAlong({3.0, 4.0}, {7.0, 4.0}, 0.1, "HEB220"));
 }
 
 }  // namespace
