@@ -19,6 +19,8 @@ constexpr double kGap = 0.8;                   // between a label and what it la
 constexpr double kAscent = 0.75 * kLabelSize;  // the height of capital letters
 constexpr std::size_t kLongestLabel = 32;      // in characters
 
+constexpr std::size_t kMostLineSteps = 10'000'000;
+
 // The places in an outline that are tried for its label, as shares of its box.
 constexpr double kShares[] = {0.5, 0.42, 0.58, 0.34, 0.66, 0.26, 0.74, 0.18, 0.82};
 
@@ -32,6 +34,17 @@ std::array<Vector2, 2> DirectionsOf(const Label& label) {
   const double angle = label.angle * std::numbers::pi / 180.0;
   const Vector2 along(std::cos(angle), std::sin(angle));
   return {along, Vector2(along.y, -along.x)};
+}
+
+// Calls visit with values from `from` to `to` that are at most a step apart; with none if `from` is
+// greater.
+template <typename Visit>
+void ForEachStep(double from, double to, double step, Visit visit) {
+  if (!(from <= to)) return;
+  const auto count = static_cast<std::size_t>((to - from) / step) + 1;
+  for (std::size_t i = 0; i <= count; ++i) {
+    visit(std::min(from + step * static_cast<double>(i), to));
+  }
 }
 
 PaperBox BoxOnPaper(const Outline& world, const Sheet& sheet) {
@@ -106,7 +119,9 @@ std::string SlabLabelOf(const BuildingElement& element) {
 }
 
 LabelField::LabelField(const Sheet& sheet)
-    : sheet(sheet), columns(static_cast<std::size_t>(sheet.GetPaper().width / kCell) + 1) {
+    : sheet(sheet),
+      columns(static_cast<std::size_t>(sheet.GetPaper().width / kCell) + 1),
+      lineBudget(kMostLineSteps) {
   const auto rows = static_cast<std::size_t>(sheet.GetPaper().height / kCell) + 1;
   isTaken.resize(columns * rows);
 }
@@ -123,15 +138,17 @@ std::size_t LabelField::CellOf(const Point2& paper) const {
 
 void LabelField::Block(const Outline& world) {
   const PaperBox box = BoxOnPaper(world, sheet);
+  constexpr double kLargestColumn = 50.0;  // in millimetres
+  if (std::max(box.right - box.left, box.bottom - box.top) > kLargestColumn) return;
   const Paper& paper = sheet.GetPaper();
   const double right = std::min(box.right, paper.width);
   const double bottom = std::min(box.bottom, paper.height);
-  for (double y = std::max(box.top, 0.0); y < bottom + kCell; y += kCell) {
-    for (double x = std::max(box.left, 0.0); x < right + kCell; x += kCell) {
-      const std::size_t cell = CellOf({std::min(x, right), std::min(y, bottom)});
+  ForEachStep(std::max(box.top, 0.0), bottom, kCell, [&](double y) {
+    ForEachStep(std::max(box.left, 0.0), right, kCell, [&](double x) {
+      const std::size_t cell = CellOf({x, y});
       if (cell < isTaken.size()) isTaken[cell] = true;
-    }
-  }
+    });
+  });
 }
 
 void LabelField::Block(const PlanLine& line) {
@@ -144,6 +161,8 @@ void LabelField::Block(const PlanLine& line) {
     const double length = Length(along);
     if (!(length <= longest)) continue;
     const auto steps = static_cast<std::size_t>(length / (0.5 * kCell)) + 1;
+    if (steps > lineBudget) return;
+    lineBudget -= steps;
     for (std::size_t k = 0; k <= steps; ++k) {
       const double share = static_cast<double>(k) / static_cast<double>(steps);
       const std::size_t cell = CellOf(a + along * share);
@@ -154,24 +173,25 @@ void LabelField::Block(const PlanLine& line) {
 
 bool LabelField::Place(Label label) {
   const double width = WidthOf(label.text);
-  const auto [along, up] = DirectionsOf(label);
+  const std::array<Vector2, 2> directions = DirectionsOf(label);
   std::vector<std::size_t> cells;
   constexpr double kStep = 0.5 * kCell;
-  for (double x = -0.5 * width; x <= 0.5 * width; x += kStep) {
-    for (double y = 0.0; y <= kAscent; y += kStep) {
-      const std::size_t cell = CellOf(label.at + along * x + up * y);
-      if (cell == isTaken.size() || isTaken[cell]) return false;
-      cells.push_back(cell);
-    }
-  }
-  if (cells.empty()) return false;
+  ForEachStep(-0.5 * width, 0.5 * width, kStep, [&](double x) {
+    ForEachStep(0.0, kAscent, kStep, [&](double y) {
+      cells.push_back(CellOf(label.at + directions[0] * x + directions[1] * y));
+    });
+  });
+  const bool isFree = std::all_of(cells.begin(), cells.end(), [&](std::size_t cell) {
+    return cell < isTaken.size() && !isTaken[cell];
+  });
+  if (!isFree) return false;
   for (const std::size_t cell : cells) isTaken[cell] = true;
   labels.push_back(std::move(label));
   return true;
 }
 
 bool LabelField::PlaceAlong(const Point2& from, const Point2& to, double halfWidth,
-                            std::string text) {
+                            const std::string& text) {
   const Point2 a = sheet.ToPaper(from);
   const Point2 b = sheet.ToPaper(to);
   const double length = Distance(a, b);
@@ -181,7 +201,7 @@ bool LabelField::PlaceAlong(const Point2& from, const Point2& to, double halfWid
   constexpr double kNearlyUpright = 89.5;  // such a line is read from the right
   if (label.angle > kNearlyUpright) label.angle -= 180.0;
   if (label.angle < -90.5) label.angle += 180.0;
-  label.text = std::move(text);
+  label.text = text;
   const Vector2 up = DirectionsOf(label)[1];
   const double beside = sheet.ToPaper(halfWidth) + kGap;
   for (const double share : {0.5, 0.35, 0.65}) {
@@ -193,7 +213,7 @@ bool LabelField::PlaceAlong(const Point2& from, const Point2& to, double halfWid
   return false;
 }
 
-bool LabelField::PlaceBeside(const Outline& world, std::string text) {
+bool LabelField::PlaceBeside(const Outline& world, const std::string& text) {
   if (text.empty() || world.empty()) return false;
   const PaperBox box = BoxOnPaper(world, sheet);
   const double half = 0.5 * WidthOf(text);
@@ -208,7 +228,7 @@ bool LabelField::PlaceBeside(const Outline& world, std::string text) {
   });
 }
 
-bool LabelField::PlaceIn(const Outline& world, std::string text) {
+bool LabelField::PlaceIn(const Outline& world, const std::string& text) {
   if (text.empty() || world.empty()) return false;
   const PaperBox box = BoxOnPaper(world, sheet);
   constexpr double kRoom = 1.5;  // how much larger than the text the outline is at least

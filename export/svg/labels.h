@@ -35,21 +35,22 @@ class LabelField {
  public:
   explicit LabelField(const Sheet& sheet);
 
-  /// Keeps labels away from a part of the drawing.
+  /// Keeps labels away from the box of a column. A larger box than that of a column is ignored.
   void Block(const Outline& world);
 
-  /// Keeps labels away from a line of the drawing.
+  /// Keeps labels away from a line of the drawing. The length of all such lines is limited; the
+  /// rest is ignored.
   void Block(const PlanLine& line);
 
   /// Places a text along a line of the world, at its middle or near to it. The text can be read
   /// from below or from the right. False if the line is too short or all places are taken.
-  bool PlaceAlong(const Point2& from, const Point2& to, double halfWidth, std::string text);
+  bool PlaceAlong(const Point2& from, const Point2& to, double halfWidth, const std::string& text);
 
   /// Places a text beside a box of the world. False if all places are taken.
-  bool PlaceBeside(const Outline& world, std::string text);
+  bool PlaceBeside(const Outline& world, const std::string& text);
 
   /// Places a text in the middle of an outline of the world. False if it has no room there.
-  bool PlaceIn(const Outline& world, std::string text);
+  bool PlaceIn(const Outline& world, const std::string& text);
 
   /// The labels in the order in which they were placed.
   const std::vector<Label>& Labels() const { return labels; }
@@ -61,6 +62,7 @@ class LabelField {
   const Sheet& sheet;
   std::size_t columns;
   std::vector<bool> isTaken;  // by cell
+  std::size_t lineBudget;     // how many more steps along lines are blocked
   std::vector<Label> labels;
 };
 

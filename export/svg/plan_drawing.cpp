@@ -70,21 +70,6 @@ Outline OnPlan(const std::vector<Point3>& points) {
   return outline;
 }
 
-// The holes that openings make in a slab: their outlines, and a cross in those with four corners.
-void AppendHoles(std::string& markup, const Sheet& sheet, const BuildingElement& element) {
-  for (const BuildingOpening& opening : element.openings) {
-    const Outline outline = OnPlan(opening.outline);
-    std::string data;
-    AppendPath(data, sheet, outline, true);
-    AppendPathElement(markup, {}, data);
-    if (outline.size() != 4) continue;
-    std::string cross;
-    AppendPath(cross, sheet, {outline[0], outline[2]}, false);
-    AppendPath(cross, sheet, {outline[1], outline[3]}, false);
-    AppendPathElement(markup, "cross", cross);
-  }
-}
-
 std::string_view ClassOf(OpeningKind kind) {
   const std::string_view text = TextOf(kind);
   return text.empty() ? "void" : text;
@@ -197,9 +182,21 @@ bool PlanDrawing::DrawFromAbove(std::size_t index, Layer layer, const Mesh& soli
   std::string& markup = LayerOf(layer);
   OpenGroup(markup, building, element, {});
   AppendPathElement(markup, {}, data);
-  if (IsFlat(element)) AppendHoles(markup, sheet, element);
+  if (IsFlat(element)) AppendHoles(markup, element);
   markup += "</g>\n";
   return true;
+}
+
+// The holes that openings make in a slab: their outlines, and a cross in those with four corners.
+void PlanDrawing::AppendHoles(std::string& markup, const BuildingElement& element) {
+  for (const BuildingOpening& opening : element.openings) {
+    const Outline outline = OnPlan(opening.outline);
+    AppendPathElement(markup, {}, PathOf({{outline, true}}));
+    if (outline.size() != 4) continue;
+    AppendPathElement(
+        markup, "cross",
+        PathOf({{{outline[0], outline[2]}, false}, {{outline[1], outline[3]}, false}}));
+  }
 }
 
 void PlanDrawing::KeepLabel(std::size_t index, Look look, const Mesh& solid) {

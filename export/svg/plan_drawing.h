@@ -76,6 +76,7 @@ class PlanDrawing {
 
   bool DrawCut(std::size_t index, const Mesh& solid);
   void AppendRest(std::string& markup, const BuildingElement& element, const Mesh& solid);
+  void AppendHoles(std::string& markup, const BuildingElement& element);
   std::string PathOf(const std::vector<PlanLine>& some);
   bool DrawFromAbove(std::size_t index, Layer layer, const Mesh& solid);
   void AppendGaps(const BuildingElement& element, const std::vector<GapLines>& gaps);

@@ -58,13 +58,15 @@ Sheet::Sheet(const BuildingBox& extent) : paper(&kA3) {
 }
 
 void Sheet::Choose(double width, double height) {
-  constexpr double kLargestFactor = 1e12;  // no building is larger
-  for (double factor = 1.0; factor <= kLargestFactor; factor *= 10.0) {
+  constexpr int kMostPowers = 12;  // of ten; no building is larger
+  double factor = 1.0;
+  for (int power = 0; power <= kMostPowers; ++power) {
     for (const Choice& choice : kChoices) {
       paper = choice.paper;
       scale = choice.scale * factor;
       if (Fits(choice, factor, width, height)) return;
     }
+    factor *= 10.0;
   }
 }
 

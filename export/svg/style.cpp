@@ -42,7 +42,7 @@ text { font-family: sans-serif; font-size: 2.5px; fill: #000 }
 // A line of a hatch across its square: its place, and the part of the square that it covers.
 struct HatchLine {
   double x = 0.0;
-  double share = 1.0;
+  double share = 0.0;
 };
 
 // A hatch is a square that repeats, turned by an angle. Lengths are in millimetres.
@@ -54,9 +54,9 @@ struct HatchPattern {
 };
 
 constexpr HatchPattern kPatterns[] = {
-    {Hatch::kGeneral, 2.5, 45.0, {{{0.6, 1.0}, {0.6, 1.0}}}},
+    {Hatch::kGeneral, 2.5, 45.0, {{{0.6, 1.0}, {}}}},
     {Hatch::kConcrete, 2.4, 45.0, {{{0.6, 1.0}, {1.8, 0.6}}}},
-    {Hatch::kMasonry, 1.2, 45.0, {{{0.6, 1.0}, {0.6, 1.0}}}},
+    {Hatch::kMasonry, 1.2, 45.0, {{{0.6, 1.0}, {}}}},
     {Hatch::kTimber, 1.6, -45.0, {{{0.4, 1.0}, {0.9, 1.0}}}},
 };
 
@@ -67,6 +67,7 @@ void AppendPattern(std::string& markup, const HatchPattern& pattern) {
   markup.append(" patternTransform=\"rotate(").append(Number(pattern.angle)).append(")\">");
   AppendBox(markup, "paper", {0.0, 0.0, pattern.size, pattern.size});
   for (const HatchLine& line : pattern.lines) {
+    if (line.share == 0.0) continue;
     AppendLine(markup, {}, {line.x, 0.0}, {line.x, pattern.size * line.share});
   }
   markup += "</pattern>\n";
