@@ -52,6 +52,16 @@ TEST(SolidOf, AnInclinedEndCutsAMember) {
   EXPECT_NEAR(VolumeOf(solid), 3.0 * 0.06, 1e-9);
 }
 
+TEST(SolidOf, TheEndsOfAWedgeMayOverlapALittle) {
+  const Building building = WithProfile();
+  BuildingElement wedge = MemberFrom(1, {0.0, 0.0, 0.0}, 0.1);
+  const double slope = std::sqrt(0.5);
+  wedge.member->ends[1] = EndPlane{{0.0, 0.0, 0.1 - 1e-5}, {slope, 0.0, slope}};
+  EXPECT_NEAR(VolumeOf(SolidOf(building, wedge)), 0.1 * 0.06, 1e-5);
+  wedge.member->ends[1] = EndPlane{{0.0, 0.0, 0.09}, {slope, 0.0, slope}};
+  EXPECT_TRUE(SolidOf(building, wedge).IsEmpty());
+}
+
 TEST(SolidOf, ASurfaceHasItsThicknessAndHoles) {
   BuildingElement slab = Slab(1, 5.0, 4.0);
   slab.surface->holes = {{{1.0, 1.0, 0.0}, {1.0, 2.0, 0.0}, {3.0, 2.0, 0.0}, {3.0, 1.0, 0.0}}};

@@ -18,7 +18,7 @@ class EarCutter {
     FindReflexNodes();
   }
 
-  std::vector<Triangle2> Cut() {
+  std::vector<Triangle2> Cut(ClockwiseParts clockwise) {
     std::vector<Triangle2> result;
     std::uint32_t node = 0;
     std::size_t left = CountFrom(node);
@@ -28,7 +28,10 @@ class EarCutter {
       if (isForced ? IsTolerable(node, failures > 2 * left) : IsEar(node)) {
         const std::uint32_t a = ring.previous[node];
         const std::uint32_t c = ring.next[node];
-        if (TurnAt(node) > 0.0) result.push_back({ring.point[a], ring.point[node], ring.point[c]});
+        const double turn = TurnAt(node);
+        if (turn > 0.0 || (turn < 0.0 && clockwise == ClockwiseParts::kKept)) {
+          result.push_back({ring.point[a], ring.point[node], ring.point[c]});
+        }
         ring.next[a] = c;
         ring.previous[c] = a;
         isGone[node] = true;
@@ -106,6 +109,8 @@ class EarCutter {
 
 }  // namespace
 
-std::vector<Triangle2> CutEars(PolygonRing& ring) { return EarCutter(ring).Cut(); }
+std::vector<Triangle2> CutEars(PolygonRing& ring, ClockwiseParts clockwise) {
+  return EarCutter(ring).Cut(clockwise);
+}
 
 }  // namespace KelIFC::building
