@@ -143,8 +143,8 @@ bool Summarise(std::FILE* file, const Entry& entry, XmlSummary& summary) {
   if (local.empty() || Number(local, 0, 4) != kLocalSignature) return false;
   if (entry.method != kDeflated) return false;
   std::size_t left = entry.size;
-  const long skipped = static_cast<long>(Number(local, 26, 2) + Number(local, 28, 2));
-  if (std::fseek(file, skipped, SEEK_CUR) != 0) return false;
+  const std::uint32_t skipped = Number(local, 26, 2) + Number(local, 28, 2);
+  if (std::fseek(file, static_cast<long>(skipped), SEEK_CUR) != 0) return false;
 
   z_stream stream = {};
   if (inflateInit2(&stream, -MAX_WBITS) != Z_OK) return false;

@@ -17,7 +17,7 @@ constexpr const char* kTexts = "<?xml?>\n<sst uniqueCount=\"2\"><si><t>a</t></si
 
 // Writes an archive with a sheet and a list of shared texts.
 std::string Archive(const TestFolder& folder, const std::string& sheet, const std::string& texts) {
-  const std::string path = folder / "a.xlsx";
+  std::string path = folder / "a.xlsx";
   std::filesystem::remove(path);
   zip_t* const archive = zip_open(path.c_str(), ZIP_CREATE, nullptr);
   const auto Add = [&](const char* name, const std::string& text) {
