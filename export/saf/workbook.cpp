@@ -3,12 +3,12 @@
 #include <xlsxwriter.h>
 
 #include <cmath>
-#include <cstdio>
 #include <ctime>
 #include <new>
 
 #include "export/export.h"
 #include "export/saf/cell_text.h"
+#include "export/saf/workbook_check.h"
 
 namespace KelIFC::exporting::saf {
 namespace {
@@ -27,12 +27,6 @@ void CheckError(const std::string& path, int error) {
   if (error == LXW_NO_ERROR) return;
   if (error == LXW_ERROR_MEMORY_MALLOC_FAILED) throw std::bad_alloc();
   Fail(path, lxw_strerror(static_cast<lxw_error>(error)));
-}
-
-// Rows that are written early go to a temporary file. The library does not report when that fails.
-bool IsTemporaryFileGood(const lxw_worksheet& worksheet) {
-  std::FILE* const file = worksheet.optimize_tmpfile;
-  return !file || (std::fflush(file) == 0 && std::ferror(file) == 0);
 }
 
 }  // namespace
@@ -68,6 +62,7 @@ void Table::Set(std::string_view column, double value) {
   if (!std::isfinite(value)) return;
   const double written = value == 0.0 ? 0.0 : value;  // without the sign of a negative zero
   Check(worksheet_write_number(worksheet, static_cast<lxw_row_t>(used), place, written, nullptr));
+  ++cells;
 }
 
 void Table::WriteText(std::size_t row, std::size_t column, std::string_view text) {
@@ -76,10 +71,11 @@ void Table::WriteText(std::size_t row, std::size_t column, std::string_view text
   if (fitted.isShortened) ++shortened;
   Check(worksheet_write_string(worksheet, static_cast<lxw_row_t>(row),
                                static_cast<lxw_col_t>(column), fitted.text.c_str(), nullptr));
+  ++cells;
 }
 
 Workbook::Workbook(const std::string& path, const std::string& shownPath, bool isLarge)
-    : shownPath(shownPath) {
+    : path(path), shownPath(shownPath) {
   lxw_workbook_options options = {};
   options.constant_memory = isLarge ? LXW_TRUE : LXW_FALSE;
   workbook = workbook_new_opt(path.c_str(), &options);
@@ -109,15 +105,12 @@ Workbook::~Workbook() {
 }
 
 void Workbook::Close() {
-  for (const SheetColumns& sheet : Sheets()) {
-    const std::string name(sheet.name);
-    const lxw_worksheet* const worksheet = workbook_get_worksheet_by_name(workbook, name.c_str());
-    if (worksheet && !IsTemporaryFileGood(*worksheet))
-      Fail(shownPath, "a temporary file cannot be written");
-  }
   lxw_workbook* const closed = workbook;
   workbook = nullptr;  // workbook_close frees it
   CheckError(shownPath, workbook_close(closed));
+  std::vector<std::size_t> cells;
+  for (const Table& table : storage) cells.push_back(table.GetCells());
+  if (!IsWorkbookComplete(path, cells)) Fail(shownPath, "a temporary file cannot be written");
 }
 
 std::size_t Workbook::GetShortenedTexts() const {

@@ -57,6 +57,9 @@ class Table {
   /// How many texts were too long for a cell.
   std::size_t GetShortenedTexts() const { return shortened; }
 
+  /// How many cells were written, with the headers. A cell must not be written twice.
+  std::size_t GetCells() const { return cells; }
+
  private:
   void Check(int error) const;
   void WriteText(std::size_t row, std::size_t column, std::string_view text);
@@ -67,6 +70,7 @@ class Table {
   std::unordered_map<std::string_view, std::uint16_t> places;  // of the columns
   std::size_t used = 0;                                        // rows below the headers
   std::size_t shortened = 0;
+  std::size_t cells = 0;
 };
 
 /// A workbook with all sheets of Sheets(). The same calls give the same bytes.
@@ -85,7 +89,7 @@ class Workbook {
   /// The sheet of a name, which must be one of Sheets().
   Table& operator[](std::string_view sheet) { return *tables.at(sheet); }
 
-  /// Writes the file. It is called once, at the end.
+  /// Writes the file and checks that it is complete. It is called once, at the end.
   void Close();
 
   /// How many texts were too long for a cell.
@@ -95,6 +99,7 @@ class Workbook {
   void AddSheets();
 
   NumericLocale locale;
+  std::string path;
   std::string shownPath;
   lxw_workbook* workbook;
   std::deque<Table> storage;

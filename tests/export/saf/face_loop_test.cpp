@@ -55,10 +55,11 @@ TEST(FaceLoop, JoinsManyHoles) {
   Mesh mesh;
   mesh.BeginFace();
   mesh.AddLoop(AddRectangle(mesh, {0.0, 0.0}, {20.0, 20.0}, false));
-  for (int i = 0; i < 100; ++i) {
-    const double x = 1.0 + 1.8 * (i % 10);
-    const double y = 1.0 + 1.8 * (i / 10);
-    mesh.AddLoop(AddRectangle(mesh, {x, y}, {x + 1.0, y + 1.0}, true));
+  for (int row = 0; row < 10; ++row) {
+    for (int column = 0; column < 10; ++column) {
+      const Point2 low(1.0 + 1.8 * column, 1.0 + 1.8 * row);
+      mesh.AddLoop(AddRectangle(mesh, low, {low.x + 1.0, low.y + 1.0}, true));
+    }
   }
   const FaceLoop loop = SingleLoopOf(mesh, 0);
   EXPECT_EQ(loop.points.size(), 4U + 100U * 6U);
