@@ -13,6 +13,7 @@ option(KELIFC_BUILD_COMMAND "Build the kelifc command; needs CLI11 and nlohmann-
   ${PROJECT_IS_TOP_LEVEL})
 cmake_dependent_option(KELIFC_BUILD_TESTS "Build the tests; needs GoogleTest"
   ${PROJECT_IS_TOP_LEVEL} BUILD_TESTING OFF)
+option(KELIFC_BUILD_PYTHON "Build the Python module; needs pybind11 and the command" OFF)
 option(KELIFC_BUILD_BENCHMARKS "Build the benchmarks; needs Google Benchmark and Python" OFF)
 option(KELIFC_BUILD_FUZZERS "Build the fuzz targets, with clang++ and -fsanitize=fuzzer-no-link" OFF)
 option(KELIFC_BUILD_DOCS "Build the documentation site; needs Doxygen, MkDocs and npm" OFF)

@@ -82,6 +82,7 @@ set(kelifc_public_headers
   kelifc/platform/guid.h
   kelifc/schema/attribute_table.h
   kelifc/schema/attribute_value.h
+  kelifc/schema/write_attribute.h
   kelifc/schema/common.h
   kelifc/schema/dimensional_exponents.h
   kelifc/server/detail/instance_index.h
@@ -96,7 +97,8 @@ set(kelifc_public_headers
   kelifc/server/report_format.h
   kelifc/server/same_values.h
   kelifc/server/save_options.h
-  kelifc/server/statement_place.h)
+  kelifc/server/statement_place.h
+  kelifc/server/statement_text.h)
 
 # The headers that the generators write, relative to PROJECT_BINARY_DIR/generated. The folders that
 # run a generator add the full paths to the property.

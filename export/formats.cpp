@@ -1,6 +1,7 @@
 #include "export/csv/write_csv.h"
 #include "export/export.h"
 #include "export/glb/write_glb.h"
+#include "export/saf/write_saf.h"
 #include "export/sqlite/write_sqlite.h"
 #include "export/svg/write_svg.h"
 #include "export/view/write_page.h"
@@ -14,6 +15,7 @@ const std::vector<ExportFormat>& ExportFormats() {
       {"svg", "", "", exporting::WriteSvg},
       {"csv", "", "", exporting::WriteCsv},
       exporting::SqliteFormat(),
+      exporting::SafFormat(),
       exporting::PageFormat(),
   };
   return formats;

@@ -59,10 +59,12 @@
 #include "kelifc/schema/ifc2x.h"
 #include "kelifc/schema/ifc2x2.h"
 #include "kelifc/schema/ifc2x3.h"
+#include "kelifc/schema/write_attribute.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/load_options.h"
 #include "kelifc/server/report_format.h"
 #include "kelifc/server/same_values.h"
+#include "kelifc/server/statement_text.h"
 
 #endif  // KELIFC_KELIFC_H_

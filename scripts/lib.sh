@@ -8,7 +8,7 @@ cd "$root"
 
 build_packages=(g++ cmake ninja-build pkg-config python3 libgtest-dev libgmock-dev libbenchmark-dev
   libcli11-dev nlohmann-json3-dev zlib1g-dev libzip-dev libsqlite3-dev
-  libxlsxwriter-dev)
+  libxlsxwriter-dev python3-openpyxl)
 
 # install_missing PACKAGE...: installs those of the Debian packages that are missing.
 install_missing() {

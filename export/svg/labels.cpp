@@ -4,6 +4,7 @@
 #include <array>
 #include <cmath>
 #include <numbers>
+#include <string_view>
 #include <utility>
 
 #include "export/svg/element_form.h"
@@ -18,6 +19,9 @@ constexpr double kGap = 0.8;                   // between a label and what it la
 constexpr double kAscent = 0.75 * kLabelSize;  // the height of capital letters
 constexpr std::size_t kLongestLabel = 32;      // in characters
 
+// The places in an outline that are tried for its label, as shares of its box.
+constexpr double kShares[] = {0.5, 0.42, 0.58, 0.34, 0.66, 0.26, 0.74, 0.18, 0.82};
+
 double WidthOf(const std::string& text) {
   constexpr double kCharacterWidth = 0.58;  // of a usual sans-serif font, as a share of its size
   return static_cast<double>(LengthOf(text)) * kCharacterWidth * kLabelSize;
@@ -31,12 +35,8 @@ std::array<Vector2, 2> DirectionsOf(const Label& label) {
 }
 
 PaperBox BoxOnPaper(const Outline& world, const Sheet& sheet) {
-  PaperBox box{1e300, 1e300, -1e300, -1e300};
-  for (const Point2& p : world) {
-    const Point2 paper = sheet.ToPaper(p);
-    box = {std::min(box.left, paper.x), std::min(box.top, paper.y), std::max(box.right, paper.x),
-           std::max(box.bottom, paper.y)};
-  }
+  PaperBox box = kNoBox;
+  for (const Point2& p : world) Extend(box, sheet.ToPaper(p));
   return box;
 }
 
@@ -57,19 +57,37 @@ std::string Millimetres(double metres) {
   return text;
 }
 
-std::string SizesOf(const BuildingProfile& profile) {
-  switch (profile.shape) {
-    case ProfileShape::kRectangle:
-    case ProfileShape::kRoundedRectangle:
-    case ProfileShape::kHollowRectangle:
-      return Millimetres(profile[ProfileParameter::kB]) + "x" +
-             Millimetres(profile[ProfileParameter::kH]);
-    case ProfileShape::kCircle:
-    case ProfileShape::kHollowCircle:
-      return "D" + Millimetres(profile[ProfileParameter::kD]);
+// The letter of a shape before its sizes.
+std::string_view PrefixOf(ProfileShape shape) {
+  switch (shape) {
+    case ProfileShape::kI:
+    case ProfileShape::kAsymmetricI:
+      return "I ";
+    case ProfileShape::kU:
+      return "U ";
+    case ProfileShape::kL:
+      return "L ";
+    case ProfileShape::kT:
+      return "T ";
+    case ProfileShape::kZ:
+      return "Z ";
+    case ProfileShape::kC:
+      return "C ";
     default:
       return {};
   }
+}
+
+// The diameter, or the width and the height of the outline.
+std::string SizesOf(const BuildingProfile& profile) {
+  if (profile.shape == ProfileShape::kCircle || profile.shape == ProfileShape::kHollowCircle) {
+    return "D" + Millimetres(profile[ProfileParameter::kD]);
+  }
+  PaperBox box = kNoBox;
+  for (const Point2& p : profile.outline) Extend(box, p);
+  if (!(box.left < box.right)) return {};
+  return std::string(PrefixOf(profile.shape)) + Millimetres(box.right - box.left) + "x" +
+         Millimetres(box.bottom - box.top);
 }
 
 }  // namespace
@@ -111,6 +129,24 @@ void LabelField::Block(const Outline& world) {
   for (double y = std::max(box.top, 0.0); y < bottom + kCell; y += kCell) {
     for (double x = std::max(box.left, 0.0); x < right + kCell; x += kCell) {
       const std::size_t cell = CellOf({std::min(x, right), std::min(y, bottom)});
+      if (cell < isTaken.size()) isTaken[cell] = true;
+    }
+  }
+}
+
+void LabelField::Block(const PlanLine& line) {
+  const std::size_t count = line.points.size();
+  const Paper& paper = sheet.GetPaper();
+  const double longest = paper.width + paper.height;
+  for (std::size_t i = line.isClosed ? 0 : 1; i < count; ++i) {
+    const Point2 a = sheet.ToPaper(line.points[i > 0 ? i - 1 : count - 1]);
+    const Vector2 along = sheet.ToPaper(line.points[i]) - a;
+    const double length = Length(along);
+    if (!(length <= longest)) continue;
+    const auto steps = static_cast<std::size_t>(length / (0.5 * kCell)) + 1;
+    for (std::size_t k = 0; k <= steps; ++k) {
+      const double share = static_cast<double>(k) / static_cast<double>(steps);
+      const std::size_t cell = CellOf(a + along * share);
       if (cell < isTaken.size()) isTaken[cell] = true;
     }
   }
@@ -179,9 +215,11 @@ bool LabelField::PlaceIn(const Outline& world, std::string text) {
   const double width = box.right - box.left;
   const double height = box.bottom - box.top;
   if (width < kRoom * WidthOf(text) || height < 2.0 * kRoom * kLabelSize) return false;
-  for (const double share : {0.5, 0.4, 0.6, 0.3, 0.7}) {
-    const Point2 at(0.5 * (box.left + box.right), box.top + share * height);
-    if (IsInside(world, sheet.ToWorld(at)) && Place({at, 0.0, text})) return true;
+  for (const double down : kShares) {
+    for (const double across : kShares) {
+      const Point2 at(box.left + across * width, box.top + down * height);
+      if (IsInside(world, sheet.ToWorld(at)) && Place({at, 0.0, text})) return true;
+    }
   }
   return false;
 }

@@ -23,7 +23,7 @@ struct Label {
 };
 
 /// The name of the profile of a member: its designation, the name in the file, or its sizes in
-/// millimetres. Empty for other elements and for a profile without any of them.
+/// millimetres, width before height. Empty for other elements.
 std::string ProfileLabelOf(const Building& building, const BuildingElement& element);
 
 /// The thickness of a flat surface and the height of its upper face, such as "h 200 / +2.800".
@@ -37,6 +37,9 @@ class LabelField {
 
   /// Keeps labels away from a part of the drawing.
   void Block(const Outline& world);
+
+  /// Keeps labels away from a line of the drawing.
+  void Block(const PlanLine& line);
 
   /// Places a text along a line of the world, at its middle or near to it. The text can be read
   /// from below or from the right. False if the line is too short or all places are taken.

@@ -134,7 +134,7 @@ Outline ConvexHull(std::vector<Point2> points) {
   return hull;
 }
 
-std::vector<PlanLine> LinesFromAbove(const Mesh& solid) {
+std::vector<PlanLine> LinesFromAbove(const Mesh& solid, const HeightRange& range) {
   std::vector<Vector3> normals(solid.FaceCount());
   std::vector<UpEdge> edges;
   for (std::size_t face = 0; face < solid.FaceCount(); ++face) {
@@ -142,7 +142,13 @@ std::vector<PlanLine> LinesFromAbove(const Mesh& solid) {
     if (normals[face].z > kLooksUp) AddEdges(solid, face, edges);
   }
   if (edges.empty()) return HullLine(solid);
-  return Join(solid, VisibleEdges(std::move(edges), normals));
+  edges = VisibleEdges(std::move(edges), normals);
+  const auto isOutside = [&](const UpEdge& edge) {
+    const double z = 0.5 * (solid.points[edge.from].z + solid.points[edge.to].z);
+    return z < range.low || z >= range.high;
+  };
+  edges.erase(std::remove_if(edges.begin(), edges.end(), isOutside), edges.end());
+  return Join(solid, std::move(edges));
 }
 
 std::vector<PlanLine> LinesFromAbove(const BuildingElement& element, const Mesh& solid) {

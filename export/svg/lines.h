@@ -19,9 +19,16 @@ struct PlanLine {
 /// on a line.
 Outline ConvexHull(std::vector<Point2> points);
 
-/// The lines that show a solid from above: the rims and the folds of its faces that look upwards.
-/// If no face does, the hull of its points.
-std::vector<PlanLine> LinesFromAbove(const Mesh& solid);
+/// A range of z, in metres.
+struct HeightRange {
+  double low = -1e300;
+  double high = 1e300;
+};
+
+/// The lines that show a solid from above: the rims and the folds of its faces that look upwards,
+/// as far as the middle of an edge is in the range. If no face looks upwards, the hull of the
+/// points.
+std::vector<PlanLine> LinesFromAbove(const Mesh& solid, const HeightRange& range = {});
 
 /// The lines that show an element from above. A straight member that is not upright is shown by
 /// the hull of its solid, without the edges inside of its profile.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <map>
 #include <unordered_map>
 #include <utility>
 
@@ -10,13 +11,15 @@
 namespace KelIFC::exporting::svg {
 namespace {
 
-constexpr double kCutAboveFloor = 1.2;  // the height of the cut above the floor, in metres
-constexpr double kCutShareOfLow = 0.6;  // the same as a share of the height of a low storey
-constexpr double kSameHeight = 1e-3;    // heights that differ by less are one, in metres
-constexpr double kSameCut = 0.05;       // cuts that differ by less show the same, in metres
-constexpr double kFloorBuildUp = 0.4;   // the top of a floor slab is at most so far below a floor
-constexpr double kAboveCeiling = 0.3;   // an element of a storey begins at most so far above it
-constexpr double kBelowFloor = 1.0;     // and it ends at most so far below its floor
+constexpr double kCutAboveFloor = 1.2;   // the height of the cut above the floor, in metres
+constexpr double kCutShareOfLow = 0.6;   // the same as a share of the height of a low storey
+constexpr double kLeastCutHeight = 0.5;  // lower content is not cut: it is a floor
+constexpr double kTallStorey = 4.0;      // a ceiling is not higher above its floor
+constexpr double kSameHeight = 1e-3;     // heights that differ by less are one, in metres
+constexpr double kSameCut = 0.05;        // cuts that differ by less show the same, in metres
+constexpr double kFloorBuildUp = 0.4;    // the top of a floor slab is at most so far below a floor
+constexpr double kAboveCeiling = 0.3;    // an element of a storey begins at most so far above it
+constexpr double kBelowFloor = 1.0;      // and it ends at most so far below its floor
 constexpr std::size_t kFurtherItems = 20;  // of an element, on average
 constexpr std::size_t kFreeFurtherItems = 100'000;
 constexpr std::size_t kPointsPerCost = 100;  // so many points of a body cost as much as an item
@@ -45,6 +48,8 @@ std::size_t CostOf(const BuildingElement& element) {
   return 1 + (mesh ? mesh->points.size() / kPointsPerCost : 0);
 }
 
+double MillimetresOf(const BuildingStorey& storey) { return std::round(storey.elevation * 1000.0); }
+
 // The lowest and the highest z of the elements of a plan.
 struct Content {
   double low = 1e300;
@@ -59,6 +64,7 @@ class Arrangement {
     for (std::size_t i = 0; i < building.storeys.size(); ++i) {
       plans[i + 1].storey = &building.storeys[i];
       planOfStorey.emplace(building.storeys[i].id, i + 1);
+      if (building.storeys[i].hasElevation) ++storeysAt[MillimetresOf(building.storeys[i])];
     }
   }
 
@@ -111,21 +117,31 @@ class Arrangement {
   }
 
   // A floor is at the elevation of the storey. It is at the lowest point of the elements if there
-  // is no elevation, or if all elements are so far away that the elevation must be wrong.
-  static void SetHeight(Plan& plan, const Content& content) {
-    const bool hasContent = content.low <= content.high;
+  // is no elevation, or if the elevation must be wrong.
+  void SetHeight(Plan& plan, const Content& content) const {
     const bool hasElevation = plan.storey != nullptr && plan.storey->hasElevation;
     double above = kCutAboveFloor;
-    plan.floor = hasContent ? content.low : 0.0;
-    if (hasElevation) {
-      const double elevation = plan.storey->elevation;
-      const bool isWrong =
-          !plan.storey->height && hasContent && content.high - content.low >= kCutAboveFloor &&
-          (content.low >= elevation + kCutAboveFloor || content.high <= elevation - kBelowFloor);
-      if (!isWrong) plan.floor = elevation;
+    if (hasElevation && !IsWrong(*plan.storey, content)) {
+      plan.floor = plan.storey->elevation;
       if (plan.storey->height) above = std::min(above, kCutShareOfLow * *plan.storey->height);
+    } else if (content.low <= content.high) {
+      plan.floor = content.low;
+      const double height = content.high - content.low;
+      if (height > kLeastCutHeight) above = std::min(above, kCutShareOfLow * height);
     }
     plan.cut = plan.floor + above;
+  }
+
+  // True if the elevation of a storey has nothing to do with its elements: all lie far below it, or
+  // beyond its cut without being the beams of its ceiling. A storey with a storey above it is
+  // right.
+  bool IsWrong(const BuildingStorey& storey, const Content& content) const {
+    if (storey.height || content.low > content.high) return false;
+    if (content.high <= storey.elevation - kBelowFloor) return true;
+    if (content.low < storey.elevation + kCutAboveFloor) return false;
+    const bool isTall = content.high - content.low >= kCutAboveFloor;
+    return isTall || content.low >= storey.elevation + kTallStorey ||
+           storeysAt.at(MillimetresOf(storey)) > 1;
   }
 
   void SortCuts() {
@@ -203,7 +219,8 @@ class Arrangement {
   const Building& building;
   std::vector<Plan> plans;
   std::unordered_map<std::size_t, std::size_t> planOfStorey;  // by instance number
-  std::vector<std::pair<double, std::size_t>> cuts;           // by height, with the plan
+  std::map<double, std::size_t> storeysAt;           // how many, by elevation in millimetres
+  std::vector<std::pair<double, std::size_t>> cuts;  // by height, with the plan
   std::size_t leftOut = 0;
 };
 

@@ -63,12 +63,6 @@ void OpenGroup(std::string& markup, const Building& building, const BuildingElem
   markup.append("><title>").append(XmlText(TitleOf(building, element))).append("</title>");
 }
 
-std::string PathOf(const std::vector<PlanLine>& lines, const Sheet& sheet) {
-  std::string data;
-  for (const PlanLine& line : lines) AppendPath(data, sheet, line.points, line.isClosed);
-  return data;
-}
-
 Outline OnPlan(const std::vector<Point3>& points) {
   Outline outline;
   outline.reserve(points.size());
@@ -94,18 +88,6 @@ void AppendHoles(std::string& markup, const Sheet& sheet, const BuildingElement&
 std::string_view ClassOf(OpeningKind kind) {
   const std::string_view text = TextOf(kind);
   return text.empty() ? "void" : text;
-}
-
-// The lines that are seen in the openings of a cut element.
-void AppendGaps(std::string& markup, const Sheet& sheet, const BuildingElement& element,
-                const std::vector<GapLines>& gaps) {
-  for (const GapLines& gap : gaps) {
-    markup.append("<g class=\"").append(ClassOf(element.openings[gap.opening].kind));
-    markup += "\">";
-    AppendPathElement(markup, "face", PathOf(gap.faces, sheet));
-    AppendPathElement(markup, "middle", PathOf({{gap.middle, false}}, sheet));
-    markup += "</g>\n";
-  }
 }
 
 // Half of the extent of a solid square to a line, in metres.
@@ -145,6 +127,9 @@ bool PlanDrawing::Draw(const PlanItem& item) {
   if (!isDrawn) isDrawn = DrawFromAbove(item.element, LayerFromAbove(element, look), solid);
   if (!isDrawn) return false;
   ++looks[static_cast<std::size_t>(look)];
+  const BuildingBox& box = element.box;
+  Extend(drawnBox, sheet.ToPaper(Point2(box.min.x, box.min.y)));
+  Extend(drawnBox, sheet.ToPaper(Point2(box.max.x, box.max.y)));
   if (item.hasLabel || look == Look::kCut) KeepLabel(item.element, look, solid);
   return true;
 }
@@ -163,21 +148,51 @@ bool PlanDrawing::DrawCut(std::size_t index, const Mesh& solid) {
     for (const Outline& loop : loops) {
       AppendPath(fill, sheet, loop, true);
       if (IsColumn(element)) field.Block(loop);
+      if (CutLayerOf(element) == Layer::kParts) continue;
+      for (const Point2& p : loop) Extend(cutBox, sheet.ToPaper(p));
     }
   }
   AppendPathElement(markup, "fill", fill);
-  AppendPathElement(markup, "edge", PathOf(drawn.edges, sheet));
-  if (IsSloping(element)) {
-    AppendPathElement(markup, "slope", PathOf(LinesFromAbove(element, solid), sheet));
-  }
+  AppendPathElement(markup, "edge", PathOf(drawn.edges));
+  AppendRest(markup, element, solid);
   markup += "</g>\n";
-  AppendGaps(LayerOf(Layer::kOpenings), sheet, element, drawn.gaps);
+  AppendGaps(element, drawn.gaps);
   return true;
+}
+
+// What a cut element shows besides its cut: all of a sloping one, and the steps of a stair.
+void PlanDrawing::AppendRest(std::string& markup, const BuildingElement& element,
+                             const Mesh& solid) {
+  if (IsSloping(element)) {
+    AppendPathElement(markup, "slope", PathOf(LinesFromAbove(element, solid)));
+  } else if (element.kind == ElementKind::kBody && CutLayerOf(element) == Layer::kParts) {
+    AppendPathElement(markup, "visible", PathOf(LinesFromAbove(solid, {-1e300, plan.cut})));
+    AppendPathElement(markup, "slope", PathOf(LinesFromAbove(solid, {plan.cut, 1e300})));
+  }
+}
+
+// The lines that are seen in the openings of a cut element.
+void PlanDrawing::AppendGaps(const BuildingElement& element, const std::vector<GapLines>& gaps) {
+  std::string& markup = LayerOf(Layer::kOpenings);
+  for (const GapLines& gap : gaps) {
+    markup.append("<g class=\"").append(ClassOf(element.openings[gap.opening].kind));
+    markup += "\">";
+    AppendPathElement(markup, "face", PathOf(gap.faces));
+    AppendPathElement(markup, "middle", PathOf({{gap.middle, false}}));
+    markup += "</g>\n";
+  }
+}
+
+std::string PlanDrawing::PathOf(const std::vector<PlanLine>& some) {
+  std::string data;
+  for (const PlanLine& line : some) AppendPath(data, sheet, line.points, line.isClosed);
+  lines.insert(lines.end(), some.begin(), some.end());
+  return data;
 }
 
 bool PlanDrawing::DrawFromAbove(std::size_t index, Layer layer, const Mesh& solid) {
   const BuildingElement& element = building.elements[index];
-  const std::string data = PathOf(LinesFromAbove(element, solid), sheet);
+  const std::string data = PathOf(LinesFromAbove(element, solid));
   if (data.empty()) return false;
   std::string& markup = LayerOf(layer);
   OpenGroup(markup, building, element, {});
@@ -213,26 +228,35 @@ void PlanDrawing::KeepLabel(std::size_t index, Look look, const Mesh& solid) {
 }
 
 void PlanDrawing::PlaceLabels() {
-  // Labels with the least choice of places come first.
-  std::stable_sort(
-      waiting.begin(), waiting.end(),
-      [](const WaitingLabel& a, const WaitingLabel& b) { return a.placing < b.placing; });
-  for (WaitingLabel& label : waiting) {
-    const BuildingElement& element = building.elements[label.element];
-    if (label.placing == Placing::kIn) {
-      field.PlaceIn(label.outline, SlabLabelOf(element));
-      continue;
+  // A label with little choice of places comes before one with more. Those in slabs come last and
+  // avoid all lines.
+  for (const Placing placing : {Placing::kBeside, Placing::kAlong, Placing::kIn}) {
+    if (placing == Placing::kIn) {
+      for (const PlanLine& line : lines) field.Block(line);
     }
-    std::string text = ProfileLabelOf(building, element);
-    if (label.placing == Placing::kBeside) {
-      field.PlaceBeside(label.outline, std::move(text));
-    } else {
-      field.PlaceAlong(label.outline[0], label.outline[1], label.halfWidth, std::move(text));
+    for (const WaitingLabel& label : waiting) {
+      if (label.placing == placing) PlaceLabel(label);
     }
   }
   std::string& markup = LayerOf(Layer::kTexts);
   for (const Label& label : field.Labels()) {
     AppendText(markup, label.at, label.text, {{}, label.angle});
+  }
+}
+
+void PlanDrawing::PlaceLabel(const WaitingLabel& label) {
+  const BuildingElement& element = building.elements[label.element];
+  switch (label.placing) {
+    case Placing::kBeside:
+      field.PlaceBeside(label.outline, ProfileLabelOf(building, element));
+      break;
+    case Placing::kAlong:
+      field.PlaceAlong(label.outline[0], label.outline[1], label.halfWidth,
+                       ProfileLabelOf(building, element));
+      break;
+    case Placing::kIn:
+      field.PlaceIn(label.outline, SlabLabelOf(element));
+      break;
   }
 }
 

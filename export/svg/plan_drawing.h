@@ -10,6 +10,7 @@
 
 #include "kelifc/building/building.h"
 
+#include "export/svg/cut_with_gaps.h"
 #include "export/svg/element_form.h"
 #include "export/svg/labels.h"
 #include "export/svg/lines.h"
@@ -55,6 +56,11 @@ class PlanDrawing {
   /// How many elements are drawn with a look.
   std::size_t CountOf(Look look) const { return looks[static_cast<std::size_t>(look)]; }
 
+  /// The box on the paper of all that is drawn, and that of the walls and columns that are
+  /// cut. Each may be empty.
+  const PaperBox& GetDrawnBox() const { return drawnBox; }
+  const PaperBox& GetCutBox() const { return cutBox; }
+
   /// True if a hatch is used.
   bool IsUsed(Hatch hatch) const { return hatches[static_cast<std::size_t>(hatch)]; }
 
@@ -69,7 +75,11 @@ class PlanDrawing {
   };
 
   bool DrawCut(std::size_t index, const Mesh& solid);
+  void AppendRest(std::string& markup, const BuildingElement& element, const Mesh& solid);
+  std::string PathOf(const std::vector<PlanLine>& some);
   bool DrawFromAbove(std::size_t index, Layer layer, const Mesh& solid);
+  void AppendGaps(const BuildingElement& element, const std::vector<GapLines>& gaps);
+  void PlaceLabel(const WaitingLabel& label);
   void KeepLabel(std::size_t index, Look look, const Mesh& solid);
   std::string& LayerOf(Layer layer) { return layers[static_cast<std::size_t>(layer)]; }
 
@@ -79,6 +89,9 @@ class PlanDrawing {
   std::array<std::string, kLayerCount> layers;
   std::array<std::size_t, 4> looks = {};
   std::array<bool, kHatchCount> hatches = {};
+  PaperBox drawnBox = kNoBox;
+  PaperBox cutBox = kNoBox;
+  std::vector<PlanLine> lines;  // which labels of slabs avoid
   std::vector<WaitingLabel> waiting;
   LabelField field;
 };

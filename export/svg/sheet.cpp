@@ -1,12 +1,14 @@
 #include "export/svg/sheet.h"
 
+#include <algorithm>
+
 namespace KelIFC::exporting::svg {
 namespace {
 
 constexpr double kBinding = 20.0;    // the left margin, in millimetres
 constexpr double kMargin = 10.0;     // the other margins
 constexpr double kStrip = 40.0;      // the height of the strip
-constexpr double kClearance = 10.0;  // between the frame and what is drawn
+constexpr double kClearance = 12.0;  // between the frame and what is drawn
 
 constexpr Paper kA3{"A3", 420.0, 297.0};
 constexpr Paper kA2{"A2", 594.0, 420.0};
@@ -40,6 +42,11 @@ bool Fits(const Choice& choice, double factor, double width, double height) {
 }
 
 }  // namespace
+
+void Extend(PaperBox& box, const Point2& point) {
+  box = {std::min(box.left, point.x), std::min(box.top, point.y), std::max(box.right, point.x),
+         std::max(box.bottom, point.y)};
+}
 
 Sheet::Sheet(const BuildingBox& extent) : paper(&kA3) {
   if (!extent.IsEmpty()) {

@@ -23,6 +23,12 @@ struct PaperBox {
   double bottom = 0.0;
 };
 
+/// The box that contains no point.
+constexpr PaperBox kNoBox{1e300, 1e300, -1e300, -1e300};
+
+/// Makes a box contain a point.
+void Extend(PaperBox& box, const Point2& point);
+
 /// The widths of the lines of a drawing, in millimetres.
 struct LineWidths {
   double cut = 0.0;      ///< of what is cut

@@ -41,9 +41,9 @@ void AppendTitleBlock(std::string& markup, const Building& building, const Sheet
   const double left = strip.right - kTitleWidth;
   const double top = strip.top;
   constexpr double kColumn = kTitleWidth / 4.0;
-  AppendLine(markup, {}, {left, top}, {left, strip.bottom});
-  AppendLine(markup, {}, {left, top + 20.0}, {strip.right, top + 20.0});
-  AppendLine(markup, {}, {left, top + 20.0 + kRow}, {strip.right, top + 20.0 + kRow});
+  AppendLine(markup, "field", {left, top}, {left, strip.bottom});
+  AppendLine(markup, "field", {left, top + 20.0}, {strip.right, top + 20.0});
+  AppendLine(markup, "field", {left, top + 20.0 + kRow}, {strip.right, top + 20.0 + kRow});
   AppendText(markup, {left + kPadding, top + 3.2}, "Plan", {"small"});
   AppendText(markup, {left + kPadding, top + 10.0}, Shortened(title.storey, 50), {"large"});
   std::string subtitle =
@@ -58,13 +58,13 @@ void AppendTitleBlock(std::string& markup, const Building& building, const Sheet
   }};
   for (std::size_t i = 0; i < fields.size(); ++i) {
     const double x = left + kColumn * static_cast<double>(i);
-    if (i > 0) AppendLine(markup, {}, {x, top + 20.0}, {x, top + 20.0 + kRow});
+    if (i > 0) AppendLine(markup, "field", {x, top + 20.0}, {x, top + 20.0 + kRow});
     AppendField(markup, {x, top + 20.0}, fields[i][0], fields[i][1]);
   }
   const Point2 last(left, top + 20.0 + kRow);
   AppendField(markup, last, "Model", Shortened(title.model, 50));
-  AppendLine(markup, {}, {left + 2.0 * kColumn, last.y}, {left + 2.0 * kColumn, strip.bottom});
-  AppendField(markup, {left + 2.0 * kColumn, last.y}, "Made by",
+  AppendLine(markup, "field", {left + 2.0 * kColumn, last.y}, {left + 2.0 * kColumn, strip.bottom});
+  AppendField(markup, {left + 2.0 * kColumn, last.y}, "Written by",
               Shortened(building.application, 50));
 }
 
@@ -99,10 +99,11 @@ void AppendNorth(std::string& markup, const Vector2& north, const Sheet& sheet) 
     const Point2 p = centre + up * along + side * across;
     return Number(p.x) + " " + Number(p.y);
   };
-  AppendLine(markup, {}, {right - kNorthWidth, strip.top}, {right - kNorthWidth, strip.bottom});
-  constexpr double kTip = 11.0;
-  constexpr double kBack = 10.0;
-  constexpr double kWing = 4.0;
+  AppendLine(markup, "field", {right - kNorthWidth, strip.top},
+             {right - kNorthWidth, strip.bottom});
+  constexpr double kTip = 8.0;
+  constexpr double kBack = 7.5;
+  constexpr double kWing = 3.0;
   markup += "<g id=\"north\"><title>True north</title>";
   AppendPathElement(markup, {},
                     "M" + at(kTip, 0.0) + " " + at(-kBack, kWing) + " " + at(-0.6 * kBack, 0.0) +
@@ -110,7 +111,7 @@ void AppendNorth(std::string& markup, const Vector2& north, const Sheet& sheet) 
   AppendPathElement(
       markup, "solid",
       "M" + at(kTip, 0.0) + " " + at(-kBack, kWing) + " " + at(-0.6 * kBack, 0.0) + "Z");
-  const Point2 letter = centre + up * (kTip + 3.2);
+  const Point2 letter = centre + up * (kTip + 2.5);
   AppendText(markup, {letter.x, letter.y + 1.0}, "N", {"centred"});
   markup += "</g>\n";
 }
@@ -192,7 +193,7 @@ std::string FrameOf(const Building& building, const SheetTitle& title, const Pla
   const PaperBox strip = sheet.Strip();
   std::string markup = "<g id=\"sheet\">\n";
   AppendBox(markup, "frame", sheet.Frame());
-  AppendLine(markup, {}, {strip.left, strip.top}, {strip.right, strip.top});
+  AppendLine(markup, "field", {strip.left, strip.top}, {strip.right, strip.top});
   AppendLegend(markup, drawing, sheet);
   AppendScaleBar(markup, sheet, {strip.left + 112.0, strip.bottom - 8.0});
   if (building.trueNorth) AppendNorth(markup, *building.trueNorth, sheet);

@@ -1,5 +1,6 @@
 target_sources(kelifc_export PRIVATE
   svg/cut_with_gaps.cpp
+  svg/dimensions.cpp
   svg/element_form.cpp
   svg/labels.cpp
   svg/lines.cpp

@@ -19,6 +19,7 @@ path, line, rect { fill: none; stroke: #000; stroke-width: $t; stroke-linejoin: 
 text { font-family: sans-serif; font-size: 2.5px; fill: #000 }
 .paper { fill: #fff; stroke: none }
 .frame { stroke-width: 0.7 }
+.field { stroke-width: 0.35 }
 .edge { stroke-width: $c }
 .fill { stroke: none; fill: url(#general) }
 .concrete .fill, .fill.concrete { fill: url(#concrete) }

@@ -8,6 +8,7 @@
 
 #include "export/output_file.h"
 #include "export/report_progress.h"
+#include "export/svg/dimensions.h"
 #include "export/svg/markup.h"
 #include "export/svg/plan.h"
 #include "export/svg/plan_drawing.h"
@@ -105,6 +106,9 @@ class PlanWriter {
       file.Write(drawing.MarkupOf(layer));
       file.Write("</g>\n");
     }
+    std::string dimensions;
+    AppendDimensions(dimensions, sheet, drawing.GetCutBox(), drawing.GetDrawnBox());
+    file.Write(dimensions);
     file.Write(FrameOf(building, title, plan, drawing, sheet));
     file.Write("</svg>\n");
     file.Commit();

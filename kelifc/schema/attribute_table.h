@@ -53,6 +53,10 @@ enum class AttributeUse : std::uint8_t {
 /// attribute_value.h calls it; it does not check the class.
 using AttributeReader = AttributeValue (*)(const IfcUnknown& instance);
 
+/// Sets a value of an instance of the class that the description belongs to. WriteAttribute in
+/// write_attribute.h calls it; it checks neither the class nor the form of the text.
+using AttributeWriter = bool (*)(IfcUnknown& instance, const char* text);
+
 /// One attribute of an entity. The texts live as long as the library is loaded.
 struct AttributeDescription {
   /// The position of an attribute that is not in a statement.
@@ -69,7 +73,8 @@ struct AttributeDescription {
   bool isRequired = false;  ///< the schema does not allow `$`; false if that is not known
   bool isWritten =
       false;  ///< a save writes the kept value; false: it writes a fixed text or nothing
-  AttributeReader read = nullptr;  ///< null for a value that the instance does not keep
+  AttributeReader read = nullptr;   ///< null for a value that the instance does not keep
+  AttributeWriter write = nullptr;  ///< null for a value that the instance does not keep
 };
 
 /// What an entity or another class of the schema is.

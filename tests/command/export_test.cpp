@@ -264,6 +264,27 @@ TEST(Export, TablesHaveARowForEachEntryOfTheBuilding) {
   }
 }
 
+TEST(Export, TheAuditCountsWhatEachFormatHolds) {
+  const std::size_t elements = Elements("hall.ifc")["elements"].size();
+  const nlohmann::json audit =
+      nlohmann::json::parse(Kelifc({"audit", "--json", "--exports", "hall.ifc"}).out);
+  std::vector<std::string> formats;
+  for (const nlohmann::json& counted : audit["exports"]) {
+    formats.push_back(counted["format"]);
+    EXPECT_LE(counted["elements"].get<std::size_t>(), elements);
+    for (const nlohmann::json& omission : counted["omissions"]) {
+      EXPECT_GT(omission["count"].get<std::size_t>(), 0u);
+      EXPECT_FALSE(omission["what"].get<std::string>().empty());
+    }
+    if (formats.back() != "csv") continue;
+    EXPECT_EQ(counted["elements"], elements);
+    EXPECT_EQ(counted["omissions"].dump(), R"([{"count":3,"what":"boundaries of bodies"}])");
+  }
+  EXPECT_EQ(formats, Formats());
+  EXPECT_THAT(Kelifc({"audit", "--exports", "hall.ifc"}).out, HasSubstr("boundaries of bodies 3"));
+  EXPECT_EQ(Kelifc({"audit", "hall.ifc"}).out.find("Exports"), std::string::npos);
+}
+
 TEST(Export, CsvGuardsTextsOfFormulasUnlessItIsRaw) {
   const TemporaryFolder folder;
   const std::string model = folder.Path("model.ifc");

@@ -6,8 +6,9 @@ import re
 
 # The tabs of the site. A page that none of them names joins the last one.
 TABS = (
-    ("Overview", ("index.md", "installation.md", "glossary.md", "security.md", "changelog.md")),
-    ("Guides", ("object-model.md", "building.md", "windows.md", "examples.md")),
+    ("Overview", ("index.md", "installation.md", "glossary.md", "security.md", "third-party.md",
+                  "changelog.md")),
+    ("Guides", ("object-model.md", "building.md", "exports.md", "windows.md", "examples.md")),
     ("Entities", ("reference/*.md",)),
     ("C++ API", ("cpp-api.md",)),
     ("Inside", ("architecture.md", "conversion.md", "schema-notation.md", "robustness.md",

@@ -8,12 +8,15 @@ namespace command {
 
 void RunAudit(const AuditOptions& options) {
   const KelIFC::Building building =
-      LoadBuilding(options.model, options.reading, KelIFC::KeptBodies::kNone);
+      LoadBuilding(options.model, options.reading,
+                   options.exports ? KelIFC::KeptBodies::kOfBodies : KelIFC::KeptBodies::kNone);
+  AuditedExports exports;
+  if (options.exports) exports = CountExports(building, options.model);
   Output output(options.output);
   if (options.json) {
-    WriteAuditJson(output, options.model, building);
+    WriteAuditJson(output, options.model, building, exports);
   } else {
-    output.Write(AuditTable(options.model, building));
+    output.Write(AuditTable(options.model, building, exports));
   }
   output.Close();
   if (options.failOnLoss) RequireNoLoss(options.model, building);

@@ -43,9 +43,31 @@ void WriteProfile(JsonWriter& json, const KelIFC::BuildingProfile& profile) {
   json.EndObject();
 }
 
+void WriteExports(JsonWriter& json, const std::vector<CountedExport>& exports) {
+  json.Key("exports");
+  json.BeginList();
+  for (const CountedExport& counted : exports) {
+    json.BeginObject();
+    json.Member("format", counted.format);
+    json.Member("elements", counted.result.elements);
+    json.Key("omissions");
+    json.BeginList();
+    for (const KelIFC::ExportOmission& omission : counted.result.omissions) {
+      json.BeginObject();
+      json.Member("what", omission.what);
+      json.Member("count", omission.count);
+      json.EndObject();
+    }
+    json.EndList();
+    json.EndObject();
+  }
+  json.EndList();
+}
+
 }  // namespace
 
-void WriteAuditJson(Output& output, const std::string& file, const KelIFC::Building& building) {
+void WriteAuditJson(Output& output, const std::string& file, const KelIFC::Building& building,
+                    const AuditedExports& exports) {
   const KelIFC::BuildingAudit audit = Audit(building);
   JsonWriter json(output);
   json.BeginObject();
@@ -63,6 +85,7 @@ void WriteAuditJson(Output& output, const std::string& file, const KelIFC::Build
   for (const auto& profile : building.profiles) WriteProfile(json, profile);
   json.EndList();
   WriteMember(json, "losses", building.losses);
+  if (exports) WriteExports(json, *exports);
   json.EndObject();
 }
 

@@ -83,12 +83,27 @@ std::string ContradictionTable(const KelIFC::Building& building) {
   return isEmpty ? "" : "\nProfiles whose name contradicts their shape\n" + table.ToText();
 }
 
+std::string ExportTable(const AuditedExports& exports) {
+  if (!exports) return "";
+  TextTable table({"format", "elements", "left out"}, {false, true});
+  for (const CountedExport& counted : *exports) {
+    std::string omissions;
+    for (const KelIFC::ExportOmission& omission : counted.result.omissions) {
+      omissions += omissions.empty() ? "" : ", ";
+      omissions += omission.what + " " + Number(omission.count);
+    }
+    table.Add({std::string(counted.format), Number(counted.result.elements), omissions});
+  }
+  return "\nExports\n" + table.ToText();
+}
+
 }  // namespace
 
-std::string AuditTable(const std::string& file, const KelIFC::Building& building) {
+std::string AuditTable(const std::string& file, const KelIFC::Building& building,
+                       const AuditedExports& exports) {
   const KelIFC::BuildingAudit audit = Audit(building);
   return Visible(file) + "\n\n" + ClassTable(audit, building) + StoreyTable(audit) +
-         ContradictionTable(building) + LossTable(building);
+         ContradictionTable(building) + LossTable(building) + ExportTable(exports);
 }
 
 }  // namespace command

@@ -66,10 +66,12 @@ struct AuditOptions {
   std::string model;
   std::string output;  ///< a path; empty means standard output
   bool json = false;
+  bool exports = false;
   bool failOnLoss = false;
 };
 
-/// Reads the building completely and prints what was read and what was lost.
+/// Reads the building completely and prints what was read and what was lost. With `exports`, prints
+/// what each format of an export cannot hold, too.
 void RunAudit(const AuditOptions& options);
 
 struct DiffOptions {

@@ -4,20 +4,18 @@
 
 #include "kelifc/platform/program.h"
 
-#include "export/export.h"
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/losses.h"
 #include "tools/kelifc/message.h"
 #include "tools/kelifc/model_file.h"
 #include "tools/kelifc/progress.h"
+#include "tools/kelifc/write_export.h"
 
 namespace command {
 namespace {
 
 namespace fs = std::filesystem;
 
-using KelIFC::ExportError;
-using KelIFC::ExportFailure;
 using KelIFC::ExportFormat;
 using KelIFC::ExportOmission;
 using KelIFC::ExportResult;
@@ -64,16 +62,6 @@ void RequireOtherFile(const std::string& model, const std::string& output) {
   throw Failure(Status::kUsage, output, "the output is the model itself");
 }
 
-ExportResult Write(const KelIFC::Building& building, const ExportFormat& format,
-                   const KelIFC::ExportOptions& options) {
-  try {
-    return ExportBuilding(building, format, options);
-  } catch (const ExportError& error) {
-    const bool isMissing = error.failure == ExportFailure::kNotBuilt;
-    throw Failure(isMissing ? Status::kMissing : Status::kFile, error.what());
-  }
-}
-
 ExportResult WriteWithProgress(const KelIFC::Building& building, const ExportFormat& format,
                                const ExportOptions& options, const std::string& output) {
   constexpr std::size_t kManyElements = 10'000;
@@ -91,7 +79,7 @@ ExportResult WriteWithProgress(const KelIFC::Building& building, const ExportFor
       return true;
     };
   }
-  return Write(building, format, writing);
+  return WriteExport(building, format, writing);
 }
 
 void PrintOmissions(const std::string& output, const ExportResult& result) {

@@ -85,6 +85,7 @@ void DescribeElements(CLI::App& app, command::ElementsOptions& options) {
 void DescribeAudit(CLI::App& app, command::AuditOptions& options) {
   CLI::App* audit = app.add_subcommand("audit", "what was read, and what was lost and why");
   audit->add_flag("--json", options.json, kJsonHelp);
+  audit->add_flag("--exports", options.exports, "count what each format of an export leaves out");
   DescribeOutput(*audit, options.output);
   DescribeFailOnLoss(*audit, options.failOnLoss);
   DescribeComplete(*audit, options.reading);

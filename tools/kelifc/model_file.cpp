@@ -22,7 +22,8 @@ LoadOptions OptionsOf(const Reading& reading) {
   return options;
 }
 
-/// Why a load failed that did not fail to open its file.
+}  // namespace
+
 std::string CauseOf(int code, const std::string& schema) {
   switch (code) {
     case KelIFC::LOAD_RESULT_NO_STEP_FILE:
@@ -35,6 +36,8 @@ std::string CauseOf(int code, const std::string& schema) {
       return schema.empty() ? "no schema" : "unknown schema '" + schema + "'";
   }
 }
+
+namespace {
 
 /// Calls `load` with the path of an ordinary file, and throws if it does not return 0. Returns the
 /// source of that file.

@@ -26,6 +26,10 @@ ModelSource LoadModel(KelIFC::IfcServer& server, const std::string& path, const 
 void LoadModelWithReport(KelIFC::IfcServer& server, const std::string& path,
                          const Reading& reading);
 
+/// Why a load returned `code`, which is neither LOAD_RESULT_LOADED nor LOAD_RESULT_CANNOT_OPEN.
+/// `schema` is the schema of the file in UTF-8.
+std::string CauseOf(int code, const std::string& schema);
+
 /// Throws Failure with Status::kNotConvertible if the release of a loaded model has no conversion.
 void RequireConvertible(KelIFC::IfcServer& server, const std::string& path);
 

@@ -17,6 +17,8 @@ Output::Output(const std::string& path)
   KelIFC::SetBinary(file);  // the output has the same bytes on every system
 }
 
+Output::Output(std::string& text) : file(nullptr), target(&text), isStandard(false) {}
+
 Output::~Output() {
   if (file != nullptr && !isStandard) std::fclose(file);
 }
@@ -28,6 +30,11 @@ void Output::Write(std::string_view text) {
 }
 
 void Output::Flush() {
+  if (target != nullptr) {
+    *target += buffer;
+    buffer.clear();
+    return;
+  }
   if (std::fwrite(buffer.data(), 1, buffer.size(), file) != buffer.size()) {
     throw Failure(Status::kFile, name, std::strerror(errno));
   }
@@ -36,6 +43,7 @@ void Output::Flush() {
 
 void Output::Close() {
   Flush();
+  if (target != nullptr) return;
   std::FILE* const closed = file;
   file = nullptr;
   // Closing the file flushes it, so closing can fail as well.

@@ -7,12 +7,15 @@
 
 namespace command {
 
-/// A file to write, or standard output if the path is empty. All functions throw Failure with
-/// Status::kFile if the text cannot be written, for example because the disk is full.
+/// A file to write, standard output if the path is empty, or a text in memory. All functions throw
+/// Failure with Status::kFile if the text cannot be written, for example because the disk is full.
 class Output {
  public:
   /// Creates the file.
   explicit Output(const std::string& path);
+
+  /// Appends to `text`, which must outlive the output. This never fails.
+  explicit Output(std::string& text);
 
   /// Closes the file. What was not written by Close may be lost.
   ~Output();
@@ -28,7 +31,8 @@ class Output {
   void Flush();
 
   std::string name;
-  std::FILE* file;  // null after Close
+  std::FILE* file;                // null after Close, and for a text
+  std::string* target = nullptr;  // null for a file
   bool isStandard;
   std::string buffer;
 };

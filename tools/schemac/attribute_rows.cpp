@@ -60,12 +60,15 @@ class RowWriter {
     const std::string nameSpace(kReleases[model.release].nameSpace);
     const std::string name = nameSpace + "::" + type.entity->name;
     TemplateWords words = WordsOf(model, attribute);
-    if (words.count("table") != 0) words["table"] = nameSpace + "::" + words["table"];
+    for (const char* word : {"table", "start"}) {
+      if (words.count(word) != 0) words[word] = nameSpace + "::" + words[word];
+    }
     row.pointer = PointerName(attribute.name);
     row.member = words["member"];
     words["class"] = name;
     words["pointer"] = "Kept<" + name + ">::" + row.pointer;
     row.reader = Fill(InfoOf(attribute.kind).valueReader, words);
+    row.setting = Fill(InfoOf(attribute.kind).valueWriter, words);
   }
 
   /// Sets the fields that do not depend on the position of the attribute.

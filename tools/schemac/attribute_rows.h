@@ -25,6 +25,7 @@ struct AttributeRow {
   bool isRequired = false;
   bool isWritten = false;
   std::string reader;   ///< the AttributeReader of a value that the class keeps
+  std::string setting;  ///< the AttributeWriter of such a value
   std::string pointer;  ///< the constant of `Kept` that the reader uses; empty for none
   std::string member;   ///< the data member that it points to
 };

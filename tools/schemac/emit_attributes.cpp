@@ -12,6 +12,7 @@ constexpr std::string_view kFile = R"(@generated@
 #include "kelifc/schema/@folder@.h"
 #include "kelifc/schema/entity_tables.h"
 #include "kelifc/schema/value_reader.h"
+#include "kelifc/schema/value_writer.h"
 
 namespace KelIFC {
 
@@ -89,6 +90,7 @@ std::string AttributeText(const AttributeRow& row) {
   flags.AddFlag("isRequired", row.isRequired);
   flags.AddFlag("isWritten", row.isWritten);
   flags.Add("read", row.reader);
+  flags.Add("write", row.setting);
   return text.insert(text.rfind('}'), flags.text);
 }
 

@@ -9,6 +9,8 @@ namespace {
 
 constexpr std::string_view kCoreReader = "ReadMember<@class@, Kept<@class@>::@pointer@>";
 
+constexpr std::string_view kCoreWriter = "WriteMember<@class@, Kept<@class@>::@pointer@>";
+
 constexpr std::string_view kValueReader = "ReadValueType<@class@, @value@>";
 
 /// Returns the C++ name of a generated class.
@@ -52,7 +54,9 @@ EntityRow RowOf(const CoreClass& type) {
     added.kind = InfoOf(attribute->kind).published;
     added.use = "kKept";
     added.isRequired = added.isWritten = true;
-    added.reader = Fill(kCoreReader, {{"class", row.name}, {"pointer", PointerName(added.name)}});
+    const TemplateWords words = {{"class", row.name}, {"pointer", PointerName(added.name)}};
+    added.reader = Fill(kCoreReader, words);
+    added.setting = Fill(kCoreWriter, words);
     row.attributes.push_back(std::move(added));
   }
   return row;

@@ -55,6 +55,8 @@ constexpr SetterForm kAggregateSetter = {
 
 constexpr std::string_view kEnumerated = "Enumerated(@member@, @table@@missing@)";
 constexpr std::string_view kEnumerationReader = "ReadEnumeration<@class@, @pointer@, @table@>";
+constexpr std::string_view kEnumerationWriter =
+    "WriteEnumeration<@class@, @pointer@, @table@, @start@>";
 constexpr std::string_view kOwnedMember = "{this}";
 
 constexpr SampleTexts kTextSample = {"'text @n@'"};
@@ -209,6 +211,7 @@ constexpr std::array kKinds = {
              .reader = kEnumerated,
              .writer = kEnumerated,
              .valueReader = kEnumerationReader,
+             .valueWriter = kEnumerationWriter,
              .initializer = " = @start@",
              .getter = &kEnumGetter,
              .sample = {".@row@.", "", "$", "@emptied@"}},
@@ -219,6 +222,7 @@ constexpr std::array kKinds = {
              .holdsNamedType = true,
              .isDroppable = false,
              .valueReader = kEnumerationReader,
+             .valueWriter = "WriteEnumeration<@class@, @pointer@, @table@>",
              .initializer = "{}",
              .sample = {"$"}},
     KindInfo{.kind = Kind::kValue,

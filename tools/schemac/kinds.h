@@ -81,7 +81,8 @@ struct KindInfo {
   bool isInFile = true;            ///< an attribute of the kind is in a record
   std::string_view reader = "@member@";  ///< the part of ParseRecord
   std::string_view writer = "@member@";  ///< the part of WriteFirst and WriteNext
-  std::string_view valueReader = "ReadMember<@class@, @pointer@>";  ///< its AttributeReader
+  std::string_view valueReader = "ReadMember<@class@, @pointer@>";   ///< its AttributeReader
+  std::string_view valueWriter = "WriteMember<@class@, @pointer@>";  ///< its AttributeWriter
   std::string_view initializer = "@text@";  ///< the text after the name of the data member
   std::string_view bare = {};               ///< the parameter of a defined type; empty: none
   std::string_view view = {};               ///< the aggregate that a getter returns

@@ -17,7 +17,6 @@ namespace KelIFC {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
