@@ -5,9 +5,10 @@
 #include <cstdint>
 #include <vector>
 
-#include "export/export.h"
 #include "kelifc/building/building.h"
 #include "kelifc/geometry/point.h"
+
+#include "export/export.h"
 
 namespace KelIFC::exporting {
 

@@ -9,8 +9,8 @@ namespace {
 
 constexpr std::string_view kDigits =
     "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
-constexpr std::size_t kGroup = 3;           // bytes that become four digits
-constexpr std::size_t kBlock = 3 * 16'384;  // bytes that are written at once
+constexpr std::size_t kGroup = 3;                // bytes that become four digits
+constexpr std::size_t kBlock = kGroup * 16'384;  // bytes that are written at once
 
 // Appends the digits of up to three bytes, and the padding of a shorter group.
 void AppendGroup(std::string& text, std::string_view group) {

@@ -64,8 +64,8 @@ class GzipFilter : public ByteFilter {
 
 }  // namespace
 
-std::unique_ptr<ByteFilter> MakeGzip(ByteSink sink) {
-  return std::make_unique<GzipFilter>(std::move(sink));
+std::unique_ptr<ByteFilter> MakeGzip(const ByteSink& sink) {
+  return std::make_unique<GzipFilter>(sink);
 }
 
 }  // namespace KelIFC::exporting

@@ -2,6 +2,6 @@
 
 namespace KelIFC::exporting {
 
-std::unique_ptr<ByteFilter> MakeGzip(ByteSink /*sink*/) { return nullptr; }
+std::unique_ptr<ByteFilter> MakeGzip(const ByteSink& /*sink*/) { return nullptr; }
 
 }  // namespace KelIFC::exporting

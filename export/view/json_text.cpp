@@ -7,6 +7,7 @@
 namespace KelIFC::exporting {
 namespace {
 
+constexpr int kDecimals = 9;
 constexpr std::string_view kHexDigits = "0123456789abcdef";
 
 void AppendEscaped(std::string& text, char c) {
@@ -63,6 +64,17 @@ void JsonText::Value(std::size_t value) {
 void JsonText::Null() {
   Separate();
   text += "null";
+}
+
+void JsonText::Flag(bool value) {
+  Separate();
+  text += value ? "true" : "false";
+}
+
+void JsonText::Rounded(double value) {
+  if (!std::isfinite(value)) return Null();
+  Separate();
+  AppendRounded(text, value, kDecimals);
 }
 
 }  // namespace KelIFC::exporting

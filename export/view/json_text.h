@@ -28,6 +28,12 @@ class JsonText {
   void Value(std::size_t value);
   void Null();
 
+  /// Appends true or false.
+  void Flag(bool value);
+
+  /// Appends a number rounded to 9 decimals; null if it is not finite.
+  void Rounded(double value);
+
   /// Appends the value, or null if there is none.
   template <class Number>
   void Value(const std::optional<Number>& value) {

@@ -4,8 +4,10 @@ target_sources(kelifc_export PRIVATE
   view/base64.cpp
   view/container.cpp
   view/description.cpp
+  view/display_arrays.cpp
   view/element_columns.cpp
-  view/json_text.cpp)
+  view/json_text.cpp
+  view/write_page.cpp)
 if(TARGET PkgConfig::KELIFC_ZLIB)
   target_sources(kelifc_export PRIVATE view/gzip.cpp)
   target_link_libraries(kelifc_export PRIVATE PkgConfig::KELIFC_ZLIB)

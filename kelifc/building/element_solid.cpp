@@ -8,6 +8,10 @@
 namespace KelIFC {
 namespace {
 
+/// Profiles that are equal within 0.01 mm are one profile. So the ends of a wedge that touched can
+/// overlap a little, in metres.
+constexpr double kProfileSlack = 1e-4;
+
 Mesh SolidOfMember(const Building& building, const MemberAxis& member) {
   const std::vector<BuildingProfile>& profiles = building.profiles;
   if (member.profile >= profiles.size()) return {};
@@ -16,7 +20,8 @@ Mesh SolidOfMember(const Building& building, const MemberAxis& member) {
     if (*member.endProfile >= profiles.size()) return {};
     end = &profiles[*member.endProfile];
   }
-  return building::idealising::MakeMemberSolid(member, profiles[member.profile], end);
+  return building::idealising::MakeMemberSolid(member, profiles[member.profile], end,
+                                               kProfileSlack);
 }
 
 }  // namespace

@@ -11,7 +11,8 @@ namespace KelIFC {
 
 /// A triangle of a face.
 struct MeshTriangle {
-  /// Indices in Mesh::points, counter-clockwise seen from outside.
+  /// Indices in Mesh::points, counter-clockwise seen from outside if the face does not cross
+  /// itself.
   std::array<Mesh::Index, 3> corners = {};
   Mesh::Index face = 0;  ///< the face of which it is a part
 };
@@ -21,8 +22,9 @@ struct MeshTriangle {
 /// for the choice of the triangles only.
 ///
 /// A face has no triangles if it has no area, if an index is not less than the number of points, or
-/// if a point is not finite. The triangles of a face that crosses itself overlap. The time is n log
-/// n, n being the number of indices.
+/// if a point is not finite. The triangles of a face that crosses itself overlap, and some of them
+/// are clockwise, so that their signed areas add up to the area of the face. The time is n log n, n
+/// being the number of indices.
 KELIFC_API std::vector<MeshTriangle> TrianglesOf(const Mesh& mesh);
 
 }  // namespace KelIFC

@@ -291,6 +291,7 @@ class KELIFC_API IfcServer {
 
  private:
   friend class FaithfulSave;
+  friend class SourceStatements;
   friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
   template <class AnyScanner>
   friend void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass);

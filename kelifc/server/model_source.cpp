@@ -1,6 +1,7 @@
 #include "kelifc/server/model_source.h"
 
 #include <fstream>
+#include <ios>
 #include <streambuf>
 #include <vector>
 
@@ -9,13 +10,25 @@
 namespace KelIFC {
 namespace {
 
-// A stream that reads bytes without a copy.
+// A stream that reads bytes without a copy, from any position.
 class MemoryStream : private std::streambuf, public std::istream {
  public:
   MemoryStream(const char* data, std::size_t size) : std::istream(this) {
     // The stream only reads, but std::streambuf needs a non-const pointer.
     char* const begin = const_cast<char*>(data);  // NOLINT(cppcoreguidelines-pro-type-const-cast)
     setg(begin, begin, begin + size);
+  }
+
+ private:
+  // Only positions from the begin can be sought.
+  std::streambuf::pos_type seekpos(std::streambuf::pos_type position,
+                                   std::ios_base::openmode which) override {
+    const std::streamoff offset = position;
+    if ((which & std::ios_base::in) == 0 || offset < 0 || offset > egptr() - eback()) {
+      return std::streambuf::pos_type(std::streamoff{-1});
+    }
+    setg(eback(), eback() + offset, egptr());
+    return position;
   }
 };
 

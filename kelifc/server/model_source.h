@@ -21,7 +21,8 @@ class ModelSource {
   /// The number of bytes, as far as it is known.
   virtual std::uint64_t GetSize() const = 0;
 
-  /// A stream over the bytes, from the first one on; null if they cannot be read.
+  /// A stream over the bytes, from the first one on; null if they cannot be read. Its seekg sets a
+  /// position that is counted from the first byte.
   virtual std::unique_ptr<std::istream> Open() const = 0;
 
  protected:

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "kelifc/building/triangulation.h"
+
 #include "tests/building/made_building.h"
 
 namespace KelIFC {
@@ -49,6 +50,16 @@ TEST(SolidOf, AnInclinedEndCutsAMember) {
   for (const Point3& p : solid.points) top = std::max(top, p.z);
   EXPECT_NEAR(top, 4.1, 1e-9);
   EXPECT_NEAR(VolumeOf(solid), 3.0 * 0.06, 1e-9);
+}
+
+TEST(SolidOf, TheEndsOfAWedgeMayOverlapALittle) {
+  const Building building = WithProfile();
+  BuildingElement wedge = MemberFrom(1, {0.0, 0.0, 0.0}, 0.1);
+  const double slope = std::sqrt(0.5);
+  wedge.member->ends[1] = EndPlane{{0.0, 0.0, 0.1 - 1e-5}, {slope, 0.0, slope}};
+  EXPECT_NEAR(VolumeOf(SolidOf(building, wedge)), 0.1 * 0.06, 1e-5);
+  wedge.member->ends[1] = EndPlane{{0.0, 0.0, 0.09}, {slope, 0.0, slope}};
+  EXPECT_TRUE(SolidOf(building, wedge).IsEmpty());
 }
 
 TEST(SolidOf, ASurfaceHasItsThicknessAndHoles) {

@@ -40,6 +40,27 @@ TEST(ModelSource, IsReadFromTheBeginEachTime) {
   }
 }
 
+TEST(ModelSource, IsReadFromAnyPosition) {
+  const TempFile file("0123456789");
+  const FileSource fromFile(file.GetPath());
+  const MemorySource fromMemory("0123456789", 10);
+  for (const ModelSource* source :
+       {static_cast<const ModelSource*>(&fromFile), static_cast<const ModelSource*>(&fromMemory)}) {
+    const std::unique_ptr<std::istream> in = source->Open();
+    ASSERT_NE(in, nullptr);
+    char read[2] = {};
+    for (const int position : {7, 0, 8}) {
+      ASSERT_TRUE(in->seekg(position).read(read, 2));
+      EXPECT_EQ(read[0], '0' + position);
+    }
+    in->seekg(9);
+    EXPECT_FALSE(in->read(read, 2));
+    EXPECT_EQ(in->gcount(), 1);
+  }
+  const std::unique_ptr<std::istream> in = fromMemory.Open();
+  EXPECT_FALSE(in->seekg(11));
+}
+
 TEST(ModelSource, IsNotThereWithoutAFile) {
   EXPECT_EQ(TextOf(FileSource("/no/such/file.ifc")), "none");
   EXPECT_EQ(FileSource("/no/such/file.ifc").GetSize(), 0U);

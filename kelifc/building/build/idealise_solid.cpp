@@ -100,18 +100,22 @@ bool EndStation(Station& station, const Vector3& x, const Point3& axisEnd,
                : MoveToPlane(station, x, axisEnd, x);
 }
 
-// The part of a member between its ends must have a positive length everywhere.
-bool AreInOrder(const std::vector<Station>& stations, const Vector3& x) {
+// The part of a member between its ends must have a positive length everywhere. A length that is
+// negative by less than the slack becomes zero.
+bool PutInOrder(std::vector<Station>& stations, const Vector3& x, double slack) {
   const Station& a = stations.front();
-  const Station& b = stations.back();
+  Station& b = stations.back();
   for (std::size_t i = 0; i < a.size(); ++i) {
-    if (!(Dot(b[i] - a[i], x) > 0.0)) return false;
+    const double length = Dot(b[i] - a[i], x);
+    if (length > 0.0) continue;
+    if (!(length > -slack)) return false;
+    b[i] = a[i];
   }
   return true;
 }
 
 Mesh MakeStraight(const MemberAxis& axis, const BuildingProfile& profile,
-                  const BuildingProfile* end) {
+                  const BuildingProfile* end, double slack) {
   const Point3& a = axis.points.front();
   const Point3& b = axis.points.back();
   const Vector3 x = Unit(b - a);
@@ -123,7 +127,7 @@ Mesh MakeStraight(const MemberAxis& axis, const BuildingProfile& profile,
   if (stations[0].size() != stations[1].size()) return {};
   if (!EndStation(stations[0], x, a, axis.ends[0])) return {};
   if (!EndStation(stations[1], x, b, axis.ends[1])) return {};
-  if (!AreInOrder(stations, x)) return {};
+  if (!PutInOrder(stations, x, slack)) return {};
   return Loft(LoopSizesOf(profile), stations, end != nullptr);
 }
 
@@ -199,7 +203,7 @@ Mesh MakeWall(const SurfaceRegion& surface) {
 }  // namespace
 
 Mesh MakeMemberSolid(const MemberAxis& axis, const BuildingProfile& profile,
-                     const BuildingProfile* end) {
+                     const BuildingProfile* end, double slack) {
   if (axis.points.size() < 2 || profile.outline.size() < 3) return {};
   switch (axis.curve) {
     case CurveForm::kArc:
@@ -209,7 +213,7 @@ Mesh MakeMemberSolid(const MemberAxis& axis, const BuildingProfile& profile,
     case CurveForm::kLine:
       break;
   }
-  return MakeStraight(axis, profile, end);
+  return MakeStraight(axis, profile, end, slack);
 }
 
 Mesh MakeSurfaceSolid(const SurfaceRegion& surface) {

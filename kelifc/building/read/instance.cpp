@@ -10,6 +10,12 @@ namespace KelIFC::building {
 
 using Kind = AttributeValueKind;
 
+namespace {
+
+char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
+
+}  // namespace
+
 // A reference that neither names an instance nor holds one is unset.
 bool Value::IsSet() const {
   if (value.GetKind() == Kind::kReference) {
@@ -76,8 +82,23 @@ Value Instance::Get(Attribute attribute) const {
   return position ? Value(*model, ReadAttribute(*instance, *position)) : Value();
 }
 
+std::string Instance::StatedEnumerator(Attribute attribute) const {
+  if (instance == nullptr) return {};
+  const auto position = PositionOf(model->Release(), type->entity, attribute);
+  const bool isKept = type->isRaw || type->readers[static_cast<std::size_t>(attribute)] != nullptr;
+  if (isKept || !position) return Get(attribute).Enumerator();
+  std::string entity(instance->GetStepName());
+  for (char& c : entity) c = ToUpper(c);
+  const StatementView statement = model->Statements().Read(Number(), entity);
+  const bool isEnumerator = statement.GetKind(*position + 1) == ATTRIBUTE_ENUMERATION;
+  return isEnumerator ? statement.GetText(*position + 1) : std::string();
+}
+
 Model::Model(IfcServer& owner)
-    : server(owner), release(owner.GetRelease()), isUtf8(owner.GetDialect() == STEP_DIALECT_ISO) {
+    : server(owner),
+      release(owner.GetRelease()),
+      isUtf8(owner.GetDialect() == STEP_DIALECT_ISO),
+      statements(owner) {
   for (std::size_t i = 0; i < kEntityCount; ++i) {
     rawClasses[i].entity = static_cast<Entity>(i);
     rawClasses[i].isRaw = true;

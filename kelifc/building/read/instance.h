@@ -12,6 +12,7 @@
 #include "kelifc/building/read/entity.h"
 #include "kelifc/schema/attribute_value.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/source_statements.h"
 
 namespace KelIFC {
 class IfcUnknown;
@@ -98,6 +99,10 @@ class Instance {
   /// the instance does not keep it.
   Value Get(Attribute attribute) const;
 
+  /// The name of an enumerator without its dots. If the class does not keep the attribute, it is
+  /// read from the statement in the source of the model. Empty if that is not possible.
+  std::string StatedEnumerator(Attribute attribute) const;
+
  private:
   const Model* model = nullptr;
   const IfcUnknown* instance = nullptr;
@@ -118,6 +123,9 @@ class Model {
   std::string Decode(std::string_view text) const;
 
   Instance Find(std::size_t number) const;
+
+  /// The statements of the instances in the source of the model.
+  SourceStatements& Statements() const { return statements; }
   const InstanceClass& ClassOf(const IfcUnknown& instance) const;
 
  private:
@@ -126,6 +134,7 @@ class Model {
   IfcServer& server;
   IFC_RELEASE release;
   bool isUtf8;
+  mutable SourceStatements statements;
 
   // By the address of the name of a class, which is constant. Classes of raw text are by entity.
   mutable std::unordered_map<const char*, InstanceClass> classes;

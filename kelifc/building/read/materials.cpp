@@ -64,7 +64,7 @@ MaterialFacts ReadMaterial(const ReadContext& context, const Instance& definitio
     case Entity::kMaterialLayerSetUsage:
       ReadLayers(context, definition.Get(Attribute::kLayerSet).Target(), facts);
       facts.usage.hasUsage = true;
-      facts.usage.axis = AxisOf(definition.Get(Attribute::kLayerDirection).Enumerator());
+      facts.usage.axis = AxisOf(definition.StatedEnumerator(Attribute::kLayerDirection));
       facts.usage.isPositive =
           definition.Get(Attribute::kDirectionSense).Enumerator() != "NEGATIVE";
       facts.usage.offset = LengthOf(context, definition, Attribute::kOffset);

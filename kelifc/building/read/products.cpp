@@ -50,7 +50,7 @@ void ProductReader::ReadIdentity(const Instance& product, ProductFacts& facts) {
   facts.guid = product.Get(Attribute::kGlobalId).Text();
   facts.name = product.Get(Attribute::kName).Text();
   facts.tag = product.Get(Attribute::kTag).Text();
-  facts.type = product.Get(Attribute::kPredefinedType).Enumerator();
+  facts.type = product.StatedEnumerator(Attribute::kPredefinedType);
   facts.storey = decomposition.StoreyOf(facts.id);
   facts.whole = decomposition.WholeOf(facts.id);
   facts.hasProductParts = decomposition.HasProductParts(facts.id);

@@ -14,13 +14,11 @@ bool AreEqual(const Point2& a, const Point2& b) { return a.x == b.x && a.y == b.
 class EarCutter {
  public:
   explicit EarCutter(PolygonRing& someRing)
-      : ring(someRing),
-        budget(1000 + 100 * ring.point.size()),
-        patience(budget) {
+      : ring(someRing), budget(1000 + 100 * ring.point.size()), patience(budget) {
     FindReflexNodes();
   }
 
-  std::vector<Triangle2> Cut() {
+  std::vector<Triangle2> Cut(ClockwiseParts clockwise) {
     std::vector<Triangle2> result;
     std::uint32_t node = 0;
     std::size_t left = CountFrom(node);
@@ -30,7 +28,10 @@ class EarCutter {
       if (isForced ? IsTolerable(node, failures > 2 * left) : IsEar(node)) {
         const std::uint32_t a = ring.previous[node];
         const std::uint32_t c = ring.next[node];
-        if (TurnAt(node) > 0.0) result.push_back({ring.point[a], ring.point[node], ring.point[c]});
+        const double turn = TurnAt(node);
+        if (turn > 0.0 || (turn < 0.0 && clockwise == ClockwiseParts::kKept)) {
+          result.push_back({ring.point[a], ring.point[node], ring.point[c]});
+        }
         ring.next[a] = c;
         ring.previous[c] = a;
         isGone[node] = true;
@@ -108,6 +109,8 @@ class EarCutter {
 
 }  // namespace
 
-std::vector<Triangle2> CutEars(PolygonRing& ring) { return EarCutter(ring).Cut(); }
+std::vector<Triangle2> CutEars(PolygonRing& ring, ClockwiseParts clockwise) {
+  return EarCutter(ring).Cut(clockwise);
+}
 
 }  // namespace KelIFC::building

@@ -137,7 +137,7 @@ std::vector<Triangle2> Triangulate(std::vector<Point2>& points,
   if (std::optional<std::vector<Triangle2>> fan = FanOf(points, loops)) return std::move(*fan);
   PolygonRing ring(points, loops);
   if (loops.size() > 1) HoleBridges(ring, points).Join();
-  return CutEars(ring);
+  return CutEars(ring, ClockwiseParts::kLeftOut);
 }
 
 std::vector<Triangle2> TriangulateCorners(const std::vector<Point2>& points,
@@ -148,7 +148,7 @@ std::vector<Triangle2> TriangulateCorners(const std::vector<Point2>& points,
   if (std::optional<std::vector<Triangle2>> fan = FanOf(points, loops)) return std::move(*fan);
   PolygonRing ring(points, loops);
   if (loops.size() > 1) JoinLoops(ring);
-  return CutEars(ring);
+  return CutEars(ring, ClockwiseParts::kKept);
 }
 
 void AppendTriangles(const Mesh& mesh, std::size_t face, std::vector<Triangle3>& triangles) {

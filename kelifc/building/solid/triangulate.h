@@ -18,8 +18,9 @@ namespace KelIFC::building {
 std::vector<Triangle2> Triangulate(std::vector<Point2>& points,
                                    const std::vector<PointLoop>& loops);
 
-/// Does the same without additional points: holes are joined to points of other loops. No loop may
-/// be empty; the result is empty otherwise.
+/// Does the same without additional points: holes are joined to points of other loops. Of a region
+/// that crosses itself some triangles are clockwise, so that their signed areas add up to that of
+/// the loops. No loop may be empty; the result is empty otherwise.
 std::vector<Triangle2> TriangulateCorners(const std::vector<Point2>& points,
                                           const std::vector<PointLoop>& loops);
 

@@ -43,6 +43,7 @@ TEST(Material, CanBeLayersWithTheirPlace) {
     EXPECT_FALSE(facts.layers[1].hasMaterial);
     EXPECT_DOUBLE_EQ(facts.layers[0].thickness, 0.2);
     EXPECT_TRUE(facts.usage.hasUsage);
+    EXPECT_EQ(facts.usage.axis, 2);
     EXPECT_FALSE(facts.usage.isPositive);
     EXPECT_DOUBLE_EQ(facts.usage.offset, -0.15);
   }

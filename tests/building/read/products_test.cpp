@@ -26,6 +26,19 @@ TEST(Product, HasItsIdentity) {
   }
 }
 
+TEST(Product, HasThePredefinedTypeThatItsClassDoesNotKeep) {
+  for (const std::string& schema : {std::string("IFC2X2_FINAL"), std::string("IFC2X3")}) {
+    EXPECT_EQ(ReadData("#20=IFCPILE('p',$,$,$,$,$,$,$,.FRICTION.,.BORED.);", schema).Only().type,
+              "FRICTION");
+    EXPECT_EQ(ReadData("#20=IFCPILE('p',$,$,$,$,$,$,$,$,.BORED.);", schema).Only().type, "");
+    const ReadText read = ReadData(
+        "#20=IFCELEMENTASSEMBLY('a',$,$,$,$,$,$,$,.SITE.,.TRUSS.);#21=IFCBEAM('b',$,$,$,$,$,$,$);"
+        "#22=IFCRELAGGREGATES('r',$,$,$,#20,(#21));",
+        schema);
+    EXPECT_EQ(read.facts.products.size(), 1U);
+  }
+}
+
 TEST(Product, HasUtf8TextInTheClassicDialectToo) {
   const std::string text =
       "ISO-10303-21;HEADER;FILE_SCHEMA(('IFC2X3'));ENDSEC;DATA;"

@@ -35,7 +35,7 @@ std::uint32_t IntegerAt(std::string_view bytes, std::size_t at) {
 std::string TakeUntil(std::string_view& text, std::string_view mark) {
   const std::size_t at = text.find(mark);
   Require(at != std::string_view::npos, "the page lacks " + std::string(mark));
-  const std::string taken(text.substr(0, at));
+  std::string taken(text.substr(0, at));
   text.remove_prefix(at + mark.size());
   return taken;
 }
@@ -87,7 +87,7 @@ DecodedPage::DecodedPage(std::string_view html) {
       TakeUntil(html, R"(<script type="application/octet-stream" id="building" data-encoding=")");
   const std::string encoding = TakeUntil(html, "\">");
   container = BytesOfBase64(TakeUntil(html, "</script>"));
-  tail = html;
+  tail.assign(html);
   Require(encoding == "gzip" || encoding == "identity", "unknown encoding " + encoding);
   if (encoding == "gzip") container = ExpandedGzip(container);
   Require(container.substr(0, 4) == "KLV1", "no container");
