@@ -23,8 +23,10 @@ TOP_PAGES = {
     "examples/README.md": "examples.md",
     "tools/docs/cpp-api.md": "cpp-api.md",
 }
+PICTURES = ("*.svg", "*.png")
 FENCE = re.compile(r"\s*(```|~~~)")
 LINK = re.compile(r"(?<!!)\[([^\]\[]+)\]\(([^)\s#]+)(#[^)\s]*)?\)")
+IMAGE = re.compile(r"!\[([^\]\[]*)\]\(([^)\s]+)\)")
 
 
 def page_places(tree):
@@ -57,7 +59,20 @@ def relinked(line, page, places, tree):
         name = "`%s`" % path
         return name if text.strip("`") == path else "%s (%s)" % (text, name)
 
-    return LINK.sub(replace, line)
+    return LINK.sub(replace, with_pictures(line, page, places))
+
+
+def with_pictures(line, page, places):
+    """The line of a page, with pictures of docs/ at their places on the site."""
+
+    def replace(match):
+        path = os.path.normpath(os.path.join(os.path.dirname(page), match.group(2)))
+        if not path.startswith("docs/"):
+            return match.group(0)
+        base = os.path.dirname(places[page]) or "."
+        return "![%s](%s)" % (match.group(1), os.path.relpath(path[len("docs/"):], base))
+
+    return IMAGE.sub(replace, line)
 
 
 def stage(tree, pages):
@@ -72,7 +87,8 @@ def stage(tree, pages):
         target = pages / place
         target.parent.mkdir(parents=True, exist_ok=True)
         target.write_text("".join(lines), encoding="utf-8")
-    for picture in (tree / "docs").glob("**/*.svg"):
+    pictures = (picture for kind in PICTURES for picture in (tree / "docs").glob("**/" + kind))
+    for picture in pictures:
         target = pages / picture.relative_to(tree / "docs")
         target.parent.mkdir(parents=True, exist_ok=True)
         target.write_bytes(picture.read_bytes())

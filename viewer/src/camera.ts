@@ -74,10 +74,15 @@ export class ViewCamera {
     return this.state.isPerspective ? this.perspective : this.orthographic;
   }
 
+  /** Sets the size of the view. The scale stays, so that the model does not jump when a panel
+   *  opens. A size without an area is ignored. */
   resize(width: number, height: number): void {
-    this.width = Math.max(1, width);
-    this.heightInPixels = Math.max(1, height);
-    this.apply();
+    if (width < 1 || height < 1) return;
+    const isFirst = this.heightInPixels <= 1;
+    const scale = isFirst ? 1 : height / this.heightInPixels;
+    this.width = width;
+    this.heightInPixels = height;
+    this.set({ height: this.state.height * scale });
   }
 
   /** Changes the state. With `isAnimated`, the view moves there unless the user prefers less

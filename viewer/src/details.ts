@@ -51,7 +51,9 @@ function drawProfile(profile: Profile, label: string): SVGSVGElement | null {
   },
   makeSvg('path', {
     class: 'profile-area',
-    attributes: { d: [profile.outline, ...profile.holes].map(path).join(''), 'fill-rule': 'evenodd' },
+    attributes: {
+      d: [profile.outline, ...profile.holes].map(path).join(''), 'fill-rule': 'evenodd',
+    },
   }),
   line(left - at / 2, 0, right + at / 2, 0, 'profile-axis'),
   line(0, top - at / 2, 0, bottom + at / 2, 'profile-axis'),

@@ -47,7 +47,9 @@ export function makeSelect(
   id: string, label: string, values: readonly (readonly [string, string])[],
   change: (value: string) => void,
 ): { root: HTMLElement; select: HTMLSelectElement } {
-  const select = make('select', { attributes: { id, 'aria-label': label }, on: { change: () => change(select.value) } });
+  const select = make('select', {
+    attributes: { id, 'aria-label': label }, on: { change: () => change(select.value) },
+  });
   for (const [value, text] of values) {
     select.append(make('option', { text, attributes: { value } }));
   }

@@ -1,6 +1,7 @@
 // Numbers and texts as the page shows them.
 
-const kUnsafe = /[\u0000-\u001f\u007f-\u009f\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb]/g;
+const kUnsafe =
+  /[\u0000-\u001f\u007f-\u009f\u200b-\u200f\u2028-\u202e\u2060-\u206f\ufeff\ufff9-\ufffb]/g;
 
 /** A text of the model with control characters, and characters that change the direction of text
  *  or have no width, as \xNN or \uNNNN. An absent text is empty. */

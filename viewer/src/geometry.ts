@@ -46,9 +46,10 @@ function sortElements(model: Model): { byMesh: Map<number, number[]>; rest: numb
   return { byMesh, rest };
 }
 
+type Attribute = THREE.BufferAttribute | THREE.InterleavedBufferAttribute;
+
 function indexed(
-  base: THREE.BufferGeometry, attributes: Record<string, THREE.BufferAttribute | THREE.InterleavedBufferAttribute>,
-  index: Uint32Array,
+  base: THREE.BufferGeometry, attributes: Record<string, Attribute>, index: Uint32Array,
 ): THREE.BufferGeometry {
   for (const [name, attribute] of Object.entries(attributes)) base.setAttribute(name, attribute);
   base.setIndex(new THREE.BufferAttribute(index, 1));
@@ -133,6 +134,11 @@ function mergedGroup(model: Model, elements: number[]): SolidGroup {
     edges: indexed(new THREE.BufferGeometry(), attributes, edges),
     isInstanced: false,
   };
+}
+
+/** Makes the faces of one element. */
+export function makeSolid(model: Model, element: number): THREE.BufferGeometry {
+  return mergedGroup(model, [element]).faces;
 }
 
 /** Makes the buffers of all solids. */

@@ -1,4 +1,4 @@
-// What tests and measurements read of the page: `window.kelifcPage`. Nothing of it changes the page.
+// What tests and measurements read of the page: `window.kelifcPage`. It does not change the page.
 
 import type { Store } from './state';
 import type { FrameStatistics, View } from './view';

@@ -57,7 +57,10 @@ function fillOf(model: Model, loops: Loop[]): Point[] {
 }
 
 export interface IdealisedGeometry {
-  lines: THREE.InstancedBufferGeometry;
+  /** The axes of members. */
+  axes: THREE.InstancedBufferGeometry;
+  /** The outlines and holes of surfaces. */
+  outlines: THREE.InstancedBufferGeometry;
   planes: THREE.BufferGeometry;
   nodes: THREE.BufferGeometry;
 }
@@ -71,7 +74,8 @@ function points(list: number[], elements: number[]): THREE.BufferGeometry {
 
 /** Makes the buffers of the idealisation of all elements. */
 export function makeIdealised(model: Model): IdealisedGeometry {
-  const lines = new SegmentList();
+  const axes = new SegmentList();
+  const outlines = new SegmentList();
   const nodes: number[] = [];
   const nodeElements: number[] = [];
   const planes: number[] = [];
@@ -79,7 +83,7 @@ export function makeIdealised(model: Model): IdealisedGeometry {
   for (const loop of model.loops) {
     const last = loop.isClosed ? loop.count : loop.count - 1;
     for (let i = 0; i < last; ++i) {
-      lines.add(loop.element, model.loopPoint(loop.first + i),
+      (loop.isClosed ? outlines : axes).add(loop.element, model.loopPoint(loop.first + i),
         model.loopPoint(loop.first + ((i + 1) % loop.count)));
     }
     if (!loop.isClosed && loop.count) {
@@ -96,7 +100,8 @@ export function makeIdealised(model: Model): IdealisedGeometry {
     }
   }
   return {
-    lines: makeLineGeometry(lines.segments),
+    axes: makeLineGeometry(axes.segments),
+    outlines: makeLineGeometry(outlines.segments),
     planes: points(planes, planeElements),
     nodes: points(nodes, nodeElements),
   };

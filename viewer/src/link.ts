@@ -45,6 +45,8 @@ function readCamera(parts: URLSearchParams, model: Model, view: View): void {
   if (target.length !== 3 || angles.length !== 2 || !(height > 0)) return;
   if (![...target, ...angles, height].every(Number.isFinite)) return;
   const origin = model.description.origin;
+  // The panels that the link opens have changed the size of the view.
+  view.resize();
   view.camera.set({
     target: [target[0] - origin[0], target[1] - origin[1], target[2] - origin[2]],
     azimuth: angles[0], elevation: angles[1], height, isPerspective: parts.get('p') !== '0',

@@ -139,8 +139,8 @@ function show(model: Model): void {
     { tab: 'losses', title: `${strings.losses} (${count(losses)})`, content: makeLosses(model) },
   ]);
   const details = new Details(model, store, list, () => view && zoomToSelection(store, view));
-  page.replaceChildren(
-    makeHead(model, makePageTools(store, view, help), makeToolbar(store, view)), panel, stage, details.root, help);
+  const head = makeHead(model, makePageTools(store, view, help), makeToolbar(store, view, stage));
+  page.replaceChildren(head, panel, stage, details.root, help);
   placeAnnouncer(page);
   stage.append(makeLegend(model, store));
   if (view) {
@@ -150,6 +150,7 @@ function show(model: Model): void {
     const cross = make('div', { class: 'cross', attributes: { 'aria-hidden': 'true' } });
     stage.append(measure.overlay, measure.panel, tip, cross);
     connectView(store, view, list, measure, help, tip);
+    view.resize();
     view.camera.fit(view.visibleBox(), false);
     view.canvas.addEventListener('webglcontextlost', () => announce(strings.lostContext));
   }

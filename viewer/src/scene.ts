@@ -2,7 +2,7 @@
 
 import * as THREE from 'three';
 import { coloursOf, plainColour, viewColours, type Rgb } from './colours';
-import { makeSolids } from './geometry';
+import { makeSolid, makeSolids } from './geometry';
 import { makeIdealised, type IdealisedGeometry } from './idealised';
 import { SegmentList, makeLineGeometry } from './lines';
 import type { Model } from './model';
@@ -16,10 +16,21 @@ interface Layer {
   isShown: () => boolean;
 }
 
+const kBody = 2;
 const kNoClip = new THREE.Vector4(0, 0, 0, 1);
 
 function colourOf(rgb: Rgb): THREE.Color {
-  return new THREE.Color().setRGB(rgb[0] / 255, rgb[1] / 255, rgb[2] / 255, THREE.LinearSRGBColorSpace);
+  const [red, green, blue] = rgb.map((channel) => channel / 255);
+  return new THREE.Color().setRGB(red, green, blue, THREE.LinearSRGBColorSpace);
+}
+
+/** Removes the objects of a group and frees their buffers. */
+function dispose(group: THREE.Group): void {
+  for (const child of group.children as THREE.Mesh[]) {
+    child.geometry.dispose();
+    (child.material as THREE.Material).dispose();
+  }
+  group.clear();
 }
 
 /** The middle one of the three extents of each element: about how wide it looks. */
@@ -86,7 +97,7 @@ export class BuildingScene {
     const facet = colourBy === 'none' ? null : this.model.facet(colourBy);
     const colours = facet ? coloursOf(facet) : [];
     const texels = this.states.image.data as Uint8Array;
-    const approximate = this.model.elements.approximate;
+    const { approximate, kind, volumeRatio } = this.model.elements;
     for (let i = 0; i < this.model.count; ++i) {
       const rgb = facet ? colours[facet.values[i]] : plainColour;
       texels[4 * i] = rgb[0];
@@ -94,6 +105,7 @@ export class BuildingScene {
       texels[4 * i + 2] = rgb[2];
       texels[4 * i + 3] = (this.store.visible[i] ? shaders.kVisible : 0)
         | (approximate[i] ? shaders.kApproximate : 0)
+        | (kind[i] === kBody && volumeRatio[i] === null ? shaders.kOpen : 0)
         | (i === selected ? shaders.kSelected : 0)
         | (i === this.hovered ? shaders.kHovered : 0);
     }
@@ -124,7 +136,7 @@ export class BuildingScene {
   /** Places the section and its outlines. */
   updateSection(): void {
     this.plane = planeOf(this.store.state.section, this.model);
-    this.cutLines.clear();
+    dispose(this.cutLines);
     this.uniforms.clip.value = this.plane
       ? new THREE.Vector4(...this.plane.normal, this.plane.distance) : kNoClip;
     if (!this.plane) return;
@@ -140,7 +152,7 @@ export class BuildingScene {
 
   /** Outlines the selected element. */
   updateSelection(): void {
-    this.selection.clear();
+    dispose(this.selection);
     const element = this.store.state.selected;
     if (element < 0 || !this.store.visible[element]) return;
     const list = new SegmentList();
@@ -160,9 +172,9 @@ export class BuildingScene {
     }
     const isApproximate = this.model.elements.approximate[element] === 1;
     this.selection.add(this.makeLines(makeLineGeometry(list.segments), {
-      width: 4.5, colour: 'selectedEdge', depthShift: 0, isOnTop: true,
-      dash: isApproximate ? 12 : 0,
+      width: 3, colour: 'selectedEdge', depthShift: 0, isOnTop: true, dash: isApproximate ? 12 : 0,
     }));
+    if (mesh && this.display !== 'axes') this.selection.add(this.makeGhost(element));
   }
 
   render(renderer: THREE.WebGLRenderer, camera: THREE.Camera): void {
@@ -246,7 +258,8 @@ export class BuildingScene {
         stencil(THREE.FrontSide, THREE.DecrementWrapStencilOp),
       ]) {
         const counter = new THREE.Mesh(group.faces,
-          this.material(shaders.solidVertex, shaders.emptyFragment, { defines, ...options }));
+          this.material(shaders.solidVertex, shaders.emptyFragment,
+            { defines: { ...defines, CLOSED_ONLY: '' }, ...options }));
         counter.frustumCulled = false;
         this.capScene.add(counter);
       }
@@ -287,14 +300,28 @@ export class BuildingScene {
     return lines;
   }
 
+  /** The faces of an element as a veil that shows through what hides them. */
+  private makeGhost(element: number): THREE.Mesh {
+    const ghost = new THREE.Mesh(makeSolid(this.model, element),
+      this.material(shaders.solidVertex, shaders.solidFragment,
+        { transparent: true, depthTest: false, depthWrite: false, side: THREE.FrontSide },
+        { opacity: { value: 0.3 } }));
+    ghost.frustumCulled = false;
+    ghost.renderOrder = 8;
+    return ghost;
+  }
+
   private makeIdealisedLayers(): void {
     this.idealised = makeIdealised(this.model);
     const isShown = () => this.display !== 'solids';
     const planes = this.material(shaders.solidVertex, shaders.solidFragment,
       { transparent: true, depthWrite: false }, { opacity: { value: 0.4 } });
     this.add(new THREE.Mesh(this.idealised.planes, planes), 4, isShown);
-    this.add(this.makeLines(this.idealised.lines, { width: 2.5, depthShift: 1e-4, usesClip: true }),
-      5, isShown);
+    const { axes, outlines } = this.idealised;
+    const addLines = (geometry: THREE.InstancedBufferGeometry, width: number, depthShift: number) =>
+      this.add(this.makeLines(geometry, { width, depthShift, usesClip: true }), 5, isShown);
+    addLines(outlines, 1.3, 1e-4);
+    addLines(axes, 2.8, 1.5e-4);
     const nodes = this.material(shaders.nodeVertex, shaders.nodeFragment);
     this.add(new THREE.Points(this.idealised.nodes, nodes), 6, isShown);
   }

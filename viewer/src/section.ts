@@ -7,7 +7,7 @@ import type { Section } from './state';
 
 const kAxes = { x: 0, y: 1, z: 2 } as const;
 
-/** Points with dot(normal, point) > distance are cut off. Coordinates are relative to the origin. */
+/** Points with dot(normal, point) > distance are cut off; they are relative to the origin. */
 export class Plane {
   readonly normal: [number, number, number] = [0, 0, 0];
   readonly distance: number;

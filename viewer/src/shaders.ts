@@ -4,6 +4,8 @@ export const kVisible = 1;
 export const kApproximate = 2;
 export const kSelected = 4;
 export const kHovered = 8;
+/** The solid has gaps: it has no inside that a section could fill. */
+export const kOpen = 16;
 
 /** The width of the texture of states. */
 export const kStatesWidth = 1024;
@@ -64,6 +66,9 @@ void main() {
   vFade = clamp((pixels - 1.0) / 5.0, 0.06, 1.0);
   gl_Position.z -= depthShift * gl_Position.w;
   if (!hasFlag(vState, ${kVisible})) gl_Position = ${kDropped};
+#ifdef CLOSED_ONLY
+  if (hasFlag(vState, ${kOpen})) gl_Position = ${kDropped};
+#endif
 }
 `;
 

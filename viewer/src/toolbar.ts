@@ -11,7 +11,8 @@ import { strings } from './strings';
 import type { View } from './view';
 
 /** The steps in which a section moves, in metres. */
-const kSteps = [0.01, 0.02, 0.05, 0.1, 0.2, 0.5, 1, 2, 5, 10, 100];
+const kSteps = [0.01, 0.02, 0.05, 0.1, 0.2, 0.5, 1, 2, 5, 10];
+const kLargestStep = 100;
 const kMostSteps = 500;
 
 export const kDisplays: readonly Display[] = ['solids', 'axes', 'both'];
@@ -69,7 +70,8 @@ function colourTools(store: Store): HTMLElement {
   return root;
 }
 
-function sectionTools(store: Store): HTMLElement {
+/** The choice of the section, and the tools that are shown on the view while there is one. */
+function sectionTools(store: Store): { choice: HTMLElement; tools: HTMLElement } {
   const { root, select } = makeSelect('section', strings.section,
     Object.entries(strings.sectionAxes), (value) => {
       const axis = value as SectionAxis;
@@ -90,14 +92,16 @@ function sectionTools(store: Store): HTMLElement {
     store.set({ section: { ...section, isFlipped: !section.isFlipped } });
   });
   flip.setAttribute('aria-label', strings.sectionFlipLabel);
-  const more = make('span', { class: 'section-tools' }, slider, text, flip);
+  const more = make('div', {
+    class: 'section-tools', attributes: { role: 'group', 'aria-label': strings.section },
+  }, slider, text, flip);
   const update = () => {
     const { axis, position, isFlipped } = store.state.section;
     select.value = axis;
     more.hidden = axis === 'none';
     if (axis === 'none') return;
     const [low, high] = sectionRange(axis, store.model);
-    const step = kSteps.find((size) => size * kMostSteps >= high - low) ?? kSteps[kSteps.length - 1];
+    const step = kSteps.find((size) => size * kMostSteps >= high - low) ?? kLargestStep;
     slider.step = String(step);
     slider.min = (Math.floor(low / step) * step).toFixed(2);
     slider.max = (Math.ceil(high / step) * step).toFixed(2);
@@ -108,12 +112,12 @@ function sectionTools(store: Store): HTMLElement {
   };
   store.listen((changed) => changed.has('section') && update());
   update();
-  root.append(more);
-  return root;
+  return { choice: root, tools: more };
 }
 
 function measureTool(store: Store): HTMLElement {
-  const button = toggle(strings.measure, () => store.set({ isMeasuring: !store.state.isMeasuring }));
+  const button = toggle(strings.measure, () =>
+    store.set({ isMeasuring: !store.state.isMeasuring }));
   store.listen((changed) => {
     if (changed.has('isMeasuring')) press(button, store.state.isMeasuring);
   });
@@ -155,12 +159,16 @@ export function makeHelp(): HTMLDialogElement {
   return dialog;
 }
 
-/** Makes the tools of the view. Without a view, those that need one are left out. */
-export function makeToolbar(store: Store, view: View | null): HTMLElement {
-  const tools = view
-    ? [viewTools(view), displayTools(store), colourTools(store), measureTool(store),
-      sectionTools(store)]
-    : [colourTools(store)];
+/** Makes the tools of the view, and puts those of the section on the stage. Without a view, the
+ *  tools that need one are left out. */
+export function makeToolbar(store: Store, view: View | null, stage: HTMLElement): HTMLElement {
+  const tools = [colourTools(store)];
+  if (view) {
+    const section = sectionTools(store);
+    stage.append(section.tools);
+    tools.unshift(viewTools(view), displayTools(store));
+    tools.push(section.choice, measureTool(store));
+  }
   return make('div', {
     class: 'toolbar', attributes: { role: 'group', 'aria-label': strings.toolbar },
   }, ...tools);

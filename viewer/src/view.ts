@@ -51,7 +51,11 @@ export class View {
     root.append(this.canvas);
     this.resize();
     this.scene.updateDisplay();
-    new ResizeObserver(() => this.resize()).observe(root);
+    // A new size empties the canvas. It is drawn before the browser shows it.
+    new ResizeObserver(() => {
+      this.resize();
+      this.draw();
+    }).observe(root);
     store.listen((changed) => this.update(changed));
   }
 
@@ -64,7 +68,7 @@ export class View {
   request(): void {
     if (this.isPending) return;
     this.isPending = true;
-    requestAnimationFrame(() => this.draw());
+    requestAnimationFrame(() => this.isPending && this.draw());
   }
 
   /** The box of the visible elements. */
@@ -94,7 +98,8 @@ export class View {
     if (has('display', 'hidden', 'colourBy', 'selected', 'section')) this.request();
   }
 
-  private resize(): void {
+  /** Takes over the size of the stage. */
+  resize(): void {
     const width = this.root.clientWidth;
     const height = this.root.clientHeight;
     this.renderer.setPixelRatio(Math.min(devicePixelRatio, 2));

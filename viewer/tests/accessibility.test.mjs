@@ -70,8 +70,9 @@ test('all controls are reached by the Tab key and show the focus', async () => {
     await page.keyboard.press('Tab');
     const [name, outline] = await page.evaluate(() => {
       const e = document.activeElement;
-      return e === document.body ? ['', ''] : [e.id || e.getAttribute('aria-label') || e.textContent.slice(0, 30),
-        getComputedStyle(e).outlineStyle];
+      if (e === document.body) return ['', ''];
+      const name = e.id || e.getAttribute('aria-label') || e.textContent.slice(0, 30);
+      return [name, getComputedStyle(e).outlineStyle];
     });
     reached.add(name);
     if (name) assert.notEqual(outline, 'none', `${name} shows the focus`);

@@ -40,14 +40,18 @@ export class Workbench {
     return file;
   }
 
-  /** Opens a page. Its property `messages` collects errors, warnings and requests of the page. */
-  async show(file, { hash = '', phone = false, dark = false } = {}) {
+  /** Opens a page. `patience` is how long actions may take, in milliseconds. The property
+   *  `messages` of the page collects its messages, errors and requests. */
+  async show(file, {
+    hash = '', phone = false, dark = false, viewport = { width: 1280, height: 800 },
+    patience = 10000,
+  } = {}) {
     const context = await this.browser.newContext({
-      viewport: phone ? { width: 390, height: 800 } : { width: 1280, height: 800 },
+      viewport: phone ? { width: 390, height: 800 } : viewport,
       hasTouch: phone, isMobile: phone, colorScheme: dark ? 'dark' : 'light',
       reducedMotion: 'reduce',
     });
-    context.setDefaultTimeout(10000);
+    context.setDefaultTimeout(patience);
     const page = await context.newPage();
     page.messages = [];
     page.on('console', (m) => {

@@ -59,7 +59,8 @@ function addFrame(maker, sections, storey, z) {
     for (const y of [0, 8]) {
       maker.member(sections.column, [x, y, z], [x, y, z + 3], [1, 0, 0], {
         id: house.column + maker.elements.length, class: 0, name: `C ${x}/${y}`, storey,
-        storeyByHeight: storey, material: 0, guid: `0column${String(maker.elements.length).padStart(15, '0')}`,
+        storeyByHeight: storey, material: 0,
+        guid: `0column${String(maker.elements.length).padStart(15, '0')}`,
       });
     }
     maker.member(sections.beam, [x, 0, z + 3.2], [x, 8, z + 3.2], [1, 0, 0], {
@@ -121,9 +122,10 @@ export function makeGrid(count) {
   const maker = new Maker();
   const sections = Array.from({ length: 60 }, (_, i) => {
     const size = 0.2 + 0.005 * i;
+    const sizes = { h: size, b: size };
     return i % 3
-      ? maker.profile(`R ${i}`, 'rectangle', { h: size, b: size }, rectangle(size, size), size * size)
-      : maker.profile(`I ${i}`, 'I', { h: size, b: size }, iSection(size, size, 0.01, 0.02), 0.01);
+      ? maker.profile(`R ${i}`, 'rectangle', sizes, rectangle(size, size), size * size)
+      : maker.profile(`I ${i}`, 'I', sizes, iSection(size, size, 0.01, 0.02), 0.01);
   });
   const side = Math.ceil(Math.sqrt(count / 10));
   for (let i = 0; i < count; ++i) {

@@ -14,7 +14,7 @@ export function rectangle(width, height) {
 /** An I section with equal flanges. */
 export function iSection(h, b, tw, tf) {
   const right = [[tw / 2, -h / 2 + tf], [b / 2, -h / 2 + tf], [b / 2, -h / 2]];
-  const lower = [[-b / 2, -h / 2], ...right.toReversed(), ];
+  const lower = [[-b / 2, -h / 2], ...right.reverse()];
   const half = [...lower, [tw / 2, h / 2 - tf], [b / 2, h / 2 - tf], [b / 2, h / 2]];
   return [...half, [-b / 2, h / 2], [-b / 2, h / 2 - tf], [-tw / 2, h / 2 - tf],
     [-tw / 2, -h / 2 + tf], [-b / 2, -h / 2 + tf]];

@@ -49,7 +49,9 @@ async function checkPicture(page) {
 for (const name of names) {
   test(`${name}: the page shows what was read`, async () => {
     const data = JSON.parse(readFileSync(join(folder, `${name}.json`), 'utf8'));
-    const page = await bench.show(join(folder, `${name}.html`));
+    const page = await bench.show(join(folder, `${name}.html`), {
+      viewport: { width: 900, height: 600 }, patience: 120000,
+    });
     const expected = data.elements.length;
     assert.deepEqual(await counts(page), { elements: expected, visible: expected });
     if (expected) {

@@ -12,7 +12,10 @@ let page;
 
 before(async () => {
   bench = await Workbench.open();
-  page = await bench.show(bench.write('grid.html', makeGrid(size)));
+  // Drawing in software takes seconds for each frame; the cost of the script does not depend on it.
+  page = await bench.show(bench.write('grid.html', makeGrid(size)), {
+    viewport: { width: 760, height: 500 }, patience: 120000,
+  });
 });
 after(() => bench.close());
 
@@ -33,7 +36,7 @@ test('each display turns with few draw calls and little script', async (context)
   for (const name of ['Solids', 'Both', 'Idealised']) {
     await page.getByRole('button', { name, exact: true }).click();
     await settle(page);
-    const time = await measureTurning(9);
+    const time = await measureTurning(5);
     context.diagnostic(`${name}: ${(await statistics(page)).drawCalls} draw calls, ${time} ms`);
     assert.ok(time <= mostScriptMilliseconds, `${name}: ${time} ms`);
   }
@@ -43,7 +46,7 @@ test('each display turns with few draw calls and little script', async (context)
 test('a section keeps the number of draw calls', async () => {
   await page.locator('#section').selectOption('z');
   await settle(page);
-  assert.ok((await measureTurning(3)) <= mostScriptMilliseconds);
+  assert.ok((await measureTurning(2)) <= mostScriptMilliseconds);
   await page.locator('#section').selectOption('none');
 });
 
