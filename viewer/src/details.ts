@@ -39,6 +39,9 @@ function drawProfile(profile: Profile, label: string): SVGSVGElement | null {
         ...(turn ? { transform: turn } : {}),
       },
     });
+  // The chords of a circle do not reach its full height.
+  const width = profile.parameters.d || right - left;
+  const height = profile.parameters.d || bottom - top;
   const at = 0.08 * size;
   const [middleY, middleZ] = [(left + right) / 2, (top + bottom) / 2];
   const [cx, cy] = [right + 1.9 * at, middleZ];
@@ -59,8 +62,8 @@ function drawProfile(profile: Profile, label: string): SVGSVGElement | null {
   line(0, top - at / 2, 0, bottom + at / 2, 'profile-axis'),
   line(left, bottom + at, right, bottom + at, 'profile-size'),
   line(right + at, top, right + at, bottom, 'profile-size'),
-  text(middleY, bottom + 2.1 * at, sizeInMillimetres(right - left)),
-  text(cx, cy, sizeInMillimetres(bottom - top), `rotate(-90 ${cx} ${cy})`));
+  text(middleY, bottom + 2.1 * at, sizeInMillimetres(width)),
+  text(cx, cy, sizeInMillimetres(height), `rotate(-90 ${cx} ${cy})`));
 }
 
 function parameterFields(profile: Profile): Field[] {
