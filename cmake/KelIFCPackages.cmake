@@ -72,6 +72,17 @@ set(CPACK_DEBIAN_COMMAND_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS_PRIVATE_DIRS "${PROJECT_BINARY_DIR}/kelifc")
 set(CPACK_DEBIAN_COMMAND_PACKAGE_DEPENDS "${runtime_package} (= ${package_version})")
 
+if(KELIFC_BUILD_PYTHON)
+  kelifc_package(python python3-kelifc python "Python module that reads and writes IFC building models
+${about}
+.
+This package contains the Python module kelifc.")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SHLIBDEPS ON)
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
+    "${runtime_package} (= ${package_version}), python3 (>= 3.11), python3 (<< 3.12), python3-numpy")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "python3-pandas")
+endif()
+
 include(CPack)
 cpack_add_component_group(development)
 cpack_add_component(headers GROUP development)

@@ -24,7 +24,7 @@ from numpy.typing import NDArray
 StrPath = Union[str, os.PathLike[str]]
 
 __version__: str
-__all__: list[str]
+__all__ = {names!r}
 '''
 
 LIST = '''
@@ -71,7 +71,7 @@ def class_stub(kind: type) -> str:
 
 
 def module_stub(module: Any) -> str:
-    parts = [HEAD]
+    parts = [HEAD.format(names=module.__all__)]
     for name in module.__all__:
         member = getattr(module, name)
         if isinstance(member, type):

@@ -8,9 +8,9 @@ namespace KelIFC {
 
 bool ValueWriter::Set(MEMBER& reference, const char* text, IfcUnknown& holder) {
   MEMBER read(&holder);
-  read.Parse(text);
   const bool isInline = *text != '$' && *text != '#';
-  if (isInline && !read.GetExists()) ParseValueMember(holder.GetServer(), text, read);
+  if (isInline) ParseValueMember(holder.GetServer(), text, read);
+  if (!read.GetExists()) read.Parse(text);  // a reference, or an inline instance of an entity
   if (isInline && !read.GetExists()) return false;
   reference = read;
   return true;

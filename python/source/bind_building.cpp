@@ -185,7 +185,7 @@ void BindBuilding(py::module_& module) {
       },
       py::arg("table") = "elements",
       "to_dataframe(table: str = 'elements') -> pd.DataFrame\n\nReturns a table as a data frame of "
-      "pandas. kelifc.frames.TABLES lists the tables.");
+      "pandas. tables() lists the tables with their columns and units.");
   type.def(py::pickle(&PickleBuilding, &UnpickleBuilding));
   BindDifference(module);
 }

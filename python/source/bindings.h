@@ -16,6 +16,7 @@ void BindReport(py::module_& module);
 void BindStructure(py::module_& module);
 void BindBuilding(py::module_& module);
 void BindExport(py::module_& module);
+void BindTables(py::module_& module);
 
 }  // namespace KelIFC::python
 

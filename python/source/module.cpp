@@ -17,6 +17,7 @@ PYBIND11_MODULE(_kelifc, module) {
   BindStructure(module);
   BindBuilding(module);
   BindExport(module);
+  BindTables(module);
   BindModel(module);
   py::list names;
   for (const auto& [name, member] : py::cast<py::dict>(module.attr("__dict__"))) {

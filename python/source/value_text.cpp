@@ -109,6 +109,7 @@ void ValueText::AppendWord(const py::handle& value, AttributeKind kind) {
 }
 
 bool ValueText::AppendNumeric(const py::handle& value) {
+  if (PySequence_Check(value.ptr()) != 0) return false;  // also an array that could be an index
   if (PyIndex_Check(value.ptr())) {
     const auto index = py::reinterpret_steal<py::object>(PyNumber_Index(value.ptr()));
     if (!index) throw py::error_already_set();
@@ -118,8 +119,7 @@ bool ValueText::AppendNumeric(const py::handle& value) {
     return true;
   }
   const PyNumberMethods* const methods = Py_TYPE(value.ptr())->tp_as_number;
-  const bool isList = PySequence_Check(value.ptr()) != 0 && !PyFloat_Check(value.ptr());
-  if (isList || methods == nullptr || methods->nb_float == nullptr) return false;
+  if (methods == nullptr || methods->nb_float == nullptr) return false;
   const double number = PyFloat_AsDouble(value.ptr());
   if (number == -1.0 && PyErr_Occurred() != nullptr) throw py::error_already_set();
   AppendNumber(number);

@@ -74,7 +74,12 @@ TEST(RowsOf, NamesTheReadersOfKeptAttributes) {
   EXPECT_EQ(rows[1].reader,
             "ReadEnumeration<KelIFC2x3::IfcA, Kept<KelIFC2x3::IfcA>::kZ, "
             "KelIFC2x3::kIfcKindTable>");
+  EXPECT_EQ(rows[0].setting, "WriteMember<KelIFC2x3::IfcA, Kept<KelIFC2x3::IfcA>::kX>");
+  EXPECT_EQ(rows[1].setting,
+            "WriteEnumeration<KelIFC2x3::IfcA, Kept<KelIFC2x3::IfcA>::kZ, "
+            "KelIFC2x3::kIfcKindTable, KelIFC2x3::IfcKind_A>");
   EXPECT_EQ(rows[2].reader, "");
+  EXPECT_EQ(rows[2].setting, "");
   EXPECT_EQ(rows[2].pointer, "");
 }
 

@@ -19,7 +19,8 @@ TEST(EmitAttributes, WritesTheAttributesOfAClass) {
                     "    {.name = \"Name\",\n     .getter = \"GetName\",\n     .position = 0,\n"
                     "     .kind = AttributeKind::kText,\n     .use = AttributeUse::kKept,\n"
                     "     .isRequired = true,\n     .isWritten = true,\n"
-                    "     .read = ReadMember<KelIFC2x3::IfcA, Kept<KelIFC2x3::IfcA>::kName>},"
+                    "     .read = ReadMember<KelIFC2x3::IfcA, Kept<KelIFC2x3::IfcA>::kName>,\n"
+                    "     .write = WriteMember<KelIFC2x3::IfcA, Kept<KelIFC2x3::IfcA>::kName>},"
                     "\n};\n"));
   EXPECT_TRUE(Holds(tables,
                     "constexpr EntityDescription kIfcB = {\n    .name = \"IfcB\",\n"
