@@ -9,6 +9,7 @@
 #include "kelifc/platform/memory_watch.h"
 #include "kelifc/platform/path.h"
 #include "kelifc/server/content_hash.h"
+#include "kelifc/server/detail/reserve_huge.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/model_origin.h"
 #include "kelifc/server/model_source.h"
@@ -186,8 +187,8 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   load.bytesTotal = 2 * fileSize;
   const auto expected =
       static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
-  items.reserve(expected);
-  if (load.findings != nullptr) places.reserve(expected);
+  detail::ReserveHuge(items, expected);
+  if (load.findings != nullptr) detail::ReserveHuge(places, expected);
   idToIndex.Reserve(expected);
 }
 
