@@ -158,9 +158,18 @@ std::int32_t ReadInteger(const char* text, const char** end) {
     *end = text;
     return 0;
   }
+  // Nine digits are in range.
+  constexpr std::ptrdiff_t kMostDigits = 9;
+  const char* const first = at;
+  std::int32_t value = 0;
+  while (IsDigit(*at) && at - first < kMostDigits) value = 10 * value + (*at++ - '0');
+  if (!IsDigit(*at)) {
+    *end = at;
+    return isNegative ? -value : value;
+  }
   const std::int64_t bound = isNegative ? -std::int64_t{std::numeric_limits<std::int32_t>::min()}
                                         : std::int64_t{std::numeric_limits<std::int32_t>::max()};
-  std::int64_t number = 0;
+  std::int64_t number = value;
   for (; IsDigit(*at); ++at) {
     if (number < bound) number = 10 * number + (*at - '0');
   }

@@ -82,6 +82,16 @@ void EncodeCharacter(std::ostream& out, char c) {
   }
 }
 
+// Appends characters. A string that is still empty allocates no more memory than it needs; if it
+// grew, it would allocate memory for at least twice its old capacity.
+void AppendExactly(std::string& out, const char* text, std::size_t length) {
+  if (out.empty() && length > out.capacity()) {
+    out = std::string(text, length);
+  } else {
+    out.append(text, length);
+  }
+}
+
 }  // namespace
 
 const char* DecodeQuoted(const char* text, std::string& out) {
@@ -96,7 +106,7 @@ const char* DecodeQuoted(const char* text, std::string& out) {
     const auto length = static_cast<std::size_t>(end - cursor);
     const auto* escape = static_cast<const char*>(std::memchr(cursor, kEscape, length));
     if (escape == nullptr) {
-      out.append(cursor, length);
+      AppendExactly(out, cursor, length);
       return quote;
     }
     out.append(cursor, static_cast<std::size_t>(escape - cursor));

@@ -16,7 +16,8 @@ void ProductNumbers::Build(IfcUnknown* const* slots, std::size_t count,
   made.reserve(positions.size());
   for (std::uint64_t number = numbers.GetNext(0); number != 0; number = numbers.GetNext(number)) {
     const std::uint32_t position = numbers.Find(number);
-    if (isProduct[position] && slots[position] != nullptr) made.push_back({slots[position], number});
+    if (isProduct[position] && slots[position] != nullptr)
+      made.push_back({slots[position], number});
   }
   std::sort(made.begin(), made.end(),
             [](const Row& a, const Row& b) { return std::less<>()(a.product, b.product); });
