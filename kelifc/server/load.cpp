@@ -9,11 +9,11 @@
 #include "kelifc/platform/memory_watch.h"
 #include "kelifc/platform/path.h"
 #include "kelifc/server/content_hash.h"
-#include "kelifc/server/detail/reserve_huge.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/model_origin.h"
 #include "kelifc/server/model_source.h"
 #include "kelifc/server/report_collector.h"
+#include "kelifc/server/reserve_huge.h"
 #include "kelifc/server/scan_buffer.h"
 #include "kelifc/server/statements.h"
 
@@ -187,8 +187,8 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   load.bytesTotal = 2 * fileSize;
   const auto expected =
       static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
-  detail::ReserveHuge(items, expected);
-  if (load.findings != nullptr) detail::ReserveHuge(places, expected);
+  ReserveHuge(items, expected);
+  if (load.findings != nullptr) ReserveHuge(places, expected);
   idToIndex.Reserve(expected);
 }
 

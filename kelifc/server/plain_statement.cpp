@@ -55,8 +55,7 @@ template <class Compare>
   for (; end - at >= kBlock; at += kBlock) {
     const BlockBits bits = compare(at);
     const std::uint64_t strings = PrefixXor(bits.quotes) ^ inString;
-    const std::uint64_t marks =
-        bits.breaks | (bits.outside & ~strings) | (bits.escapes & strings);
+    const std::uint64_t marks = bits.breaks | (bits.outside & ~strings) | (bits.escapes & strings);
     if (marks != 0) {
       at += std::countr_zero(marks);
       return *at == ';' ? at : nullptr;
@@ -79,8 +78,7 @@ BlockBits CompareSse2(const char* at) {
     bits.quotes |= bitsOf(equals(kQuote));
     bits.outside |= bitsOf(_mm_or_si128(equals(';'), equals('/')));
     bits.escapes |= bitsOf(equals(kEscape));
-    bits.breaks |=
-        bitsOf(_mm_cmpeq_epi8(_mm_min_epu8(text, _mm_set1_epi8(kLastBreak)), text));
+    bits.breaks |= bitsOf(_mm_cmpeq_epi8(_mm_min_epu8(text, _mm_set1_epi8(kLastBreak)), text));
   }
   return bits;
 }
@@ -108,9 +106,7 @@ BlockBits CompareSse2(const char* at) {
   return bits;
 }
 
-const char* FindSse2(const char* at, const char* end) {
-  return FindInBlocks(at, end, CompareSse2);
-}
+const char* FindSse2(const char* at, const char* end) { return FindInBlocks(at, end, CompareSse2); }
 
 [[gnu::target("avx2")]] const char* FindAvx2(const char* at, const char* end) {
   return FindInBlocks(at, end, CompareAvx2);

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "kelifc/server/detail/reserve_huge.h"
+#include "kelifc/server/reserve_huge.h"
 
 namespace KelIFC::detail {
 namespace {

@@ -1,11 +1,11 @@
-#ifndef KELIFC_SERVER_DETAIL_RESERVE_HUGE_H_
-#define KELIFC_SERVER_DETAIL_RESERVE_HUGE_H_
+#ifndef KELIFC_SERVER_RESERVE_HUGE_H_
+#define KELIFC_SERVER_RESERVE_HUGE_H_
 
 #include <cstddef>
 
 #include "kelifc/platform/huge_pages.h"
 
-namespace KelIFC::detail {
+namespace KelIFC {
 
 /// Allocates memory for `count` elements of a vector in all. A large vector uses huge pages where
 /// it is filled.
@@ -18,6 +18,6 @@ void ReserveHuge(Vector& vector, std::size_t count) {
   if (bytes >= kLarge) AdviseHugePages(vector.data(), bytes);
 }
 
-}  // namespace KelIFC::detail
+}  // namespace KelIFC
 
-#endif  // KELIFC_SERVER_DETAIL_RESERVE_HUGE_H_
+#endif  // KELIFC_SERVER_RESERVE_HUGE_H_
