@@ -7,11 +7,16 @@ BUILD is the build folder of the preset release. Without MODEL arguments the scr
 the folder WORK and keeps them for the next run; with MODEL arguments it measures these instead.
 Times are processor time, the median of five runs. Memory is the peak of `kelifc info`, `kelifc
 save` and `kelifc structure`, each in a process of its own. Nothing else should run meanwhile.
+
+The second table has the processor times in byte loops: a byte loop counts the `;` outside of quotes
+in the same file in memory. It has the page faults of each work, too. Unlike the first table, it
+measures in new processes, where the system has to provide all memory.
 """
 
 import collections
 import json
 import os
+import statistics
 import subprocess
 import sys
 
@@ -78,6 +83,37 @@ def measure(build, path):
             *(f"{rows[name]['cpu_time']:.0f}" for name in LOOKUPS)]
 
 
+def run_byte_loops(build, path):
+    """Returns the medians of the seconds and of the page faults, by the name of the work."""
+    saved = path + ".saved"
+    runs = collections.defaultdict(list)
+    for _ in range(REPETITIONS):
+        done = subprocess.run([os.path.join(build, "bench", "byte_loops"), path, saved], check=True,
+                              capture_output=True, text=True)
+        for line in done.stdout.splitlines():
+            name, seconds, faults = line.split()
+            runs[name].append((float(seconds), int(faults)))
+    os.remove(saved)
+    return {name: [statistics.median(column) for column in zip(*rows)]
+            for name, rows in runs.items()}
+
+
+def print_byte_loops(build, paths):
+    print("| model | loop ms | load | conversion | save | reset | faults | faults | faults | faults |")
+    print("|---|" + "---:|" * 9)
+    for path in paths:
+        works = run_byte_loops(build, path)
+        loop, _ = works.pop("loop")
+        cells = [f"{1000 * loop:.0f}"]
+        cells += [f"{seconds / loop:.2f}" for seconds, _ in works.values()]
+        cells += [f"{faults:.0f}" for _, faults in works.values()]
+        print(f"| {name_of(path)} | " + " | ".join(cells) + " |", flush=True)
+
+
+def name_of(path):
+    return os.path.splitext(os.path.basename(path))[0]
+
+
 def main():
     build, work, *named = sys.argv[1:]
     os.makedirs(work, exist_ok=True)
@@ -87,8 +123,9 @@ def main():
           "item ns | item anywhere ns |")
     print("|---|" + "---:|" * 17)
     for path in paths:
-        name = os.path.splitext(os.path.basename(path))[0]
-        print(f"| {name} | " + " | ".join(measure(build, path)) + " |", flush=True)
+        print(f"| {name_of(path)} | " + " | ".join(measure(build, path)) + " |", flush=True)
+    print()
+    print_byte_loops(build, paths)
 
 
 if __name__ == "__main__":

@@ -87,6 +87,7 @@ set(kelifc_public_headers
   kelifc/schema/dimensional_exponents.h
   kelifc/server/detail/instance_index.h
   kelifc/server/detail/number_index.h
+  kelifc/server/detail/product_numbers.h
   kelifc/server/detail/project_classes.h
   kelifc/server/ifc_server.h
   kelifc/server/load_findings.h

@@ -1,7 +1,5 @@
 #include "kelifc/core/member.h"
 
-#include <charconv>
-#include <string_view>
 #include <typeinfo>
 
 #include "kelifc/core/detail/cursor.h"
@@ -197,9 +195,7 @@ std::ostream& MEMBER::Write(std::ostream& out) const {
   if (!GetExists()) {
     detail::PutChar(out, '$');
   } else if (number != 0) {
-    char text[24] = {'#'};
-    const auto end = std::to_chars(text + 1, text + sizeof text, number);
-    detail::PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
+    detail::PutReference(out, number);
   } else if (const IfcUnknown* value = GetHeapValue()) {
     value->Write(out);
   } else {

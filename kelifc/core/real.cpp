@@ -25,8 +25,8 @@ std::ostream& REAL::Write(std::ostream& out) const {
   } else if (std::fabs(value) <= GetWriteTolerance()) {
     detail::PutText(out, "0.");
   } else {
-    char buffer[kRealTextSize];
-    detail::PutText(out, FormatReal(value, buffer));
+    detail::PutPiece<kRealTextSize>(
+        out, [number = value](char* text) { return FormatReal(number, text); });
   }
   return out;
 }

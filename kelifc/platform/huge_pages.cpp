@@ -4,29 +4,28 @@
 
 #ifdef __linux__
 #include <sys/mman.h>
+
+#include <cstdint>
 #endif
 
 namespace KelIFC {
 
 namespace {
 
-#ifdef __linux__
 constexpr auto kAlignment = static_cast<std::align_val_t>(kHugePageSize);
-#else
-// Other systems need rights or flags for huge pages, so an alignment would only waste memory.
-constexpr auto kAlignment = static_cast<std::align_val_t>(__STDCPP_DEFAULT_NEW_ALIGNMENT__);
-#endif
 
 }  // namespace
 
-void* AllocateHugePages(std::size_t size) {
-  void* const memory = ::operator new(size, kAlignment);
-#ifdef __linux__
-  madvise(memory, size, MADV_HUGEPAGE);  // a mere advice: a failure changes nothing
-#endif
-  return memory;
-}
+void* AllocatePages(std::size_t size) { return ::operator new(size, kAlignment); }
+void FreePages(void* memory) noexcept { ::operator delete(memory, kAlignment); }
 
-void FreeHugePages(void* memory) noexcept { ::operator delete(memory, kAlignment); }
+void AdviseHugePages([[maybe_unused]] void* begin, [[maybe_unused]] std::size_t size) {
+#ifdef __linux__
+  constexpr std::size_t kPage = 4096;
+  if (size < kHugePageSize) return;
+  const std::size_t before = (kPage - reinterpret_cast<std::uintptr_t>(begin) % kPage) % kPage;
+  madvise(static_cast<char*>(begin) + before, (size - before) / kPage * kPage, MADV_HUGEPAGE);
+#endif
+}
 
 }  // namespace KelIFC

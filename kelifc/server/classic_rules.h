@@ -20,6 +20,14 @@ class ClassicRules : public ScanBuffer {
   using ScanBuffer::ScanBuffer;
 
  protected:
+  void Begin() {
+    SkipLineEnd();
+    ScanBuffer::Begin();
+  }
+
+  // Returns the next statement if it is plain, otherwise null.
+  char* TakePlain() { return FindPlain() ? Finish(cursor + 1) : nullptr; }
+
   // Moves the cursor to the next character that has a meaning here. False at the end of the input.
   bool FindMark();
 

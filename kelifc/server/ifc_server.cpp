@@ -57,11 +57,13 @@ const Mvector<IfcUnknown*>& IfcServer::GetItems() const { return items; }
 void IfcServer::Reset() {
   load.parsed = nullptr;
   instanceIndex.Clear();
+  productNumbers.Drop();
   if (mayRepeat) DropRepeatedSlots();
   for (std::size_t i = items.size(); i > 0; --i) delete std::exchange(items[i - 1], nullptr);
   items = Mvector<IfcUnknown*>();  // frees the memory
   idToIndex.Clear();
   instanceIndex.Clear();  // a destructor may have built it again
+  productNumbers = {};
   guidIndex = {};
   productPositions = {};
   places = {};
@@ -133,6 +135,7 @@ void IfcServer::Append(std::size_t id, IfcUnknown* item) {
 // The number is set last: its earlier meaning must not be lost if there is no memory.
 void IfcServer::FillSlot(std::size_t id, IfcUnknown* item) {
   const auto position = static_cast<std::uint32_t>(items.size());
+  productNumbers.Drop();
   items.push_back(item);
   if (item != nullptr && IsProduct(item)) productPositions.push_back(position);
   if (instanceIndex.IsBuilt()) {
@@ -151,12 +154,25 @@ std::size_t IfcServer::Find(const IfcUnknown* item) const {
   // A relationship looks up its own number while it is parsed. A load need not build the index for
   // that.
   if (item != nullptr && item == load.parsed && !mayRepeat) return load.parsedNumber;
+  if (const std::uint64_t number = FindProductNumber(item)) {
+    return static_cast<std::size_t>(number);
+  }
   BuildInstanceIndex();
   const std::uint32_t position = instanceIndex.FindPosition(items.data(), item);
   return position == detail::InstanceIndex::kNone ? 0 : instanceIndex.GetNumber(position);
 }
 
+// Returns 0 if the table of products does not answer the question.
+std::uint64_t IfcServer::FindProductNumber(const IfcUnknown* item) const {
+  if (instanceIndex.IsBuilt() || mayRepeat || item == nullptr) return 0;
+  if (productNumbers.IsNew()) {
+    productNumbers.Build(items.data(), items.size(), productPositions, idToIndex);
+  }
+  return productNumbers.Find(item);
+}
+
 std::size_t IfcServer::DeleteItem(const IfcUnknown* item) {
+  productNumbers.Drop();
   BuildInstanceIndex();
   const std::uint32_t first = instanceIndex.FindPosition(items.data(), item);
   if (first == detail::InstanceIndex::kNone) return 0;

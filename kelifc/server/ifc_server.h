@@ -16,6 +16,7 @@
 #include "kelifc/platform/guid.h"
 #include "kelifc/server/detail/instance_index.h"
 #include "kelifc/server/detail/number_index.h"
+#include "kelifc/server/detail/product_numbers.h"
 #include "kelifc/server/detail/project_classes.h"
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/load_options.h"
@@ -336,6 +337,7 @@ class KELIFC_API IfcServer {
   void Append(std::size_t id, IfcUnknown* item);
   void FillSlot(std::size_t id, IfcUnknown* item);
   void BuildInstanceIndex() const;
+  std::uint64_t FindProductNumber(const IfcUnknown* item) const;
   void BuildGuidIndex();
   void DropRepeatedSlots();
 
@@ -388,6 +390,7 @@ class KELIFC_API IfcServer {
   std::vector<GuidPlace> guidIndex;
 
   mutable detail::InstanceIndex instanceIndex;
+  mutable detail::ProductNumbers productNumbers;
   bool mayRepeat = false;            // an instance may be in two slots
   std::size_t slotsWithoutGuid = 0;  // so many slots had no global identifier
   std::string fileSchema;

@@ -33,17 +33,13 @@ class IsoRules : public ScanBuffer {
   void SetFindings(LoadFindings* target) { findings = target; }
 
  protected:
-  /// Starts a statement. Nearly every file has one line end before each statement. It is skipped
-  /// here, because a search for it is slower.
   void Begin() {
-    const bool hasReturn = cursor + 2 < dataEnd && buffer[cursor] == '\r';
-    const std::size_t lineEnd = cursor + (hasReturn ? 1 : 0);
-    if (lineEnd + 1 < dataEnd && buffer[lineEnd] == '\n') {
-      BeginLine(lineEnd + 1);
-      cursor = lineEnd + 1;
-    }
+    SkipLineEnd();
     ScanBuffer::Begin();
   }
+
+  // Returns the next statement if it is plain, otherwise null. A byte order mark is not plain.
+  char* TakePlain() { return isStarted && FindPlain() ? FinishTrimmed(cursor + 1) : nullptr; }
 
   bool FindMark();
   char* TakeMark();

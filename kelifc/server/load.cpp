@@ -13,6 +13,7 @@
 #include "kelifc/server/model_origin.h"
 #include "kelifc/server/model_source.h"
 #include "kelifc/server/report_collector.h"
+#include "kelifc/server/reserve_huge.h"
 #include "kelifc/server/scan_buffer.h"
 #include "kelifc/server/statements.h"
 
@@ -186,8 +187,8 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   load.bytesTotal = 2 * fileSize;
   const auto expected =
       static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
-  items.reserve(expected);
-  if (load.findings != nullptr) places.reserve(expected);
+  ReserveHuge(items, expected);
+  if (load.findings != nullptr) ReserveHuge(places, expected);
   idToIndex.Reserve(expected);
 }
 

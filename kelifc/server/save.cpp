@@ -162,9 +162,7 @@ void IfcServer::WriteInstances(std::ostream& out) {
 void IfcServer::WriteInstance(std::ostream& out, std::uint64_t number) {
   const IfcUnknown* instance = IfcServer::GetItem(number);
   if (instance == nullptr) return;  // an earlier instance of the batch deleted it
-  detail::PutChar(out, '#');
-  detail::PutNumber(out, number);
-  detail::PutChar(out, '=');
+  detail::PutReference(out, number, '=');
   instance->Write(out);
   detail::PutText(out, ");\n");
 }

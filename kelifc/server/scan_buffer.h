@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "kelifc/server/load_findings.h"
+#include "kelifc/server/plain_statement.h"
 #include "kelifc/server/statement_place.h"
 
 namespace KelIFC {
@@ -76,6 +77,26 @@ class ScanBuffer {
     dropped = 0;
     if (!pieces.empty()) pieces.clear();
     start = {0, PlaceOf(cursor), AbsoluteOf(cursor)};
+  }
+
+  // Skips a line end at the cursor. Nearly every file has one before each statement. A search for
+  // it would be slower.
+  void SkipLineEnd() {
+    const bool hasReturn = cursor + 2 < dataEnd && buffer[cursor] == '\r';
+    const std::size_t lineEnd = cursor + (hasReturn ? 1 : 0);
+    if (lineEnd + 1 < dataEnd && buffer[lineEnd] == '\n') {
+      BeginLine(lineEnd + 1);
+      cursor = lineEnd + 1;
+    }
+  }
+
+  // After Begin: moves the cursor to the `;` of a plain statement that is in the buffer. Returns
+  // false for any other statement.
+  bool FindPlain() {
+    const char* const end = FindPlainEnd(DataAt(cursor), DataAt(dataEnd));
+    if (end == nullptr) return false;
+    cursor = static_cast<std::size_t>(end - buffer.get());
+    return true;
   }
 
   // Ends the statement, and moves the cursor to `next`, where the next one starts. There is room

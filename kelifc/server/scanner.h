@@ -18,6 +18,7 @@ class BasicScanner : public Rules {
   /// with a NUL and is valid until the next call. The caller may write to it.
   char* Next() {
     this->Begin();
+    if (char* statement = this->TakePlain()) return statement;
     while (this->FindMark()) {
       if (char* statement = this->TakeMark()) return statement;
     }

@@ -4,29 +4,36 @@
 
 #include <cstdint>
 #include <cstring>
+#include <vector>
 
 namespace KelIFC {
 namespace {
 
 TEST(HugePages, CanBeWrittenToTheirEnd) {
   constexpr std::size_t kSize = 2 * kHugePageSize;
-  auto* const memory = static_cast<unsigned char*>(AllocateHugePages(kSize));
+  auto* const memory = static_cast<unsigned char*>(AllocatePages(kSize));
+  AdviseHugePages(memory, kSize);
   std::memset(memory, 0xA5, kSize);
   EXPECT_EQ(memory[0], 0xA5);
   EXPECT_EQ(memory[kSize - 1], 0xA5);
-  FreeHugePages(memory);
+  FreePages(memory);
 }
 
-TEST(HugePages, AreAlignedForAnyObject) {
-  void* const memory = AllocateHugePages(kHugePageSize);
-  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(memory) % __STDCPP_DEFAULT_NEW_ALIGNMENT__, 0u);
-#ifdef __linux__
+TEST(HugePages, BeginAtAMultipleOfTheirSize) {
+  void* const memory = AllocatePages(kHugePageSize);
   EXPECT_EQ(reinterpret_cast<std::uintptr_t>(memory) % kHugePageSize, 0u);
-#endif
-  FreeHugePages(memory);
+  FreePages(memory);
 }
 
-TEST(HugePages, FreeNothingForNull) { FreeHugePages(nullptr); }
+TEST(HugePages, FreeNothingForNull) { FreePages(nullptr); }
+
+TEST(HugePages, LeaveTheContentOfAnyMemoryAsItIs) {
+  std::vector<unsigned char> memory(5 * kHugePageSize + 12345, 0x5A);
+  AdviseHugePages(memory.data(), memory.size());
+  AdviseHugePages(memory.data() + 1, 100);
+  AdviseHugePages(nullptr, 0);
+  for (const unsigned char byte : memory) ASSERT_EQ(byte, 0x5A);
+}
 
 }  // namespace
 }  // namespace KelIFC

@@ -7,8 +7,8 @@
 
 namespace KelIFC::detail {
 
-/// Allocates memory for an instance or an aggregate: `size` bytes, aligned for any type. Throws
-/// std::bad_alloc. Free it with FreeBlock.
+/// Allocates memory for an instance or an aggregate: `size` bytes, aligned for any type
+/// of this size. Throws std::bad_alloc. Free it with FreeBlock.
 [[nodiscard]] KELIFC_API void* AllocateBlock(std::size_t size);
 
 /// Frees a block; any thread can call it. Null is ignored.

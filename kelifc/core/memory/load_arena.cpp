@@ -4,6 +4,7 @@
 #include <atomic>
 #include <new>
 
+#include "kelifc/core/memory/chunk_map.h"
 #include "kelifc/platform/huge_pages.h"
 
 namespace KelIFC {
@@ -12,21 +13,21 @@ namespace KelIFC {
 /// kOpen blocks that do not exist, so that the chunk is not freed when its last block is.
 struct LoadArena::Chunk {
   std::atomic<std::uint32_t> blocks;
-  bool isHuge;  ///< allocated by AllocateHugePages
 
-  static Chunk* Make(std::size_t size) {
-    const bool isHuge = size >= kHugePageSize;
-    void* const memory = isHuge ? AllocateHugePages(size) : ::operator new(size);
-    return ::new (memory) Chunk{{kOpen}, isHuge};
+  static Chunk* Make(bool hasHugePage) {
+    void* const memory = AllocatePages(ChunkMap::kChunkSize);
+    if (!ChunkMap::Add(memory)) {
+      FreePages(memory);
+      throw std::bad_alloc();
+    }
+    if (hasHugePage) AdviseHugePages(memory, ChunkMap::kChunkSize);
+    return ::new (memory) Chunk{{kOpen}};
   }
 
   void Drop(std::uint32_t count) noexcept {
     if (blocks.fetch_sub(count, std::memory_order_acq_rel) != count) return;
-    if (isHuge) {
-      FreeHugePages(this);
-    } else {
-      ::operator delete(this);
-    }
+    ChunkMap::Remove(this);
+    FreePages(this);
   }
 
   static constexpr std::uint32_t kOpen = 0x80000000;
@@ -34,79 +35,81 @@ struct LoadArena::Chunk {
 
 namespace {
 
-// The first chunk is small for the sake of small models. The largest one is a huge page.
-constexpr std::size_t kFirstChunk = std::size_t{16} * 1024;
-constexpr std::size_t kLargestChunk = kHugePageSize;
+// The first part of the first chunk is small for the sake of small models: the system provides
+// memory when it is accessed, and the arena counts it when it is needed.
+constexpr std::size_t kFirstPart = std::size_t{16} * 1024;
 
-constexpr std::size_t kAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
-constexpr std::size_t kMark = sizeof(void*);  // before a block: its chunk, or null
-static_assert(kAlignment % kMark == 0);
-
-constexpr std::size_t RoundUp(std::size_t size) {
-  return (size + kAlignment - 1) / kAlignment * kAlignment;
-}
+constexpr std::size_t kLargestAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
+constexpr std::size_t kAlignment = std::min(sizeof(double), kLargestAlignment);
 
 thread_local LoadArena* current = nullptr;
 
-void*& MarkOf(void* block) { return static_cast<void**>(block)[-1]; }
+constexpr std::size_t RoundUp(std::size_t size, std::size_t unit) {
+  return (size + unit - 1) / unit * unit;
+}
 
-void* AllocateAlone(std::size_t size) {
-  void* const block = static_cast<char*>(::operator new(kAlignment + size)) + kAlignment;
-  MarkOf(block) = nullptr;
-  return block;
+// The size of a type is a multiple of its alignment, so only these sizes need the largest one.
+constexpr std::size_t AlignmentOf(std::size_t size) {
+  return size % kLargestAlignment == 0 ? kLargestAlignment : kAlignment;
 }
 
 }  // namespace
 
 void* detail::AllocateBlock(std::size_t size) {
   LoadArena* const arena = current;
-  if (arena == nullptr) return AllocateAlone(size);
+  if (arena == nullptr) return ::operator new(size);
   if (size <= LoadArena::kLargestBlock) return arena->Carve(size);
   arena->bytes += size;
-  return AllocateAlone(size);
+  return ::operator new(size);
 }
 
 void detail::FreeBlock(void* block) noexcept {
   if (block == nullptr) return;
-  if (auto* chunk = static_cast<LoadArena::Chunk*>(MarkOf(block))) {
-    chunk->Drop(1);
+  if (void* const chunk = ChunkMap::Find(block)) {
+    static_cast<LoadArena::Chunk*>(chunk)->Drop(1);
   } else {
-    ::operator delete(static_cast<char*>(block) - kAlignment);
+    ::operator delete(block);
   }
 }
 
-LoadArena::LoadArena() : outer(current), nextSize(kFirstChunk) { current = this; }
+LoadArena::LoadArena() : outer(current), nextPart(kFirstPart) { current = this; }
 
 LoadArena::~LoadArena() {
   CloseChunk();
   current = outer;
 }
 
-// The cursor is the position of the next mark; the block after the mark is aligned.
 void* LoadArena::Carve(std::size_t size) {
-  const std::size_t taken = RoundUp(kMark + size);
-  if (static_cast<std::size_t>(end - cursor) < taken) OpenChunk();
-  void* const block = cursor + kMark;
-  MarkOf(block) = chunk;
-  cursor += taken;
+  const std::size_t taken = RoundUp(std::max(size, kAlignment), kAlignment);
+  std::size_t begin = RoundUp(cursor, AlignmentOf(size));
+  while (begin + taken > end) {
+    Extend();
+    begin = RoundUp(cursor, AlignmentOf(size));
+  }
+  cursor = begin + taken;
   ++carved;
-  return block;
+  return reinterpret_cast<char*>(chunk) + begin;
+}
+
+// Begins the next part of the chunk, or a new chunk.
+void LoadArena::Extend() {
+  if (end == (chunk == nullptr ? 0 : ChunkMap::kChunkSize)) OpenChunk();
+  const std::size_t part = std::min(nextPart, ChunkMap::kChunkSize - end);
+  end += part;
+  bytes += part;
+  nextPart = std::min(2 * nextPart, ChunkMap::kChunkSize);
 }
 
 void LoadArena::OpenChunk() {
   CloseChunk();
-  chunk = Chunk::Make(nextSize);
-  char* const memory = reinterpret_cast<char*>(chunk);
-  cursor = memory + RoundUp(sizeof(Chunk) + kMark) - kMark;
-  end = memory + nextSize;
-  bytes += nextSize;
-  nextSize = std::min(2 * nextSize, kLargestChunk);
+  chunk = Chunk::Make(nextPart != kFirstPart);
+  cursor = sizeof(Chunk);
 }
 
 void LoadArena::CloseChunk() noexcept {
   if (chunk != nullptr) chunk->Drop(Chunk::kOpen - carved);
   chunk = nullptr;
-  cursor = end = nullptr;
+  cursor = end = 0;
   carved = 0;
 }
 

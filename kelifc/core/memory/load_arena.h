@@ -10,8 +10,8 @@ namespace KelIFC {
 
 /// The allocator of a load, which makes millions of blocks that are freed together. While an arena
 /// exists, AllocateBlock cuts the blocks of its thread from large chunks, in the order of the
-/// calls. Without an arena, each block is a heap allocation of its own. The word before each block
-/// is a pointer to its chunk, or null.
+/// calls. Without an arena, each block is a heap allocation of its own. ChunkMap knows the chunks,
+/// so FreeBlock can tell the blocks of arenas from other blocks.
 ///
 /// A chunk is freed when all of its blocks have been freed; the memory of a single block is not
 /// used again before that. Arenas can be nested.
@@ -34,15 +34,16 @@ class LoadArena {
   struct Chunk;
 
   void* Carve(std::size_t size);
+  void Extend();
   void OpenChunk();
   void CloseChunk() noexcept;
 
   LoadArena* outer;
-  Chunk* chunk = nullptr;  // blocks are cut from this one
-  char* cursor = nullptr;
-  char* end = nullptr;
+  Chunk* chunk = nullptr;    // blocks are cut from this one
+  std::size_t cursor = 0;    // in the chunk: where the next block can begin,
+  std::size_t end = 0;       // and the end of the part that is used so far
   std::uint32_t carved = 0;  // blocks that were cut from the chunk
-  std::size_t nextSize;
+  std::size_t nextPart;
   std::uint64_t bytes = 0;
 };
 

@@ -5,6 +5,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <string_view>
 
 #include "kelifc/core/detail/cursor.h"
 
@@ -157,9 +158,18 @@ std::int32_t ReadInteger(const char* text, const char** end) {
     *end = text;
     return 0;
   }
+  // Nine digits are in range.
+  constexpr std::ptrdiff_t kMostDigits = 9;
+  const char* const first = at;
+  std::int32_t value = 0;
+  while (IsDigit(*at) && at - first < kMostDigits) value = 10 * value + (*at++ - '0');
+  if (!IsDigit(*at)) {
+    *end = at;
+    return isNegative ? -value : value;
+  }
   const std::int64_t bound = isNegative ? -std::int64_t{std::numeric_limits<std::int32_t>::min()}
                                         : std::int64_t{std::numeric_limits<std::int32_t>::max()};
-  std::int64_t number = 0;
+  std::int64_t number = value;
   for (; IsDigit(*at); ++at) {
     if (number < bound) number = 10 * number + (*at - '0');
   }
@@ -223,24 +233,23 @@ char* FormatLong(double magnitude, char* out, char* outEnd) {
   return StripZeros(out);
 }
 
-std::string_view FormatNotFinite(double value, char* buffer) {
+char* FormatNotFinite(double value, char* out) {
   const std::string_view text = std::isnan(value) ? "       nan." : "       inf.";
-  std::copy(text.begin(), text.end(), buffer);
-  if (std::signbit(value)) buffer[6] = '-';
-  return {buffer, text.size()};
+  char* const end = std::copy(text.begin(), text.end(), out);
+  if (std::signbit(value)) out[6] = '-';
+  return end;
 }
 
 }  // namespace
 
-std::string_view FormatReal(double value, char (&buffer)[kRealTextSize]) {
-  if (!std::isfinite(value)) return FormatNotFinite(value, buffer);
-  char* out = buffer;
+char* FormatReal(double value, char* text) {
+  if (!std::isfinite(value)) return FormatNotFinite(value, text);
+  char* out = text;
   if (std::signbit(value)) *out++ = '-';
   const double magnitude = std::fabs(value);
   constexpr double kExact = 9007199254740992.0;  // 2^53
-  out = magnitude < kExact ? FormatShort(magnitude, out)
-                           : FormatLong(magnitude, out, buffer + kRealTextSize);
-  return {buffer, static_cast<std::size_t>(out - buffer)};
+  return magnitude < kExact ? FormatShort(magnitude, out)
+                            : FormatLong(magnitude, out, text + kRealTextSize);
 }
 
 }  // namespace KelIFC

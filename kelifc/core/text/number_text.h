@@ -3,7 +3,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <string_view>
 
 // Conversions between numbers and text. They always use the classic locale and never allocate
 // memory.
@@ -24,10 +23,10 @@ std::int32_t ReadInteger(const char* text, const char** end);
 /// decimals.
 constexpr std::size_t kRealTextSize = 328;
 
-/// Returns the text of a number in a record: ten decimals, correctly rounded, without trailing
-/// zeros but always with a point. Infinity and NaN are padded with blanks to ten characters and
-/// followed by a point. The result points into `buffer`.
-std::string_view FormatReal(double value, char (&buffer)[kRealTextSize]);
+/// Writes the text of a number in a record: ten decimals, correctly rounded, without trailing zeros
+/// but always with a point. Infinity and NaN are padded with blanks to ten characters and followed
+/// by a point. `text` has space for kRealTextSize characters. Returns the end of the text.
+char* FormatReal(double value, char* text);
 
 }  // namespace KelIFC
 

@@ -1,5 +1,7 @@
 #include "kelifc/core/text/quoting.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <cstring>
 
 #include "kelifc/core/detail/text_out.h"
@@ -36,6 +38,39 @@ constexpr char kUpperDigits[] = "0123456789ABCDEF";
 
 bool IsPlain(char c) { return static_cast<unsigned char>(c) < 0x80 && !IsEscapable(c); }
 
+constexpr std::uint64_t kEachByte = 0x0101010101010101;
+
+// Of eight ASCII characters, returns a word with an upper bit if and only if one of them is `c`.
+std::uint64_t MarkEqual(std::uint64_t characters, char c) {
+  return (characters ^ (kEachByte * static_cast<unsigned char>(c))) - kEachByte;
+}
+
+// Returns true if none of the characters is a NUL or needs an escape. Tests eight at a time.
+bool IsAllPlain(std::string_view text) {
+  std::uint64_t upperBits = 0;
+  for (; text.size() >= sizeof upperBits; text.remove_prefix(sizeof upperBits)) {
+    std::uint64_t word = 0;
+    std::memcpy(&word, text.data(), sizeof word);
+    upperBits |= word | MarkEqual(word, '\0') | MarkEqual(word, kQuote) | MarkEqual(word, kEscape);
+  }
+  const bool isRestPlain =
+      std::all_of(text.begin(), text.end(), [](char c) { return c != '\0' && IsPlain(c); });
+  return isRestPlain && (upperBits & (kEachByte * 0x80)) == 0;
+}
+
+// Nearly every text needs no escapes and fits into the buffer. Returns false for any other text, of
+// which nothing is written.
+bool PutPlain(std::ostream& out, std::string_view text) {
+  if (!IsAllPlain(text)) return false;
+  char* const space = detail::BeginSpace(out, text.size() + 2);
+  if (space == nullptr) return false;
+  space[0] = kQuote;
+  text.copy(space + 1, text.size());
+  space[text.size() + 1] = kQuote;
+  detail::EndSpace(out, text.size() + 2);
+  return true;
+}
+
 void EncodeCharacter(std::ostream& out, char c) {
   const auto byte = static_cast<unsigned char>(c);
   if (byte < 0x80) {
@@ -44,6 +79,16 @@ void EncodeCharacter(std::ostream& out, char c) {
   } else {
     const char code[] = {kEscape, 'X', kEscape, kUpperDigits[byte / 16], kUpperDigits[byte % 16]};
     PutText(out, std::string_view(code, sizeof code));
+  }
+}
+
+// Appends characters. A string that is still empty allocates no more memory than it needs; if it
+// grew, it would allocate memory for at least twice its old capacity.
+void AppendExactly(std::string& out, const char* text, std::size_t length) {
+  if (out.empty() && length > out.capacity()) {
+    out = std::string(text, length);
+  } else {
+    out.append(text, length);
   }
 }
 
@@ -61,7 +106,7 @@ const char* DecodeQuoted(const char* text, std::string& out) {
     const auto length = static_cast<std::size_t>(end - cursor);
     const auto* escape = static_cast<const char*>(std::memchr(cursor, kEscape, length));
     if (escape == nullptr) {
-      out.append(cursor, length);
+      AppendExactly(out, cursor, length);
       return quote;
     }
     out.append(cursor, static_cast<std::size_t>(escape - cursor));
@@ -75,6 +120,7 @@ const char* DecodeQuoted(const char* text, std::string& out) {
 }
 
 void EncodeQuoted(std::ostream& out, std::string_view text) {
+  if (PutPlain(out, text)) return;
   text = text.substr(0, text.find('\0'));
   PutChar(out, kQuote);
   std::size_t begin = 0;

@@ -18,9 +18,11 @@ namespace KelIFC {
 class BoundaryBuilder {
  public:
   /// The boundary must outlive the builder. `faces` is the expected number of faces; memory for
-  /// them is reserved.
+  /// them and for their vertices is reserved. Most faces have four vertices.
   BoundaryBuilder(BRep& boundary, std::size_t faces) : boundary(boundary) {
+    constexpr std::size_t kUsualVertices = 4;
     boundary.faces.reserve(boundary.faces.size() + faces);
+    boundary.vertices.reserve(boundary.vertices.size() + kUsualVertices * faces);
   }
 
   /// Begins the next face.

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "kelifc/server/reserve_huge.h"
+
 namespace KelIFC::detail {
 namespace {
 
@@ -15,6 +17,8 @@ std::uint32_t NumberIndex::FindOutlier(std::uint64_t number) const {
   const auto found = outliers.find(number);
   return found == outliers.end() ? kNone : found->second;
 }
+
+void NumberIndex::Reserve(std::size_t numberCount) { ReserveHuge(dense, numberCount); }
 
 void NumberIndex::Set(std::uint64_t number, std::uint32_t position) {
   if (number == 0) return;

@@ -43,7 +43,7 @@ class NumberIndex {
   bool Erase(std::uint64_t number);
 
   /// Allocates memory for so many numbers.
-  void Reserve(std::size_t numberCount) { dense.reserve(numberCount); }
+  void Reserve(std::size_t numberCount);
 
   /// Removes all numbers and frees the memory.
   void Clear();

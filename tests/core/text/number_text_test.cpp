@@ -233,7 +233,7 @@ std::string Expected(double value) {
 
 std::string Formatted(double value) {
   char buffer[kRealTextSize];
-  return std::string(FormatReal(value, buffer));
+  return std::string(buffer, FormatReal(value, buffer));
 }
 
 TEST(NumberText, FormatsTenDecimalsAtMost) {

@@ -162,5 +162,19 @@ TEST(Quoting, KnowsTheCharactersThatFormAPairWithAnEscape) {
   EXPECT_FALSE(IsEscapable('X'));
 }
 
+TEST(Quoting, EncodesEachCharacterAtEachPlaceAsASingleOne) {
+  for (int c = 1; c < 256; ++c) {
+    const std::string alone = Encode(std::string(1, static_cast<char>(c)));
+    const std::string inner = alone.substr(1, alone.size() - 2);
+    for (std::size_t place = 0; place < 19; ++place) {
+      std::string text(19, 'x');
+      text[place] = static_cast<char>(c);
+      std::string expected(20, 'x');
+      expected.front() = '\'';
+      ASSERT_EQ(Encode(text), expected.replace(place + 1, 1, inner) + "'") << c << " at " << place;
+    }
+  }
+}
+
 }  // namespace
 }  // namespace KelIFC

@@ -1,0 +1,132 @@
+#include "kelifc/server/plain_statement.h"
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+
+#include "kelifc/core/text/quoting.h"
+
+#if defined(__GNUC__) && defined(__x86_64__)
+#include <immintrin.h>
+#define KELIFC_HAS_BLOCKS
+#endif
+
+namespace KelIFC {
+namespace {
+
+// All line ends and the NUL are below this character. So are the tab and a few control characters,
+// which are rare.
+constexpr char kLastBreak = '\r';
+
+// Continues a search at a character that is in a string or not.
+const char* FindEndFrom(const char* at, const char* end, bool inString) {
+  for (; at != end; ++at) {
+    const auto c = static_cast<unsigned char>(*at);
+    if (c == kQuote) inString = !inString;
+    if (c == ';' && !inString) return at;
+    if (c <= kLastBreak || (inString ? c == kEscape : c == '/')) return nullptr;
+  }
+  return nullptr;
+}
+
+#ifdef KELIFC_HAS_BLOCKS
+
+constexpr std::ptrdiff_t kBlock = 64;
+
+// One bit for each character of a block.
+struct BlockBits {
+  std::uint64_t quotes = 0;
+  std::uint64_t outside = 0;  // those that matter outside of strings: `;` and `/`
+  std::uint64_t escapes = 0;
+  std::uint64_t breaks = 0;
+};
+
+// Sets each bit that has an odd number of set bits at and before its place.
+std::uint64_t PrefixXor(std::uint64_t bits) {
+  for (int distance = 1; distance < 64; distance *= 2) bits ^= bits << distance;
+  return bits;
+}
+
+// The search, by a function that compares the characters of a block.
+template <class Compare>
+[[gnu::always_inline]] inline const char* FindInBlocks(const char* at, const char* end,
+                                                       Compare compare) {
+  std::uint64_t inString = 0;  // all bits are set if the block begins in a string
+  for (; end - at >= kBlock; at += kBlock) {
+    const BlockBits bits = compare(at);
+    const std::uint64_t strings = PrefixXor(bits.quotes) ^ inString;
+    const std::uint64_t marks = bits.breaks | (bits.outside & ~strings) | (bits.escapes & strings);
+    if (marks != 0) {
+      at += std::countr_zero(marks);
+      return *at == ';' ? at : nullptr;
+    }
+    inString = 0 - (strings >> 63);
+  }
+  return FindEndFrom(at, end, inString != 0);
+}
+
+// Every processor of this architecture has these instructions.
+BlockBits CompareSse2(const char* at) {
+  constexpr int kPart = 16;
+  BlockBits bits;
+  for (int begin = 0; begin < kBlock; begin += kPart) {
+    const __m128i text = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at + begin));
+    const auto equals = [text](char c) { return _mm_cmpeq_epi8(text, _mm_set1_epi8(c)); };
+    const auto bitsOf = [begin](__m128i hits) {
+      return std::uint64_t{static_cast<unsigned>(_mm_movemask_epi8(hits))} << begin;
+    };
+    bits.quotes |= bitsOf(equals(kQuote));
+    bits.outside |= bitsOf(_mm_or_si128(equals(';'), equals('/')));
+    bits.escapes |= bitsOf(equals(kEscape));
+    bits.breaks |= bitsOf(_mm_cmpeq_epi8(_mm_min_epu8(text, _mm_set1_epi8(kLastBreak)), text));
+  }
+  return bits;
+}
+
+[[gnu::target("avx2")]] inline std::uint64_t BitsOfAvx2(__m256i low, __m256i high) {
+  return std::uint64_t{static_cast<unsigned>(_mm256_movemask_epi8(low))} |
+         std::uint64_t{static_cast<unsigned>(_mm256_movemask_epi8(high))} << 32;
+}
+
+[[gnu::target("avx2")]] inline std::uint64_t EqualsAvx2(__m256i low, __m256i high, char c) {
+  const __m256i wanted = _mm256_set1_epi8(c);
+  return BitsOfAvx2(_mm256_cmpeq_epi8(low, wanted), _mm256_cmpeq_epi8(high, wanted));
+}
+
+[[gnu::target("avx2")]] BlockBits CompareAvx2(const char* at) {
+  const __m256i low = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(at));
+  const __m256i high = _mm256_loadu_si256(reinterpret_cast<const __m256i*>(at + 32));
+  const __m256i last = _mm256_set1_epi8(kLastBreak);
+  BlockBits bits;
+  bits.quotes = EqualsAvx2(low, high, kQuote);
+  bits.outside = EqualsAvx2(low, high, ';') | EqualsAvx2(low, high, '/');
+  bits.escapes = EqualsAvx2(low, high, kEscape);
+  bits.breaks = BitsOfAvx2(_mm256_cmpeq_epi8(_mm256_min_epu8(low, last), low),
+                           _mm256_cmpeq_epi8(_mm256_min_epu8(high, last), high));
+  return bits;
+}
+
+const char* FindSse2(const char* at, const char* end) { return FindInBlocks(at, end, CompareSse2); }
+
+[[gnu::target("avx2")]] const char* FindAvx2(const char* at, const char* end) {
+  return FindInBlocks(at, end, CompareAvx2);
+}
+
+#endif  // KELIFC_HAS_BLOCKS
+
+}  // namespace
+
+const char* FindPlainEndBytewise(const char* at, const char* end) {
+  return FindEndFrom(at, end, false);
+}
+
+const char* FindPlainEnd(const char* at, const char* end) {
+#ifdef KELIFC_HAS_BLOCKS
+  static const auto find = __builtin_cpu_supports("avx2") ? FindAvx2 : FindSse2;
+  return find(at, end);
+#else
+  return FindPlainEndBytewise(at, end);
+#endif
+}
+
+}  // namespace KelIFC
