@@ -27,6 +27,7 @@ class CMakeBuild(build_ext):
             "-DCMAKE_BUILD_TYPE=Release",
             "-DKELIFC_BUILD_PYTHON=ON",
             "-DBUILD_TESTING=OFF",
+            "-DKELIFC_INSTALL=OFF",  # only the component of the module is installed
             f"-DPython3_EXECUTABLE={sys.executable}",
             "-DKELIFC_PYTHON_FOLDER=.",
             *shlex.split(os.environ.get("KELIFC_CMAKE_ARGUMENTS", "")),
