@@ -14,6 +14,8 @@ void ReserveHuge(Vector& vector, std::size_t count) {
   // The last huge page can be nearly unused. It must be a small part of the vector.
   constexpr std::size_t kLarge = 4 * kHugePageSize;
   vector.reserve(count);
+  // The elements can be pointers.
+  // NOLINTNEXTLINE(bugprone-sizeof-expression)
   const std::size_t bytes = vector.capacity() * sizeof(typename Vector::value_type);
   if (bytes >= kLarge) AdviseHugePages(vector.data(), bytes);
 }
