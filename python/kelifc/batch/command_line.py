@@ -32,7 +32,7 @@ _STATUSES = ("ok", "losses", "unreadable", "unsupported", "timeout", "memory", "
 def main(arguments: Sequence[str] | None = None) -> int:
     """Runs the command and returns its exit status."""
     try:
-        given = _parser().parse_args(arguments)
+        given = _parser().parse_intermixed_args(arguments)
         return _run(given, _options(given), _cluster_options(given))
     except Failure as error:
         print(f"kelifc.batch: {error}", file=sys.stderr)
