@@ -17,7 +17,7 @@ _LEFT, _RIGHT, _TOP, _BOTTOM = 60, 15, 12, 40
 
 def shown(text: str) -> str:
     """Returns text as markup that shows it."""
-    return escape(printable(text, 80))
+    return escape(printable(text))
 
 
 def quantity(value: float) -> str:

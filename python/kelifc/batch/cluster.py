@@ -56,8 +56,6 @@ def connect(options: ClusterOptions) -> Iterator[Any]:
         import distributed
     except ImportError as error:
         raise Failure("this needs Dask (python3-distributed)", NOT_BUILT) from error
-    # Events of the cluster that matter are outcomes or failures of this command.
-    logging.getLogger("distributed").setLevel(logging.CRITICAL)
     settings = {
         # A worker that ends takes the models that it had with it; they are given to others.
         "distributed.scheduler.allowed-failures": 10,
@@ -66,6 +64,9 @@ def connect(options: ClusterOptions) -> Iterator[Any]:
         "distributed.worker.memory.pause": False,
     }
     with dask.config.set(settings), contextlib.ExitStack() as stack:
+        # What matters of the messages of Dask is an outcome or a failure of this command.
+        stack.callback(logging.disable, logging.root.manager.disable)
+        logging.disable(logging.CRITICAL)
         try:
             client = _client(distributed, options, stack)
             client.wait_for_workers(1, timeout=_SECONDS_TO_CONNECT)

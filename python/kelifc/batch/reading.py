@@ -15,6 +15,7 @@ from kelifc.batch.tables import CLASS_COUNTS, ELEMENT_ROWS, LOSS_ROWS
 _COUNT_OF_KIND = {"member": "members", "surface": "surfaces", "body": "bodies"}
 
 Answer = dict[str, Any]
+Table = dict[str, list[Any]]
 
 
 def read_model(path: str, folder: Path, exports: Sequence[str]) -> Answer:
@@ -35,12 +36,7 @@ def read_model(path: str, folder: Path, exports: Sequence[str]) -> Answer:
         return {**answer, "status": "unreadable", "message": _reason(error)}
     del model
     answer["model"].update(_describe_building(building))
-    answer["classes"] = _count_classes(building)
-    _write_elements(building, folder / "elements.jsonl.gz")
-    losses = building.table("losses")
-    write_rows(
-        folder / "losses.jsonl.gz", LOSS_ROWS, zip(*(losses[name] for name in LOSS_ROWS))
-    )
+    answer["classes"] = _write_tables(building, folder)
     source = Path(path).name
     answer["exports"] = [_export(building, name, folder, source) for name in exports]
     _set_status(answer)
@@ -78,13 +74,27 @@ def _describe_building(building: kelifc.Building) -> dict[str, Any]:
     }
 
 
-def _count_classes(building: kelifc.Building) -> dict[str, dict[str, int]]:
+def _write_tables(building: kelifc.Building, folder: Path) -> dict[str, dict[str, int]]:
+    """Writes the rows of the elements and the losses. Returns the counts of the classes."""
+    elements = building.table("elements")
+    elements.update(_names(building, elements))
+    losses = building.table("losses")
+    for name, columns, table in (
+        ("elements.jsonl.gz", ELEMENT_ROWS, elements),
+        ("losses.jsonl.gz", LOSS_ROWS, losses),
+    ):
+        write_rows(folder / name, columns, zip(*(table[column] for column in columns)))
+    return _count_classes(building, elements, losses)
+
+
+def _count_classes(
+    building: kelifc.Building, elements: Table, losses: Table
+) -> dict[str, dict[str, int]]:
     counts: dict[str, Counter[str]] = {}
 
     def add(name: str, what: str) -> None:
         counts.setdefault(plain(name), Counter())[what] += 1
 
-    elements = building.table("elements")
     for name, kind, approximate in zip(
         elements["class"], elements["kind"], elements["approximate"]
     ):
@@ -93,26 +103,23 @@ def _count_classes(building: kelifc.Building) -> dict[str, dict[str, int]]:
             add(name, "approximate")
     for whole in building.decomposed:
         add(whole.class_name, "decomposed")
-    for name in building.table("losses")["class"]:
+    for name in losses["class"]:
         add(name or "", "lost")
     return {
         name: {what: counts[name][what] for what in CLASS_COUNTS} for name in sorted(counts)
     }
 
 
-def _write_elements(building: kelifc.Building, path: Path) -> None:
-    elements = building.table("elements")
+def _names(building: kelifc.Building, elements: Table) -> Table:
     storeys = building.table("storeys")
     profiles = building.table("profiles")
     materials = building.table("materials")
-    names = {
+    return {
         "storeyName": _look_up(elements["storey"], storeys["id"], storeys["name"]),
         "materialName": _look_up(elements["material"], materials["id"], materials["name"]),
         "profileName": _look_up(elements["profile"], profiles["id"], profiles["name"]),
         "designation": _look_up(elements["profile"], profiles["id"], profiles["designation"]),
     }
-    columns = {**elements, **names}
-    write_rows(path, ELEMENT_ROWS, zip(*(columns[name] for name in ELEMENT_ROWS)))
 
 
 def _look_up(keys: list[Any], ids: list[Any], names: list[Any]) -> list[Any]:

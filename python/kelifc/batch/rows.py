@@ -27,8 +27,15 @@ def write_rows(path: Path, columns: Sequence[str], rows: Iterable[Sequence[Any]]
     """Writes the columns and the rows. The same rows give the same bytes."""
     with open(path, "wb") as file, gzip.GzipFile("", "wb", 1, file, mtime=0) as packed:
         for row in chain([columns], rows):
-            line = json.dumps([plain(value) for value in row], allow_nan=False)
-            packed.write(line.encode() + b"\n")
+            packed.write(_line_of(row))
+
+
+def _line_of(row: Sequence[Any]) -> bytes:
+    try:
+        text = json.dumps(row, allow_nan=False, ensure_ascii=False)
+        return text.encode("utf-8") + b"\n"
+    except ValueError:  # a surrogate or a number that is not finite, which are rare
+        return json.dumps([plain(value) for value in row], allow_nan=False).encode() + b"\n"
 
 
 def read_rows(path: Path, columns: Sequence[str]) -> Iterator[list[Any]]:

@@ -2,6 +2,8 @@
 
 from __future__ import annotations
 
+import asyncio
+import concurrent.futures
 import os
 import time
 from collections import Counter
@@ -104,6 +106,8 @@ def _outcome_of(future: Any, model: ModelFile) -> Outcome:
     except KilledWorker:
         # It is not known whether the model is the cause, so the next run reads it again.
         return Outcome(model.path, model.size, "", "crash", "workers ended while they had it")
+    except (asyncio.CancelledError, concurrent.futures.CancelledError) as error:
+        raise Failure("the connection to the scheduler was lost") from error
     except FileNotFoundError as error:
         raise Failure(f"{error.filename}: the cluster does not share this folder") from error
     except Exception as error:

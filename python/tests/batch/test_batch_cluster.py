@@ -138,8 +138,10 @@ def certificates(folder: Path) -> dict[str, Path]:
 
 
 @contextlib.contextmanager
-def remote_cluster(folder: Path, protocol: str, tls: list[str]) -> Iterator[str]:
-    """The address of a scheduler on this machine that has two workers."""
+def remote_cluster(
+    folder: Path, protocol: str, tls: list[str]
+) -> Iterator[tuple[str, subprocess.Popen[bytes]]]:
+    """The address and the process of a scheduler on this machine that has two workers."""
     address_file = folder / f"{protocol}.json"
     dask = [sys.executable, "-m"]
     scheduler = [*dask, "distributed.cli.dask_scheduler", "--protocol", protocol, "--port", "0",
@@ -149,11 +151,13 @@ def remote_cluster(folder: Path, protocol: str, tls: list[str]) -> Iterator[str]
               "--nworkers", "1", "--nthreads", "1", "--no-nanny", "--no-dashboard",
               "--memory-limit", "0", "--local-directory", str(folder / "dask"), *tls]  # fmt: skip
     with contextlib.ExitStack() as stack:
-        stack.enter_context(started(scheduler, folder, f"{protocol}-scheduler.log"))
+        log = f"{protocol}-scheduler.log"
+        address_file.unlink(missing_ok=True)
+        process = stack.enter_context(started(scheduler, folder, log))
         wait_until(lambda: address_file.exists() and b"address" in address_file.read_bytes())
         for number in range(2):
             stack.enter_context(started(worker, folder, f"{protocol}-worker-{number}.log"))
-        yield json.loads(address_file.read_bytes())["address"]
+        yield json.loads(address_file.read_bytes())["address"], process
 
 
 def test_a_remote_scheduler_with_tls_gives_the_same(
@@ -162,7 +166,7 @@ def test_a_remote_scheduler_with_tls_gives_the_same(
     files = certificates(folder)
     tls = ["--tls-ca-file", str(files["ca"]), "--tls-cert", str(files["cert"]),
            "--tls-key", str(files["key"])]  # fmt: skip
-    with remote_cluster(folder, "tls", tls) as address:
+    with remote_cluster(folder, "tls", tls) as (address, _):
         assert address.startswith("tls://127.0.0.1:")
         run("models", "--out", "remote", "--scheduler", address, *OPTIONS, "--tls-ca", files["ca"],
             "--tls-cert", files["cert"], "--tls-key", files["key"], folder=folder)  # fmt: skip
@@ -170,9 +174,20 @@ def test_a_remote_scheduler_with_tls_gives_the_same(
 
 
 def test_a_remote_scheduler_without_tls_must_be_allowed(folder: Path) -> None:
-    with remote_cluster(folder, "tcp", []) as address:
+    with remote_cluster(folder, "tcp", []) as (address, _):
         arguments = ("models/house.ifc", "--out", "insecure", "--scheduler", address)
         refused = run(*arguments, folder=folder, status=64)
         assert "needs TLS" in refused.stderr
         run(*arguments, "--insecure", folder=folder)
     assert query(folder / "insecure", "SELECT status FROM models") == [("losses",)]
+
+
+def test_a_scheduler_that_ends_is_a_failure_and_the_results_stay(folder: Path) -> None:
+    with remote_cluster(folder, "tcp", []) as (address, scheduler):
+        arguments = command("models/small", "--out", "lost", "--scheduler", address, "--insecure")
+        with started(arguments, folder, "lost.log") as client:
+            wait_until(lambda: results_of(folder / "lost") >= 5)
+            scheduler.kill()
+            assert client.wait(120) == 1
+    assert "the connection to the scheduler was lost" in (folder / "lost.log").read_text()
+    assert 0 < len(query(folder / "lost", "SELECT path FROM models")) < 200

@@ -13,7 +13,7 @@ COLUMNS = ("a", "b")
 
 
 def test_rows_are_read_as_they_were_written(tmp_path: Path) -> None:
-    rows = [[1, "x\ny"], [None, 1.5], [True, "\u20ac"]]
+    rows: list[list[object]] = [[1, "x\ny"], [None, 1.5], [True, "\u20ac"]]
     write_rows(tmp_path / "rows", COLUMNS, rows)
     assert list(read_rows(tmp_path / "rows", COLUMNS)) == rows
 
@@ -25,8 +25,13 @@ def test_the_same_rows_give_the_same_bytes(tmp_path: Path) -> None:
 
 
 def test_numbers_that_are_not_finite_become_none(tmp_path: Path) -> None:
-    write_rows(tmp_path / "rows", COLUMNS, [[float("nan"), float("-inf")]])
-    assert list(read_rows(tmp_path / "rows", COLUMNS)) == [[None, None]]
+    write_rows(tmp_path / "rows", COLUMNS, [[float("nan"), float("-inf")], [1, "a"]])
+    assert list(read_rows(tmp_path / "rows", COLUMNS)) == [[None, None], [1, "a"]]
+
+
+def test_surrogates_become_question_marks(tmp_path: Path) -> None:
+    write_rows(tmp_path / "rows", COLUMNS, [["a\ud800", "\U0001f600"]])
+    assert list(read_rows(tmp_path / "rows", COLUMNS)) == [["a?", "\U0001f600"]]
 
 
 def test_a_missing_file_has_no_rows(tmp_path: Path) -> None:
