@@ -21,8 +21,8 @@ class ClusterOptions:
     """Which cluster runs the tasks.
 
     `scheduler` is an address such as tls://host:8786; if it is empty, `workers` processes are
-    started on this machine. `ca`, `certificate` and `key` are files for TLS; without them the configuration
-    of Dask applies.
+    started on this machine. `ca`, `certificate` and `key` are files for TLS; without them the
+    configuration of Dask applies.
     """
 
     scheduler: str = ""
@@ -112,7 +112,10 @@ def _security(distributed: Any, options: ClusterOptions) -> Any:
         "tls_client_key": options.key,
     }
     given = {name: value for name, value in files.items() if value}
-    return distributed.Security(require_encryption=True, **given)
+    security = distributed.Security(require_encryption=True, **given)
+    if security.get_connection_args("client").get("ssl_context") is None:
+        raise Failure("TLS needs --tls-ca, --tls-cert and --tls-key", WRONG_USAGE)
+    return security
 
 
 def _local_security(distributed: Any, options: ClusterOptions) -> Any:

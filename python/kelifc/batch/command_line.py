@@ -51,8 +51,8 @@ def _parser() -> argparse.ArgumentParser:
     parser = _Parser(
         prog="python3 -m kelifc.batch",
         description="Reads many models, and writes their tables, exports and a report.",
-        epilog="Exit status: 0 done, 1 a file or the cluster failed, 4 done with --fail-on-loss and "
-        "a model that is not ok, 64 wrong usage, 69 a missing component.",
+        epilog="Exit status: 0 done, 1 a file or the cluster failed, 4 done with --fail-on-loss "
+        "and a model that is not ok, 64 wrong usage, 69 a missing component.",
     )
     add = parser.add_argument
     add("models", nargs="+", metavar="MODELS",
@@ -61,7 +61,7 @@ def _parser() -> argparse.ArgumentParser:
     add("--scheduler", default="", metavar="ADDRESS",
         help="an existing scheduler of Dask, such as tls://host:8786")
     add("--workers", type=_count, metavar="N", help="workers on this machine; default: its cores")
-    add("--export", default="", metavar="LIST", help="such as csv,sqlite,saf,glb,svg")
+    add("--export", default="", metavar="LIST", help="such as csv,sqlite,saf,glb,svg,view")
     add("--timeout", type=_seconds, default=600.0, metavar="S",
         help="seconds for each model; default: 600")
     add("--memory-limit", type=_megabytes, default=4096, metavar="M",

@@ -7,13 +7,14 @@ from typing import Any
 
 MEGABYTE = 1 << 20
 
-# The name of each export in the folder of a model. `csv` and `svg` are folders.
+# The name of each export in the folder of a model. `csv` and `svg` are folders, `view` is a page.
 EXPORT_NAMES = {
     "glb": "model.glb",
     "svg": "svg",
     "csv": "csv",
     "sqlite": "model.sqlite",
     "saf": "model.xlsx",
+    "view": "model.html",
 }
 
 
@@ -22,8 +23,8 @@ class Options:
     """What is made of each model, and within which limits.
 
     `exports` are names of EXPORT_NAMES in alphabetical order. `timeout` is in seconds, and
-    `memory`, the largest address space of the process that reads a model, in bytes. `retries` is how often a
-    model is read again after its process has crashed.
+    `memory`, the largest address space of the process that reads a model, in bytes. `retries` is
+    how often a model is read again after its process has crashed.
     """
 
     exports: tuple[str, ...] = ()

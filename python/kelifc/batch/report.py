@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import base64
+import contextlib
 import hashlib
 import os
 import sqlite3
@@ -63,7 +64,8 @@ def write_report(database: Path, target: Path) -> None:
         beside.write_text(page, encoding="utf-8")
         os.replace(beside, target)
     except (OSError, sqlite3.Error) as error:
-        beside.unlink(missing_ok=True)
+        with contextlib.suppress(OSError):
+            beside.unlink()
         raise Failure(f"{target}: {error}") from error
 
 

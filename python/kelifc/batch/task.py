@@ -34,7 +34,7 @@ class VersionError(Exception):
 def process_model(path: str, root: str, run: str, options: Options, version: str) -> dict[str, Any]:
     """Reads a model unless its result is in the folder `root` already.
 
-    Returns an Outcome as a dict. The values that tasks exchange are plain, so that both sides need not agree on more.
+    Returns an Outcome as a dict. Raises VersionError if `version`, that of the client, differs.
     """
     if version != kelifc.__version__:
         raise VersionError(f"this machine has kelifc {kelifc.__version__}, the client {version}")

@@ -144,6 +144,13 @@ def test_a_damaged_result_is_read_again(results: Path) -> None:
         (["--out", "o", "--export", "doc"], 64, "no export format 'doc'"),
         (["--out", "o", "--scheduler", "tls://x:1", "--workers", "2"], 64, "--workers"),
         (["--out", "o", "--scheduler", "tcp://127.0.0.1:1"], 64, "needs TLS"),
+        (["--out", "o", "--scheduler", "tls://127.0.0.1:1"], 64, "TLS needs --tls-ca"),
+        (
+            ["--out", "o", "--scheduler", "tls://127.0.0.1:1", "--tls-ca", "no", "--tls-cert", "no",
+             "--tls-key", "no"],
+            1,
+            "No such file",
+        ),
         (["--out", "o", "missing.ifc"], 1, "missing.ifc: there is no model"),
         (["--out", "a.ifc/x"], 1, "a.ifc/x: Not a directory"),
     ],

@@ -38,7 +38,9 @@ def test_a_missing_file_has_no_rows(tmp_path: Path) -> None:
     assert list(read_rows(tmp_path / "rows", COLUMNS)) == []
 
 
-@pytest.mark.parametrize("lines", [b'["a"]\n', b'["a","b"]\n[1]\n', b'["a","b"]\n{}\n', b"", b"x\n"])
+@pytest.mark.parametrize(
+    "lines", [b'["a"]\n', b'["a","b"]\n[1]\n', b'["a","b"]\n{}\n', b"", b"x\n"]
+)
 def test_damaged_rows_raise(tmp_path: Path, lines: bytes) -> None:
     (tmp_path / "rows").write_bytes(gzip.compress(lines))
     with pytest.raises(ValueError):
