@@ -82,9 +82,9 @@ set(kelifc_public_headers
   kelifc/platform/guid.h
   kelifc/schema/attribute_table.h
   kelifc/schema/attribute_value.h
-  kelifc/schema/write_attribute.h
   kelifc/schema/common.h
   kelifc/schema/dimensional_exponents.h
+  kelifc/schema/write_attribute.h
   kelifc/server/detail/instance_index.h
   kelifc/server/detail/number_index.h
   kelifc/server/detail/product_numbers.h

@@ -83,12 +83,16 @@ BlockBits CompareSse2(const char* at) {
   return bits;
 }
 
-[[gnu::target("avx2")]] inline std::uint64_t BitsOfAvx2(__m256i low, __m256i high) {
+// Registers of 32 bytes are no parameters of real calls: on some systems they would be passed in
+// memory that is not aligned for them.
+[[gnu::target("avx2"), gnu::always_inline]] inline std::uint64_t BitsOfAvx2(__m256i low,
+                                                                            __m256i high) {
   return std::uint64_t{static_cast<unsigned>(_mm256_movemask_epi8(low))} |
          std::uint64_t{static_cast<unsigned>(_mm256_movemask_epi8(high))} << 32;
 }
 
-[[gnu::target("avx2")]] inline std::uint64_t EqualsAvx2(__m256i low, __m256i high, char c) {
+[[gnu::target("avx2"), gnu::always_inline]] inline std::uint64_t EqualsAvx2(__m256i low,
+                                                                            __m256i high, char c) {
   const __m256i wanted = _mm256_set1_epi8(c);
   return BitsOfAvx2(_mm256_cmpeq_epi8(low, wanted), _mm256_cmpeq_epi8(high, wanted));
 }

@@ -21,7 +21,11 @@ PAGE = ROOT / "docs" / "python.md"
 
 def run(script: str, *arguments: str, folder: Path) -> str:
     command = [sys.executable, str(EXAMPLES / "python" / script), *arguments]
-    finished = subprocess.run(command, cwd=folder, capture_output=True, text=True)
+    package = Path(kelifc.__file__).resolve().parents[1]
+    environment = {**os.environ, "PYTHONPATH": str(package)}
+    finished = subprocess.run(
+        command, cwd=folder, capture_output=True, text=True, env=environment
+    )
     assert finished.returncode == 0, finished.stderr
     return finished.stdout
 

@@ -51,15 +51,12 @@ export const strings = {
   noData: 'the page holds no data',
   noWebGl: 'The browser cannot draw in 3D (WebGL 2). The lists and tables still work.',
   lostContext: 'The browser stopped the 3D view. Load the page again to restore it.',
-  skip: 'Skip to the 3D view',
 
   elements: 'Elements',
   filters: 'Filters',
   losses: 'Losses',
   details: 'Details',
   panel: 'Panel',
-  showPanel: 'Show the panel',
-  hidePanel: 'Hide the panel',
   panelTabs: 'Panel',
   close: 'Close',
 
@@ -158,7 +155,6 @@ export const strings = {
     guid: 'GlobalId',
   },
 
-  noSelection: 'Nothing is selected. Click an element.',
   selected: (label: string) => `Selected: ${label}`,
   cleared: 'Nothing is selected.',
   elementLabel: (name: string, className: string, id: number) =>
@@ -169,7 +165,6 @@ export const strings = {
   position: (at: string, all: string) => `${at} of ${all} in the list`,
   notInList: 'Not in the list',
   zoomTo: 'Zoom to',
-  clear: 'Clear',
   fields: {
     class: 'Class',
     type: 'Predefined type',

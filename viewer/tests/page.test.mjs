@@ -237,7 +237,7 @@ test('a link restores the view', () => withPage({}, async (page) => {
   await page.locator('#section').selectOption('y');
   await page.locator('canvas').focus();
   await page.keyboard.press(']');
-  await page.waitForTimeout(400);
+  await page.waitForURL(/[#&]s=/); // the page writes the link when nothing changes any more
   const hash = new URL(page.url()).hash;
   const before = [await camera(page), await counts(page), await selected(page)];
   await withPage({ hash }, async (other) => {
