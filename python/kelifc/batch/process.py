@@ -6,6 +6,7 @@ Standard input stays open as long as the parent lives.
 
 from __future__ import annotations
 
+import contextlib
 import errno
 import json
 import os
@@ -47,6 +48,9 @@ def _limit_memory(memory: int) -> None:
     soft = memory if hard == resource.RLIM_INFINITY else min(memory, hard)
     resource.setrlimit(resource.RLIMIT_AS, (soft, hard))
     resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+    # If the machine has no memory left, the system ends this process, not the worker.
+    with contextlib.suppress(OSError):
+        Path("/proc/self/oom_score_adj").write_text("1000", encoding="ascii")
 
 
 def _answer(request: dict[str, Any]) -> dict[str, Any]:
