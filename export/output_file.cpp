@@ -41,8 +41,8 @@ void OutputPath::Commit() {
 }
 
 struct OutputFile::State {
-  explicit State(const std::string& path) : path(path), target(path) {
-    file = std::fopen(target.GetPath().c_str(), "wb");
+  explicit State(const std::string& path)
+      : path(path), target(path), file(std::fopen(target.GetPath().c_str(), "wb")) {
     if (!file) Fail(path, GetLastSystemError());
   }
   ~State() {
@@ -60,7 +60,7 @@ struct OutputFile::State {
 
   std::string path;
   OutputPath target;  // declared before the file, which is closed before the target is removed
-  std::FILE* file = nullptr;
+  std::FILE* file;
   std::string buffer;
 };
 

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "export/export.h"
+#include "tests/export/test_path.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -32,8 +33,7 @@ class Files : public testing::Test {
   }
 
  private:
-  fs::path folder =
-      fs::path(testing::TempDir()) / testing::UnitTest::GetInstance()->current_test_info()->name();
+  fs::path folder = PathOfTest();
 };
 
 TEST_F(Files, AreReplacedByCommit) {

@@ -7,6 +7,7 @@
 
 #include "export/csv/cells.h"
 #include "tests/building/made_building.h"
+#include "tests/export/test_path.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -38,7 +39,7 @@ TEST(CsvCell, OfAFormulaGetsAnApostrophe) {
 
 class Csv : public testing::Test {
  protected:
-  Csv() : folder(fs::path(testing::TempDir()) / "kelifc_csv_test") { fs::remove_all(folder); }
+  Csv() : folder(PathOfTest()) { fs::remove_all(folder); }
   ~Csv() override { fs::remove_all(folder); }
 
   ExportOptions Options() const {

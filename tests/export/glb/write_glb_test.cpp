@@ -14,6 +14,7 @@
 
 #include "glb_file.h"
 #include "tests/building/made_building.h"
+#include "tests/export/test_path.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -23,7 +24,7 @@ using nlohmann::json;
 class Glb : public testing::Test {
  protected:
   Glb() {
-    options.path = testing::TempDir() + "kelifc_glb_test.glb";
+    options.path = PathOfTest().string() + ".glb";
     options.source = "model.ifc";
     building.schema = "IFC2X3";
     building.storeys = {{11, "s11", "Ground floor", 0.0, true, 3.0},
@@ -251,7 +252,7 @@ TEST_F(Glb, ReportsProgressAndCanBeCancelled) {
 }
 
 TEST_F(Glb, AFolderThatIsMissingIsAnError) {
-  options.path = testing::TempDir() + "kelifc_missing_folder/model.glb";
+  options.path = (PathOfTest() / "missing" / "model.glb").string();
   EXPECT_THROW(WriteGlb(building, options), ExportError);
 }
 

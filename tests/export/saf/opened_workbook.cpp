@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "export/saf/write_saf.h"
+#include "tests/export/test_path.h"
 
 namespace KelIFC::exporting::saf {
 namespace {
@@ -141,12 +142,7 @@ std::vector<std::string> OpenedWorkbook::HeadersOf(const std::string& sheet) con
 
 std::string OpenedWorkbook::FileOf(const std::string& name) const { return files.at(name); }
 
-TestFolder::TestFolder()
-    : path((fs::path(testing::TempDir()) /
-            (std::string("kelifc_saf_") +
-             testing::UnitTest::GetInstance()->current_test_info()->test_suite_name() + "_" +
-             testing::UnitTest::GetInstance()->current_test_info()->name()))
-               .string()) {
+TestFolder::TestFolder() : path(PathOfTest().string()) {
   fs::remove_all(path);
   fs::create_directories(path);
 }

@@ -12,6 +12,7 @@
 
 #include "export/sqlite/schema.h"
 #include "tests/building/made_building.h"
+#include "tests/export/test_path.h"
 #include "tests/paths.h"
 
 namespace KelIFC::exporting {
@@ -26,7 +27,7 @@ using Rows = std::vector<std::vector<std::string>>;
 
 class Sqlite : public testing::Test {
  protected:
-  Sqlite() : folder(fs::path(testing::TempDir()) / "kelifc_sqlite_test") {
+  Sqlite() : folder(PathOfTest()) {
     fs::remove_all(folder);
     fs::create_directories(folder);
   }

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "tests/export/svg/made_storeys.h"
+#include "tests/export/test_path.h"
 
 namespace KelIFC::exporting::svg {
 namespace {
@@ -42,7 +43,7 @@ bool IsWellFormed(const std::string& text) {
 
 class Svg : public testing::Test {
  protected:
-  Svg() : folder(fs::path(testing::TempDir()) / "kelifc_svg_test") { fs::remove_all(folder); }
+  Svg() : folder(PathOfTest()) { fs::remove_all(folder); }
   ~Svg() override { fs::remove_all(folder); }
 
   ExportResult Write(const Building& building) const {

@@ -16,6 +16,7 @@
 #include "export/export.h"
 #include "export/view/page_template.h"
 #include "tests/building/made_building.h"
+#include "tests/export/test_path.h"
 #include "tests/export/view/decoded_page.h"
 
 namespace KelIFC::exporting {
@@ -99,9 +100,7 @@ class Page : public testing::Test {
   }
 
  private:
-  std::filesystem::path folder =
-      std::filesystem::path(testing::TempDir()) /
-      (std::string("page-") + testing::UnitTest::GetInstance()->current_test_info()->name());
+  std::filesystem::path folder = PathOfTest();
 };
 
 TEST_F(Page, HasTheDataBetweenHeadAndTail) {
