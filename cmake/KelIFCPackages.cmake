@@ -80,7 +80,8 @@ This package contains the Python module kelifc.")
   set(CPACK_DEBIAN_PYTHON_PACKAGE_SHLIBDEPS ON)
   set(CPACK_DEBIAN_PYTHON_PACKAGE_DEPENDS
     "${runtime_package} (= ${package_version}), python3 (>= 3.11), python3 (<< 3.12), python3-numpy")
-  set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS "python3-pandas")
+  set(CPACK_DEBIAN_PYTHON_PACKAGE_SUGGESTS
+    "python3-pandas, python3-distributed, python3-cryptography")
   # They compile the files of the package when it is installed, and remove the results afterwards.
   set(CPACK_DEBIAN_PYTHON_PACKAGE_CONTROL_EXTRA
     "${CMAKE_CURRENT_LIST_DIR}/packages/python/postinst;${CMAKE_CURRENT_LIST_DIR}/packages/python/prerm")
