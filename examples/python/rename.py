@@ -1,4 +1,4 @@
-"""Gives the columns of a model names of one form, and saves what changed into a copy."""
+"""Renames the columns of a model to names of one form, and saves what changed to a copy."""
 
 import sys
 

@@ -24,7 +24,7 @@ Uuid UuidOfText(std::string_view text);
 /// The text of a UUID: 36 characters in lower case.
 std::string TextOf(const Uuid& uuid);
 
-/// Gives each object a UUID that no other object has.
+/// Assigns each object a UUID that no other object has.
 class IdList {
  public:
   /// The ids that are derived from a text depend on the project, too.
@@ -46,8 +46,8 @@ class IdList {
   std::unordered_set<Uuid, Hash> used;
 };
 
-/// Gives each object a name that no other object has. Two names that differ in the case of letters
-/// A to Z only are equal, because some programs compare names so.
+/// Assigns each object a name that no other object has. Two names that differ in the case of
+/// letters A to Z only are equal, because some programs compare names so.
 class NameList {
  public:
   /// Returns the name as ObjectName makes it. `fallback` replaces a name that is empty. A name that

@@ -9,9 +9,9 @@ namespace {
 
 constexpr std::string_view kUnknown = "Unknown";
 
-// A part of a name in lower case, and the type that it tells. The first part that the name contains
-// decides: "betonstahl" stands before "beton", "porenbeton" and "kalksand" before "beton" and
-// "stahlbeton" before "stahl".
+// A part of a name in lower case, and the type that it stands for. The first part that the name
+// contains decides: "betonstahl" stands before "beton", "porenbeton" and "kalksand" before "beton"
+// and "stahlbeton" before "stahl".
 struct NamePart {
   std::string_view part;
   std::string_view type;

@@ -5,6 +5,7 @@
 #include <initializer_list>
 #include <utility>
 
+#include "export/text.h"
 #include "export/view/element_columns.h"
 #include "export/view/json_text.h"
 
@@ -12,24 +13,6 @@ namespace KelIFC::exporting {
 namespace {
 
 constexpr std::size_t kVersion = 1;
-
-std::string_view NameOf(IFC_RELEASE release) {
-  switch (release) {
-    case IFC_RELEASE_151:
-      return "1.5.1";
-    case IFC_RELEASE_20:
-      return "2.0";
-    case IFC_RELEASE_2X:
-      return "2x";
-    case IFC_RELEASE_2X2:
-      return "2x2";
-    case IFC_RELEASE_2X3:
-      return "2x3";
-    case IFC_RELEASE_NONE:
-      break;
-  }
-  return "";
-}
 
 void WriteNumbers(JsonText& json, std::initializer_list<double> numbers) {
   json.BeginList();
@@ -67,7 +50,7 @@ void WriteHead(JsonText& json, const DescribedBuilding& described) {
   const Building& building = described.building;
   json.Member("version", kVersion);
   json.Member("source", described.source);
-  json.Member("release", NameOf(building.release));
+  json.Member("release", ReleaseText(building.release));
   json.Member("schema", building.schema);
   json.Member("application", building.application);
   json.Key("lengthUnit");

@@ -9,7 +9,7 @@
 namespace KelIFC::exporting {
 
 /// Builds a JSON text without blanks. It adds the commas. The caller begins and ends objects and
-/// lists in the right order, and gives each member of an object a key.
+/// lists in the right order, and writes a key for each member of an object.
 class JsonText {
  public:
   void BeginObject() { Begin('{'); }

@@ -83,8 +83,8 @@ class ValueMaker {
   const std::shared_ptr<Model>& model;
 };
 
-/// The kind of a value of raw text. There, a text and an enumerator are told apart by the value
-/// that the instance has now.
+/// The kind of a value of raw text. A Python text can be a text or an enumerator in the file. The
+/// value that the instance has now decides which.
 AttributeKind RawKind(const AttributeValue& value) {
   switch (value.GetKind()) {
     case Kind::kEnumeration:

@@ -7,8 +7,8 @@
 
 namespace KelIFC {
 
-/// Gives an element the section of a profile. A rectangle, a circle and a T with the flange on top
-/// become sections of their kinds. Any other profile becomes a polygon with the points of its
+/// Sets the section of an element from a profile. A rectangle, a circle and a T with the flange on
+/// top become sections of their kinds. Any other profile becomes a polygon with the points of its
 /// outline, and so does a rectangle that lies askew.
 HRESULT EnsureProfileSection(CoGeoStructure& structure, CoGeoObject& element,
                              const BuildingProfile& profile);

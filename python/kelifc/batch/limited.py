@@ -88,7 +88,7 @@ def _send(process: subprocess.Popen[bytes], request: dict[str, Any]) -> None:
         process.stdin.write(json.dumps(request).encode() + b"\n")
         process.stdin.flush()
     except BrokenPipeError:
-        pass  # It has ended; its exit status tells more.
+        pass  # It has ended; its exit status says more.
 
 
 def _stop(process: subprocess.Popen[bytes]) -> None:
