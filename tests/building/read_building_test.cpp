@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -14,6 +13,7 @@
 #include "kelifc/building/difference.h"
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/model_files.h"
 #include "tests/paths.h"
 #include "tests/server/temp_file.h"
 
@@ -21,21 +21,6 @@
 
 namespace KelIFC {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::vector<fs::path> ModelFiles() {
-  std::vector<fs::path> files;
-  const char* const data = std::getenv("KELIFC_TEST_DATA");
-  for (const fs::path& folder : {fs::path(kExamplesDir), fs::path(data == nullptr ? "" : data)}) {
-    if (folder.empty()) continue;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-      if (entry.path().extension() == ".ifc") files.push_back(entry.path());
-    }
-  }
-  std::sort(files.begin(), files.end());
-  return files;
-}
 
 /// What a save writes, from the schema on: the head before it has the time.
 std::string Saved(IfcServer& server) {
@@ -51,7 +36,7 @@ LoadOptions IsoOptions() {
   return options;
 }
 
-class BuildingOfModel : public testing::TestWithParam<fs::path> {
+class BuildingOfModel : public testing::TestWithParam<std::filesystem::path> {
  protected:
   void SetUp() override { ASSERT_EQ(server.LoadIfc(GetParam().string().c_str(), IsoOptions()), 0); }
 
@@ -105,15 +90,8 @@ TEST_P(BuildingOfModel, IsExactWhereItSaysSo) {
   }
 }
 
-std::string NameOf(const testing::TestParamInfo<fs::path>& info) {
-  std::string name = info.param.stem().string();
-  for (char& c : name) {
-    if (std::isalnum(static_cast<unsigned char>(c)) == 0) c = '_';
-  }
-  return name + "_" + std::to_string(info.index);
-}
-
-INSTANTIATE_TEST_SUITE_P(Models, BuildingOfModel, testing::ValuesIn(ModelFiles()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Models, BuildingOfModel, testing::ValuesIn(ExamplesAndRealModels()),
+                         TestNameOf);
 
 TEST(ReadBuilding, OfAnEmptyModelIsEmpty) {
   IfcServer server;

@@ -15,6 +15,7 @@
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/read_file.h"
 #include "tests/server/probe.h"
 #include "tests/server/temp_file.h"
 
@@ -29,11 +30,6 @@ constexpr char kHead[] =
     "FILE_NAME('old.ifc','2001-01-01T00:00:00',('An'),('Org'),'Old 1','Sys','');\n"
     "FILE_SCHEMA(('IFC2X3'));\nENDSEC;\n";
 constexpr char kTail[] = "ENDSEC;\nEND-ISO-10303-21;\n";
-
-std::string ReadAll(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 LoadOptions Iso() {
   LoadOptions options;
@@ -67,7 +63,7 @@ class FaithfulSave : public testing::Test {
 
   std::string Save() {
     EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_SAVED) << told;
-    return ReadAll(target.GetPath());
+    return ReadFile(target.GetPath());
   }
 
   // The data sections, after a save.
@@ -236,7 +232,7 @@ TEST_F(FaithfulSave, ReplacesItsOwnSource) {
   Load("DATA;\n#1=IFCCARTESIANPOINT((1.0));\n#2=IFCFOO( 1 );\n" + std::string(kTail));
   MovePoint(1, 3);
   ASSERT_EQ(server.SaveIfc(source.GetPath(), Faithful()), SAVE_RESULT_SAVED) << told;
-  EXPECT_EQ(DataOf(ReadAll(source.GetPath())),
+  EXPECT_EQ(DataOf(ReadFile(source.GetPath())),
             "DATA;\n#1=IFCCARTESIANPOINT((3.));\n#2=IFCFOO( 1 );\n" + std::string(kTail));
 }
 
@@ -249,7 +245,7 @@ TEST_F(FaithfulSave, RefusesASourceThatHasChanged) {
   EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_SOURCE_CHANGED);
   EXPECT_EQ(told, std::string(target.GetPath()) +
                       ": the source of the model has changed since it was loaded\n");
-  EXPECT_EQ(ReadAll(target.GetPath()), "old");
+  EXPECT_EQ(ReadFile(target.GetPath()), "old");
 }
 
 TEST_F(FaithfulSave, RefusesASourceThatIsGone) {
@@ -257,7 +253,7 @@ TEST_F(FaithfulSave, RefusesASourceThatIsGone) {
   std::ofstream(target.GetPath()) << "old";
   fs::remove(source.GetPath());
   EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_NO_SOURCE);
-  EXPECT_EQ(ReadAll(target.GetPath()), "old");
+  EXPECT_EQ(ReadFile(target.GetPath()), "old");
 }
 
 TEST_F(FaithfulSave, RefusesAModelThatWasNotLoadedForIt) {
@@ -282,7 +278,7 @@ TEST_F(FaithfulSave, FailsIfAnInstanceCannotBeWritten) {
   Load(std::string("DATA;\n") + kTail);
   server.AddItem(new Unwritable);
   EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_CANNOT_WRITE);
-  EXPECT_EQ(ReadAll(target.GetPath()), "");
+  EXPECT_EQ(ReadFile(target.GetPath()), "");
 }
 
 TEST_F(FaithfulSave, ServesModelsFromMemoryAndFromStreams) {
@@ -341,7 +337,7 @@ TEST_F(FaithfulSave, FollowsALinkToItsOwnSource) {
   EXPECT_EQ(server.SaveIfc(link.c_str(), Faithful()), SAVE_RESULT_SAVED) << told;
   EXPECT_TRUE(fs::is_symlink(link));
   fs::remove(link);
-  EXPECT_EQ(DataOf(ReadAll(source.GetPath())),
+  EXPECT_EQ(DataOf(ReadFile(source.GetPath())),
             "DATA;\n#1=IFCCARTESIANPOINT((3.));\n#2=IFCFOO( 1 );\n" + std::string(kTail));
 }
 
@@ -351,7 +347,7 @@ TEST_F(FaithfulSave, WritesATargetThatIsNoOrdinaryFileDirectly) {
   const std::string pipe = std::string(target.GetPath()) + ".pipe";
   fs::remove(pipe);
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  auto read = std::async(std::launch::async, [&pipe] { return ReadAll(pipe); });
+  auto read = std::async(std::launch::async, [&pipe] { return ReadFile(pipe); });
   EXPECT_EQ(server.SaveIfc(pipe.c_str(), Faithful()), SAVE_RESULT_SAVED) << told;
   EXPECT_EQ(DataOf(read.get()), data);
   EXPECT_TRUE(fs::is_fifo(pipe));

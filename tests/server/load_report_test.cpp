@@ -3,15 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string>
 
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/model_files.h"
+#include "tests/read_file.h"
 #include "tests/server/temp_file.h"
 
 namespace KelIFC {
@@ -286,17 +286,14 @@ std::uint64_t CountStatements(const std::string& text) {
 }
 
 TEST(LoadReport, AccountsForEachStatementOfRealModels) {
-  const char* folder = std::getenv("KELIFC_TEST_DATA");
-  if (folder == nullptr) GTEST_SKIP() << "KELIFC_TEST_DATA names no folder of models";
+  if (RealModels().empty()) GTEST_SKIP() << kNoRealModels;
   LoadOptions options;
   options.dialect = STEP_DIALECT_ISO;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".ifc") continue;
-    SCOPED_TRACE(entry.path().filename().string());
-    std::ifstream file(entry.path(), std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  for (const std::filesystem::path& path : RealModels()) {
+    SCOPED_TRACE(path.filename().string());
+    const std::string text = ReadFile(path);
     IfcServer server;
-    ASSERT_EQ(server.LoadIfc(entry.path().string().c_str(), options), 0);
+    ASSERT_EQ(server.LoadIfc(path.string().c_str(), options), 0);
     const LoadReport& report = server.GetLoadReport();
     EXPECT_EQ(report.statements, CountStatements(text));
     EXPECT_EQ(report.made + report.raw, report.numbers);
