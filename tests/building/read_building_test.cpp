@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -122,6 +123,39 @@ TEST(ReadBuilding, OutlivesTheModel) {
   EXPECT_EQ(building.totals.surfaces, 8u);
   ASSERT_EQ(building.storeys.size(), 2u);
   EXPECT_EQ(building.storeys[1].elevation, 2.8);
+}
+
+TEST(ReadBuilding, ReportsTwoStepsForEachProduct) {
+  IfcServer server;
+  const std::string path = std::string(kExamplesDir) + "/house.ifc";
+  ASSERT_EQ(server.LoadIfc(path.c_str(), IsoOptions()), 0);
+  std::vector<std::uint64_t> reported;
+  std::uint64_t all = 0;
+  ReadingOptions options;
+  options.progress = [&](std::uint64_t done, std::uint64_t total) {
+    reported.push_back(done);
+    all = total;
+    return true;
+  };
+  const Building building = ReadBuilding(server, options);
+  EXPECT_EQ(all, 2 * building.totals.products);
+  ASSERT_FALSE(reported.empty());
+  EXPECT_EQ(reported.front(), 0u);
+  EXPECT_EQ(reported.back(), all);
+  EXPECT_TRUE(std::is_sorted(reported.begin(), reported.end()));
+}
+
+TEST(ReadBuilding, CanBeCancelledAtEachStepAndRepeated) {
+  IfcServer server;
+  const std::string path = std::string(kExamplesDir) + "/house.ifc";
+  ASSERT_EQ(server.LoadIfc(path.c_str(), IsoOptions()), 0);
+  const std::size_t products = ReadBuilding(server).totals.products;
+  for (std::uint64_t last = 0; last <= 2 * products; ++last) {
+    ReadingOptions options;
+    options.progress = [last](std::uint64_t done, std::uint64_t) { return done < last; };
+    EXPECT_THROW(ReadBuilding(server, options), ReadingCancelled) << last;
+  }
+  EXPECT_EQ(ReadBuilding(server).totals.products, products);
 }
 
 TEST(ReadBuilding, BeyondTheLimitOfPointsThereAreLosses) {

@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <future>
@@ -115,6 +116,35 @@ TEST_F(FaithfulSave, RewritesTheStatementOfAChangedInstanceOnly) {
             "DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n#2=IFCCARTESIANPOINT((5.,2.));\n"
             "#3=IFCCARTESIANPOINT((1.0,2.0));\n" +
                 std::string(kTail));
+}
+
+TEST_F(FaithfulSave, ReportsTheBytesOfTheSourceForBothPasses) {
+  Load("DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n" + std::string(kTail));
+  const std::uint64_t size = ReadAll(source.GetPath()).size();
+  std::uint64_t last = 0;
+  SaveOptions options = Faithful();
+  options.progress = [&](std::uint64_t done, std::uint64_t total) {
+    EXPECT_EQ(total, 2 * size);
+    EXPECT_GT(done, last);
+    last = done;
+    return true;
+  };
+  EXPECT_EQ(server.SaveIfc(target.GetPath(), options), SAVE_RESULT_SAVED);
+  EXPECT_EQ(last, 2 * size);
+}
+
+TEST_F(FaithfulSave, LeavesTheOldFileIfItIsCancelledInOneOfThePasses) {
+  Load("DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n" + std::string(kTail));
+  std::ofstream(target.GetPath()) << "old";
+  for (const bool isFirstPass : {true, false}) {
+    SaveOptions options = Faithful();
+    options.progress = [&](std::uint64_t done, std::uint64_t total) {
+      return !isFirstPass && done < total;
+    };
+    EXPECT_EQ(server.SaveIfc(target.GetPath(), options), SAVE_RESULT_CANCELLED);
+    EXPECT_EQ(ReadAll(target.GetPath()), "old");
+  }
+  EXPECT_THAT(told, HasSubstr(": the save was cancelled\n"));
 }
 
 TEST_F(FaithfulSave, RewritesAStatementWhoseChangeIsBelowTheTolerance) {
