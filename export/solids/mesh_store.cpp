@@ -37,7 +37,9 @@ Point3 MiddleOf(const Mesh& mesh, const std::vector<MeshTriangle>& triangles) {
 }
 
 /// The sum of 0 turns a negative zero into zero, which has other bits.
-float OnGrid(double value) { return static_cast<float>(std::round(value * kStepsPerMetre) / kStepsPerMetre + 0.0); }
+float OnGrid(double value) {
+  return static_cast<float>(std::round(value * kStepsPerMetre) / kStepsPerMetre + 0.0);
+}
 
 /// A hash of the FNV kind.
 class Hash {
@@ -131,8 +133,7 @@ void MeshStore::Fill(const Mesh& mesh, const std::vector<MeshTriangle>& triangle
     for (const Mesh::Index end : edge) content.edges.push_back(VertexOf(mesh, end, origin));
   }
   for (const RoundEdge& edge : RoundEdgesOf(mesh, triangles, content.isClosed)) {
-    for (const Mesh::Index point :
-         {edge.ends[0], edge.ends[1], edge.beside[0], edge.beside[1]}) {
+    for (const Mesh::Index point : {edge.ends[0], edge.ends[1], edge.beside[0], edge.beside[1]}) {
       content.roundEdges.push_back(VertexOf(mesh, point, origin));
     }
   }

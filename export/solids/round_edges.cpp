@@ -76,9 +76,9 @@ std::vector<RoundEdge> RoundEdgesOf(const Mesh& mesh, const std::vector<MeshTria
     if (!(cosine >= kLeastRoundCosine && cosine <= kMostRoundCosine)) continue;
     if (isClosed && !IsConvex(mesh, first, normals[first.face], second)) continue;
     const bool isForward = first.isForward;
-    result.push_back({{first.low, first.high},
-                      {isForward ? first.third : second.third,
-                       isForward ? second.third : first.third}});
+    result.push_back(
+        {{first.low, first.high},
+         {isForward ? first.third : second.third, isForward ? second.third : first.third}});
   }
   return result;
 }

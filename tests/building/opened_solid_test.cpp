@@ -29,8 +29,8 @@ double VolumeOf(const Mesh& mesh) {
 /// An upright opening in the plane y = 0.
 BuildingOpening OpeningFrom(double x, double z, double width, double height, double depth = 0.3) {
   BuildingOpening opening;
-  opening.outline = {{x, 0.0, z}, {x + width, 0.0, z}, {x + width, 0.0, z + height},
-                     {x, 0.0, z + height}};
+  opening.outline = {
+      {x, 0.0, z}, {x + width, 0.0, z}, {x + width, 0.0, z + height}, {x, 0.0, z + height}};
   opening.depth = depth;
   return opening;
 }
