@@ -8,6 +8,7 @@ set(kelifc_public_headers
   kelifc/building/element_solid.h
   kelifc/building/measures.h
   kelifc/building/mesh.h
+  kelifc/building/opened_solid.h
   kelifc/building/plane_cut.h
   kelifc/building/profile.h
   kelifc/building/read_building.h

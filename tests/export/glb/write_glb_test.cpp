@@ -96,6 +96,22 @@ TEST_F(Glb, ExtrasHoldTheDataOfAnElement) {
   EXPECT_FALSE(slab.contains("profile"));
 }
 
+TEST_F(Glb, EqualSlabsAtOtherPlacesShareAMesh) {
+  building.elements.push_back(Slab(4, 4.0, 3.0));
+  for (Point3& p : building.elements[3].surface->outline) p += Vector3(7.1, 0.3, 3.3);
+  const GlbFile file = Write();
+  const std::vector<json> nodes = file.ElementNodes();
+  ASSERT_EQ(nodes.size(), 4U);
+  EXPECT_EQ(nodes[2]["mesh"], nodes[3]["mesh"]);
+  EXPECT_NE(nodes[2]["translation"], nodes[3]["translation"]);
+  EXPECT_EQ(file.scene["meshes"].size(), 3U);
+}
+
+TEST_F(Glb, AStoreyWithoutANameHasItsNumber) {
+  building.storeys[0].name.clear();
+  EXPECT_EQ(Write().scene["nodes"][1]["name"], "storey 11");
+}
+
 TEST_F(Glb, NodesHaveTheVolumeOfTheirElement) {
   const GlbFile file = Write();
   const std::vector<json> nodes = file.ElementNodes();
