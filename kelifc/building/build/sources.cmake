@@ -10,6 +10,7 @@ target_sources(kelifc_building PRIVATE
   build/idealise_box.cpp
   build/idealise_curved.cpp
   build/idealise_curved_wall.cpp
+  build/idealise_cut_taper.cpp
   build/idealise_direct.cpp
   build/idealise_directions.cpp
   build/idealise_ends.cpp

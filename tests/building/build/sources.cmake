@@ -4,6 +4,7 @@ set(stage_tests
   openings_test.cpp
   first_use_test.cpp
   storeys_test.cpp
+  idealise_cut_taper_test.cpp
   idealise_member_test.cpp
   idealise_surface_test.cpp
   idealise_test.cpp
