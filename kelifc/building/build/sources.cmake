@@ -5,6 +5,7 @@ target_sources(kelifc_building PRIVATE
   build/openings.cpp
   build/storeys.cpp
   build/idealise.cpp
+  build/idealise_bent_member.cpp
   build/idealise_bevel.cpp
   build/idealise_boundary.cpp
   build/idealise_box.cpp
@@ -24,6 +25,7 @@ target_sources(kelifc_building PRIVATE
   build/idealise_slices.cpp
   build/idealise_solid.cpp
   build/idealise_source.cpp
+  build/idealise_strip.cpp
   build/idealise_surface.cpp
   build/idealise_taper.cpp
   build/made_profiles.cpp
