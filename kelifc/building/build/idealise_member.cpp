@@ -66,6 +66,8 @@ std::optional<Reading> ReadMember(Subject& subject, const Vector3& direction) {
   if (largest != sections.begin()) KeepBetter(best, ReadWithSection(subject, plane, *largest));
   if (best && !best->fit.isApproximate) return best;
   KeepBetter(best, ReadTapered(subject, plane, span));
+  if (best && !best->fit.isApproximate && best->fit.cutouts == 0) return best;
+  KeepBetter(best, ReadCutTaper(subject, plane, span));
   return best;
 }
 

@@ -87,6 +87,25 @@ std::optional<Section> SectionAt(Boundary& boundary, const PlaneFrame& plane, do
   return section;
 }
 
+std::optional<FlatRegion> RegionAround(Boundary& boundary, const PlaneFrame& plane) {
+  constexpr double kSlack = 1e-4;  // metres, so that an origin on the outline counts
+  std::optional<FlatRegion> found;
+  for (FlatRegion& region : Slice(boundary.Mesh(), plane, kCollinear)) {
+    const Extent2 extent = ExtentOf(region.outer);
+    const bool isAround = extent.x.from <= kSlack && extent.x.to >= -kSlack &&
+                          extent.y.from <= kSlack && extent.y.to >= -kSlack;
+    if (!isAround || region.outer.size() < 3) continue;
+    if (found) return std::nullopt;
+    found = std::move(region);
+  }
+  return found;
+}
+
+Span LongestGap(const Boundary& boundary, const Vector3& normal, const Span& span) {
+  const std::vector<Interval> intervals = FindIntervals(boundary, normal, span);
+  return intervals.empty() ? span : Span{intervals[0].from, intervals[0].to};
+}
+
 std::vector<Section> ScanSections(Boundary& boundary, const PlaneFrame& plane, const Span& span) {
   std::vector<Section> sections;
   std::size_t taken = 0;

@@ -84,6 +84,13 @@ bool MayBeCurvedWall(Subject& subject) {
          subject.boundary.Faces().size() >= 8;
 }
 
+bool MayBeBentMember(Subject& subject) {
+  constexpr std::size_t kLeastFaces =
+      8;  // two ends, and a triangular profile on both sides of a bend
+  return (subject.role == ElementRole::kMember || subject.role == ElementRole::kOther) &&
+         subject.boundary.Faces().size() >= kLeastFaces;
+}
+
 }  // namespace
 
 std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>& hints,
@@ -102,8 +109,9 @@ std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>
     if (best && !best->fit.isApproximate && ScoreOf(*best) >= trial.suitability) continue;
     KeepBetter(best, trial.kind == ElementKind::kMember ? ReadMember(subject, trial.direction)
                                                         : ReadSurface(subject, trial.direction));
-    if (IsGood(best)) break;
+    if (IsGood(best)) return best;
   }
+  if (!isSeveral && MayBeBentMember(subject)) KeepBetter(best, ReadBentMember(subject, directions));
   return best;
 }
 
