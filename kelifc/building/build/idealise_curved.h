@@ -17,6 +17,10 @@ std::optional<Reading> ReadSweptDisk(Subject& subject, const SweptDisk& disk,
 std::optional<Reading> ReadSweptCurve(Subject& subject, const SweptCurve& sweep,
                                       const Transform3& toLocal);
 
+/// Reads a member along an arc or along a line with bends from its boundary. `normal` is that of
+/// the plane of the bend. None if the boundary has no strip in that plane.
+std::optional<Reading> ReadCurvedMember(Subject& subject, const Vector3& normal);
+
 /// Reads a wall whose plan is a strip along an arc or along a line with bends. `up` is the
 /// direction of its height. None if its section is no such strip.
 std::optional<Reading> ReadCurvedWall(Subject& subject, const Vector3& up);
