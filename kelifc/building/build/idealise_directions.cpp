@@ -111,6 +111,7 @@ std::vector<Weighted> Cluster(std::vector<Weighted> items) {
                    [](const Group& a, const Group& b) { return a.sum.weight > b.sum.weight; });
   if (groups.size() > kMostClusters) groups.resize(kMostClusters);
   std::vector<Weighted> clusters;
+  clusters.reserve(groups.size());
   for (const Group& group : groups) clusters.push_back({MainDirection(group), group.sum.weight});
   return clusters;
 }
@@ -174,6 +175,7 @@ std::vector<Vector3> LargestNormals(Boundary& boundary, std::size_t most) {
   SortByWeight(merged);
   if (merged.size() > most) merged.resize(most);
   std::vector<Vector3> normals;
+  normals.reserve(merged.size());
   for (const Weighted& normal : merged) normals.push_back(normal.vector);
   return normals;
 }

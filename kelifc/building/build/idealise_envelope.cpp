@@ -60,9 +60,9 @@ class Sections {
  private:
   bool AddAt(double at) {
     for (FlatRegion& region : RegionsAt(boundary, plane, at)) {
-      const bool isKnown = std::any_of(regions.begin(), regions.end(), [&](const FlatRegion& known) {
-        return AreSame(known, region);
-      });
+      const bool isKnown =
+          std::any_of(regions.begin(), regions.end(),
+                      [&](const FlatRegion& known) { return AreSame(known, region); });
       if (isKnown) continue;
       pointCount += PointsOf(region).size();
       regions.push_back(std::move(region));

@@ -89,6 +89,7 @@ bool MayBeCurvedWall(Subject& subject) {
 std::vector<Vector3> NormalsOfBends(Subject& subject, const std::vector<Direction>& directions) {
   constexpr std::size_t kMostPlanes = 4;
   std::vector<Vector3> normals;
+  normals.reserve(directions.size() + kMostPlanes * kMostPlanes);
   for (const Direction& direction : directions) normals.push_back(direction.vector);
   const std::vector<Vector3> planes = LargestNormals(subject.boundary, kMostPlanes);
   for (std::size_t i = 0; i < planes.size(); ++i) {

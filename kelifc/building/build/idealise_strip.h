@@ -26,7 +26,8 @@ struct MiddleLine {
   double thickness = 0.0;
 };
 
-/// None if the strip is neither an arc nor a line with bends that has the same thickness everywhere.
+/// None if the strip is neither an arc nor a line with bends that has the same thickness
+/// everywhere.
 std::optional<MiddleLine> MiddleOf(const Strip& strip);
 
 }  // namespace KelIFC::building::idealising

@@ -14,8 +14,8 @@ namespace KelIFC::building {
 namespace {
 
 // The time grows with the square of the number of points.
-constexpr std::size_t kMostPoints = 1000;
-constexpr std::size_t kMostPieces = 4000;
+constexpr std::size_t kMostPoints = 400;
+constexpr std::size_t kMostPieces = 1500;
 
 /// The edges of all loops, cut where they touch or cross each other.
 class EdgeSplitter {
@@ -42,6 +42,7 @@ class EdgeSplitter {
 
   std::vector<Point2> Points() const {
     std::vector<Point2> points;
+    points.reserve(index.Points().size());
     for (const Point3& p : index.Points()) points.emplace_back(p.x, p.y);
     return points;
   }
@@ -135,6 +136,7 @@ struct Piece {
 
 std::vector<Piece> Balanced(const std::vector<DirectedEdge>& edges) {
   std::vector<Piece> pieces;
+  pieces.reserve(edges.size());
   for (const auto& [from, to] : edges) {
     pieces.push_back({{std::min(from, to), std::max(from, to)}, from < to ? 1 : -1});
   }
@@ -159,6 +161,7 @@ class Winding {
  public:
   Winding(const std::vector<Point2>& somePoints, const std::vector<Piece>& somePieces)
       : pieces(somePieces), points(somePoints) {
+    turned.reserve(points.size());
     for (const Point2& p : points) turned.push_back(Turned(p));
   }
 
@@ -171,8 +174,9 @@ class Winding {
     const Point2 middle = Between(own[a], own[b], 0.5);
     int sum = 0;
     for (std::size_t i = 0; i < pieces.size(); ++i) {
-      if (i != piece) sum += Crossing(middle, own[pieces[i].ends.first], own[pieces[i].ends.second],
-                                      pieces[i].balance);
+      if (i != piece)
+        sum += Crossing(middle, own[pieces[i].ends.first], own[pieces[i].ends.second],
+                        pieces[i].balance);
     }
     // The ray from the left of a piece that rises crosses it.
     return own[b].y > own[a].y ? sum + pieces[piece].balance : sum;

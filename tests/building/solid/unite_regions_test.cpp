@@ -89,9 +89,8 @@ TEST(UniteRegions, UnitesEqualRegionsAtAnyAngle) {
     const Vector2 y{-x.y, x.x};
     const Point2 o{3.0, -2.0};
     const auto turned = [&](double x0, double y0, double x1, double y1) {
-      return FlatRegion{{o + x * x0 + y * y0, o + x * x1 + y * y0, o + x * x1 + y * y1,
-                         o + x * x0 + y * y1},
-                        {}};
+      return FlatRegion{
+          {o + x * x0 + y * y0, o + x * x1 + y * y0, o + x * x1 + y * y1, o + x * x0 + y * y1}, {}};
     };
     const std::vector<FlatRegion> united =
         UniteRegions({turned(0.0, 0.0, 1.0, 1.0), turned(0.0, 0.0, 1.0, 1.0),
