@@ -12,9 +12,6 @@
 namespace KelIFC::building::idealising {
 namespace {
 
-// So many planes are searched for the bends of a member: those of the largest side faces.
-constexpr std::size_t kMostPlanes = 3;
-
 // Where the body is cut in the plane of the bends, as a part of its extent. A little beside the
 // middle, so that the cut does not run through points.
 constexpr double kCut = 0.4999;
@@ -130,8 +127,8 @@ std::optional<Reading> AlongArc(const Bends& bends, const MiddleProfile& middle)
   reading.member.curve = CurveForm::kArc;
   reading.member.points = {towards(left.front()), towards(left[left.size() / 2]),
                            towards(left.back())};
-  reading.member.y = Turned(bends, middle.found.frame.x, bends.MiddleOfEdge() - centre,
-                            left.front() - centre);
+  reading.member.y =
+      Turned(bends, middle.found.frame.x, bends.MiddleOfEdge() - centre, left.front() - centre);
   return reading;
 }
 
@@ -162,12 +159,14 @@ std::optional<Reading> AlongPolyline(const Bends& bends, const MiddleProfile& mi
   reading.member.y = Turned(bends, middle.found.frame.x, edge, left[1] - left[0]);
   const std::size_t last = points.size() - 1;
   reading.member.ends[0] = EndOf(bends, points[0], right[0] - left[0], Unit(points[0] - points[1]));
-  reading.member.ends[1] = EndOf(bends, points[last], right[last] - left[last],
-                                 Unit(points[last] - points[last - 1]));
+  reading.member.ends[1] =
+      EndOf(bends, points[last], right[last] - left[last], Unit(points[last] - points[last - 1]));
   return reading;
 }
 
-std::optional<Reading> ReadInPlane(Subject& subject, const Vector3& normal) {
+}  // namespace
+
+std::optional<Reading> ReadBentMember(Subject& subject, const Vector3& normal) {
   const std::optional<Bends> bends = FindBends(subject, normal);
   if (!bends) return std::nullopt;
   std::optional<MiddleProfile> middle = FindMiddleProfile(subject, *bends);
@@ -177,20 +176,6 @@ std::optional<Reading> ReadInPlane(Subject& subject, const Vector3& normal) {
   if (!reading) return std::nullopt;
   reading->profile = std::move(middle->found.profile);
   return FinishCurvedMember(subject, std::move(*reading));
-}
-
-}  // namespace
-
-std::optional<Reading> ReadBentMember(Subject& subject, std::vector<Direction> directions) {
-  std::stable_sort(directions.begin(), directions.end(),
-                   [](const Direction& a, const Direction& b) { return a.across > b.across; });
-  if (directions.size() > kMostPlanes) directions.resize(kMostPlanes);
-  std::optional<Reading> best;
-  for (const Direction& direction : directions) {
-    KeepBetter(best, ReadInPlane(subject, direction.vector));
-    if (IsGood(best)) break;
-  }
-  return best;
 }
 
 }  // namespace KelIFC::building::idealising

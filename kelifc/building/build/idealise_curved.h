@@ -2,9 +2,7 @@
 #define KELIFC_BUILDING_BUILD_IDEALISE_CURVED_H_
 
 #include <optional>
-#include <vector>
 
-#include "kelifc/building/build/idealise_directions.h"
 #include "kelifc/building/build/idealise_reading.h"
 
 namespace KelIFC::building::idealising {
@@ -22,9 +20,9 @@ std::optional<Reading> ReadSweptCurve(Subject& subject, const SweptCurve& sweep,
 /// Completes the reading of a member whose axis and profile are set. None if there is no solid.
 std::optional<Reading> FinishCurvedMember(Subject& subject, Reading reading);
 
-/// Reads a boundary as a member that runs along an arc or a line with bends in a plane. The plane
-/// is square to one of the directions. None if the cut of the plane is no strip.
-std::optional<Reading> ReadBentMember(Subject& subject, std::vector<Direction> directions);
+/// Reads a boundary as a member that runs along an arc or a line with bends in a plane, which is
+/// square to `normal`. None if the cut of the plane is no strip.
+std::optional<Reading> ReadBentMember(Subject& subject, const Vector3& normal);
 
 /// Reads a wall whose plan is a strip along an arc or along a line with bends. `up` is the
 /// direction of its height. None if its section is no such strip.

@@ -15,6 +15,7 @@ target_sources(kelifc_building PRIVATE
   build/idealise_direct.cpp
   build/idealise_directions.cpp
   build/idealise_ends.cpp
+  build/idealise_envelope.cpp
   build/idealise_measure.cpp
   build/idealise_member.cpp
   build/idealise_orient.cpp
