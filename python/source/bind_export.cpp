@@ -40,7 +40,10 @@ const ExportFormat& FormatOf(const std::string& name) {
     case ExportFailure::kFile:
       break;
   }
-  RaiseFileError("ExportError", path, error.what());
+  std::string reason = error.what();
+  const std::string named = "cannot write " + path + ": ";  // the exception names the path itself
+  if (reason.rfind(named, 0) == 0) reason.erase(0, named.size());
+  RaiseFileError("ExportError", path, reason);
 }
 
 View<ExportResult> Export(const View<Building>& self, const std::string& format,

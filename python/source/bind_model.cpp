@@ -349,6 +349,14 @@ using ModelClass = py::class_<Model, Shared>;
 
 void DefineAccess(ModelClass& type) {
   type.def(
+      "__repr__",
+      [](Model& self) {
+        const std::size_t count = self.Server().GetNumberCount();
+        return py::str("<Model {}, {} instances>")
+            .format(ToText(self.TextOf(self.Server().GetFileSchema())), count);
+      },
+      "__repr__() -> str");
+  type.def(
       "__len__", [](Model& self) { return self.Server().GetNumberCount(); },
       "__len__() -> int\n\nReturns the number of instances.");
   type.def(
