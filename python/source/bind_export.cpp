@@ -99,9 +99,10 @@ void BindExport(py::module_& module) {
            py::arg("source") = "", py::arg("raw_cells") = false, py::arg("node_tolerance") = 1e-3,
            py::arg("progress") = py::none(), kDoc);
   module.def("export_formats", &Formats,
-             "export_formats() -> dict[str, str]\n\nReturns the formats of Building.export. The "
-             "value is the component that this build lacks for the format; it is empty if the "
-             "format can be written.");
+             "export_formats() -> dict[str, str]\n"
+             "\n"
+             "Returns the formats of Building.export. The value is the component that this build\n"
+             "lacks for the format; it is empty if the format can be written.");
 }
 
 }  // namespace KelIFC::python
