@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,6 +13,7 @@
 #include "glb_file.h"
 #include "tests/building/made_building.h"
 #include "tests/export/test_path.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -49,8 +48,7 @@ class Glb : public testing::Test {
 
   std::string Bytes() {
     WriteGlb(building, options);
-    std::ifstream file(options.path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    return ReadFile(options.path);
   }
 
   Building building;
@@ -263,8 +261,7 @@ TEST_F(Glb, ReportsProgressAndCanBeCancelled) {
   const std::string before = Bytes();
   options.progress = [](double share) { return share < 0.5; };
   EXPECT_THROW(WriteGlb(building, options), ExportError);
-  std::ifstream file(options.path, std::ios::binary);
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), before);
+  EXPECT_EQ(ReadFile(options.path), before);
 }
 
 TEST_F(Glb, AFolderThatIsMissingIsAnError) {
