@@ -192,6 +192,11 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   idToIndex.Reserve(expected);
 }
 
+// Notes where a load with a report stops. A load that is cancelled stops at no fault of the file.
+void IfcServer::NoteFailure() {
+  if (load.findings != nullptr && !load.isStopped) report.failure = load.scanner->GetPlace();
+}
+
 // Called once for each block of the file. Checks the memory and reports the progress.
 bool IfcServer::GoesOn() {
   if (!load.isRunning) return true;

@@ -56,13 +56,16 @@ void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {
     scanner.SetLimit(longest);
     if (load.isUnordered) server.idToIndex.PrefetchNumber(scanner.PeekNumber());
     load.isBeyondLimit = scanner.GetLength() > longest;
-    if (load.isBeyondLimit || handle(&server, statement) != 0) return;
+    if (load.isBeyondLimit || handle(&server, statement) != 0) return server.NoteFailure();
     load.isBeyondLimit = server.items.size() > mostItems;
-    if (load.isBeyondLimit) return;
+    if (load.isBeyondLimit) return server.NoteFailure();
     load.statementBytes += scanner.GetLength();
-    if (scanner.GetBytesRead() != load.bytesReported && !server.GoesOn()) return;
+    if (scanner.GetBytesRead() != load.bytesReported && !server.GoesOn()) {
+      return server.NoteFailure();
+    }
   }
   load.isBeyondLimit = (scanner.IsBeyondLimit() && server.headerSeen) || !server.IsWithinMemory();
+  if (load.isBeyondLimit) server.NoteFailure();
 }
 
 void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
