@@ -168,10 +168,11 @@ LIST<const IfcDirection*> IfcAxis2Placement3D::GetP() const {
   if (z->GetRatios(up.data(), up.size()) != 3) up = {};
   if (x->GetRatios(along.data(), along.size()) != 3) along = {};
   const auto [crossX, crossY, crossZ] = CrossOf(up, along);
-  self->p2 = IfcDirection(crossX, crossY, crossZ);
-  self->p2.SetServer(server);
+  IfcDirection& y = self->p2.Get();
+  y = IfcDirection(crossX, crossY, crossZ);
+  y.SetServer(server);
   axes.Add(x);
-  axes.Add(&p2);
+  axes.Add(&y);
   axes.Add(z);
   return axes;
 }
