@@ -8,6 +8,7 @@ set(kelifc_public_headers
   kelifc/building/element_solid.h
   kelifc/building/measures.h
   kelifc/building/mesh.h
+  kelifc/building/opened_solid.h
   kelifc/building/plane_cut.h
   kelifc/building/profile.h
   kelifc/building/read_building.h
@@ -95,6 +96,7 @@ set(kelifc_public_headers
   kelifc/server/load_options.h
   kelifc/server/load_report.h
   kelifc/server/load_result.h
+  kelifc/server/progress_handler.h
   kelifc/server/release.h
   kelifc/server/report_format.h
   kelifc/server/same_values.h

@@ -11,6 +11,7 @@
 #include "kelifc/building/element_solid.h"
 #include "kelifc/building/measures.h"
 #include "kelifc/building/mesh.h"
+#include "kelifc/building/opened_solid.h"
 #include "kelifc/building/plane_cut.h"
 #include "kelifc/building/profile.h"
 #include "kelifc/building/read_building.h"

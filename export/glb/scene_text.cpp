@@ -155,7 +155,7 @@ class SceneText {
   void WriteGroup(std::size_t group, std::size_t firstChild) {
     text.BeginObject();
     const bool isStorey = group < building.storeys.size();
-    text.Member("name", isStorey ? building.storeys[group].name : "without a storey");
+    text.Member("name", isStorey ? NameOf(building.storeys[group]) : "without a storey");
     WriteChildren(firstChild, children[group].size(), "children");
     if (isStorey) {
       const BuildingStorey& storey = building.storeys[group];
@@ -168,6 +168,10 @@ class SceneText {
       text.EndObject();
     }
     text.EndObject();
+  }
+
+  static std::string NameOf(const BuildingStorey& storey) {
+    return storey.name.empty() ? "storey " + std::to_string(storey.id) : storey.name;
   }
 
   void WriteElement(std::size_t i) {

@@ -22,8 +22,10 @@ if(KELIFC_BUILD_SAF)
     saf/cell_text.cpp saf/columns.cpp saf/cross_section_list.cpp saf/cross_section_shape.cpp
     saf/face_loop.cpp saf/identifiers.cpp saf/material_list.cpp saf/node_list.cpp
     saf/numeric_locale.cpp saf/omission_list.cpp saf/saf_writer.cpp saf/surface_boundary.cpp
-    saf/workbook.cpp saf/workbook_check.cpp saf/write_member.cpp saf/write_proxy.cpp saf/write_saf.cpp
+    saf/workbook.cpp saf/workbook_check.cpp
+    saf/workbook_file.cpp saf/write_member.cpp saf/write_proxy.cpp saf/write_saf.cpp
     saf/write_surface.cpp)
+  target_sources(kelifc_export PRIVATE "${PROJECT_SOURCE_DIR}/kelifc/platform/memory_file.cpp")
   target_include_directories(kelifc_export PRIVATE "${PROJECT_BINARY_DIR}/generated")
   target_link_libraries(kelifc_export PRIVATE PkgConfig::KELIFC_XLSXWRITER)
 else()

@@ -7,9 +7,9 @@
 #include <unordered_set>
 #include <utility>
 
-#include "export/output_file.h"
 #include "export/report_progress.h"
 #include "export/saf/saf_writer.h"
+#include "export/saf/workbook_file.h"
 #include "export/saf/write_member.h"
 #include "export/saf/write_proxy.h"
 #include "export/saf/write_surface.h"
@@ -111,9 +111,9 @@ void WriteNodes(SafWriter& writer) {
 }
 
 ExportResult WriteSaf(const Building& building, const ExportOptions& options) {
-  OutputPath path(options.path);
+  WorkbookFile file(options.path);
   const bool isLarge = EstimateRows(building) > kLargeWorkbook;
-  Workbook workbook(path.GetPath(), options.path, isLarge);
+  Workbook workbook(file.GetPath(), options.path, isLarge);
   WriteHeaders(workbook);
   SafWriter writer(building, options, workbook);
   WriteProperties(writer, options);
@@ -122,7 +122,7 @@ ExportResult WriteSaf(const Building& building, const ExportOptions& options) {
   WriteNodes(writer);
   workbook.Close();
   ReportProgress(options, 1, 1);
-  path.Commit();
+  file.Commit();
 
   writer.omissions.Add("directions of true north", building.trueNorth ? 1 : 0);
   writer.omissions.Add("texts shortened",

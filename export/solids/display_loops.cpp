@@ -43,12 +43,23 @@ std::vector<Point3> EdgeOfWall(const WallSweep& sweep) {
 std::vector<IdealLine> IdealLinesOf(const BuildingElement& element) {
   std::vector<IdealLine> lines;
   if (element.member) {
-    lines.push_back({PointsOfCurve(element.member->curve, element.member->points), false});
+    lines.push_back(
+        {PointsOfCurve(element.member->curve, element.member->points), LineKind::kAxis});
   } else if (element.surface && element.surface->sweep) {
-    lines.push_back({EdgeOfWall(*element.surface->sweep), true});
+    lines.push_back({EdgeOfWall(*element.surface->sweep), LineKind::kRegion});
   } else if (element.surface) {
-    lines.push_back({PointsOfOutline(*element.surface), true});
-    for (const std::vector<Point3>& hole : element.surface->holes) lines.push_back({hole, true});
+    lines.push_back({PointsOfOutline(*element.surface), LineKind::kRegion});
+    for (const std::vector<Point3>& hole : element.surface->holes) {
+      lines.push_back({hole, LineKind::kRegion});
+    }
+  }
+  return lines;
+}
+
+std::vector<IdealLine> OpeningLinesOf(const BuildingElement& element) {
+  std::vector<IdealLine> lines;
+  for (const BuildingOpening& opening : element.openings) {
+    if (opening.outline.size() > 2) lines.push_back({opening.outline, LineKind::kOpening});
   }
   return lines;
 }

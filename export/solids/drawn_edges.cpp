@@ -6,10 +6,10 @@
 
 #include "kelifc/geometry/point.h"
 
+#include "export/solids/round_edges.h"
+
 namespace KelIFC::exporting {
 namespace {
-
-constexpr double kSmoothCosine = 0.9063;  // of 25 degrees
 
 /// An edge of a face.
 struct EdgeUse {
@@ -45,7 +45,7 @@ void AppendEdges(const Mesh::Loop& loop, Mesh::Index face, std::vector<EdgeUse>&
 bool IsDrawn(const EdgeUse* first, const EdgeUse* last, const std::vector<Vector3>& normals) {
   if (last - first == 1) return true;
   return std::any_of(first + 1, last, [&](const EdgeUse& use) {
-    return Dot(normals[first->face], normals[use.face]) < kSmoothCosine;
+    return Dot(normals[first->face], normals[use.face]) < kLeastRoundCosine;
   });
 }
 

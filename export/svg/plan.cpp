@@ -56,6 +56,24 @@ struct Content {
   double high = -1e300;
 };
 
+// Plans whose cuts show the same.
+struct CutLevel {
+  double cut = 0.0;  // the lowest of their cuts
+  std::vector<std::pair<std::size_t, std::size_t>>
+      plans;  // instance number of the storey, and plan
+};
+
+// The plan of a level whose storey is nearest to an instance number. Storeys of one building are
+// near each other in a file, so it is a storey of the building to which the instance belongs.
+std::size_t NearestPlan(const CutLevel& level, std::size_t number) {
+  const auto& plans = level.plans;
+  const auto next = std::lower_bound(plans.begin(), plans.end(), std::pair(number, std::size_t{0}));
+  if (next == plans.begin()) return next->second;
+  const auto before = next - 1;
+  if (next == plans.end()) return before->second;
+  return next->first - number < number - before->first ? next->second : before->second;
+}
+
 // The plans of a building while they are arranged. Plan 0 is that of the elements without a storey.
 class Arrangement {
  public:
@@ -145,14 +163,33 @@ class Arrangement {
   }
 
   void SortCuts() {
+    std::vector<std::pair<double, std::size_t>> cuts;
     for (std::size_t i = 1; i < plans.size(); ++i) cuts.emplace_back(plans[i].cut, i);
     std::sort(cuts.begin(), cuts.end());
+    for (const auto& [cut, plan] : cuts) {
+      if (levels.empty() || cut - levels.back().cut > kSameCut) levels.push_back({cut, {}});
+      levels.back().plans.emplace_back(plans[plan].storey->id, plan);
+    }
+    for (CutLevel& level : levels) std::sort(level.plans.begin(), level.plans.end());
   }
 
-  // The position in `cuts` of the first cut that is higher than z.
-  std::size_t FirstCutAbove(double z) const {
-    const auto above = std::upper_bound(cuts.begin(), cuts.end(), std::pair(z, kNone));
-    return static_cast<std::size_t>(above - cuts.begin());
+  // The position in `levels` of the first one that is higher than z.
+  std::size_t FirstLevelAbove(double z) const {
+    const auto above =
+        std::upper_bound(levels.begin(), levels.end(), z,
+                         [](double height, const CutLevel& level) { return height < level.cut; });
+    return static_cast<std::size_t>(above - levels.begin());
+  }
+
+  // True if the home of an element shows the same as a level.
+  bool IsHome(const CutLevel& level, std::size_t home) const {
+    return std::abs(level.cut - plans[home].cut) <= kSameCut;
+  }
+
+  // The plan of a level that shows an element from another level.
+  std::size_t PlanAt(const CutLevel& level, std::size_t index, std::size_t home) const {
+    const BuildingStorey* const storey = plans[home].storey;
+    return NearestPlan(level, storey != nullptr ? storey->id : building.elements[index].id);
   }
 
   void Add(std::size_t plan, std::size_t element, Look look, bool hasLabel) {
@@ -162,7 +199,7 @@ class Arrangement {
   void Place(std::size_t index, std::size_t home, std::size_t& budget) {
     const BuildingElement& element = building.elements[index];
     const Look look = LookOf(element, plans[home]);
-    const std::size_t under = IsLevelMember(element) ? PlanUnder(element, home) : kNone;
+    const std::size_t under = IsLevelMember(element) ? PlanUnder(index, home) : kNone;
     Add(home, index, look, under == kNone);
     if (under != kNone) Add(under, index, Look::kAbove, true);
     const std::size_t carried = PlanOf(element.storeyByHeight);
@@ -173,37 +210,28 @@ class Arrangement {
     PlaceCuts(index, home, budget);
   }
 
-  // The plan of the nearest storey whose cut is under a beam. None if it is the home of the beam,
-  // or shows the same as the home.
-  std::size_t PlanUnder(const BuildingElement& element, std::size_t home) const {
-    const std::size_t above = FirstCutAbove(element.box.min.z + kSameHeight);
+  // The plan of the nearest storey whose cut is under a beam. None if the home of the beam shows
+  // the same.
+  std::size_t PlanUnder(std::size_t index, std::size_t home) const {
+    const std::size_t above = FirstLevelAbove(building.elements[index].box.min.z + kSameHeight);
     if (above == 0) return kNone;
-    const auto& [cut, plan] = cuts[above - 1];
-    const bool isHome = plan == home || std::abs(cut - plans[home].cut) <= kSameCut;
-    return isHome ? kNone : plan;
+    const CutLevel& level = levels[above - 1];
+    return IsHome(level, home) ? kNone : PlanAt(level, index, home);
   }
 
-  // Adds the element to the plans that cut it, without those that show the same as its home.
+  // Adds the element to a plan of each level that cuts it, except that of its home.
   void PlaceCuts(std::size_t index, std::size_t home, std::size_t& budget) {
     const BuildingBox& box = building.elements[index].box;
-    const std::size_t first = FirstCutAbove(box.min.z + kSameHeight);
-    const std::size_t last = std::max(first, FirstCutAbove(box.max.z - kSameHeight));
-    const std::size_t firstSame = FirstCutAbove(plans[home].cut - kSameCut);
-    const std::size_t lastSame = FirstCutAbove(plans[home].cut + kSameCut);
-    PlaceCuts(index, first, std::min(last, firstSame), budget);
-    PlaceCuts(index, std::max(first, lastSame), last, budget);
-  }
-
-  // Adds the element to a range of the cuts.
-  void PlaceCuts(std::size_t index, std::size_t first, std::size_t last, std::size_t& budget) {
     const std::size_t cost = CostOf(building.elements[index]);
-    for (std::size_t i = first; i < last; ++i) {
+    const std::size_t end = FirstLevelAbove(box.max.z - kSameHeight);
+    for (std::size_t i = FirstLevelAbove(box.min.z + kSameHeight); i < end; ++i) {
+      if (IsHome(levels[i], home)) continue;
       if (budget < cost) {
-        leftOut += last - i;
+        leftOut += end - i;
         return;
       }
       budget -= cost;
-      Add(cuts[i].second, index, Look::kCut, false);
+      Add(PlanAt(levels[i], index, home), index, Look::kCut, false);
     }
   }
 
@@ -219,8 +247,8 @@ class Arrangement {
   const Building& building;
   std::vector<Plan> plans;
   std::unordered_map<std::size_t, std::size_t> planOfStorey;  // by instance number
-  std::map<double, std::size_t> storeysAt;           // how many, by elevation in millimetres
-  std::vector<std::pair<double, std::size_t>> cuts;  // by height, with the plan
+  std::map<double, std::size_t> storeysAt;  // how many, by elevation in millimetres
+  std::vector<CutLevel> levels;             // by height
   std::size_t leftOut = 0;
 };
 

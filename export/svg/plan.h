@@ -43,8 +43,9 @@ struct PlanSet {
 ///
 /// Each element with a box is on the plan of its storey. It is also on the plans of the other
 /// storeys whose plane cuts it; a slab also on that of the storey that it carries, and a beam on
-/// that of the storey under it. The sum of these further items is limited to about 20 for each
-/// element. It takes n log n time.
+/// that of the storey under it. If several storeys have the same plane, such as those of several
+/// buildings, it is the one whose instance number is nearest to that of its storey. The sum of
+/// these further items is limited to about 20 for each element. It takes n log n time.
 PlanSet ArrangePlans(const Building& building);
 
 }  // namespace KelIFC::exporting::svg

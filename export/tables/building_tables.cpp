@@ -52,7 +52,7 @@ constexpr std::array<ParameterText, kProfileParameterCount> kParameterTexts = {{
 }};
 
 std::optional<double> ParameterOf(const BuildingProfile& profile, ProfileParameter parameter) {
-  for (const ProfileParameter own : ParametersOf(profile.shape)) {
+  for (const ProfileParameter own : ParametersOf(profile)) {
     if (own == parameter) return profile[parameter];
   }
   return std::nullopt;

@@ -95,7 +95,7 @@ void WriteProfile(JsonText& json, const BuildingProfile& profile) {
   json.Member("shape", TextOf(profile.shape));
   json.Key("parameters");
   json.BeginObject();
-  for (const ProfileParameter parameter : ParametersOf(profile.shape)) {
+  for (const ProfileParameter parameter : ParametersOf(profile)) {
     json.Member(TextOf(parameter), profile[parameter]);
   }
   json.EndObject();

@@ -6,6 +6,7 @@ namespace KelIFC::exporting {
 namespace {
 
 constexpr std::size_t kNumbersOfMesh = 6;
+constexpr std::size_t kNumbersOfRoundEdges = 2;
 constexpr std::size_t kNumbersOfMatrix = 12;
 constexpr std::size_t kNumbersOfLoop = 4;
 
@@ -15,6 +16,15 @@ std::vector<std::uint32_t> NumbersOf(const std::vector<DisplayMesh>& meshes) {
   for (const DisplayMesh& mesh : meshes) {
     numbers.insert(numbers.end(), {mesh.firstVertex, mesh.vertexCount, mesh.firstTriangle,
                                    mesh.triangleCount, mesh.firstEdge, mesh.edgeCount});
+  }
+  return numbers;
+}
+
+std::vector<std::uint32_t> RoundEdgesOf(const std::vector<DisplayMesh>& meshes) {
+  std::vector<std::uint32_t> numbers;
+  numbers.reserve(meshes.size() * kNumbersOfRoundEdges);
+  for (const DisplayMesh& mesh : meshes) {
+    numbers.insert(numbers.end(), {mesh.firstRoundEdge, mesh.roundEdgeCount});
   }
   return numbers;
 }
@@ -42,7 +52,7 @@ std::vector<std::uint32_t> NumbersOf(const std::vector<DisplayLoop>& loops) {
   numbers.reserve(loops.size() * kNumbersOfLoop);
   for (const DisplayLoop& loop : loops) {
     numbers.insert(numbers.end(), {loop.element, loop.firstPoint, loop.pointCount,
-                                   static_cast<std::uint32_t>(loop.isClosed)});
+                                   static_cast<std::uint32_t>(loop.kind)});
   }
   return numbers;
 }
@@ -52,6 +62,7 @@ std::vector<std::uint32_t> NumbersOf(const std::vector<DisplayLoop>& loops) {
 DisplayArrays::DisplayArrays(const DisplayModel& model)
     : model(model),
       meshes(NumbersOf(model.meshes)),
+      meshRoundEdges(RoundEdgesOf(model.meshes)),
       elementMatrix(NumbersOf(model.elementMatrix, model.origin)),
       loops(NumbersOf(model.loops)) {}
 
@@ -59,7 +70,9 @@ std::vector<ContainerArray> DisplayArrays::GetArrays() const {
   return {{"positions", std::span(model.positions)},
           {"triangles", std::span(model.triangles)},
           {"edges", std::span(model.edges)},
+          {"roundEdges", std::span(model.roundEdges)},
           {"meshes", std::span(meshes)},
+          {"meshRoundEdges", std::span(meshRoundEdges)},
           {"elementMesh", std::span(model.elementMesh)},
           {"elementMatrix", std::span(elementMatrix)},
           {"loops", std::span(loops)},

@@ -21,6 +21,7 @@ class DisplayArrays {
  private:
   const DisplayModel& model;
   std::vector<std::uint32_t> meshes;
+  std::vector<std::uint32_t> meshRoundEdges;
   std::vector<float> elementMatrix;
   std::vector<std::uint32_t> loops;
 };

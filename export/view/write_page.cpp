@@ -69,7 +69,7 @@ ExportResult WritePage(const Building& building, const ExportOptions& options) {
 ExportResult FillPage(const PageTemplate& page, const Building& building,
                       const ExportOptions& options) {
   OutputFile file(options.path);
-  const DisplayModel display = MakeDisplayModel(building, options);
+  const DisplayModel display = MakeDisplayModel(building, options, OpeningDisplay::kCut);
   for (const std::string_view part : page.head) file.Write(part);
   WriteDataElement(display, building, options, file);
   for (const std::string_view part : page.tail) file.Write(part);

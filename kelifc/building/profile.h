@@ -83,6 +83,10 @@ struct BuildingProfile {
   }
 };
 
+/// The parameters that describe a profile: those of its shape, without kR1 and kSlope for an I
+/// whose flanges have parallel faces and sharp edges.
+KELIFC_API ProfileParameterList ParametersOf(const BuildingProfile& profile);
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_BUILDING_PROFILE_H_

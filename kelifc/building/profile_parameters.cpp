@@ -23,7 +23,7 @@ constexpr std::array<ProfileParameterList, 15> kLists = {
     ListOf({kD, kT}),                                // kHollowCircle
     ListOf({kH, kB}),                                // kEllipse
     ListOf({kH, kB, kB1, kOffset}),                  // kTrapezium
-    ListOf({kH, kB, kTw, kTf, kR}),                  // kI
+    ListOf({kH, kB, kTw, kTf, kR, kR1, kSlope}),     // kI
     ListOf({kH, kB, kTw, kTf, kR, kB1, kTf1, kR1}),  // kAsymmetricI
     ListOf({kH, kB, kTw, kTf, kR, kR1, kSlope}),     // kU
     ListOf({kH, kB, kT, kR, kR1, kSlope}),           // kL
@@ -38,6 +38,13 @@ static_assert(kLists.size() == static_cast<std::size_t>(ProfileShape::kC) + 1);
 ProfileParameterList ParametersOf(ProfileShape shape) {
   const auto at = static_cast<std::size_t>(shape);
   return at < kLists.size() ? kLists[at] : ProfileParameterList();
+}
+
+ProfileParameterList ParametersOf(const BuildingProfile& profile) {
+  ProfileParameterList list = ParametersOf(profile.shape);
+  const bool isTapered = profile[kR1] != 0.0 || profile[kSlope] != 0.0;
+  if (profile.shape == ProfileShape::kI && !isTapered) list.count -= 2;
+  return list;
 }
 
 }  // namespace KelIFC

@@ -9,6 +9,10 @@
 
 namespace KelIFC {
 
+ReadingCancelled::~ReadingCancelled() = default;
+
+const char* ReadingCancelled::what() const noexcept { return "the reading was cancelled"; }
+
 Building ReadBuilding(IfcServer& server, const ReadingOptions& options) {
   if (server.GetRelease() < IFC_RELEASE_2X) return {};
   try {

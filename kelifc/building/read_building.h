@@ -2,9 +2,11 @@
 #define KELIFC_BUILDING_READ_BUILDING_H_
 
 #include <cstddef>
+#include <exception>
 
 #include "kelifc/building/building.h"
 #include "kelifc/platform/export.h"
+#include "kelifc/server/progress_handler.h"
 
 namespace KelIFC {
 
@@ -27,11 +29,28 @@ struct ReadingOptions {
 
   /// The deepest nesting of mapped items, boolean results and decompositions.
   std::size_t maxDepth = 64;
+
+  /// Receives the progress of the reading. Each product counts twice: when its values are read, and
+  /// when its body is idealised. If it returns false, ReadBuilding throws ReadingCancelled.
+  ProgressHandler progress = {};
+};
+
+/// Thrown by ReadBuilding if ReadingOptions::progress returned false.
+class KELIFC_API ReadingCancelled : public std::exception {
+ public:
+  ReadingCancelled() = default;
+  ReadingCancelled(const ReadingCancelled&) = default;
+  ReadingCancelled& operator=(const ReadingCancelled&) = default;
+  ~ReadingCancelled() override;
+
+  /// Returns a text for people, in English.
+  const char* what() const noexcept override;
 };
 
 /// Reads all structural elements of a model of the releases 2x, 2x2 and 2x3 and returns them by
 /// value. The model does not change. For another release and for an empty model the result is
-/// empty. The only exception is std::bad_alloc.
+/// empty. The only exceptions are std::bad_alloc, ReadingCancelled and those of the progress
+/// handler.
 KELIFC_API Building ReadBuilding(IfcServer& server, const ReadingOptions& options = {});
 
 }  // namespace KelIFC

@@ -21,6 +21,14 @@ void SetBinary(std::FILE* stream);
 /// ANSI code page.
 std::filesystem::path PathOfArgument(std::string_view name);
 
+/// From now on, the first Ctrl-C does not end the program: IsInterrupted returns true after it, and
+/// system calls that wait for input end. The second one ends the program. Does nothing in a program
+/// that was started with Ctrl-C ignored.
+void CatchInterrupts();
+
+/// Returns true after a Ctrl-C that was caught. Any thread can call it.
+bool IsInterrupted();
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_PLATFORM_PROGRAM_H_

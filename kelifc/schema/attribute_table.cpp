@@ -57,6 +57,18 @@ const AttributeDescription* EntityDescription::FindAttribute(std::string_view at
   return nullptr;
 }
 
+const InverseAttribute* EntityDescription::FindInverse(std::string_view inverseName) const {
+  const InverseAttribute* const end = inverses + inverseCount;
+  const InverseAttribute* const own = std::find_if(
+      inverses, end, [&](const InverseAttribute& row) { return IsSame(row.name, inverseName); });
+  if (own != end) return own;
+  for (const EntityDescription* base : bases) {
+    if (base == nullptr) continue;
+    if (const auto* inherited = base->FindInverse(inverseName)) return inherited;
+  }
+  return nullptr;
+}
+
 bool EntityDescription::IsKindOf(const EntityDescription& other) const {
   if (this == &other) return true;
   return std::any_of(std::begin(bases), std::end(bases), [&](const EntityDescription* base) {

@@ -41,6 +41,23 @@ enum class AttributeKind : std::uint8_t {
   kReferenceList,  ///< `(#15,#16)`, in a defined order; inline typed values as for kReference
 };
 
+/// Returns the kind of the elements of a list, or kUnknown for a kind that is no list.
+constexpr AttributeKind KindOfElements(AttributeKind list) {
+  switch (list) {
+    case AttributeKind::kTextList:
+      return AttributeKind::kText;
+    case AttributeKind::kRealList:
+      return AttributeKind::kReal;
+    case AttributeKind::kIntegerList:
+      return AttributeKind::kInteger;
+    case AttributeKind::kReferenceSet:
+    case AttributeKind::kReferenceList:
+      return AttributeKind::kReference;
+    default:
+      return AttributeKind::kUnknown;
+  }
+}
+
 /// What the library does with an attribute.
 enum class AttributeUse : std::uint8_t {
   kKept,     ///< A load reads the value of the statement, and the instance keeps it.
@@ -77,6 +94,15 @@ struct AttributeDescription {
   AttributeWriter write = nullptr;  ///< null for a value that the instance does not keep
 };
 
+/// An inverse attribute of an entity: the instances that refer to an instance of the entity. No
+/// statement has it. It follows from the attributes of other instances, so it is right also after
+/// the model has changed.
+struct InverseAttribute {
+  std::string_view name = {};       ///< in the schema, such as "HasOpenings"
+  std::string_view entity = {};     ///< of the instances that refer, such as "IfcRelVoidsElement"
+  std::string_view attribute = {};  ///< of that entity, which holds the references
+};
+
 /// What an entity or another class of the schema is.
 enum class EntityForm : std::uint8_t {
   kEntity,     ///< can have instances
@@ -103,6 +129,10 @@ struct KELIFC_API EntityDescription {
   std::size_t attributeCount = 0;  ///< of `attributes`
   std::size_t positionCount =
       0;  ///< how many attributes a statement has, those of `record` included
+  /// The inverse attributes that the entity adds, as far as the release has a class for the
+  /// instances that refer.
+  const InverseAttribute* inverses = nullptr;
+  std::size_t inverseCount = 0;  ///< of `inverses`
 
   /// Returns the attribute at a position of a statement, counted from 0. Returns null for a
   /// position that the description does not know.
@@ -112,6 +142,10 @@ struct KELIFC_API EntityDescription {
   /// Names are compared without regard to case. If a class has two attributes with the name, the
   /// derived one is not returned.
   const AttributeDescription* FindAttribute(std::string_view attributeName) const;
+
+  /// Returns the inverse attribute with a name, which can be an inherited one, or null if there is
+  /// none. Names are compared without regard to case.
+  const InverseAttribute* FindInverse(std::string_view inverseName) const;
 
   /// Returns true if this is `other` or derives from it. Classes of two releases are never related.
   bool IsKindOf(const EntityDescription& other) const;

@@ -9,25 +9,7 @@ namespace KelIFC {
 namespace {
 
 constexpr bool IsList(AttributeKind kind) {
-  return kind == AttributeKind::kTextList || kind == AttributeKind::kRealList ||
-         kind == AttributeKind::kIntegerList || kind == AttributeKind::kReferenceSet ||
-         kind == AttributeKind::kReferenceList;
-}
-
-constexpr AttributeKind ElementKind(AttributeKind list) {
-  switch (list) {
-    case AttributeKind::kTextList:
-      return AttributeKind::kText;
-    case AttributeKind::kRealList:
-      return AttributeKind::kReal;
-    case AttributeKind::kIntegerList:
-      return AttributeKind::kInteger;
-    case AttributeKind::kReferenceSet:
-    case AttributeKind::kReferenceList:
-      return AttributeKind::kReference;
-    default:
-      return AttributeKind::kUnknown;
-  }
+  return KindOfElements(kind) != AttributeKind::kUnknown;
 }
 
 /// Returns true for `.T.` and `.F.`, and on request for `.U.`.
@@ -128,7 +110,7 @@ bool StatementCheck::FitsAsElement(const FoundValue& value,
                                    const AttributeDescription& attribute) const {
   // An empty list has an element without a form.
   if (value.form == ValueForm::kNone || value.form == ValueForm::kList) return true;
-  return HasForm(value, ElementKind(attribute.kind)) && LeadsTo(value, attribute);
+  return HasForm(value, KindOfElements(attribute.kind)) && LeadsTo(value, attribute);
 }
 
 // Returns false if a reference is known to lead to an instance of a class that does not fit.

@@ -20,6 +20,9 @@
 namespace KelIFC {
 namespace {
 
+// The progress is reported once for so many bytes of the source.
+constexpr std::uint64_t kReportedBytes = std::uint64_t{256} * 1024;
+
 bool IsLetterOrDigit(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
 }
@@ -87,6 +90,9 @@ class FaithfulSave::Reader {
     return text;
   }
 
+  // The number of bytes up to the end of the last statement.
+  std::uint64_t GetOffset() const { return offset; }
+
   // The hash of all bytes, after the last statement.
   const ContentHash& GetHash() const { return input.GetHash(); }
 
@@ -133,11 +139,13 @@ int FaithfulSave::Prepare(std::string& reason) {
   const auto in = origin->source->Open();
   reason = "the source of the model cannot be read";
   if (!in) return SAVE_RESULT_NO_SOURCE;
+  progress = ProgressSteps(handler, 2 * origin->source->GetSize(), kReportedBytes);
   HashedInput hashed(*in);
   IsoScanner scanner(hashed);
   bool isAfterSchema = false;
   bool isInData = false;
   for (std::size_t ordinal = 1; const char* text = scanner.Next(); ++ordinal) {
+    if (!progress.Reach(scanner.GetEndOffset())) break;
     const std::string_view found(text, scanner.GetLength());
     isAfterSchema = isAfterSchema || IsSchema(text);
     if (BeginsWith(found, "DATA")) isInData = isAfterSchema;
@@ -145,14 +153,15 @@ int FaithfulSave::Prepare(std::string& reason) {
     lastDataEnd = ordinal;
     isInData = false;
   }
-  if (!IsSame(hashed.GetHash(), reason)) return SAVE_RESULT_SOURCE_CHANGED;
-  return SAVE_RESULT_SAVED;
+  return EndPass(hashed.GetHash(), reason);
 }
 
-bool FaithfulSave::IsSame(const ContentHash& hash, std::string& reason) const {
-  if (hash.GetValue() == server.sourceHash) return true;
+// Returns the result of a pass over the source that has the hash `hash`.
+int FaithfulSave::EndPass(const ContentHash& hash, std::string& reason) const {
+  reason = "the save was cancelled";
+  if (progress.IsStopped()) return SAVE_RESULT_CANCELLED;
   reason = "the source of the model has changed since it was loaded";
-  return false;
+  return hash.GetValue() == server.sourceHash ? SAVE_RESULT_SAVED : SAVE_RESULT_SOURCE_CHANGED;
 }
 
 int FaithfulSave::Write(std::ostream& out, std::string_view fileName, std::string& reason) {
@@ -168,12 +177,13 @@ int FaithfulSave::Write(std::ostream& out, std::string_view fileName, std::strin
   if (server.GetRelease() == IFC_RELEASE_151) registered.Collect(server);
   Reader reader(*statements, *bytes);
   WriteStatements(reader, out);
-  if (!IsSame(reader.GetHash(), reason)) return SAVE_RESULT_SOURCE_CHANGED;
-  return SAVE_RESULT_SAVED;
+  return EndPass(reader.GetHash(), reason);
 }
 
 void FaithfulSave::WriteStatements(Reader& reader, std::ostream& out) {
+  const std::uint64_t size = origin->source->GetSize();
   while (char* const text = reader.Next()) {
+    if (!progress.Reach(size + reader.GetOffset())) return;
     detail::PutText(out, reader.gap);
     if (reader.ordinal == lastDataEnd) WriteAdditions("", out);
     WriteStatement(reader, text, out);
@@ -181,6 +191,7 @@ void FaithfulSave::WriteStatements(Reader& reader, std::ostream& out) {
   }
   if (lastDataEnd == 0) WriteAdditions("\n", out);
   reader.CopyRest(out);
+  progress.Reach(2 * size);
 }
 
 void FaithfulSave::WriteStatement(Reader& reader, char* text, std::ostream& out) {

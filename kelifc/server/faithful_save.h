@@ -13,6 +13,7 @@
 
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
+#include "kelifc/server/progress_steps.h"
 #include "kelifc/server/registered_materials.h"
 #include "kelifc/server/text_stream.h"
 
@@ -28,7 +29,10 @@ class ModelOrigin;
 /// model, and the values of both are compared. The memory depends on the longest statement only.
 class FaithfulSave {
  public:
-  explicit FaithfulSave(IfcServer& model) : server(model) {}
+  /// `receiver` receives the bytes of the source that Prepare and Write have read. It must outlive
+  /// this object.
+  FaithfulSave(IfcServer& model, const ProgressHandler& receiver)
+      : server(model), handler(receiver) {}
 
   /// Checks that the source is what it was, and finds the end of its last data section. Returns a
   /// SAVE_RESULT; `reason` receives the cause of a failure.
@@ -42,7 +46,7 @@ class FaithfulSave {
   enum class Action { kCopy, kReplace, kRemove };
   class Reader;
 
-  bool IsSame(const ContentHash& hash, std::string& reason) const;
+  int EndPass(const ContentHash& hash, std::string& reason) const;
   void WriteStatements(Reader& reader, std::ostream& out);
   void WriteStatement(Reader& reader, char* text, std::ostream& out);
   Action Decide(const Reader& reader, std::size_t number, const char* text);
@@ -58,6 +62,8 @@ class FaithfulSave {
   void WriteAdditions(std::string_view separator, std::ostream& out);
 
   IfcServer& server;
+  const ProgressHandler& handler;
+  ProgressSteps progress;
   std::shared_ptr<const ModelOrigin> origin;
   std::string targetName;
   std::size_t lastDataEnd = 0;  // which statement ends the last data section; 0 if none does

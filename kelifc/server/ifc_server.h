@@ -23,6 +23,7 @@
 #include "kelifc/server/load_options.h"
 #include "kelifc/server/load_report.h"
 #include "kelifc/server/load_result.h"
+#include "kelifc/server/progress_handler.h"
 #include "kelifc/server/release.h"
 #include "kelifc/server/save_options.h"
 #include "kelifc/server/source_position.h"
@@ -37,6 +38,7 @@ class IsoStatementReader;
 class LoadArena;
 class ModelOrigin;
 class ModelSource;
+class ProgressSteps;
 class ReportCollector;
 class ScanBuffer;
 class StepFileSchema;
@@ -48,10 +50,6 @@ struct KELIFC_API GuidLess {
   /// Returns true if `a` comes before `b`.
   bool operator()(const _GUID& a, const _GUID& b) const;
 };
-
-/// Receives the progress of a load: the bytes read so far and the bytes to read, for both passes
-/// over the file together. If it returns false, the load stops. It must not use the server.
-using ProgressHandler = std::function<bool(std::uint64_t bytesDone, std::uint64_t bytesTotal)>;
 
 /// Receives an error of a save as one line without its line end: the path as the host passed it, a
 /// colon, a blank and the cause.
@@ -287,8 +285,9 @@ class KELIFC_API IfcServer {
   /// need not visit every instance. Slots of deleted instances are null.
   const std::vector<std::uint32_t>& GetProductPositions() const { return productPositions; }
 
-  /// Sets the handler that receives the progress of loads. An empty handler, as in a new server,
-  /// receives nothing.
+  /// Sets the handler that receives the progress of loads: the bytes read so far and the bytes to
+  /// read, for both passes over the file together. An empty handler, as in a new server, receives
+  /// nothing. SaveOptions::progress receives the progress of a save.
   void SetProgressHandler(ProgressHandler handler);
 
   /// Sets the handler that receives the errors of saves. With an empty handler, as in a new server,
@@ -389,11 +388,13 @@ class KELIFC_API IfcServer {
   bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
   IfcUnknown* FindStated(std::size_t id, std::uint64_t offset);
+  void NoteFailure(const SourcePlace& place);
 
   int SaveModel(const char* path, std::string_view schema, const SaveOptions& options,
                 std::string& reason);
-  void WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema);
-  void WriteInstances(std::ostream& out);
+  void WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema,
+                  ProgressSteps& progress);
+  void WriteInstances(std::ostream& out, ProgressSteps& progress);
   void WriteInstance(std::ostream& out, std::uint64_t number);
   int TellError(const std::string& message) const;  // returns the code of a failed save
 

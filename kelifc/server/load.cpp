@@ -210,11 +210,7 @@ void IfcServer::MakeOnThreads(std::istream& in) {
     in.seekg(static_cast<std::streamoff>(position.offset));
   };
   seek(load.stoppedAt);
-  std::optional<SourcePosition> rest;
-  {
-    PieceMaker maker(*this, in, load.stoppedAt);
-    rest = maker.Make();
-  }
+  const std::optional<SourcePosition> rest = PieceMaker(*this, in, load.stoppedAt).Make();
   if (!rest) return;
   seek(*rest);
   ScanFile(in, this, true, *rest);
@@ -265,6 +261,11 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   ReserveHuge(items, expected);
   if (load.findings != nullptr) ReserveHuge(places, expected);
   idToIndex.Reserve(expected);
+}
+
+// Notes where a load with a report stops. A load that is cancelled stops at no fault of the file.
+void IfcServer::NoteFailure(const SourcePlace& place) {
+  if (load.findings != nullptr && !load.isStopped) report.failure = place;
 }
 
 // Called once for each block of the file. Checks the memory and reports the progress.

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <string>
 #include <tuple>
 
@@ -42,6 +43,11 @@ struct LoadReport {
 
   /// What is wrong in the file, with the first places of each kind.
   LoadFindings findings;
+
+  /// The statement at which a load that failed has stopped: the first one of a file that is not a
+  /// STEP file, that of an unknown schema, or the one that exceeds a limit. None if the model was
+  /// loaded, or if the place is not known.
+  std::optional<SourcePlace> failure;
 
   /// True if the last call of CheckModel found that the source has changed since the load.
   bool hasSourceChanged = false;

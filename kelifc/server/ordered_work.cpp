@@ -35,6 +35,7 @@ void OrderedWork::StartThreads(unsigned count) {
   }
 }
 
+// Ends the other threads.
 void OrderedWork::Stop() {
   {
     const std::lock_guard lock(mutex);

@@ -46,9 +46,6 @@ class OrderedWork {
   /// are.
   virtual bool Merge(std::size_t slot) = 0;
 
-  /// Ends the other threads. Each derived class calls it in its destructor.
-  void Stop();
-
  private:
   struct Slot {
     bool isDone = false;
@@ -56,6 +53,7 @@ class OrderedWork {
   };
 
   void StartThreads(unsigned count);
+  void Stop();
   void RunThread();
   bool Claim(std::size_t& slot);
   void WorkOn(std::size_t slot);
@@ -67,7 +65,7 @@ class OrderedWork {
   std::vector<Slot> slots;
   std::size_t filled = 0;  // pieces that were filled, and that were merged
   std::size_t merged = 0;
-  bool hasEnded = false;   // there is no further piece
+  bool hasEnded = false;  // there is no further piece
   bool isStopped = false;
   std::uint64_t arenaBytes = 0;
   std::vector<std::thread> threads;

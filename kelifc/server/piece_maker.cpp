@@ -19,7 +19,8 @@ constexpr std::size_t kLongestCut = 4;
 
 // Returns the last position from `first` on where a statement probably ends, 0 if there is none.
 std::size_t FindCut(std::string_view text, std::size_t first) {
-  for (std::size_t at = text.rfind(';'); at != text.npos && at >= first; at = text.rfind(';', at - 1)) {
+  for (std::size_t at = text.rfind(';'); at != text.npos && at >= first;
+       at = text.rfind(';', at - 1)) {
     const std::size_t next = text.find_first_not_of("\r\n", at + 1);
     if (next != text.npos && text[next] == '#') return at + 1;
     if (at == 0) break;
@@ -37,11 +38,10 @@ PieceMaker::PieceMaker(IfcServer& model, std::istream& in, const SourcePosition&
       position(from),
       pieces(kSlotsPerThread * model.load.threads) {}
 
-PieceMaker::~PieceMaker() { Stop(); }
-
 std::optional<SourcePosition> PieceMaker::Make() {
   const bool isWhole = Run(server.load.threads);
   if (isWhole) server.load.isBeyondLimit = !server.IsWithinMemory();
+  if (server.load.isBeyondLimit && isWhole) server.NoteFailure({position.line, 1});
   return isWrong ? std::optional(position) : std::nullopt;
 }
 
@@ -111,7 +111,8 @@ void PieceMaker::MakeStatement(Piece& piece, const AnyScanner& scanner, char* te
   const Assignment assignment = CutAssignment(text);
   if (assignment.number == 0) return;
   piece.statements.push_back(server.MakeStatement(assignment.number, assignment.text, scanner));
-  if (piece.statements.back().made == nullptr) piece.dropped.push_back(EntityNameAt(assignment.text));
+  if (piece.statements.back().made == nullptr)
+    piece.dropped.push_back(EntityNameAt(assignment.text));
 }
 
 bool PieceMaker::Merge(std::size_t slot) {
@@ -121,7 +122,9 @@ bool PieceMaker::Merge(std::size_t slot) {
   position = PlaceAfter(piece.end);
   server.load.cuts.push_back(position);
   server.load.threadBytes = GetArenaBytes();
-  return server.GoesOn(piece.ends);
+  if (server.GoesOn(piece.ends)) return true;
+  server.NoteFailure({position.line, 1});
+  return false;
 }
 
 // Registers the instances of a piece. Returns false if the model then has too many.
@@ -130,10 +133,13 @@ bool PieceMaker::Register(Piece& piece) {
   auto text = piece.dropped.begin();
   for (MadeStatement& statement : piece.statements) {
     MoveToSource(piece, statement);
+    const SourcePlace place = {statement.place.line, statement.column};
     const bool isDropped = statement.made == nullptr;
     server.RegisterMade(std::move(statement), isDropped ? (text++)->c_str() : nullptr);
     server.load.isBeyondLimit = mostItems != 0 && server.items.size() > mostItems;
-    if (server.load.isBeyondLimit) return false;
+    if (!server.load.isBeyondLimit) continue;
+    server.NoteFailure(place);
+    return false;
   }
   return true;
 }
@@ -141,8 +147,7 @@ bool PieceMaker::Register(Piece& piece) {
 // The line and the column of a statement are counted from the begin of its piece.
 void PieceMaker::MoveToSource(const Piece& piece, MadeStatement& statement) const {
   if (statement.place.line == 1) {
-    statement.column +=
-        static_cast<std::uint32_t>(piece.source.begin.offset - position.lineStart);
+    statement.column += static_cast<std::uint32_t>(piece.source.begin.offset - position.lineStart);
   }
   const std::uint64_t line = position.line + statement.place.line - 1;
   statement.place.line = static_cast<std::uint32_t>(std::min<std::uint64_t>(line, UINT32_MAX));
@@ -151,7 +156,8 @@ void PieceMaker::MoveToSource(const Piece& piece, MadeStatement& statement) cons
 // Returns a position of the piece that begins at `position`, with the lines of the source.
 SourcePosition PieceMaker::PlaceAfter(const SourcePosition& end) const {
   const bool isFirstLine = end.line == 1;
-  return {end.offset, position.line + end.line - 1, isFirstLine ? position.lineStart : end.lineStart};
+  return {end.offset, position.line + end.line - 1,
+          isFirstLine ? position.lineStart : end.lineStart};
 }
 
 }  // namespace KelIFC

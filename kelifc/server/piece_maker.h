@@ -33,7 +33,6 @@ class PieceMaker : private OrderedWork {
   /// Reads `in`, whose next byte has the position `from`, after a statement. The model and the
   /// stream must outlive the maker.
   PieceMaker(IfcServer& model, std::istream& in, const SourcePosition& from);
-  ~PieceMaker() override;
 
   /// Registers the instances of the source, up to its end or to the first wrong cut. Returns the
   /// position from which the rest has to be read, nothing if there is no rest or if the load is

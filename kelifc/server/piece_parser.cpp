@@ -17,14 +17,13 @@
 namespace KelIFC {
 
 PieceParser::PieceParser(IfcServer& model, std::istream& in)
-    : server(model), source(in), blockSize(GetBlockSize()), pieces(kSlotsPerThread * model.load.threads) {}
-
-PieceParser::~PieceParser() { Stop(); }
+    : server(model),
+      source(in),
+      blockSize(GetBlockSize()),
+      pieces(kSlotsPerThread * model.load.threads) {}
 
 void PieceParser::Parse() {
-  if (!Run(server.load.threads)) return;
-  server.load.isBeyondLimit = !server.IsWithinMemory();
-  if (!server.load.isBeyondLimit) Extend();
+  if (Run(server.load.threads)) Extend();
 }
 
 // A cut can be at the end of a statement that has no `;`. A scanner finds this end only together
@@ -83,7 +82,8 @@ void PieceParser::ParseStatements(Piece& piece, AnyScanner& scanner, IsoStatemen
     IfcUnknown* const instance = server.FindStated(assignment.number, scanner.GetBeginOffset());
     if (instance == nullptr) continue;
     piece.number = assignment.number;
-    piece.work.SetStatement(instance, assignment.number);
+    const SourcePlace place = scanner.GetPlace();
+    piece.work.SetStatement({instance, assignment.number, place.line, place.column});
     const char* const text = assignment.text;
     instance->Parse(reader == nullptr ? text : reader->Read(text, scanner.GetTextEnd()));
   }
@@ -95,36 +95,44 @@ bool PieceParser::Merge(std::size_t slot) {
   IfcServer::LoadState& load = server.load;
   load.findings->Append(std::move(piece.findings));
   if (load.origin != nullptr) load.origin->replacedIds.merge(piece.ids);
-  DoWork(piece.work.links);
+  for (PostponedWork::Task& task : piece.work.links) Do(task);
   std::move(piece.work.extensions.begin(), piece.work.extensions.end(),
             std::back_inserter(extensions));
   load.statementBytes += piece.statementBytes;
   load.threadBytes = load.threadBytesBefore + GetArenaBytes();
-  load.isBeyondLimit = HasTooMany(server.items.size() + extensions.size());
-  return !load.isBeyondLimit && server.GoesOn(piece.ends);
+  if (!IsWithinLimit()) return false;
+  if (server.GoesOn(piece.ends)) return true;
+  server.NoteFailure({piece.source.begin.line, 1});
+  return false;
 }
 
-void PieceParser::DoWork(std::vector<PostponedWork::Task>& tasks) {
+void PieceParser::Do(PostponedWork::Task& task) {
   IfcServer::LoadState& load = server.load;
-  for (PostponedWork::Task& task : tasks) {
-    load.parsed = task.instance;
-    load.parsedNumber = task.number;
-    task.Run();
-  }
+  load.parsed = task.statement.instance;
+  load.parsedNumber = task.statement.number;
+  task.Run();
   load.parsed = nullptr;
+}
+
+// Each extension adds an instance.
+bool PieceParser::IsWithinLimit() {
+  const std::uint64_t most = server.load.limits.maxInstances;
+  if (most == 0 || server.items.size() + extensions.size() <= most) return true;
+  const auto first = static_cast<std::size_t>(most - server.items.size());
+  const PostponedWork::Statement& statement = extensions[first].statement;
+  server.load.isBeyondLimit = true;
+  server.NoteFailure({statement.line, statement.column});
+  return false;
 }
 
 // Adds the instances that classes add. All threads have ended.
 void PieceParser::Extend() {
-  server.load.isPostponed = true;
-  DoWork(extensions);
-  server.load.isPostponed = false;
-  server.load.isBeyondLimit = HasTooMany(server.items.size()) || !server.IsWithinMemory();
-}
-
-bool PieceParser::HasTooMany(std::size_t instances) const {
-  const std::uint64_t most = server.load.limits.maxInstances;
-  return most != 0 && instances > most;
+  IfcServer::LoadState& load = server.load;
+  load.isPostponed = true;
+  for (PostponedWork::Task& task : extensions) Do(task);
+  load.isPostponed = false;
+  load.isBeyondLimit = !server.IsWithinMemory();
+  if (load.isBeyondLimit) server.NoteFailure({load.cuts.back().line, 1});
 }
 
 }  // namespace KelIFC

@@ -25,7 +25,6 @@ class PieceParser : private OrderedWork {
  public:
   /// Reads `in` from its begin. Both must outlive the parser.
   PieceParser(IfcServer& model, std::istream& in);
-  ~PieceParser() override;
 
   /// Parses all statements. Ends early if the load is stopped or a limit is reached.
   void Parse();
@@ -47,9 +46,9 @@ class PieceParser : private OrderedWork {
   void ParseIso(Piece& piece);
   template <class AnyScanner>
   void ParseStatements(Piece& piece, AnyScanner& scanner, IsoStatementReader* reader);
-  void DoWork(std::vector<PostponedWork::Task>& tasks);
+  void Do(PostponedWork::Task& task);
+  bool IsWithinLimit();
   void Extend();
-  bool HasTooMany(std::size_t instances) const;
 
   IfcServer& server;
   std::istream& source;

@@ -16,6 +16,7 @@
 #include "kelifc/server/file_output.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
+#include "kelifc/server/progress_steps.h"
 #include "kelifc/server/schema_table.h"
 #include "kelifc/server/text_stream.h"
 
@@ -25,6 +26,9 @@ namespace {
 // The results of SaveIfcFile.
 constexpr int kSaved = 0;
 constexpr int kCannotCreate = 1;
+
+// The progress is reported once for so many instances.
+constexpr std::uint64_t kReportedInstances = 4096;
 
 // The header is the same for all models except for its three fields. The file name is written
 // without any change.
@@ -66,7 +70,8 @@ int IfcServer::SaveIfcFile(const char* path) {
   if (schema.empty()) return TellError(place + "the model has no release to be saved in");
   FileOutput file(path);
   if (!file.IsOpen()) return TellError(place + GetLastSystemError());
-  WriteModel(file.GetStream(), GetFileName(path), schema);
+  ProgressSteps unreported;
+  WriteModel(file.GetStream(), GetFileName(path), schema, unreported);
   if (!file.Close()) {
     TellError(place + DescribeFailure(file));
   } else if (!FileExists(path)) {
@@ -97,7 +102,7 @@ int IfcServer::SaveModel(const char* path, std::string_view schema, const SaveOp
                          std::string& reason) {
   std::optional<FaithfulSave> faithful;
   if (options.faithful) {
-    const int result = faithful.emplace(*this).Prepare(reason);
+    const int result = faithful.emplace(*this, options.progress).Prepare(reason);
     if (result != SAVE_RESULT_SAVED) return result;
   }
   FileReplacement target(path);
@@ -111,7 +116,10 @@ int IfcServer::SaveModel(const char* path, std::string_view schema, const SaveOp
     const int result = faithful->Write(file.GetStream(), GetFileName(path), reason);
     if (result != SAVE_RESULT_SAVED) return result;
   } else {
-    WriteModel(file.GetStream(), GetFileName(path), schema);
+    ProgressSteps progress(options.progress, GetNumberCount(), kReportedInstances);
+    WriteModel(file.GetStream(), GetFileName(path), schema, progress);
+    reason = "the save was cancelled";
+    if (progress.IsStopped()) return SAVE_RESULT_CANCELLED;
   }
   if (!file.Close()) {
     reason = DescribeFailure(file);
@@ -122,22 +130,24 @@ int IfcServer::SaveModel(const char* path, std::string_view schema, const SaveOp
   return SAVE_RESULT_CANNOT_WRITE;
 }
 
-void IfcServer::WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema) {
+void IfcServer::WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema,
+                           ProgressSteps& progress) {
   WriteHeader(out, GetHeaderText(fileName, dialect), schema);
-  WriteInstances(out);
+  WriteInstances(out, progress);
   detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
 }
 
 // Writes the instances in batches. If the numbers of a file are not in order, each step from a
 // number to its instance waits for memory. The memory for a whole batch is prefetched, so that
 // these times overlap.
-void IfcServer::WriteInstances(std::ostream& out) {
+void IfcServer::WriteInstances(std::ostream& out, ProgressSteps& progress) {
   constexpr std::size_t kBatch = 32;
   constexpr std::size_t kWritten = 256;  // bytes of an instance that are prefetched
   std::array<std::uint64_t, kBatch> batch = {};
   TextStream statement;
   std::uint64_t last = 0;
-  for (std::size_t count = kBatch; count == kBatch;) {
+  std::uint64_t written = 0;
+  for (std::size_t count = kBatch; count == kBatch && progress.Reach(written);) {
     count = 0;
     while (count < kBatch && (last = idToIndex.GetNext(last)) != 0) {
       detail::Prefetch(&items[idToIndex.Find(last)]);
@@ -156,7 +166,9 @@ void IfcServer::WriteInstances(std::ostream& out) {
         WriteIsoStatement(out, statement.GetText());
       }
     }
+    written += count;
   }
+  progress.Reach(written);
 }
 
 void IfcServer::WriteInstance(std::ostream& out, std::uint64_t number) {

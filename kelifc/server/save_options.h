@@ -3,6 +3,8 @@
 
 #include <cstdint>
 
+#include "kelifc/server/progress_handler.h"
+
 namespace KelIFC {
 
 /// The result of IfcServer::SaveIfc, which returns it as an int. The numbers are fixed.
@@ -12,6 +14,7 @@ enum SAVE_RESULT : std::int32_t {
   SAVE_RESULT_NO_RELEASE = 2,      ///< the model has no release to be saved in
   SAVE_RESULT_NO_SOURCE = 3,       ///< a faithful save has no source, or cannot read it
   SAVE_RESULT_SOURCE_CHANGED = 4,  ///< the source is not what it was when the model was loaded
+  SAVE_RESULT_CANCELLED = 5,       ///< the progress handler stopped the save
 };
 
 /// How IfcServer::SaveIfc writes a model.
@@ -29,6 +32,11 @@ struct SaveOptions {
   ///  of
   ///    ISO 10303-21. The source is read again, and must still have the same bytes.
   bool faithful = false;
+
+  /// Receives the progress of the save: the instances that are written, or in a faithful save the
+  /// bytes of the source that were read in two passes. If it returns false, the result is
+  /// SAVE_RESULT_CANCELLED.
+  ProgressHandler progress = {};
 };
 
 }  // namespace KelIFC

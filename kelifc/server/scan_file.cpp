@@ -40,19 +40,22 @@ void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {
     scanner.SetLimit(longest);
     if (load.order.IsLost()) server.idToIndex.PrefetchNumber(scanner.PeekNumber());
     load.isBeyondLimit = scanner.GetLength() > longest;
-    if (load.isBeyondLimit) return;
-    if (handle(&server, statement) != 0) {
+    if (load.isBeyondLimit) return server.NoteFailure(scanner.GetPlace());
+    const std::int16_t outcome = handle(&server, statement);
+    if (outcome == kReleaseFound) {
       load.stoppedAt = scanner.GetEndPosition();
       return;
     }
+    if (outcome != 0) return server.NoteFailure(scanner.GetPlace());
     load.isBeyondLimit = server.items.size() > mostItems;
-    if (load.isBeyondLimit) return;
+    if (load.isBeyondLimit) return server.NoteFailure(scanner.GetPlace());
     load.statementBytes += scanner.GetLength();
     if (scanner.GetBytesRead() == load.bytesReported) continue;
     if (firstPass && load.threads > 1) load.cuts.push_back(scanner.GetEndPosition());
-    if (!server.GoesOn(scanner.GetBytesRead())) return;
+    if (!server.GoesOn(scanner.GetBytesRead())) return server.NoteFailure(scanner.GetPlace());
   }
   load.isBeyondLimit = (scanner.IsBeyondLimit() && server.headerSeen) || !server.IsWithinMemory();
+  if (load.isBeyondLimit) server.NoteFailure(scanner.GetPlace());
 }
 
 void ScanFile(std::istream& in, IfcServer* server, bool firstPass, const SourcePosition& from) {

@@ -23,9 +23,6 @@ namespace {
 
 constexpr std::string_view kHead = "ISO-10303-21";
 
-// The result of RegisterStatement after which several threads read the file.
-constexpr std::int16_t kReleaseFound = 3;
-
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
 // Reads the left side of a statement in its usual form: `#`, up to nine digits and the `=`, with

@@ -7,8 +7,8 @@ class Error(Exception):
     """The base of all exceptions that concern a file.
 
     `path` is the file as the caller named it; it is empty for a model without a file. `reason` is
-    one line of text. `place` is the line and the column in the file, from 1, or None if they are not
-    known.
+    one line of text. `place` is the line and the column of the statement at fault, from 1, or None
+    if the fault is in no statement.
     """
 
     path: str
@@ -38,8 +38,8 @@ class UnsupportedReleaseError(OpenError):
     """The schema of the file is of a later release."""
 
 
-class CancelledError(OpenError):
-    """The progress function returned False."""
+class CancelledError(Error):
+    """The progress function returned False. A file that existed before did not change."""
 
 
 class SaveError(Error):

@@ -5,24 +5,42 @@
 #include <functional>
 #include <new>
 #include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "python/source/errors.h"
 #include "python/source/instance.h"
+#include "python/source/inverse.h"
 #include "python/source/values.h"
 
 namespace KelIFC::python {
 namespace {
 
+/// What a name means for the instances of an entity. Both members are null if it means nothing.
+struct NamedAttribute {
+  const AttributeDescription* stated = nullptr;  ///< an attribute that a statement has
+  const InverseAttribute* inverse = nullptr;
+};
+
+/// Finds the attribute of an entity with exactly this name.
+NamedAttribute FindNamed(const EntityDescription& entity, std::string_view name) {
+  const AttributeDescription* const attribute = entity.FindAttribute(name);
+  const bool isStated = attribute != nullptr && attribute->name == name &&
+                        attribute->position != AttributeDescription::kNoPosition;
+  if (isStated) return {attribute, nullptr};
+  const InverseAttribute* const inverse = entity.FindInverse(name);
+  return {nullptr, inverse != nullptr && inverse->name == name ? inverse : nullptr};
+}
+
 /// Finds the attribute of a name by the address of the name. The interpreter keeps one object for
 /// each name in a source, and this keeps the object alive.
 class AttributeNames {
  public:
-  const AttributeDescription* Find(const EntityDescription& entity, PyObject* name) {
+  NamedAttribute Find(const EntityDescription& entity, PyObject* name) {
     const Key key{&entity, name};
     const auto found = attributes.find(key);
     if (found != attributes.end()) return found->second;
-    const AttributeDescription* const attribute = FindAttribute(entity, TextIn(name));
+    const NamedAttribute attribute = FindNamed(entity, TextIn(name));
     if (PyUnicode_CHECK_INTERNED(name) != 0 && attributes.size() < kMostNames) {
       Py_INCREF(name);
       attributes.emplace(key, attribute);
@@ -50,7 +68,7 @@ class AttributeNames {
   };
   static constexpr std::size_t kMostNames = 100'000;  // a script can make up names
 
-  std::unordered_map<Key, const AttributeDescription*, Hash> attributes;
+  std::unordered_map<Key, NamedAttribute, Hash> attributes;
 };
 
 /// Never destroyed: the interpreter may be gone when static objects are destroyed.
@@ -72,18 +90,19 @@ const Instance& InstanceIn(PyObject* self) {
   return *static_cast<const Instance*>(value);
 }
 
-const AttributeDescription& AttributeOf(const Instance& instance, PyObject* name) {
+/// Returns what a name means. Raises AttributeError if it means nothing.
+NamedAttribute AttributeOf(const Instance& instance, PyObject* name) {
   const EntityDescription* const entity = instance.GetEntity();
   if (entity == nullptr) {
     Raise(PyExc_AttributeError, "the release does not have " + instance.EntityName() +
                                     "; its attributes can be used by position, such as [0]");
   }
-  const AttributeDescription* const attribute = Names().Find(*entity, name);
-  if (attribute == nullptr) {
+  const NamedAttribute attribute = Names().Find(*entity, name);
+  if (attribute.stated == nullptr && attribute.inverse == nullptr) {
     Raise(PyExc_AttributeError, std::string(entity->name) + " has no attribute '" +
                                     std::string(AttributeNames::TextIn(name)) + "'");
   }
-  return *attribute;
+  return attribute;
 }
 
 /// Calls `work` and turns an exception of C++ into one of Python, with `failure` as the result.
@@ -107,9 +126,10 @@ extern "C" PyObject* GetAttribute(PyObject* self, PyObject* name) {
       [&]() -> PyObject* {
         const Instance& instance = InstanceIn(self);
         IfcUnknown& item = instance.Get();
-        const AttributeDescription& attribute = AttributeOf(instance, name);
-        if (attribute.read == nullptr) Py_RETURN_NONE;
-        return ValueToPython(instance.GetModel(), attribute.read(item)).release().ptr();
+        const auto [stated, inverse] = AttributeOf(instance, name);
+        if (stated == nullptr) return InverseOf(instance, *inverse).release().ptr();
+        if (stated->read == nullptr) Py_RETURN_NONE;
+        return ValueToPython(instance.GetModel(), stated->read(item)).release().ptr();
       },
       static_cast<PyObject*>(nullptr));
 }
@@ -120,8 +140,12 @@ extern "C" int SetAttribute(PyObject* self, PyObject* name, PyObject* value) {
       [&] {
         const Instance& instance = InstanceIn(self);
         instance.Get();
-        const AttributeDescription& attribute = AttributeOf(instance, name);
-        SetValue(instance, static_cast<std::size_t>(attribute.position),
+        const AttributeDescription* const stated = AttributeOf(instance, name).stated;
+        if (stated == nullptr) {
+          Raise(PyExc_AttributeError, std::string(AttributeNames::TextIn(name)) +
+                                          " is an inverse attribute and cannot be set");
+        }
+        SetValue(instance, static_cast<std::size_t>(stated->position),
                  value == nullptr ? Py_None : value);
         return 0;
       },
@@ -133,12 +157,6 @@ extern "C" int SetAttribute(PyObject* self, PyObject* name, PyObject* value) {
 void UseAttributesOfEntities(PyHeapTypeObject* type) {
   type->ht_type.tp_getattro = GetAttribute;
   type->ht_type.tp_setattro = SetAttribute;
-}
-
-const AttributeDescription* FindAttribute(const EntityDescription& entity, std::string_view name) {
-  const AttributeDescription* const attribute = entity.FindAttribute(name);
-  if (attribute == nullptr || attribute->name != name) return nullptr;
-  return attribute->position == AttributeDescription::kNoPosition ? nullptr : attribute;
 }
 
 }  // namespace KelIFC::python

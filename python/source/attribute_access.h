@@ -3,10 +3,6 @@
 
 #include <pybind11/pybind11.h>
 
-#include <string_view>
-
-#include "kelifc/kelifc.h"
-
 namespace KelIFC::python {
 
 namespace py = pybind11;
@@ -15,9 +11,6 @@ namespace py = pybind11;
 /// attributes begin with a capital letter, and names of operations do not, so one look at the name
 /// decides. This is faster than `__getattr__`, which is called after a normal search has failed.
 void UseAttributesOfEntities(PyHeapTypeObject* type);
-
-/// The attribute of an entity with exactly this name that a statement holds, or null.
-const AttributeDescription* FindAttribute(const EntityDescription& entity, std::string_view name);
 
 }  // namespace KelIFC::python
 

@@ -11,22 +11,16 @@
 namespace KelIFC::python {
 
 template <>
-struct Described<ExportOmission> {
-  static constexpr const char* kName = "ExportOmission";
-  static constexpr const char* kDoc = "A kind of information that a format cannot hold.";
-  static constexpr auto kFields =
-      std::tuple{Field{"what", &ExportOmission::what, "Such as 'elements without a solid'."},
-                 Field{"count", &ExportOmission::count, "How often it was left out."}};
-};
+inline constexpr auto kDescribed<ExportOmission> =
+    Describe("ExportOmission", "A kind of information that a format cannot hold.",
+             Field{"what", &ExportOmission::what, "Such as 'elements without a solid'."},
+             Field{"count", &ExportOmission::count, "How often it was left out."});
 
 template <>
-struct Described<ExportResult> {
-  static constexpr const char* kName = "ExportResult";
-  static constexpr const char* kDoc = "What an export wrote.";
-  static constexpr auto kFields =
-      std::tuple{Field{"elements", &ExportResult::elements, "How many elements the output holds."},
-                 Field{"omissions", &ExportResult::omissions, "What the format cannot hold."}};
-};
+inline constexpr auto kDescribed<ExportResult> =
+    Describe("ExportResult", "What an export wrote.",
+             Field{"elements", &ExportResult::elements, "How many elements the output holds."},
+             Field{"omissions", &ExportResult::omissions, "What the format cannot hold."});
 
 namespace {
 

@@ -1,10 +1,13 @@
 #include <deque>
+#include <string>
 #include <unordered_map>
+#include <vector>
 
 #include "python/source/attribute_access.h"
 #include "python/source/bindings.h"
 #include "python/source/errors.h"
 #include "python/source/instance.h"
+#include "python/source/inverse.h"
 #include "python/source/to_python.h"
 #include "python/source/values.h"
 
@@ -42,6 +45,16 @@ py::tuple AttributeNamesOf(const Instance& instance) {
   py::tuple names(SizeOf(instance));
   for (std::size_t i = 0; i < names.size(); ++i) names[i] = NameAt(instance, i);
   return names;
+}
+
+py::tuple InverseNames(const Instance& instance) {
+  instance.Get();
+  const EntityDescription* const entity = instance.GetEntity();
+  if (entity == nullptr) return py::tuple();
+  const std::vector<std::string> names = InverseNamesOf(*entity);
+  py::tuple result(names.size());
+  for (std::size_t i = 0; i < names.size(); ++i) result[i] = ToText(names[i]);
+  return result;
 }
 
 /// The dictionaries of instances and of what they refer to. Each instance has one dictionary, so a
@@ -119,8 +132,9 @@ std::size_t HashOf(const Instance& instance) {
 py::list DirectoryOf(const py::object& self) {
   auto names =
       py::cast<py::list>(py::module_::import("builtins").attr("object").attr("__dir__")(self));
-  for (const py::handle name : AttributeNamesOf(py::cast<const Instance&>(self)))
-    names.append(name);
+  const auto& instance = py::cast<const Instance&>(self);
+  for (const py::handle name : AttributeNamesOf(instance)) names.append(name);
+  for (const py::handle name : InverseNames(instance)) names.append(name);
   return names;
 }
 
@@ -137,6 +151,9 @@ constexpr const char* kDoc =
     "References are instances, lists are tuples, enumerators are str, and an unset attribute is\n"
     "None. Inline typed values are TypedValue objects. Attributes can also be used by position:\n"
     "`wall[2]`. This is the only way for an entity that the release does not know.\n"
+    "Inverse attributes, such as `wall.HasOpenings`, are tuples of the instances that refer to "
+    "the\n"
+    "instance, in the order of the file. They follow each change of the model and cannot be set.\n"
     "\n"
     "An instance keeps its model alive. If it was removed from the model, every use raises\n"
     "ReferenceError. Setting an attribute raises TypeError or ValueError if the value does not "
@@ -163,9 +180,12 @@ void BindInstance(py::module_& module) {
   type.def_property_readonly("model", &Instance::GetModel, "The model of the instance.");
   type.def_property_readonly("attribute_names", &AttributeNamesOf,
                              "The names of the attributes, in the order of the statement.");
+  type.def_property_readonly("inverse_names", &InverseNames,
+                             "The names of the inverse attributes, such as 'HasOpenings'.");
   py::dict annotations;
   annotations["model"] = "Model";
   annotations["attribute_names"] = "tuple[str, ...]";
+  annotations["inverse_names"] = "tuple[str, ...]";
   type.attr("__annotations__") = annotations;
   type.def("__len__", &SizeOf, "__len__() -> int");
   type.def("__getitem__", &GetItem, "__getitem__(position: int) -> Any");

@@ -10,6 +10,7 @@
 #include "python/source/errors.h"
 #include "python/source/instance.h"
 #include "python/source/model.h"
+#include "python/source/progress.h"
 #include "python/source/report.h"
 #include "python/source/structure_fields.h"
 #include "python/source/values.h"
@@ -49,7 +50,7 @@ Shared OpenPath(const std::string& path, const std::string& dialect, const LoadL
     std::string reason = failure.what();
     if (reason.rfind(path + ": ", 0) == 0) reason.erase(0, path.size() + 2);
     const bool isMissing = failure.GetStatus() == command::Status::kMissing;
-    RaiseOpenError(path, reason, isMissing ? "NotBuiltError" : "OpenError");
+    RaiseFileError(isMissing ? "NotBuiltError" : "OpenError", path, reason);
   }
   return std::make_shared<Model>(std::move(source), path, options, progress);
 }
@@ -148,8 +149,10 @@ py::list Referrers(const Shared& model, const Instance& instance) {
   py::list list;
   if (instance.GetModel() != model)
     Raise(PyExc_ValueError, "the instance belongs to another model");
-  for (const std::size_t number : model->ReferencesTo(instance.GetNumber())) {
-    list.append(py::cast(Instance(model, number)));
+  std::size_t last = 0;  // an instance can refer in several attributes
+  for (const Model::Reference& reference : model->ReferencesTo(instance.GetNumber())) {
+    if (reference.number != last) list.append(py::cast(Instance(model, reference.number)));
+    last = reference.number;
   }
   return list;
 }
@@ -187,20 +190,25 @@ void Remove(const Shared& model, const Instance& instance) {
   model->Remove(instance.GetNumber());
 }
 
-void Save(const Shared& model, const py::object& path, bool faithful) {
+void Save(const Shared& model, const py::object& path, bool faithful, const py::object& function) {
   const auto name = py::cast<std::string>(py::module_::import("os").attr("fsdecode")(path));
+  Progress progress(function);
   IfcServer& server = model->Server();
-  std::string reason;
-  server.SetErrorHandler([&reason](const std::string& message) { reason = message; });
+  // The server keeps the handler.
+  const auto told = std::make_shared<std::string>();
+  server.SetErrorHandler([told](const std::string& message) { *told = message; });
   int code = SAVE_RESULT_SAVED;
   {
     const Model::Use use(*model);
     SaveOptions options;
     options.faithful = faithful;
+    options.progress = progress.GetHandler();
     code = server.SaveIfc(name.c_str(), options);
   }
-  server.SetErrorHandler(nullptr);
+  progress.RethrowIfFailed();
+  std::string reason = *told;
   if (reason.rfind(name + ": ", 0) == 0) reason.erase(0, name.size() + 2);
+  if (code == SAVE_RESULT_CANCELLED) RaiseFileError("CancelledError", name, reason);
   if (code != SAVE_RESULT_SAVED) RaiseFileError("SaveError", name, reason);
 }
 
@@ -211,16 +219,29 @@ void RequireConvertible(const Shared& model) {
                  std::string("release ") + command::ReleaseText(release) + " cannot be converted");
 }
 
-View<command::Structure> ReadStructure(const Shared& model) {
-  RequireConvertible(model);
-  const auto structure = std::make_shared<command::Structure>();
-  const IFC_RELEASE release = model->Server().GetRelease();
+/// Calls `convert` with the interpreter lock released. `function` is the progress function.
+template <class Convert>
+void ConvertWithProgress(const Shared& model, const py::object& function, Convert convert) {
+  Progress progress(function);
   try {
     const Model::Use use(*model);
-    *structure = command::ReadStructure(Get(model->Object(), &IIFCServer::get_Structure));
+    convert(progress.GetHandler());
+  } catch (const ReadingCancelled&) {
+    progress.RethrowIfFailed();
+    RaiseFileError("CancelledError", model->GetName(), "the conversion was cancelled");
   } catch (const StatusError& error) {
     RaiseFileError("ConversionError", model->GetName(), error.what());
   }
+}
+
+View<command::Structure> ReadStructure(const Shared& model, const py::object& progress) {
+  RequireConvertible(model);
+  const auto structure = std::make_shared<command::Structure>();
+  const IFC_RELEASE release = model->Server().GetRelease();
+  IIFCServer& object = model->Object();
+  ConvertWithProgress(model, progress, [&](const ProgressHandler& handler) {
+    *structure = command::ReadStructure(Get(object, &IIFCServer::get_Structure), handler);
+  });
   structure->release = command::ReleaseText(release);
   return {structure, structure.get()};
 }
@@ -233,7 +254,8 @@ KeptBodies KeptBodiesOf(const std::string& name) {
 }
 
 View<Building> ReadPyBuilding(const Shared& model, const std::string& meshes, std::size_t maxPoints,
-                              std::size_t maxBodyPoints, std::size_t maxDepth) {
+                              std::size_t maxBodyPoints, std::size_t maxDepth,
+                              const py::object& progress) {
   RequireConvertible(model);
   ReadingOptions options;
   options.keptBodies = KeptBodiesOf(meshes);
@@ -242,10 +264,10 @@ View<Building> ReadPyBuilding(const Shared& model, const std::string& meshes, st
   options.maxDepth = maxDepth;
   const auto building = std::make_shared<Building>();
   IfcServer& server = model->Server();
-  {
-    const Model::Use use(*model);
+  ConvertWithProgress(model, progress, [&](const ProgressHandler& handler) {
+    options.progress = handler;
     *building = ReadBuilding(server, options);
-  }
+  });
   return {building, building.get()};
 }
 
@@ -265,8 +287,9 @@ View<Report> Check(const Shared& model) {
   }
   if (!isComplete) {
     const bool hasChanged = server.GetLoadReport().hasSourceChanged;
-    RaiseOpenError(model->GetName(), hasChanged ? "the file changed after the load"
-                                                : "the source cannot be read again");
+    RaiseFileError(
+        "OpenError", model->GetName(),
+        hasChanged ? "the file changed after the load" : "the source cannot be read again");
   }
   return ReportOf(model);
 }
@@ -376,13 +399,18 @@ void DefineChanges(ModelClass& type) {
 
 void DefineFiles(ModelClass& type) {
   const char* const saveDoc =
-      "(path: StrPath, faithful: bool = False) -> None\n\nWrites the model to a file. With "
-      "faithful, what did not change is copied from the source of the model. Raises SaveError, "
-      "and then the old file is as it was.";
+      "(path: StrPath, faithful: bool = False, *, progress: Callable[[int, int], object] | None = "
+      "None) -> None\n\nWrites the model to a file. With faithful, what did not change is copied "
+      "from the source of the model. `progress` is called with the work done and the work in "
+      "total: instances, or with faithful bytes of the source in two passes. If it returns False, "
+      "CancelledError is raised. Raises SaveError if the file cannot be written. After an "
+      "exception the old file is as it was.";
   static const std::string save = std::string("save") + saveDoc;
   static const std::string write = std::string("write") + saveDoc;
-  type.def("save", &Save, py::arg("path"), py::arg("faithful") = false, save.c_str());
-  type.def("write", &Save, py::arg("path"), py::arg("faithful") = false, write.c_str());
+  for (const auto& [name, doc] : {std::pair("save", &save), std::pair("write", &write)}) {
+    type.def(name, &Save, py::arg("path"), py::arg("faithful") = false, py::kw_only(),
+             py::arg("progress") = py::none(), doc->c_str());
+  }
   type.def("check", &Check,
            "check() -> Report\n\nLooks for references that lead nowhere and for values that cannot "
            "be read, and returns the complete report. Reads the file again. Raises OpenError if "
@@ -391,20 +419,25 @@ void DefineFiles(ModelClass& type) {
 
 void DefineConversions(ModelClass& type) {
   const ReadingOptions standard;
-  type.def("structure", &ReadStructure,
-           "structure() -> Structure\n\nConverts the model into a structure of storeys, columns, "
-           "beams, walls, plates, foots and sections. The model converts once: later changes of "
-           "instances do not change the structure. Raises ConversionError for the releases 1.5.1 "
-           "and 2.0.");
+  type.def("structure", &ReadStructure, py::kw_only(), py::arg("progress") = py::none(),
+           "structure(*, progress: Callable[[int, int], object] | None = None) -> Structure\n\n"
+           "Converts the model into a structure of storeys, columns, beams, walls, plates, foots "
+           "and sections. The model converts once: later changes of instances do not change the "
+           "structure. `progress` is called with the number of these collections that are done "
+           "and with 7. If it returns False, CancelledError is raised. Raises ConversionError for "
+           "the releases 1.5.1 and 2.0.");
   type.def(
       "building", &ReadPyBuilding, py::kw_only(), py::arg("meshes") = "bodies",
       py::arg("max_points") = standard.maxPoints,
       py::arg("max_body_points") = standard.maxBodyPoints, py::arg("max_depth") = standard.maxDepth,
+      py::arg("progress") = py::none(),
       "building(*, meshes: str = 'bodies', max_points: int = ..., max_body_points: int = ..., "
-      "max_depth: int = ...) -> Building\n\nReads all structural elements. `meshes` says which "
-      "elements keep the boundary of their body: 'none', 'bodies' (those of the kind body) or "
-      "'all'. An element with more points, or deeper nesting, than the limits becomes a loss. "
-      "Raises ConversionError for the releases 1.5.1 and 2.0.");
+      "max_depth: int = ..., progress: Callable[[int, int], object] | None = None) -> Building\n\n"
+      "Reads all structural elements. `meshes` says which elements keep the boundary of their "
+      "body: 'none', 'bodies' (those of the kind body) or 'all'. An element with more points, or "
+      "deeper nesting, than the limits becomes a loss. `progress` is called with the steps done "
+      "and the steps in total, two for each product. If it returns False, CancelledError is "
+      "raised. Raises ConversionError for the releases 1.5.1 and 2.0.");
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ py::str RepresentationOf(const View<T>& view) {
                          py::isinstance<py::int_>(value);
     if (isShort) parts.append(py::str("{}={!r}").format(field.name, value));
   });
-  return py::str("{}({})").format(Described<T>::kName, py::str(", ").attr("join")(parts));
+  return py::str("{}({})").format(kDescribed<T>.name, py::str(", ").attr("join")(parts));
 }
 
 template <class T>
@@ -57,7 +57,7 @@ py::dict DictionaryOf(const View<T>& view) {
 /// `to_dict`. The annotations of the class are the types of the members.
 template <class T>
 py::class_<View<T>> DefineClass(py::module_& module) {
-  py::class_<View<T>> type(module, Described<T>::kName, Described<T>::kDoc, py::is_final());
+  py::class_<View<T>> type(module, kDescribed<T>.name, kDescribed<T>.doc, py::is_final());
   py::dict annotations;
   ForEachField<T>([&](const auto& field) {
     type.def_property_readonly(
@@ -84,8 +84,8 @@ py::class_<View<T>> DefineClass(py::module_& module) {
 /// Defines the sequence that lists of a structure become.
 template <class T>
 void DefineList(py::module_& module) {
-  const std::string name = std::string(Described<T>::kName) + "List";
-  const std::string doc = "A sequence of " + std::string(Described<T>::kName) + " objects.";
+  const std::string name = std::string(kDescribed<T>.name) + "List";
+  const std::string doc = "A sequence of " + std::string(kDescribed<T>.name) + " objects.";
   py::class_<ListView<T>> type(module, name.c_str(), doc.c_str(), py::is_final());
   const auto at = [](const ListView<T>& self, py::ssize_t index) {
     const auto size = static_cast<py::ssize_t>(self.items->size());
@@ -107,9 +107,9 @@ void DefineList(py::module_& module) {
     return chosen;
   });
   type.def("__repr__", [](const ListView<T>& self) {
-    return py::str("<{} {} objects>").format(self.items->size(), Described<T>::kName);
+    return py::str("<{} {} objects>").format(self.items->size(), kDescribed<T>.name);
   });
-  type.attr("item_type") = Described<T>::kName;
+  type.attr("item_type") = kDescribed<T>.name;
   py::module_::import("collections.abc").attr("Sequence").attr("register")(type);
 }
 

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <tuple>
+#include <type_traits>
 
 namespace KelIFC::python {
 
@@ -28,22 +29,36 @@ struct IdField {
 template <class T>
 IdField(const char*, std::size_t T::*, const char*) -> IdField<T>;
 
-/// The description of a structure, from which its Python class and its pickled form are made. Each
-/// specialisation has kName and kDoc, and a tuple of fields, kFields, with all members.
+/// The description of a structure, from which its Python class and its pickled form are made.
+template <class... Fields>
+struct Description {
+  const char* name;
+  const char* doc;
+  std::tuple<Fields...> fields;  ///< all members; their order is that of the pickled form
+};
+
+/// Makes a description of the name and the docstring of the class, and of its members.
+template <class... Fields>
+constexpr Description<Fields...> Describe(const char* name, const char* doc, Fields... fields) {
+  return {name, doc, std::tuple<Fields...>(fields...)};
+}
+
+/// The type of kDescribed for a type without a description.
+struct NotDescribed {};
+
+/// The description of a structure. Each structure has a specialisation.
 template <class T>
-struct Described;
+inline constexpr auto kDescribed = NotDescribed();
+
+/// True if a structure has a description.
+template <class T>
+inline constexpr bool kIsDescribed = !std::is_same_v<decltype(kDescribed<T>), const NotDescribed>;
 
 /// Calls `visit` with each field of a structure.
 template <class T, class Visit>
 void ForEachField(Visit visit) {
-  std::apply([&](const auto&... field) { (visit(field), ...); }, Described<T>::kFields);
+  std::apply([&](const auto&... field) { (visit(field), ...); }, kDescribed<T>.fields);
 }
-
-/// True if a structure has a description.
-template <class T>
-concept IsDescribed = requires {
-  Described<T>::kFields;
-};
 
 }  // namespace KelIFC::python
 

@@ -12,13 +12,12 @@ namespace {
 
 }  // namespace
 
-void RaiseOpenError(const std::string& path, const std::string& reason, const char* errorClass) {
-  RaiseFileError(errorClass, path, reason);
-}
-
-void RaiseFileError(const char* errorClass, const std::string& path, const std::string& reason) {
+void RaiseFileError(const char* errorClass, const std::string& path, const std::string& reason,
+                    const std::optional<SourcePlace>& place) {
   const py::object type = py::module_::import("kelifc.errors").attr(errorClass);
-  RaiseObject(type(ToText(path), ToText(reason)));
+  py::object where = py::none();
+  if (place) where = py::make_tuple(place->line, place->column);
+  RaiseObject(type(ToText(path), ToText(reason), where));
 }
 
 void Raise(PyObject* errorClass, const std::string& message) {

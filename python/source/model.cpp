@@ -81,9 +81,7 @@ void Model::LoadEmpty() {
 template <class Load>
 void Model::LoadBy(const py::object& function, Load load) {
   Progress progress(function);
-  ifc->SetProgressHandler([&progress](std::uint64_t done, std::uint64_t total) {
-    return progress.Report(done == total, done, total);
-  });
+  ifc->SetProgressHandler(progress.GetHandler());
   int code = LOAD_RESULT_LOADED;
   {
     const py::gil_scoped_release released;
@@ -91,21 +89,30 @@ void Model::LoadBy(const py::object& function, Load load) {
   }
   ifc->SetProgressHandler(nullptr);
   progress.RethrowIfFailed();
+  if (code != LOAD_RESULT_LOADED) RaiseLoadError(code);
+  emptySchema = ifc->GetFileSchema();
+}
+
+void Model::RaiseLoadError(int code) {
+  const auto raise = [this](const char* errorClass, const std::string& reason) {
+    RaiseFileError(errorClass, name, reason, ifc->GetLoadReport().failure);
+  };
+  const std::string cause = command::CauseOf(code, TextOf(ifc->GetFileSchema()));
   switch (code) {
-    case LOAD_RESULT_LOADED:
-      emptySchema = ifc->GetFileSchema();
-      return;
     case LOAD_RESULT_CANNOT_OPEN:
-      RaiseOpenError(name, "the file cannot be opened");
+      raise("OpenError", "the file cannot be opened");
+      break;
     case LOAD_RESULT_CANCELLED:
-      RaiseOpenError(name, "the load was cancelled", "CancelledError");
+      raise("CancelledError", "the load was cancelled");
+      break;
     case LOAD_RESULT_LIMIT_REACHED:
-      RaiseOpenError(name, command::CauseOf(code, {}), "LimitError");
+      raise("LimitError", cause);
+      break;
     case LOAD_RESULT_UNSUPPORTED_RELEASE:
-      RaiseOpenError(name, command::CauseOf(code, TextOf(ifc->GetFileSchema())),
-                     "UnsupportedReleaseError");
+      raise("UnsupportedReleaseError", cause);
+      break;
     default:
-      RaiseOpenError(name, command::CauseOf(code, TextOf(ifc->GetFileSchema())));
+      raise("OpenError", cause);
   }
 }
 
@@ -180,7 +187,7 @@ void Model::NoteGuid(std::size_t number) {
 }
 
 void Model::IndexReferences() {
-  referrers.clear();
+  references.clear();
   IfcServer& server = Server();
   for (std::size_t n = server.GetNextNumber(0); n != 0; n = server.GetNextNumber(n)) {
     const IfcUnknown* const item = server.GetItem(n);
@@ -188,25 +195,26 @@ void Model::IndexReferences() {
     const InstanceView view(*item);
     for (std::size_t i = 0; i < view.Size(); ++i) {
       VisitReferences(view[i], [&](std::size_t target) {
-        std::vector<std::size_t>& list = referrers[target];
-        if (list.empty() || list.back() != n) list.push_back(n);
+        std::vector<Reference>& list = references[target];
+        const Reference reference{n, i};
+        if (list.empty() || list.back() != reference) list.push_back(reference);
       });
     }
   }
   areReferencesKnown = true;
 }
 
-const std::vector<std::size_t>& Model::ReferencesTo(std::size_t number) {
-  static const std::vector<std::size_t> none;
+const std::vector<Model::Reference>& Model::ReferencesTo(std::size_t number) {
+  static const std::vector<Reference> none;
   if (!areReferencesKnown) IndexReferences();
-  const auto found = referrers.find(number);
-  return found == referrers.end() ? none : found->second;
+  const auto found = references.find(number);
+  return found == references.end() ? none : found->second;
 }
 
 std::string Model::TextOf(std::string_view text) { return command::Utf8FromModel(*ifc, text); }
 
 void Model::RaiseBusy() {
-  Raise(PyExc_RuntimeError, "another thread loads, saves or converts the model");
+  Raise(PyExc_RuntimeError, "the model is being loaded, saved or converted");
 }
 
 }  // namespace KelIFC::python

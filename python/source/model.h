@@ -103,8 +103,16 @@ class Model {
   /// Must be called after a reference has changed.
   void NoteReference() { areReferencesKnown = false; }
 
-  /// The numbers of the instances with a reference to an instance, in ascending order.
-  const std::vector<std::size_t>& ReferencesTo(std::size_t number);
+  /// A position of an instance that holds a reference.
+  struct Reference {
+    std::size_t number;    ///< of the instance that refers
+    std::size_t position;  ///< of its attribute in the statement, from 0
+    bool operator==(const Reference&) const = default;
+  };
+
+  /// The references to an instance by ascending numbers, each position once. The first call after a
+  /// reference has changed visits the whole model.
+  const std::vector<Reference>& ReferencesTo(std::size_t number);
 
   /// Text of the model as UTF-8.
   std::string TextOf(std::string_view text);
@@ -114,6 +122,7 @@ class Model {
  private:
   template <class Load>
   void LoadBy(const py::object& progress, Load load);
+  void RaiseLoadError(int code);
   void LoadEmpty();
   void IndexGuids();
   void IndexReferences();
@@ -131,7 +140,7 @@ class Model {
   bool isBusy = false;
   std::unordered_map<std::string, std::size_t> guids;
   bool areGuidsKnown = false;
-  std::unordered_map<std::size_t, std::vector<std::size_t>> referrers;
+  std::unordered_map<std::size_t, std::vector<Reference>> references;  // by their target
   bool areReferencesKnown = false;
 };
 

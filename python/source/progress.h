@@ -4,8 +4,11 @@
 #include <pybind11/pybind11.h>
 
 #include <chrono>
+#include <cstdint>
 #include <exception>
 #include <utility>
+
+#include "kelifc/kelifc.h"
 
 namespace KelIFC::python {
 
@@ -35,6 +38,13 @@ class Progress {
       failure = std::current_exception();
     }
     return !isCancelled && !failure;
+  }
+
+  /// Returns a handler that calls Report. It must not be called after this object is destroyed.
+  ProgressHandler GetHandler() {
+    return [this](std::uint64_t done, std::uint64_t total) {
+      return Report(done == total, done, total);
+    };
   }
 
   /// Throws the exception of the function, if there was one. The caller holds the interpreter lock.

@@ -61,44 +61,37 @@ struct ToPython<EntityCounts> {
 };
 
 template <>
-struct Described<EntityCounts> {
-  static constexpr auto kFields = std::tuple{Field{"counts", &EntityCounts::counts, ""}};
-};
+inline constexpr auto kDescribed<EntityCounts> =
+    Describe("", "", Field{"counts", &EntityCounts::counts, ""});
 
 template <>
-struct Described<Finding> {
-  static constexpr const char* kName = "Finding";
-  static constexpr const char* kDoc = "Something that is wrong in a file that was loaded.";
-  static constexpr auto kFields = std::tuple{
-      Field{"what", &Finding::what, "What is wrong, such as 'bad escape in a string'."},
-      Field{"line", &Finding::line, "The line in the file, from 1."},
-      Field{"column", &Finding::column, "The byte in the line, from 1."},
-      IdField{"number", &Finding::number, "The instance number, or None."},
-      Field{"entity", &Finding::entity, "The entity in upper case; empty if it is not known."},
-      Field{"attribute", &Finding::attribute,
-            "The attribute in the schema; empty if it is not known."}};
-};
+inline constexpr auto kDescribed<Finding> = Describe(
+    "Finding", "Something that is wrong in a file that was loaded.",
+    Field{"what", &Finding::what, "What is wrong, such as 'bad escape in a string'."},
+    Field{"line", &Finding::line, "The line in the file, from 1."},
+    Field{"column", &Finding::column, "The byte in the line, from 1."},
+    IdField{"number", &Finding::number, "The instance number, or None."},
+    Field{"entity", &Finding::entity, "The entity in upper case; empty if it is not known."},
+    Field{"attribute", &Finding::attribute,
+          "The attribute in the schema; empty if it is not known."});
 
 template <>
-struct Described<Report> {
-  static constexpr const char* kName = "Report";
-  static constexpr const char* kDoc =
-      "What a load met in the file: made + raw + dropped == numbers. `str` is the report for "
-      "people.";
-  static constexpr auto kFields = std::tuple{
-      Field{"statements", &Report::statements, "Numbered statements."},
-      Field{"numbers", &Report::numbers, "Different numbers of them."},
-      Field{"made", &Report::made, "Instances of the classes of the release."},
-      Field{"raw", &Report::raw, "Instances that are kept as raw text."},
-      Field{"dropped", &Report::dropped, "Numbers whose statements were left out."},
-      Field{"added", &Report::added, "Instances that the load added."},
-      Field{"raw_by_entity", &Report::rawByEntity, "The raw instances by their entity."},
-      Field{"dropped_by_entity", &Report::droppedByEntity, "The dropped numbers by their entity."},
-      Field{"findings", &Report::findings, "The first 100 findings of each kind."},
-      Field{"counts", &Report::counts, "How often each kind of finding occurs."},
-      Field{"is_checked", &Report::isChecked,
-            "True if Model.check has completed the report with references and values."}};
-};
+inline constexpr auto kDescribed<Report> = Describe(
+    "Report",
+    "What a load met in the file: made + raw + dropped == numbers. `str` is the report for "
+    "people.",
+    Field{"statements", &Report::statements, "Numbered statements."},
+    Field{"numbers", &Report::numbers, "Different numbers of them."},
+    Field{"made", &Report::made, "Instances of the classes of the release."},
+    Field{"raw", &Report::raw, "Instances that are kept as raw text."},
+    Field{"dropped", &Report::dropped, "Numbers whose statements were left out."},
+    Field{"added", &Report::added, "Instances that the load added."},
+    Field{"raw_by_entity", &Report::rawByEntity, "The raw instances by their entity."},
+    Field{"dropped_by_entity", &Report::droppedByEntity, "The dropped numbers by their entity."},
+    Field{"findings", &Report::findings, "The first 100 findings of each kind."},
+    Field{"counts", &Report::counts, "How often each kind of finding occurs."},
+    Field{"is_checked", &Report::isChecked,
+          "True if Model.check has completed the report with references and values."});
 
 }  // namespace KelIFC::python
 

@@ -33,7 +33,7 @@ py::array NumbersIn(const Owner& owner, const double* first, std::vector<py::ssi
 /// object. A structure with a description becomes a View of its class.
 template <class Value, class = void>
 struct ToPython {
-  static std::string Type() { return Described<Value>::kName; }
+  static std::string Type() { return kDescribed<Value>.name; }
   static py::object Of(const Value& value, const Owner& owner) {
     return py::cast(View<Value>{owner, &value});
   }
@@ -143,11 +143,11 @@ struct ToPython<std::vector<std::array<double, 3>>> : PointsToPython<std::array<
 template <class Item>
 struct ToPython<std::vector<Item>> {
   static std::string Type() {
-    if constexpr (IsDescribed<Item>) return std::string(Described<Item>::kName) + "List";
+    if constexpr (kIsDescribed<Item>) return std::string(kDescribed<Item>.name) + "List";
     return "tuple[" + ToPython<Item>::Type() + ", ...]";
   }
   static py::object Of(const std::vector<Item>& items, const Owner& owner) {
-    if constexpr (IsDescribed<Item>) {
+    if constexpr (kIsDescribed<Item>) {
       return py::cast(ListView<Item>{owner, &items});
     } else {
       py::tuple all(items.size());

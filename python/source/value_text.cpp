@@ -18,23 +18,6 @@ bool IsText(AttributeKind kind) {
   return kind == AttributeKind::kText || kind == AttributeKind::kTextList;
 }
 
-/// The kind of the elements of a list.
-AttributeKind ElementKind(AttributeKind list) {
-  switch (list) {
-    case AttributeKind::kTextList:
-      return AttributeKind::kText;
-    case AttributeKind::kRealList:
-      return AttributeKind::kReal;
-    case AttributeKind::kIntegerList:
-      return AttributeKind::kInteger;
-    case AttributeKind::kReferenceSet:
-    case AttributeKind::kReferenceList:
-      return AttributeKind::kReference;
-    default:
-      return AttributeKind::kUnknown;
-  }
-}
-
 std::string TypeName(const py::handle& value) { return Py_TYPE(value.ptr())->tp_name; }
 
 bool IsWordCharacter(char c) {
@@ -183,7 +166,7 @@ void ValueText::AppendList(const py::handle& value, AttributeKind kind) {
   for (const py::handle element : value) {
     if (!isFirst) text += ',';
     isFirst = false;
-    Append(element, ElementKind(kind));
+    Append(element, KindOfElements(kind));
   }
   text += ')';
   --depth;

@@ -96,6 +96,12 @@ AttributeKind RawKind(const AttributeValue& value) {
   }
 }
 
+/// True if an attribute of a kind can hold references.
+bool MayRefer(AttributeKind kind) {
+  return kind == AttributeKind::kReference || kind == AttributeKind::kTypedValue ||
+         kind == AttributeKind::kUnknown || KindOfElements(kind) == AttributeKind::kReference;
+}
+
 /// "#12=IfcWall.Name: " with `message` after it.
 std::string Place(const Instance& instance, const AttributeDescription* attribute,
                   std::size_t position, const std::string& message) {
@@ -147,7 +153,7 @@ void SetValue(const Instance& instance, std::size_t position, const py::handle& 
     Raise(kind == AttributeKind::kEnumeration ? PyExc_ValueError : PyExc_TypeError,
           Place(instance, attribute, position, expected));
   }
-  model.NoteReference();
+  if (attribute == nullptr || MayRefer(attribute->kind)) model.NoteReference();
   if (attribute != nullptr && attribute->name == "GlobalId") model.NoteGuid(instance.GetNumber());
 }
 

@@ -135,3 +135,18 @@ def test_old_releases_have_no_building() -> None:
     for convert in (model.building, model.structure):
         with pytest.raises(kelifc.ConversionError, match="2.0"):
             convert()
+
+
+def test_elements_of_a_structure_have_the_common_members_and_their_own(
+    house: kelifc.Model,
+) -> None:
+    structure = house.structure()
+    for elements, own in (
+        (structure.columns, []), (structure.beams, ["boundary"]), (structure.foots, []),
+        (structure.walls, ["closed", "windows", "doors"]), (structure.plates, ["holes"]),
+    ):
+        for element in elements:
+            assert list(element.to_dict()) == [
+                "name", "guid", "section", "storey", "points", *own]
+    assert structure.columns[0].name == "Column A"
+    assert structure.columns[0].points.shape == (2, 3)

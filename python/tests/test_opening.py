@@ -62,10 +62,27 @@ def test_what_is_no_model_is_refused() -> None:
         kelifc.open(step_file(), dialect="latin")
 
 
+def test_errors_name_the_place_in_the_file() -> None:
+    with pytest.raises(kelifc.OpenError) as caught:
+        kelifc.open(b"hello;\nworld;\n")
+    assert caught.value.place == (1, 1)
+    with pytest.raises(kelifc.OpenError) as caught:
+        kelifc.open(step_file(schema="NOTHING"))
+    assert caught.value.place == (5, 1)
+    assert str(caught.value) == "<bytes>:5:1: unknown schema 'NOTHING'"
+    with pytest.raises(kelifc.UnsupportedReleaseError) as caught:
+        kelifc.open(step_file(schema="IFC4"))
+    assert caught.value.place == (5, 1)
+    with pytest.raises(kelifc.OpenError) as caught:
+        kelifc.open("/no/such/model.ifc")
+    assert caught.value.place is None
+
+
 def test_limits_end_a_load() -> None:
     content = step_file(*(f"#{n}=IFCCARTESIANPOINT((1.,2.));" for n in range(1, 50)))
-    with pytest.raises(kelifc.LimitError):
+    with pytest.raises(kelifc.LimitError) as caught:
         kelifc.open(content, limits=kelifc.Limits(max_instances=10))
+    assert caught.value.place == (18, 1)  # of the eleventh instance
     assert len(kelifc.open(content, limits=kelifc.Limits(max_instances=100))) == 49
 
 
@@ -83,8 +100,9 @@ def test_progress_reaches_the_end_and_can_cancel(house_path: str) -> None:
     calls: list[tuple[int, int]] = []
     kelifc.open(house_path, progress=lambda done, total: calls.append((done, total)))
     assert calls and calls[-1][0] == calls[-1][1]
-    with pytest.raises(kelifc.CancelledError):
+    with pytest.raises(kelifc.CancelledError) as caught:
         kelifc.open(house_path, progress=lambda done, total: False)
+    assert caught.value.path == house_path and caught.value.place is None
 
 
 def test_an_exception_of_the_progress_function_is_raised(house_path: str) -> None:

@@ -1,18 +1,13 @@
-#include <fstream>
 #include <iterator>
 #include <string>
 
 #include "tests/archive/archives.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::archive {
 namespace {
 
 const std::string kModel = "ISO-10303-21;\nHEADER;\nENDSEC;\nEND-ISO-10303-21;\n";
-
-std::string ReadBytes(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-}
 
 struct Refused {
   Members members;
@@ -70,7 +65,7 @@ TEST(ZipModel, IsRefusedIfItExpandsBeyondTheLimits) {
 TEST(ZipModel, NeverCrashesOnADamagedArchive) {
   const ArchiveFile whole;
   MakeZip(whole.GetPath(), {{"a.ifc", kModel}});
-  const std::string bytes = ReadBytes(whole.GetPath());
+  const std::string bytes = ReadFile(whole.GetPath());
   for (std::size_t i = 4; i < bytes.size(); ++i) {
     std::string damaged = bytes;
     damaged[i] = static_cast<char>(~damaged[i]);

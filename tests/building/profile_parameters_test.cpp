@@ -8,12 +8,30 @@
 namespace KelIFC {
 namespace {
 
-TEST(ParametersOf, ListsTheSizesOfAShape) {
+std::vector<std::string_view> NamesOf(const ProfileParameterList& list) {
   std::vector<std::string_view> names;
-  for (const ProfileParameter parameter : ParametersOf(ProfileShape::kI)) {
-    names.push_back(TextOf(parameter));
-  }
-  EXPECT_EQ(names, (std::vector<std::string_view>{"h", "b", "tw", "tf", "r"}));
+  for (const ProfileParameter parameter : list) names.push_back(TextOf(parameter));
+  return names;
+}
+
+TEST(ParametersOf, ListsTheSizesOfAShape) {
+  EXPECT_EQ(NamesOf(ParametersOf(ProfileShape::kI)),
+            (std::vector<std::string_view>{"h", "b", "tw", "tf", "r", "r1", "slope"}));
+}
+
+TEST(ParametersOf, LeavesOutEdgesAndSlopeOfAnIThatHasNone) {
+  BuildingProfile profile;
+  profile.shape = ProfileShape::kI;
+  EXPECT_EQ(NamesOf(ParametersOf(profile)),
+            (std::vector<std::string_view>{"h", "b", "tw", "tf", "r"}));
+  profile.parameters[static_cast<std::size_t>(ProfileParameter::kSlope)] = 0.14;
+  EXPECT_EQ(NamesOf(ParametersOf(profile)), NamesOf(ParametersOf(ProfileShape::kI)));
+}
+
+TEST(ParametersOf, ListsAllSizesOfOtherShapes) {
+  BuildingProfile profile;
+  profile.shape = ProfileShape::kU;
+  EXPECT_EQ(ParametersOf(profile).count, ParametersOf(ProfileShape::kU).count);
 }
 
 TEST(ParametersOf, IsEmptyForAnArbitraryShapeOnly) {

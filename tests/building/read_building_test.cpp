@@ -4,7 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdlib>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <utility>
@@ -14,6 +14,7 @@
 #include "kelifc/building/difference.h"
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/model_files.h"
 #include "tests/paths.h"
 #include "tests/server/temp_file.h"
 
@@ -21,21 +22,6 @@
 
 namespace KelIFC {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::vector<fs::path> ModelFiles() {
-  std::vector<fs::path> files;
-  const char* const data = std::getenv("KELIFC_TEST_DATA");
-  for (const fs::path& folder : {fs::path(kExamplesDir), fs::path(data == nullptr ? "" : data)}) {
-    if (folder.empty()) continue;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-      if (entry.path().extension() == ".ifc") files.push_back(entry.path());
-    }
-  }
-  std::sort(files.begin(), files.end());
-  return files;
-}
 
 /// What a save writes, from the schema on: the head before it has the time.
 std::string Saved(IfcServer& server) {
@@ -51,7 +37,7 @@ LoadOptions IsoOptions() {
   return options;
 }
 
-class BuildingOfModel : public testing::TestWithParam<fs::path> {
+class BuildingOfModel : public testing::TestWithParam<std::filesystem::path> {
  protected:
   void SetUp() override { ASSERT_EQ(server.LoadIfc(GetParam().string().c_str(), IsoOptions()), 0); }
 
@@ -105,15 +91,8 @@ TEST_P(BuildingOfModel, IsExactWhereItSaysSo) {
   }
 }
 
-std::string NameOf(const testing::TestParamInfo<fs::path>& info) {
-  std::string name = info.param.stem().string();
-  for (char& c : name) {
-    if (std::isalnum(static_cast<unsigned char>(c)) == 0) c = '_';
-  }
-  return name + "_" + std::to_string(info.index);
-}
-
-INSTANTIATE_TEST_SUITE_P(Models, BuildingOfModel, testing::ValuesIn(ModelFiles()), NameOf);
+INSTANTIATE_TEST_SUITE_P(Models, BuildingOfModel, testing::ValuesIn(ExamplesAndRealModels()),
+                         TestNameOf);
 
 TEST(ReadBuilding, OfAnEmptyModelIsEmpty) {
   IfcServer server;
@@ -144,6 +123,39 @@ TEST(ReadBuilding, OutlivesTheModel) {
   EXPECT_EQ(building.totals.surfaces, 8u);
   ASSERT_EQ(building.storeys.size(), 2u);
   EXPECT_EQ(building.storeys[1].elevation, 2.8);
+}
+
+TEST(ReadBuilding, ReportsTwoStepsForEachProduct) {
+  IfcServer server;
+  const std::string path = std::string(kExamplesDir) + "/house.ifc";
+  ASSERT_EQ(server.LoadIfc(path.c_str(), IsoOptions()), 0);
+  std::vector<std::uint64_t> reported;
+  std::uint64_t all = 0;
+  ReadingOptions options;
+  options.progress = [&](std::uint64_t done, std::uint64_t total) {
+    reported.push_back(done);
+    all = total;
+    return true;
+  };
+  const Building building = ReadBuilding(server, options);
+  EXPECT_EQ(all, 2 * building.totals.products);
+  ASSERT_FALSE(reported.empty());
+  EXPECT_EQ(reported.front(), 0u);
+  EXPECT_EQ(reported.back(), all);
+  EXPECT_TRUE(std::is_sorted(reported.begin(), reported.end()));
+}
+
+TEST(ReadBuilding, CanBeCancelledAtEachStepAndRepeated) {
+  IfcServer server;
+  const std::string path = std::string(kExamplesDir) + "/house.ifc";
+  ASSERT_EQ(server.LoadIfc(path.c_str(), IsoOptions()), 0);
+  const std::size_t products = ReadBuilding(server).totals.products;
+  for (std::uint64_t last = 0; last <= 2 * products; ++last) {
+    ReadingOptions options;
+    options.progress = [last](std::uint64_t done, std::uint64_t) { return done < last; };
+    EXPECT_THROW(ReadBuilding(server, options), ReadingCancelled) << last;
+  }
+  EXPECT_EQ(ReadBuilding(server).totals.products, products);
 }
 
 TEST(ReadBuilding, BeyondTheLimitOfPointsThereAreLosses) {

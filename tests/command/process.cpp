@@ -8,7 +8,6 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include "tests/paths.h"
@@ -52,11 +51,6 @@ Outcome Run(const std::string& program, const std::vector<std::string>& argument
 Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath,
                const std::string& inPath) {
   return Run(KELIFC_COMMAND, arguments, outPath, inPath);
-}
-
-std::string ReadFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
 }
 
 void WriteFile(const std::string& path, const std::string& text) {

@@ -4,6 +4,8 @@
 #include <string>
 #include <vector>
 
+#include "tests/read_file.h"
+
 namespace command_test {
 
 /// The result of a program that has ended.
@@ -22,8 +24,7 @@ Outcome Run(const std::string& program, const std::vector<std::string>& argument
 Outcome Kelifc(const std::vector<std::string>& arguments, const std::string& outPath = "",
                const std::string& inPath = "/dev/null");
 
-/// The text of a file; empty if the file does not exist.
-std::string ReadFile(const std::string& path);
+using KelIFC::ReadFile;
 
 void WriteFile(const std::string& path, const std::string& text);
 

@@ -9,6 +9,7 @@
 
 #include "export/export.h"
 #include "tests/export/test_path.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -21,11 +22,6 @@ class Files : public testing::Test {
   ~Files() override { fs::remove_all(folder); }
 
   std::string Path(const std::string& name) const { return (folder / name).string(); }
-
-  static std::string Read(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
 
   std::size_t CountFiles() const {
     return static_cast<std::size_t>(
@@ -42,9 +38,9 @@ TEST_F(Files, AreReplacedByCommit) {
   OutputFile file(path);
   file.Write("new ");
   file.Write("text");
-  EXPECT_EQ(Read(path), "old");
+  EXPECT_EQ(ReadFile(path), "old");
   file.Commit();
-  EXPECT_EQ(Read(path), "new text");
+  EXPECT_EQ(ReadFile(path), "new text");
   EXPECT_EQ(CountFiles(), 1U);
 }
 
@@ -52,7 +48,7 @@ TEST_F(Files, StayAsTheyWereWithoutCommit) {
   const std::string path = Path("a.txt");
   std::ofstream(path) << "old";
   { OutputFile(path).Write(std::string(3 << 20, 'x')); }
-  EXPECT_EQ(Read(path), "old");
+  EXPECT_EQ(ReadFile(path), "old");
   EXPECT_EQ(CountFiles(), 1U);
 }
 
@@ -86,9 +82,9 @@ TEST_F(Files, CanBeWrittenByOthersAtAPath) {
   std::ofstream(path) << "old";
   OutputPath output(path);
   std::ofstream(output.GetPath()) << "new";
-  EXPECT_EQ(Read(path), "old");
+  EXPECT_EQ(ReadFile(path), "old");
   output.Commit();
-  EXPECT_EQ(Read(path), "new");
+  EXPECT_EQ(ReadFile(path), "new");
   EXPECT_EQ(CountFiles(), 1U);
 }
 

@@ -12,6 +12,7 @@
 
 #include "tests/faults/failing_allocation.h"
 #include "tests/faults/small_model.h"
+#include "tests/read_file.h"
 #include "tests/server/temp_file.h"
 
 // A save that runs out of memory fails and leaves the old file, or it writes the whole model.
@@ -53,8 +54,7 @@ class FaultyReplacement : public testing::TestWithParam<bool> {
 
   // The file without its header, which has the time.
   std::string Data() const {
-    std::ifstream in(target, std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+    const std::string text = ReadFile(target);
     const std::size_t begin = text.find("DATA;");
     return begin == std::string::npos ? text : text.substr(begin);
   }

@@ -1,12 +1,11 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 
 #include "tests/geo/host.h"
 #include "tests/geo/model_text.h"
+#include "tests/model_files.h"
+#include "tests/read_file.h"
 
 namespace KelIFC {
 namespace {
@@ -15,8 +14,7 @@ namespace {
 constexpr std::uintmax_t kLargestFile = 20'000'000;
 
 LONG CountStatements(const std::filesystem::path& path, const std::string& entity) {
-  std::ifstream in(path, std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
+  const std::string text = ReadFile(path);
   LONG count = 0;
   for (auto at = text.find(entity); at != std::string::npos; at = text.find(entity, at + 1))
     ++count;
@@ -46,17 +44,16 @@ void ExpectStoreys(IIFCServer& server, const std::filesystem::path& path) {
   }
 }
 
-class RealModels : public HostTest {};
+class StoreysOfRealModels : public HostTest {};
 
-TEST_F(RealModels, HaveAllTheirStoreysInOrder) {
-  const char* folder = std::getenv("KELIFC_TEST_DATA");
-  if (folder == nullptr) GTEST_SKIP() << "KELIFC_TEST_DATA names no folder of models";
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".ifc" || entry.file_size() > kLargestFile) continue;
-    SCOPED_TRACE(entry.path().string());
+TEST_F(StoreysOfRealModels, AreAllThereInOrder) {
+  if (RealModels().empty()) GTEST_SKIP() << kNoRealModels;
+  for (const std::filesystem::path& path : RealModels()) {
+    if (std::filesystem::file_size(path) > kLargestFile) continue;
+    SCOPED_TRACE(path.string());
     const auto server = Create<IIFCServer>(CLSID_CoIFCServer);
-    if (FAILED(LoadFile(*server, entry.path().string()))) continue;
-    ExpectStoreys(*server, entry.path());
+    if (FAILED(LoadFile(*server, path.string()))) continue;
+    ExpectStoreys(*server, path);
   }
 }
 

@@ -7,6 +7,8 @@
 #include <iterator>
 #include <string>
 
+#include "tests/read_file.h"
+
 namespace KelIFC {
 namespace {
 
@@ -27,11 +29,6 @@ class FileReplacementTest : public testing::Test {
     std::ofstream(path, std::ios::binary) << text;
   }
 
-  static std::string Read(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
-  }
-
   std::size_t CountFiles() const {
     return static_cast<std::size_t>(
         std::distance(fs::directory_iterator(folder), fs::directory_iterator()));
@@ -49,18 +46,18 @@ TEST_F(FileReplacementTest, ReplacesTheTargetWhenItIsCommitted) {
     FileReplacement replacement(Path("a.ifc").c_str());
     ASSERT_TRUE(replacement.IsGood());
     Write(replacement.GetPath(), "new");
-    EXPECT_EQ(Read(Path("a.ifc")), "old");
+    EXPECT_EQ(ReadFile(Path("a.ifc")), "old");
     EXPECT_TRUE(replacement.Commit());
-    EXPECT_EQ(Read(Path("a.ifc")), "new");
+    EXPECT_EQ(ReadFile(Path("a.ifc")), "new");
   }
-  EXPECT_EQ(Read(Path("a.ifc")), "new");
+  EXPECT_EQ(ReadFile(Path("a.ifc")), "new");
   EXPECT_EQ(CountFiles(), 1U);
 }
 
 TEST_F(FileReplacementTest, LeavesTheTargetUnchangedWithoutACommit) {
   Write(Path("a.ifc"), "old");
   { Write(FileReplacement(Path("a.ifc").c_str()).GetPath(), "new"); }
-  EXPECT_EQ(Read(Path("a.ifc")), "old");
+  EXPECT_EQ(ReadFile(Path("a.ifc")), "old");
 }
 
 TEST_F(FileReplacementTest, LeavesNoFileBehindWithoutACommit) {
@@ -72,7 +69,7 @@ TEST_F(FileReplacementTest, CreatesAMissingTarget) {
   FileReplacement replacement(Path("a.ifc").c_str());
   Write(replacement.GetPath(), "new");
   EXPECT_TRUE(replacement.Commit());
-  EXPECT_EQ(Read(Path("a.ifc")), "new");
+  EXPECT_EQ(ReadFile(Path("a.ifc")), "new");
 }
 
 TEST_F(FileReplacementTest, KeepsThePermissionsOfTheTarget) {
@@ -95,7 +92,7 @@ TEST_F(FileReplacementTest, FollowsSymbolicLinks) {
   EXPECT_TRUE(replacement.Commit());
   EXPECT_TRUE(fs::is_symlink(Path("link2")));
   EXPECT_FALSE(fs::is_symlink(Path("inner/a.ifc")));
-  EXPECT_EQ(Read(Path("inner/a.ifc")), "new");
+  EXPECT_EQ(ReadFile(Path("inner/a.ifc")), "new");
 }
 
 TEST_F(FileReplacementTest, CreatesTheFileThatALinkLeadsTo) {
@@ -103,7 +100,7 @@ TEST_F(FileReplacementTest, CreatesTheFileThatALinkLeadsTo) {
   FileReplacement replacement(Path("link").c_str());
   Write(replacement.GetPath(), "new");
   EXPECT_TRUE(replacement.Commit());
-  EXPECT_EQ(Read(Path("b.ifc")), "new");
+  EXPECT_EQ(ReadFile(Path("b.ifc")), "new");
 }
 
 TEST_F(FileReplacementTest, WritesADeviceDirectly) {
@@ -134,7 +131,7 @@ TEST_F(FileReplacementTest, WritesAnOpenFileWithoutANameDirectly) {
   EXPECT_EQ(replacement.GetPath(), link);
   Write(replacement.GetPath(), "new");
   EXPECT_TRUE(replacement.Commit());
-  EXPECT_EQ(Read(link), "new");
+  EXPECT_EQ(ReadFile(link), "new");
   EXPECT_EQ(CountFiles(), 0U);
 }
 #endif
@@ -151,7 +148,7 @@ TEST_F(FileReplacementTest, LeavesTheTargetUnchangedIfTheTemporaryFileIsGone) {
   fs::remove(replacement.GetPath());
   EXPECT_FALSE(replacement.Commit());
   EXPECT_EQ(replacement.GetFailure(), "No such file or directory");
-  EXPECT_EQ(Read(Path("a.ifc")), "old");
+  EXPECT_EQ(ReadFile(Path("a.ifc")), "old");
 }
 
 TEST_F(FileReplacementTest, SurvivesACycleOfLinks) {

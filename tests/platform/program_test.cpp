@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <memory>
 
 namespace KelIFC {
@@ -20,6 +22,38 @@ TEST(IsTerminal, IsTrueForATerminal) {
   const File terminal(std::fopen("/dev/ptmx", "r+"), &std::fclose);
   if (terminal == nullptr) GTEST_SKIP() << "this system has no pseudo-terminals";
   EXPECT_TRUE(IsTerminal(terminal.get()));
+}
+
+// The signals end a process of their own, so that this one goes on.
+TEST(CatchInterrupts, MakesTheFirstCtrlCAFlag) {
+  const auto interrupt = [] {
+    CatchInterrupts();
+    if (IsInterrupted()) std::_Exit(1);
+    std::raise(SIGINT);
+    std::_Exit(IsInterrupted() ? 0 : 2);
+  };
+  EXPECT_EXIT(interrupt(), testing::ExitedWithCode(0), "");
+}
+
+TEST(CatchInterrupts, LetsTheSecondCtrlCEndTheProgram) {
+  const auto interruptTwice = [] {
+    CatchInterrupts();
+    std::raise(SIGINT);
+    std::raise(SIGINT);
+    std::_Exit(0);
+  };
+  EXPECT_EXIT(interruptTwice(), testing::KilledBySignal(SIGINT), "");
+}
+
+TEST(CatchInterrupts, KeepsCtrlCIgnored) {
+  const auto ignore = [] {
+    std::signal(SIGINT, SIG_IGN);
+    CatchInterrupts();
+    std::raise(SIGINT);
+    std::raise(SIGINT);
+    std::_Exit(IsInterrupted() ? 1 : 0);
+  };
+  EXPECT_EXIT(ignore(), testing::ExitedWithCode(0), "");
 }
 
 TEST(PathOfArgument, KeepsTheBytesOfAName) {

@@ -177,6 +177,33 @@ TEST(FindAttribute, ReturnsNullForAnUnknownNameAndForAnEmptyName) {
   EXPECT_EQ(history.FindAttribute(""), nullptr);
 }
 
+TEST(FindInverse, FindsAnInheritedAttributeInAnyCase) {
+  const EntityDescription& wall = Entity(IFC_RELEASE_2X3, "IfcWallStandardCase");
+  const InverseAttribute* const openings = wall.FindInverse("hasopenings");
+  ASSERT_NE(openings, nullptr);
+  EXPECT_EQ(openings->name, "HasOpenings");
+  EXPECT_EQ(openings->entity, "IfcRelVoidsElement");
+  EXPECT_EQ(openings->attribute, "RelatingBuildingElement");
+  EXPECT_EQ(wall.FindInverse("Name"), nullptr);
+  EXPECT_EQ(wall.FindInverse(""), nullptr);
+}
+
+// The classes fill the set with this name the other way round.
+TEST(FindInverse, FindsTheDirectionOfTheSchema) {
+  const EntityDescription& wall = Entity(IFC_RELEASE_2X3, "IfcWall");
+  EXPECT_EQ(wall.FindInverse("Decomposes")->attribute, "RelatedObjects");
+  EXPECT_EQ(wall.FindInverse("IsDecomposedBy")->attribute, "RelatingObject");
+}
+
+TEST(KindOfElements, IsTheKindOfTheValuesInAList) {
+  EXPECT_EQ(KindOfElements(AttributeKind::kTextList), AttributeKind::kText);
+  EXPECT_EQ(KindOfElements(AttributeKind::kRealList), AttributeKind::kReal);
+  EXPECT_EQ(KindOfElements(AttributeKind::kIntegerList), AttributeKind::kInteger);
+  EXPECT_EQ(KindOfElements(AttributeKind::kReferenceSet), AttributeKind::kReference);
+  EXPECT_EQ(KindOfElements(AttributeKind::kReferenceList), AttributeKind::kReference);
+  EXPECT_EQ(KindOfElements(AttributeKind::kReference), AttributeKind::kUnknown);
+}
+
 TEST(IsKindOf, FollowsSupertypesAndSelects) {
   const EntityDescription& point = Entity(IFC_RELEASE_2X3, "IfcCartesianPoint");
   for (const char* base : {"IfcCartesianPoint", "IfcPoint", "IfcGeometricSetSelect",
@@ -228,6 +255,23 @@ TEST(AttributeTable, NamesClassesThatTheReleaseHas) {
         if (!isReference || attribute.type.empty() || attribute.type == "IfcUnknown") continue;
         EXPECT_NE(FindEntity(release, attribute.type), nullptr)
             << entity->name << " " << attribute.type;
+      }
+    }
+  }
+}
+
+TEST(AttributeTable, NamesTheAttributesThatHoldTheReferencesOfInverses) {
+  for (const IFC_RELEASE release : kReleases) {
+    for (const EntityDescription* entity : AllEntities(release)) {
+      for (std::size_t i = 0; i < entity->inverseCount; ++i) {
+        const InverseAttribute& inverse = entity->inverses[i];
+        const AttributeDescription& holder = Attribute(release, inverse.entity, inverse.attribute);
+        EXPECT_EQ(holder.name, inverse.attribute);
+        EXPECT_EQ(holder.use, AttributeUse::kKept) << inverse.name;
+        const auto* const stated = entity->FindAttribute(inverse.name);
+        const bool isInStatement =
+            stated != nullptr && stated->position != AttributeDescription::kNoPosition;
+        EXPECT_FALSE(isInStatement) << entity->name << " " << inverse.name;
       }
     }
   }

@@ -1,17 +1,16 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 #include <vector>
 
 #include "kelifc/core/cartesian_point.h"
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/model_files.h"
 #include "tests/paths.h"
+#include "tests/read_file.h"
 #include "tests/server/load_text.h"
 #include "tests/server/temp_file.h"
 
@@ -19,26 +18,6 @@
 
 namespace KelIFC {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::string ReadAll(const fs::path& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
-std::vector<fs::path> ModelFiles() {
-  std::vector<fs::path> files;
-  const char* const data = std::getenv("KELIFC_TEST_DATA");
-  for (const fs::path& folder : {fs::path(kExamplesDir), fs::path(data == nullptr ? "" : data)}) {
-    if (folder.empty()) continue;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-      if (entry.path().extension() == ".ifc") files.push_back(entry.path());
-    }
-  }
-  std::sort(files.begin(), files.end());
-  return files;
-}
 
 /// What follows FILE_NAME, which a save changes.
 std::string AfterName(const std::string& text) {
@@ -59,11 +38,11 @@ std::string FirstDifference(const std::string& a, const std::string& b) {
   return lineOf(a, inA) + " became " + lineOf(b, inB);
 }
 
-class FaithfulModels : public testing::TestWithParam<fs::path> {
+class FaithfulModels : public testing::TestWithParam<std::filesystem::path> {
  protected:
   void SetUp() override {
     ASSERT_EQ(server.LoadIfc(GetParam().string().c_str(), OptionsFor(STEP_DIALECT_ISO)), 0);
-    text = ReadAll(GetParam());
+    text = ReadFile(GetParam());
   }
 
   // The file that a save writes, from its schema on.
@@ -72,7 +51,7 @@ class FaithfulModels : public testing::TestWithParam<fs::path> {
     SaveOptions options;
     options.faithful = true;
     EXPECT_EQ(server.SaveIfc(target.GetPath(), options), SAVE_RESULT_SAVED);
-    return AfterName(ReadAll(target.GetPath()));
+    return AfterName(ReadFile(target.GetPath()));
   }
 
   // The source with another text in the place of a statement, from its schema on.
@@ -113,14 +92,8 @@ TEST_P(FaithfulModels, LoseOneStatementIfOneInstanceIsDeleted) {
   EXPECT_EQ(FirstDifference(expected, Save()), "");
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, FaithfulModels, testing::ValuesIn(ModelFiles()),
-                         [](const auto& info) {
-                           std::string name = info.param.stem().string();
-                           std::replace_if(
-                               name.begin(), name.end(),
-                               [](unsigned char c) { return std::isalnum(c) == 0; }, '_');
-                           return name + "_" + std::to_string(info.index);
-                         });
+INSTANTIATE_TEST_SUITE_P(Files, FaithfulModels, testing::ValuesIn(ExamplesAndRealModels()),
+                         TestNameOf);
 
 }  // namespace
 }  // namespace KelIFC

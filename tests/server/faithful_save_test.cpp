@@ -5,6 +5,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
 #include <future>
@@ -15,6 +16,7 @@
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/read_file.h"
 #include "tests/server/probe.h"
 #include "tests/server/temp_file.h"
 
@@ -29,11 +31,6 @@ constexpr char kHead[] =
     "FILE_NAME('old.ifc','2001-01-01T00:00:00',('An'),('Org'),'Old 1','Sys','');\n"
     "FILE_SCHEMA(('IFC2X3'));\nENDSEC;\n";
 constexpr char kTail[] = "ENDSEC;\nEND-ISO-10303-21;\n";
-
-std::string ReadAll(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
 
 LoadOptions Iso() {
   LoadOptions options;
@@ -67,7 +64,7 @@ class FaithfulSave : public testing::Test {
 
   std::string Save() {
     EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_SAVED) << told;
-    return ReadAll(target.GetPath());
+    return ReadFile(target.GetPath());
   }
 
   // The data sections, after a save.
@@ -119,6 +116,35 @@ TEST_F(FaithfulSave, RewritesTheStatementOfAChangedInstanceOnly) {
             "DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n#2=IFCCARTESIANPOINT((5.,2.));\n"
             "#3=IFCCARTESIANPOINT((1.0,2.0));\n" +
                 std::string(kTail));
+}
+
+TEST_F(FaithfulSave, ReportsTheBytesOfTheSourceForBothPasses) {
+  Load("DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n" + std::string(kTail));
+  const std::uint64_t size = ReadAll(source.GetPath()).size();
+  std::uint64_t last = 0;
+  SaveOptions options = Faithful();
+  options.progress = [&](std::uint64_t done, std::uint64_t total) {
+    EXPECT_EQ(total, 2 * size);
+    EXPECT_GT(done, last);
+    last = done;
+    return true;
+  };
+  EXPECT_EQ(server.SaveIfc(target.GetPath(), options), SAVE_RESULT_SAVED);
+  EXPECT_EQ(last, 2 * size);
+}
+
+TEST_F(FaithfulSave, LeavesTheOldFileIfItIsCancelledInOneOfThePasses) {
+  Load("DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n" + std::string(kTail));
+  std::ofstream(target.GetPath()) << "old";
+  for (const bool isFirstPass : {true, false}) {
+    SaveOptions options = Faithful();
+    options.progress = [&](std::uint64_t done, std::uint64_t total) {
+      return !isFirstPass && done < total;
+    };
+    EXPECT_EQ(server.SaveIfc(target.GetPath(), options), SAVE_RESULT_CANCELLED);
+    EXPECT_EQ(ReadAll(target.GetPath()), "old");
+  }
+  EXPECT_THAT(told, HasSubstr(": the save was cancelled\n"));
 }
 
 TEST_F(FaithfulSave, RewritesAStatementWhoseChangeIsBelowTheTolerance) {
@@ -236,7 +262,7 @@ TEST_F(FaithfulSave, ReplacesItsOwnSource) {
   Load("DATA;\n#1=IFCCARTESIANPOINT((1.0));\n#2=IFCFOO( 1 );\n" + std::string(kTail));
   MovePoint(1, 3);
   ASSERT_EQ(server.SaveIfc(source.GetPath(), Faithful()), SAVE_RESULT_SAVED) << told;
-  EXPECT_EQ(DataOf(ReadAll(source.GetPath())),
+  EXPECT_EQ(DataOf(ReadFile(source.GetPath())),
             "DATA;\n#1=IFCCARTESIANPOINT((3.));\n#2=IFCFOO( 1 );\n" + std::string(kTail));
 }
 
@@ -249,7 +275,7 @@ TEST_F(FaithfulSave, RefusesASourceThatHasChanged) {
   EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_SOURCE_CHANGED);
   EXPECT_EQ(told, std::string(target.GetPath()) +
                       ": the source of the model has changed since it was loaded\n");
-  EXPECT_EQ(ReadAll(target.GetPath()), "old");
+  EXPECT_EQ(ReadFile(target.GetPath()), "old");
 }
 
 TEST_F(FaithfulSave, RefusesASourceThatIsGone) {
@@ -257,7 +283,7 @@ TEST_F(FaithfulSave, RefusesASourceThatIsGone) {
   std::ofstream(target.GetPath()) << "old";
   fs::remove(source.GetPath());
   EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_NO_SOURCE);
-  EXPECT_EQ(ReadAll(target.GetPath()), "old");
+  EXPECT_EQ(ReadFile(target.GetPath()), "old");
 }
 
 TEST_F(FaithfulSave, RefusesAModelThatWasNotLoadedForIt) {
@@ -282,7 +308,7 @@ TEST_F(FaithfulSave, FailsIfAnInstanceCannotBeWritten) {
   Load(std::string("DATA;\n") + kTail);
   server.AddItem(new Unwritable);
   EXPECT_EQ(server.SaveIfc(target.GetPath(), Faithful()), SAVE_RESULT_CANNOT_WRITE);
-  EXPECT_EQ(ReadAll(target.GetPath()), "");
+  EXPECT_EQ(ReadFile(target.GetPath()), "");
 }
 
 TEST_F(FaithfulSave, ServesModelsFromMemoryAndFromStreams) {
@@ -341,7 +367,7 @@ TEST_F(FaithfulSave, FollowsALinkToItsOwnSource) {
   EXPECT_EQ(server.SaveIfc(link.c_str(), Faithful()), SAVE_RESULT_SAVED) << told;
   EXPECT_TRUE(fs::is_symlink(link));
   fs::remove(link);
-  EXPECT_EQ(DataOf(ReadAll(source.GetPath())),
+  EXPECT_EQ(DataOf(ReadFile(source.GetPath())),
             "DATA;\n#1=IFCCARTESIANPOINT((3.));\n#2=IFCFOO( 1 );\n" + std::string(kTail));
 }
 
@@ -351,7 +377,7 @@ TEST_F(FaithfulSave, WritesATargetThatIsNoOrdinaryFileDirectly) {
   const std::string pipe = std::string(target.GetPath()) + ".pipe";
   fs::remove(pipe);
   ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0);
-  auto read = std::async(std::launch::async, [&pipe] { return ReadAll(pipe); });
+  auto read = std::async(std::launch::async, [&pipe] { return ReadFile(pipe); });
   EXPECT_EQ(server.SaveIfc(pipe.c_str(), Faithful()), SAVE_RESULT_SAVED) << told;
   EXPECT_EQ(DataOf(read.get()), data);
   EXPECT_TRUE(fs::is_fifo(pipe));

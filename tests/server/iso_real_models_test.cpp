@@ -1,10 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <set>
 #include <string>
 #include <vector>
@@ -13,6 +10,8 @@
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/model_files.h"
+#include "tests/read_file.h"
 #include "tests/server/load_text.h"
 #include "tests/server/temp_file.h"
 
@@ -26,17 +25,8 @@ namespace fs = std::filesystem;
 class IsoRealModels : public testing::Test {
  protected:
   void SetUp() override {
-    const char* name = std::getenv("KELIFC_TEST_DATA");
-    if (name == nullptr) GTEST_SKIP() << "KELIFC_TEST_DATA names no folder of models";
-    folder = name;
-  }
-
-  std::vector<fs::path> Models() const {
-    std::vector<fs::path> models;
-    for (const auto& entry : fs::directory_iterator(folder)) {
-      if (entry.path().extension() == ".ifc") models.push_back(entry.path());
-    }
-    return models;
+    if (RealModels().empty()) GTEST_SKIP() << kNoRealModels;
+    folder = RealModels().front().parent_path();
   }
 
   fs::path folder;
@@ -48,8 +38,7 @@ int Load(IfcServer& server, const fs::path& path) {
 
 /// What is left of a file without its strings and comments.
 std::string Skeleton(const fs::path& path) {
-  std::ifstream file(path, std::ios::binary);
-  const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  const std::string text = ReadFile(path);
   std::string skeleton;
   for (std::size_t at = 0; at < text.size(); ++at) {
     if (text[at] == '\'') {
@@ -77,7 +66,7 @@ std::set<std::size_t> PlainNumbers(const fs::path& path) {
 }
 
 TEST_F(IsoRealModels, HaveAnInstanceForEachNumber) {
-  for (const fs::path& path : Models()) {
+  for (const fs::path& path : RealModels()) {
     SCOPED_TRACE(path.string());
     IfcServer server;
     ASSERT_EQ(Load(server, path), 0);
@@ -106,7 +95,7 @@ std::vector<std::string> TextsOf(const std::string& record) {
 }
 
 TEST_F(IsoRealModels, KeepTheirTextsThroughASave) {
-  for (const fs::path& path : Models()) {
+  for (const fs::path& path : RealModels()) {
     SCOPED_TRACE(path.string());
     IfcServer server;
     ASSERT_EQ(Load(server, path), 0);

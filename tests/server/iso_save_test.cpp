@@ -2,13 +2,12 @@
 #include <gtest/gtest.h>
 
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "kelifc/schema/ifc2x3.h"
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/read_file.h"
 #include "tests/server/load_text.h"
 #include "tests/server/temp_file.h"
 
@@ -76,8 +75,7 @@ TEST(IsoSave, EscapesTheNameOfTheFile) {
   IfcServer again;
   EXPECT_EQ(again.LoadIfc(path.c_str(), OptionsFor(STEP_DIALECT_ISO)), 0);
   EXPECT_THAT(NumbersOf(again), testing::ElementsAre(1));
-  std::ifstream file(path);
-  const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  const std::string text = ReadFile(path);
   EXPECT_THAT(text, HasSubstr("FILE_NAME('kelifc_it''s_T\\X2\\00FC\\X0\\r.ifc',"));
   std::remove(path.c_str());
 }

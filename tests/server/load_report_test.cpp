@@ -3,15 +3,15 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
-#include <iterator>
 #include <sstream>
 #include <string>
 
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/model_files.h"
+#include "tests/read_file.h"
 #include "tests/server/temp_file.h"
 
 namespace KelIFC {
@@ -203,6 +203,60 @@ TEST_P(LoadReportInDialect, HoldsTheCountsUpToALimit) {
 INSTANTIATE_TEST_SUITE_P(Dialects, LoadReportInDialect,
                          testing::Values(STEP_DIALECT_CLASSIC, STEP_DIALECT_ISO));
 
+struct FailedLoad {
+  const char* name;
+  std::string text;
+  int result;
+  SourcePlace place;
+};
+
+class LoadReportOfFailure : public testing::TestWithParam<FailedLoad> {};
+
+TEST_P(LoadReportOfFailure, HasThePlaceOfTheStatementAtFault) {
+  LoadLimits limits;
+  limits.maxInstances = 2;
+  limits.maxStatementBytes = 100;
+  for (const STEP_DIALECT dialect : {STEP_DIALECT_CLASSIC, STEP_DIALECT_ISO}) {
+    const Loaded model(GetParam().text, dialect, limits);
+    EXPECT_EQ(model.result, GetParam().result);
+    ASSERT_TRUE(model.Report().failure.has_value());
+    EXPECT_EQ(model.Report().failure->line, GetParam().place.line);
+    EXPECT_EQ(model.Report().failure->column, GetParam().place.column);
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Loads, LoadReportOfFailure,
+    testing::Values(FailedLoad{"NoStepFile", "HEAD;\nDATA;\n", LOAD_RESULT_NO_STEP_FILE, {1, 1}},
+                    FailedLoad{"UnknownSchema",
+                               "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('NONE'));\n",
+                               LOAD_RESULT_UNKNOWN_SCHEMA,
+                               {3, 1}},
+                    FailedLoad{"LaterSchema",
+                               "ISO-10303-21;\nHEADER;\nFILE_SCHEMA(('IFC4'));\n",
+                               LOAD_RESULT_UNSUPPORTED_RELEASE,
+                               {3, 1}},
+                    FailedLoad{"TooManyInstances",
+                               ModelOf("IFC2X3", "#1=IFCWALL();\n#2=IFCWALL();\n#3=IFCWALL();\n"),
+                               LOAD_RESULT_LIMIT_REACHED,
+                               {4, 1}},
+                    FailedLoad{"TooLongStatement",
+                               ModelOf("IFC2X3", "#1=IFCWALL();\n#2=IFCWALL('" +
+                                                     std::string(100, 'x') + "');"),
+                               LOAD_RESULT_LIMIT_REACHED,
+                               {3, 1}}),
+    [](const auto& info) { return info.param.name; });
+
+TEST(LoadReport, HasNoFailureOfAModelThatIsLoadedOrCancelled) {
+  const std::string text = ModelOf("IFC2X3", "");
+  IfcServer server;
+  ASSERT_EQ(server.LoadIfcMemory(text.data(), text.size(), {}), 0);
+  EXPECT_FALSE(server.GetLoadReport().failure.has_value());
+  server.SetProgressHandler([](std::uint64_t, std::uint64_t) { return false; });
+  ASSERT_EQ(server.LoadIfcMemory(text.data(), text.size(), {}), LOAD_RESULT_CANCELLED);
+  EXPECT_FALSE(server.GetLoadReport().failure.has_value());
+}
+
 TEST(LoadReport, IsEmptyAfterALoadWithoutOptions) {
   const TempFile file(ModelOf("IFC2X3", "#1=IFCPOLYLINE((#2));\n#1=IFCFOO();\n"));
   IfcServer server;
@@ -286,17 +340,14 @@ std::uint64_t CountStatements(const std::string& text) {
 }
 
 TEST(LoadReport, AccountsForEachStatementOfRealModels) {
-  const char* folder = std::getenv("KELIFC_TEST_DATA");
-  if (folder == nullptr) GTEST_SKIP() << "KELIFC_TEST_DATA names no folder of models";
+  if (RealModels().empty()) GTEST_SKIP() << kNoRealModels;
   LoadOptions options;
   options.dialect = STEP_DIALECT_ISO;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".ifc") continue;
-    SCOPED_TRACE(entry.path().filename().string());
-    std::ifstream file(entry.path(), std::ios::binary);
-    const std::string text{std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()};
+  for (const std::filesystem::path& path : RealModels()) {
+    SCOPED_TRACE(path.filename().string());
+    const std::string text = ReadFile(path);
     IfcServer server;
-    ASSERT_EQ(server.LoadIfc(entry.path().string().c_str(), options), 0);
+    ASSERT_EQ(server.LoadIfc(path.string().c_str(), options), 0);
     const LoadReport& report = server.GetLoadReport();
     EXPECT_EQ(report.statements, CountStatements(text));
     EXPECT_EQ(report.made + report.raw, report.numbers);

@@ -1,23 +1,21 @@
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 
 #include "kelifc/server/ifc_server.h"
 
+#include "tests/model_files.h"
 #include "tests/server/temp_file.h"
 
 namespace KelIFC {
 namespace {
 
-TEST(RealModels, KeepTheirNumbersThroughASave) {
-  const char* folder = std::getenv("KELIFC_TEST_DATA");
-  if (folder == nullptr) GTEST_SKIP() << "KELIFC_TEST_DATA names no folder of models";
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() != ".ifc") continue;
-    SCOPED_TRACE(entry.path().string());
+TEST(SavedRealModels, KeepTheirNumbersThroughASave) {
+  if (RealModels().empty()) GTEST_SKIP() << kNoRealModels;
+  for (const std::filesystem::path& path : RealModels()) {
+    SCOPED_TRACE(path.string());
     IfcServer server;
-    ASSERT_EQ(server.LoadIfcFile(entry.path().string().c_str()), 0);
+    ASSERT_EQ(server.LoadIfcFile(path.string().c_str()), 0);
     EXPECT_GT(server.GetNumberCount(), 0u);
     const TempFile saved;
     ASSERT_EQ(server.SaveIfcFile(saved.GetPath()), 0);

@@ -1,9 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstdint>
 #include <filesystem>
 #include <fstream>
+#include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "kelifc/server/ifc_server.h"
 
@@ -75,6 +79,59 @@ TEST_F(SaveIfc, WritesTheInstancesThatSaveIfcFileWrites) {
   EXPECT_EQ(DataOf(Read(path)), "#3=IFCFOO('a');\n#5=IFCCARTESIANPOINT((5.));\n");
   EXPECT_EQ(DataOf(Read(path)), DataOf(Read(plain)));
   EXPECT_EQ(told, "");
+}
+
+// A model with so many points.
+std::string PointsText(std::size_t count) {
+  std::string text = "ISO-10303-21;FILE_SCHEMA(('IFC2X3'));\n";
+  for (std::size_t i = 1; i <= count; ++i) {
+    text += "#" + std::to_string(i) + "=IFCCARTESIANPOINT((1.));\n";
+  }
+  return text;
+}
+
+TEST_F(SaveIfc, ReportsTheInstancesThatAreWritten) {
+  constexpr std::uint64_t kCount = 10'000;
+  ASSERT_EQ(server.LoadIfcFile(TempFile(PointsText(kCount)).GetPath()), 0);
+  std::vector<std::uint64_t> reported;
+  SaveOptions options;
+  options.progress = [&](std::uint64_t done, std::uint64_t total) {
+    EXPECT_EQ(total, kCount);
+    reported.push_back(done);
+    return true;
+  };
+  ASSERT_EQ(server.SaveIfc(PathOf("out.ifc").c_str(), options), SAVE_RESULT_SAVED);
+  ASSERT_GE(reported.size(), 3u);
+  EXPECT_EQ(reported.front(), 0u);
+  EXPECT_EQ(reported.back(), kCount);
+  EXPECT_TRUE(std::is_sorted(reported.begin(), reported.end()));
+}
+
+TEST_F(SaveIfc, LeavesTheOldFileIfItIsCancelled) {
+  constexpr std::uint64_t kCount = 10'000;
+  ASSERT_EQ(server.LoadIfcFile(TempFile(PointsText(kCount)).GetPath()), 0);
+  const std::string path = PathOf("out.ifc");
+  Put(path, "old");
+  for (const std::uint64_t last : {std::uint64_t{0}, kCount / 2, kCount}) {
+    SaveOptions options;
+    options.progress = [last](std::uint64_t done, std::uint64_t) { return done < last; };
+    EXPECT_EQ(server.SaveIfc(path.c_str(), options), SAVE_RESULT_CANCELLED) << last;
+    EXPECT_EQ(Read(path), "old") << last;
+    EXPECT_EQ(CountFiles(), 1u) << last;
+  }
+  EXPECT_THAT(told, StartsWith(path + ": the save was cancelled\n"));
+  EXPECT_EQ(server.SaveIfc(path.c_str(), {}), SAVE_RESULT_SAVED);
+}
+
+TEST_F(SaveIfc, LeavesTheOldFileIfTheProgressHandlerThrows) {
+  ASSERT_EQ(server.LoadIfcFile(TempFile(kModel).GetPath()), 0);
+  const std::string path = PathOf("out.ifc");
+  Put(path, "old");
+  SaveOptions options;
+  options.progress = [](std::uint64_t, std::uint64_t) -> bool { throw std::runtime_error("no"); };
+  EXPECT_THROW(server.SaveIfc(path.c_str(), options), std::runtime_error);
+  EXPECT_EQ(Read(path), "old");
+  EXPECT_EQ(CountFiles(), 1u);
 }
 
 TEST_F(SaveIfc, NamesTheTargetInTheHeader) {

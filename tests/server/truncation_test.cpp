@@ -1,13 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "kelifc/server/ifc_server.h"
 
 #include "tests/paths.h"
+#include "tests/read_file.h"
 #include "tests/server/temp_file.h"
 
 namespace KelIFC {
@@ -51,8 +50,7 @@ TEST(Truncation, LoadsTheExamplesCutAtAnyByte) {
   for (const auto& entry : std::filesystem::directory_iterator(folder)) {
     if (entry.path().extension() != ".ifc" || entry.file_size() >= kLargestFile) continue;
     SCOPED_TRACE(entry.path().string());
-    std::ifstream file(entry.path(), std::ios::binary);
-    LoadAllCuts({std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>()});
+    LoadAllCuts(ReadFile(entry.path()));
   }
 }
 

@@ -40,7 +40,7 @@ void WriteProfile(JsonWriter& json, const KelIFC::BuildingProfile& profile) {
   json.Member("shape", TextOf(profile.shape));
   json.Key("parameters");
   json.BeginObject();
-  for (const KelIFC::ProfileParameter parameter : KelIFC::ParametersOf(profile.shape)) {
+  for (const KelIFC::ProfileParameter parameter : ParametersOf(profile)) {
     json.Member(TextOf(parameter), profile[parameter]);
   }
   json.EndObject();

@@ -44,7 +44,7 @@ std::string ProfileText(const BuildingProfile& profile) {
   if (!profile.designation.empty()) return profile.designation;
   if (!profile.name.empty()) return Visible(profile.name);
   std::string text(TextOf(profile.shape));
-  for (const KelIFC::ProfileParameter parameter : KelIFC::ParametersOf(profile.shape)) {
+  for (const KelIFC::ProfileParameter parameter : ParametersOf(profile)) {
     if (profile[parameter] == 0.0) continue;
     text += " " + std::string(TextOf(parameter)) + "=" + Brief(1000.0 * profile[parameter]);
   }

@@ -73,12 +73,10 @@ ExportResult WriteWithProgress(const KelIFC::Building& building, const ExportFor
   writing.nodeTolerance = options.nodeTolerance * kMillimetre;
   ProgressBar bar("writing",
                   building.elements.size() > kManyElements && AllowsBar(options.reading));
-  if (bar.IsShown()) {
-    writing.progress = [&bar](double share) {
-      bar.Update(static_cast<std::uint64_t>(share * static_cast<double>(kSteps)), kSteps);
-      return true;
-    };
-  }
+  const KelIFC::ProgressHandler report = bar.GetHandler();
+  writing.progress = [&report](double share) {
+    return report(static_cast<std::uint64_t>(share * static_cast<double>(kSteps)), kSteps);
+  };
   return WriteExport(building, format, writing);
 }
 

@@ -15,6 +15,7 @@ enum class Status {
   kLost = 4,            ///< done, but something was lost, and the user asked for this status
   kUsage = 64,          ///< the command line is wrong
   kMissing = 69,        ///< this build lacks a component
+  kInterrupted = 130,   ///< Ctrl-C
 };
 
 /// Thrown to end the command. `main` prints "kelifc: " and the message as one line on standard

@@ -2,6 +2,8 @@
 #include <exception>
 #include <string>
 
+#include "kelifc/platform/program.h"
+
 #include "export/export.h"
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/failure.h"
@@ -229,7 +231,9 @@ void Run(const CLI::App& app, const Request& request) {
   if (app.got_subcommand("view")) RunExport(request.view);
 }
 
+/// Prints the message and returns the exit status. Whatever fails after Ctrl-C was interrupted.
 int Fail(Status status, const std::string& message) {
+  if (KelIFC::IsInterrupted()) return static_cast<int>(Status::kInterrupted);
   command::PrintMessage(message);
   return static_cast<int>(status);
 }
@@ -255,6 +259,7 @@ int RunMain(int argc, char** argv) {
 }  // namespace
 
 int main(int argc, char** argv) {
+  KelIFC::CatchInterrupts();
   try {
     return RunMain(argc, argv);
   } catch (const command::Failure& e) {

@@ -46,14 +46,10 @@ ModelSource LoadWithProgress(IfcServer& server, const std::string& path, const R
                              Load load) {
   ModelSource source(path);
   ProgressBar bar("reading", IsLargeFile(source.GetSize()) && AllowsBar(reading));
-  if (bar.IsShown()) {
-    server.SetProgressHandler([&bar](std::uint64_t done, std::uint64_t total) {
-      bar.Update(done, total);
-      return true;
-    });
-  }
+  server.SetProgressHandler(bar.GetHandler());
   const int code = load(source.GetPath().c_str());
   server.SetProgressHandler(nullptr);
+  ThrowIfInterrupted();
   if (code == KelIFC::LOAD_RESULT_LOADED) return source;
   if (code == KelIFC::LOAD_RESULT_CANNOT_OPEN) {
     throw Failure(Status::kFile, path, "the file cannot be opened");
@@ -102,7 +98,7 @@ KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
   KelIFC::ReadingOptions options;
   options.keptBodies = keptBodies;
   ProgressBar bar("converting", IsLargeFile(source.GetSize()) && AllowsBar(reading));
-  bar.Update(0, 1);  // the conversion does not report its progress
+  options.progress = bar.GetHandler();
   return KelIFC::ReadBuilding(server, options);
 }
 

@@ -6,6 +6,7 @@
 #include "kelifc/platform/program.h"
 
 #include "tools/kelifc/failure.h"
+#include "tools/kelifc/progress.h"
 
 namespace command {
 
@@ -35,6 +36,7 @@ void Output::Flush() {
     buffer.clear();
     return;
   }
+  ThrowIfInterrupted();
   if (std::fwrite(buffer.data(), 1, buffer.size(), file) != buffer.size()) {
     throw Failure(Status::kFile, name, std::strerror(errno));
   }

@@ -6,6 +6,8 @@
 
 #include "kelifc/platform/program.h"
 
+#include "tools/kelifc/failure.h"
+
 namespace command {
 namespace {
 
@@ -15,6 +17,10 @@ constexpr int kBarWidth = 40;
 }  // namespace
 
 bool IsLargeFile(std::uint64_t bytes) { return bytes > kLargeFile; }
+
+void ThrowIfInterrupted() {
+  if (KelIFC::IsInterrupted()) throw Failure(Status::kInterrupted, "interrupted");
+}
 
 ProgressBar::ProgressBar(std::string_view task, bool isWanted)
     : task(task), shown(isWanted && KelIFC::IsTerminal(stderr)) {}
@@ -33,6 +39,13 @@ void ProgressBar::Update(std::uint64_t done, std::uint64_t total) {
   std::fprintf(stderr, "\r%.*s [%s] %3d %%", static_cast<int>(task.size()), task.data(),
                bar.c_str(), percent);
   std::fflush(stderr);
+}
+
+KelIFC::ProgressHandler ProgressBar::GetHandler() {
+  return [this](std::uint64_t done, std::uint64_t total) {
+    Update(done, total);
+    return !KelIFC::IsInterrupted();
+  };
 }
 
 }  // namespace command

@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "kelifc/kelifc.h"
+
 #include "tools/kelifc/commands.h"
 
 namespace command {
@@ -13,6 +15,9 @@ inline bool AllowsBar(const Reading& reading) { return !reading.quiet && !readin
 
 /// True if a file is so large that loading it takes a while.
 bool IsLargeFile(std::uint64_t bytes);
+
+/// Throws Failure with Status::kInterrupted after Ctrl-C.
+void ThrowIfInterrupted();
 
 /// A bar on standard error that shows the progress of a task. The destructor removes it.
 class ProgressBar {
@@ -24,10 +29,12 @@ class ProgressBar {
   ProgressBar(const ProgressBar&) = delete;
   ProgressBar& operator=(const ProgressBar&) = delete;
 
-  bool IsShown() const { return shown; }
-
   /// Shows that `done` of `total` steps of the task are done. Draws at most once for each percent.
   void Update(std::uint64_t done, std::uint64_t total);
+
+  /// Returns a handler that calls Update, and that stops the task after Ctrl-C. It must not be
+  /// called after the bar is destroyed.
+  KelIFC::ProgressHandler GetHandler();
 
  private:
   std::string_view task;

@@ -5,6 +5,7 @@
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/failure.h"
 #include "tools/kelifc/model_file.h"
+#include "tools/kelifc/progress.h"
 
 namespace command {
 
@@ -15,6 +16,8 @@ void RunSave(const SaveOptions& options) {
   server.SetErrorHandler([&failure](const std::string& message) { failure = message; });
   KelIFC::SaveOptions saving;
   saving.faithful = options.faithful;
+  ProgressBar bar("writing", IsLargeFile(source.GetSize()) && AllowsBar(options.reading));
+  saving.progress = bar.GetHandler();
   if (server.SaveIfc(options.output.c_str(), saving) != KelIFC::SAVE_RESULT_SAVED) {
     throw Failure(Status::kFile, failure);
   }

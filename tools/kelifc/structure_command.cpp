@@ -1,8 +1,11 @@
+#include <cstdint>
+
 #include "kelifc/kelifc.h"
 
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/model_file.h"
 #include "tools/kelifc/output.h"
+#include "tools/kelifc/progress.h"
 #include "tools/kelifc/structure_format.h"
 #include "tools/kelifc/structure_reader.h"
 
@@ -13,9 +16,16 @@ using KelIFC::IfcServer;
 
 /// Loads the file with IfcServer instead of IIFCServer::Load, which returns one status for all
 /// failures and reports no progress.
-void LoadConvertible(IfcServer& model, const std::string& path, const Reading& reading) {
-  LoadModel(model, path, reading);
+ModelSource LoadConvertible(IfcServer& model, const std::string& path, const Reading& reading) {
+  ModelSource source = LoadModel(model, path, reading);
   RequireConvertible(model, path);
+  return source;
+}
+
+Structure ConvertWithProgress(const KelIFC::ComPtr<IIFCServer>& server, std::uint64_t modelSize,
+                              const Reading& reading) {
+  ProgressBar bar("converting", IsLargeFile(modelSize) && AllowsBar(reading));
+  return ReadStructure(KelIFC::Get(server, &IIFCServer::get_Structure), bar.GetHandler());
 }
 
 }  // namespace
@@ -25,8 +35,8 @@ void RunStructure(const StructureOptions& options) {
   KelIFC::ThrowIfFailed(classes.GetStatus());
   const auto server = KelIFC::CreateServer();
   IfcServer& model = *KelIFC::GetModel(server.Get());
-  LoadConvertible(model, options.model, options.reading);
-  Structure structure = ReadStructure(KelIFC::Get(server, &IIFCServer::get_Structure));
+  const ModelSource source = LoadConvertible(model, options.model, options.reading);
+  Structure structure = ConvertWithProgress(server, source.GetSize(), options.reading);
   structure.release = ReleaseText(model.GetRelease());
   WriteOutput(options.output,
               options.json ? StructureJson(options.model, structure) : StructureTable(structure));

@@ -1,5 +1,6 @@
 #include "tools/kelifc/structure_reader.h"
 
+#include <cstdint>
 #include <initializer_list>
 #include <optional>
 
@@ -131,10 +132,20 @@ Section ReadSection(const ComPtr<IGeoSection>& object) {
 
 }  // namespace
 
-Structure ReadStructure(const ComPtr<IGeoStructure>& structure) {
-  const auto read = [&structure](auto getter, auto readItem) {
-    return ReadAll(Items(structure, getter), readItem);
+Structure ReadStructure(const ComPtr<IGeoStructure>& structure,
+                        const KelIFC::ProgressHandler& progress) {
+  constexpr std::uint64_t kCollections = 7;
+  std::uint64_t done = 0;
+  const auto reach = [&] {
+    if (progress && !progress(done, kCollections)) throw KelIFC::ReadingCancelled();
   };
+  const auto read = [&](auto getter, auto readItem) {
+    auto all = ReadAll(Items(structure, getter), readItem);
+    ++done;
+    reach();
+    return all;
+  };
+  reach();
   Structure all;
   all.storeys = read(&IGeoStructure::get_Storeys, ReadStorey);
   all.columns = read(&IGeoStructure::get_Columns, ReadElement<IGeoColumn>);

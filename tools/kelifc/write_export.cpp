@@ -2,6 +2,8 @@
 
 #include <system_error>
 
+#include "kelifc/platform/program.h"
+
 #include "tools/kelifc/failure.h"
 #include "tools/kelifc/temporary_folder.h"
 
@@ -27,6 +29,7 @@ std::vector<CountedExport> CountExports(const KelIFC::Building& building,
     KelIFC::ExportOptions options;
     options.path = folder.GetPath("output");
     options.source = model;
+    options.progress = [](double /*share*/) { return !KelIFC::IsInterrupted(); };
     counted.push_back({format.name, WriteExport(building, format, options)});
   }
   return counted;

@@ -55,6 +55,16 @@ struct Step {
   ReleaseSet releases = ReleaseSet::All();
 };
 
+/// An attribute of the schema that consists of the instances that refer to an instance. No
+/// statement has it, and the class does not store it.
+struct Inverse {
+  Place place;
+  std::string name;
+  std::string entity;     ///< the entity of the instances that refer to the instance
+  std::string attribute;  ///< the attribute of that entity that holds the references
+  ReleaseSet releases = ReleaseSet::All();
+};
+
 /// An item of an explicit order: the name of an attribute or of another position.
 struct OrderItem {
   Place place;
@@ -107,6 +117,7 @@ struct Entity {
   std::vector<Attribute> attributes;  ///< in the order of the data members
   std::vector<Step> steps;            ///< in file order
   std::vector<RecordOrder> orders;
+  std::vector<Inverse> inverses;
   std::vector<Operation> operations;  ///< in the order of the slots
   std::vector<Marked> constructors;   ///< parameter lists; bodies are written by hand
   std::vector<Marked> chains;         ///< class whose Parse and Write run first

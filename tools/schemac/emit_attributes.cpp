@@ -37,6 +37,10 @@ constexpr std::string_view kAttribute =
      .use = AttributeUse::@use@},
 )";
 
+constexpr std::string_view kInverse =
+    R"(    {.name = "@name@", .entity = "@entity@", .attribute = "@attribute@"},
+)";
+
 constexpr std::string_view kMembers = R"(template <>
 struct Kept<@class@> : @class@ {
 @pointers@};
@@ -48,7 +52,8 @@ constexpr std::string_view kPointer = "  static constexpr auto @pointer@ = &Kept
 constexpr std::string_view kType = "    {&typeid(@class@), &k@name@},\n";
 
 /// Fields that are empty or false are left out.
-constexpr std::string_view kEntity = R"(@attributes@constexpr EntityDescription k@name@ = {
+constexpr std::string_view kEntity =
+    R"(@attributes@@inverses@constexpr EntityDescription k@name@ = {
     .name = "@name@",
     .form = EntityForm::@form@@fields@};
 
@@ -94,13 +99,25 @@ std::string AttributeText(const AttributeRow& row) {
   return text.insert(text.rfind('}'), flags.text);
 }
 
+std::string InverseText(const InverseRow& row) {
+  return Fill(kInverse, {{"name", row.name}, {"entity", row.entity}, {"attribute", row.attribute}});
+}
+
+/// Returns the definition of an array of rows, or an empty text if there are none.
+template <class Row>
+std::string ArrayText(const std::string& type, const std::string& name,
+                      const std::vector<Row>& rows, std::string (*textOf)(const Row&)) {
+  if (rows.empty()) return {};
+  std::string text = "constexpr " + type + " " + name + "[] = {\n";
+  for (const Row& row : rows) text += textOf(row);
+  return text + "};\n";
+}
+
 std::string EntityText(const EntityRow& row) {
-  std::string attributes;
-  for (const auto& attribute : row.attributes) attributes += AttributeText(attribute);
-  if (!attributes.empty()) {
-    attributes =
-        "constexpr AttributeDescription k" + row.name + "Attributes[] = {\n" + attributes + "};\n";
-  }
+  const std::string attributes = ArrayText("AttributeDescription", "k" + row.name + "Attributes",
+                                           row.attributes, &AttributeText);
+  const std::string inverses =
+      ArrayText("InverseAttribute", "k" + row.name + "Inverses", row.inverses, &InverseText);
   std::string bases;
   for (const auto& base : row.bases) bases += (bases.empty() ? "&k" : ", &k") + base;
   Fields fields(",\n    ");
@@ -114,7 +131,12 @@ std::string EntityText(const EntityRow& row) {
     fields.Add("attributeCount", std::to_string(row.attributes.size()));
   }
   if (row.positionCount != 0) fields.Add("positionCount", std::to_string(row.positionCount));
+  if (!inverses.empty()) {
+    fields.Add("inverses", "k" + row.name + "Inverses");
+    fields.Add("inverseCount", std::to_string(row.inverses.size()));
+  }
   return Fill(kEntity, {{"attributes", attributes},
+                        {"inverses", inverses},
                         {"name", row.name},
                         {"form", row.form},
                         {"fields", fields.text}});

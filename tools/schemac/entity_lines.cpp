@@ -42,7 +42,7 @@ class EntityLine {
     std::string_view word;
     void (EntityLine::*read)();
   };
-  static const std::array<Directive, 19> kDirectives;
+  static const std::array<Directive, 20> kDirectives;
 
   struct Modifier {
     std::string_view word;
@@ -145,6 +145,17 @@ class EntityLine {
     step.target = in.Name("the class that is reached");
     step.operation = in.Name("the operation that is called");
     entity.steps.push_back(std::move(step));
+  }
+
+  void ReadInverseLine() {
+    Inverse inverse;
+    inverse.place = in.Here();
+    inverse.releases = releases;
+    inverse.name = in.Name("the name of the attribute");
+    in.Expect("of");
+    inverse.entity = in.Name("the entity that refers to the instance");
+    inverse.attribute = in.Name("the attribute that holds the references");
+    entity.inverses.push_back(std::move(inverse));
   }
 
   void ReadOrder() { AddOrder(true, true); }
@@ -290,7 +301,7 @@ class EntityLine {
   ReleaseSet releases;
 };
 
-const std::array<EntityLine::Directive, 19> EntityLine::kDirectives = {{
+const std::array<EntityLine::Directive, 20> EntityLine::kDirectives = {{
     {"base", &EntityLine::ReadBase},
     {"chain", &EntityLine::ReadChain},
     {"make", &EntityLine::ReadMake},
@@ -301,6 +312,7 @@ const std::array<EntityLine::Directive, 19> EntityLine::kDirectives = {{
     {"unread", &EntityLine::ReadUnread},
     {"redeclared", &EntityLine::ReadRedeclared},
     {"link", &EntityLine::ReadLink},
+    {"inverse", &EntityLine::ReadInverseLine},
     {"order", &EntityLine::ReadOrder},
     {"reads", &EntityLine::ReadReads},
     {"writes", &EntityLine::ReadWrites},

@@ -89,6 +89,7 @@ EntityRow RowOf(const ReleaseModel& model, const ResolvedClass& type) {
   row.bases = SchemaBases(model, type);
   if (PositionCount(model, type.recordBase) != 0) row.record = type.recordBase;
   row.attributes = RowsOf(model, type);
+  row.inverses = InverseRowsOf(model, type);
   row.positionCount = PositionCount(model, entity.name);
   return row;
 }

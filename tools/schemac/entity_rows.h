@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "tools/schemac/attribute_rows.h"
+#include "tools/schemac/inverse_rows.h"
 #include "tools/schemac/release_model.h"
 
 namespace schemac {
@@ -23,11 +24,12 @@ struct EntityRow {
   std::vector<std::string> bases;
   std::string record;
   std::vector<AttributeRow> attributes;
+  std::vector<InverseRow> inverses;
   std::size_t positionCount = 0;
 };
 
 /// Returns all classes of a release, each after its bases. The classes of the core come first.
-/// Throws DescriptionError for a class with more than two bases.
+/// Throws DescriptionError for a class with more than two bases, and as InverseRowsOf does.
 std::vector<EntityRow> EntityRows(const ReleaseModel& model);
 
 }  // namespace schemac

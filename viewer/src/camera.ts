@@ -14,6 +14,8 @@ export interface CameraState {
   isPerspective: boolean;
 }
 
+type ViewDirection = Pick<CameraState, 'azimuth' | 'elevation' | 'isPerspective'>;
+
 export type ViewName = 'top' | 'front' | 'side' | 'iso';
 
 const kQuarter = Math.PI / 2;
@@ -26,6 +28,10 @@ const kAngles: Record<ViewName, [number, number]> = {
 const kFieldOfView = (32 * Math.PI) / 180;
 const kSmallestHeight = 0.01;
 const kLargestHeight = 1e6;
+/** The least distance that is drawn in perspective, as a share of that of the target. */
+const kNearestShare = 0.02;
+const kFitMargin = 1.1;
+const kFitRounds = 6;
 const kAnimationMilliseconds = 260;
 
 interface Basis {
@@ -51,6 +57,36 @@ function clamp(value: number, low: number, high: number): number {
 export interface Ray {
   origin: THREE.Vector3;
   direction: THREE.Vector3;
+}
+
+function cornersOf(box: Box): THREE.Vector3[] {
+  return Array.from({ length: 8 }, (_, i) => new THREE.Vector3(
+    box[i & 1 ? 3 : 0], box[i & 2 ? 4 : 1], box[i & 4 ? 5 : 2]));
+}
+
+/** The smallest frame that shows points: its middle and its height. A point is given by its places
+ *  to the right, upwards and towards the eye. `slope` is half of the height of the frame divided by
+ *  the distance of the eye; 0 if the view is orthographic. */
+function fittedFrame(
+  points: readonly (readonly [number, number, number])[], aspect: number, slope: number,
+): { x: number; y: number; height: number } {
+  const frame = { x: 0, y: 0, height: 0 };
+  // In perspective the middle depends on the height, so a few rounds improve both.
+  for (let round = 0; round < kFitRounds; ++round) {
+    frame.height = 0;
+    for (const [x, y, z] of points) {
+      const half = Math.max(Math.abs(y - frame.y), Math.abs(x - frame.x) / aspect);
+      frame.height = Math.max(frame.height, 2 * (half + z * slope));
+    }
+    const scales = points.map(([, , z]) => 1 / Math.max(1 - (2 * slope * z) / frame.height, 1e-3));
+    const middleOf = (places: number[]) => {
+      const seen = places.map((place, i) => place * scales[i]);
+      return (Math.min(...seen) + Math.max(...seen)) / 2;
+    };
+    frame.x += middleOf(points.map(([x]) => x - frame.x));
+    frame.y += middleOf(points.map(([, y]) => y - frame.y));
+  }
+  return frame;
 }
 
 export class ViewCamera {
@@ -100,12 +136,12 @@ export class ViewCamera {
   /** Looks from a side. The view is orthographic, and shows the box. */
   look(name: ViewName, box: Box): void {
     const [azimuth, elevation] = kAngles[name];
-    this.set({ azimuth, elevation, isPerspective: false, ...this.fitted(box, azimuth, elevation) },
-      true);
+    const view = { azimuth, elevation, isPerspective: false };
+    this.set({ ...view, ...this.fitted(box, view) }, true);
   }
 
   fit(box: Box, isAnimated = true): void {
-    this.set(this.fitted(box, this.state.azimuth, this.state.elevation), isAnimated);
+    this.set(this.fitted(box, this.state), isAnimated);
   }
 
   /** Turns about a point, which keeps its place on the screen. */
@@ -176,18 +212,20 @@ export class ViewCamera {
     return this.state.height / 2 / Math.tan(kFieldOfView / 2);
   }
 
-  private fitted(box: Box, azimuth: number, elevation: number): Partial<CameraState> {
+  private fitted(box: Box, view: ViewDirection): Partial<CameraState> {
     if (box[0] > box[3]) return {};
-    const { right, up } = basisOf(azimuth, elevation);
-    const size = [box[3] - box[0], box[4] - box[1], box[5] - box[2]];
-    const extent = (axis: THREE.Vector3) =>
-      Math.abs(axis.x) * size[0] + Math.abs(axis.y) * size[1] + Math.abs(axis.z) * size[2];
+    const { right, up, back } = basisOf(view.azimuth, view.elevation);
+    const middle = new THREE.Vector3(
+      (box[0] + box[3]) / 2, (box[1] + box[4]) / 2, (box[2] + box[5]) / 2);
+    const corners = cornersOf(box).map((corner) => {
+      const arm = corner.sub(middle);
+      return [arm.dot(right), arm.dot(up), arm.dot(back)] as const;
+    });
     const aspect = this.width / this.heightInPixels;
-    const margin = this.state.isPerspective ? 1.18 : 1.1;
-    return {
-      target: [(box[0] + box[3]) / 2, (box[1] + box[4]) / 2, (box[2] + box[5]) / 2],
-      height: Math.max(extent(up), extent(right) / aspect, 0.1) * margin,
-    };
+    const slope = view.isPerspective ? Math.tan(kFieldOfView / 2) : 0;
+    const { x, y, height } = fittedFrame(corners, aspect, slope);
+    const target = middle.addScaledVector(right, x).addScaledVector(up, y);
+    return { target: target.toArray(), height: Math.max(height, 0.1) * kFitMargin };
   }
 
   private use(state: CameraState): void {
@@ -228,7 +266,9 @@ export class ViewCamera {
     const distance = this.distance;
     const depth = distance - back.dot(centre.sub(target));
     const far = Math.max(depth + radius, distance * 1e-2);
-    const near = s.isPerspective ? Math.max(depth - radius, far * 1e-4) : depth - radius;
+    // The nearer the plane, the coarser the depths: edges would show through what hides them.
+    const near = s.isPerspective
+      ? Math.max(depth - radius, far * 1e-4, distance * kNearestShare) : depth - radius;
     const camera = this.camera as THREE.PerspectiveCamera | THREE.OrthographicCamera;
     this.setLens(camera, near, far);
     camera.matrix.makeBasis(right, up, back)

@@ -72,7 +72,7 @@ export class Controls {
     const at = this.place(event);
     const before = this.pointers.get(event.pointerId);
     if (!before) {
-      this.actions.hover(at.x, at.y);
+      if (event.pointerType !== 'touch') this.actions.hover(at.x, at.y);
       return;
     }
     if (this.start && Math.hypot(at.x - this.start.x, at.y - this.start.y) > kClickPixels) {

@@ -109,7 +109,9 @@ export interface BuildingData {
   positions: Float32Array;
   triangles: Uint32Array;
   edges: Uint32Array;
+  roundEdges: Uint32Array;
   meshes: Uint32Array;
+  meshRoundEdges: Uint32Array;
   elementMesh: Uint32Array;
   elementMatrix: Float32Array;
   loops: Uint32Array;
@@ -176,7 +178,9 @@ export function decodeContainer(buffer: ArrayBuffer): BuildingData {
     positions: floats('positions'),
     triangles: integers('triangles'),
     edges: integers('edges'),
+    roundEdges: integers('roundEdges'),
     meshes: integers('meshes'),
+    meshRoundEdges: integers('meshRoundEdges'),
     elementMesh: integers('elementMesh'),
     elementMatrix: floats('elementMatrix'),
     loops: integers('loops'),

@@ -4,6 +4,7 @@
 import * as THREE from 'three';
 import { kNoMesh } from './data';
 import type { MeshRange, Model } from './model';
+import { RoundEdgeList } from './round_edges';
 
 const kMostInstancedMeshes = 40;
 const kFewestInstances = 8;
@@ -11,10 +12,12 @@ const kFewestInstances = 8;
 const kLeastSaving = 2000;
 const kVerticesPerChunk = 3_000_000;
 
-/** The geometries of one group of elements. Both share their vertices. */
+/** The geometries of one group of elements. Faces and edges share their vertices. */
 export interface SolidGroup {
   faces: THREE.BufferGeometry;
   edges: THREE.BufferGeometry;
+  /** The edges of round surfaces; null if there are none. */
+  roundEdges: THREE.BufferGeometry | null;
   isInstanced: boolean;
 }
 
@@ -68,24 +71,28 @@ function instancedGroup(model: Model, mesh: MeshRange, elements: number[]): Soli
   const part = (size: number, offset: number) =>
     new THREE.InterleavedBufferAttribute(buffer, size, offset);
   const first = 3 * mesh.firstVertex;
-  const attributes = {
-    position: new THREE.BufferAttribute(positions.slice(first, first + 3 * mesh.vertices), 3),
+  const vertices = positions.slice(first, first + 3 * mesh.vertices);
+  const placement = {
     axisX: part(3, 0),
     axisY: part(3, 3),
     axisZ: part(3, 6),
     shift: part(3, 9),
     element: part(1, 12),
   };
-  const make = (index: Uint32Array) => {
+  const attributes = { position: new THREE.BufferAttribute(vertices, 3), ...placement };
+  const make = () => {
     const geometry = new THREE.InstancedBufferGeometry();
     geometry.instanceCount = elements.length;
-    return indexed(geometry, attributes, index);
+    return geometry;
   };
   const t = 3 * mesh.firstTriangle;
   const e = 2 * mesh.firstEdge;
+  const list = new RoundEdgeList(mesh.roundEdges);
+  list.add(model, mesh, vertices, 0);
   return {
-    faces: make(triangles.slice(t, t + 3 * mesh.triangles)),
-    edges: make(edges.slice(e, e + 2 * mesh.edges)),
+    faces: indexed(make(), attributes, triangles.slice(t, t + 3 * mesh.triangles)),
+    edges: indexed(make(), attributes, edges.slice(e, e + 2 * mesh.edges)),
+    roundEdges: list.geometry(make(), placement),
     isInstanced: true,
   };
 }
@@ -98,12 +105,13 @@ function fillIndex(
 
 function mergedGroup(model: Model, elements: number[]): SolidGroup {
   const ranges = elements.map((element) => model.meshOf(element)!);
-  const sum = (key: 'vertices' | 'triangles' | 'edges') =>
+  const sum = (key: 'vertices' | 'triangles' | 'edges' | 'roundEdges') =>
     ranges.reduce((total, range) => total + range[key], 0);
   const positions = new Float32Array(3 * sum('vertices'));
   const ids = new Float32Array(sum('vertices'));
   const triangles = new Uint32Array(3 * sum('triangles'));
   const edges = new Uint32Array(2 * sum('edges'));
+  const roundEdges = new RoundEdgeList(sum('roundEdges'));
   let vertex = 0;
   let triangle = 0;
   let edge = 0;
@@ -120,10 +128,11 @@ function mergedGroup(model: Model, elements: number[]): SolidGroup {
         [triangles[t], triangles[t + 1]] = [triangles[t + 1], triangles[t]];
       }
     }
-    for (let v = 0; v < range.vertices; ++v, ++vertex) {
-      positions.set(model.vertex(element, range.firstVertex + v), 3 * vertex);
-      ids[vertex] = element;
-    }
+    model.placeVertices(element, range.firstVertex, range.vertices, positions, 3 * vertex);
+    ids.fill(element, vertex, vertex + range.vertices);
+    const own = positions.subarray(3 * vertex, 3 * (vertex + range.vertices));
+    roundEdges.add(model, range, own, element);
+    vertex += range.vertices;
   });
   const attributes = {
     position: new THREE.BufferAttribute(positions, 3),
@@ -132,6 +141,7 @@ function mergedGroup(model: Model, elements: number[]): SolidGroup {
   return {
     faces: indexed(new THREE.BufferGeometry(), attributes, triangles),
     edges: indexed(new THREE.BufferGeometry(), attributes, edges),
+    roundEdges: roundEdges.geometry(new THREE.BufferGeometry()),
     isInstanced: false,
   };
 }

@@ -59,7 +59,7 @@ function fillOf(model: Model, loops: Loop[]): Point[] {
 export interface IdealisedGeometry {
   /** The axes of members. */
   axes: THREE.InstancedBufferGeometry;
-  /** The outlines and holes of surfaces. */
+  /** The outlines of surfaces, of their holes and of openings. */
   outlines: THREE.InstancedBufferGeometry;
   planes: THREE.BufferGeometry;
   nodes: THREE.BufferGeometry;
@@ -92,7 +92,7 @@ export function makeIdealised(model: Model): IdealisedGeometry {
     }
   }
   for (let element = 0; element < model.count; ++element) {
-    const closed = model.loopsOf(element).filter((loop) => loop.isClosed);
+    const closed = model.loopsOf(element).filter((loop) => loop.isClosed && !loop.isOpening);
     if (!closed.length) continue;
     for (const point of fillOf(model, closed)) {
       planes.push(...point);

@@ -14,11 +14,13 @@ import { Measure } from './measure';
 import { Model, type Box } from './model';
 import { Store } from './state';
 import { strings } from './strings';
+import { preparePrint } from './print';
 import { makeTabs } from './tabs';
 import { kDisplays, kViews, look, makeHelp, makePageTools, makeToolbar } from './toolbar';
 import { View } from './view';
 
 const kHoverMilliseconds = 40;
+const kTipGap = 14;
 
 function boxOf(model: Model, element: number): Box {
   return model.boxOf((i) => i === element);
@@ -40,8 +42,10 @@ function connectView(
     tip.hidden = element < 0;
     if (element >= 0) {
       tip.textContent = labelOf(store.model, element);
-      tip.style.left = `${x + 14}px`;
-      tip.style.top = `${y + 14}px`;
+      const { canvas } = view;
+      tip.style.left = `${Math.max(0, Math.min(x + kTipGap, canvas.clientWidth - tip.offsetWidth))}px`;
+      const isLow = y + kTipGap + tip.offsetHeight > canvas.clientHeight;
+      tip.style.top = `${isLow ? y - kTipGap - tip.offsetHeight : y + kTipGap}px`;
     }
     if (element !== hovered) view.setHovered((hovered = element));
   };
@@ -157,6 +161,7 @@ function show(model: Model): void {
   store.listen((changed) => changed.has('theme') && applyTheme(store, view));
   matchMedia('(prefers-color-scheme: dark)').addEventListener('change', () =>
     applyTheme(store, view));
+  if (view) preparePrint(stage, view);
   restoreView(location.hash, store, view);
   followAddress(store, view);
   placeHook(store, view);

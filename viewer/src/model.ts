@@ -29,6 +29,8 @@ export interface MeshRange {
   triangles: number;
   firstEdge: number;
   edges: number;
+  firstRoundEdge: number;
+  roundEdges: number;
 }
 
 export interface Loop {
@@ -36,7 +38,13 @@ export interface Loop {
   first: number;
   count: number;
   isClosed: boolean;
+  /** True for the outline of an opening. */
+  isOpening: boolean;
 }
+
+/** The kinds of loops in the data. */
+const kAxisLoop = 0;
+const kOpeningLoop = 2;
 
 /** A box as six numbers: the smallest coordinates, then the largest. */
 export type Box = [number, number, number, number, number, number];
@@ -94,6 +102,8 @@ export class Model {
       triangles: m[at + 3],
       firstEdge: m[at + 4],
       edges: m[at + 5],
+      firstRoundEdge: this.data.meshRoundEdges[2 * index],
+      roundEdges: this.data.meshRoundEdges[2 * index + 1],
     };
   }
 
@@ -110,17 +120,25 @@ export class Model {
 
   /** Transforms a vertex of a mesh by the matrix of an element. */
   vertex(element: number, vertex: number): [number, number, number] {
+    const point: [number, number, number] = [0, 0, 0];
+    this.placeVertices(element, vertex, 1, point, 0);
+    return point;
+  }
+
+  /** Transforms vertices of a mesh by the matrix of an element and writes them to a list. */
+  placeVertices(
+    element: number, first: number, count: number, target: Float32Array | number[], to: number,
+  ): void {
     const p = this.data.positions;
-    const m = this.data.elementMatrix;
-    const at = 12 * element;
-    const x = p[3 * vertex];
-    const y = p[3 * vertex + 1];
-    const z = p[3 * vertex + 2];
-    return [
-      m[at] * x + m[at + 3] * y + m[at + 6] * z + m[at + 9],
-      m[at + 1] * x + m[at + 4] * y + m[at + 7] * z + m[at + 10],
-      m[at + 2] * x + m[at + 5] * y + m[at + 8] * z + m[at + 11],
-    ];
+    const m = this.data.elementMatrix.subarray(12 * element, 12 * element + 12);
+    for (let at = 3 * first; at < 3 * (first + count); at += 3, to += 3) {
+      const x = p[at];
+      const y = p[at + 1];
+      const z = p[at + 2];
+      target[to] = m[0] * x + m[3] * y + m[6] * z + m[9];
+      target[to + 1] = m[1] * x + m[4] * y + m[7] * z + m[10];
+      target[to + 2] = m[2] * x + m[5] * y + m[8] * z + m[11];
+    }
   }
 
   /** The box of the elements for which `isPart` is true; the box of all if there is none. */
@@ -140,7 +158,8 @@ export class Model {
     const loops: Loop[] = [];
     for (let i = 0; i + 3 < raw.length; i += 4) {
       loops.push({
-        element: raw[i], first: raw[i + 1], count: raw[i + 2], isClosed: raw[i + 3] === 1,
+        element: raw[i], first: raw[i + 1], count: raw[i + 2],
+        isClosed: raw[i + 3] !== kAxisLoop, isOpening: raw[i + 3] === kOpeningLoop,
       });
     }
     return loops.sort((a, b) => a.element - b.element);

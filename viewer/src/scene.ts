@@ -238,7 +238,7 @@ export class BuildingScene {
   }
 
   private makeSolidLayers(): void {
-    const offset = { polygonOffset: true, polygonOffsetFactor: 1.5, polygonOffsetUnits: 2 };
+    const offset = { polygonOffset: true, polygonOffsetFactor: 0.75, polygonOffsetUnits: 2 };
     const count = { colorWrite: false, depthWrite: false, depthTest: false, stencilWrite: true };
     const stencil = (side: THREE.Side, op: THREE.StencilOp) => ({
       ...count, side, stencilZPass: op, stencilZFail: op, stencilFail: op,
@@ -247,12 +247,10 @@ export class BuildingScene {
       const defines = group.isInstanced ? { INSTANCED: '' } : {};
       const faces = this.material(shaders.solidVertex, shaders.solidFragment,
         { defines, ...offset });
-      const edges = this.material(shaders.solidVertex, shaders.edgeFragment,
-        { defines, transparent: true },
-        { depthShift: { value: 1e-5 }, opacity: this.uniforms.edgeOpacity });
       this.solidMaterials.push(faces);
       this.add(new THREE.Mesh(group.faces, faces), 1, () => this.display !== 'axes');
-      this.add(new THREE.LineSegments(group.edges, edges), 2, () => this.display !== 'axes');
+      this.addEdges(group.edges, defines);
+      if (group.roundEdges) this.addEdges(group.roundEdges, { ...defines, ROUND: '' });
       for (const options of [
         stencil(THREE.BackSide, THREE.IncrementWrapStencilOp),
         stencil(THREE.FrontSide, THREE.DecrementWrapStencilOp),
@@ -264,6 +262,13 @@ export class BuildingScene {
         this.capScene.add(counter);
       }
     }
+  }
+
+  private addEdges(geometry: THREE.BufferGeometry, defines: Record<string, string>): void {
+    const edges = this.material(shaders.solidVertex, shaders.edgeFragment,
+      { defines, transparent: true },
+      { depthShift: { value: 1e-5 }, opacity: this.uniforms.edgeOpacity });
+    this.add(new THREE.LineSegments(geometry, edges), 2, () => this.display !== 'axes');
   }
 
   private makeCap(): THREE.Mesh {

@@ -7,15 +7,21 @@ import type { Section } from './state';
 
 const kAxes = { x: 0, y: 1, z: 2 } as const;
 
+/** Faces in the plane are cut off, too: those that are nearer to it than this, in metres. */
+const kPlaneTolerance = 5e-4;
+
 /** Points with dot(normal, point) > distance are cut off; they are relative to the origin. */
 export class Plane {
   readonly normal: [number, number, number] = [0, 0, 0];
   readonly distance: number;
+  /** Where the solids are cut along the axis. */
+  readonly cut: number;
 
   constructor(readonly axis: number, readonly position: number, isFlipped: boolean) {
     const sign = isFlipped ? -1 : 1;
     this.normal[axis] = sign;
-    this.distance = sign * position;
+    this.distance = sign * position - kPlaneTolerance;
+    this.cut = sign * this.distance;
   }
 
   isCutOff(x: number, y: number, z: number): boolean {
@@ -57,7 +63,7 @@ export function sectionRange(axis: Section['axis'], model: Model): [number, numb
 
 /** The segment in which a plane cuts a triangle; null if it does not cut it. */
 function cutTriangle(corners: number[][], plane: Plane): [number[], number[]] | null {
-  const heights = corners.map((p) => p[plane.axis] - plane.position);
+  const heights = corners.map((p) => p[plane.axis] - plane.cut);
   const ends: number[][] = [];
   for (let i = 0; i < 3; ++i) {
     const j = (i + 1) % 3;
@@ -74,7 +80,7 @@ export function cutSegments(model: Model, visible: Uint8Array, plane: Plane): Se
   const { boxes, data } = model;
   for (let element = 0; element < model.count; ++element) {
     const at = 6 * element + plane.axis;
-    if (!visible[element] || !(boxes[at] < plane.position && plane.position < boxes[at + 3])) {
+    if (!visible[element] || !(boxes[at] < plane.cut && plane.cut < boxes[at + 3])) {
       continue;
     }
     const mesh = model.meshOf(element);

@@ -38,8 +38,14 @@ in vec3 axisY;
 in vec3 axisZ;
 in vec3 shift;
 vec3 place() { return axisX * position.x + axisY * position.y + axisZ * position.z + shift; }
+// The axes are square to each other.
+vec3 turn(vec3 normal) {
+  return axisX * (normal.x / dot(axisX, axisX)) + axisY * (normal.y / dot(axisY, axisY))
+      + axisZ * (normal.z / dot(axisZ, axisZ));
+}
 #else
 vec3 place() { return position; }
+vec3 turn(vec3 normal) { return normal; }
 #endif
 `;
 
@@ -56,10 +62,25 @@ uniform float pixelRatio;
 out vec3 vPoint;
 out float vFade;
 flat out vec4 vState;
+#ifdef ROUND
+in uvec2 sides;
+uniform vec3 viewDirection;
+flat out float vIsOutline;
+vec3 normalOf(uint side) {
+  vec3 parts = vec3(side & 1023u, (side >> 10u) & 1023u, (side >> 20u) & 1023u);
+  return turn(parts - 512.0);
+}
+#endif
 void main() {
   vState = stateOf(element);
   vPoint = place();
   gl_Position = projectionMatrix * viewMatrix * vec4(vPoint, 1.0);
+#ifdef ROUND
+  vec3 towards = isOrthographic ? -viewDirection : cameraPosition - vPoint;
+  bool isFirstSeen = dot(normalOf(sides.x), towards) > 0.0;
+  bool isSecondSeen = dot(normalOf(sides.y), towards) > 0.0;
+  vIsOutline = isFirstSeen == isSecondSeen ? 0.0 : 1.0;
+#endif
   // Edges of elements that are a few pixels wide would hide their colour.
   float pixels = sizeOf(element) * projectionMatrix[1][1] * viewport.y * 0.5
       / (max(gl_Position.w, 1e-6) * pixelRatio);
@@ -111,8 +132,14 @@ uniform float opacity;
 in vec3 vPoint;
 in float vFade;
 flat in vec4 vState;
+#ifdef ROUND
+flat in float vIsOutline;
+#endif
 out vec4 colour;
 void main() {
+#ifdef ROUND
+  if (vIsOutline < 0.5) discard;
+#endif
   if (isClipped(vPoint)) discard;
   colour = vec4(edgeColour, opacity * vFade);
 }

@@ -108,7 +108,8 @@ export class View {
     this.request();
   }
 
-  private draw(): void {
+  /** Draws a frame now. Its pixels can be read until the script ends. */
+  draw(): void {
     this.isPending = false;
     const start = performance.now();
     this.renderer.info.reset();

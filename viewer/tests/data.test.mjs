@@ -61,6 +61,26 @@ function volumes({ array }) {
   };
 }
 
+/** The area of a plane polygon. */
+function areaOf(points) {
+  const sum = [0, 0, 0];
+  points.forEach((p, i) => {
+    const q = points[(i + 1) % points.length];
+    for (let k = 0; k < 3; ++k) {
+      const [u, v] = [(k + 1) % 3, (k + 2) % 3];
+      sum[k] += (p[u] - points[0][u]) * (q[v] - points[0][v])
+        - (p[v] - points[0][v]) * (q[u] - points[0][u]);
+    }
+  });
+  return Math.hypot(...sum) / 2;
+}
+
+/** The most that openings take away from the solid of an element. */
+function mostCutOf(element) {
+  return element.openings.reduce((sum, { outline, depth }) =>
+    sum + areaOf(outline) * Math.max(depth + 0.02, element.thickness ?? 0), 0);
+}
+
 function checkSolids(data, expected) {
   const meshOf = data.array('elementMesh');
   const volumeOf = volumes(data);
@@ -68,8 +88,11 @@ function checkSolids(data, expected) {
   expected.forEach((element, i) => {
     const isMeasured = element.volume > leastVolume && (element.kind !== 'body' || element.body.closed);
     if (meshOf[i] === noMesh || !isMeasured) return;
-    const error = Math.abs(volumeOf(i, meshOf[i]) / element.volume - 1);
-    assert.ok(error <= mostVolumeError, `#${element.id}: the volume is wrong by ${error}`);
+    const volume = volumeOf(i, meshOf[i]);
+    const slack = mostVolumeError * element.volume;
+    assert.ok(volume <= element.volume + slack, `#${element.id}: the volume ${volume} is too large`);
+    const least = element.volume - mostCutOf(element) - slack;
+    assert.ok(volume >= least, `#${element.id}: the volume ${volume} is less than ${least}`);
   });
 }
 

@@ -90,7 +90,10 @@ export function makeHouse() {
     id: house.wall, class: 3, name: 'Wall', kind: 1, mesh: maker.meshes.length - 1,
     thickness: 0.24, area: 36, volume: 8.64, storey: 0, material: 0,
     matrix: memberMatrix([0, 8, 1.5], [12, 8, 1.5], [0, 1, 0]),
-    loops: [{ points: [[0, 8, 0], [12, 8, 0], [12, 8, 3], [0, 8, 3]], isClosed: true }],
+    loops: [
+      { points: [[0, 8, 0], [12, 8, 0], [12, 8, 3], [0, 8, 3]], isClosed: true },
+      { points: [[5, 8, 0.5], [6, 8, 0.5], [6, 8, 1.5], [5, 8, 1.5]], isOpening: true },
+    ],
   });
   maker.member(sections.pile, [3, 4, -3], [3, 4, 0], [1, 0, 0],
     { id: house.body, class: 4, name: 'Pile', kind: 2, profile: null, length: null, loops: [],
@@ -123,6 +126,9 @@ export function makeGrid(count) {
   const sections = Array.from({ length: 60 }, (_, i) => {
     const size = 0.2 + 0.005 * i;
     const sizes = { h: size, b: size };
+    if (i % 3 === 2) {
+      return maker.profile(`C ${i}`, 'circle', { d: size }, circle(size, 40), size * size, true);
+    }
     return i % 3
       ? maker.profile(`R ${i}`, 'rectangle', sizes, rectangle(size, size), size * size)
       : maker.profile(`I ${i}`, 'I', sizes, iSection(size, size, 0.01, 0.02), 0.01);

@@ -49,7 +49,11 @@ export function prism(outline, holes = [], isSmooth = false) {
     });
     first += ring.length;
   }
-  return { positions: [...at(0), ...at(1)], triangles, edges };
+  const roundEdges = isSmooth ? outline.map((_, i) => {
+    const [before, after] = [(i + count - 1) % count, (i + 1) % count];
+    return [i, i + count, before, after + count];
+  }) : [];
+  return { positions: [...at(0), ...at(1)], triangles, edges, roundEdges };
 }
 
 const cross = (a, b) =>
@@ -78,18 +82,22 @@ function columnsOf(elements) {
 }
 
 function meshArrays(meshes) {
-  const table = [];
-  const [positions, triangles, edges] = [[], [], []];
+  const [table, roundTable] = [[], []];
+  const [positions, triangles, edges, roundEdges] = [[], [], [], []];
   for (const mesh of meshes) {
     table.push(positions.length / 3, mesh.positions.length, triangles.length / 3,
       mesh.triangles.length, edges.length / 2, mesh.edges.length);
+    const round = mesh.roundEdges ?? [];
+    roundTable.push(roundEdges.length / 4, round.length);
+    for (const e of round) roundEdges.push(...e);
     for (const p of mesh.positions) positions.push(...p);
     for (const t of mesh.triangles) triangles.push(...t);
     for (const e of mesh.edges) edges.push(...e);
   }
   return {
     positions: Float32Array.from(positions), triangles: Uint32Array.from(triangles),
-    edges: Uint32Array.from(edges), meshes: Uint32Array.from(table),
+    edges: Uint32Array.from(edges), roundEdges: Uint32Array.from(roundEdges),
+    meshes: Uint32Array.from(table), meshRoundEdges: Uint32Array.from(roundTable),
   };
 }
 
@@ -98,7 +106,8 @@ function loopArrays(elements) {
   const points = [];
   elements.forEach((element, index) => {
     for (const loop of element.loops ?? []) {
-      loops.push(index, points.length / 3, loop.points.length, loop.isClosed ? 1 : 0);
+      loops.push(index, points.length / 3, loop.points.length,
+        loop.isOpening ? 2 : loop.isClosed ? 1 : 0);
       for (const p of loop.points) points.push(...p);
     }
   });

@@ -167,6 +167,64 @@ test('a section cuts elements off and fills the cut', () =>
     assert.equal(found, null);
   }));
 
+test('a section in the plane of a face cuts the face off', () =>
+  withPage({ hash: '#v=1&x=z,3.4,0' }, async (page) => {
+    await page.getByRole('button', { name: 'Top', exact: true }).click();
+    await settle(page);
+    const below = await pixelOf(page, [1, 1, 3]);
+    assert.equal(await page.evaluate((p) => window.kelifcPage.elementAt(...p), below), null);
+    const shot = await picture(page);
+    const colour = shot.at(...below.map(Math.round));
+    assert.ok(colour.every((c) => c > 245), `the slab is cut off: ${colour}`);
+  }));
+
+test('a round column has edges only at its outline', async () => {
+  const plain = makeHouse();
+  plain.elements.find((e) => e.id === house.body).approximate = 0; // without hatching
+  const page = await bench.show(bench.write('pile.html', plain));
+  for (const [name, across] of [['Front', [0.25, 0]], ['Side', [0, 0.25]]]) {
+    await page.getByRole('button', { name, exact: true }).click();
+    const shot = await picture(page);
+    for (const [share, isEdge] of [[-1, true], [-0.5, false], [0, false], [1, true]]) {
+      const point = [3 + share * across[0], 4 + share * across[1], -0.8];
+      const [x, y] = (await pixelOf(page, point)).map(Math.round);
+      const isDark = [-2, -1, 0, 1, 2].some((dx) => shot.at(x + dx, y).every((c) => c < 120));
+      assert.equal(isDark, isEdge, `${name}: ${share}`);
+    }
+  }
+  await page.context().close();
+});
+
+test('the idealisation shows the outlines of openings', () =>
+  withPage({ hash: '#v=1&d=axes' }, async (page) => {
+    await page.getByRole('button', { name: 'Front', exact: true }).click();
+    await settle(page);
+    const [x, y] = (await pixelOf(page, [5, 8, 1])).map(Math.round);
+    const shot = await picture(page);
+    const beside = shot.at(x - 8, y);
+    const isLine = [-1, 0, 1].some((dx) =>
+      shot.at(x + dx, y).some((c, i) => Math.abs(c - beside[i]) > 25));
+    assert.ok(isLine, 'the left edge of the window');
+    const middle = (await pixelOf(page, [5.5, 8, 1])).map(Math.round);
+    assert.deepEqual(shot.at(...middle), beside, 'the plane is filled');
+  }));
+
+test('paper shows the view in light colours', () => withPage({ dark: true }, async (page) => {
+  await clickPoint(page, slabTop);
+  await page.emulateMedia({ media: 'print', colorScheme: 'dark' });
+  await page.evaluate(() => dispatchEvent(new Event('beforeprint')));
+  assert.equal(await page.locator('.panel').isVisible(), false);
+  assert.equal(await page.locator('.details h2').textContent(), 'Slab 1');
+  assert.equal(await page.locator('html').getAttribute('data-theme'), 'light');
+  const colours = await page.locator('.print-only').evaluate((canvas) => {
+    const { data } = canvas.getContext('2d').getImageData(0, 0, canvas.width, canvas.height);
+    return [data[0], new Set(new Uint32Array(data.buffer)).size];
+  });
+  assert.ok(colours[0] > 245 && colours[1] > 3, `the copy has ${colours}`);
+  await page.evaluate(() => dispatchEvent(new Event('afterprint')));
+  assert.equal(await page.locator('html').getAttribute('data-theme'), 'dark');
+}));
+
 test('the standard views are orthographic and fit the model', () => withPage({}, async (page) => {
   for (const name of ['Top', 'Front', 'Side', 'Isometric']) {
     await page.getByRole('button', { name, exact: true }).click();

@@ -17,6 +17,7 @@
 #include "kelifc/building/build/storeys.h"
 #include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/profile/make_profile.h"
+#include "kelifc/building/reading_progress.h"
 #include "kelifc/building/solid/key_writer.h"
 
 namespace KelIFC::building {
@@ -121,7 +122,12 @@ class Assembler {
 Building Assembler::Run() {
   ArrangeStoreys(building.storeys);
   AnnounceBodies();
-  for (ProductFacts& product : products) Add(product);
+  ReadingProgress progress(options, products.size());
+  for (std::size_t i = 0; i < products.size(); ++i) {
+    progress.Reach(products.size() + i);
+    Add(products[i]);
+  }
+  progress.Reach(2 * products.size());
   LinkParts();
   const StoreysByHeight storeys(building.storeys);
   for (BuildingElement& element : building.elements) {

@@ -9,7 +9,8 @@ namespace KelIFC::building {
 
 /// Makes a building from what was read of a model: the bodies, their idealisations, and the ledger,
 /// in which each product is an element, decomposed or a loss. No IFC file is needed here. The items
-/// of a product are released after its body is made. Throws nothing but std::bad_alloc.
+/// of a product are released after its body is made. Throws std::bad_alloc and
+/// ReadingCancelled.
 Building Assemble(ModelFacts model, const ReadingOptions& options);
 
 }  // namespace KelIFC::building

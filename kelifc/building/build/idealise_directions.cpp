@@ -1,6 +1,7 @@
 #include "kelifc/building/build/idealise_directions.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace KelIFC::building::idealising {
 namespace {
@@ -8,8 +9,12 @@ namespace {
 // The sine of the angle within which directions count as one, and faces as square or parallel.
 constexpr double kSameDirection = 0.009;
 
-// How many clusters of edges and of faces are kept.
+// The sine of the angle within which edges and normals are parallel except for rounding.
+constexpr double kParallel = 2e-4;
+
+// How many clusters of edges and of faces are kept, and of parallel ones.
 constexpr std::size_t kMostClusters = 5;
+constexpr std::size_t kMostParallel = 64;
 
 // How many of the longest edges and largest faces are looked at.
 constexpr std::size_t kMostWeighed = 4000;
@@ -21,24 +26,36 @@ struct Weighted {
 
 bool AreSame(const Vector3& a, const Vector3& b) { return Length(Cross(a, b)) < kSameDirection; }
 
-// Groups vectors; each group has the direction of its heaviest member.
-std::vector<Weighted> Cluster(std::vector<Weighted> items) {
+void SortByWeight(std::vector<Weighted>& items) {
   std::stable_sort(items.begin(), items.end(),
                    [](const Weighted& a, const Weighted& b) { return a.weight > b.weight; });
+}
+
+// Groups vectors that differ by less than the sine of an angle. Each group has the direction of its
+// heaviest member.
+std::vector<Weighted> Group(std::vector<Weighted> items, double sine, std::size_t most) {
+  SortByWeight(items);
   if (items.size() > kMostWeighed) items.resize(kMostWeighed);
-  std::vector<Weighted> clusters;
+  std::vector<Weighted> groups;
   for (const Weighted& item : items) {
-    const auto same = std::find_if(clusters.begin(), clusters.end(), [&](const Weighted& cluster) {
-      return AreSame(cluster.vector, item.vector);
+    const auto same = std::find_if(groups.begin(), groups.end(), [&](const Weighted& group) {
+      return Length(Cross(group.vector, item.vector)) < sine;
     });
-    if (same != clusters.end()) {
+    if (same != groups.end()) {
       same->weight += item.weight;
-    } else if (clusters.size() < 4 * kMostClusters) {
-      clusters.push_back(item);
+    } else if (groups.size() < most) {
+      groups.push_back(item);
     }
   }
-  std::stable_sort(clusters.begin(), clusters.end(),
-                   [](const Weighted& a, const Weighted& b) { return a.weight > b.weight; });
+  return groups;
+}
+
+// Groups vectors; each group has the direction in which most of it is parallel. So the diagonals of
+// narrow faces do not turn the direction of their long sides.
+std::vector<Weighted> Cluster(std::vector<Weighted> items) {
+  std::vector<Weighted> clusters =
+      Group(Group(std::move(items), kParallel, kMostParallel), kSameDirection, 4 * kMostClusters);
+  SortByWeight(clusters);
   if (clusters.size() > kMostClusters) clusters.resize(kMostClusters);
   return clusters;
 }

@@ -71,14 +71,19 @@ FoundEnd EndIn(const EndFaces& plane, const Vector3& out) {
 
 FoundEnd FindEnd(Boundary& boundary, const Vector3& out, double sectionArea) {
   const std::vector<EndFaces> planes = GroupFaces(boundary, out);
+  // Of the planes that cover the section, the outermost: others are inside of the body.
+  const EndFaces* end = nullptr;
+  for (const EndFaces& plane : planes) {
+    if (plane.area < kCovers * sectionArea) continue;
+    if (end == nullptr || At(plane.point, out) > At(end->point, out) + kSamePlane) end = &plane;
+  }
+  if (end != nullptr) return EndIn(*end, out);
   const auto largest =
       std::max_element(planes.begin(), planes.end(),
                        [](const EndFaces& a, const EndFaces& b) { return a.area < b.area; });
-  if (largest != planes.end()) {
-    if (largest->area >= kCovers * sectionArea) return EndIn(*largest, out);
-    if (largest->area >= kCoversWithSupport * sectionArea && IsInFront(boundary, *largest)) {
-      return EndIn(*largest, out);
-    }
+  if (largest != planes.end() && largest->area >= kCoversWithSupport * sectionArea &&
+      IsInFront(boundary, *largest)) {
+    return EndIn(*largest, out);
   }
   return {Point3() + boundary.Along(out).to * out, out, true};
 }

@@ -35,11 +35,19 @@ bool HasSeveralParts(Boundary& boundary) {
   const Mesh& mesh = boundary.Mesh();
   if (mesh.IsEmpty()) return false;
   const std::vector<std::size_t> parts = FindParts(mesh);
-  const std::size_t whole = parts[mesh.LoopOf(0, 0)[0]];
-  for (std::size_t face = 1; face < mesh.FaceCount(); ++face) {
-    if (parts[mesh.LoopOf(face, 0)[0]] != whole) return true;
+  std::vector<double> volumes(mesh.points.size(), 0.0);
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    const Mesh::Index first = mesh.LoopOf(face, 0)[0];
+    volumes[parts[first]] += Dot(FromOrigin(mesh.points[first]), AreaVectorOf(mesh, face));
   }
-  return false;
+  // The boundary of a cavity has a negative volume, and belongs to the part around it.
+  std::size_t cavities = 0;
+  std::size_t count = 0;
+  for (std::size_t i = 0; i < parts.size(); ++i) {
+    if (parts[i] != i || volumes[i] == 0.0) continue;
+    ++(volumes[i] < 0.0 ? cavities : count);
+  }
+  return count > 1 || (count == 0 && cavities > 1);
 }
 
 }  // namespace KelIFC::building::idealising

@@ -29,14 +29,23 @@ double GradeOf(const Grade (&grades)[n], double value) {
   return 0.0;
 }
 
-// Grades by falling limit. The last one holds for all values.
+// Grades by falling limit. The last one holds for all values: a prism is read as what it is,
+// whatever its proportions.
 constexpr Grade kMemberAsMember[] = {{3.0, 1.0}, {1.2, 0.8}, {0.8, 0.3}, {0.0, 0.1}};
-constexpr Grade kPlaneAsMember[] = {{3.0, 0.5}, {2.5, 0.4}, {1.2, 0.15}, {0.0, 0.05}};
-constexpr Grade kPlaneAsSurface[] = {{3.0, 1.0}, {1.5, 0.8}, {1.0, 0.45}, {0.5, 0.2}, {0.0, 0.05}};
-constexpr Grade kMemberAsSurface[] = {{3.0, 0.5}, {1.5, 0.2}, {0.0, 0.05}};
-constexpr Grade kFootingAsMember[] = {{2.5, 0.95}, {1.2, 0.3}, {0.0, 0.05}};
-constexpr Grade kFootingAsSurface[] = {{2.5, 0.9}, {1.0, 0.6}, {0.7, 0.35}, {0.0, 0.05}};
-constexpr Grade kAnything[] = {{3.0, 0.9}, {2.0, 0.6}, {1.2, 0.3}, {0.0, 0.05}};
+constexpr Grade kPlaneAsMember[] = {{3.0, 0.5}, {2.5, 0.4}, {1.2, 0.15}, {0.0, 0.1}};
+constexpr Grade kPlaneAsSurface[] = {{3.0, 1.0}, {1.5, 0.8}, {1.0, 0.45}, {0.5, 0.2}, {0.0, 0.1}};
+constexpr Grade kMemberAsSurface[] = {{3.0, 0.5}, {1.5, 0.2}, {0.0, 0.1}};
+constexpr Grade kFootingAsMember[] = {{2.5, 0.95}, {1.2, 0.3}, {0.0, 0.1}};
+constexpr Grade kFootingAsSurface[] = {{2.5, 0.9}, {1.0, 0.6}, {0.7, 0.35}, {0.0, 0.1}};
+constexpr Grade kAnything[] = {{3.0, 0.9}, {2.0, 0.6}, {1.2, 0.3}, {0.0, 0.1}};
+
+// A reading that is exact is better than any other one, even if its proportions are unusual.
+enum Rank : int { kUnacceptable, kApproximate, kExact };
+
+Rank RankOf(const Reading& reading) {
+  if (!IsAcceptable(reading)) return kUnacceptable;
+  return reading.fit.isApproximate ? kApproximate : kExact;
+}
 
 // The factor if the element is flat rather than slender, or the other way round.
 constexpr double kOtherKindIsNearer = 0.6;
@@ -125,22 +134,22 @@ double ScoreOf(const Reading& reading) {
 }
 
 bool IsAcceptable(const Reading& reading) {
-  constexpr double kLeastSuitability = 0.1;
+  constexpr double kLeastSuitability = 0.2;
   constexpr double kLargestRelativeDeviation = 0.12;
   constexpr double kLargestVolumeError = 0.25;
-  if (reading.suitability < kLeastSuitability) return false;
   if (!reading.fit.isApproximate) return true;
-  if (reading.suitability < 2 * kLeastSuitability) return false;
+  if (reading.suitability < kLeastSuitability) return false;
   return reading.fit.deviation <= kLargestRelativeDeviation * reading.size &&
          (!reading.fit.ratio || std::fabs(*reading.fit.ratio - 1.0) <= kLargestVolumeError);
 }
 
 void KeepBetter(std::optional<Reading>& best, std::optional<Reading> other) {
   if (!other) return;
-  if (best && IsAcceptable(*best) && !IsAcceptable(*other)) return;
-  const bool isBetter = !best || (IsAcceptable(*other) && !IsAcceptable(*best)) ||
-                        ScoreOf(*other) > ScoreOf(*best) + 1e-9;
-  if (isBetter) best = std::move(other);
+  const int rank = best ? RankOf(*best) : kUnacceptable;
+  const int otherRank = RankOf(*other);
+  if (!best || otherRank > rank || (otherRank == rank && ScoreOf(*other) > ScoreOf(*best) + 1e-9)) {
+    best = std::move(other);
+  }
 }
 
 bool IsGood(const std::optional<Reading>& reading) {

@@ -62,6 +62,22 @@ ProfileParameters SymmetricI(const CornerRing& c) {
                      {kR, Radius(c, {3, 4, 9, 10})}});
 }
 
+// With flanges that slope. The thickness is that in the middle of each half of a flange.
+ProfileParameters TaperedI(const CornerRing& c) {
+  ProfileParameters parameters = SymmetricI(c);
+  const auto value = [&parameters](ProfileParameter parameter) -> double& {
+    return parameters[static_cast<std::size_t>(parameter)];
+  };
+  const double width = (value(kB) - value(kTw)) / 2.0;
+  const double rise =
+      Mean(Mean(c.Y(3) - c.Y(2), c.Y(10) - c.Y(11)), Mean(c.Y(5) - c.Y(4), c.Y(8) - c.Y(9)));
+  const double slope = rise / width;
+  value(kTf) += value(kB) / 4.0 * slope;
+  value(kR1) = Radius(c, {2, 5, 8, 11});
+  value(kSlope) = std::atan(slope);
+  return parameters;
+}
+
 ProfileParameters U(const CornerRing& c) {
   const double b = c.X(1) - c.X(0);
   const double width = c.X(2) - c.X(3);
@@ -144,6 +160,7 @@ const std::vector<ShapeMeasure>& ShapeMeasures() {
       {ProfileShape::kT, 8, T},
       {ProfileShape::kZ, 8, Z},
       {ProfileShape::kI, 12, SymmetricI},
+      {ProfileShape::kI, 12, TaperedI},
       {ProfileShape::kAsymmetricI, 12, AsymmetricI},
       {ProfileShape::kC, 12, C},
   };

@@ -16,10 +16,11 @@ constexpr double kLargestSize = 1e6;    // sizes beyond it are faults of the fil
 constexpr double kSteepestSlope = 0.7;  // in radians; the faces of an L of 45 degrees are parallel
 constexpr std::size_t kMostEllipseChords = 4096;
 
-// The sizes of a shape under short names. `k` is the tangent of the slope.
+// The sizes of a shape under short names. `k` is the tangent of the slope. `webK` and `webR` are
+// the tangent of the slope and the radius of the edges of the web of a T.
 struct Sizes {
   double h = 0.0, b = 0.0, b1 = 0.0, d = 0.0, t = 0.0, tw = 0.0, tf = 0.0, tf1 = 0.0, c = 0.0,
-         r = 0.0, r1 = 0.0, k = 0.0, offset = 0.0;
+         r = 0.0, r1 = 0.0, k = 0.0, offset = 0.0, webK = 0.0, webR = 0.0;
 };
 
 using Corners = std::vector<RoundedCorner>;
@@ -111,11 +112,24 @@ Corners AsymmetricI(const Sizes& s) {
 }
 
 Corners SymmetricI(const Sizes& s) {
-  Sizes both = s;
-  both.b1 = s.b;
-  both.tf1 = s.tf;
-  both.r1 = s.r;
-  return AsymmetricI(both);
+  const double toe = s.tf - s.b / 4.0 * s.k;
+  const double root = s.tf + (s.b / 4.0 - s.tw / 2.0) * s.k;
+  if (!(s.tw > 0.0 && s.tw < s.b && toe > 0.0 && root > 0.0)) return {};
+  if (!(2.0 * std::max(toe, root) < s.h)) return {};
+  const double web = s.tw / 2.0;
+  const double side = s.b / 2.0;
+  return {{{-side, 0.0}},
+          {{side, 0.0}},
+          {{side, toe}, s.r1},
+          {{web, root}, s.r},
+          {{web, s.h - root}, s.r},
+          {{side, s.h - toe}, s.r1},
+          {{side, s.h}},
+          {{-side, s.h}},
+          {{-side, s.h - toe}, s.r1},
+          {{-web, s.h - root}, s.r},
+          {{-web, root}, s.r},
+          {{-side, toe}, s.r1}};
 }
 
 Corners U(const Sizes& s) {
@@ -146,19 +160,18 @@ Corners L(const Sizes& s) {
 }
 
 Corners T(const Sizes& s) {
+  // For x > 0 the lower face of the flange is y = h - tf + (x - b / 4) k, and the side of the web
+  // is x = tw / 2 + (y - h / 2) webK.
   const double toe = s.tf - s.b / 4.0 * s.k;
-  const double root = s.tf + (s.b / 4.0 - s.tw / 2.0) * s.k;
-  if (!(s.tw > 0.0 && s.tw < s.b && toe > 0.0 && root > 0.0)) return {};
-  if (!(std::max(toe, root) < s.h)) return {};
-  const double web = s.tw / 2.0;
-  return {{{-web, 0.0}},
-          {{web, 0.0}},
-          {{web, s.h - root}, s.r},
-          {{s.b / 2.0, s.h - toe}, s.r1},
-          {{s.b / 2.0, s.h}},
-          {{-s.b / 2.0, s.h}},
-          {{-s.b / 2.0, s.h - toe}, s.r1},
-          {{-web, s.h - root}, s.r}};
+  const double foot = s.tw / 2.0 - s.h / 2.0 * s.webK;
+  const double x =
+      (s.tw / 2.0 + (s.h / 2.0 - s.tf - s.b / 4.0 * s.k) * s.webK) / (1.0 - s.k * s.webK);
+  const double root = s.tf + (s.b / 4.0 - x) * s.k;
+  if (!(foot > 0.0 && foot < s.b / 2.0 && x > 0.0 && x < s.b / 2.0)) return {};
+  if (!(toe > 0.0 && root > 0.0 && std::max(toe, root) < s.h)) return {};
+  return {{{-foot, 0.0}, s.webR},          {{foot, 0.0}, s.webR},  {{x, s.h - root}, s.r},
+          {{s.b / 2.0, s.h - toe}, s.r1},  {{s.b / 2.0, s.h}},     {{-s.b / 2.0, s.h}},
+          {{-s.b / 2.0, s.h - toe}, s.r1}, {{-x, s.h - root}, s.r}};
 }
 
 Corners Z(const Sizes& s) {
@@ -222,6 +235,14 @@ std::optional<Sizes> SizesOf(const ProfileParameters& parameters) {
                .offset = size(kOffset)};
 }
 
+std::optional<Region> RegionOf(Corners corners) {
+  if (corners.empty()) return std::nullopt;
+  Centre(corners);
+  auto contour = RoundedContour(corners);
+  if (!contour) return std::nullopt;
+  return Region{std::move(*contour), {}};
+}
+
 }  // namespace
 
 std::vector<RoundedCorner> ShapeCorners(ProfileShape shape, const ProfileParameters& parameters) {
@@ -238,11 +259,16 @@ std::optional<Region> ShapeRegion(ProfileShape shape, const ProfileParameters& p
   const auto sizes = SizesOf(parameters);
   if (!sizes || at >= kRegionMakers.size()) return std::nullopt;
   if (kRegionMakers[at] != nullptr) return kRegionMakers[at](*sizes);
-  const Corners corners = ShapeCorners(shape, parameters);
-  if (corners.empty()) return std::nullopt;
-  auto contour = RoundedContour(corners);
-  if (!contour) return std::nullopt;
-  return Region{std::move(*contour), {}};
+  return kCornerMakers[at] == nullptr ? std::nullopt : RegionOf(kCornerMakers[at](*sizes));
+}
+
+std::optional<Region> TRegion(const ProfileParameters& parameters, const WebOfT& web) {
+  auto sizes = SizesOf(parameters);
+  if (!sizes || !(std::abs(web.slope) <= kSteepestSlope)) return std::nullopt;
+  if (!(web.edgeRadius >= 0.0 && web.edgeRadius < kLargestSize)) return std::nullopt;
+  sizes->webK = std::tan(web.slope);
+  sizes->webR = web.edgeRadius;
+  return RegionOf(T(*sizes));
 }
 
 }  // namespace KelIFC::building

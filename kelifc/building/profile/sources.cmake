@@ -1,5 +1,6 @@
 target_sources(kelifc_building PRIVATE
   profile/contour_distance.cpp
+  profile/crane_rail.cpp
   profile/designate.cpp
   profile/find_circle.cpp
   profile/find_corners.cpp

@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <numbers>
 #include <optional>
+#include <span>
 #include <utility>
 
 #include "kelifc/building/profile/parameter_table.h"
@@ -59,12 +60,12 @@ void AddIRows(Sections& sections) {
   }
 }
 
-void AddURows(Sections& sections) {
-  for (const URow& row : kURows) {
+void AddSlopeRows(Sections& sections, ProfileShape shape, std::span<const SlopeRow> rows) {
+  for (const SlopeRow& row : rows) {
     ProfileParameters parameters = Millimetres(
         {{kH, row.h}, {kB, row.b}, {kTw, row.tw}, {kTf, row.tf}, {kR, row.r}, {kR1, row.r1}});
     ValueOf(parameters, kSlope) = std::atan(row.slope);
-    sections.push_back({row.series + TextOfSize(row.h * kMillimetre), ProfileShape::kU, parameters,
+    sections.push_back({row.series + TextOfSize(row.h * kMillimetre), shape, parameters,
                         row.area * kSquareCentimetre});
   }
 }
@@ -115,6 +116,7 @@ void MakeCanonical(ProfileShape& shape, ProfileParameters& parameters) {
   if (shape == ProfileShape::kAsymmetricI && !differ(kB, kB1) && !differ(kTf, kTf1) &&
       !differ(kR, kR1)) {
     shape = ProfileShape::kI;
+    ValueOf(parameters, kR1) = 0.0;  // of an I, this is the radius of the edges
   }
 }
 
@@ -141,7 +143,8 @@ const std::vector<StandardSection>& StandardSections() {
   static const std::vector<StandardSection> sections = [] {
     Sections list;
     AddIRows(list);
-    AddURows(list);
+    AddSlopeRows(list, ProfileShape::kI, kTaperedIRows);
+    AddSlopeRows(list, ProfileShape::kU, kURows);
     AddSizeRows(list);
     AddTubeRows(list);
     return list;

@@ -1,23 +1,15 @@
 #include "kelifc/building/read/attribute.h"
 
 #include <array>
+#include <span>
+
+#include "kelifc/building/read/position_row.h"
+#include "kelifc/building/read/profile_positions.h"
 
 namespace KelIFC::building {
 namespace {
 
-// Releases, as bits.
-constexpr unsigned k2x = 1;
-constexpr unsigned k2x2 = 2;
-constexpr unsigned k2x3 = 4;
-constexpr unsigned kAll = k2x | k2x2 | k2x3;
 constexpr std::size_t kReleases = 3;
-
-struct PositionRow {
-  Entity entity;
-  Attribute attribute;
-  std::int8_t position;
-  unsigned releases = kAll;
-};
 
 using E = Entity;
 using A = Attribute;
@@ -174,80 +166,6 @@ constexpr PositionRow kCurves[] = {
 };
 
 // The profiles with sizes have a name at 1 and a position at 2; BuildTable adds both.
-constexpr PositionRow kProfiles[] = {
-    {E::kArbitraryClosedProfile, A::kCurve, 2},
-    {E::kArbitraryProfileWithVoids, A::kCurve, 2},
-    {E::kArbitraryProfileWithVoids, A::kInnerCurves, 3},
-    {E::kArbitraryOpenProfile, A::kCurve, 2},
-    {E::kCenterLineProfile, A::kCurve, 2},
-    {E::kCenterLineProfile, A::kThickness, 3},
-    {E::kCompositeProfile, A::kProfiles, 2},
-    {E::kDerivedProfile, A::kParentProfile, 2},
-    {E::kDerivedProfile, A::kOperator, 3},
-    {E::kRectangleProfile, A::kXDim, 3},
-    {E::kRectangleProfile, A::kYDim, 4},
-    {E::kRoundedRectangleProfile, A::kXDim, 3},
-    {E::kRoundedRectangleProfile, A::kYDim, 4},
-    {E::kRoundedRectangleProfile, A::kFilletRadius, 5},
-    {E::kRectangleHollowProfile, A::kXDim, 3},
-    {E::kRectangleHollowProfile, A::kYDim, 4},
-    {E::kRectangleHollowProfile, A::kWallThickness, 5},
-    {E::kRectangleHollowProfile, A::kInnerFilletRadius, 6},
-    {E::kRectangleHollowProfile, A::kOuterFilletRadius, 7},
-    {E::kTrapeziumProfile, A::kXDim, 3},
-    {E::kTrapeziumProfile, A::kTopXDim, 4},
-    {E::kTrapeziumProfile, A::kYDim, 5},
-    {E::kTrapeziumProfile, A::kTopXOffset, 6},
-    {E::kCircleProfile, A::kRadius, 3},
-    {E::kCircleHollowProfile, A::kRadius, 3},
-    {E::kCircleHollowProfile, A::kWallThickness, 4},
-    {E::kEllipseProfile, A::kSemiAxis1, 3},
-    {E::kEllipseProfile, A::kSemiAxis2, 4},
-    {E::kIShapeProfile, A::kXDim, 3},
-    {E::kIShapeProfile, A::kYDim, 4},
-    {E::kIShapeProfile, A::kWebThickness, 5},
-    {E::kIShapeProfile, A::kFlangeThickness, 6},
-    {E::kIShapeProfile, A::kFilletRadius, 7},
-    {E::kAsymmetricIShapeProfile, A::kXDim, 3},
-    {E::kAsymmetricIShapeProfile, A::kYDim, 4},
-    {E::kAsymmetricIShapeProfile, A::kWebThickness, 5},
-    {E::kAsymmetricIShapeProfile, A::kFlangeThickness, 6},
-    {E::kAsymmetricIShapeProfile, A::kFilletRadius, 7},
-    {E::kAsymmetricIShapeProfile, A::kTopFlangeWidth, 8},
-    {E::kAsymmetricIShapeProfile, A::kTopFlangeThickness, 9},
-    {E::kAsymmetricIShapeProfile, A::kTopFlangeFilletRadius, 10},
-    {E::kLShapeProfile, A::kYDim, 3},
-    {E::kLShapeProfile, A::kXDim, 4},
-    {E::kLShapeProfile, A::kWallThickness, 5},
-    {E::kLShapeProfile, A::kFilletRadius, 6},
-    {E::kLShapeProfile, A::kEdgeRadius, 7},
-    {E::kLShapeProfile, A::kSlope, 8},
-    {E::kUShapeProfile, A::kYDim, 3},
-    {E::kUShapeProfile, A::kXDim, 4},
-    {E::kUShapeProfile, A::kWebThickness, 5},
-    {E::kUShapeProfile, A::kFlangeThickness, 6},
-    {E::kUShapeProfile, A::kFilletRadius, 7},
-    {E::kUShapeProfile, A::kEdgeRadius, 8},
-    {E::kUShapeProfile, A::kSlope, 9},
-    {E::kTShapeProfile, A::kYDim, 3},
-    {E::kTShapeProfile, A::kXDim, 4},
-    {E::kTShapeProfile, A::kWebThickness, 5},
-    {E::kTShapeProfile, A::kFlangeThickness, 6},
-    {E::kTShapeProfile, A::kFilletRadius, 7},
-    {E::kTShapeProfile, A::kEdgeRadius, 8},
-    {E::kTShapeProfile, A::kSlope, 11},
-    {E::kCShapeProfile, A::kYDim, 3},
-    {E::kCShapeProfile, A::kXDim, 4},
-    {E::kCShapeProfile, A::kWallThickness, 5},
-    {E::kCShapeProfile, A::kGirth, 6},
-    {E::kCShapeProfile, A::kInnerFilletRadius, 7},
-    {E::kZShapeProfile, A::kYDim, 3},
-    {E::kZShapeProfile, A::kXDim, 4},
-    {E::kZShapeProfile, A::kWebThickness, 5},
-    {E::kZShapeProfile, A::kFlangeThickness, 6},
-    {E::kZShapeProfile, A::kFilletRadius, 7},
-    {E::kZShapeProfile, A::kEdgeRadius, 8},
-};
 
 constexpr PositionRow kSolids[] = {
     {E::kExtrudedAreaSolid, A::kSweptArea, 0},
@@ -349,8 +267,7 @@ void Set(Positions& positions, const PositionRow& row) {
   }
 }
 
-template <std::size_t Count>
-void Set(Positions& positions, const PositionRow (&rows)[Count]) {
+void Set(Positions& positions, std::span<const PositionRow> rows) {
   for (const PositionRow& row : rows) Set(positions, row);
 }
 
@@ -373,7 +290,7 @@ Positions BuildTable() {
   Set(positions, kRelations);
   Set(positions, kPlacements);
   Set(positions, kCurves);
-  Set(positions, kProfiles);
+  Set(positions, ProfilePositions());
   Set(positions, kSolids);
   return positions;
 }

@@ -1,13 +1,12 @@
 #include "kelifc/building/read/head.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace KelIFC::building {
 namespace {
 
-// Storeys whose elevations differ by less than this, in metres, are at the same height.
-constexpr double kSameElevation = 1e-6;
+// A direction that is this short in the plane of x and y points to the zenith.
+constexpr double kVertical = 1e-6;
 
 std::optional<Vector2> TrueNorthOf(const Instance& project) {
   const Value contexts = project.Get(Attribute::kRepresentationContexts);
@@ -16,7 +15,7 @@ std::optional<Vector2> TrueNorthOf(const Instance& project) {
         ReadDirection(contexts[i].Target().Get(Attribute::kTrueNorth).Target());
     if (!north) continue;
     Vector2 plane(north->x, north->y);
-    if (Length(plane) < kSameElevation) continue;
+    if (Length(plane) < kVertical) continue;
     Normalise(plane);
     return plane;
   }
@@ -45,20 +44,6 @@ BuildingStorey ReadStorey(ReadContext& context, const Instance& storey,
   return result;
 }
 
-void SortStoreys(std::vector<BuildingStorey>& storeys) {
-  std::stable_sort(
-      storeys.begin(), storeys.end(),
-      [](const BuildingStorey& a, const BuildingStorey& b) { return a.elevation < b.elevation; });
-  std::size_t next = storeys.size();  // the first storey that is higher than the one after `i`
-  for (std::size_t i = storeys.size(); i-- > 0;) {
-    if (i + 1 < storeys.size() &&
-        storeys[i + 1].elevation - storeys[i].elevation > kSameElevation) {
-      next = i + 1;
-    }
-    if (next < storeys.size()) storeys[i].height = storeys[next].elevation - storeys[i].elevation;
-  }
-}
-
 }  // namespace
 
 Building ReadHead(ReadContext& context, const Relations& relations, PlacementReader& placements) {
@@ -78,7 +63,6 @@ Building ReadHead(ReadContext& context, const Relations& relations, PlacementRea
   for (const Instance& storey : relations.Storeys()) {
     head.storeys.push_back(ReadStorey(context, storey, placements));
   }
-  SortStoreys(head.storeys);
   return head;
 }
 

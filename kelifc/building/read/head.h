@@ -7,7 +7,8 @@
 
 namespace KelIFC::building {
 
-/// What a model says of itself: its release, project, units and storeys.
+/// What a model says of itself: its release, project, units and storeys. The storeys
+/// are in the order of the file and have no heights.
 Building ReadHead(ReadContext& context, const Relations& relations, PlacementReader& placements);
 
 }  // namespace KelIFC::building

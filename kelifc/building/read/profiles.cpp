@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "kelifc/building/profile/make_profile.h"
+#include "kelifc/building/profile/shape_region.h"
+#include "kelifc/building/read/crane_rails.h"
 #include "kelifc/building/read/curves.h"
 #include "kelifc/building/read/offset.h"
 #include "kelifc/building/read/placements.h"
@@ -155,6 +157,10 @@ ProfileReader::Entry ProfileReader::Make(const Instance& profile, std::size_t de
     case E::kCompositeProfile:
       isRead = ReadComposite(profile, depth - 1, facts, entry.why);
       break;
+    case E::kCraneRailAProfile:
+    case E::kCraneRailFProfile:
+      isRead = ReadRail(profile, facts, entry.why);
+      break;
     case E::kDerivedProfile:
       isRead = ReadDerived(profile, depth - 1, facts, entry.why);
       break;
@@ -186,6 +192,31 @@ bool ProfileReader::ReadShape(const Instance& profile, ProfileFacts& facts, Unre
     why.reason = LossReason::kNotFinite;
     return false;
   }
+  if (entity == E::kTShapeProfile) ReadWebOfT(profile, facts);
+  return ReadPosition(profile, facts, why);
+}
+
+// The shape has no parameters for the slope and the edges of the web, so a T that has them is an
+// outline. Sizes that make no outline are ignored: the T has a straight web with sharp edges.
+void ProfileReader::ReadWebOfT(const Instance& profile, ProfileFacts& facts) const {
+  const WebOfT web{context.units.radians * profile.Get(A::kWebSlope).Number(0.0),
+                   context.units.length.metres * profile.Get(A::kWebEdgeRadius).Number(0.0)};
+  if (web.slope == 0.0 && web.edgeRadius == 0.0) return;
+  std::optional<Region> region = TRegion(facts.parameters, web);
+  if (!region) return;
+  facts.shape = ProfileShape::kArbitrary;
+  facts.parameters = {};
+  facts.regions.push_back(std::move(*region));
+}
+
+bool ProfileReader::ReadRail(const Instance& profile, ProfileFacts& facts, Unreadable& why) {
+  const CraneRail rail = ReadCraneRail(profile, context.units.length.metres);
+  std::optional<Region> region = IsFinite(rail) ? CraneRailRegion(rail) : std::nullopt;
+  if (!region) {
+    why.reason = IsFinite(rail) ? LossReason::kDegenerate : LossReason::kNotFinite;
+    return false;
+  }
+  facts.regions.push_back(std::move(*region));
   return ReadPosition(profile, facts, why);
 }
 

@@ -29,6 +29,8 @@ class ProfileReader {
   Entry Make(const Instance& profile, std::size_t depth);
   ProfilePointer ReadNested(const Instance& profile, std::size_t depth, Unreadable& why);
   bool ReadShape(const Instance& profile, ProfileFacts& facts, Unreadable& why);
+  void ReadWebOfT(const Instance& profile, ProfileFacts& facts) const;
+  bool ReadRail(const Instance& profile, ProfileFacts& facts, Unreadable& why);
   bool ReadArbitrary(const Instance& profile, ProfileFacts& facts, Unreadable& why);
   bool ReadCentreLine(const Instance& profile, ProfileFacts& facts, Unreadable& why);
   bool ReadComposite(const Instance& profile, std::size_t depth, ProfileFacts& facts,

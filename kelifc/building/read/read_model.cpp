@@ -6,6 +6,7 @@
 #include "kelifc/building/read/decomposition.h"
 #include "kelifc/building/read/head.h"
 #include "kelifc/building/read/products.h"
+#include "kelifc/building/reading_progress.h"
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC::building {
@@ -36,7 +37,9 @@ ModelFacts ReadModel(IfcServer& server, const ReadingOptions& options) {
   Decomposition decomposition(model, relations);
   ProductReader reader(context, relations, decomposition, placements);
   facts.products.reserve(decomposition.Products().size());
+  ReadingProgress progress(options, decomposition.Products().size());
   for (const Instance& product : decomposition.Products()) {
+    progress.Reach(facts.products.size());
     facts.products.push_back(reader.Read(product));
   }
   return facts;

@@ -1,6 +1,7 @@
 target_sources(kelifc_building PRIVATE
   read/attribute.cpp
   read/bezier.cpp
+  read/crane_rails.cpp
   read/curves.cpp
   read/decomposition.cpp
   read/entity.cpp
@@ -13,6 +14,7 @@ target_sources(kelifc_building PRIVATE
   read/path.cpp
   read/placements.cpp
   read/products.cpp
+  read/profile_positions.cpp
   read/profiles.cpp
   read/read_model.cpp
   read/relations.cpp

@@ -8,15 +8,16 @@
 #include "kelifc/building/building.h"
 #include "kelifc/building/facts/solid_facts.h"
 #include "kelifc/building/mesh.h"
+#include "kelifc/building/read_building.h"
 
 namespace KelIFC::building {
 
 // Bodies made from facts. No IFC file is needed here.
 
-/// What limits the evaluation of a body.
+/// What limits the evaluation of a body: the limits of one body in ReadingOptions.
 struct BodyLimits {
-  std::size_t maxPoints = 5'000'000;
-  std::size_t maxDepth = 64;
+  std::size_t maxPoints = ReadingOptions().maxBodyPoints;
+  std::size_t maxDepth = ReadingOptions().maxDepth;
 };
 
 /// A body: the boundary of one or several solids, in the coordinates that the caller chose.

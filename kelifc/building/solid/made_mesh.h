@@ -54,6 +54,11 @@ MadeMesh MakePrimitive(const Primitive& solid, const Transform3& map, std::size_
 /// its voids inwards. A shell that is not closed stays open; its faces turn as far as they agree.
 MadeMesh MakeShells(const Shells& solid, const Transform3& map, std::size_t maxPoints);
 
+/// The faces of a mesh as a closed boundary whose faces turn outwards. Files round coordinates, so
+/// that faces which do not close within the usual distance may within a larger one. Empty if they
+/// do not.
+Mesh CloseShell(const Mesh& mesh);
+
 }  // namespace KelIFC::building
 
 #endif  // KELIFC_BUILDING_SOLID_MADE_MESH_H_

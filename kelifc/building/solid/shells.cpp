@@ -179,21 +179,25 @@ class Orienter {
   std::vector<Part> parts;
 };
 
-/// A shell with welded points, its faces turned outwards. Files round coordinates, so that what
-/// does not close within the usual distance may within a larger one.
+/// A shell with welded points, its faces turned outwards.
 Mesh MakeShell(const Mesh& shell, const Transform3& map) {
   const Mesh moved = WithOrderedLoops(Weld(Moved(shell, map), kWeldDistance));
   Mesh first = Orienter(moved).Result();
   if (IsBalanced(first)) return first;
-  for (const double distance : {kWeldDistance, 1e-6, 1e-5, 1e-4}) {
-    const Mesh welded = Weld(moved, distance);
-    Mesh whole = Orienter(SplitEdges(welded, std::max(distance, 1e-6))).Result();
-    if (!whole.IsEmpty() && IsBalanced(whole) && std::abs(VolumeOf(whole)) > 1e-15) return whole;
-  }
-  return first;
+  Mesh closed = CloseShell(moved);
+  return closed.IsEmpty() ? first : closed;
 }
 
 }  // namespace
+
+Mesh CloseShell(const Mesh& mesh) {
+  for (const double distance : {kWeldDistance, 1e-6, 1e-5, 1e-4}) {
+    const Mesh welded = Weld(mesh, distance);
+    Mesh whole = Orienter(SplitEdges(welded, std::max(distance, 1e-6))).Result();
+    if (!whole.IsEmpty() && IsBalanced(whole) && std::abs(VolumeOf(whole)) > 1e-15) return whole;
+  }
+  return Mesh();
+}
 
 MadeMesh MakeShells(const Shells& solid, const Transform3& map, std::size_t maxPoints) {
   MadeMesh result;
@@ -213,7 +217,8 @@ MadeMesh MakeShells(const Shells& solid, const Transform3& map, std::size_t maxP
   if (result.mesh.IsEmpty()) return MadeMesh(LossReason::kDegenerate);
   // Shells of a surface model may share edges.
   if (solid.isSurface && solid.shells.size() > 1) {
-    result.mesh = Orienter(Weld(result.mesh, kWeldDistance)).Result();
+    Mesh closed = CloseShell(result.mesh);
+    result.mesh = closed.IsEmpty() ? Orienter(Weld(result.mesh, kWeldDistance)).Result() : closed;
   }
   // A closed boundary that encloses nothing is flat.
   if (IsClosed(result.mesh) && !(std::abs(VolumeOf(result.mesh)) > 1e-15)) {

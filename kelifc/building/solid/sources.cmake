@@ -10,6 +10,7 @@ target_sources(kelifc_building PRIVATE
   solid/extrude.cpp
   solid/half_space.cpp
   solid/join_loops.cpp
+  solid/join_solids.cpp
   solid/key_writer.cpp
   solid/loops.cpp
   solid/made_mesh.cpp

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <cstring>
 #include <new>
 #include <type_traits>
@@ -17,20 +18,26 @@ class IfcUnknown;
 /// while it parses, and notes the work there. Without a list, the work is done at once.
 class PostponedWork {
  public:
+  /// A statement of a file.
+  struct Statement {
+    IfcUnknown* instance = nullptr;  ///< into which it is parsed
+    std::size_t number = 0;          ///< of the instance
+    std::uint64_t line = 0;          ///< in the file,
+    std::uint64_t column = 0;        ///< and in the line
+  };
+
   /// Work on behalf of one statement.
   class Task {
    public:
     template <class Work>
-    Task(IfcUnknown* stated, std::size_t statedNumber, const Work& work)
-        : instance(stated), number(statedNumber), run(RunAs<Work>) {
+    Task(const Statement& parsed, const Work& work) : statement(parsed), run(RunAs<Work>) {
       static_assert(std::is_trivially_copyable_v<Work> && sizeof(Work) <= sizeof(memory));
       std::memcpy(memory.data(), &work, sizeof work);
     }
 
     void Run() { run(memory.data()); }
 
-    IfcUnknown* instance;  ///< which the statement was parsed into
-    std::size_t number;    ///< of the statement
+    Statement statement;
 
    private:
     static constexpr std::size_t kSize = 5 * sizeof(void*);
@@ -47,10 +54,7 @@ class PostponedWork {
   PostponedWork() = default;
 
   /// Sets the statement that the current thread parses.
-  void SetStatement(IfcUnknown* parsed, std::size_t parsedNumber) {
-    instance = parsed;
-    number = parsedNumber;
-  }
+  void SetStatement(const Statement& parsed) { statement = parsed; }
 
   /// Makes a list the one of the current thread, as long as the object lives.
   class Collection {
@@ -69,7 +73,7 @@ class PostponedWork {
   template <class Work>
   static void Link(const Work& work) {
     if (PostponedWork* const list = GetCurrent()) {
-      list->links.emplace_back(list->instance, list->number, work);
+      list->links.emplace_back(list->statement, work);
     } else {
       work();
     }
@@ -80,7 +84,7 @@ class PostponedWork {
   template <class Work>
   static void Extend(const Work& work) {
     if (PostponedWork* const list = GetCurrent()) {
-      list->extensions.emplace_back(list->instance, list->number, work);
+      list->extensions.emplace_back(list->statement, work);
     } else {
       work();
     }
@@ -92,8 +96,7 @@ class PostponedWork {
  private:
   static PostponedWork* GetCurrent();
 
-  IfcUnknown* instance = nullptr;
-  std::size_t number = 0;
+  Statement statement;
 };
 
 }  // namespace KelIFC

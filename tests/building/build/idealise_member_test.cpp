@@ -4,6 +4,9 @@
 #include <memory>
 #include <numbers>
 
+#include "kelifc/building/build/idealise_ends.h"
+#include "kelifc/building/solid/mesh_tools.h"
+
 #include "tests/building/build/idealise_samples.h"
 
 namespace KelIFC::building {
@@ -269,6 +272,68 @@ TEST(IdealiseMember, FollowsThePathOfASweptDisk) {
   EXPECT_EQ(pipe.profile->shape, ProfileShape::kCircle);
   EXPECT_LT(pipe.deviation, 1e-3);
   EXPECT_FALSE(pipe.isApproximate);
+}
+
+// A closed polygonal bar along z whose sides are cut into triangles.
+Mesh TriangulatedBar(double radius, Mesh::Index corners, double length) {
+  Mesh mesh;
+  std::vector<Mesh::Index> bottom;
+  std::vector<Mesh::Index> top;
+  for (Mesh::Index i = 0; i < corners; ++i) {
+    const double angle = 2.0 * std::numbers::pi * i / corners;
+    for (const double z : {0.0, length}) {
+      mesh.points.emplace_back(radius * std::cos(angle), radius * std::sin(angle), z);
+    }
+    bottom.insert(bottom.begin(), 2 * i);
+    top.push_back(2 * i + 1);
+  }
+  for (Mesh::Index i = 0; i < corners; ++i) {
+    const Mesh::Index low = 2 * i;
+    const Mesh::Index next = 2 * ((i + 1) % corners);
+    mesh.AddFace(std::vector<Mesh::Index>{low, next, next + 1});
+    mesh.AddFace(std::vector<Mesh::Index>{low, next + 1, low + 1});
+  }
+  mesh.AddFace(bottom);
+  mesh.AddFace(top);
+  return mesh;
+}
+
+TEST(IdealiseMember, IsNotTurnedByTheDiagonalsOfNarrowFaces) {
+  EvaluatedBody body;
+  body.mesh = TriangulatedBar(0.3, 24, 12.0);
+  body.volume = VolumeOf(body.mesh);
+  body.isClosed = true;
+  body.solidCount = 1;
+  const Idealisation pile = Idealise({&body, nullptr, ElementRole::kMember});
+  ASSERT_EQ(pile.kind, ElementKind::kMember);
+  EXPECT_NEAR(Length(pile.member->points[1] - pile.member->points[0]), 12.0, 1e-6);
+  EXPECT_FALSE(pile.member->ends[0]);
+  EXPECT_FALSE(pile.member->ends[1]);
+  EXPECT_NEAR(pile.deviation, 0.0, 1e-6);
+}
+
+TEST(IdealiseMember, UnitesPiecesThatStandOnEachOther) {
+  // The lower piece has a corner more, so the faces between them differ.
+  const Sample sample(
+      {Prism(PolygonProfile({{0.0, 0.0}, {0.1, 0.0}, {0.3, 0.0}, {0.3, 0.4}, {0.0, 0.4}}), 1.0),
+       Prism(RectangleProfile(0.0, 0.0, 0.3, 0.4), 2.0, At(0.0, 0.0, 1.0))});
+  const Idealisation column = sample.BySlices(ElementRole::kMember);
+  ASSERT_EQ(column.kind, ElementKind::kMember);
+  EXPECT_NEAR(Length(column.member->points[1] - column.member->points[0]), 3.0, 1e-6);
+  EXPECT_NEAR(*column.volumeRatio, 1.0, 1e-6);
+  EXPECT_EQ(column.cutouts, 0U);
+}
+
+TEST(IdealiseMember, EndsInTheOutermostPlaneThatCoversTheSection) {
+  // The end face of the lower bar lies inside of the upper one.
+  EvaluatedBody body;
+  body.mesh = BoxMesh({0.0, 0.0, 0.0}, {0.21, 0.21, 2.0});
+  Append(body.mesh, BoxMesh({0.0, 0.0, 1.0}, {0.2, 0.2, 3.0}));
+  body.solidCount = 1;
+  idealising::Boundary boundary(body);
+  const idealising::FoundEnd end = idealising::FindEnd(boundary, {0.0, 0.0, 1.0}, 0.04);
+  EXPECT_TRUE(end.isSquare);
+  EXPECT_NEAR(end.point.z + boundary.Centre().z, 3.0, kTiny);
 }
 
 }  // namespace

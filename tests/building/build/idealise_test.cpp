@@ -5,25 +5,56 @@
 #include <cmath>
 #include <limits>
 
+#include "kelifc/building/solid/mesh_tools.h"
+
 #include "tests/building/build/idealise_samples.h"
 
 namespace KelIFC::building {
 namespace {
 
-TEST(Idealise, LeavesASteppedBodyABody) {
-  // Four steps of 0.3 by 0.2 m, 1.2 m wide.
+TEST(Idealise, ReadsAStairAsThePrismThatItIs) {
+  // Four steps of 0.3 by 0.2 m, 1.2 m wide. It is neither slender nor flat.
   std::vector<Point2> points{{0.0, 0.0}, {1.2, 0.0}};
   for (int i = 4; i > 0; --i) {
     points.emplace_back(0.3 * i, 0.2 * (5 - i));
     points.emplace_back(0.3 * (i - 1), 0.2 * (5 - i));
   }
   const Sample sample({PrismAlongY(PolygonProfile(points), 1.2)});
-  const Idealisation stair = sample.ByFacts(ElementRole::kOther);
-  EXPECT_EQ(stair.kind, ElementKind::kBody);
-  EXPECT_FALSE(stair.member);
-  EXPECT_FALSE(stair.surface);
-  EXPECT_NEAR(stair.volume, 1.2 * 0.3 * 0.2 * 10, 1e-9);
-  EXPECT_EQ(stair.source, BodySource::kExtrusion);
+  for (const Idealisation& stair :
+       {sample.ByFacts(ElementRole::kOther), sample.BySlices(ElementRole::kOther)}) {
+    EXPECT_NE(stair.kind, ElementKind::kBody);
+    EXPECT_FALSE(stair.isApproximate);
+    EXPECT_NEAR(stair.volume, 1.2 * 0.3 * 0.2 * 10, 1e-9);
+  }
+}
+
+TEST(Idealise, PrefersAnExactReadingToOneOfBetterProportions) {
+  // A flight of twelve steps is nearly a sloping slab; seen from the side, it is a prism.
+  std::vector<Point2> points{{0.1, 0.0}, {12 * 0.28, 12 * 0.17 - 0.2}};
+  for (int i = 12; i > 0; --i) {
+    points.emplace_back(0.28 * i, 0.17 * i);
+    points.emplace_back(0.28 * (i - 1), 0.17 * i);
+  }
+  points.emplace_back(0.0, 0.0);
+  const Idealisation flight =
+      Sample({PrismAlongY(PolygonProfile(points), 1.2)}).BySlices(ElementRole::kOther);
+  EXPECT_NE(flight.kind, ElementKind::kBody);
+  EXPECT_FALSE(flight.isApproximate);
+  EXPECT_NEAR(flight.deviation, 0.0, 1e-6);
+}
+
+TEST(Idealise, TakesACavityForNoPart) {
+  Mesh mesh = BoxMesh({0.0, 0.0, 0.0}, {0.3, 0.3, 3.0});
+  Append(mesh, Flip(BoxMesh({0.1, 0.1, 1.0}, {0.2, 0.2, 1.5})));
+  EvaluatedBody body;
+  body.volume = VolumeOf(mesh);
+  body.isClosed = true;
+  body.solidCount = 1;
+  body.mesh = mesh;
+  const Idealisation column = Idealise({&body, nullptr, ElementRole::kMember});
+  ASSERT_EQ(column.kind, ElementKind::kMember);
+  EXPECT_NE(column.source, BodySource::kMulti);
+  EXPECT_EQ(column.cutouts, 1U);
 }
 
 TEST(Idealise, LeavesASphereABody) {

@@ -35,8 +35,9 @@ ProfileFacts Drawn(ProfileFacts facts) {
 }
 
 TEST(Designate, TakesTheDesignationFromTheSizes) {
-  for (const char* designation : {"HEA300", "IPE80", "UPN200", "UPE330", "L100x50x8",
-                                  "SHS100x100x5", "RHS200x100x10", "CHS323.9x10"}) {
+  for (const char* designation :
+       {"HEA300", "IPE80", "IPN80", "IPN300", "IPN600", "UPN200", "UPE330", "L100x50x8",
+        "SHS100x100x5", "RHS200x100x10", "CHS323.9x10"}) {
     const ProfileFacts facts = FactsOfSection(designation, "");
     EXPECT_EQ(ProfileOf(facts).designation, designation);
     EXPECT_EQ(ProfileOf(Drawn(facts)).designation, designation);

@@ -28,6 +28,8 @@ TEST(ProfileName, IsReadInEachUsualSpelling) {
            {"IPBv 200", "HEM200"},
            {" IPE 300", "IPE300"},
            {"IPE300-S235", "IPE300"},
+           {"INP 200", "IPN200"},
+           {"IPN 200", "IPN200"},
            {"UNP 200", "UPN200"},
            {"UPN200", "UPN200"},
            {"U200", "UPN200"},

@@ -75,8 +75,13 @@ ProfileFacts RandomSection(ProfileShape shape, Random& random) {
   const double k = random(0.03, 0.08);
   const double b1 = b + random(5, 90);
   switch (shape) {
-    case ProfileShape::kI:
-      return FactsOf(shape, {{kH, h}, {kB, b1}, {kTw, t}, {kTf, tf}, {kR, r}});
+    case ProfileShape::kI: {
+      ProfileFacts facts = FactsOf(shape, {{kH, h}, {kB, b1}, {kTw, t}, {kTf, tf}, {kR, r}});
+      if (random.Count(0, 1) == 0) return facts;
+      ValueOf(facts.parameters, kR1) = edge * 1e-3;
+      ValueOf(facts.parameters, kSlope) = k;
+      return facts;
+    }
     case ProfileShape::kAsymmetricI: {
       ProfileFacts facts = FactsOf(shape, {{kH, h}, {kB, b}, {kTw, t}, {kTf, tf}, {kR, r}});
       ValueOf(facts.parameters, kB1) = b1 * 1e-3;

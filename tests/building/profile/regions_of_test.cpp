@@ -109,6 +109,18 @@ TEST(RegionsOf, SlopesCountFromTheMiddleOfTheFlange) {
   EXPECT_NEAR(PropertiesOf(RegionsOf(facts).at(0)).area * 1e4, 32.2, 0.1);
 }
 
+TEST(RegionsOf, SlopesOfAnICountFromTheMiddleOfEachHalfOfAFlange) {
+  // Half flanges of 45 mm, 10 mm thick in their middle, which slope by 10 %. The web is 8 mm thick.
+  const auto facts = FactsOf(ProfileShape::kI,
+                             {{kH, 200}, {kB, 90}, {kTw, 8}, {kTf, 10}, {kSlope, std::atan(0.1)}});
+  const double toe = 10.0 - 22.5 * 0.1;
+  const double root = 10.0 + 18.5 * 0.1;
+  const double area = 8.0 * 200.0 + 4.0 * 41.0 * (toe + root) / 2.0;
+  const RegionProperties properties = PropertiesOf(RegionsOf(facts).at(0));
+  EXPECT_NEAR(properties.area * 1e6, area, 1e-6);
+  EXPECT_NEAR(properties.centroid.y, 0.0, 1e-12);
+}
+
 TEST(RegionsOf, ASlopeOfTheFlangeOfATLeavesItsAreaAsItIs) {
   const auto facts =
       FactsOf(ProfileShape::kT, {{kH, 100}, {kB, 100}, {kTw, 8}, {kTf, 10}, {kSlope, 0.1}});

@@ -1,4 +1,5 @@
 set(stage_tests
+  crane_rail_test.cpp
   designate_test.cpp
   find_circle_test.cpp
   find_corners_test.cpp

@@ -45,7 +45,7 @@ std::string Storey(int number, const std::string& name, const std::string& place
          ",$,$,.ELEMENT.," + elevation + ");";
 }
 
-TEST(Storeys, AreSortedByTheirPlacementOrTheirAttribute) {
+TEST(Storeys, HaveTheElevationOfTheirPlacementOrTheirAttribute) {
   for (const std::string& schema : kSchemas) {
     const ReadText read =
         ReadData(CommonText() +
@@ -56,15 +56,14 @@ TEST(Storeys, AreSortedByTheirPlacementOrTheirAttribute) {
                  schema);
     const std::vector<BuildingStorey>& storeys = read.facts.head.storeys;
     ASSERT_EQ(storeys.size(), 4U);
-    EXPECT_EQ(storeys[0].name, "none");
-    EXPECT_FALSE(storeys[0].hasElevation);
+    EXPECT_EQ(storeys[0].name, "top");
+    EXPECT_DOUBLE_EQ(storeys[0].elevation, 6.5);
     EXPECT_EQ(storeys[1].name, "first");
     EXPECT_DOUBLE_EQ(storeys[1].elevation, 3.0);
-    EXPECT_NEAR(storeys[1].height.value_or(0.0), 3.5, 1e-12);
-    EXPECT_EQ(storeys[2].name, "top");
+    EXPECT_EQ(storeys[2].name, "none");
+    EXPECT_FALSE(storeys[2].hasElevation);
     EXPECT_EQ(storeys[3].name, "same");
-    EXPECT_FALSE(storeys[2].height);
-    EXPECT_FALSE(storeys[3].height);
+    EXPECT_DOUBLE_EQ(storeys[3].elevation, 6.5);
     EXPECT_EQ(storeys[3].id, 53U);
   }
 }

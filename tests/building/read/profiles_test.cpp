@@ -3,8 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <numbers>
 #include <string>
 #include <vector>
+
+#include "kelifc/building/profile/make_profile.h"
+#include "kelifc/building/profile/section_moments.h"
 
 #include "tests/building/read/model_text.h"
 
@@ -108,6 +112,66 @@ TEST(Profile, OfASizedShapeHasItsSizesInMetres) {
   }
 }
 
+// The area of a profile in square millimetres.
+double AreaOf(const ProfileFacts& facts) {
+  const std::vector<Region> regions = RegionsOf(facts);
+  return regions.size() == 1 ? PropertiesOf(regions[0]).area * 1e6 : 0.0;
+}
+
+TEST(Profile, OfACraneRailIsItsOutline) {
+  // A rail of 100 mm: a head of 60 mm that is 22 mm deep at its sides and 26 mm at the web of 30
+  // mm, and a base of 140 mm that is 10, 14 and 20 mm thick at its sides, at the bends and at the
+  // web.
+  const double head = 60.0 * 22.0 + 4.0 * (60.0 + 30.0) / 2.0;
+  const double web = 30.0 * (100.0 - 26.0 - 20.0);
+  const double base = 30.0 * 20.0 + 2.0 * 20.0 * (20.0 + 14.0) / 2.0 + 2.0 * 35.0 * 12.0;
+  for (const std::string schema : {"IFC2X2_FINAL", "IFC2X3"}) {
+    const ProfileFacts facts = ProfileOf(
+        "#30=IFCCRANERAILASHAPEPROFILEDEF(.AREA.,'A60',#12,100.,140.,$,60.,26.,22.,30.,70.,20.,14.,"
+        "10.,45.);",
+        schema);
+    EXPECT_EQ(facts.shape, ProfileShape::kArbitrary);
+    EXPECT_EQ(facts.name, "A60");
+    EXPECT_NEAR(AreaOf(facts), head + web + base, 1e-6);
+  }
+}
+
+TEST(Profile, OfACraneRailMayNumberTheDepthsFromTheEdge) {
+  const std::string start = "#30=IFCCRANERAILASHAPEPROFILEDEF(.AREA.,$,#12,100.,140.,5.,60.,";
+  EXPECT_NEAR(AreaOf(ProfileOf(start + "22.,26.,30.,70.,10.,14.,20.,$);")),
+              AreaOf(ProfileOf(start + "26.,22.,30.,70.,20.,14.,10.,$);")), 1e-6);
+}
+
+TEST(Profile, OfACraneRailOfTheFormFIsAsWideBelowAsAbove) {
+  // 100 mm wide and 80 mm high, the web 60 mm. Two rounded edges of 8 mm are missing.
+  const double area = 100.0 * 20.0 + 60.0 * 40.0 + 100.0 * 12.0 + 5.0 * (100.0 + 60.0) / 2.0 +
+                      3.0 * (100.0 + 60.0) / 2.0 - 2.0 * 64.0 * (1.0 - std::numbers::pi / 4.0);
+  const ProfileFacts facts = ProfileOf(
+      "#30=IFCCRANERAILFSHAPEPROFILEDEF(.AREA.,'F100',#12,80.,100.,8.,25.,20.,60.,15.,12.,$);");
+  EXPECT_NEAR(AreaOf(facts), area, 1e-6);
+}
+
+TEST(Profile, OfATWhoseWebSlopesIsItsOutline) {
+  // The web is 10 mm thick at half the height. Its sides slope by 3 degrees, its foot is rounded.
+  const ProfileFacts facts =
+      ProfileOf("#30=IFCTSHAPEPROFILEDEF(.AREA.,$,#12,100.,80.,10.,8.,$,$,2.,3.,$,$);");
+  EXPECT_EQ(facts.shape, ProfileShape::kArbitrary);
+  const double k = std::tan(3.0 * std::numbers::pi / 180.0);
+  // The middle of the web below the flange is 46 mm above the foot.
+  const double web = 92.0 * (10.0 + 2.0 * (46.0 - 50.0) * k);
+  // The contour turns by 87 degrees at each edge. An arc of 2 mm replaces two tangents.
+  const double turn = 87.0 * std::numbers::pi / 180.0;
+  const double edge = 4.0 * std::tan(turn / 2.0) - 4.0 * turn / 2.0;
+  EXPECT_NEAR(AreaOf(facts), 80.0 * 8.0 + web - 2.0 * edge, 1e-6);
+}
+
+TEST(Profile, OfATIgnoresEdgesOfTheWebThatDoNotFit) {
+  const ProfileFacts facts =
+      ProfileOf("#30=IFCTSHAPEPROFILEDEF(.AREA.,$,#12,100.,80.,10.,8.,$,$,6.,$,$,$);");
+  EXPECT_EQ(facts.shape, ProfileShape::kT);
+  EXPECT_NEAR(AreaOf(facts), 80.0 * 8.0 + 92.0 * 10.0, 1e-6);
+}
+
 TEST(Profile, HasThePositionOfTheFile) {
   const ProfileFacts facts = ProfileOf(
       "#30=IFCCIRCLEPROFILEDEF(.AREA.,$,#31,100.);#31=IFCAXIS2PLACEMENT2D(#32,#33);"
@@ -186,7 +250,9 @@ TEST(Profile, IsAFaultIfItCannotBeRead) {
   const BadProfile rows[] = {
       {"#30=IFCARBITRARYOPENPROFILEDEF(.CURVE.,$,#31);", LossReason::kUnsupportedProfile},
       {"#30=IFCCRANERAILFSHAPEPROFILEDEF(.AREA.,$,#12,1.,1.,1.,1.,1.,1.,1.,1.,1.);",
-       LossReason::kUnsupportedProfile},
+       LossReason::kDegenerate},
+      {"#30=IFCCRANERAILASHAPEPROFILEDEF(.AREA.,$,#12,1.E300,9.,$,9.,2.,2.,1.,4.,2.,2.,2.,$);",
+       LossReason::kNotFinite},
       {"#30=IFCCOLUMN('c',$,$,$,$,$,$,$);", LossReason::kUnsupportedProfile},
       {"#30=IFCARBITRARYCLOSEDPROFILEDEF(.AREA.,$,#99);", LossReason::kDangling},
       {"#30=IFCARBITRARYCLOSEDPROFILEDEF(.AREA.,$,$);", LossReason::kDegenerate},

@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstdlib>
 #include <filesystem>
 #include <sstream>
 #include <string>
@@ -12,6 +10,7 @@
 #include "kelifc/core/unknown.h"
 
 #include "tests/building/read/model_text.h"
+#include "tests/model_files.h"
 
 namespace KelIFC::building {
 namespace {
@@ -59,25 +58,13 @@ TEST(ReadModel, SkipsDeletedInstances) {
   EXPECT_EQ(std::get<Unreadable>(facts.products[0].items[0]->form).reason, LossReason::kDangling);
 }
 
-std::vector<std::string> RealModels() {
-  std::vector<std::string> paths;
-  const char* folder = std::getenv("KELIFC_TEST_DATA");
-  if (folder == nullptr) return paths;
-  for (const auto& entry : std::filesystem::directory_iterator(folder)) {
-    if (entry.path().extension() == ".ifc") paths.push_back(entry.path().string());
-  }
-  std::sort(paths.begin(), paths.end());
-  return paths;
-}
-
 TEST(ReadModel, ReadsRealModelsAndDoesNotChangeThem) {
-  const std::vector<std::string> paths = RealModels();
-  if (paths.empty()) GTEST_SKIP() << "KELIFC_TEST_DATA is not set";
-  for (const std::string& path : paths) {
+  if (RealModels().empty()) GTEST_SKIP() << kNoRealModels;
+  for (const std::filesystem::path& path : RealModels()) {
     IfcServer server;
     LoadOptions options;
     options.dialect = STEP_DIALECT_ISO;
-    ASSERT_EQ(server.LoadIfc(path.c_str(), options), 0) << path;
+    ASSERT_EQ(server.LoadIfc(path.string().c_str(), options), 0) << path;
     const std::string before = WrittenBy(server);
     const ModelFacts facts = ReadModel(server, {});
     EXPECT_EQ(WrittenBy(server), before) << path;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <limits>
 #include <numbers>
 
@@ -278,6 +279,27 @@ TEST(Body, OfAnOpenShellIsNotClosed) {
   EXPECT_FALSE(result.body.isClosed);
   EXPECT_EQ(result.body.mesh.FaceCount(), 5U);
   EXPECT_NEAR(result.body.box.max.x, 1.0, 1e-12);
+}
+
+TEST(Body, OfSurfaceModelsThatHoldOneFaceEachIsClosed) {
+  const Mesh box = BoxMesh({0.0, 0.0, 0.0}, {1.0, 2.0, 3.0});
+  std::vector<SolidPointer> items;
+  for (std::size_t face = 0; face < box.FaceCount(); ++face) {
+    const Mesh::Loop loop = box.LoopOf(face, 0);
+    std::vector<Mesh::Index> points(loop.begin(), loop.end());
+    if (face % 2 == 1) std::reverse(points.begin(), points.end());
+    Shells form;
+    form.isSurface = true;
+    Mesh& shell = form.shells.emplace_back();
+    shell.points = box.points;
+    shell.AddFace(points);
+    items.push_back(SolidOf(std::move(form)));
+  }
+  const BodyResult result = EvaluateBody(items, Transform3());
+  ExpectClosed(result, 6.0);
+  EXPECT_EQ(result.body.solidCount, 1U);
+  items.pop_back();
+  EXPECT_FALSE(EvaluateBody(items, Transform3()).body.isClosed);
 }
 
 TEST(Body, OfASurfaceModelSaysSo) {

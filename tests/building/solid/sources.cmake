@@ -3,6 +3,7 @@ set(stage_tests
   boolean_test.cpp
   box_tree_test.cpp
   distance_test.cpp
+  join_solids_test.cpp
   key_writer_test.cpp
   loops_test.cpp
   mesh_tools_test.cpp

@@ -8,6 +8,7 @@
 #include "export/csv/cells.h"
 #include "tests/building/made_building.h"
 #include "tests/export/test_path.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -49,10 +50,7 @@ class Csv : public testing::Test {
     return options;
   }
 
-  std::string Read(const std::string& name) const {
-    std::ifstream file(folder / "out" / name, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), {});
-  }
+  std::string Read(const std::string& name) const { return ReadFile(folder / "out" / name); }
 
   const fs::path folder;
 };

@@ -2,9 +2,9 @@
 
 #include <bit>
 #include <cstdint>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
+
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -69,8 +69,7 @@ std::vector<nlohmann::json> GlbFile::ElementNodes() const {
 }
 
 GlbFile::GlbFile(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  const std::string bytes(std::istreambuf_iterator<char>(file), {});
+  const std::string bytes = ReadFile(path);
   Require(bytes.substr(0, 4) == "glTF" && IntegerAt(bytes, 4) == 2, "the header is wrong");
   Require(IntegerAt(bytes, 8) == bytes.size(), "the size is wrong");
   const std::size_t sceneSize = IntegerAt(bytes, 12);

@@ -5,8 +5,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
 #include <memory>
 #include <optional>
 #include <string>
@@ -15,6 +13,7 @@
 #include "glb_file.h"
 #include "tests/building/made_building.h"
 #include "tests/export/test_path.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -49,8 +48,7 @@ class Glb : public testing::Test {
 
   std::string Bytes() {
     WriteGlb(building, options);
-    std::ifstream file(options.path, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), {});
+    return ReadFile(options.path);
   }
 
   Building building;
@@ -96,6 +94,22 @@ TEST_F(Glb, ExtrasHoldTheDataOfAnElement) {
   EXPECT_EQ(slab["area"], 12.0);
   EXPECT_EQ(slab["thickness"], 0.2);
   EXPECT_FALSE(slab.contains("profile"));
+}
+
+TEST_F(Glb, EqualSlabsAtOtherPlacesShareAMesh) {
+  building.elements.push_back(Slab(4, 4.0, 3.0));
+  for (Point3& p : building.elements[3].surface->outline) p += Vector3(7.1, 0.3, 3.3);
+  const GlbFile file = Write();
+  const std::vector<json> nodes = file.ElementNodes();
+  ASSERT_EQ(nodes.size(), 4U);
+  EXPECT_EQ(nodes[2]["mesh"], nodes[3]["mesh"]);
+  EXPECT_NE(nodes[2]["translation"], nodes[3]["translation"]);
+  EXPECT_EQ(file.scene["meshes"].size(), 3U);
+}
+
+TEST_F(Glb, AStoreyWithoutANameHasItsNumber) {
+  building.storeys[0].name.clear();
+  EXPECT_EQ(Write().scene["nodes"][1]["name"], "storey 11");
 }
 
 TEST_F(Glb, NodesHaveTheVolumeOfTheirElement) {
@@ -247,8 +261,7 @@ TEST_F(Glb, ReportsProgressAndCanBeCancelled) {
   const std::string before = Bytes();
   options.progress = [](double share) { return share < 0.5; };
   EXPECT_THROW(WriteGlb(building, options), ExportError);
-  std::ifstream file(options.path, std::ios::binary);
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), before);
+  EXPECT_EQ(ReadFile(options.path), before);
 }
 
 TEST_F(Glb, AFolderThatIsMissingIsAnError) {

@@ -5,21 +5,15 @@
 
 #include <array>
 #include <clocale>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <stdexcept>
 
 #include "export/export.h"
 #include "tests/export/saf/opened_workbook.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting::saf {
 namespace {
-
-std::string BytesOf(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(file), {}};
-}
 
 void WriteTwoStoreys(const std::string& path, bool isLarge) {
   Workbook workbook(path, path, isLarge);
@@ -55,7 +49,7 @@ TEST(Workbook, HasTheSameBytesEachTime) {
   for (const bool isLarge : {false, true}) {
     WriteTwoStoreys(folder / "a.xlsx", isLarge);
     WriteTwoStoreys(folder / "b.xlsx", isLarge);
-    EXPECT_EQ(BytesOf(folder / "a.xlsx"), BytesOf(folder / "b.xlsx"));
+    EXPECT_EQ(ReadFile(folder / "a.xlsx"), ReadFile(folder / "b.xlsx"));
     EXPECT_THAT(OpenedWorkbook(folder / "a.xlsx").FileOf("docProps/core.xml"),
                 testing::HasSubstr("1980-01-01T00:00:00Z"));
   }

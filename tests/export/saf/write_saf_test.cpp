@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <fstream>
-#include <iterator>
 #include <memory>
 #include <utility>
 
@@ -12,6 +11,7 @@
 #include "tests/building/made_building.h"
 #include "tests/export/saf/made_profile.h"
 #include "tests/export/saf/opened_workbook.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting::saf {
 namespace {
@@ -152,8 +152,7 @@ TEST(Saf, KeepsTheOldFileIfItIsCancelled) {
   } catch (const ExportError& error) {
     EXPECT_EQ(error.failure, ExportFailure::kCancelled);
   }
-  std::ifstream file(path);
-  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(file), {}), "old");
+  EXPECT_EQ(ReadFile(path), "old");
   EXPECT_EQ(folder.CountFiles(), 1U);
 }
 

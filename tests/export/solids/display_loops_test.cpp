@@ -9,11 +9,11 @@
 namespace KelIFC::exporting {
 namespace {
 
-TEST(IdealLines, OfAMemberAreItsOpenAxis) {
+TEST(IdealLines, OfAMemberAreItsAxis) {
   BuildingElement column = MemberFrom(1, {1.0, 2.0, 3.0});
   std::vector<IdealLine> lines = IdealLinesOf(column);
   ASSERT_EQ(lines.size(), 1U);
-  EXPECT_FALSE(lines[0].isClosed);
+  EXPECT_EQ(lines[0].kind, LineKind::kAxis);
   EXPECT_EQ(lines[0].points.size(), 2U);
   column.member->curve = CurveForm::kArc;
   column.member->points = {{1.0, 0.0, 0.0}, {0.0, 1.0, 0.0}, {-1.0, 0.0, 0.0}};
@@ -23,12 +23,12 @@ TEST(IdealLines, OfAMemberAreItsOpenAxis) {
   EXPECT_EQ(lines[0].points.back().x, -1.0);
 }
 
-TEST(IdealLines, OfASurfaceAreItsClosedOutlineAndHoles) {
+TEST(IdealLines, OfASurfaceAreItsOutlineAndHoles) {
   BuildingElement slab = Slab(1, 5.0, 2.0);
   slab.surface->holes = {{{1.0, 1.0, 0.0}, {1.0, 2.0, 0.0}, {3.0, 2.0, 0.0}}};
   std::vector<IdealLine> lines = IdealLinesOf(slab);
   ASSERT_EQ(lines.size(), 2U);
-  EXPECT_TRUE(lines[0].isClosed);
+  EXPECT_EQ(lines[0].kind, LineKind::kRegion);
   EXPECT_EQ(lines[0].points.size(), 4U);
   EXPECT_EQ(lines[1].points.size(), 3U);
   slab.surface->arcs = {{1, {6.0, 1.0, 0.0}}, {3, {-1.0, 1.0, 0.0}}, {99, {0.0, 0.0, 0.0}}};
@@ -46,13 +46,23 @@ TEST(IdealLines, OfACurvedWallGoRoundItsMiddleSurface) {
       CurveForm::kLine, {{0.0, 0.0, 0.0}, {4.0, 0.0, 0.0}}, {0.0, 0.0, 1.0}, 3.0};
   const std::vector<IdealLine> lines = IdealLinesOf(wall);
   ASSERT_EQ(lines.size(), 1U);
-  EXPECT_TRUE(lines[0].isClosed);
+  EXPECT_EQ(lines[0].kind, LineKind::kRegion);
   ASSERT_EQ(lines[0].points.size(), 4U);
   EXPECT_EQ(lines[0].points[2].x, 4.0);
   EXPECT_EQ(lines[0].points[2].z, 3.0);
 }
 
 TEST(IdealLines, OfABodyAreNone) { EXPECT_TRUE(IdealLinesOf(BuildingElement()).empty()); }
+
+TEST(OpeningLines, AreTheOutlinesOfTheOpenings) {
+  BuildingElement slab = Slab(1, 5.0, 2.0);
+  slab.openings.resize(2);
+  slab.openings[1].outline = {{1.0, 1.0, 0.0}, {2.0, 1.0, 0.0}, {2.0, 1.5, 0.0}};
+  const std::vector<IdealLine> lines = OpeningLinesOf(slab);
+  ASSERT_EQ(lines.size(), 1U);
+  EXPECT_EQ(lines[0].kind, LineKind::kOpening);
+  EXPECT_EQ(lines[0].points.size(), 3U);
+}
 
 }  // namespace
 }  // namespace KelIFC::exporting

@@ -91,9 +91,9 @@ TEST(DisplayModel, LoopsShowTheIdealisation) {
   ASSERT_EQ(model.loops.size(), 3U);
   EXPECT_EQ(model.loops[1].element, 1U);
   EXPECT_EQ(model.loops[1].firstPoint, 2U);
-  EXPECT_FALSE(model.loops[1].isClosed);
+  EXPECT_EQ(model.loops[1].kind, LineKind::kAxis);
   EXPECT_EQ(model.loops[2].pointCount, 4U);
-  EXPECT_TRUE(model.loops[2].isClosed);
+  EXPECT_EQ(model.loops[2].kind, LineKind::kRegion);
   EXPECT_EQ(model.loopPoints.size(), 3U * 8U);
 }
 
@@ -131,6 +131,34 @@ TEST(DisplayModel, AnOpenBodyIsNotClosed) {
   const DisplayModel model = MakeDisplayModel(building, {});
   EXPECT_FALSE(model.meshes[0].isClosed);
   EXPECT_TRUE(model.meshes[1].isClosed);
+}
+
+Building ASlabWithAnOpening(double depth) {
+  Building building;
+  building.elements = {Slab(1, 4.0, 3.0)};
+  BuildingOpening opening;
+  opening.outline = {{1.0, 1.0, 0.0}, {2.0, 1.0, 0.0}, {2.0, 2.0, 0.0}, {1.0, 2.0, 0.0}};
+  opening.depth = depth;
+  building.elements[0].openings = {opening};
+  return building;
+}
+
+TEST(DisplayModel, CutsOpeningsOutOfSolidsIfAsked) {
+  const Building building = ASlabWithAnOpening(0.2);
+  const DisplayModel whole = MakeDisplayModel(building, {});
+  EXPECT_NEAR(VolumeOf(whole, 0), 12.0 * 0.2, 1e-5);
+  EXPECT_EQ(whole.loops.size(), 1U);
+  const DisplayModel cut = MakeDisplayModel(building, {}, OpeningDisplay::kCut);
+  EXPECT_NEAR(VolumeOf(cut, 0), 11.0 * 0.2, 1e-5);
+  ASSERT_EQ(cut.loops.size(), 2U);
+  EXPECT_EQ(cut.loops[1].kind, LineKind::kOpening);
+}
+
+TEST(DisplayModel, OutlinesOpeningsThatAreNotCutOut) {
+  const DisplayModel model = MakeDisplayModel(ASlabWithAnOpening(0.1), {}, OpeningDisplay::kCut);
+  EXPECT_NEAR(VolumeOf(model, 0), 12.0 * 0.2, 1e-5);
+  EXPECT_EQ(model.meshes[0].edgeCount, 24U);
+  EXPECT_EQ(model.meshes[0].vertexCount, 16U);
 }
 
 TEST(DisplayModel, CanBeCancelled) {

@@ -14,6 +14,7 @@
 #include "tests/building/made_building.h"
 #include "tests/export/test_path.h"
 #include "tests/paths.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -164,8 +165,7 @@ TEST_F(Sqlite, DescribesItsColumns) {
 
 /// A page of the documentation, with single blanks.
 std::string Page(const std::string& name) {
-  std::ifstream file(std::string(kSourceDir) + "/" + name);
-  const std::string text(std::istreambuf_iterator<char>(file), {});
+  const std::string text = ReadFile(std::string(kSourceDir) + "/" + name);
   return std::regex_replace(text, std::regex(" +"), " ");
 }
 

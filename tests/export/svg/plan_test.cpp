@@ -69,6 +69,19 @@ TEST(Plans, CutAColumnOnEachStoreyThatItCrosses) {
   EXPECT_THAT(ItemsOf(set.plans[1]), ElementsAre(Pair(0, Look::kCut)));
 }
 
+TEST(Plans, CutAnElementOnceIfStoreysOfSeveralBuildingsHaveTheSameHeights) {
+  Building building = TwoStoreys();
+  building.storeys = {StoreyAt(1, 0.0), StoreyAt(101, 0.0), StoreyAt(2, 3.0), StoreyAt(102, 3.0)};
+  building.elements = {Column(10, 1, {}, 6.0), Column(110, 101, {}, 6.0),
+                       Beam(111, 102, {0.0, 0.0, 2.7}, 4.0)};
+  const PlanSet set = ArrangePlans(building);
+  ASSERT_THAT(set.plans, SizeIs(4));
+  EXPECT_THAT(ItemsOf(set.plans[0]), ElementsAre(Pair(0, Look::kCut)));
+  EXPECT_THAT(ItemsOf(set.plans[1]), ElementsAre(Pair(1, Look::kCut), Pair(2, Look::kAbove)));
+  EXPECT_THAT(ItemsOf(set.plans[2]), ElementsAre(Pair(0, Look::kCut)));
+  EXPECT_THAT(ItemsOf(set.plans[3]), ElementsAre(Pair(1, Look::kCut), Pair(2, Look::kHidden)));
+}
+
 TEST(Plans, ShowABeamOfAFloorAlsoAboveTheStoreyUnderIt) {
   Building building = TwoStoreys();
   building.elements = {Beam(10, 2, {0.0, 0.0, 2.7}, 4.0)};

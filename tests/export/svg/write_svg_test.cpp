@@ -5,12 +5,12 @@
 
 #include <algorithm>
 #include <filesystem>
-#include <fstream>
 #include <limits>
 #include <memory>
 
 #include "tests/export/svg/made_storeys.h"
 #include "tests/export/test_path.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting::svg {
 namespace {
@@ -62,10 +62,7 @@ class Svg : public testing::Test {
     return names;
   }
 
-  std::string Read(const std::string& name) const {
-    std::ifstream file(folder / "out" / name, std::ios::binary);
-    return std::string(std::istreambuf_iterator<char>(file), {});
-  }
+  std::string Read(const std::string& name) const { return ReadFile(folder / "out" / name); }
 
   // The plan of the only storey.
   std::string PlanOf(const Building& building) const {

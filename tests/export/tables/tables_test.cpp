@@ -3,7 +3,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <fstream>
 #include <limits>
 #include <map>
 #include <set>
@@ -12,6 +11,7 @@
 
 #include "tests/building/made_building.h"
 #include "tests/paths.h"
+#include "tests/read_file.h"
 
 namespace KelIFC {
 namespace {
@@ -301,8 +301,7 @@ std::string Documentation(const BuildingTable& table) {
 }
 
 TEST(Tables, AreDocumented) {
-  std::ifstream file(std::string(kSourceDir) + "/docs/exports.md");
-  const std::string page(std::istreambuf_iterator<char>(file), {});
+  const std::string page = ReadFile(std::string(kSourceDir) + "/docs/exports.md");
   for (const BuildingTable& table : BuildingTables()) {
     EXPECT_NE(page.find(Documentation(table)), std::string::npos)
         << "docs/exports.md lacks this:\n\n"

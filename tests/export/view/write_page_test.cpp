@@ -18,6 +18,7 @@
 #include "tests/building/made_building.h"
 #include "tests/export/test_path.h"
 #include "tests/export/view/decoded_page.h"
+#include "tests/read_file.h"
 
 namespace KelIFC::exporting {
 namespace {
@@ -77,11 +78,6 @@ class Page : public testing::Test {
 
   std::string Path(const std::string& name = "page.html") const { return (folder / name).string(); }
 
-  static std::string Read(const std::string& path) {
-    std::ifstream file(path, std::ios::binary);
-    return {std::istreambuf_iterator<char>(file), {}};
-  }
-
   ExportOptions Options() const {
     ExportOptions options;
     options.path = Path();
@@ -96,7 +92,7 @@ class Page : public testing::Test {
 
   DecodedPage Written(const Building& building) const {
     Write(building);
-    return DecodedPage(Read(Path()));
+    return DecodedPage(ReadFile(Path()));
   }
 
  private:
@@ -266,7 +262,7 @@ TEST_F(Page, HasTheTextOfTheModelInTheDataOnly) {
   building.elements[1].name = control;
   building.elements[2].className = "=cmd|' /C calc'!A0";
   Write(building);
-  const std::string html = Read(Path());
+  const std::string html = ReadFile(Path());
   const DecodedPage page(html);
   EXPECT_EQ(page.tail, "</body></html>");
   EXPECT_EQ(html.find("alert"), std::string::npos);
@@ -295,9 +291,9 @@ TEST_F(Page, HasNoNumberThatIsNotFinite) {
 
 TEST_F(Page, HasTheSameBytesEachTime) {
   Write(SmallHouse());
-  const std::string first = Read(Path());
+  const std::string first = ReadFile(Path());
   Write(SmallHouse());
-  EXPECT_EQ(Read(Path()), first);
+  EXPECT_EQ(ReadFile(Path()), first);
 }
 
 TEST_F(Page, LeavesTheFileAsItWasIfItIsCancelled) {
@@ -311,7 +307,7 @@ TEST_F(Page, LeavesTheFileAsItWasIfItIsCancelled) {
     } catch (const ExportError& error) {
       EXPECT_EQ(error.failure, ExportFailure::kCancelled);
     }
-    EXPECT_EQ(Read(Path()), "old");
+    EXPECT_EQ(ReadFile(Path()), "old");
   }
 }
 
@@ -325,7 +321,7 @@ TEST_F(Page, IsAFormatThatSaysWhatIsMissing) {
 TEST_F(Page, OfTheBuildHasTheDataInItsPlace) {
   if (!HasPageTemplate()) GTEST_SKIP() << "this build has no page";
   ExportBuilding(SmallHouse(), *FindExportFormat("view"), Options());
-  const DecodedPage page(Read(Path()));
+  const DecodedPage page(ReadFile(Path()));
   EXPECT_EQ(page.head.substr(0, 15), "<!doctype html>");
   EXPECT_NE(page.head.find("Content-Security-Policy"), std::string::npos);
   EXPECT_NE(page.tail.find("</html>"), std::string::npos);

@@ -2,9 +2,7 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <cmath>
-#include <cstdlib>
 #include <filesystem>
 #include <string>
 #include <vector>
@@ -14,27 +12,13 @@
 
 #include "tests/geo/host.h"
 #include "tests/geo/model_text.h"
+#include "tests/model_files.h"
 #include "tests/paths.h"
 
 // What the complete reading shows of the examples, and of real models if there are any.
 
 namespace KelIFC {
 namespace {
-
-namespace fs = std::filesystem;
-
-std::vector<fs::path> ModelFiles() {
-  std::vector<fs::path> files;
-  const char* const data = std::getenv("KELIFC_TEST_DATA");
-  for (const fs::path& folder : {fs::path(kExamplesDir), fs::path(data == nullptr ? "" : data)}) {
-    if (folder.empty()) continue;
-    for (const auto& entry : fs::recursive_directory_iterator(folder)) {
-      if (entry.path().extension() == ".ifc") files.push_back(entry.path());
-    }
-  }
-  std::sort(files.begin(), files.end());
-  return files;
-}
 
 template <class Collection, class Item>
 std::vector<ComPtr<Item>> ItemsOf(Collection& collection,
@@ -138,7 +122,8 @@ TEST_F(FillComplete, MeasuresLevelsInTheUnitOfTheFile) {
   EXPECT_NEAR(GetValue(*storeys[0], &IGeoStorey::get_Height), 168.0, 1e-9);
 }
 
-class FillCompleteOfModel : public FillComplete, public testing::WithParamInterface<fs::path> {};
+class FillCompleteOfModel : public FillComplete,
+                            public testing::WithParamInterface<std::filesystem::path> {};
 
 TEST_P(FillCompleteOfModel, ShowsElementsThatCanBeUsed) {
   Open(GetParam().string());
@@ -163,7 +148,8 @@ TEST_P(FillCompleteOfModel, ShowsElementsThatCanBeUsed) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Models, FillCompleteOfModel, testing::ValuesIn(ModelFiles()));
+INSTANTIATE_TEST_SUITE_P(Models, FillCompleteOfModel, testing::ValuesIn(ExamplesAndRealModels()),
+                         TestNameOf);
 
 }  // namespace
 }  // namespace KelIFC

@@ -18,7 +18,6 @@ using testing::ElementsAreArray;
 class Squares : public OrderedWork {
  public:
   explicit Squares(std::size_t numbers) : count(numbers) {}
-  ~Squares() override { Stop(); }
 
   std::vector<std::size_t> results;
   std::size_t stopAt = static_cast<std::size_t>(-1);

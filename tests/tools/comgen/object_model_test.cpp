@@ -1,10 +1,9 @@
 #include <gtest/gtest.h>
 
-#include <fstream>
-#include <iterator>
 #include <string>
 
 #include "tests/paths.h"
+#include "tests/read_file.h"
 #include "tests/tools/comgen/describe.h"
 
 // A second description of the object model with which hosts are compiled, in another form. A change
@@ -12,6 +11,8 @@
 
 namespace comgen {
 namespace {
+
+using KelIFC::ReadFile;
 
 /// The operations of IGeoObject, with which every element interface begins.
 constexpr char kElement[] =
@@ -183,14 +184,9 @@ constexpr ClassRow kClasses[] = {
      "IGeoPointLists"},
 };
 
-std::string ReadText(const std::string& path) {
-  std::ifstream in(path, std::ios::binary);
-  return {std::istreambuf_iterator<char>(in), std::istreambuf_iterator<char>()};
-}
-
 Description ReadDescription() {
   const std::string path = std::string(KelIFC::kSourceDir) + "/kelifc/geo/geo.objects";
-  Description description = ParseDescription(path, ReadText(path));
+  Description description = ParseDescription(path, ReadFile(path));
   Resolve(description);
   return description;
 }
@@ -290,7 +286,7 @@ std::string PartOfGuide(const std::string& guide, const std::string& interface) 
 
 TEST(ObjectModel, IsDescribedCompletelyInTheGuide) {
   const Description description = ReadDescription();
-  const std::string guide = ReadText(std::string(KelIFC::kSourceDir) + "/docs/object-model.md");
+  const std::string guide = ReadFile(std::string(KelIFC::kSourceDir) + "/docs/object-model.md");
   for (const Interface& interface : description.interfaces) {
     const std::string part = PartOfGuide(guide, interface.name);
     EXPECT_FALSE(part.empty()) << interface.name;

@@ -65,6 +65,15 @@ TEST(EmitAttributes, ListsTheClassesThatCanHaveInstances) {
   EXPECT_FALSE(Holds(tables, "KelIFC2x3::IfcAngles"));
 }
 
+TEST(EmitAttributes, WritesTheInverseAttributesOfAClass) {
+  const std::string tables = TablesOf(
+      "entity IfcA : IfcUnknown all\n  doc A.\n  Whole ref IfcA\n  inverse Parts of IfcA Whole\n");
+  EXPECT_TRUE(Holds(tables,
+                    "constexpr InverseAttribute kIfcAInverses[] = {\n"
+                    "    {.name = \"Parts\", .entity = \"IfcA\", .attribute = \"Whole\"},\n};\n"));
+  EXPECT_TRUE(Holds(tables, "    .inverses = kIfcAInverses,\n    .inverseCount = 1};\n"));
+}
+
 TEST(EmitAttributes, RefusesMoreThanTwoBases) {
   EXPECT_THROW(TablesOf("entity IfcA : IfcUnit, IfcValue, IfcTrimmingSelect all\n  doc A.\n"),
                DescriptionError);

@@ -75,6 +75,17 @@ TEST(ReadEntityLine, ReadsTheNameAndTheRuleOfTheSchema) {
   EXPECT_TRUE(attributes[1].required.IsEmpty());
 }
 
+TEST(ReadEntityLine, ReadsAnInverseAttribute) {
+  const auto description =
+      Describe("entity IfcA : IfcUnknown all\n  [2x..] inverse HasOpenings of IfcRel Relating\n");
+  const auto& inverses = description.entities.front().inverses;
+  ASSERT_EQ(inverses.size(), 1u);
+  EXPECT_EQ(inverses[0].name, "HasOpenings");
+  EXPECT_EQ(inverses[0].entity, "IfcRel");
+  EXPECT_EQ(inverses[0].attribute, "Relating");
+  EXPECT_EQ(inverses[0].releases, *ReleaseSet::Read("2x.."));
+}
+
 struct Fault {
   const char* body;
   const char* message;
@@ -96,6 +107,8 @@ INSTANTIATE_TEST_SUITE_P(
               "3:11: error: expected the class or enumeration"},
         Fault{"entity IfcA : IfcUnknown all\n  Name string odd\n",
               "3:15: error: expected the end of the line or a word such as 'inverse' or 'as'"},
+        Fault{"entity IfcA : IfcUnknown all\n  inverse Parts IfcRel\n",
+              "3:17: error: expected 'of'"},
         Fault{"entity IfcA : IfcUnknown all\n  drop value $\n",
               "3:8: error: 'value' cannot be read and dropped"},
         Fault{"entity IfcA : IfcUnknown all\n  drop Name word $\n",
