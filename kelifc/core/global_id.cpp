@@ -106,14 +106,22 @@ char* EncodeGlobalId64(const _GUID& guid, char* text, int size) {
   return text;
 }
 
+// The NUL is not in the alphabet, so the loop ends at it.
+bool IsGlobalId64(const char* text) {
+  if (text == nullptr) return false;
+  for (std::size_t i = 0; i < kLength64; ++i) {
+    if (DigitOf(kValues64, text[i]) < 0) return false;
+  }
+  return text[kLength64] == '\0';
+}
+
 bool DecodeGlobalId64(const char* text, _GUID& guid) {
-  if (text == nullptr || std::strlen(text) != kLength64) return false;
+  if (!IsGlobalId64(text)) return false;
   Pieces pieces = {};
   for (std::size_t piece = 0; piece < kPieces; ++piece) {
     for (std::size_t i = 0; i < DigitsOfPiece(piece); ++i) {
-      const int digit = DigitOf(kValues64, *text++);
-      if (digit < 0) return false;
-      pieces[piece] = (pieces[piece] << 6) | static_cast<std::uint32_t>(digit);
+      const auto digit = static_cast<std::uint32_t>(DigitOf(kValues64, *text++));
+      pieces[piece] = (pieces[piece] << 6) | digit;
     }
   }
   guid = FromPieces(pieces);

@@ -17,6 +17,9 @@ KELIFC_API char* EncodeGlobalId64(const _GUID& guid, char* text, int size);
 /// for another length and for a character outside the alphabet. Bits above the 128th are ignored.
 KELIFC_API bool DecodeGlobalId64(const char* text, _GUID& guid);
 
+/// Returns true for a text that DecodeGlobalId64 can decode.
+KELIFC_API bool IsGlobalId64(const char* text);
+
 /// Writes the 20 characters of the older form and a NUL to `text`, which has room for 21
 /// characters.
 KELIFC_API void EncodeBase85(const _GUID& guid, char* text);

@@ -1,5 +1,6 @@
 #include "kelifc/core/member.h"
 
+#include <memory>
 #include <typeinfo>
 
 #include "kelifc/core/detail/cursor.h"
@@ -8,24 +9,26 @@
 #include "kelifc/core/text/number_text.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/core/value.h"
+#include "kelifc/platform/memory_watch.h"
 
 namespace KelIFC {
 
-/// A state that does not fit into one word.
-struct MEMBER::Box {
+/// The whole state. The box of a reference is one, too.
+struct MEMBER::State {
+  IfcUnknown* owner;
+  IfcUnknown* value;  // inline
   std::size_t number;
-  IfcUnknown* value;
   bool exists;
 };
 
 namespace {
 
-static_assert(alignof(IfcUnknown) >= 4, "two bits of a pointer tell the states apart");
-constexpr std::uint64_t kBoxMark = 2;
+static_assert(alignof(IfcUnknown) == sizeof(void*), "distances are in units of pointers");
 
-std::uint64_t WordOfPointer(const void* pointer) {
-  return reinterpret_cast<std::uintptr_t>(pointer);
-}
+// LeakSanitizer finds pointers in memory, but no distances.
+constexpr bool kKeepsDistanceToValue = !kIsMemoryWatched;
+
+constexpr std::uint64_t kNoWord = ~std::uint64_t{1};  // would be a box at the highest address
 
 /// The inline value of a reference that borrows an instance from a model. It keeps the number of
 /// the instance, not its address, because the model can delete the instance at any time.
@@ -60,81 +63,136 @@ std::size_t FindOwnNumber(const IfcUnknown& instance) {
 
 }  // namespace
 
-std::uint64_t MEMBER::MakeBox(bool exists, std::size_t number, IfcUnknown* value) {
-  return WordOfPointer(new Box{number, value, exists}) | kBoxMark;
+MEMBER::MEMBER(const MEMBER& other) {
+  const State taken = other.GetState();
+  SetState(taken);
+  if (taken.value != nullptr) other.DropValue();
 }
 
-MEMBER::Box* MEMBER::GetBox() const {
-  return reinterpret_cast<Box*>(static_cast<std::uintptr_t>(word & ~kBoxMark));
+MEMBER::State* MEMBER::GetBox() const {
+  return reinterpret_cast<State*>(static_cast<std::uintptr_t>(word & ~kBoxMark));
 }
 
-std::size_t MEMBER::GetHeapNumber() const { return HasBox() ? GetBox()->number : 0; }
-bool MEMBER::GetHeapExists() const { return !HasBox() || GetBox()->exists; }
+std::size_t MEMBER::GetBoxedNumber() const { return HasBox() ? GetBox()->number : 0; }
+bool MEMBER::GetBoxedExists() const { return GetBox()->exists; }
 
-IfcUnknown* MEMBER::GetHeapValue() const {
-  if (!HasHeap()) return nullptr;
-  return HasBox() ? GetBox()->value
-                  : reinterpret_cast<IfcUnknown*>(static_cast<std::uintptr_t>(word));
+IfcUnknown* MEMBER::AtDistance(std::ptrdiff_t distance) const {
+  if (distance == 0) return nullptr;
+  const auto bytes = static_cast<std::uintptr_t>(distance) * sizeof(void*);
+  return reinterpret_cast<IfcUnknown*>(reinterpret_cast<std::uintptr_t>(this) + bytes);
 }
 
-// Returns the word for a state.
-std::uint64_t MEMBER::WordOf(bool exists, std::size_t number, IfcUnknown* value) {
-  if (value != nullptr) {
-    return exists && number == 0 ? WordOfPointer(value) : MakeBox(exists, number, value);
+IfcUnknown* MEMBER::GetOwner() const {
+  if (HasBox()) return GetBox()->owner;
+  return AtDistance(static_cast<std::int64_t>(word) >> kOwnerShift);
+}
+
+IfcUnknown* MEMBER::GetValue() const {
+  if (HasNumber()) return nullptr;
+  if (HasBox()) return GetBox()->value;
+  return AtDistance(static_cast<std::int32_t>(ValuePart(word)) / 4);
+}
+
+MEMBER::State MEMBER::GetState() const {
+  if (HasBox()) return *GetBox();
+  return {GetOwner(), GetValue(), static_cast<std::size_t>(*this), GetExists()};
+}
+
+// Returns the word for a state, kNoWord if the state needs a box.
+std::uint64_t MEMBER::WordOf(const State& state) const {
+  constexpr std::ptrdiff_t kFarthestValue = (std::ptrdiff_t{1} << 29) - 1;
+  const std::ptrdiff_t ownerDistance = DistanceTo(state.owner);
+  if (!IsOwnerDistance(ownerDistance)) return kNoWord;
+  const std::uint64_t rest = OwnerBits(ownerDistance);
+  if (state.value == nullptr) {
+    if (!state.exists) return state.number == 0 ? rest : kNoWord;
+    return state.number <= kLargestNumber ? rest | (state.number << 1) | 1 : kNoWord;
   }
-  return exists ? WordOf(number) : 0;
+  const std::ptrdiff_t distance = DistanceTo(state.value);
+  const bool fits = state.exists && state.number == 0 && distance >= -kFarthestValue &&
+                    distance <= kFarthestValue && kKeepsDistanceToValue;
+  return fits ? rest | static_cast<std::uint32_t>(4 * distance) : kNoWord;
 }
 
-// Replaces the word. Does not destroy the inline value of the old word.
-void MEMBER::ReplaceWord(std::uint64_t other) {
+// Replaces the state. Does not destroy the old inline value. If there is no memory for a box, the
+// old state stays.
+void MEMBER::SetState(const State& state) const {
+  const std::uint64_t other = WordOf(state);
+  if (other == kNoWord && HasBox()) {
+    *GetBox() = state;
+    return;
+  }
+  State* const box = other == kNoWord ? new State(state) : nullptr;
   if (HasBox()) delete GetBox();
-  word = other;
+  word = box == nullptr ? other : reinterpret_cast<std::uintptr_t>(box) | kBoxMark;
 }
 
-// Returns the word for a copy. The source keeps the rest of its state, without the inline value.
-std::uint64_t MEMBER::TakeHeap() const {
-  const std::uint64_t rest = WordOf(GetHeapExists(), GetHeapNumber(), nullptr);
-  const std::uint64_t taken = word;
-  word = rest;
-  return taken;
+void MEMBER::MakeFarOwner(IfcUnknown* holder) { SetState({holder, nullptr, 0, false}); }
+
+// Replaces the number. Does not destroy the old inline value.
+void MEMBER::SetNumber(std::size_t number) { SetState({GetOwner(), nullptr, number, true}); }
+
+// Gives the inline value away. Needs no memory: without the value, the state fits where it was.
+void MEMBER::DropValue() const noexcept {
+  State rest = GetState();
+  rest.value = nullptr;
+  SetState(rest);
 }
 
-void MEMBER::DestroyHeap() {
-  IfcUnknown* value = GetHeapValue();
-  ReplaceWord(0);
+void MEMBER::Unset() {
+  if (!HasValueOrBox()) {
+    word = OwnerBits(static_cast<std::int64_t>(word) >> kOwnerShift);
+    return;
+  }
+  const IfcUnknown* const value = GetValue();
+  SetState({GetOwner(), nullptr, 0, false});
+  delete value;
+}
+
+void MEMBER::Destroy() noexcept {
+  const IfcUnknown* const value = GetValue();
+  if (HasBox()) delete GetBox();
+  word = 0;
   delete value;
 }
 
 MEMBER& MEMBER::operator=(const MEMBER& other) {
   if (this == &other) return *this;
-  // The source can be a part of the inline value that Unset destroys.
-  IfcUnknown* holder = other.owner;
-  const std::uint64_t taken = other.TakeWord();
-  Unset();
-  owner = holder;
-  word = taken;
+  // The other reference can be a part of the inline value that is destroyed last.
+  const State taken = other.GetState();
+  const IfcUnknown* const old = GetValue();
+  SetState(taken);
+  if (taken.value != nullptr) other.DropValue();
+  delete old;
   return *this;
 }
 
 MEMBER& MEMBER::operator=(std::size_t number) {
-  const std::uint64_t other = WordOf(number);
-  Unset();
-  word = other;
+  const IfcUnknown* const old = GetValue();
+  SetNumber(number);
+  delete old;
   return *this;
 }
 
 MEMBER& MEMBER::operator=(IfcUnknown* value) {
   const std::size_t number = value == nullptr ? 0 : FindOwnNumber(*value);
-  if (number != 0) value = new BorrowedInstance(value->GetServer(), number);
-  const BorrowedInstance* const borrowed = AsBorrowed(GetHeapValue());
-  ReplaceWord(WordOf(true, 0, value));
-  delete borrowed;
+  std::unique_ptr<BorrowedInstance> made;
+  if (number != 0) {
+    made = std::make_unique<BorrowedInstance>(value->GetServer(), number);
+    value = made.get();
+  }
+  const BorrowedInstance* const old = AsBorrowed(GetValue());
+  SetState({GetOwner(), value, 0, true});
+  static_cast<void>(made.release());
+  delete old;
   return *this;
 }
 
 MEMBER& MEMBER::Embed(IfcUnknown* item, IfcUnknown& holder) {
-  if (item != nullptr && item == GetHeapValue()) ReplaceWord(0);
-  owner = &holder;
+  if (item != nullptr && item == GetValue()) DropValue();
+  State state = GetState();
+  state.owner = &holder;
+  SetState(state);
   IfcServer* const model = holder.GetServer();
   const std::size_t number = IsTypedValue(item) ? 0 : FindNumber(model, item);
   *this = number;
@@ -144,25 +202,27 @@ MEMBER& MEMBER::Embed(IfcUnknown* item, IfcUnknown& holder) {
 }
 
 MEMBER& MEMBER::SetReference(const IfcUnknown* target) {
+  IfcUnknown* const owner = GetOwner();
   const IfcServer* server = owner == nullptr ? nullptr : owner->GetServer();
   const std::size_t number = FindNumber(server, target);
-  ReplaceWord(WordOf(number != 0, number, GetHeapValue()));
+  SetState({owner, GetValue(), number, number != 0});
   return *this;
 }
 
 IfcUnknown* MEMBER::Resolve() const {
   if (!GetExists()) return nullptr;
-  if (IfcUnknown* value = GetHeapValue()) {
+  if (IfcUnknown* value = GetValue()) {
     const BorrowedInstance* const borrowed = AsBorrowed(value);
     return borrowed == nullptr ? value : borrowed->Find();
   }
   const auto number = static_cast<std::size_t>(*this);
+  IfcUnknown* const owner = GetOwner();
   if (number == 0 || owner == nullptr) return nullptr;
   return FindInstance(owner->GetServer(), number);
 }
 
 const IfcUnknown* MEMBER::GetInlineValue() const {
-  const IfcUnknown* const value = GetHeapValue();
+  const IfcUnknown* const value = GetValue();
   return AsBorrowed(value) == nullptr ? value : nullptr;
 }
 
@@ -173,11 +233,12 @@ const char* MEMBER::Parse(const char* text) {
   const char* first = detail::SkipBlanks(text);
   if (*first != '#') return ParseInline(text, first);
   const std::int64_t number = ReadInteger(first + 1, &next);
-  word = WordOf(static_cast<std::size_t>(number));
+  SetFirstNumber(static_cast<std::size_t>(number));
   return detail::BehindNextComma(next);
 }
 
 const char* MEMBER::ParseInline(const char* text, const char* name) {
+  IfcUnknown* const owner = GetOwner();
   if (owner == nullptr) return text;
   const char* behindName = nullptr;
   IfcUnknown* value = ParseInstance(owner->GetServer(), name, &behindName);
@@ -186,8 +247,9 @@ const char* MEMBER::ParseInline(const char* text, const char* name) {
     delete value;
     return text;
   }
-  word = WordOfPointer(value);
-  return value->Parse(behindName);
+  std::unique_ptr<IfcUnknown> made(value);
+  SetState({owner, value, 0, true});
+  return made.release()->Parse(behindName);
 }
 
 std::ostream& MEMBER::Write(std::ostream& out) const {
@@ -196,7 +258,7 @@ std::ostream& MEMBER::Write(std::ostream& out) const {
     detail::PutChar(out, '$');
   } else if (number != 0) {
     detail::PutReference(out, number);
-  } else if (const IfcUnknown* value = GetHeapValue()) {
+  } else if (const IfcUnknown* value = GetValue()) {
     value->Write(out);
   } else {
     detail::PutChar(out, '*');

@@ -36,15 +36,18 @@ class KELIFC_API MEMBER {
   MEMBER() = default;
   /// An unset attribute of `holder`, through which the reference finds the model. `holder` can be
   /// null.
-  MEMBER(IfcUnknown* holder) : owner(holder) {}
+  MEMBER(IfcUnknown* holder) { SetFirstOwner(holder); }
   /// A reference without an owner. GetInstance returns null; the caller looks the number up in the
   /// model.
-  MEMBER(std::size_t number) : word(WordOf(number)) {}
+  MEMBER(std::size_t number) { SetFirstNumber(number); }
   /// A reference in an attribute of `holder`.
-  MEMBER(IfcUnknown* holder, std::size_t number) : owner(holder), word(WordOf(number)) {}
-  MEMBER(const MEMBER& other) : owner(other.owner), word(other.TakeWord()) {}
+  MEMBER(IfcUnknown* holder, std::size_t number) {
+    SetFirstOwner(holder);
+    SetFirstNumber(number);
+  }
+  MEMBER(const MEMBER& other);
   virtual ~MEMBER() {
-    if (HasHeap()) DestroyHeap();
+    if (HasValueOrBox()) Destroy();
   }
 
   /// Takes owner, number, existence and inline value of the source, which keeps the rest but loses
@@ -76,9 +79,9 @@ class KELIFC_API MEMBER {
 
   /// Returns the number, 0 if there is none. Two references are equal if their numbers are equal,
   /// so all inline values are equal.
-  operator std::size_t() const { return HasHeap() ? GetHeapNumber() : NumberIn(word); }
+  operator std::size_t() const { return HasNumber() ? NumberPart(word) : GetBoxedNumber(); }
   /// Returns false if the attribute is unset. A derived mark exists.
-  bool GetExists() const { return HasHeap() ? GetHeapExists() : word != 0; }
+  bool GetExists() const { return HasBox() ? GetBoxedExists() : ValuePart(word) != 0; }
 
   /// Returns the inline value, or the instance that the owner's model has under the number, or
   /// null. The caller does not own it.
@@ -103,42 +106,75 @@ class KELIFC_API MEMBER {
   IfcUnknown* _GetInstance() { return Resolve(); }
 
  private:
-  struct Box;
+  struct State;
 
-  // The state in one word. 0 is unset. If the lowest bit is set, the other bits are the number,
-  // with its sign. A multiple of 4 is a pointer to an inline value. If only the bit of value 2 is
-  // set, the rest is a pointer to a box. A box holds what does not fit otherwise: a number of more
-  // than 63 bits, or an inline value together with a number or in an unset attribute. A copy takes
-  // the inline value, so it changes the word of its source.
-  static std::uint64_t WordOf(std::size_t number) {
-    const std::uint64_t bits = (static_cast<std::uint64_t>(number) << 1) | 1;
-    return NumberIn(bits) == number ? bits : MakeBox(true, number, nullptr);
-  }
-  static std::size_t NumberIn(std::uint64_t bits) {
-    return static_cast<std::size_t>(static_cast<std::int64_t>(bits) >> 1);
-  }
-  static std::uint64_t WordOf(bool exists, std::size_t number, IfcUnknown* value);
-  static std::uint64_t MakeBox(bool exists, std::size_t number, IfcUnknown* value);
+  // The state in one word, whose two lowest bits say what it holds:
+  //  - 1 or 3: bits 1 to 31 are the number.
+  //  - 0: bits 2 to 31 are the distance to the inline value, or 0 in an unset attribute.
+  //  - 2: the rest of the word is a pointer to a State, the box.
+  // Without a box, the upper 32 bits are the distance to the owner. Both distances are signed, from
+  // this object, and in units of pointers; 0 means null. Instances, their owners and their inline
+  // values are seldom far from each other. A box holds what does not fit: large distances and
+  // numbers, or an inline value together with a number or in an unset attribute.
+  static constexpr std::uint64_t kBoxMark = 2;
+  static constexpr std::uint64_t kLargestNumber = 0x7FFFFFFF;
+  static constexpr int kOwnerShift = 32;
 
-  bool HasHeap() const { return (word & 1) == 0 && word != 0; }
-  bool HasBox() const { return (word & 3) == 2; }
-  Box* GetBox() const;
-  std::size_t GetHeapNumber() const;
-  bool GetHeapExists() const;
-  IfcUnknown* GetHeapValue() const;
+  static std::uint32_t ValuePart(std::uint64_t bits) { return static_cast<std::uint32_t>(bits); }
+  static std::size_t NumberPart(std::uint64_t bits) { return ValuePart(bits) >> 1; }
+  bool HasNumber() const { return (word & 1) != 0; }
+  bool HasBox() const { return (word & 3) == kBoxMark; }
+  bool HasValueOrBox() const { return (word & 1) == 0 && ValuePart(word) != 0; }
+
+  // The distance to an object. It is 0 for null, too.
+  std::ptrdiff_t DistanceTo(const IfcUnknown* object) const {
+    const auto bytes = static_cast<std::ptrdiff_t>(reinterpret_cast<std::uintptr_t>(object) -
+                                                   reinterpret_cast<std::uintptr_t>(this));
+    return object == nullptr ? 0 : bytes / static_cast<std::ptrdiff_t>(sizeof(void*));
+  }
+  static bool IsOwnerDistance(std::ptrdiff_t distance) {
+    return distance == static_cast<std::int32_t>(distance);
+  }
+  static std::uint64_t OwnerBits(std::ptrdiff_t distance) {
+    return static_cast<std::uint64_t>(distance) << kOwnerShift;
+  }
+
+  // For an unset reference without an owner.
+  void SetFirstOwner(IfcUnknown* holder) {
+    const std::ptrdiff_t distance = DistanceTo(holder);
+    if (IsOwnerDistance(distance)) {
+      word = OwnerBits(distance);
+    } else {
+      MakeFarOwner(holder);
+    }
+  }
+  // For an unset reference.
+  void SetFirstNumber(std::size_t number) {
+    if (number <= kLargestNumber && !HasBox()) {
+      word |= (number << 1) | 1;
+    } else {
+      SetNumber(number);
+    }
+  }
+
+  State GetState() const;
+  void SetState(const State& state) const;
+  std::uint64_t WordOf(const State& state) const;
+  State* GetBox() const;
+  IfcUnknown* AtDistance(std::ptrdiff_t distance) const;
+  std::size_t GetBoxedNumber() const;
+  bool GetBoxedExists() const;
+  IfcUnknown* GetOwner() const;
+  IfcUnknown* GetValue() const;
   IfcUnknown* Resolve() const;
-  void ReplaceWord(std::uint64_t other);
-  std::uint64_t TakeWord() const { return HasHeap() ? TakeHeap() : word; }
-  std::uint64_t TakeHeap() const;
-  void DestroyHeap();
-  void Unset() {
-    if (HasHeap()) DestroyHeap();
-    word = 0;
-  }
+  void MakeFarOwner(IfcUnknown* holder);
+  void SetNumber(std::size_t number);
+  void DropValue() const noexcept;
+  void Unset();
+  void Destroy() noexcept;
   const char* ParseInline(const char* text, const char* name);
 
-  IfcUnknown* owner = nullptr;
-  mutable std::uint64_t word = 0;
+  mutable std::uint64_t word = 0;  // mutable, because a copy takes the inline value
 };
 
 /// The key by which a set finds an equal reference.

@@ -2,8 +2,10 @@
 #define KELIFC_CORE_OTHER_H_
 
 #include <string>
+#include <string_view>
 
 #include "kelifc/core/statement_view.h"
+#include "kelifc/core/text_attribute.h"
 #include "kelifc/core/unknown.h"
 
 namespace KelIFC {
@@ -29,11 +31,13 @@ class KELIFC_API IfcOther : public IfcUnknown {
   void SetStepEntityName(const char* name);
 
   /// The attributes by their positions. Linear in the length of the statement.
-  StatementView GetAttributes() const { return StatementView(attributeText); }
+  StatementView GetAttributes() const { return StatementView(attributeText.GetText()); }
 
  private:
+  void Append(std::string_view text);
+
   std::string stepEntityName;
-  std::string attributeText;
+  TextAttribute attributeText;
 };
 
 }  // namespace KelIFC

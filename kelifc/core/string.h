@@ -8,6 +8,8 @@
 
 namespace KelIFC {
 
+class TextAttribute;
+
 /// A text attribute, or unset. Each byte is one character. A change through the members of
 /// std::string does not change GetExists; only assignment and Parse do.
 class KELIFC_API STRING : public std::string {
@@ -33,6 +35,9 @@ class KELIFC_API STRING : public std::string {
 
  protected:
   bool exists = false;
+
+ private:
+  friend class TextAttribute;  // stores the value of a text in less memory
 };
 
 }  // namespace KelIFC

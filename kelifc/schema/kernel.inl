@@ -3,7 +3,7 @@
 // A text that is not a valid identifier does not change the zeros.
 _GUID IfcRoot::GetGlobalGUID() const {
   _GUID guid = {};
-  DecodeGlobalId64(globalId.c_str(), guid);
+  DecodeGlobalId64(globalId.GetChars(), guid);
   return guid;
 }
 

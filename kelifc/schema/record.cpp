@@ -10,13 +10,12 @@ namespace KelIFC {
 
 const char* GlobalId64Reader::Parse(const char* cursor) const {
   cursor = text.Parse(cursor);
-  _GUID guid = {};
-  if (!DecodeGlobalId64(text.c_str(), guid)) text = STRING(IdReplacement::Make());
+  if (!IsGlobalId64(text.GetChars())) text = STRING(IdReplacement::Make());
   return cursor;
 }
 
 void GlobalId64Writer::Write(std::ostream& out) const {
-  if (text.empty()) {
+  if (text.GetText().empty()) {
     STRING(IfcServer::CreateGlobalId2x()).Write(out);
   } else {
     text.Write(out);
@@ -24,7 +23,7 @@ void GlobalId64Writer::Write(std::ostream& out) const {
 }
 
 void GlobalId85::Write(std::ostream& out) const {
-  if (text.empty()) {
+  if (text.GetText().empty()) {
     STRING(IfcServer::CreateGlobalId()).Write(out);
   } else {
     text.Write(out);

@@ -13,6 +13,7 @@
 #include "kelifc/core/member.h"
 #include "kelifc/core/real.h"
 #include "kelifc/core/string.h"
+#include "kelifc/core/text_attribute.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/core/value_member.h"
 
@@ -125,21 +126,21 @@ inline ValueInPlaceWriter ValueInPlace(const MEMBER& member, const IfcUnknown&) 
 /// writes a new identifier, which is not kept, if the text is empty.
 struct GlobalId64Reader {
   const char* Parse(const char* cursor) const;
-  STRING& text;
+  TextAttribute& text;
 };
 struct GlobalId64Writer {
   void Write(std::ostream& out) const;
-  const STRING& text;
+  const TextAttribute& text;
 };
-inline GlobalId64Reader GlobalId64(STRING& text) { return {text}; }
-inline GlobalId64Writer GlobalId64(const STRING& text) { return {text}; }
+inline GlobalId64Reader GlobalId64(TextAttribute& text) { return {text}; }
+inline GlobalId64Writer GlobalId64(const TextAttribute& text) { return {text}; }
 
 /// The identifier of 20 characters. A save writes a new identifier, which is not kept, if the text
 /// is empty.
 struct GlobalId85 {
-  explicit GlobalId85(const STRING& text) : text(text) {}
+  explicit GlobalId85(const TextAttribute& text) : text(text) {}
   void Write(std::ostream& out) const;
-  const STRING& text;
+  const TextAttribute& text;
 };
 
 /// A number with one digit after the point and an upper-case exponent. It is never unset.

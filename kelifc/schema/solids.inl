@@ -93,7 +93,7 @@ class OutlineWriter {
 
 const IfcPolyLine* IfcAttDrivenExtrudedSolid::GetPath() const {
   auto* self = const_cast<IfcAttDrivenExtrudedSolid*>(this);
-  IfcPolyLine& outline = self->path;
+  IfcPolyLine& outline = self->path.Get();
   outline.SetServer(self->GetServer());
   const LIST<const IfcAttDrivenExtrudedSegment*> pieces = GetSegments();
   for (std::size_t i = 1; i <= pieces.GetSize(); ++i) {

@@ -35,8 +35,16 @@ AttributeValue ValueReader::Derived() {
 }
 
 AttributeValue ValueReader::Of(const STRING& text, const IfcUnknown& /*holder*/) {
+  return OfCharacters(text, text.GetExists());
+}
+
+AttributeValue ValueReader::Of(const TextAttribute& text, const IfcUnknown& /*holder*/) {
+  return OfCharacters(text.GetText(), text.GetExists());
+}
+
+AttributeValue ValueReader::OfCharacters(std::string_view text, bool exists) {
   AttributeValue value;
-  if (!text.GetExists()) return value;
+  if (!exists) return value;
   value.kind = Kind::kText;
   value.text = text;
   return value;

@@ -3,6 +3,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 
 #include "kelifc/core/aggregate.h"
 #include "kelifc/core/binary.h"
@@ -17,6 +18,7 @@
 #include "kelifc/core/member.h"
 #include "kelifc/core/real.h"
 #include "kelifc/core/string.h"
+#include "kelifc/core/text_attribute.h"
 #include "kelifc/core/unit_assignment.h"
 #include "kelifc/schema/attribute_value.h"
 
@@ -28,6 +30,7 @@ namespace KelIFC {
 class ValueReader {
  public:
   static AttributeValue Of(const STRING& text, const IfcUnknown& holder);
+  static AttributeValue Of(const TextAttribute& text, const IfcUnknown& holder);
   static AttributeValue Of(const ENUM& enumerator, const IfcUnknown& holder);
   static AttributeValue Of(const REAL& number, const IfcUnknown& holder);
   static AttributeValue Of(const INTEGER& number, const IfcUnknown& holder);
@@ -63,6 +66,7 @@ class ValueReader {
   static AttributeValue OfList(const void* list,
                                const AttributeValue::ListOperations& listOperations,
                                const IfcUnknown& holder);
+  static AttributeValue OfCharacters(std::string_view text, bool exists);
   static AttributeValue OfTruth(AttributeValueKind kind, LOGICAL_VALUE truth);
   /// `value` is the reference that leads to the instance.
   static AttributeValue OfInlineInstance(const IfcUnknown& instance, AttributeValue value);

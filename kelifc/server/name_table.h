@@ -47,6 +47,7 @@ class NameTable {
     for (std::size_t row = 0; row < kRowCount; ++row) {
       rows[row] = source[row];
       if (rows[row].name.size() > longest) longest = rows[row].name.size();
+      lengths |= BitOf(rows[row].name.size());
       std::size_t slot = HomeOf(rows[row].name);
       while (slots[slot] != 0) slot = (slot + 1) % kSlotCount;
       slots[slot] = static_cast<std::uint16_t>(row + 1);
@@ -59,6 +60,7 @@ class NameTable {
     const char* end = std::char_traits<char>::find(text, longest + 1, '\0');
     if (end == nullptr || end == text) return nullptr;
     const std::string_view name(text, static_cast<std::size_t>(end - text));
+    if ((lengths & BitOf(name.size())) == 0) return nullptr;
     for (std::size_t slot = HomeOf(name); slots[slot] != 0; slot = (slot + 1) % kSlotCount) {
       const NameRow& row = rows[slots[slot] - 1u];
       if (row.name.size() == name.size() && (row.name == name || IsSame(row.name, name))) {
@@ -83,6 +85,10 @@ class NameTable {
     return slotCount;
   }
   static constexpr std::size_t kSlotCount = CountSlots();
+
+  static constexpr std::uint64_t BitOf(std::size_t length) {
+    return std::uint64_t{1} << (length % 64);
+  }
 
   static constexpr char ToUpper(char c) {
     return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
@@ -109,6 +115,7 @@ class NameTable {
   std::array<NameRow, kRowCount> rows = {};
   std::array<std::uint16_t, kSlotCount> slots = {};  // the row, counted from 1; 0 if free
   std::size_t longest = 0;
+  std::uint64_t lengths = 0;  // the bits of the lengths of all names; most other lengths have none
 };
 
 }  // namespace KelIFC

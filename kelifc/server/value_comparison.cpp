@@ -21,6 +21,10 @@ bool ValueComparison::operator()(const STRING& a, const STRING& b) const {
   return a.GetExists() == b.GetExists() && TextOf(a) == TextOf(b);
 }
 
+bool ValueComparison::operator()(const TextAttribute& a, const TextAttribute& b) const {
+  return a.GetExists() == b.GetExists() && a.GetText() == b.GetText();
+}
+
 bool ValueComparison::operator()(const ENUM& a, const ENUM& b) const {
   return a.GetExists() == b.GetExists() && TextOf(a) == TextOf(b);
 }

@@ -14,6 +14,7 @@
 #include "kelifc/core/member.h"
 #include "kelifc/core/real.h"
 #include "kelifc/core/string.h"
+#include "kelifc/core/text_attribute.h"
 #include "kelifc/server/same_values.h"
 
 namespace KelIFC {
@@ -25,6 +26,7 @@ class ValueComparison {
   bool HaveSameValues(const IfcUnknown& a, const IfcUnknown& b) const;
 
   bool operator()(const STRING& a, const STRING& b) const;
+  bool operator()(const TextAttribute& a, const TextAttribute& b) const;
   bool operator()(const ENUM& a, const ENUM& b) const;
   bool operator()(const REAL& a, const REAL& b) const;
   bool operator()(const INTEGER& a, const INTEGER& b) const;

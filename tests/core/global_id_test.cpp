@@ -137,5 +137,14 @@ TEST(GlobalId, WrapsASumAboveTheRange) {
   EXPECT_TRUE(Equal(back, highest));
 }
 
+TEST(GlobalId, CanBeCheckedWithoutDecodingIt) {
+  EXPECT_TRUE(IsGlobalId64("018qLdYQlDxn0oL7QOkjp_"));
+  EXPECT_FALSE(IsGlobalId64("018qLdYQlDxn0oL7QOkjp")) << "too short";
+  EXPECT_FALSE(IsGlobalId64("018qLdYQlDxn0oL7QOkjp_0")) << "too long";
+  EXPECT_FALSE(IsGlobalId64("018qLdYQlD-n0oL7QOkjp_")) << "not in the alphabet";
+  EXPECT_FALSE(IsGlobalId64(""));
+  EXPECT_FALSE(IsGlobalId64(nullptr));
+}
+
 }  // namespace
 }  // namespace KelIFC

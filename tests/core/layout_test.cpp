@@ -7,6 +7,7 @@
 #include "kelifc/core/cartesian_point.h"
 #include "kelifc/core/coordinates.h"
 #include "kelifc/core/integer.h"
+#include "kelifc/core/inverse_set.h"
 #include "kelifc/core/length_measure.h"
 #include "kelifc/core/list_of_members.h"
 #include "kelifc/core/logical.h"
@@ -15,6 +16,7 @@
 #include "kelifc/core/set_of_members.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/core/string.h"
+#include "kelifc/core/text_attribute.h"
 #include "kelifc/core/unit_assignment.h"
 
 // The tests of sizes exist because a model consists of millions of these objects. The tests of the
@@ -34,7 +36,9 @@ TEST(Layout, KeepsValuesCompact) {
   EXPECT_EQ(sizeof(BOOLEAN), 16U);
   EXPECT_EQ(sizeof(LOGICAL), 16U);
   EXPECT_EQ(sizeof(STRING), sizeof(std::string) + 16U);
-  EXPECT_EQ(sizeof(MEMBER), 24U);
+  EXPECT_EQ(sizeof(MEMBER), 16U);
+  EXPECT_EQ(sizeof(TextAttribute), 8U);
+  EXPECT_EQ(sizeof(InverseSet), 8U);
   EXPECT_EQ(sizeof(LIST<MEMBER>), 24U);
   EXPECT_EQ(sizeof(SET<MEMBER>), 24U);
   EXPECT_EQ(sizeof(LIST_OF_MEMBERS), 32U);

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <memory>
 #include <type_traits>
 #include <vector>
 
@@ -411,6 +412,59 @@ TEST_F(Member, CarriesEveryNumberOf64Bits) {
       EXPECT_TRUE(each->GetExists());
       EXPECT_EQ(each->GetInlineValue(), nullptr);
       EXPECT_EQ(Text(*each), "#" + std::to_string(number));
+    }
+  }
+}
+
+/// References of `owner` in different parts of the memory, at different distances from the owner.
+struct Scattered {
+  explicit Scattered(IfcUnknown* owner)
+      : stacked(owner), heaped(new MEMBER(owner)), listed(1, MEMBER(owner)) {
+    resident = MEMBER(owner);
+  }
+  ~Scattered() { resident = MEMBER(); }
+  std::vector<MEMBER*> All() { return {&stacked, heaped.get(), &listed.front(), &resident}; }
+
+  MEMBER stacked;
+  std::unique_ptr<MEMBER> heaped;
+  std::vector<MEMBER> listed;
+  static MEMBER resident;
+};
+MEMBER Scattered::resident;
+
+TEST_F(Member, KeepsItsOwnerAtEveryPlaceInMemory) {
+  Scattered places(owner);
+  for (MEMBER* const each : places.All()) {
+    for (MEMBER* const other : places.All()) {
+      *each = std::size_t{12};
+      *other = *each;
+      EXPECT_EQ(other->GetInstance(), target);
+      other->Parse("#3000000000,");
+      EXPECT_EQ(Text(*other), "#2147483647");
+      other->Parse("#-5,");
+      EXPECT_EQ(static_cast<std::size_t>(*other), std::numeric_limits<std::size_t>::max() - 4);
+      other->Parse("$,");
+      EXPECT_EQ(Text(*other), "$");
+      other->Parse("#12,");
+      EXPECT_EQ(other->GetInstance(), target);
+      EXPECT_EQ(MEMBER(*other).GetInstance(), target);
+    }
+  }
+}
+
+TEST_F(Member, MovesItsInlineValueBetweenAllPlacesInMemory) {
+  Scattered places(owner);
+  for (MEMBER* const each : places.All()) {
+    for (MEMBER* const other : places.All()) {
+      if (each == other) continue;
+      auto* const value = new Probe(9);
+      *each = value;
+      *other = *each;
+      EXPECT_EQ(other->GetInlineValue(), value);
+      EXPECT_EQ(Text(*each), "*");
+      *other = std::size_t{12};
+      EXPECT_EQ(other->GetInstance(), target);
+      EXPECT_EQ(Probe::alive, 0);
     }
   }
 }

@@ -16,16 +16,16 @@ TEST(HugePages, CanBeWrittenToTheirEnd) {
   std::memset(memory, 0xA5, kSize);
   EXPECT_EQ(memory[0], 0xA5);
   EXPECT_EQ(memory[kSize - 1], 0xA5);
-  FreePages(memory);
+  FreePages(memory, kSize);
 }
 
 TEST(HugePages, BeginAtAMultipleOfTheirSize) {
   void* const memory = AllocatePages(kHugePageSize);
   EXPECT_EQ(reinterpret_cast<std::uintptr_t>(memory) % kHugePageSize, 0u);
-  FreePages(memory);
+  FreePages(memory, kHugePageSize);
 }
 
-TEST(HugePages, FreeNothingForNull) { FreePages(nullptr); }
+TEST(HugePages, FreeNothingForNull) { FreePages(nullptr, kHugePageSize); }
 
 TEST(HugePages, LeaveTheContentOfAnyMemoryAsItIs) {
   std::vector<unsigned char> memory(5 * kHugePageSize + 12345, 0x5A);

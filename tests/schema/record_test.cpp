@@ -37,15 +37,15 @@ TEST(WriteRecord, WritesCommasBetweenPartsAndBeforeThePartsOfADerivedClass) {
 }
 
 TEST(GlobalId64, IsReplacedIfItCannotBeDecoded) {
-  STRING text;
+  TextAttribute text;
   EXPECT_STREQ(ParseRecord("'short',rest", GlobalId64(text)), "rest");
-  EXPECT_EQ(text.size(), 22u);
+  EXPECT_EQ(text.GetText().size(), 22u);
   ParseRecord("'0123456789ABCDEFGHIJ_$'", GlobalId64(text));
-  EXPECT_EQ(text, std::string("0123456789ABCDEFGHIJ_$"));
+  EXPECT_EQ(text.GetText(), "0123456789ABCDEFGHIJ_$");
 }
 
 TEST(GlobalId85, IsWrittenAsANewIdentifierIfItIsEmpty) {
-  const STRING empty;
+  const TextAttribute empty;
   std::ostringstream out;
   WriteFirst(out, GlobalId85(empty));
   EXPECT_EQ(out.str().size(), 22u) << out.str();

@@ -24,6 +24,20 @@ std::string InitialEnumerator(const ReleaseModel& model, const Attribute& attrib
   return Enumerator(attribute.type, "");
 }
 
+/// Returns true for a set that is not in the file. Its members have no owner.
+bool IsInverseSet(const Attribute& attribute) {
+  return attribute.kind == Kind::kSet && !attribute.inFile;
+}
+
+/// Returns true if a getter returns a reference to the data member, which then has the type of the
+/// value.
+bool IsReturnedByReference(const Entity& entity, const Attribute& attribute) {
+  return std::any_of(entity.operations.begin(), entity.operations.end(),
+                     [&](const Operation& operation) {
+                       return operation.isConst && operation.name == "Get" + attribute.name;
+                     });
+}
+
 }  // namespace
 
 std::string MemberName(const std::string& attribute) {
@@ -64,8 +78,17 @@ TemplateWords WordsOf(const ReleaseModel& model, const Attribute& attribute) {
   return words;
 }
 
+std::string FieldType(const ReleaseModel& model, const ResolvedClass& type,
+                      const Attribute& attribute) {
+  if (IsInverseSet(attribute)) return "InverseSet";
+  if (attribute.kind == Kind::kInstance) return "CachedInstance<" + attribute.type + ">";
+  const KindInfo& info = InfoOf(attribute.kind);
+  const bool isSmaller = !info.field.empty() && !IsReturnedByReference(*type.entity, attribute);
+  return isSmaller ? std::string(info.field) : StoredType(attribute, model.release);
+}
+
 std::string FieldInitializer(const ReleaseModel& model, const Attribute& attribute) {
-  if (attribute.isOwnerless) return {};
+  if (attribute.isOwnerless || IsInverseSet(attribute)) return {};
   return Fill(InfoOf(attribute.kind).initializer, WordsOf(model, attribute));
 }
 

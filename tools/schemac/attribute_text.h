@@ -13,7 +13,7 @@ namespace schemac {
 /// The name of the data member of an attribute.
 std::string MemberName(const std::string& attribute);
 
-/// The C++ type that stores an attribute.
+/// The C++ type of the value of an attribute.
 std::string StoredType(const Attribute& attribute, std::size_t release);
 
 /// The name of the table of an enumeration.
@@ -26,6 +26,10 @@ std::string Enumerator(const std::string& enumeration, const std::string& row);
 /// except `result` and `const`. The words `text`, `table`, `missing` and `start` are for
 /// initializers and parts of a record.
 TemplateWords WordsOf(const ReleaseModel& model, const Attribute& attribute);
+
+/// The C++ type of the data member of an attribute. It can be smaller than the type of the value.
+std::string FieldType(const ReleaseModel& model, const ResolvedClass& type,
+                      const Attribute& attribute);
 
 /// The initializer that follows the name of the data member in its declaration.
 std::string FieldInitializer(const ReleaseModel& model, const Attribute& attribute);

@@ -81,12 +81,13 @@ constexpr std::string_view kNames = R"(  /// Returns the name of the entity as t
 
 /// The headers that every header of a family includes.
 constexpr std::string_view kUsualHeaders[] = {
-    "kelifc/core/aggregate.h",   "kelifc/core/binary.h",         "kelifc/core/boolean.h",
-    "kelifc/core/coordinates.h", "kelifc/core/enum.h",           "kelifc/core/enum_text.h",
-    "kelifc/core/integer.h",     "kelifc/core/length_measure.h", "kelifc/core/list_of_members.h",
-    "kelifc/core/logical.h",     "kelifc/core/member.h",         "kelifc/core/set_of_members.h",
-    "kelifc/core/string.h",      "kelifc/core/unknown.h",        "kelifc/platform/export.h",
-    "kelifc/platform/guid.h",    "kelifc/schema/common.h"};
+    "kelifc/core/aggregate.h",       "kelifc/core/binary.h",          "kelifc/core/boolean.h",
+    "kelifc/core/cached_instance.h", "kelifc/core/coordinates.h",     "kelifc/core/enum.h",
+    "kelifc/core/enum_text.h",       "kelifc/core/integer.h",         "kelifc/core/inverse_set.h",
+    "kelifc/core/length_measure.h",  "kelifc/core/list_of_members.h", "kelifc/core/logical.h",
+    "kelifc/core/member.h",          "kelifc/core/set_of_members.h",  "kelifc/core/string.h",
+    "kelifc/core/text_attribute.h",  "kelifc/core/unknown.h",         "kelifc/platform/export.h",
+    "kelifc/platform/guid.h",        "kelifc/schema/common.h"};
 
 /// Writes the header of one family.
 class HeaderEmitter {
@@ -277,15 +278,15 @@ class HeaderEmitter {
       out.Fill("  @name@();\n  ~@name@() override;\n", {{"name", type.entity->name}});
       if (!type.attributes.empty()) out.Line();
     }
-    for (const Attribute* attribute : type.attributes) EmitField(*attribute);
+    for (const Attribute* attribute : type.attributes) EmitField(type, *attribute);
   }
 
-  void EmitField(const Attribute& attribute) {
+  void EmitField(const ResolvedClass& type, const Attribute& attribute) {
     std::string comment = attribute.reason;
     if (comment.empty() && attribute.isInverse)
       comment = "inverse: setters of other instances never fill it";
     if (!comment.empty()) out.Doc("  ", comment);
-    out.Line("  " + StoredType(attribute, model.release) + " " + MemberName(attribute.name) +
+    out.Line("  " + FieldType(model, type, attribute) + " " + MemberName(attribute.name) +
              FieldInitializer(model, attribute) + ";");
   }
 

@@ -33,7 +33,7 @@ enum class Kind : std::uint8_t {
   kValue,       ///< an inline value with the name of its type
   kGlobalId64,  ///< the identifier of 22 characters; a load replaces an invalid one
   kGlobalId85,  ///< the identifier of 20 characters; a save replaces an empty one
-  kInstance,    ///< an instance that is held by value: a cache
+  kInstance,    ///< an instance that belongs to this one: a cache
 };
 
 /// The form of a getter. The texts are templates (see text_template.h) with the words Name, member,
@@ -74,6 +74,7 @@ struct KindInfo {
   std::string_view published = {};  ///< its enumerator of AttributeKind; empty: in no statement
   std::string_view type = {};  ///< the C++ type that reads it; empty if `holdsNamedType` is true
   std::string_view labelled = {};  ///< the type if the release has IfcLabel; empty: the same
+  std::string_view field = {};     ///< the type of the data member; empty: the same
   bool takesName = false;          ///< the notation names a class or an enumeration after it
   bool namesEnumeration = false;   ///< the name is that of an enumeration
   bool holdsNamedType = false;     ///< the attribute is stored as the type that the notation names

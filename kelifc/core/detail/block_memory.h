@@ -7,9 +7,13 @@
 
 namespace KelIFC::detail {
 
-/// Allocates memory for an instance or an aggregate: `size` bytes, aligned for any type
-/// of this size. Throws std::bad_alloc. Free it with FreeBlock.
+/// Allocates memory for an instance or an attribute: `size` bytes, aligned for any type of this
+/// size. Throws std::bad_alloc. Free it with FreeBlock.
 [[nodiscard]] KELIFC_API void* AllocateBlock(std::size_t size);
+
+/// The same at a multiple of `alignment`, which is a power of two and at most the alignment of
+/// operator new.
+[[nodiscard]] KELIFC_API void* AllocateBlock(std::size_t size, std::size_t alignment);
 
 /// Frees a block; any thread can call it. Null is ignored.
 KELIFC_API void FreeBlock(void* block) noexcept;

@@ -134,7 +134,7 @@ class Sequence {
     if (count == 0) return;
     if (count > kMaximum) throw std::bad_array_new_length();
     const std::size_t prefix = count < kHeaderCapacity ? 0 : kHeaderSize;
-    char* block = static_cast<char*>(AllocateBlock(prefix + count * kItemBytes));
+    char* block = static_cast<char*>(AllocateBlock(prefix + count * kItemBytes, alignof(T)));
     if (count >= kHeaderCapacity) ::new (static_cast<void*>(block)) Header();
     items = reinterpret_cast<T*>(block + prefix);
     capacity = static_cast<std::uint32_t>(count) & 0x7FFFFFFF;

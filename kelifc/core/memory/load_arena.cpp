@@ -17,7 +17,7 @@ struct LoadArena::Chunk {
   static Chunk* Make(bool hasHugePage) {
     void* const memory = AllocatePages(ChunkMap::kChunkSize);
     if (!ChunkMap::Add(memory)) {
-      FreePages(memory);
+      FreePages(memory, ChunkMap::kChunkSize);
       throw std::bad_alloc();
     }
     if (hasHugePage) AdviseHugePages(memory, ChunkMap::kChunkSize);
@@ -27,7 +27,7 @@ struct LoadArena::Chunk {
   void Drop(std::uint32_t count) noexcept {
     if (blocks.fetch_sub(count, std::memory_order_acq_rel) != count) return;
     ChunkMap::Remove(this);
-    FreePages(this);
+    FreePages(this, ChunkMap::kChunkSize);
   }
 
   static constexpr std::uint32_t kOpen = 0x80000000;
@@ -40,25 +40,28 @@ namespace {
 constexpr std::size_t kFirstPart = std::size_t{16} * 1024;
 
 constexpr std::size_t kLargestAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
-constexpr std::size_t kAlignment = std::min(sizeof(double), kLargestAlignment);
 
 thread_local LoadArena* current = nullptr;
 
+// `unit` is a power of two.
 constexpr std::size_t RoundUp(std::size_t size, std::size_t unit) {
-  return (size + unit - 1) / unit * unit;
+  return (size + unit - 1) & ~(unit - 1);
 }
 
 // The size of a type is a multiple of its alignment, so only these sizes need the largest one.
 constexpr std::size_t AlignmentOf(std::size_t size) {
-  return size % kLargestAlignment == 0 ? kLargestAlignment : kAlignment;
+  return size % kLargestAlignment == 0 ? kLargestAlignment
+                                       : std::min(sizeof(double), kLargestAlignment);
 }
 
 }  // namespace
 
-void* detail::AllocateBlock(std::size_t size) {
+void* detail::AllocateBlock(std::size_t size) { return AllocateBlock(size, AlignmentOf(size)); }
+
+void* detail::AllocateBlock(std::size_t size, std::size_t alignment) {
   LoadArena* const arena = current;
   if (arena == nullptr) return ::operator new(size);
-  if (size <= LoadArena::kLargestBlock) return arena->Carve(size);
+  if (size <= LoadArena::kLargestBlock) return arena->Carve(size, alignment);
   arena->bytes += size;
   return ::operator new(size);
 }
@@ -79,12 +82,12 @@ LoadArena::~LoadArena() {
   current = outer;
 }
 
-void* LoadArena::Carve(std::size_t size) {
-  const std::size_t taken = RoundUp(std::max(size, kAlignment), kAlignment);
-  std::size_t begin = RoundUp(cursor, AlignmentOf(size));
+void* LoadArena::Carve(std::size_t size, std::size_t alignment) {
+  const std::size_t taken = std::max<std::size_t>(size, 1);
+  std::size_t begin = RoundUp(cursor, alignment);
   while (begin + taken > end) {
     Extend();
-    begin = RoundUp(cursor, AlignmentOf(size));
+    begin = RoundUp(cursor, alignment);
   }
   cursor = begin + taken;
   ++carved;

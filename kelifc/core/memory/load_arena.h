@@ -17,8 +17,9 @@ namespace KelIFC {
 /// used again before that. Arenas can be nested.
 class LoadArena {
  public:
-  /// Larger blocks are always heap allocations of their own.
-  static constexpr std::size_t kLargestBlock = 2048;
+  /// Larger blocks are always heap allocations of their own. They can be far from their instances,
+  /// and a reference takes more memory if it is far from its owner.
+  static constexpr std::size_t kLargestBlock = std::size_t{64} * 1024;
 
   LoadArena();
   ~LoadArena();
@@ -29,11 +30,11 @@ class LoadArena {
   std::uint64_t GetBytes() const { return bytes; }
 
  private:
-  friend void* detail::AllocateBlock(std::size_t size);
+  friend void* detail::AllocateBlock(std::size_t size, std::size_t alignment);
   friend void detail::FreeBlock(void* block) noexcept;
   struct Chunk;
 
-  void* Carve(std::size_t size);
+  void* Carve(std::size_t size, std::size_t alignment);
   void Extend();
   void OpenChunk();
   void CloseChunk() noexcept;

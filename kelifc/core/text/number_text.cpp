@@ -139,6 +139,18 @@ double ReadUnsigned(const char* text, const char*& end) {
   return ReadWhole(text, end, std::chars_format::general, exponent);
 }
 
+// The magnitude of the lowest integer of 32 bits.
+constexpr std::uint64_t kLowestMagnitude = std::uint64_t{1} << 31;
+
+// Returns the number of any count of digits, or `bound` for a larger number.
+std::uint64_t ReadBounded(const char* text, std::uint64_t bound) {
+  std::uint64_t number = 0;
+  for (; IsDigit(*text) && number < bound; ++text) {
+    number = std::min(10 * number + static_cast<std::uint64_t>(*text - '0'), bound);
+  }
+  return number;
+}
+
 }  // namespace
 
 double ReadReal(const char* text, const char** end) {
@@ -158,24 +170,15 @@ std::int32_t ReadInteger(const char* text, const char** end) {
     *end = text;
     return 0;
   }
-  // Nine digits are in range.
-  constexpr std::ptrdiff_t kMostDigits = 9;
   const char* const first = at;
-  std::int32_t value = 0;
-  while (IsDigit(*at) && at - first < kMostDigits) value = 10 * value + (*at++ - '0');
-  if (!IsDigit(*at)) {
-    *end = at;
-    return isNegative ? -value : value;
-  }
-  const std::int64_t bound = isNegative ? -std::int64_t{std::numeric_limits<std::int32_t>::min()}
-                                        : std::int64_t{std::numeric_limits<std::int32_t>::max()};
-  std::int64_t number = value;
-  for (; IsDigit(*at); ++at) {
-    if (number < bound) number = 10 * number + (*at - '0');
-  }
+  std::uint64_t number = 0;
+  while (IsDigit(*at)) number = 10 * number + static_cast<std::uint64_t>(*at++ - '0');
   *end = at;
-  if (number > bound) number = bound;
-  return static_cast<std::int32_t>(isNegative ? -number : number);
+  constexpr std::ptrdiff_t kMostDigits = 19;  // fit into 64 bits
+  const std::uint64_t bound = isNegative ? kLowestMagnitude : kLowestMagnitude - 1;
+  number = at - first <= kMostDigits ? std::min(number, bound) : ReadBounded(first, bound);
+  const auto magnitude = static_cast<std::int64_t>(number);
+  return static_cast<std::int32_t>(isNegative ? -magnitude : magnitude);
 }
 
 namespace {

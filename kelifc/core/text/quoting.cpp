@@ -119,6 +119,15 @@ const char* DecodeQuoted(const char* text, std::string& out) {
   }
 }
 
+bool FindPlainQuoted(const char* text, std::string_view& plain) {
+  const char* const opening = std::strchr(text, kQuote);
+  if (opening == nullptr) return false;
+  const char* const closing = std::strchr(opening + 1, kQuote);
+  if (closing == nullptr) return false;
+  plain = std::string_view(opening + 1, static_cast<std::size_t>(closing - opening - 1));
+  return plain.find(kEscape) == std::string_view::npos;
+}
+
 void EncodeQuoted(std::ostream& out, std::string_view text) {
   if (PutPlain(out, text)) return;
   text = text.substr(0, text.find('\0'));

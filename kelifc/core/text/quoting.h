@@ -27,6 +27,10 @@ constexpr bool IsEscapable(char c) { return c == kQuote || c == kEscape; }
 ///  - A `\` before any other character stays.
 const char* DecodeQuoted(const char* text, std::string& out);
 
+/// Finds the same text, if it has a closing quote and no escape. Sets `plain` to its characters,
+/// which are a part of `text`. Otherwise returns false, and DecodeQuoted has to decode the text.
+bool FindPlainQuoted(const char* text, std::string_view& plain);
+
 /// Writes `text` between quotes, up to its first NUL if it has one. Quotes and backslashes are
 /// escaped, bytes above 127 are written as `\X\hh`, and all other bytes are not changed.
 void EncodeQuoted(std::ostream& out, std::string_view text);

@@ -18,7 +18,7 @@ class AddedChunk {
   }
   ~AddedChunk() {
     ChunkMap::Remove(memory);
-    FreePages(memory);
+    FreePages(memory, ChunkMap::kChunkSize);
   }
   AddedChunk(const AddedChunk&) = delete;
   AddedChunk& operator=(const AddedChunk&) = delete;
@@ -52,7 +52,7 @@ TEST(ChunkMap, ForgetsAChunkThatWasRemoved) {
   ASSERT_TRUE(ChunkMap::Add(memory));
   ChunkMap::Remove(memory);
   EXPECT_EQ(ChunkMap::Find(memory), nullptr);
-  FreePages(memory);
+  FreePages(memory, ChunkMap::kChunkSize);
 }
 
 TEST(ChunkMap, IsSharedByAllThreads) {

@@ -79,6 +79,17 @@ TEST(LoadArena, PlacesBlocksOneAfterTheOther) {
   for (void* block : {first, second, third}) FreeBlock(block);
 }
 
+TEST(LoadArena, LeavesNoGapsBetweenBlocksWithoutAlignment) {
+  const LoadArena arena;
+  void* const first = AllocateBlock(5, 1);
+  void* const second = AllocateBlock(16, 1);
+  void* const third = AllocateBlock(8, alignof(double));
+  EXPECT_EQ(Distance(first, second), 5);
+  EXPECT_EQ(reinterpret_cast<std::uintptr_t>(third) % alignof(double), 0U);
+  EXPECT_LT(Distance(second, third), 24);
+  for (void* block : {first, second, third}) FreeBlock(block);
+}
+
 TEST(LoadArena, KeepsBlocksThatOutliveIt) {
   std::unique_ptr<Blocks> blocks;
   {

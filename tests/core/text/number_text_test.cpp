@@ -206,6 +206,7 @@ TEST(NumberText, ReadsIntegersOf32Bits) {
   ExpectInteger(" \t-7)", -7, 4);
   ExpectInteger("+5", 5, 2);
   ExpectInteger("0010", 10, 4);
+  ExpectInteger("-000000000000000000000000000012", -12, 31);
   ExpectInteger("2147483647", 2147483647, 10);
   ExpectInteger("-2147483648", std::numeric_limits<std::int32_t>::min(), 11);
 }

@@ -123,6 +123,17 @@ TEST(Quoting, KeepsTheTextThatItReadBeforeTheEnd) {
   EXPECT_EQ(Decode("").rest, "(open)");
 }
 
+TEST(Quoting, FindsATextWithoutEscapes) {
+  std::string_view plain;
+  EXPECT_TRUE(FindPlainQuoted("x 'abc','d'", plain));
+  EXPECT_EQ(plain, "abc");
+  EXPECT_TRUE(FindPlainQuoted("''", plain));
+  EXPECT_EQ(plain, "");
+  EXPECT_FALSE(FindPlainQuoted("'a\\'b'", plain));
+  EXPECT_FALSE(FindPlainQuoted("'abc", plain));
+  EXPECT_FALSE(FindPlainQuoted("abc", plain));
+}
+
 TEST(Quoting, ReadsRandomTextByTheRules) {
   std::mt19937 random(10);
   const std::string parts = "''''\\\\\\\\XxXabAf09 z,";

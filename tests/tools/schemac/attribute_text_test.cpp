@@ -18,6 +18,13 @@ std::string Shown(const std::string& lines,
   return print(resolved.model, *resolved.model.Find("IfcA")->attributes.front());
 }
 
+/// Returns the type of the data member of the first attribute of IfcA with these lines.
+std::string FieldShown(const std::string& lines) {
+  const Resolved resolved("entity IfcA : IfcUnknown all\n  doc A.\n" + lines, k2x3);
+  const ResolvedClass& type = *resolved.model.Find("IfcA");
+  return FieldType(resolved.model, type, *type.attributes.front());
+}
+
 TEST(MemberName, StartsInLowerCaseAndIsNotAReservedWord) {
   EXPECT_EQ(MemberName("XDim"), "xDim");
   EXPECT_EQ(MemberName("Operator"), "operatorValue");
@@ -39,10 +46,31 @@ TEST(StoredType, IsTheNamedTypeForEnumerationsAndCaches) {
   }
 }
 
+TEST(FieldType, IsSmallerThanTheValueForTexts) {
+  EXPECT_EQ(FieldShown("  X string\n"), "TextAttribute");
+  EXPECT_EQ(FieldShown("  X label\n  ops GetX\n"), "TextAttribute");
+  EXPECT_EQ(FieldShown("  X real\n"), "REAL");
+}
+
+TEST(FieldType, IsTheTypeOfTheValueIfAGetterReturnsAReference) {
+  EXPECT_EQ(FieldShown("  X label\n  ops GetX const\n"), "IfcLabel");
+}
+
+TEST(FieldType, HoldsOnlyNumbersForSetsThatNoStatementContains) {
+  EXPECT_EQ(FieldShown("  X set IfcA inverse\n"), "InverseSet");
+  EXPECT_EQ(FieldShown("  X set IfcA memory\n"), "InverseSet");
+  EXPECT_EQ(FieldShown("  X set IfcA\n"), "SET_OF_MEMBERS");
+}
+
+TEST(FieldType, MakesAnInstanceOnlyWhenItIsUsed) {
+  EXPECT_EQ(FieldShown("  X cache IfcA\n"), "CachedInstance<IfcA>");
+}
+
 TEST(FieldInitializer, GivesReferencesTheirOwner) {
   EXPECT_EQ(Shown("  X ref IfcA\n", FieldInitializer), "{this}");
   EXPECT_EQ(Shown("  X list IfcA\n", FieldInitializer), "{this}");
   EXPECT_EQ(Shown("  X ref IfcA ownerless\n", FieldInitializer), "");
+  EXPECT_EQ(Shown("  X set IfcA inverse\n", FieldInitializer), "");
 }
 
 TEST(FieldInitializer, StartsAnEnumerationWithTheRowOfZero) {
