@@ -5,8 +5,8 @@
 
 namespace KelIFC {
 
-/// An instance that an operation of an entity returns and the entity stores. It is made at the first
-/// use, because most entities never need it. It then stays at its address until the entity is
+/// An instance that an operation of an entity returns and the entity stores. It is made at the
+/// first use, because most entities never need it. It then stays at its address until the entity is
 /// destroyed. A copy of the entity has a copy of the instance.
 template <class T>
 class CachedInstance {

@@ -9,8 +9,8 @@ namespace {
 
 /// Returns true if a reference is in the attribute, and in an instance of the entity, that an
 /// inverse attribute names.
-bool IsPartOf(const Model::Reference& reference, IfcServer& server,
-              const InverseAttribute& inverse, const EntityDescription& entity) {
+bool IsPartOf(const Model::Reference& reference, IfcServer& server, const InverseAttribute& inverse,
+              const EntityDescription& entity) {
   const IfcUnknown* const item = server.GetItem(reference.number);
   const EntityDescription* const found = item == nullptr ? nullptr : DescribeInstance(*item);
   if (found == nullptr || !found->IsKindOf(entity)) return false;

@@ -1,4 +1,5 @@
 #include <fcntl.h>
+#include <gtest/gtest.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -8,8 +9,6 @@
 #include <filesystem>
 #include <string>
 #include <thread>
-
-#include <gtest/gtest.h>
 
 #include "tests/command/process.h"
 

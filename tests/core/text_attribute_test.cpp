@@ -5,6 +5,7 @@
 #include <string>
 
 #include "kelifc/core/memory/load_arena.h"
+
 #include "tests/core/text.h"
 
 namespace KelIFC {

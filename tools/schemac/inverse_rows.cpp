@@ -27,8 +27,8 @@ void Check(const ReleaseModel& model, const Inverse& inverse) {
     throw DescriptionError(inverse.place, "unknown entity '" + inverse.entity + "'");
   }
   if (!KeepsReferences(model, *entity, inverse.attribute)) {
-    throw DescriptionError(inverse.place, inverse.entity + " keeps no references in '" +
-                                              inverse.attribute + "'");
+    throw DescriptionError(inverse.place,
+                           inverse.entity + " keeps no references in '" + inverse.attribute + "'");
   }
 }
 

@@ -16,11 +16,10 @@ bool IsRail(const CraneRail& rail) {
                        rail.headAtEdge < rail.height && rail.webThickness < rail.headWidth;
   const bool hasBase = rail.baseAtWeb > 0.0 && rail.baseAtEdge > 0.0 &&
                        rail.baseAtEdge < rail.height && rail.webThickness < rail.baseWidth;
-  const bool hasWeb =
-      rail.webThickness > 0.0 && rail.headAtWeb + rail.baseAtWeb < rail.height;
-  const bool fitsBend = !HasBend(rail) || (rail.baseAtBend > 0.0 && rail.baseAtBend < rail.height &&
-                                           rail.webThickness < rail.bendWidth &&
-                                           rail.bendWidth < rail.baseWidth);
+  const bool hasWeb = rail.webThickness > 0.0 && rail.headAtWeb + rail.baseAtWeb < rail.height;
+  const bool fitsBend =
+      !HasBend(rail) || (rail.baseAtBend > 0.0 && rail.baseAtBend < rail.height &&
+                         rail.webThickness < rail.bendWidth && rail.bendWidth < rail.baseWidth);
   return hasHead && hasBase && hasWeb && fitsBend;
 }
 

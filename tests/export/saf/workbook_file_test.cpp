@@ -8,7 +8,6 @@
 #include <string>
 
 #include "export/export.h"
-
 #include "tests/export/test_path.h"
 
 namespace KelIFC::exporting::saf {
