@@ -13,7 +13,7 @@
 namespace KelIFC::archive {
 namespace {
 
-constexpr std::size_t kBlock = std::size_t{64} * 1024;
+constexpr std::size_t kGzipBlock = std::size_t{64} * 1024;
 constexpr int kGzipOnly = 16;  // added to the window bits: zlib then accepts the gzip form alone
 
 // A zlib stream that expands gzip members.
@@ -59,7 +59,7 @@ class Inflater {
 
  private:
   z_stream stream = {};
-  std::vector<char> block = std::vector<char>(kBlock);
+  std::vector<char> block = std::vector<char>(kGzipBlock);
   bool isInMember = true;
 };
 
@@ -70,7 +70,7 @@ void ExpandGzip(const std::string& path, std::ostream& out, const ExpansionLimit
   if (!file) throw std::system_error(errno, std::generic_category(), "the file cannot be opened");
   Expansion expansion(out, limits, std::filesystem::file_size(path));
   Inflater inflater;
-  std::vector<char> input(kBlock);
+  std::vector<char> input(kGzipBlock);
   bool isPadding = false;
   while (!isPadding && file) {
     file.read(input.data(), static_cast<std::streamsize>(input.size()));

@@ -15,7 +15,7 @@
 namespace KelIFC::archive {
 namespace {
 
-constexpr std::size_t kBlock = std::size_t{64} * 1024;
+constexpr std::size_t kZipBlock = std::size_t{64} * 1024;
 
 struct ArchiveCloser {
   void operator()(zip_t* archive) const { zip_discard(archive); }
@@ -101,7 +101,7 @@ void ExpandZip(const std::string& path, std::ostream& out, const ExpansionLimits
     throw ArchiveError(std::string("the archive cannot be expanded: ") +
                        zip_strerror(archive.get()));
   }
-  std::vector<char> block(kBlock);
+  std::vector<char> block(kZipBlock);
   zip_int64_t count = 0;
   while ((count = zip_fread(member.get(), block.data(), block.size())) > 0) {
     expansion.Write(block.data(), static_cast<std::size_t>(count));

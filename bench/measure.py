@@ -1,18 +1,23 @@
 #!/usr/bin/env python3
 """Measures loads, saves, conversions and resets of whole models, and prints them as a table.
 
-    python3 bench/measure.py BUILD WORK [MODEL.ifc...]
+    python3 bench/measure.py [--growth] BUILD WORK [MODEL.ifc...]
 
 BUILD is the build folder of the preset release. Without MODEL arguments the script makes models in
-the folder WORK and keeps them for the next run; with MODEL arguments it measures these instead.
+the folder WORK and keeps them for the next run; with MODEL arguments it measures these instead. If
+the environment variable KELIFC_TEST_DATA names a folder of real models, the script also copies each
+of them that has 2 MB or more until it has 200 MB, and measures the copies. --growth measures models
+of 10, 100 and 1,000 MB: a made one, and the first of the real ones.
 Times are processor time, the median of five runs. Memory is the peak of `kelifc info`, `kelifc
 save` and `kelifc structure`, each in a process of its own. Nothing else should run meanwhile.
 
 The second table has the processor times in byte loops: a byte loop counts the `;` outside of quotes
 in the same file in memory. It has the page faults of each work, too. Unlike the first table, it
-measures in new processes, where the system has to provide all memory.
+measures in new processes, where the system has to provide all memory. Its first row has the
+targets, which hold for the copies of real models.
 """
 
+import argparse
 import collections
 import json
 import os
@@ -20,10 +25,16 @@ import statistics
 import subprocess
 import sys
 
+from amplify_model import amplify
+
 HERE = os.path.dirname(os.path.abspath(__file__))
 REPETITIONS = 5
 MEGABYTE = 1e6
 WORKS = ("LoadWholeModel", "ResetWholeModel", "SaveWholeModel", "ConvertWholeModel")
+TARGETS = {"load": 6.2, "conversion": 0.5, "save": 3.5, "reset": 0.6}  # in byte loops
+LEAST_REAL = 2 * MEGABYTE
+REAL_MEGABYTES = 200
+GROWTH = (10, 100, 1000)  # megabytes
 LOOKUPS = ("FindInstance", "GetItemByNumber", "GetItemByNumberAnywhere")
 
 Made = collections.namedtuple("Made", "release order megabytes")
@@ -42,6 +53,34 @@ def make(model, folder):
                        check=True)
         os.rename(path + ".part", path)
     return path
+
+
+def real_models():
+    """Returns the paths of the real models that are large enough to be copied."""
+    folder = os.environ.get("KELIFC_TEST_DATA")
+    if not folder:
+        return []
+    paths = sorted(os.path.join(folder, name) for name in os.listdir(folder)
+                   if name.endswith(".ifc"))
+    return [path for path in paths if os.path.getsize(path) >= LEAST_REAL]
+
+
+def copies_of(model, megabytes, folder):
+    """Copies a real model unless the folder already has the copies, and returns their path."""
+    path = os.path.join(folder, f"{name_of(model)}-{megabytes}.ifc")
+    if not os.path.exists(path):
+        amplify(model, path + ".part", int(megabytes * MEGABYTE))
+        os.rename(path + ".part", path)
+    return path
+
+
+def models_to_measure(growth, folder):
+    real = real_models()
+    if growth:
+        return ([make(Made("2x3", "ascending", size), folder) for size in GROWTH] +
+                [copies_of(model, size, folder) for model in real[:1] for size in GROWTH])
+    return ([make(model, folder) for model in MADE] +
+            [copies_of(model, REAL_MEGABYTES, folder) for model in real])
 
 
 def run_benchmarks(build, path):
@@ -101,12 +140,14 @@ def run_byte_loops(build, path):
 def print_byte_loops(build, paths):
     print("| model | loop ms | load | conversion | save | reset | faults | faults | faults | faults |")
     print("|---|" + "---:|" * 9)
+    targets = " | ".join(f"{target:.2f}" for target in TARGETS.values())
+    print(f"| target | | {targets} |" + " |" * 4)
     for path in paths:
         works = run_byte_loops(build, path)
         loop, _ = works.pop("loop")
         cells = [f"{1000 * loop:.0f}"]
-        cells += [f"{seconds / loop:.2f}" for seconds, _ in works.values()]
-        cells += [f"{faults:.0f}" for _, faults in works.values()]
+        cells += [f"{works[name][0] / loop:.2f}" for name in TARGETS]
+        cells += [f"{works[name][1]:.0f}" for name in TARGETS]
         print(f"| {name_of(path)} | " + " | ".join(cells) + " |", flush=True)
 
 
@@ -115,9 +156,15 @@ def name_of(path):
 
 
 def main():
-    build, work, *named = sys.argv[1:]
+    parser = argparse.ArgumentParser(description=__doc__.split("\n", maxsplit=1)[0])
+    parser.add_argument("--growth", action="store_true", help="measure 10, 100 and 1,000 MB")
+    parser.add_argument("build", metavar="BUILD")
+    parser.add_argument("work", metavar="WORK")
+    parser.add_argument("models", metavar="MODEL.ifc", nargs="*")
+    arguments = parser.parse_args()
+    build, work = arguments.build, arguments.work
     os.makedirs(work, exist_ok=True)
-    paths = named or [make(model, work) for model in MADE]
+    paths = arguments.models or models_to_measure(arguments.growth, work)
     print("| model | MB | load ms | MB/s | ms per MB | save ms | MB/s | convert ms | % of load | "
           "elements | reset ms | % of load | B/B load | B/B save | B/B structure | find ns | "
           "item ns | item anywhere ns |")

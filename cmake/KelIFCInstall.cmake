@@ -65,6 +65,8 @@ if(WIN32)
     DESTINATION "${CMAKE_INSTALL_DATADIR}/KelIFC" COMPONENT development)
   install(FILES "${PROJECT_SOURCE_DIR}/docs/windows.md" "${PROJECT_SOURCE_DIR}/docs/object-model.md"
     DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT development)
+  install(FILES "${PROJECT_SOURCE_DIR}/cmake/packages/copyright" RENAME copyright.txt
+    DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT command)
 endif()
 
 # The reference pages of the entity classes, which schemac generates together with the classes.

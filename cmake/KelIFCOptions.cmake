@@ -55,6 +55,13 @@ set(CMAKE_POSITION_INDEPENDENT_CODE ON)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
+# The sources of a folder share most of their headers, so several of them are compiled as one. In a
+# folder, names in anonymous namespaces must therefore differ. The tests share a precompiled header.
+option(KELIFC_QUICK_BUILD "Compile sources together; OFF for tools that look at each source" ON)
+mark_as_advanced(KELIFC_QUICK_BUILD)
+set(CMAKE_UNITY_BUILD ${KELIFC_QUICK_BUILD})
+set(CMAKE_UNITY_BUILD_BATCH_SIZE 8)
+
 # A compiler cache speeds up repeated builds and is optional. An outer project makes its own choice.
 if(PROJECT_IS_TOP_LEVEL)
   find_program(KELIFC_CCACHE ccache)
@@ -70,6 +77,10 @@ add_library(kelifc_warnings INTERFACE)
 target_compile_options(kelifc_warnings INTERFACE -Wall -Wextra -Wpedantic
   $<$<BOOL:${KELIFC_WARNINGS_AS_ERRORS}>:-Werror>
   $<$<AND:$<CXX_COMPILER_ID:GNU>,$<VERSION_LESS:$<CXX_COMPILER_VERSION>,13>>:-Wno-restrict>)
+
+# For code that runs briefly: the generators and the tests. It is compiled in half the time.
+add_library(kelifc_unoptimised INTERFACE)
+target_compile_options(kelifc_unoptimised INTERFACE -O0)
 
 # Additional settings for the sources of the library, its generators and its tests: include paths
 # start at the root of the tree, and KELIFC_API exports.

@@ -88,6 +88,7 @@ set(kelifc_public_headers
   kelifc/schema/write_attribute.h
   kelifc/server/detail/instance_index.h
   kelifc/server/detail/number_index.h
+  kelifc/server/detail/number_order.h
   kelifc/server/detail/product_numbers.h
   kelifc/server/detail/project_classes.h
   kelifc/server/ifc_server.h
@@ -100,6 +101,7 @@ set(kelifc_public_headers
   kelifc/server/report_format.h
   kelifc/server/same_values.h
   kelifc/server/save_options.h
+  kelifc/server/source_position.h
   kelifc/server/statement_place.h
   kelifc/server/statement_text.h)
 

@@ -92,6 +92,8 @@ std::string XmlText(std::string_view text) {
   return escaped;
 }
 
+char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
 std::string FileNamePart(std::string_view name) {
   std::string part;
   ForEachCharacter(name, [&](char32_t code) {

@@ -23,6 +23,9 @@ std::string ValidUtf8(std::string_view text);
 /// that XML does not allow, and bytes that are not UTF-8, become U+FFFD.
 std::string XmlText(std::string_view text);
 
+/// A letter from A to Z in lower case; any other byte is returned as it is.
+char LowerCase(char c);
+
 /// A name reduced to the characters A-Z a-z 0-9 _ - and to 40 of them; all others become "-". It is
 /// "unnamed" for an empty name.
 std::string FileNamePart(std::string_view name);

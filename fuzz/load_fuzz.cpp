@@ -1,8 +1,10 @@
 #include <cstddef>
 #include <cstdint>
+#include <sstream>
 #include <string_view>
 
 #include "kelifc/core/unknown.h"
+#include "kelifc/server/block_size.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/report_format.h"
 
@@ -45,15 +47,44 @@ void RequireReport(IfcServer& server, std::size_t size) {
   KelIFC::FormatReportAsJson(report);
 }
 
+// A new global identifier differs at each load, but not in its length.
+std::size_t LengthOf(const KelIFC::IfcUnknown& item) {
+  std::ostringstream out;
+  item.Write(out);
+  return out.str().size();
+}
+
+// Loads the text again, in small pieces on three threads, and compares the models.
+void RequireSameOnThreads(KelIFC::LoadOptions options, std::string_view text, int result,
+                          IfcServer& expected) {
+  const KelIFC::BlockSizeScope scope(64);
+  options.threads = 3;
+  IfcServer server;
+  Require(server.LoadIfcMemory(text.data(), text.size(), options) == result);
+  if (result == 0) {
+    expected.CheckModel();
+    server.CheckModel();
+    Require(FormatReportAsJson(server.GetLoadReport()) ==
+            FormatReportAsJson(expected.GetLoadReport()));
+  }
+  Require(server.GetItems().size() == expected.GetItems().size());
+  for (std::size_t i = 0; i < server.GetItems().size(); ++i) {
+    const KelIFC::IfcUnknown* const item = server.GetItems()[i];
+    Require(server.Find(item) == expected.Find(expected.GetItems()[i]));
+    Require(LengthOf(*item) == LengthOf(*expected.GetItems()[i]));
+  }
+}
+
 void LoadInDialect(KelIFC::STEP_DIALECT dialect, bool keepsUnknown, std::string_view text) {
   KelIFC::LoadOptions options;
   options.dialect = dialect;
   options.keepUnknown = keepsUnknown;
   IfcServer server;
-  if (server.LoadIfcMemory(text.data(), text.size(), options) == 0) {
-    RequireReport(server, text.size());
-  }
+  const int result = server.LoadIfcMemory(text.data(), text.size(), options);
+  if (result == 0) RequireReport(server, text.size());
   AskForEverything(server);
+  // Threads take time to start, so only some of the inputs are loaded by several.
+  if (text.size() % 8 == 0) RequireSameOnThreads(options, text, result, server);
 }
 
 }  // namespace

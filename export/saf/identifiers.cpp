@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "export/saf/cell_text.h"
+#include "export/text.h"
 
 namespace KelIFC::exporting::saf {
 namespace {
@@ -29,8 +30,6 @@ void StoreBigEndian(std::uint64_t value, std::uint8_t* bytes) {
     value >>= 8;
   }
 }
-
-char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 }  // namespace
 

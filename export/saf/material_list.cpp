@@ -4,6 +4,8 @@
 #include <array>
 #include <optional>
 
+#include "export/text.h"
+
 namespace KelIFC::exporting::saf {
 namespace {
 
@@ -68,8 +70,6 @@ constexpr auto kNameParts = std::to_array<NamePart>({
     {"madeira", "Timber"},
     {"alumin", "Aluminium"},
 });
-
-char LowerCase(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 

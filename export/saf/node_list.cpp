@@ -8,7 +8,7 @@ namespace KelIFC::exporting::saf {
 namespace {
 
 constexpr double kSmallestTolerance = 1e-9;
-constexpr NodeList::Index kNone = std::numeric_limits<NodeList::Index>::max();
+constexpr NodeList::Index kNoNode = std::numeric_limits<NodeList::Index>::max();
 
 }  // namespace
 
@@ -35,7 +35,7 @@ void NodeList::Search(const Cell& cell, const Point3& point, Index& nearest,
                       double& distance) const {
   const auto at = cells.find(cell);
   if (at == cells.end()) return;
-  for (Index node = at->second; node != kNone; node = next[node]) {
+  for (Index node = at->second; node != kNoNode; node = next[node]) {
     const double length = Length(points[node] - point);
     if (length > distance || (length == distance && node > nearest)) continue;
     nearest = node;
@@ -47,7 +47,7 @@ NodeList::Index NodeList::FindNearest(const Point3& point) const {
   const Vector3 reach(tolerance, tolerance, tolerance);
   const Cell low = CellOf(point + -reach);
   const Cell high = CellOf(point + reach);
-  Index nearest = kNone;
+  Index nearest = kNoNode;
   double distance = tolerance;
   for (int corner = 0; corner < 8; ++corner) {
     // A corner that lies in the same cell as an earlier one is skipped.
@@ -63,10 +63,10 @@ NodeList::Index NodeList::FindNearest(const Point3& point) const {
 
 NodeList::Index NodeList::Add(const Point3& point) {
   const Index nearest = FindNearest(point);
-  if (nearest != kNone) return nearest;
+  if (nearest != kNoNode) return nearest;
   const auto index = static_cast<Index>(points.size());
   const auto [at, isNew] = cells.emplace(CellOf(point), index);
-  next.push_back(isNew ? kNone : at->second);
+  next.push_back(isNew ? kNoNode : at->second);
   at->second = index;
   points.push_back(point);
   return index;
@@ -75,7 +75,7 @@ NodeList::Index NodeList::Add(const Point3& point) {
 void NodeList::Truncate(std::size_t count) {
   while (points.size() > count) {
     const auto at = cells.find(CellOf(points.back()));
-    if (next.back() == kNone) {
+    if (next.back() == kNoNode) {
       cells.erase(at);
     } else {
       at->second = next.back();

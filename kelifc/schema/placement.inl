@@ -99,8 +99,8 @@ void DeriveSecondAxis(IfcDirection* /*second*/, const IfcDirection* /*first*/,
 namespace {
 
 const IfcDirection& AxisOfPlane(bool first, IfcServer* server) {
-  static IfcDirection x(1.0, 0.0);
-  static IfcDirection y(0.0, 1.0);
+  thread_local IfcDirection x(1.0, 0.0);
+  thread_local IfcDirection y(0.0, 1.0);
   IfcDirection& axis = first ? x : y;
   axis.SetServer(server);
   return axis;
@@ -113,9 +113,11 @@ const IfcDirection& AxisOfPlane(bool first, IfcServer* server) {
 // into it.
 const char* IfcAxis2Placement2D::Parse(const char* cursor) {
   cursor = ParseRecord(IfcPlacement::Parse(cursor), refDirection);
-  if (GetServer() != nullptr && static_cast<std::size_t>(secondAxis) == 0) {
-    secondAxis = AddInstance(GetServer(), new IfcDirection(_GetDim()));
-  }
+  PostponedWork::Extend([this] {
+    if (GetServer() == nullptr || static_cast<std::size_t>(secondAxis) != 0) return;
+    const bool isUnread = IsReadLater(GetServer(), static_cast<std::size_t>(location));
+    secondAxis = AddInstance(GetServer(), new IfcDirection(isUnread ? INTEGER(0) : _GetDim()));
+  });
   return cursor;
 }
 
@@ -140,11 +142,11 @@ LIST<const IfcDirection*> IfcAxis2Placement2D::GetP() const {
 
 namespace {
 
-/// Returns an axis of the world. All placements share it, and its server is that of the last
-/// caller.
+/// Returns an axis of the world. All placements of the thread share it, and its server is that of
+/// the last caller.
 const IfcDirection* AxisOfWorld(std::size_t index, IfcServer* server) {
-  static IfcDirection axes[] = {IfcDirection(1.0, 0.0, 0.0), IfcDirection(0.0, 1.0, 0.0),
-                                IfcDirection(0.0, 0.0, 1.0)};
+  thread_local IfcDirection axes[] = {IfcDirection(1.0, 0.0, 0.0), IfcDirection(0.0, 1.0, 0.0),
+                                      IfcDirection(0.0, 0.0, 1.0)};
   axes[index].SetServer(server);
   return &axes[index];
 }

@@ -9,6 +9,7 @@
 #include "kelifc/core/member.h"
 #include "kelifc/core/references/cast_cache.h"
 #include "kelifc/core/references/model.h"
+#include "kelifc/core/references/postponed_work.h"
 #include "kelifc/core/references/resolve.h"
 #include "kelifc/core/set_of_members.h"
 #include "kelifc/core/unknown.h"
@@ -85,7 +86,7 @@ void ReplaceMembers(Members& members, const Items& items, const IfcUnknown& owne
 /// Calls `add` of the instance that a reference of the relationship `source` leads to. Does nothing
 /// if the class of the instance does not have that operation.
 template <class Source, class Target, class Item>
-void LinkBack(Source& source, const MEMBER& reference, void (Target::*add)(Item*)) {
+void AddToTarget(Source& source, const MEMBER& reference, void (Target::*add)(Item*)) {
   IfcUnknown* const instance =
       FindInstance(source.GetServer(), static_cast<std::size_t>(reference));
   auto* const target = const_cast<Target*>(CachedCast<Target>(instance));
@@ -94,8 +95,15 @@ void LinkBack(Source& source, const MEMBER& reference, void (Target::*add)(Item*
 
 /// Does the same for each member of an aggregate.
 template <class Source, class Members, class Target, class Item>
-void LinkBack(Source& source, const Members& members, void (Target::*add)(Item*)) {
-  for (std::size_t i = 1; i <= members.GetSize(); ++i) LinkBack(source, members[i], add);
+void AddToTarget(Source& source, const Members& members, void (Target::*add)(Item*)) {
+  for (std::size_t i = 1; i <= members.GetSize(); ++i) AddToTarget(source, members[i], add);
+}
+
+/// Does the same in the order of the statements. `references` is an attribute of `source`, a
+/// reference or an aggregate of references.
+template <class Source, class References, class Target, class Item>
+void LinkBack(Source& source, const References& references, void (Target::*add)(Item*)) {
+  PostponedWork::Link([&source, &references, add] { AddToTarget(source, references, add); });
 }
 
 /// Returns a new instance, or null if there is not enough memory.

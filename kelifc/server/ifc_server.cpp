@@ -116,13 +116,9 @@ std::size_t IfcServer::MakeNumber() {
 void IfcServer::Append(std::size_t id, IfcUnknown* item) {
   const std::size_t position = items.size();
   try {
-    FillSlot(id, item);
+    FillSlot(id, item, IsProduct(item));
   } catch (const std::bad_alloc&) {
-    if (!productPositions.empty() && productPositions.back() == position) {
-      productPositions.pop_back();
-    }
-    items.resize(position);
-    instanceIndex.Clear();
+    DropSlot(position);
     if (item != nullptr && item->GetServer() == nullptr) delete item;
     throw;
   }
@@ -132,12 +128,34 @@ void IfcServer::Append(std::size_t id, IfcUnknown* item) {
   item->SetServer(this);
 }
 
+// The same for a new instance whose server is set already. Does not access the instance, which can
+// still be in the cache of another processor.
+void IfcServer::AppendNew(std::size_t id, std::unique_ptr<IfcUnknown> item, bool isProduct) {
+  const std::size_t position = items.size();
+  try {
+    FillSlot(id, item.get(), isProduct);
+  } catch (const std::bad_alloc&) {
+    DropSlot(position);
+    throw;
+  }
+  static_cast<void>(item.release());
+}
+
+// Removes a slot that was filled in part.
+void IfcServer::DropSlot(std::size_t position) noexcept {
+  if (!productPositions.empty() && productPositions.back() == position) {
+    productPositions.pop_back();
+  }
+  items.resize(position);
+  instanceIndex.Clear();
+}
+
 // The number is set last: its earlier meaning must not be lost if there is no memory.
-void IfcServer::FillSlot(std::size_t id, IfcUnknown* item) {
+void IfcServer::FillSlot(std::size_t id, IfcUnknown* item, bool isProduct) {
   const auto position = static_cast<std::uint32_t>(items.size());
   productNumbers.Drop();
   items.push_back(item);
-  if (item != nullptr && IsProduct(item)) productPositions.push_back(position);
+  if (isProduct) productPositions.push_back(position);
   if (instanceIndex.IsBuilt()) {
     const std::uint32_t earlier = idToIndex.Find(id);
     if (earlier != detail::NumberIndex::kNone) instanceIndex.DropNumber(earlier);

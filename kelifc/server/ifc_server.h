@@ -16,6 +16,7 @@
 #include "kelifc/platform/guid.h"
 #include "kelifc/server/detail/instance_index.h"
 #include "kelifc/server/detail/number_index.h"
+#include "kelifc/server/detail/number_order.h"
 #include "kelifc/server/detail/product_numbers.h"
 #include "kelifc/server/detail/project_classes.h"
 #include "kelifc/server/load_findings.h"
@@ -25,10 +26,12 @@
 #include "kelifc/server/progress_handler.h"
 #include "kelifc/server/release.h"
 #include "kelifc/server/save_options.h"
+#include "kelifc/server/source_position.h"
 #include "kelifc/server/statement_place.h"
 
 namespace KelIFC {
 
+class BlockEnds;
 class IfcServer;
 class IfcUnknown;
 class IsoStatementReader;
@@ -39,6 +42,8 @@ class ProgressSteps;
 class ReportCollector;
 class ScanBuffer;
 class StepFileSchema;
+enum class StatedAs : std::uint8_t;
+struct MadeStatement;
 
 /// The order of global identifiers: by the three numbers, then byte by byte.
 struct KELIFC_API GuidLess {
@@ -291,8 +296,12 @@ class KELIFC_API IfcServer {
 
  private:
   friend class FaithfulSave;
+  friend class PieceMaker;
+  friend class PieceParser;
   friend class SourceStatements;
-  friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass);
+  friend bool IsReadLater(const IfcServer* server, std::size_t number);
+  friend void ScanFile(std::istream& in, IfcServer* server, bool firstPass,
+                       const SourcePosition& from);
   template <class AnyScanner>
   friend void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass);
   friend std::int16_t RegisterStatement(IfcServer* server, char* statement);
@@ -307,6 +316,7 @@ class KELIFC_API IfcServer {
     ModelOrigin* origin = nullptr;         // receives what a faithful save needs; null for none
     std::uint64_t* hash = nullptr;         // receives the hash of the source; null for none
     bool keepsUnknown = false;             // as IfcOther, where the release has no class
+    unsigned threads = 1;                  // which the load uses, that of the caller included
 
     bool isRunning = false;
     bool isStopped = false;                // by the progress handler
@@ -322,19 +332,26 @@ class KELIFC_API IfcServer {
     const IfcUnknown* parsed = nullptr;  // the instance whose statement is being read,
     std::size_t parsedNumber = 0;        // and its number
     std::size_t statementNumber = 0;     // of the statement that is being read, for the report
-    bool isUnordered = false;            // the last number was far from the one ahead of it
-    std::size_t lastNumber = 0;
+    bool isPostponed = false;   // after all statements: instances that classes add are registered
+    detail::NumberOrder order;  // of the statements of the pass that runs
     std::uint64_t highestNumber = 0;    // of all statements so far, including those left out
     std::uint64_t highestOrdinary = 0;  // the same, of numbers that are not negative
     std::uint64_t bytesBefore = 0;      // in the passes that are done
     std::uint64_t bytesTotal = 0;       // of both passes
     std::uint64_t bytesReported = 0;
+    std::uint64_t threadBytes = 0;        // blocks of the model that other threads allocated,
+    std::uint64_t threadBytesBefore = 0;  // and those of them in the passes that are done
+    SourcePosition stoppedAt;             // after the statement that ended a pass early
+    // With several threads: where statements end, about once for each block of the file.
+    std::vector<SourcePosition> cuts;
   };
 
   IfcUnknown* MakeByRelease(const char* name);
   std::size_t MakeNumber();
   void Append(std::size_t id, IfcUnknown* item);
-  void FillSlot(std::size_t id, IfcUnknown* item);
+  void AppendNew(std::size_t id, std::unique_ptr<IfcUnknown> item, bool isProduct);
+  void FillSlot(std::size_t id, IfcUnknown* item, bool isProduct);
+  void DropSlot(std::size_t position) noexcept;
   void BuildInstanceIndex() const;
   std::uint64_t FindProductNumber(const IfcUnknown* item) const;
   void BuildGuidIndex();
@@ -342,29 +359,36 @@ class KELIFC_API IfcServer {
 
   int LoadWithOptions(std::shared_ptr<const ModelSource> model, const LoadOptions& options);
   void KeepSource(std::shared_ptr<const ModelSource> kept);
+  unsigned CountThreads(const LoadOptions& options, std::uint64_t size) const;
+  void MakeInstances(std::istream& in);
+  void MakeOnThreads(std::istream& in);
+  bool CanParseOnThreads() const;
   void ScanSource(std::istream& in);
   int LoadFrom(const ModelSource& model, const LoadState& initial);
   int LoadPasses(const ModelSource& model);
   void ForgetLoad();
   void MakeRoom(std::uint64_t fileSize);
-  bool GoesOn();
+  bool GoesOn(std::uint64_t bytesRead);
+  bool GoesOn(const BlockEnds& ends);
   bool ReportProgress(std::uint64_t bytesRead);
   bool IsWithinMemory() const;
   std::int16_t ReadHeaderStatement(char* statement);
   IFC_RELEASE ReadSchema(const char* statement);
   IFC_RELEASE ReadIsoSchema(const char* statement);
   std::int16_t RegisterInstance(char* statement);
-  bool IsIso() const { return load.reader != nullptr; }
+  MadeStatement MakeStatement(std::size_t id, const char* text, const ScanBuffer& scanner);
+  void RegisterMade(MadeStatement statement, const char* text);
+  bool IsIso() const { return load.dialect == STEP_DIALECT_ISO; }
   IfcUnknown* MakeStated(const char* text);
   IfcUnknown* MakeRaw(const char* text);
-  void NoteRepeat(std::size_t id);
-  void NotePlace(std::size_t id);
-  void NoteStatement(std::size_t id, const IfcUnknown* made, const char* text);
+  void NoteRepeat(std::size_t id, const SourcePlace& place);
+  void NotePlace(std::size_t id, const StatementPlace& place);
+  void NoteStatement(std::size_t id, StatedAs kind, const char* text);
   bool IsStatementOf(std::size_t id);
   bool IsRepeated(std::size_t id);
   void NoteNumber(std::size_t id);
-  void NoteOrder(std::size_t id);
-  void NoteFailure();
+  IfcUnknown* FindStated(std::size_t id, std::uint64_t offset);
+  void NoteFailure(const SourcePlace& place);
 
   int SaveModel(const char* path, std::string_view schema, const SaveOptions& options,
                 std::string& reason);

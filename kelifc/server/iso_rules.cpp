@@ -40,6 +40,7 @@ bool IsoRules::FindMark() {
 
 void IsoRules::SkipByteOrderMark() {
   isStarted = true;
+  if (!IsAtBegin()) return;
   if (Peek(0) != 0xEF || Peek(1) != 0xBB || Peek(2) != 0xBF) return;
   cursor += 3;
   Begin();

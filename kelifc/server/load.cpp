@@ -2,16 +2,22 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <thread>
+#include <typeinfo>
 #include <utility>
 
 #include "kelifc/core/memory/load_arena.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/platform/memory_watch.h"
 #include "kelifc/platform/path.h"
+#include "kelifc/server/block_ends.h"
+#include "kelifc/server/block_size.h"
 #include "kelifc/server/content_hash.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/model_origin.h"
 #include "kelifc/server/model_source.h"
+#include "kelifc/server/piece_maker.h"
+#include "kelifc/server/piece_parser.h"
 #include "kelifc/server/report_collector.h"
 #include "kelifc/server/reserve_huge.h"
 #include "kelifc/server/scan_buffer.h"
@@ -101,6 +107,7 @@ int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
   if (options.dialect == STEP_DIALECT_ISO) made = std::make_shared<ModelOrigin>();
   initial.origin = made.get();
   initial.hash = &sourceHash;
+  initial.threads = CountThreads(options, model->GetSize());
   const int result = LoadFrom(*model, initial);
   if (result != LOAD_RESULT_LOADED) return result;
   try {
@@ -146,7 +153,7 @@ int IfcServer::LoadPasses(const ModelSource& model) {
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
   schemaRecord.reset();
   headerSeen = false;
-  ScanFile(*in, this, true);
+  MakeInstances(*in);
   if (load.isStopped || load.isBeyondLimit) return LOAD_RESULT_CANNOT_OPEN;
   if (!headerSeen) return LOAD_RESULT_NO_STEP_FILE;
   if (GetRelease() == IFC_RELEASE_NONE) {
@@ -157,6 +164,7 @@ int IfcServer::LoadPasses(const ModelSource& model) {
   load.bytesBefore = load.bytesTotal / 2;
   load.bytesReported = 0;
   load.statementBytes = 0;
+  load.threadBytesBefore = load.threadBytes;
   in = model.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
   if (load.hash == nullptr) {
@@ -165,6 +173,47 @@ int IfcServer::LoadPasses(const ModelSource& model) {
     ScanSource(*in);
   }
   return LOAD_RESULT_LOADED;
+}
+
+// Returns the number of threads for a load. The results of a load with narrow limits depend on
+// where it checks them, so such a load uses one thread.
+unsigned IfcServer::CountThreads(const LoadOptions& options, std::uint64_t size) const {
+  constexpr std::uint64_t kLeastBlocks = 4;
+  constexpr std::uint64_t kMemoryOfByte = 16;  // a model takes less for each byte of its source
+  constexpr unsigned kMostThreads = 64;
+  const LoadLimits& limits = options.limits;
+  const std::uint64_t longest = PieceMaker::kMostBlocks * GetBlockSize();
+  const bool isNarrow = Exceeds(longest, limits.maxStatementBytes) ||
+                        Exceeds(kMemoryOfByte * size, limits.maxMemoryBytes);
+  const bool isDerived = typeid(*this) != typeid(IfcServer);
+  if (isDerived || isNarrow || size < kLeastBlocks * GetBlockSize()) return 1;
+  const unsigned wanted =
+      options.threads == 0 ? std::thread::hardware_concurrency() : options.threads;
+  return std::clamp(wanted, 1U, kMostThreads);
+}
+
+// The first pass. With several threads, one thread reads the header.
+void IfcServer::MakeInstances(std::istream& in) {
+  if (load.threads > 1) load.cuts.emplace_back();
+  ScanFile(in, this, true);
+  const bool isHeader = load.threads > 1 && GetRelease() != IFC_RELEASE_NONE;
+  if (!isHeader || load.isStopped || load.isBeyondLimit || load.stoppedAt.offset == 0) return;
+  BlockEnds ends;
+  ends.Restart(load.bytesReported, GetBlockSize());
+  ends.Note(load.stoppedAt.offset);
+  if (GoesOn(ends)) MakeOnThreads(in);
+}
+
+void IfcServer::MakeOnThreads(std::istream& in) {
+  const auto seek = [&in](const SourcePosition& position) {
+    in.clear();
+    in.seekg(static_cast<std::streamoff>(position.offset));
+  };
+  seek(load.stoppedAt);
+  const std::optional<SourcePosition> rest = PieceMaker(*this, in, load.stoppedAt).Make();
+  if (!rest) return;
+  seek(*rest);
+  ScanFile(in, this, true, *rest);
 }
 
 // The second pass of a load with options. It also notes what the server needs to read the source
@@ -178,9 +227,31 @@ void IfcServer::ScanSource(std::istream& in) {
     recorder.emplace(target->replacedIds, load.statementNumber);
   }
   HashedInput hashed(in);
-  ScanFile(hashed, this, false);
+  if (CanParseOnThreads()) {
+    PieceParser(*this, hashed).Parse();
+  } else {
+    ScanFile(hashed, this, false);
+  }
   *load.hash = hashed.GetHash().GetValue();
   if (target != nullptr) target->addedEnd = items.size();
+}
+
+// One thread parses
+//  - a model of release 1.5.1, in which statements set attributes that other statements read,
+//  - in the classic dialect, a model in which one instance parses several statements,
+//  - a model whose numbers are so high that classes add instances with numbers among them,
+//  - a source with a statement or a comment that is too long for the memory of a piece.
+bool IfcServer::CanParseOnThreads() const {
+  constexpr std::uint64_t kMostBytes = std::uint64_t{64} << 20;
+  if (load.cuts.size() < 2 || release == IFC_RELEASE_151) return false;
+  const bool isRepeated = load.findings->GetCount(LoadFinding::kRepeatedNumber) != 0;
+  if (!IsIso() && (isRepeated || load.collector->HasMixedNumber())) return false;
+  if (load.highestNumber != load.highestOrdinary) return false;
+  std::uint64_t begin = 0;
+  for (const SourcePosition& cut : load.cuts) {
+    if (cut.offset - std::exchange(begin, cut.offset) > kMostBytes) return false;
+  }
+  return load.bytesTotal / 2 - std::min(begin, load.bytesTotal / 2) <= kMostBytes;
 }
 
 void IfcServer::MakeRoom(std::uint64_t fileSize) {
@@ -193,16 +264,25 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
 }
 
 // Notes where a load with a report stops. A load that is cancelled stops at no fault of the file.
-void IfcServer::NoteFailure() {
-  if (load.findings != nullptr && !load.isStopped) report.failure = load.scanner->GetPlace();
+void IfcServer::NoteFailure(const SourcePlace& place) {
+  if (load.findings != nullptr && !load.isStopped) report.failure = place;
 }
 
 // Called once for each block of the file. Checks the memory and reports the progress.
-bool IfcServer::GoesOn() {
+bool IfcServer::GoesOn(std::uint64_t bytesRead) {
   if (!load.isRunning) return true;
-  load.bytesReported = load.scanner->GetBytesRead();
+  load.bytesReported = bytesRead;
   load.isBeyondLimit = !IsWithinMemory();
   return !load.isBeyondLimit && ReportProgress(load.bytesReported);
+}
+
+// The same for the blocks of a piece.
+bool IfcServer::GoesOn(const BlockEnds& ends) {
+  for (const std::uint64_t end : ends.Get()) {
+    const std::uint64_t bytesRead = std::min(end, load.bytesTotal / 2);
+    if (bytesRead > load.bytesReported && !GoesOn(bytesRead)) return false;
+  }
+  return true;
 }
 
 bool IfcServer::ReportProgress(std::uint64_t bytesRead) {
@@ -219,7 +299,7 @@ bool IfcServer::IsWithinMemory() const {
   const std::uint64_t texts = load.bytesBefore == 0 ? 0 : load.statementBytes;
   const std::uint64_t registry =
       kBytesPerSlot * items.size() + sizeof(StatementPlace) * places.size();
-  const std::uint64_t taken = blocks + texts + registry;
+  const std::uint64_t taken = blocks + load.threadBytes + texts + registry;
   return !Exceeds(taken, load.limits.maxMemoryBytes);
 }
 

@@ -1,6 +1,7 @@
 #ifndef KELIFC_SERVER_LOAD_FINDINGS_H_
 #define KELIFC_SERVER_LOAD_FINDINGS_H_
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -69,6 +70,24 @@ class LoadFindings {
     if (row.places.size() == kMostPlaces) return;
     row.subjects.push_back(std::move(subject));
     row.places.push_back(place);
+  }
+
+  /// Adds the findings of a later part of the same file.
+  void Append(LoadFindings&& later) {
+    for (std::size_t kind = 0; kind < rows.size(); ++kind) {
+      Row& row = rows[kind];
+      Row& added = later.rows[kind];
+      row.count += added.count;
+      for (std::size_t i = 0; i < added.places.size() && row.places.size() < kMostPlaces; ++i) {
+        row.subjects.push_back(std::move(added.subjects[i]));
+        row.places.push_back(added.places[i]);
+      }
+    }
+  }
+
+  /// Returns true if nothing was noted.
+  bool IsEmpty() const {
+    return std::all_of(rows.begin(), rows.end(), [](const Row& row) { return row.count == 0; });
   }
 
   /// Returns how often a kind was noted, including the findings whose places are not kept.

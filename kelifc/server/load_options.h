@@ -43,9 +43,10 @@ struct LoadOptions {
   /// The sizes at which the load stops.
   LoadLimits limits;
 
-  /// The number of threads that the load can use; 0 means one for each processor. It does not
-  /// change the model. At present a load uses one thread.
-  unsigned threads = 0;
+  /// The number of threads that the load can use, the thread of the caller included; 0 means one
+  /// for each processor. The model does not depend on it. Handlers run on the thread of the caller.
+  /// A load of a small source, or by a class that is derived from IfcServer, uses one thread.
+  unsigned threads = 1;
 
   /// True if statements of entities that the release does not know are kept as IfcOther in all
   /// releases. If it is not set, the dialect of ISO 10303-21 keeps them, and the classic dialect

@@ -20,4 +20,10 @@ std::size_t AddInstance(IfcServer* server, IfcUnknown* instance) {
   return server == nullptr ? 0 : server->AddItem(instance);
 }
 
+bool IsReadLater(const IfcServer* server, std::size_t number) {
+  if (server == nullptr || !server->load.isPostponed) return false;
+  const StatementPlace current = server->GetStatementPlace(server->load.parsedNumber);
+  return server->GetStatementPlace(number).offset > current.offset;
+}
+
 }  // namespace KelIFC

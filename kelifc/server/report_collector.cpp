@@ -31,11 +31,16 @@ std::string EntityNameAt(const char* text) {
   return UpperCase(std::string(begin, end));
 }
 
-void ReportCollector::NoteStatement(std::size_t number, const IfcUnknown* made, const char* text) {
+StatedAs KindOf(const IfcUnknown* made) {
+  if (made == nullptr) return StatedAs::kNothing;
+  return IsRaw(*made) ? StatedAs::kRaw : StatedAs::kClass;
+}
+
+void ReportCollector::NoteStatement(std::size_t number, StatedAs kind, const char* text) {
   ++report.statements;
-  if (made == nullptr) {
+  if (kind == StatedAs::kNothing) {
     droppedNumbers[number] = report.droppedByEntity.try_emplace(EntityNameAt(text)).first;
-  } else if (IsRaw(*made)) {
+  } else if (kind == StatedAs::kRaw) {
     rawNumbers.push_back(number);
   }
 }
@@ -43,7 +48,10 @@ void ReportCollector::NoteStatement(std::size_t number, const IfcUnknown* made, 
 void ReportCollector::EndFirstPass(const IfcServer& server) {
   slots = server.GetItems().size();
   for (const auto& [number, count] : droppedNumbers) {
-    if (server.HasNumber(number)) continue;  // another statement with it has an instance
+    if (server.HasNumber(number)) {  // another statement with it has an instance
+      hasMixedNumber = true;
+      continue;
+    }
     ++count->second;
     ++report.dropped;
   }

@@ -54,11 +54,13 @@ char* ScanBuffer::Finish(std::size_t next) {
 
 bool ScanBuffer::Refill() {
   if (limit != 0 && textEnd - textBegin + cursor - runBegin > limit) ended = isBeyondLimit = true;
+  hasPassedEnd = hasPassedEnd || ended;
   if (ended) return false;
   CloseGaps();
   if (capacity - dataEnd < blockSize) Grow();
-  input.read(&buffer[dataEnd], static_cast<std::streamsize>(blockSize));
-  const auto count = static_cast<std::size_t>(input.gcount());
+  const std::uint64_t wanted = blockSize - bytesRead % blockSize;
+  input->read(&buffer[dataEnd], static_cast<std::streamsize>(wanted));
+  const auto count = static_cast<std::size_t>(input->gcount());
   dataEnd += count;
   bytesRead += count;
   dataBegin = bytesRead - dataEnd;

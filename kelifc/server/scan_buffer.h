@@ -6,10 +6,12 @@
 #include <cstdint>
 #include <istream>
 #include <memory>
+#include <utility>
 #include <vector>
 
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/plain_statement.h"
+#include "kelifc/server/source_piece.h"
 #include "kelifc/server/statement_place.h"
 
 namespace KelIFC {
@@ -25,7 +27,33 @@ class ScanBuffer {
 
   /// Reads `source`, which must outlive the buffer, `size` bytes at a time.
   explicit ScanBuffer(std::istream& source, std::size_t size = kBlockSize)
-      : input(source), blockSize(size) {}
+      : input(&source), blockSize(size) {}
+
+  /// Reads a stream whose next byte has a position, after the end of a statement. The blocks begin
+  /// at the same offsets as those of a stream that is read from its begin.
+  ScanBuffer(std::istream& source, const SourcePosition& position, std::size_t size = kBlockSize)
+      : input(&source),
+        blockSize(size),
+        bytesRead(position.offset),
+        dataBegin(position.offset),
+        line(position.line),
+        lineStart(position.lineStart) {}
+
+  /// Reads a piece of a source, which begins after the end of a statement. Takes the memory of the
+  /// piece; Release returns it.
+  explicit ScanBuffer(SourcePiece& piece)
+      : dataEnd(piece.size),
+        buffer(std::move(piece.bytes)),
+        bytesRead(piece.begin.offset + piece.size),
+        dataBegin(piece.begin.offset),
+        capacity(piece.capacity),
+        ended(true),
+        line(piece.begin.line),
+        lineStart(piece.begin.lineStart) {}
+
+  /// Returns the memory to the piece that was passed to the constructor. After that the scanner
+  /// cannot be used.
+  void Release(SourcePiece& piece) { piece.bytes = std::move(buffer); }
 
   /// The number of characters of the last statement.
   std::size_t GetLength() const { return textEnd - textBegin; }
@@ -59,6 +87,12 @@ class ScanBuffer {
   /// The offset in the stream of what follows the last statement and its `;`.
   std::uint64_t GetEndOffset() const { return AbsoluteOf(cursor); }
 
+  /// The position of what follows the last statement and its `;`.
+  SourcePosition GetEndPosition() const { return {GetEndOffset(), line, lineStart}; }
+
+  /// True if the scanner has needed a character after the end of the input.
+  bool HasPassedEnd() const { return hasPassedEnd; }
+
   /// Where the last statement is in the stream.
   StatementPlace GetStatementPlace() const {
     constexpr std::uint64_t kMost = UINT32_MAX;
@@ -78,6 +112,9 @@ class ScanBuffer {
     if (!pieces.empty()) pieces.clear();
     start = {0, PlaceOf(cursor), AbsoluteOf(cursor)};
   }
+
+  // Before the first block is read: true if the input begins where the source begins.
+  bool IsAtBegin() const { return dataBegin == 0; }
 
   // Skips a line end at the cursor. Nearly every file has one before each statement. A search for
   // it would be slower.
@@ -189,13 +226,14 @@ class ScanBuffer {
   void CloseGaps();
   void Grow();
 
-  std::istream& input;
-  std::size_t blockSize;
+  std::istream* input = nullptr;  // null for a piece in memory
+  std::size_t blockSize = kBlockSize;
   std::size_t limit = 0;
   std::uint64_t bytesRead = 0;
   std::uint64_t dataBegin = 0;  // added to a position after all gaps: its offset in the stream
   std::size_t capacity = 0;
   bool ended = false;
+  bool hasPassedEnd = false;
   bool isBeyondLimit = false;
 
   std::uint64_t line = 1;

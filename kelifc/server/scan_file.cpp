@@ -3,6 +3,8 @@
 #include <cstdint>
 
 #include "kelifc/core/step_file_schema.h"
+#include "kelifc/server/block_size.h"
+#include "kelifc/server/escape_notes.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
 #include "kelifc/server/scanner.h"
@@ -22,24 +24,6 @@ std::size_t AsSize(std::uint64_t limit) {
   return limit == 0 ? SIZE_MAX : static_cast<std::size_t>(std::min<std::uint64_t>(limit, SIZE_MAX));
 }
 
-// Notes the bad escapes of the last statement that a scanner returned.
-class EscapeNotes : public BadEscapeSink {
- public:
-  EscapeNotes(const ScanBuffer& source, LoadFindings* target, const std::size_t& statementNumber)
-      : scanner(source), findings(target), number(statementNumber) {}
-
-  void NoteBadEscape(const char* escape) override {
-    if (findings == nullptr) return;
-    const auto offset = static_cast<std::size_t>(escape - scanner.GetText());
-    findings->Note(LoadFinding::kBadEscape, scanner.GetPlace(offset), {number, "", 0});
-  }
-
- private:
-  const ScanBuffer& scanner;
-  LoadFindings* findings;
-  const std::size_t& number;
-};
-
 }  // namespace
 
 // Reads the statements of a file for one pass, until the file ends, the pass ends or a limit is
@@ -51,31 +35,37 @@ void ScanStatements(IfcServer& server, AnyScanner& scanner, bool firstPass) {
   const std::size_t longest = AsSize(load.limits.maxStatementBytes);
   const std::size_t mostItems = AsSize(load.limits.maxInstances);
   load.scanner = &scanner;
-  scanner.SetLimit(firstPass ? kHeadLimit : longest);
+  scanner.SetLimit(firstPass && !server.headerSeen ? kHeadLimit : longest);
   while (char* statement = scanner.Next()) {
     scanner.SetLimit(longest);
-    if (load.isUnordered) server.idToIndex.PrefetchNumber(scanner.PeekNumber());
+    if (load.order.IsLost()) server.idToIndex.PrefetchNumber(scanner.PeekNumber());
     load.isBeyondLimit = scanner.GetLength() > longest;
-    if (load.isBeyondLimit || handle(&server, statement) != 0) return server.NoteFailure();
-    load.isBeyondLimit = server.items.size() > mostItems;
-    if (load.isBeyondLimit) return server.NoteFailure();
-    load.statementBytes += scanner.GetLength();
-    if (scanner.GetBytesRead() != load.bytesReported && !server.GoesOn()) {
-      return server.NoteFailure();
+    if (load.isBeyondLimit) return server.NoteFailure(scanner.GetPlace());
+    const std::int16_t outcome = handle(&server, statement);
+    if (outcome == kReleaseFound) {
+      load.stoppedAt = scanner.GetEndPosition();
+      return;
     }
+    if (outcome != 0) return server.NoteFailure(scanner.GetPlace());
+    load.isBeyondLimit = server.items.size() > mostItems;
+    if (load.isBeyondLimit) return server.NoteFailure(scanner.GetPlace());
+    load.statementBytes += scanner.GetLength();
+    if (scanner.GetBytesRead() == load.bytesReported) continue;
+    if (firstPass && load.threads > 1) load.cuts.push_back(scanner.GetEndPosition());
+    if (!server.GoesOn(scanner.GetBytesRead())) return server.NoteFailure(scanner.GetPlace());
   }
   load.isBeyondLimit = (scanner.IsBeyondLimit() && server.headerSeen) || !server.IsWithinMemory();
-  if (load.isBeyondLimit) server.NoteFailure();
+  if (load.isBeyondLimit) server.NoteFailure(scanner.GetPlace());
 }
 
-void ScanFile(std::istream& in, IfcServer* server, bool firstPass) {
+void ScanFile(std::istream& in, IfcServer* server, bool firstPass, const SourcePosition& from) {
   IfcServer::LoadState& load = server->load;
   if (load.dialect == STEP_DIALECT_CLASSIC) {
-    Scanner scanner(in);
+    Scanner scanner(in, from, GetBlockSize());
     ScanStatements(*server, scanner, firstPass);
     return;
   }
-  IsoScanner scanner(in);
+  IsoScanner scanner(in, from, GetBlockSize());
   EscapeNotes notes(scanner, load.findings, load.statementNumber);
   IsoStatementReader reader(&notes);
   load.reader = &reader;

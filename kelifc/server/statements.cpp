@@ -5,6 +5,7 @@
 #include <cstring>
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/member.h"
@@ -12,6 +13,8 @@
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
+#include "kelifc/server/made_statement.h"
+#include "kelifc/server/release_tables.h"
 #include "kelifc/server/report_collector.h"
 #include "kelifc/server/scan_buffer.h"
 
@@ -73,7 +76,7 @@ std::int16_t IfcServer::ReadHeaderStatement(char* statement) {
     const Assignment assignment = CutAssignment(statement);
     load.hasUnread = load.hasUnread || assignment.number != 0;
     NoteNumber(assignment.number);
-    NoteStatement(assignment.number, nullptr, assignment.text);
+    NoteStatement(assignment.number, StatedAs::kNothing, assignment.text);
     return 0;
   }
   static_cast<void>(instance.release());
@@ -81,37 +84,72 @@ std::int16_t IfcServer::ReadHeaderStatement(char* statement) {
   const IFC_RELEASE found = IsIso() ? ReadIsoSchema(statement) : ReadSchema(statement);
   if (found == IFC_RELEASE_NONE) return 2;
   SetRelease(found);
-  return 0;
+  return load.threads > 1 ? kReleaseFound : 0;
 }
 
 std::int16_t IfcServer::RegisterInstance(char* statement) {
   const Assignment assignment = CutAssignment(statement);
   if (assignment.number == 0) return 0;
   NoteNumber(assignment.number);
-  NoteOrder(assignment.number);
+  load.order.Note(assignment.number);
   std::unique_ptr<IfcUnknown> made(MakeStated(assignment.text));
   const bool isNoted = load.findings != nullptr && made != nullptr;
   load.hasUnread = load.hasUnread || made == nullptr;
-  if (isNoted) NoteRepeat(assignment.number);
-  NoteStatement(assignment.number, made.get(), assignment.text);
+  if (isNoted && HasNumber(assignment.number)) {
+    NoteRepeat(assignment.number, load.scanner->GetPlace());
+  }
+  if (load.collector != nullptr) {
+    NoteStatement(assignment.number, KindOf(made.get()), assignment.text);
+  }
   InsertItem(assignment.number, made.release());
-  if (isNoted) NotePlace(assignment.number);
+  if (isNoted) NotePlace(assignment.number, load.scanner->GetStatementPlace());
   return 0;
 }
 
-void IfcServer::NotePlace(std::size_t id) {
+// Makes what RegisterMade registers. Several threads can call it; the scanner of the thread has
+// returned the statement.
+MadeStatement IfcServer::MakeStatement(std::size_t id, const char* text,
+                                       const ScanBuffer& scanner) {
+  MadeStatement statement;
+  statement.number = id;
+  statement.made.reset(MakeStated(text));
+  statement.kind = KindOf(statement.made.get());
+  statement.isProduct = IsProduct(statement.made.get());
+  statement.place = scanner.GetStatementPlace();
+  statement.column = static_cast<std::uint32_t>(scanner.GetPlace().column);
+  if (statement.made != nullptr) statement.made->SetServer(this);
+  return statement;
+}
+
+// Does the same as RegisterInstance for a statement whose instance is made. `text` is the right
+// side of the statement if it is left out.
+void IfcServer::RegisterMade(MadeStatement statement, const char* text) {
+  NoteNumber(statement.number);
+  NoteStatement(statement.number, statement.kind, text);
+  if (statement.made == nullptr) {
+    load.hasUnread = true;
+    return;
+  }
+  if (HasNumber(statement.number)) {
+    NoteRepeat(statement.number, {statement.place.line, statement.column});
+  }
+  AppendNew(statement.number, std::move(statement.made), statement.isProduct);
+  NotePlace(statement.number, statement.place);
+}
+
+void IfcServer::NotePlace(std::size_t id, const StatementPlace& place) {
   const std::uint32_t position = idToIndex.Find(id);
   if (position == detail::NumberIndex::kNone) return;
   if (places.size() < position) places.resize(position);
   if (places.size() == position) {
-    places.push_back(load.scanner->GetStatementPlace());
+    places.push_back(place);
   } else {
-    places[position] = load.scanner->GetStatementPlace();
+    places[position] = place;
   }
 }
 
-void IfcServer::NoteStatement(std::size_t id, const IfcUnknown* made, const char* text) {
-  if (load.collector != nullptr && id != 0) load.collector->NoteStatement(id, made, text);
+void IfcServer::NoteStatement(std::size_t id, StatedAs kind, const char* text) {
+  if (load.collector != nullptr && id != 0) load.collector->NoteStatement(id, kind, text);
 }
 
 // Makes the instance of a statement. In the dialect of ISO 10303-21, an instance of several types
@@ -122,9 +160,8 @@ IfcUnknown* IfcServer::MakeStated(const char* text) {
   return made == nullptr && load.keepsUnknown ? MakeRaw(isComplex ? "" : text) : made;
 }
 
-void IfcServer::NoteRepeat(std::size_t id) {
-  if (idToIndex.Find(id) == detail::NumberIndex::kNone) return;
-  load.findings->Note(LoadFinding::kRepeatedNumber, load.scanner->GetPlace(), {id, "", 0});
+void IfcServer::NoteRepeat(std::size_t id, const SourcePlace& place) {
+  load.findings->Note(LoadFinding::kRepeatedNumber, place, {id, "", 0});
   if (IsIso()) ++load.repeats[id];
 }
 
@@ -154,18 +191,17 @@ void IfcServer::NoteNumber(std::size_t id) {
   }
 }
 
-// If the numbers are not in order, each look-up waits for memory. ScanStatements then prefetches
-// the memory for the next number.
-void IfcServer::NoteOrder(std::size_t id) {
-  constexpr std::size_t kNear = 256;
-  load.isUnordered = id - load.lastNumber > kNear;
-  load.lastNumber = id;
+// Returns the instance that the statement at an offset made, or null. Only the last one of several
+// statements with the same number has an instance.
+IfcUnknown* IfcServer::FindStated(std::size_t id, std::uint64_t offset) {
+  const std::uint32_t position = idToIndex.Find(id);  // kNone is beyond all places
+  return position < places.size() && places[position].offset == offset ? items[position] : nullptr;
 }
 
 std::int16_t ParseStatement(IfcServer* server, char* statement) {
   const Assignment assignment = CutAssignment(statement);
   if (assignment.number == 0) return 0;
-  server->NoteOrder(assignment.number);
+  server->load.order.Note(assignment.number);
   IfcUnknown* const instance = server->GetItem(assignment.number);
   if (instance == nullptr || !server->IsStatementOf(assignment.number)) return 0;
   const char* text = assignment.text;

@@ -175,17 +175,20 @@ void BindBuilding(py::module_& module) {
   DefineClass<BuildingLengthUnit>(module);
   auto type = DefineClass<Building>(module);
   type.def("to_json", &ElementsJson, py::arg("file") = "", py::arg("bodies") = false,
-           "to_json(file: str = '', bodies: bool = False) -> str\n\nReturns what `kelifc elements "
-           "--json` prints. `file` is the path that it names. With bodies, elements have the "
-           "boundaries that the building kept.");
+           "to_json(file: str = '', bodies: bool = False) -> str\n"
+           "\n"
+           "Returns what `kelifc elements --json` prints. `file` is the path that it names. With\n"
+           "bodies, elements have the boundaries that the building kept.");
   type.def(
       "to_dataframe",
       [](const py::object& self, const std::string& table) {
         return py::module_::import("kelifc.frames").attr("make_frame")(self, table);
       },
       py::arg("table") = "elements",
-      "to_dataframe(table: str = 'elements') -> pd.DataFrame\n\nReturns a table as a data frame of "
-      "pandas. tables() lists the tables with their columns and units.");
+      "to_dataframe(table: str = 'elements') -> pd.DataFrame\n"
+      "\n"
+      "Returns a table as a data frame of pandas. tables() lists the tables with their\n"
+      "columns and units.");
   type.def(py::pickle(&PickleBuilding, &UnpickleBuilding));
   BindDifference(module);
 }

@@ -40,7 +40,10 @@ const ExportFormat& FormatOf(const std::string& name) {
     case ExportFailure::kFile:
       break;
   }
-  RaiseFileError("ExportError", path, error.what());
+  std::string reason = error.what();
+  const std::string named = "cannot write " + path + ": ";  // the exception names the path itself
+  if (reason.rfind(named, 0) == 0) reason.erase(0, named.size());
+  RaiseFileError("ExportError", path, reason);
 }
 
 View<ExportResult> Export(const View<Building>& self, const std::string& format,
@@ -96,9 +99,10 @@ void BindExport(py::module_& module) {
            py::arg("source") = "", py::arg("raw_cells") = false, py::arg("node_tolerance") = 1e-3,
            py::arg("progress") = py::none(), kDoc);
   module.def("export_formats", &Formats,
-             "export_formats() -> dict[str, str]\n\nReturns the formats of Building.export. The "
-             "value is the component that this build lacks for the format; it is empty if the "
-             "format can be written.");
+             "export_formats() -> dict[str, str]\n"
+             "\n"
+             "Returns the formats of Building.export. The value is the component that this build\n"
+             "lacks for the format; it is empty if the format can be written.");
 }
 
 }  // namespace KelIFC::python

@@ -168,13 +168,15 @@ void BindInstance(py::module_& module) {
   type.def("id", &Instance::GetNumber,
            "id() -> int\n\nReturns the instance number, the 12 of #12.");
   type.def("is_a", &IsA, py::arg("name") = py::none(),
-           "is_a(name: str | None = None) -> Any\n\nReturns the name of the entity; with a name, "
-           "whether the instance is of that entity or of one that derives from it.");
-  type.def(
-      "info", &InfoOf, py::arg("recursive") = false,
-      "info(recursive: bool = False) -> dict[str, Any]\n\nReturns the number, the type and the "
-      "attributes. With recursive, references are such dictionaries, too; each instance has "
-      "one, so the result can contain itself.");
+           "is_a(name: str | None = None) -> Any\n"
+           "\n"
+           "Returns the name of the entity; with a name, whether the instance is of that entity\n"
+           "or of one that derives from it.");
+  type.def("info", &InfoOf, py::arg("recursive") = false,
+           "info(recursive: bool = False) -> dict[str, Any]\n"
+           "\n"
+           "Returns the number, the type and the attributes. With recursive, references are such\n"
+           "dictionaries, too; each instance has one, so the result can contain itself.");
   type.def("get_info", &InfoOf, py::arg("recursive") = false,
            "get_info(recursive: bool = False) -> dict[str, Any]\n\nThe same as info.");
   type.def_property_readonly("model", &Instance::GetModel, "The model of the instance.");

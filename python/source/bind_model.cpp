@@ -349,6 +349,14 @@ using ModelClass = py::class_<Model, Shared>;
 
 void DefineAccess(ModelClass& type) {
   type.def(
+      "__repr__",
+      [](Model& self) {
+        const std::size_t count = self.Server().GetNumberCount();
+        return py::str("<Model {}, {} instances>")
+            .format(ToText(self.TextOf(self.Server().GetFileSchema())), count);
+      },
+      "__repr__() -> str");
+  type.def(
       "__len__", [](Model& self) { return self.Server().GetNumberCount(); },
       "__len__() -> int\n\nReturns the number of instances.");
   type.def(
@@ -367,25 +375,30 @@ void DefineAccess(ModelClass& type) {
            "by_guid(guid: str) -> Instance\n\nReturns the first instance with a GlobalId. Raises "
            "KeyError if there is none.");
   type.def("referrers", &Referrers, py::arg("instance"),
-           "referrers(instance: Instance) -> list[Instance]\n\nReturns the instances that refer to "
-           "an instance. The first call after a change is linear in the size of the model.");
+           "referrers(instance: Instance) -> list[Instance]\n"
+           "\n"
+           "Returns the instances that refer to an instance. The first call after a change is\n"
+           "linear in the size of the model.");
 }
 
 void DefineTypes(ModelClass& type) {
   type.def("by_type", &ByType, py::arg("name"), py::arg("subtypes") = true,
            "by_type(name: str, subtypes: bool = True, *, include_subtypes: bool = True) -> "
-           "list[Instance]\n\nReturns the instances of an entity and, with subtypes, of those that "
-           "derive from it, by ascending numbers. include_subtypes is the same as subtypes. Raises "
-           "ValueError if no release has an entity of this name.");
+           "list[Instance]\n"
+           "\n"
+           "Returns the instances of an entity and, with subtypes, of those that derive from it,\n"
+           "by ascending numbers. include_subtypes is the same as subtypes. Raises ValueError if\n"
+           "no release has an entity of this name.");
   type.def("by_type", &ByType, py::arg("name"), py::kw_only(), py::arg("include_subtypes"));
 }
 
 void DefineChanges(ModelClass& type) {
   const char* const addDoc =
-      "(entity: str, /, *values: Any, **attributes: Any) -> Instance\n\nMakes an instance of an "
-      "entity, with a new GlobalId if it has one. Values are set by position, attributes by name. "
-      "Raises ValueError if the release does not have the entity; if a value does not fit, no "
-      "instance is made.";
+      "(entity: str, /, *values: Any, **attributes: Any) -> Instance\n"
+      "\n"
+      "Makes an instance of an entity, with a new GlobalId if it has one. Values are set by\n"
+      "position, attributes by name. Raises ValueError if the release does not have the\n"
+      "entity; if a value does not fit, no instance is made.";
   static const std::string add = std::string("add") + addDoc;
   static const std::string create = std::string("create_entity") + addDoc;
   type.def("add", &Add, add.c_str());
@@ -400,10 +413,12 @@ void DefineChanges(ModelClass& type) {
 void DefineFiles(ModelClass& type) {
   const char* const saveDoc =
       "(path: StrPath, faithful: bool = False, *, progress: Callable[[int, int], object] | None = "
-      "None) -> None\n\nWrites the model to a file. With faithful, what did not change is copied "
-      "from the source of the model. `progress` is called with the work done and the work in "
-      "total: instances, or with faithful bytes of the source in two passes. If it returns False, "
-      "CancelledError is raised. Raises SaveError if the file cannot be written. After an "
+      "None) -> None\n"
+      "\n"
+      "Writes the model to a file. With faithful, what did not change is copied from the\n"
+      "source of the model. `progress` is called with the work done and the work in total:\n"
+      "instances, or with faithful bytes of the source in two passes. If it returns False,\n"
+      "CancelledError is raised. Raises SaveError if the file cannot be written. After an\n"
       "exception the old file is as it was.";
   static const std::string save = std::string("save") + saveDoc;
   static const std::string write = std::string("write") + saveDoc;
@@ -412,32 +427,35 @@ void DefineFiles(ModelClass& type) {
              py::arg("progress") = py::none(), doc->c_str());
   }
   type.def("check", &Check,
-           "check() -> Report\n\nLooks for references that lead nowhere and for values that cannot "
-           "be read, and returns the complete report. Reads the file again. Raises OpenError if "
-           "that fails.");
+           "check() -> Report\n"
+           "\n"
+           "Looks for references that lead nowhere and for values that cannot be read, and\n"
+           "returns the complete report. Reads the file again. Raises OpenError if that fails.");
 }
 
 void DefineConversions(ModelClass& type) {
   const ReadingOptions standard;
   type.def("structure", &ReadStructure, py::kw_only(), py::arg("progress") = py::none(),
-           "structure(*, progress: Callable[[int, int], object] | None = None) -> Structure\n\n"
-           "Converts the model into a structure of storeys, columns, beams, walls, plates, foots "
-           "and sections. The model converts once: later changes of instances do not change the "
-           "structure. `progress` is called with the number of these collections that are done "
-           "and with 7. If it returns False, CancelledError is raised. Raises ConversionError for "
-           "the releases 1.5.1 and 2.0.");
+           "structure(*, progress: Callable[[int, int], object] | None = None) -> Structure\n"
+           "\n"
+           "Converts the model into a structure of storeys, columns, beams, walls, plates, foots\n"
+           "and sections. The model converts once: later changes of instances do not change the\n"
+           "structure. `progress` is called with the number of these collections that are done\n"
+           "and with 7. If it returns False, CancelledError is raised. Raises ConversionError\n"
+           "for the releases 1.5.1 and 2.0.");
   type.def(
       "building", &ReadPyBuilding, py::kw_only(), py::arg("meshes") = "bodies",
       py::arg("max_points") = standard.maxPoints,
       py::arg("max_body_points") = standard.maxBodyPoints, py::arg("max_depth") = standard.maxDepth,
       py::arg("progress") = py::none(),
       "building(*, meshes: str = 'bodies', max_points: int = ..., max_body_points: int = ..., "
-      "max_depth: int = ..., progress: Callable[[int, int], object] | None = None) -> Building\n\n"
-      "Reads all structural elements. `meshes` says which elements keep the boundary of their "
-      "body: 'none', 'bodies' (those of the kind body) or 'all'. An element with more points, or "
-      "deeper nesting, than the limits becomes a loss. `progress` is called with the steps done "
-      "and the steps in total, two for each product. If it returns False, CancelledError is "
-      "raised. Raises ConversionError for the releases 1.5.1 and 2.0.");
+      "max_depth: int = ..., progress: Callable[[int, int], object] | None = None) -> Building\n"
+      "\n"
+      "Reads all structural elements. `meshes` says which elements keep the boundary of\n"
+      "their body: 'none', 'bodies' (those of the kind body) or 'all'. An element with more\n"
+      "points, or deeper nesting, than the limits becomes a loss. `progress` is called with\n"
+      "the steps done and the steps in total, two for each product. If it returns False,\n"
+      "CancelledError is raised. Raises ConversionError for the releases 1.5.1 and 2.0.");
 }
 
 }  // namespace

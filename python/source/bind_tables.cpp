@@ -68,13 +68,15 @@ py::dict Tables() {
 void BindTables(py::module_& module) {
   auto type = py::reinterpret_borrow<py::class_<View<Building>>>(module.attr("Building"));
   type.def("table", &ColumnsOf, py::arg("name") = "elements", py::arg("file") = "",
-           "table(name: str = 'elements', file: str = '') -> dict[str, list[Any]]\n\nReturns the "
-           "columns of a table by their names; None is a missing value. tables() lists the tables. "
-           "`file` is the path of the model that the table of the model names.");
+           "table(name: str = 'elements', file: str = '') -> dict[str, list[Any]]\n"
+           "\n"
+           "Returns the columns of a table by their names; None is a missing value. tables()\n"
+           "lists the tables. `file` is the path of the model that the table of the model names.");
   module.def("tables", &Tables,
-             "tables() -> dict[str, dict[str, tuple[str, str]]]\n\nReturns for each table of a "
-             "building its columns: the type 'str', 'int', 'float' or 'bool', and the unit, which "
-             "is empty for none.");
+             "tables() -> dict[str, dict[str, tuple[str, str]]]\n"
+             "\n"
+             "Returns for each table of a building its columns: the type 'str', 'int', 'float' or\n"
+             "'bool', and the unit, which is empty for none.");
 }
 
 }  // namespace KelIFC::python

@@ -237,6 +237,10 @@ def test_guids_are_found_after_changes(model: kelifc.Model) -> None:
         model.by_guid(old)
 
 
+def test_the_text_of_a_model_is_its_schema_and_its_size(model: kelifc.Model) -> None:
+    assert repr(model) == f"<Model IFC2X3, {len(model)} instances>"
+
+
 def test_referrers_follow_changes(model: kelifc.Model) -> None:
     assert [i.id() for i in model.referrers(model[4])] == [5]
     model[6].ObjectPlacement = model[4]

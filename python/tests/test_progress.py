@@ -101,6 +101,13 @@ def test_a_model_cannot_be_used_meanwhile(
         OPERATIONS[name](house, tmp_path, lambda *numbers: house.by_type("IfcWall"))
 
 
+def test_a_failed_export_names_the_path_once(building: kelifc.Building, tmp_path: Path) -> None:
+    target = tmp_path / "missing" / "house.glb"
+    with pytest.raises(kelifc.ExportError) as caught:
+        building.export("glb", target)
+    assert str(caught.value) == f"{target}: No such file or directory"
+
+
 def test_a_cancelled_save_keeps_the_old_file(house: kelifc.Model, tmp_path: Path) -> None:
     target = tmp_path / "model.ifc"
     target.write_text("old")

@@ -8,23 +8,12 @@
 #include <vector>
 
 #include "kelifc/building/element_solid.h"
-#include "kelifc/building/triangulation.h"
 
 #include "tests/building/made_building.h"
+#include "tests/building/mesh_volume.h"
 
 namespace KelIFC {
 namespace {
-
-double VolumeOf(const Mesh& mesh) {
-  double volume = 0.0;
-  for (const MeshTriangle& t : TrianglesOf(mesh)) {
-    const Point3& a = mesh.points[t.corners[0]];
-    const Vector3 b = mesh.points[t.corners[1]] - a;
-    const Vector3 c = mesh.points[t.corners[2]] - a;
-    volume += Dot(a - Point3(), Cross(b, c)) / 6.0;
-  }
-  return volume;
-}
 
 /// An upright opening in the plane y = 0.
 BuildingOpening OpeningFrom(double x, double z, double width, double height, double depth = 0.3) {

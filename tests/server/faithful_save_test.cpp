@@ -120,7 +120,7 @@ TEST_F(FaithfulSave, RewritesTheStatementOfAChangedInstanceOnly) {
 
 TEST_F(FaithfulSave, ReportsTheBytesOfTheSourceForBothPasses) {
   Load("DATA;\n#1=IFCCARTESIANPOINT((1.0,2.0));\n" + std::string(kTail));
-  const std::uint64_t size = ReadAll(source.GetPath()).size();
+  const std::uint64_t size = ReadFile(source.GetPath()).size();
   std::uint64_t last = 0;
   SaveOptions options = Faithful();
   options.progress = [&](std::uint64_t done, std::uint64_t total) {
@@ -142,7 +142,7 @@ TEST_F(FaithfulSave, LeavesTheOldFileIfItIsCancelledInOneOfThePasses) {
       return !isFirstPass && done < total;
     };
     EXPECT_EQ(server.SaveIfc(target.GetPath(), options), SAVE_RESULT_CANCELLED);
-    EXPECT_EQ(ReadAll(target.GetPath()), "old");
+    EXPECT_EQ(ReadFile(target.GetPath()), "old");
   }
   EXPECT_THAT(told, HasSubstr(": the save was cancelled\n"));
 }

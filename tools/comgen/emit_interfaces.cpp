@@ -6,7 +6,7 @@ namespace comgen {
 
 namespace {
 
-constexpr std::string_view kPath = "kelifc/geo/interfaces.h";
+constexpr std::string_view kInterfacesPath = "kelifc/geo/interfaces.h";
 
 constexpr char kRules[] =
     R"(// The object model for hosts. Every operation returns a status: S_OK, or a negative code for a
@@ -65,7 +65,7 @@ void EmitConstant(TextWriter& out, const std::string& type, const std::string& n
 }  // namespace
 
 void EmitInterfaces(const Description& description, Files& files) {
-  const std::string path(kPath);
+  const std::string path(kInterfacesPath);
   TextWriter out;
   out.Line("#include \"kelifc/platform/com_interfaces.h\"");
   out.Line("#include \"kelifc/platform/com_variant.h\"");

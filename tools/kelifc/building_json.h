@@ -7,6 +7,7 @@
 
 #include "kelifc/kelifc.h"
 
+#include "export/building_json.h"
 #include "tools/kelifc/json_writer.h"
 
 namespace command {
@@ -38,14 +39,11 @@ void WriteMember(JsonWriter& json, const char* key, const Anything& value) {
   WriteValue(json, value);
 }
 
-/// An instance number; null for 0.
-void WriteIdMember(JsonWriter& json, const char* key, std::size_t id);
+using KelIFC::exporting::WriteIdMember;
+using KelIFC::exporting::WriteTextMember;
 
 /// A list of instance numbers.
 void WriteIdsMember(JsonWriter& json, const char* key, const std::vector<std::size_t>& ids);
-
-/// A text; null if it is empty.
-void WriteTextMember(JsonWriter& json, const char* key, const std::string& text);
 
 /// An element, without the boundary of its body unless `hasBoundary` is set.
 void WriteElement(JsonWriter& json, const KelIFC::BuildingElement& element, bool hasBoundary);

@@ -16,7 +16,7 @@
 namespace command {
 namespace {
 
-using Counts = std::map<std::string, std::size_t>;
+using CountsByName = std::map<std::string, std::size_t>;
 
 /// The content of a model. Text is UTF-8.
 struct Info {
@@ -24,8 +24,8 @@ struct Info {
   std::string release;
   std::string schema;
   std::size_t instances = 0;                 ///< with an instance number
-  Counts entities;                           ///< by the name of the entity as the schema spells it
-  Counts raw;                                ///< raw text, by the name of the entity in upper case
+  CountsByName entities;                     ///< by the name of the entity as the schema spells it
+  CountsByName raw;                          ///< raw text, by the name of the entity in upper case
   std::optional<KelIFC::LoadReport> report;  ///< if the user asked for it
 };
 
@@ -72,7 +72,7 @@ class EntityCounts {
   const KelIFC::IfcServer& server;
   std::unordered_map<const std::type_info*, std::size_t> classes;
   std::unordered_map<const std::type_info*, std::string> names;
-  Counts raw;
+  CountsByName raw;
 };
 
 Info ReadInfo(const InfoOptions& options) {
@@ -100,7 +100,7 @@ std::string InfoJson(const Info& info) {
   return ToText(object);
 }
 
-std::string CountTable(const char* title, const Counts& counts) {
+std::string CountTable(const char* title, const CountsByName& counts) {
   if (counts.empty()) return "";
   TextTable table({title, "count"}, {false, true});
   for (const auto& [name, count] : counts) table.Add({name, std::to_string(count)});

@@ -6,7 +6,7 @@ namespace schemac {
 
 namespace {
 
-constexpr std::string_view kDefinedType =
+constexpr std::string_view kDefinedTypeClass =
     R"(class KELIFC_API @name@ : public @base@, public @value@ {
  public:
   /// An unset value.
@@ -193,7 +193,7 @@ class HeaderEmitter {
     words["fromText"] = isText ? Fill(kFromText, words) : "";
     words["assignText"] = isText ? Fill(kAssignText, words) : "";
     out.Doc("", type.doc);
-    out.Fill(kDefinedType, words);
+    out.Fill(kDefinedTypeClass, words);
   }
 
   void EmitClass(const ResolvedClass& type) {

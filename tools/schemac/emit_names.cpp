@@ -7,7 +7,7 @@ namespace schemac {
 
 namespace {
 
-constexpr std::string_view kHead = R"(@generated@
+constexpr std::string_view kNamesHead = R"(@generated@
 #include "kelifc/schema/@folder@.h"
 #include "kelifc/server/name_table.h"
 #include "kelifc/server/release_tables.h"
@@ -20,19 +20,19 @@ constexpr std::string_view kNoNames =
     R"(IfcUnknown* MakeInstance@suffix@(const char*) { return nullptr; }
 )";
 
-constexpr std::string_view kTable = R"(namespace {
+constexpr std::string_view kNamesTable = R"(namespace {
 
 constexpr NameRow kRows[] = {
 @rows@};
 
-constexpr NameTable kTable(kRows);
+constexpr NameTable kNamesTable(kRows);
 
 }  // namespace
 
-IfcUnknown* MakeInstance@suffix@(const char* name) { return kTable.Make(name); }
+IfcUnknown* MakeInstance@suffix@(const char* name) { return kNamesTable.Make(name); }
 )";
 
-constexpr std::string_view kRow = R"(    {"@upper@", MakeNew<@namespace@::@name@>},
+constexpr std::string_view kNamesRow = R"(    {"@upper@", MakeNew<@namespace@::@name@>},
 )";
 
 std::string ToUpper(std::string text) {
@@ -63,12 +63,12 @@ void EmitNames(const ReleaseModel& model, Files& files) {
   for (const auto& name : names) {
     words["name"] = name;
     words["upper"] = ToUpper(name);
-    rows.Fill(kRow, words);
+    rows.Fill(kNamesRow, words);
   }
   words["rows"] = rows.Text();
   TextWriter out;
-  out.Fill(kHead, words);
-  out.Fill(names.empty() ? kNoNames : kTable, words);
+  out.Fill(kNamesHead, words);
+  out.Fill(names.empty() ? kNoNames : kNamesTable, words);
   out.Line();
   out.Line("}  // namespace KelIFC");
   files[Fill("kelifc/schema/@folder@/names.cpp", words)] = out.Text();

@@ -6,7 +6,7 @@ namespace schemac {
 
 namespace {
 
-constexpr std::string_view kFile = R"(@generated@
+constexpr std::string_view kRecordsFile = R"(@generated@
 #include "tests/schema/records.h"
 
 namespace KelIFC {
@@ -140,7 +140,7 @@ void EmitRecords(const ReleaseModel& model, Files& files) {
   TemplateWords words = WordsOf(kReleases[model.release]);
   words["generated"] = GeneratedBy("the descriptions in kelifc/schema");
   words["records"] = records.Text();
-  files[Fill("tests/schema/records_@folder@.cpp", words)] = Fill(kFile, words);
+  files[Fill("tests/schema/records_@folder@.cpp", words)] = Fill(kRecordsFile, words);
 }
 
 }  // namespace schemac

@@ -4,7 +4,7 @@ namespace schemac {
 
 namespace {
 
-constexpr std::string_view kHead = R"(@generated@
+constexpr std::string_view kSlotsHead = R"(@generated@
 #include "kelifc/schema/@folder@.h"
 #include "tests/schema/slot_order.h"
 
@@ -13,13 +13,13 @@ namespace {
 
 )";
 
-constexpr std::string_view kTail = R"(}  // namespace
+constexpr std::string_view kSlotsTail = R"(}  // namespace
 }  // namespace @namespace@
 )";
 
 /// A class that derives from the tested class takes the pointers, because it has access to
 /// protected operations.
-constexpr std::string_view kClass = R"(struct @name@Slots : @name@ {
+constexpr std::string_view kSlotsClass = R"(struct @name@Slots : @name@ {
 @uses@  static std::vector<std::ptrdiff_t> Read() {
     return {
 @slots@    };
@@ -53,7 +53,7 @@ void EmitClassSlots(TextWriter& out, const ReleaseModel& model, const ResolvedCl
   if (count < 2) return;
   words["uses"] = uses.Text();
   words["slots"] = slots.Text();
-  out.Fill(kClass, words);
+  out.Fill(kSlotsClass, words);
 }
 
 }  // namespace
@@ -63,9 +63,9 @@ void EmitSlots(const std::vector<ReleaseModel>& models, Files& files) {
     TemplateWords words = WordsOf(kReleases[model.release]);
     words["generated"] = GeneratedBy("the descriptions in kelifc/schema");
     TextWriter out;
-    out.Fill(kHead, words);
+    out.Fill(kSlotsHead, words);
     for (const auto& type : model.classes) EmitClassSlots(out, model, type);
-    out.Fill(kTail, words);
+    out.Fill(kSlotsTail, words);
     files[Fill("tests/schema/slots_@folder@_test.cpp", words)] = out.Text();
   }
 }

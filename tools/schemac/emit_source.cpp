@@ -6,7 +6,7 @@ namespace schemac {
 
 namespace {
 
-constexpr std::string_view kHead = R"(@generated@
+constexpr std::string_view kSourceHead = R"(@generated@
 #include "@header@"
 
 #include "kelifc/schema/bodies.h"
@@ -21,7 +21,7 @@ constexpr std::string_view kDefinedTypeHead = R"(@name@::@name@() = default;
 @name@::@name@(const @value@& value) : @value@(value) {}
 )";
 
-constexpr std::string_view kFromText =
+constexpr std::string_view kFromTextBodies =
     R"(@name@::@name@(const char* text) { STRING::operator=(text); }
 @name@& @name@::operator=(const char* text) {
   STRING::operator=(text);
@@ -46,28 +46,28 @@ constexpr std::string_view kParseIntegers =
 
 )";
 
-constexpr std::string_view kDefault = "@name@::@name@() = default;\n";
+constexpr std::string_view kDefaultBody = "@name@::@name@() = default;\n";
 
-constexpr std::string_view kCopy = R"(@name@::@name@(const @name@&) = default;
+constexpr std::string_view kCopyBodies = R"(@name@::@name@(const @name@&) = default;
 @name@& @name@::operator=(const @name@&) = default;
 @name@::~@name@() = default;
 )";
 
-constexpr std::string_view kNames =
+constexpr std::string_view kNamesBodies =
     R"(const char* @name@::GetItemName() { return "@name@"; }
 const char* @name@::GetStepName() const { return GetItemName(); }
 )";
 
-constexpr std::string_view kNewItem =
+constexpr std::string_view kNewItemBody =
     R"(@name@* @name@::NewItem(IfcServer* server) { return MakeItem<@name@>(server); }
 )";
 
 /// The directives make compilers and debuggers show the lines of the file that contains the body.
-constexpr std::string_view kBody = R"(// The bodies of @name@, from @file@:@line@.
+constexpr std::string_view kBodiesNote = R"(// The bodies of @name@, from @file@:@line@.
 #line @next@ "@file@"
 @text@)";
 
-constexpr std::string_view kOperation = R"(@result@ @class@::@name@(@parameters@)@const@ {
+constexpr std::string_view kOperationBody = R"(@result@ @class@::@name@(@parameters@)@const@ {
 @body@}
 
 )";
@@ -85,7 +85,7 @@ class SourceEmitter {
     TemplateWords words = WordsOf(info);
     words["generated"] = GeneratedBy(DescriptionFile(family.name));
     words["header"] = FamilyFile(info.folder, family.name, ".h");
-    out.Fill(kHead, words);
+    out.Fill(kSourceHead, words);
     for (const auto& [name, type] : model.definedTypes) {
       if (type->family == family.name) EmitDefinedType(*type);
     }
@@ -108,15 +108,15 @@ class SourceEmitter {
         {"bare", std::string(value.bare)},
         {"argument", std::string(value.bare.substr(value.bare.rfind(' ') + 1))}};
     if (type.kind == Kind::kIntegers) {
-      out.Fill(kDefault, words);
-      out.Fill(kCopy, words);
+      out.Fill(kDefaultBody, words);
+      out.Fill(kCopyBodies, words);
       out.Fill(kParseIntegers, words);
       return;
     }
     out.Fill(kDefinedTypeHead, words);
-    if (type.kind == Kind::kString) out.Fill(kFromText, words);
-    out.Fill(kCopy, words);
-    out.Fill(kNames, words);
+    if (type.kind == Kind::kString) out.Fill(kFromTextBodies, words);
+    out.Fill(kCopyBodies, words);
+    out.Fill(kNamesBodies, words);
     out.Fill(kDefinedTypeRecord, words);
   }
 
@@ -126,10 +126,10 @@ class SourceEmitter {
       out.Fill("@name@::~@name@() = default;\n\n", words);
       return;
     }
-    out.Fill(kDefault, words);
-    out.Fill(kCopy, words);
-    out.Fill(kNames, words);
-    if (type.entity->made.Has(model.release)) out.Fill(kNewItem, words);
+    out.Fill(kDefaultBody, words);
+    out.Fill(kCopyBodies, words);
+    out.Fill(kNamesBodies, words);
+    if (type.entity->made.Has(model.release)) out.Fill(kNewItemBody, words);
     out.Line();
     if (type.hasParse && !type.customParse) EmitParse(type);
     if (type.hasWrite && !type.customWrite) EmitWrite(type);
@@ -191,21 +191,21 @@ class SourceEmitter {
     if (operation.body.empty()) return;
     TextWriter body;
     for (const auto& statement : operation.body) body.Line("  " + statement);
-    out.Fill(kOperation, {{"result", operation.result},
-                          {"class", type.entity->name},
-                          {"name", operation.name},
-                          {"parameters", operation.parameters},
-                          {"const", operation.isConst ? " const" : ""},
-                          {"body", body.Text()}});
+    out.Fill(kOperationBody, {{"result", operation.result},
+                              {"class", type.entity->name},
+                              {"name", operation.name},
+                              {"parameters", operation.parameters},
+                              {"const", operation.isConst ? " const" : ""},
+                              {"body", body.Text()}});
   }
 
   void CopyBodies(const std::vector<const Body*>& bodies) {
     for (const Body* body : bodies) {
-      out.Fill(kBody, {{"name", body->name},
-                       {"file", body->place.file},
-                       {"line", std::to_string(body->place.line)},
-                       {"next", std::to_string(body->place.line + 1)},
-                       {"text", body->text}});
+      out.Fill(kBodiesNote, {{"name", body->name},
+                             {"file", body->place.file},
+                             {"line", std::to_string(body->place.line)},
+                             {"next", std::to_string(body->place.line + 1)},
+                             {"text", body->text}});
     }
     if (bodies.empty()) return;
     out.Line("#line " + std::to_string(out.LineCount() + 2) + " \"" + path + "\"");

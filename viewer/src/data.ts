@@ -14,7 +14,11 @@ export interface Profile {
   parameters: Record<string, number>;
   outline: [number, number][];
   holes: [number, number][][];
+  /** m² and m⁴. */
   area: number;
+  iy: number;
+  iz: number;
+  iyz: number;
   designation: string | null;
 }
 

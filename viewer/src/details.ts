@@ -215,6 +215,8 @@ export class Details {
         [names.designation, plainText(profile.designation)],
         [names.profileName, plainText(profile.name)],
         [names.profileArea, `${number(profile.area * 1e4, 2)} cm²`],
+        [names.profileIy, `${number(profile.iy * 1e8, 1)} cm⁴`],
+        [names.profileIz, `${number(profile.iz * 1e8, 1)} cm⁴`],
         ...parameterFields(profile),
       ]),
     ];

@@ -38,15 +38,20 @@ export function encodeView(store: Store, view: View | null): string {
   return parts.toString();
 }
 
+/** Places the camera. Without a complete camera in the link, all that is visible is shown. */
 function readCamera(parts: URLSearchParams, model: Model, view: View): void {
+  // The panels that the link opens have changed the size of the view.
+  view.resize();
   const target = numbers(parts.get('t'));
   const angles = numbers(parts.get('a')).map((degrees) => (degrees * Math.PI) / 180);
   const height = Number(parts.get('h'));
-  if (target.length !== 3 || angles.length !== 2 || !(height > 0)) return;
-  if (![...target, ...angles, height].every(Number.isFinite)) return;
+  const isComplete = target.length === 3 && angles.length === 2 && height > 0
+    && [...target, ...angles, height].every(Number.isFinite);
+  if (!isComplete) {
+    view.camera.fit(view.visibleBox(), false);
+    return;
+  }
   const origin = model.description.origin;
-  // The panels that the link opens have changed the size of the view.
-  view.resize();
   view.camera.set({
     target: [target[0] - origin[0], target[1] - origin[1], target[2] - origin[2]],
     azimuth: angles[0], elevation: angles[1], height, isPerspective: parts.get('p') !== '0',

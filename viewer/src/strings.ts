@@ -192,6 +192,8 @@ export const strings = {
     designation: 'Designation',
     profileName: 'Name in the file',
     profileArea: 'Area',
+    profileIy: 'Second moment about y',
+    profileIz: 'Second moment about z',
   },
   opening: (kind: string, id: number) =>
     `${{ door: 'Door', window: 'Window', void: 'Void' }[kind] ?? kind} #${id}`,

@@ -15,7 +15,9 @@ export const hostileNames = [
 ];
 
 function profileOf(name, shape, parameters, outline, area, holes = []) {
-  return { name, shape, parameters, outline, holes, area, designation: null };
+  return {
+    name, shape, parameters, outline, holes, area, iy: 8e-6, iz: 2e-6, iyz: 0, designation: null,
+  };
 }
 
 class Maker {

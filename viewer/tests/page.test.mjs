@@ -383,7 +383,8 @@ test('details show the profile, its values and a drawing', () => withPage({}, as
   await settle(page);
   const details = page.locator('.details');
   const text = await details.textContent();
-  const parts = ['I 400', 'I section', 'Height h400 mm', 'Web tw20 mm', 'Length8.000 m', 'Steel'];
+  const parts = ['I 400', 'I section', 'Height h400 mm', 'Web tw20 mm', 'Length8.000 m', 'Steel',
+    'Second moment about y800.0 cm⁴'];
   for (const part of parts) {
     assert.ok(text.includes(part), part);
   }

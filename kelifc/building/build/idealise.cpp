@@ -75,8 +75,9 @@ FoundReading Search(Subject& subject, const EvaluatedBody& body, const SingleSol
   FoundReading found;
   found.best = ReadDirect(subject, single);
   if (!IsGood(found.best) && body.mesh.FaceCount() <= kMostFaces) {
-    found.isSeveral = HasSeveralParts(subject.boundary);
-    KeepBetter(found.best, ReadBySlices(subject, DirectionsOf(single), found.isSeveral));
+    const Parts parts = CountParts(subject.boundary);
+    found.isSeveral = parts.solids > 1;
+    KeepBetter(found.best, ReadBySlices(subject, DirectionsOf(single), parts.IsSeveral()));
   }
   if (!found.best) return found;
   found.box = BoxOf(found.best->solid);

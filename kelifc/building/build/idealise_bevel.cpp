@@ -80,6 +80,14 @@ bool Align(const Outline& model, Outline& loop) {
   return true;
 }
 
+bool Align(const FlatRegion& model, FlatRegion& region) {
+  if (model.holes.size() != region.holes.size() || !Align(model.outer, region.outer)) return false;
+  for (std::size_t i = 0; i < model.holes.size(); ++i) {
+    if (!Align(model.holes[i], region.holes[i])) return false;
+  }
+  return true;
+}
+
 std::optional<Outline> OutlineAroundBevels(Boundary& boundary, const PlaneFrame& plane,
                                            const Section& section, const Span& span) {
   const Outline& middle = section.region.outer;

@@ -12,6 +12,9 @@ namespace KelIFC::building::idealising {
 /// their numbers differ or are large.
 bool Align(const Outline& model, Outline& loop);
 
+/// The same for all loops of a region. False if the numbers of holes differ, too.
+bool Align(const FlatRegion& model, FlatRegion& region);
+
 /// The outline of a plate whose rim is not square to it, as at the mitre of a wall or at the eaves
 /// of a roof: around the sections at both faces. `section` is the one in the middle. None if the
 /// sections do not correspond, or if no edge is bevelled.

@@ -4,7 +4,6 @@
 #include <tuple>
 
 #include "kelifc/building/build/point_match.h"
-#include "kelifc/building/solid/join_solids.h"
 
 namespace KelIFC::building::idealising {
 namespace {
@@ -122,10 +121,6 @@ const Mesh& Boundary::Mesh() {
   mesh = body.mesh;
   for (Point3& p : mesh->points) p = p + -centre;
   if (body.solidCount <= 1) return *mesh;
-  if (std::optional<KelIFC::Mesh> joined = JoinSolids(*mesh)) {
-    mesh = std::move(joined);
-    return *mesh;
-  }
   const std::vector<char> isTouching = FindTouching(*mesh, mesh->points);
   if (std::count(isTouching.begin(), isTouching.end(), 0) <
       static_cast<std::ptrdiff_t>(isTouching.size())) {

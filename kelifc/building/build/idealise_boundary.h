@@ -34,8 +34,8 @@ class Boundary {
   /// The points that faces use.
   const std::vector<Point3>& Points() const { return points; }
 
-  /// The faces. Of several solids, those of their union. If there is no union, pairs of equal faces
-  /// that look at each other are left out, so that solids side by side form one boundary.
+  /// The faces. Pairs of equal faces that look at each other are left out, so that solids side by
+  /// side form one boundary.
   const KelIFC::Mesh& Mesh();
 
   /// The normals and areas of the faces of Mesh().
@@ -43,6 +43,9 @@ class Boundary {
   double Area();  ///< of all faces
 
   const SurfaceDistance& Distance();  ///< from Mesh()
+
+  /// How many items the body is made of.
+  std::size_t SolidCount() const { return body.solidCount; }
 
   /// The volume of the body; none if it is not closed or not positive.
   std::optional<double> Volume() const;

@@ -36,17 +36,6 @@ double LengthOf(const std::vector<Point3>& points) {
   return length;
 }
 
-std::optional<Reading> Finish(Subject& subject, Reading reading) {
-  reading.kind = ElementKind::kMember;
-  const Proportions proportions =
-      ProportionsOfMember(reading.profile.outline, LengthOf(reading.member.points));
-  reading.suitability = SuitabilityOfMember(subject.role, proportions);
-  const Extent2 extent = ExtentOf(reading.profile.outline);
-  reading.size = std::max(extent.x.Length(), extent.y.Length());
-  if (!Measure(subject, reading)) return std::nullopt;
-  return reading;
-}
-
 // Sets y and, for a left-handed frame, mirrors the profile. `x` is the tangent at the start.
 void SetAxes(const Vector3& x, const Vector3& profileX, const Vector3& profileY, Reading& reading) {
   reading.member.y = Unit(profileX - Dot(profileX, x) * x);
@@ -121,6 +110,17 @@ ProfileFacts RingFacts(const SweptDisk& disk, double scale) {
 
 }  // namespace
 
+std::optional<Reading> FinishCurvedMember(Subject& subject, Reading reading) {
+  reading.kind = ElementKind::kMember;
+  const Proportions proportions =
+      ProportionsOfMember(reading.profile.outline, LengthOf(reading.member.points));
+  reading.suitability = SuitabilityOfMember(subject.role, proportions);
+  const Extent2 extent = ExtentOf(reading.profile.outline);
+  reading.size = std::max(extent.x.Length(), extent.y.Length());
+  if (!Measure(subject, reading)) return std::nullopt;
+  return reading;
+}
+
 std::optional<Reading> ReadRevolution(Subject& subject, const Revolution& revolution,
                                       const Transform3& toLocal) {
   if (!revolution.profile || !(std::fabs(revolution.angle) > 1e-6) ||
@@ -144,7 +144,7 @@ std::optional<Reading> ReadRevolution(Subject& subject, const Revolution& revolu
   if (!x) return std::nullopt;
   reading.profile = std::move(placed->profile);
   SetAxes(*x, map.x / scale, map.y / scale, reading);
-  return Finish(subject, std::move(reading));
+  return FinishCurvedMember(subject, std::move(reading));
 }
 
 std::optional<Reading> ReadSweptDisk(Subject& subject, const SweptDisk& disk,
@@ -160,7 +160,7 @@ std::optional<Reading> ReadSweptDisk(Subject& subject, const SweptDisk& disk,
   reading.member.points = std::move(path->points);
   reading.profile = std::move(placed->profile);
   reading.member.y = FrameAcross(*x, {}).x;
-  return Finish(subject, std::move(reading));
+  return FinishCurvedMember(subject, std::move(reading));
 }
 
 std::optional<Reading> ReadSweptCurve(Subject& subject, const SweptCurve& sweep,
@@ -182,7 +182,7 @@ std::optional<Reading> ReadSweptCurve(Subject& subject, const SweptCurve& sweep,
   reading.member.offset = placed->offset;
   reading.profile = std::move(placed->profile);
   SetAxes(*x, profileX, hand * Cross(*x, profileX), reading);
-  return Finish(subject, std::move(reading));
+  return FinishCurvedMember(subject, std::move(reading));
 }
 
 }  // namespace KelIFC::building::idealising

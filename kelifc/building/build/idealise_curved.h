@@ -17,6 +17,13 @@ std::optional<Reading> ReadSweptDisk(Subject& subject, const SweptDisk& disk,
 std::optional<Reading> ReadSweptCurve(Subject& subject, const SweptCurve& sweep,
                                       const Transform3& toLocal);
 
+/// Completes the reading of a member whose axis and profile are set. None if there is no solid.
+std::optional<Reading> FinishCurvedMember(Subject& subject, Reading reading);
+
+/// Reads a boundary as a member that runs along an arc or a line with bends in a plane, which is
+/// square to `normal`. None if the cut of the plane is no strip.
+std::optional<Reading> ReadBentMember(Subject& subject, const Vector3& normal);
+
 /// Reads a wall whose plan is a strip along an arc or along a line with bends. `up` is the
 /// direction of its height. None if its section is no such strip.
 std::optional<Reading> ReadCurvedWall(Subject& subject, const Vector3& up);

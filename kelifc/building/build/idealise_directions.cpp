@@ -1,6 +1,8 @@
 #include "kelifc/building/build/idealise_directions.h"
 
 #include <algorithm>
+#include <cmath>
+#include <tuple>
 #include <utility>
 
 namespace KelIFC::building::idealising {
@@ -12,9 +14,12 @@ constexpr double kSameDirection = 0.009;
 // The sine of the angle within which edges and normals are parallel except for rounding.
 constexpr double kParallel = 2e-4;
 
-// How many clusters of edges and of faces are kept, and of parallel ones.
+// The difference of the coordinates of normals that are equal except for rounding.
+constexpr double kEqual = 1e-4;
+
+// How many clusters of edges and of faces are kept, and how many parallel ones each may have.
 constexpr std::size_t kMostClusters = 5;
-constexpr std::size_t kMostParallel = 64;
+constexpr std::size_t kMostParallel = 256;
 
 // How many of the longest edges and largest faces are looked at.
 constexpr std::size_t kMostWeighed = 4000;
@@ -24,39 +29,90 @@ struct Weighted {
   double weight = 0.0;
 };
 
-bool AreSame(const Vector3& a, const Vector3& b) { return Length(Cross(a, b)) < kSameDirection; }
+bool AreSame(const Vector3& a, const Vector3& b, double sine = kSameDirection) {
+  const double cosine = Dot(a, b);
+  return 1.0 - cosine * cosine < sine * sine;
+}
 
 void SortByWeight(std::vector<Weighted>& items) {
   std::stable_sort(items.begin(), items.end(),
                    [](const Weighted& a, const Weighted& b) { return a.weight > b.weight; });
 }
 
-// Groups vectors that differ by less than the sine of an angle. Each group has the direction of its
-// heaviest member.
-std::vector<Weighted> Group(std::vector<Weighted> items, double sine, std::size_t most) {
-  SortByWeight(items);
-  if (items.size() > kMostWeighed) items.resize(kMostWeighed);
-  std::vector<Weighted> groups;
+// Adds up vectors that are parallel except for rounding, so that a face that is cut into triangles
+// counts as one.
+std::vector<Weighted> Merge(std::vector<Weighted> items) {
+  for (Weighted& item : items) {
+    const Vector3& v = item.vector;
+    const bool isNegative =
+        v.z < -kEqual || (v.z < kEqual && (v.y < -kEqual || (v.y < kEqual && v.x < 0.0)));
+    if (isNegative) item.vector = -v;
+  }
+  const auto key = [](const Weighted& item) {
+    const Vector3& v = item.vector;
+    return std::tuple(std::llround(v.x / kEqual), std::llround(v.y / kEqual),
+                      std::llround(v.z / kEqual));
+  };
+  std::vector<std::pair<std::tuple<long long, long long, long long>, std::size_t>> order;
+  order.reserve(items.size());
+  for (std::size_t i = 0; i < items.size(); ++i) order.emplace_back(key(items[i]), i);
+  std::sort(order.begin(), order.end());
+  std::vector<Weighted> merged;
+  for (std::size_t i = 0; i < order.size(); ++i) {
+    const Weighted& item = items[order[i].second];
+    if (i > 0 && order[i].first == order[i - 1].first) {
+      merged.back().weight += item.weight;
+    } else {
+      merged.push_back(item);
+    }
+  }
+  return merged;
+}
+
+// A group of vectors about its heaviest one.
+struct Group {
+  Weighted sum;
+  std::vector<Weighted> items;
+};
+
+// Groups vectors, which must be sorted by weight.
+std::vector<Group> MakeGroups(const std::vector<Weighted>& items, double sine, std::size_t most) {
+  std::vector<Group> groups;
   for (const Weighted& item : items) {
-    const auto same = std::find_if(groups.begin(), groups.end(), [&](const Weighted& group) {
-      return Length(Cross(group.vector, item.vector)) < sine;
+    const auto same = std::find_if(groups.begin(), groups.end(), [&](const Group& group) {
+      return AreSame(group.sum.vector, item.vector, sine);
     });
     if (same != groups.end()) {
-      same->weight += item.weight;
+      same->sum.weight += item.weight;
+      same->items.push_back(item);
     } else if (groups.size() < most) {
-      groups.push_back(item);
+      groups.push_back({item, {item}});
     }
   }
   return groups;
 }
 
-// Groups vectors; each group has the direction in which most of it is parallel. So the diagonals of
-// narrow faces do not turn the direction of their long sides.
+// The direction in which most of a group is parallel: the diagonals of narrow faces do not turn the
+// direction of their long sides.
+Vector3 MainDirection(const Group& group) {
+  const std::vector<Group> parallel = MakeGroups(group.items, kParallel, kMostParallel);
+  return std::max_element(
+             parallel.begin(), parallel.end(),
+             [](const Group& a, const Group& b) { return a.sum.weight < b.sum.weight; })
+      ->sum.vector;
+}
+
+// Groups vectors, and returns the heaviest groups.
 std::vector<Weighted> Cluster(std::vector<Weighted> items) {
-  std::vector<Weighted> clusters =
-      Group(Group(std::move(items), kParallel, kMostParallel), kSameDirection, 4 * kMostClusters);
-  SortByWeight(clusters);
-  if (clusters.size() > kMostClusters) clusters.resize(kMostClusters);
+  SortByWeight(items);
+  if (items.size() > kMostWeighed) items.resize(kMostWeighed);
+  std::vector<Group> groups = MakeGroups(items, kSameDirection, 4 * kMostClusters);
+  std::stable_sort(groups.begin(), groups.end(),
+                   [](const Group& a, const Group& b) { return a.sum.weight > b.sum.weight; });
+  if (groups.size() > kMostClusters) groups.resize(kMostClusters);
+  std::vector<Weighted> clusters;
+  clusters.reserve(groups.size());
+  for (const Group& group : groups) clusters.push_back({MainDirection(group), group.sum.weight});
   return clusters;
 }
 
@@ -112,6 +168,16 @@ std::vector<Direction> FindDirections(Boundary& boundary, const std::vector<Vect
     }
   }
   return directions;
+}
+
+std::vector<Vector3> LargestNormals(Boundary& boundary, std::size_t most) {
+  std::vector<Weighted> merged = Merge(NormalsOf(boundary));
+  SortByWeight(merged);
+  if (merged.size() > most) merged.resize(most);
+  std::vector<Vector3> normals;
+  normals.reserve(merged.size());
+  for (const Weighted& normal : merged) normals.push_back(normal.vector);
+  return normals;
 }
 
 }  // namespace KelIFC::building::idealising

@@ -24,6 +24,10 @@ std::vector<Direction> FindDirections(Boundary& boundary, const std::vector<Vect
 
 constexpr std::size_t kMostDirections = 10;
 
+/// The normals in which the largest part of the surface looks, at most so many, the largest first.
+/// Opposite normals are one.
+std::vector<Vector3> LargestNormals(Boundary& boundary, std::size_t most);
+
 }  // namespace KelIFC::building::idealising
 
 #endif  // KELIFC_BUILDING_BUILD_IDEALISE_DIRECTIONS_H_

@@ -9,9 +9,6 @@ namespace {
 // A face ends a member if the cosine of its normal and the axis is at least this.
 constexpr double kLeastCosine = 0.1;
 
-// Cuts whose normal differs from the axis by less are square: 0.1 mm on a section of 0.7 m.
-constexpr double kSquareCosine = 1.0 - 1e-8;
-
 // Faces are in one plane if their normals differ by less than this, and their distance is smaller.
 constexpr double kSameNormal = 2e-3;
 constexpr double kSamePlane = 1e-3;  // metres

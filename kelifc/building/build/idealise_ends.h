@@ -5,6 +5,10 @@
 
 namespace KelIFC::building::idealising {
 
+/// Cuts are square if the cosine of their normal and the axis is larger: 0.1 mm on a section of
+/// 0.7 m.
+constexpr double kSquareCosine = 1.0 - 1e-8;
+
 /// The plane in which a member ends.
 struct FoundEnd {
   Point3 point;

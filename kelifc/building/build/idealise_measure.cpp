@@ -214,6 +214,14 @@ double LargestOutside(const Boundary& boundary, const Matches& matches,
   return outside;
 }
 
+double SurfaceOf(const Mesh& mesh) {
+  double area = 0.0;
+  for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    area += Length(AreaVectorOf(mesh, face));
+  }
+  return area;
+}
+
 void MeasureDifference(Boundary& boundary, const Mesh& solid, const PointMatch& solidPoints,
                        const Matches& ofBody, const Matches& ofSolid, Fit& fit) {
   const SurfaceDistance surface(solid);
@@ -226,7 +234,9 @@ void MeasureDifference(Boundary& boundary, const Mesh& solid, const PointMatch& 
       distances.all <= kExactDeviation && IsVolumeExact(fit) && std::fabs(*fit.ratio - 1.0) < 1e-4;
   if (!isContained || isEqual) return;
   const InnerFaces inner(boundary, surface, solidPoints);
-  if (inner.SharedArea() < kSmallestSharedSurface * boundary.Area()) return;
+  // Solids side by side have faces between them, which the idealised solid lacks.
+  const double area = boundary.SolidCount() > 1 ? SurfaceOf(solid) : boundary.Area();
+  if (inner.SharedArea() < kSmallestSharedSurface * area) return;
   fit.cutouts = inner.CountGroups();
   if (fit.cutouts == 0) return;
   fit.deviation = std::max({ofBody.largest, ofSolid.largest, outside, distances.protruding});

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "kelifc/building/build/idealise_ends.h"
+#include "kelifc/building/build/idealise_envelope.h"
 #include "kelifc/building/build/idealise_profile.h"
 #include "kelifc/building/build/idealise_taper.h"
 
@@ -66,7 +67,17 @@ std::optional<Reading> ReadMember(Subject& subject, const Vector3& direction) {
   if (largest != sections.begin()) KeepBetter(best, ReadWithSection(subject, plane, *largest));
   if (best && !best->fit.isApproximate) return best;
   KeepBetter(best, ReadTapered(subject, plane, span));
+  if (best && !best->fit.isApproximate && best->fit.cutouts == 0) return best;
+  KeepBetter(best, ReadCutTaper(subject, plane, span));
   return best;
+}
+
+std::optional<Reading> ReadMemberAround(Subject& subject, const Vector3& direction) {
+  const PlaneFrame plane = FrameAcross(OrientAxis(subject, direction), {});
+  const std::optional<Section> envelope =
+      EnvelopeOf(subject.boundary, plane, subject.boundary.Along(NormalOf(plane)));
+  if (!envelope) return std::nullopt;
+  return ReadWithSection(subject, plane, *envelope);
 }
 
 Vector3 OrientAxis(const Subject& subject, const Vector3& direction) {

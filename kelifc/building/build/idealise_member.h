@@ -12,6 +12,10 @@ namespace KelIFC::building::idealising {
 /// section of one region, or no solid.
 std::optional<Reading> ReadMember(Subject& subject, const Vector3& direction);
 
+/// Reads a subject as a member along a direction that pieces were cut off from everywhere, so that
+/// no section is that of the member. None if there is no such member.
+std::optional<Reading> ReadMemberAround(Subject& subject, const Vector3& direction);
+
 /// The direction from the start to the end of a member: that of the axis of the product if it has
 /// one, otherwise upwards, or towards world x or y if it is horizontal.
 Vector3 OrientAxis(const Subject& subject, const Vector3& direction);

@@ -31,23 +31,21 @@ std::vector<std::size_t> FindParts(const Mesh& mesh) {
 
 }  // namespace
 
-bool HasSeveralParts(Boundary& boundary) {
+Parts CountParts(Boundary& boundary) {
   const Mesh& mesh = boundary.Mesh();
-  if (mesh.IsEmpty()) return false;
+  if (mesh.IsEmpty()) return {};
   const std::vector<std::size_t> parts = FindParts(mesh);
   std::vector<double> volumes(mesh.points.size(), 0.0);
   for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
     const Mesh::Index first = mesh.LoopOf(face, 0)[0];
     volumes[parts[first]] += Dot(FromOrigin(mesh.points[first]), AreaVectorOf(mesh, face));
   }
-  // The boundary of a cavity has a negative volume, and belongs to the part around it.
-  std::size_t cavities = 0;
-  std::size_t count = 0;
+  Parts count;
   for (std::size_t i = 0; i < parts.size(); ++i) {
     if (parts[i] != i || volumes[i] == 0.0) continue;
-    ++(volumes[i] < 0.0 ? cavities : count);
+    ++(volumes[i] < 0.0 ? count.cavities : count.solids);
   }
-  return count > 1 || (count == 0 && cavities > 1);
+  return count;
 }
 
 }  // namespace KelIFC::building::idealising

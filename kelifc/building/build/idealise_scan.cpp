@@ -2,12 +2,18 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
+
+#include "kelifc/building/solid/unite_regions.h"
 
 namespace KelIFC::building::idealising {
 namespace {
 
 // Points of an outline nearer than this to the line of their neighbours are left out, in metres.
 constexpr double kCollinear = 2e-5;
+
+// Sections of solids nearer to each other than this are one, in metres.
+constexpr double kTouching = 5e-5;
 
 // Coordinates nearer to each other than this are one, in metres.
 constexpr double kSameCoordinate = 1e-6;
@@ -20,29 +26,12 @@ constexpr double kSameSize = 5e-4;
 constexpr std::size_t kFewStations = 8;
 constexpr double kLeastPart = 0.1;
 
-struct Interval {
-  double from = 0.0;
-  double to = 0.0;
-};
-
 // The longest intervals without points, longest first.
-std::vector<Interval> FindIntervals(const Boundary& boundary, const Vector3& normal,
-                                    const Span& span) {
-  std::vector<double> coordinates{span.from, span.to};
-  for (const Point3& p : boundary.Points()) {
-    const double at = At(p, normal);
-    if (at > span.from && at < span.to) coordinates.push_back(at);
-  }
-  std::sort(coordinates.begin(), coordinates.end());
-  std::vector<Interval> intervals;
-  for (std::size_t i = 0; i + 1 < coordinates.size(); ++i) {
-    if (coordinates[i + 1] - coordinates[i] > kSameCoordinate) {
-      intervals.push_back({coordinates[i], coordinates[i + 1]});
-    }
-  }
-  std::stable_sort(intervals.begin(), intervals.end(), [](const Interval& a, const Interval& b) {
-    return a.to - a.from > b.to - b.from;
-  });
+std::vector<Span> LongestIntervals(const Boundary& boundary, const Vector3& normal,
+                                   const Span& span) {
+  std::vector<Span> intervals = IntervalsWithoutPoints(boundary, normal, span);
+  std::stable_sort(intervals.begin(), intervals.end(),
+                   [](const Span& a, const Span& b) { return a.Length() > b.Length(); });
   if (intervals.size() > kMostStations) intervals.resize(kMostStations);
   return intervals;
 }
@@ -70,11 +59,34 @@ double AreaOf(const FlatRegion& region) {
   return area;
 }
 
-std::optional<Section> SectionAt(Boundary& boundary, const PlaneFrame& plane, double at) {
+std::vector<Span> IntervalsWithoutPoints(const Boundary& boundary, const Vector3& normal,
+                                         const Span& span) {
+  std::vector<double> coordinates{span.from, span.to};
+  for (const Point3& p : boundary.Points()) {
+    const double at = At(p, normal);
+    if (at > span.from && at < span.to) coordinates.push_back(at);
+  }
+  std::sort(coordinates.begin(), coordinates.end());
+  std::vector<Span> intervals;
+  for (std::size_t i = 0; i + 1 < coordinates.size(); ++i) {
+    if (coordinates[i + 1] - coordinates[i] > kSameCoordinate) {
+      intervals.push_back({coordinates[i], coordinates[i + 1]});
+    }
+  }
+  return intervals;
+}
+
+std::vector<FlatRegion> RegionsAt(Boundary& boundary, const PlaneFrame& plane, double at) {
   const Vector3 normal = NormalOf(plane);
   PlaneFrame moved = plane;
   moved.origin += (at - At(plane.origin, normal)) * normal;
   std::vector<FlatRegion> regions = Slice(boundary.Mesh(), moved, kCollinear);
+  if (boundary.SolidCount() > 1) regions = UniteRegions(std::move(regions), kTouching);
+  return regions;
+}
+
+std::optional<Section> SectionAt(Boundary& boundary, const PlaneFrame& plane, double at) {
+  std::vector<FlatRegion> regions = RegionsAt(boundary, plane, at);
   if (regions.empty() || regions[0].outer.size() < 3) return std::nullopt;
   Section section;
   section.area = AreaOf(regions[0]);
@@ -87,12 +99,31 @@ std::optional<Section> SectionAt(Boundary& boundary, const PlaneFrame& plane, do
   return section;
 }
 
+std::optional<FlatRegion> RegionAround(Boundary& boundary, const PlaneFrame& plane) {
+  constexpr double kSlack = 1e-4;  // metres, so that an origin on the outline counts
+  std::optional<FlatRegion> found;
+  for (FlatRegion& region : Slice(boundary.Mesh(), plane, kCollinear)) {
+    const Extent2 extent = ExtentOf(region.outer);
+    const bool isAround = extent.x.from <= kSlack && extent.x.to >= -kSlack &&
+                          extent.y.from <= kSlack && extent.y.to >= -kSlack;
+    if (!isAround || region.outer.size() < 3) continue;
+    if (found) return std::nullopt;
+    found = std::move(region);
+  }
+  return found;
+}
+
+Span LongestGap(const Boundary& boundary, const Vector3& normal, const Span& span) {
+  const std::vector<Span> intervals = LongestIntervals(boundary, normal, span);
+  return intervals.empty() ? span : intervals[0];
+}
+
 std::vector<Section> ScanSections(Boundary& boundary, const PlaneFrame& plane, const Span& span) {
   std::vector<Section> sections;
   std::size_t taken = 0;
-  for (const Interval& interval : FindIntervals(boundary, NormalOf(plane), span)) {
-    const double length = interval.to - interval.from;
-    std::optional<Section> section = SectionAt(boundary, plane, (interval.from + interval.to) / 2);
+  for (const Span& interval : LongestIntervals(boundary, NormalOf(plane), span)) {
+    const double length = interval.Length();
+    std::optional<Section> section = SectionAt(boundary, plane, interval.Middle());
     if (!section) continue;
     section->length = length;
     auto same = std::find_if(sections.begin(), sections.end(),

@@ -29,6 +29,22 @@ constexpr std::size_t kMostStations = 24;
 /// The section at a coordinate along the normal of a plane; none if the cut has no area.
 std::optional<Section> SectionAt(Boundary& boundary, const PlaneFrame& plane, double at);
 
+/// The intervals along a normal between two coordinates in which a boundary has no points, in
+/// order.
+std::vector<Span> IntervalsWithoutPoints(const Boundary& boundary, const Vector3& normal,
+                                         const Span& span);
+
+/// All regions of the section at a coordinate along the normal of a plane, the largest first.
+std::vector<FlatRegion> RegionsAt(Boundary& boundary, const PlaneFrame& plane, double at);
+
+/// The region of a section that lies around the origin of the plane: its box contains the origin.
+/// None if there is no such region, or more than one.
+std::optional<FlatRegion> RegionAround(Boundary& boundary, const PlaneFrame& plane);
+
+/// The longest interval between two coordinates along a normal that no point of the boundary lies
+/// in.
+Span LongestGap(const Boundary& boundary, const Vector3& normal, const Span& span);
+
 /// The area of a region without its holes.
 double AreaOf(const FlatRegion& region);
 

@@ -84,6 +84,54 @@ bool MayBeCurvedWall(Subject& subject) {
          subject.boundary.Faces().size() >= 8;
 }
 
+// The directions that may be square to the plane of a bend: those that were found, and those that
+// are parallel to two of the largest planes, such as both ends of a pipe.
+std::vector<Vector3> NormalsOfBends(Subject& subject, const std::vector<Direction>& directions) {
+  constexpr std::size_t kMostPlanes = 4;
+  std::vector<Vector3> normals;
+  normals.reserve(directions.size() + kMostPlanes * kMostPlanes);
+  for (const Direction& direction : directions) normals.push_back(direction.vector);
+  const std::vector<Vector3> planes = LargestNormals(subject.boundary, kMostPlanes);
+  for (std::size_t i = 0; i < planes.size(); ++i) {
+    for (std::size_t k = 0; k < i; ++k) {
+      const Vector3 normal = Unit(Cross(planes[i], planes[k]));
+      const bool isKnown = std::any_of(normals.begin(), normals.end(), [&](const Vector3& known) {
+        return Length(Cross(known, normal)) < 1e-4;
+      });
+      if (!isKnown) normals.push_back(normal);
+    }
+  }
+  return normals;
+}
+
+// Reads curved walls that do not stand upright, and curved members.
+void ReadBends(Subject& subject, const std::vector<Direction>& directions,
+               std::optional<Reading>& best) {
+  constexpr std::size_t kLeastFaces = 8;  // two ends, and a triangular profile beside a bend
+  if (subject.boundary.Faces().size() < kLeastFaces) return;
+  for (const Vector3& normal : NormalsOfBends(subject, directions)) {
+    KeepBetter(best, MayBeCurvedWall(subject) ? ReadCurvedWall(subject, normal)
+                                              : ReadBentMember(subject, normal));
+    if (IsGood(best)) return;
+  }
+}
+
+// Reads bodies that pieces were cut off from everywhere, in the most promising directions.
+void ReadEnvelopes(Subject& subject, const std::vector<Trial>& trials,
+                   std::optional<Reading>& best) {
+  constexpr double kLeastSuitability = 0.2;
+  constexpr std::size_t kMostEnvelopes = 2;
+  std::size_t count = 0;
+  for (const Trial& trial : trials) {
+    if (trial.suitability < kLeastSuitability) continue;
+    if (++count > kMostEnvelopes) return;
+    KeepBetter(best, trial.kind == ElementKind::kMember
+                         ? ReadMemberAround(subject, trial.direction)
+                         : ReadSurfaceAround(subject, trial.direction));
+    if (IsGood(best)) return;
+  }
+}
+
 }  // namespace
 
 std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>& hints,
@@ -102,8 +150,14 @@ std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>
     if (best && !best->fit.isApproximate && ScoreOf(*best) >= trial.suitability) continue;
     KeepBetter(best, trial.kind == ElementKind::kMember ? ReadMember(subject, trial.direction)
                                                         : ReadSurface(subject, trial.direction));
-    if (IsGood(best)) break;
+    if (IsGood(best)) return best;
   }
+  const bool isExact = best && !best->fit.isApproximate;
+  if (!isSeveral && !(isExact && subject.role == ElementRole::kOther)) {
+    ReadBends(subject, directions, best);
+  }
+  const bool isUnusual = isExact && best->suitability < kSuitable && best->fit.cutouts > 0;
+  if (!isExact || isUnusual) ReadEnvelopes(subject, trials, best);
   return best;
 }
 

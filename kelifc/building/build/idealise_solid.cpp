@@ -159,12 +159,14 @@ Mesh MakeAlongPolyline(const MemberAxis& axis, const BuildingProfile& profile) {
   Vector3 x = Unit(points[1] - points[0]);
   std::vector<Station> stations{
       PlaceSection(profile, axis.offset, {points[0], axis.y, Cross(x, axis.y)})};
+  if (!EndStation(stations[0], x, points[0], axis.ends[0])) return {};
   for (std::size_t k = 1; k < points.size(); ++k) {
     const Vector3 next = k + 1 < points.size() ? Unit(points[k + 1] - points[k]) : x;
     stations.push_back(stations.back());
     if (!MoveToPlane(stations.back(), x, points[k], Unit(x + next))) return {};
     x = next;
   }
+  if (!EndStation(stations.back(), x, points.back(), axis.ends[1])) return {};
   return Loft(LoopSizesOf(profile), stations, false);
 }
 

@@ -4,6 +4,7 @@
 #include <cmath>
 
 #include "kelifc/building/build/idealise_bevel.h"
+#include "kelifc/building/build/idealise_envelope.h"
 #include "kelifc/building/build/idealise_scan.h"
 #include "kelifc/building/build/idealise_solid.h"
 
@@ -22,10 +23,11 @@ struct Level {
   double area = 0.0;
 };
 
-Level MainLevel(std::vector<std::pair<double, double>> levels) {
+// The levels of faces, by rising coordinate.
+std::vector<Level> MergeLevels(std::vector<std::pair<double, double>> levels) {
   constexpr double kSameLevel = 1e-4;  // metres
   std::sort(levels.begin(), levels.end());
-  Level best;
+  std::vector<Level> merged;
   for (std::size_t i = 0; i < levels.size();) {
     const double first = levels[i].first;
     double area = 0.0;
@@ -34,9 +36,26 @@ Level MainLevel(std::vector<std::pair<double, double>> levels) {
       area += levels[i].second;
       sum += levels[i].second * (levels[i].first - first);
     }
-    if (area > best.area) best = {first + sum / area, area};
+    merged.push_back({first + sum / area, area});
   }
-  return best;
+  return merged;
+}
+
+// The level of the largest area. Of several solids, the outermost of those that are about as large:
+// between the layers of a wall are faces, too.
+Level MainLevel(std::vector<std::pair<double, double>> faces, bool isUpper, bool isSeveral) {
+  constexpr double kAboutAsLarge = 0.8;
+  std::vector<Level> levels = MergeLevels(std::move(faces));
+  Level best;
+  for (const Level& level : levels) {
+    if (level.area > best.area) best = level;
+  }
+  if (!isSeveral) return best;
+  if (isUpper) std::reverse(levels.begin(), levels.end());
+  const auto outermost = std::find_if(levels.begin(), levels.end(), [&](const Level& level) {
+    return level.area >= kAboutAsLarge * best.area;
+  });
+  return outermost != levels.end() ? *outermost : best;
 }
 
 // The levels of the two main faces of a plate.
@@ -60,8 +79,9 @@ Faces FindFaces(Boundary& boundary, const Vector3& normal) {
     for (const Mesh::Index i : mesh.LoopOf(face, 0)) level.Add(At(mesh.points[i], normal));
     (cosine > 0.0 ? upper : lower).emplace_back(level.Middle(), facts.area);
   }
-  const Level top = MainLevel(std::move(upper));
-  const Level bottom = MainLevel(std::move(lower));
+  const bool isSeveral = boundary.SolidCount() > 1;
+  const Level top = MainLevel(std::move(upper), true, isSeveral);
+  const Level bottom = MainLevel(std::move(lower), false, isSeveral);
   Faces faces;
   faces.span = boundary.Along(normal);
   faces.hasLower = bottom.area > kLeastFace * top.area;
@@ -190,6 +210,15 @@ std::optional<Reading> ReadSurface(Subject& subject, const Vector3& normal) {
     KeepBetter(best, ReadWithSection(subject, plane, *largest, faces));
   }
   return best;
+}
+
+std::optional<Reading> ReadSurfaceAround(Subject& subject, const Vector3& normal) {
+  const PlaneFrame plane = FrameAcross(normal, {});
+  const Span span = subject.boundary.Along(NormalOf(plane));
+  std::optional<Section> envelope = EnvelopeOf(subject.boundary, plane, span);
+  if (!envelope) return std::nullopt;
+  return ReadWithOutline(subject, plane, std::move(envelope->region.outer), envelope->region.holes,
+                         span);
 }
 
 }  // namespace KelIFC::building::idealising

@@ -11,6 +11,10 @@ namespace KelIFC::building::idealising {
 /// None if there is no section of one region, or no solid.
 std::optional<Reading> ReadSurface(Subject& subject, const Vector3& normal);
 
+/// Reads a subject as a plane region with a thickness that pieces were cut off from everywhere, so
+/// that no section is that of the surface. None if there is no such surface.
+std::optional<Reading> ReadSurfaceAround(Subject& subject, const Vector3& normal);
+
 /// Makes a surface of a region that lies in a plane; the middle of its thickness is at the
 /// coordinate `span.Middle()` along the normal of the plane.
 Reading MakeSurface(const Subject& subject, const PlaneFrame& plane, const Contour& outline,

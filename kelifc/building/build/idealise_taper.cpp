@@ -30,14 +30,11 @@ struct TwoRegions {
 };
 
 std::optional<TwoRegions> FindEnds(const FlatRegion& first, FlatRegion second) {
-  if (first.holes.size() != second.holes.size() || !Align(first.outer, second.outer)) {
-    return std::nullopt;
-  }
+  if (!Align(first, second)) return std::nullopt;
   TwoRegions ends;
   ends.start.outer = Extrapolate(first.outer, second.outer, 0.0);
   ends.end.outer = Extrapolate(first.outer, second.outer, 1.0);
   for (std::size_t i = 0; i < first.holes.size(); ++i) {
-    if (!Align(first.holes[i], second.holes[i])) return std::nullopt;
     ends.start.holes.push_back(Extrapolate(first.holes[i], second.holes[i], 0.0));
     ends.end.holes.push_back(Extrapolate(first.holes[i], second.holes[i], 1.0));
   }

@@ -12,6 +12,10 @@ namespace KelIFC::building::idealising {
 /// ends do not correspond.
 std::optional<Reading> ReadTapered(Subject& subject, const PlaneFrame& plane, const Span& span);
 
+/// The same for a member that is cut skew at its ends. Each profile is the face at its end, as seen
+/// along the axis, which connects the centroids of the faces.
+std::optional<Reading> ReadCutTaper(Subject& subject, const PlaneFrame& plane, const Span& span);
+
 /// Sets the axis of a tapered member between two profiles that lie in parallel planes square to
 /// `along`. The axis connects their centroids.
 void SetTaperedAxis(MemberAxis& axis, const Point3& start, const Point3& end, const Vector3& along,

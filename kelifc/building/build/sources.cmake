@@ -5,14 +5,17 @@ target_sources(kelifc_building PRIVATE
   build/openings.cpp
   build/storeys.cpp
   build/idealise.cpp
+  build/idealise_bent_member.cpp
   build/idealise_bevel.cpp
   build/idealise_boundary.cpp
   build/idealise_box.cpp
   build/idealise_curved.cpp
   build/idealise_curved_wall.cpp
+  build/idealise_cut_taper.cpp
   build/idealise_direct.cpp
   build/idealise_directions.cpp
   build/idealise_ends.cpp
+  build/idealise_envelope.cpp
   build/idealise_measure.cpp
   build/idealise_member.cpp
   build/idealise_orient.cpp
@@ -23,6 +26,7 @@ target_sources(kelifc_building PRIVATE
   build/idealise_slices.cpp
   build/idealise_solid.cpp
   build/idealise_source.cpp
+  build/idealise_strip.cpp
   build/idealise_surface.cpp
   build/idealise_taper.cpp
   build/made_profiles.cpp

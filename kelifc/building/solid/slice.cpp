@@ -87,22 +87,16 @@ double AreaOf(const Outline& outline) {
 
 }  // namespace
 
-std::vector<FlatRegion> Slice(const Mesh& mesh, const PlaneFrame& plane, double tolerance) {
+std::vector<FlatRegion> RegionsOfLoops(const std::vector<Point2>& points,
+                                       const std::vector<PointLoop>& loops, double tolerance,
+                                       bool& isComplete) {
   std::vector<FlatRegion> result;
-  if (mesh.IsEmpty() || !IsUsable(plane.origin) || !IsUsable(plane.x) || !IsUsable(plane.y)) {
-    return result;
-  }
-  SectionLoops section = LoopsOf(mesh, plane);
-  // Faces that do not share their points leave gaps.
-  if (!section.isComplete) section = LoopsOf(Weld(mesh, kWeldDistance), plane);
-  bool isComplete = section.isComplete;
-  const std::vector<NestedLoop> nested = NestLoops(section.points, section.loops, isComplete);
-  for (const NestedLoop& loop : nested) {
+  for (const NestedLoop& loop : NestLoops(points, loops, isComplete)) {
     FlatRegion region;
-    region.outer = Simplify(section.points, section.loops[loop.outer], tolerance);
+    region.outer = Simplify(points, loops[loop.outer], tolerance);
     if (!(AreaOf(region.outer) > 0.0)) continue;
     for (const std::size_t hole : loop.holes) {
-      Outline outline = Simplify(section.points, section.loops[hole], tolerance);
+      Outline outline = Simplify(points, loops[hole], tolerance);
       if (AreaOf(outline) < 0.0) region.holes.push_back(std::move(outline));
     }
     result.push_back(std::move(region));
@@ -111,6 +105,17 @@ std::vector<FlatRegion> Slice(const Mesh& mesh, const PlaneFrame& plane, double 
     return AreaOf(a.outer) > AreaOf(b.outer);
   });
   return result;
+}
+
+std::vector<FlatRegion> Slice(const Mesh& mesh, const PlaneFrame& plane, double tolerance) {
+  if (mesh.IsEmpty() || !IsUsable(plane.origin) || !IsUsable(plane.x) || !IsUsable(plane.y)) {
+    return {};
+  }
+  SectionLoops section = LoopsOf(mesh, plane);
+  // Faces that do not share their points leave gaps.
+  if (!section.isComplete) section = LoopsOf(Weld(mesh, kWeldDistance), plane);
+  bool isComplete = section.isComplete;
+  return RegionsOfLoops(section.points, section.loops, tolerance, isComplete);
 }
 
 }  // namespace KelIFC::building

@@ -5,6 +5,7 @@
 
 #include "kelifc/building/mesh.h"
 #include "kelifc/building/profile.h"
+#include "kelifc/building/solid/loops.h"
 
 namespace KelIFC::building {
 
@@ -26,6 +27,12 @@ struct FlatRegion {
 /// first. Collinear points are merged within `tolerance` metres. The result is empty if the cut has
 /// no area, or if its edges do not form loops.
 std::vector<FlatRegion> Slice(const Mesh& mesh, const PlaneFrame& plane, double tolerance = 1e-7);
+
+/// Makes regions of loops between numbered points, the largest first. Collinear points are merged
+/// within `tolerance`. `isComplete` becomes false if a hole lies in no region.
+std::vector<FlatRegion> RegionsOfLoops(const std::vector<Point2>& points,
+                                       const std::vector<PointLoop>& loops, double tolerance,
+                                       bool& isComplete);
 
 }  // namespace KelIFC::building
 

@@ -10,7 +10,6 @@ target_sources(kelifc_building PRIVATE
   solid/extrude.cpp
   solid/half_space.cpp
   solid/join_loops.cpp
-  solid/join_solids.cpp
   solid/key_writer.cpp
   solid/loops.cpp
   solid/made_mesh.cpp
@@ -25,4 +24,5 @@ target_sources(kelifc_building PRIVATE
   solid/split_edges.cpp
   solid/sweep_curve.cpp
   solid/triangulate.cpp
+  solid/unite_regions.cpp
 )

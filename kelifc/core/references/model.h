@@ -28,6 +28,11 @@ IfcUnknown* ParseInstance(IfcServer* server, const char* text, const char** end)
 /// number.
 std::size_t AddInstance(IfcServer* server, IfcUnknown* instance);
 
+/// Returns true during postponed work of a load if the statement of a number comes after the one on
+/// whose behalf the work is done. So that instance has attributes which a load on one thread would
+/// not have read yet. Returns false at any other time.
+bool IsReadLater(const IfcServer* server, std::size_t number);
+
 }  // namespace KelIFC
 
 #endif  // KELIFC_CORE_REFERENCES_MODEL_H_

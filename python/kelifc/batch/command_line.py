@@ -52,7 +52,8 @@ def _parser() -> argparse.ArgumentParser:
         prog="python3 -m kelifc.batch",
         description="Reads many models, and writes their tables, exports and a report.",
         epilog="Exit status: 0 done, 1 a file or the cluster failed, 4 done with --fail-on-loss "
-        "and a model that is not ok, 64 wrong usage, 69 a missing component.",
+        "and a model that is not ok, 64 wrong usage, 69 a missing component, 130 "
+        "Ctrl-C.",
     )
     add = parser.add_argument
     add("models", nargs="+", metavar="MODELS",

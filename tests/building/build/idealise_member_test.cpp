@@ -336,5 +336,82 @@ TEST(IdealiseMember, EndsInTheOutermostPlaneThatCoversTheSection) {
   EXPECT_NEAR(end.point.z + boundary.Centre().z, 3.0, kTiny);
 }
 
+// A section in the plane of world x and z that turns about world z, cut into chords.
+EvaluatedBody Turned(const Outline& section, double angle, int chords) {
+  EvaluatedBody body;
+  const auto count = static_cast<Mesh::Index>(section.size());
+  std::vector<Mesh::Index> first;
+  std::vector<Mesh::Index> last;
+  for (int i = 0; i <= chords; ++i) {
+    const double turn = angle * i / chords;
+    for (const Point2& p : section) {
+      body.mesh.points.emplace_back(p.x * std::cos(turn), p.x * std::sin(turn), p.y);
+    }
+    const Mesh::Index start = static_cast<Mesh::Index>(i) * count;
+    for (Mesh::Index k = 0; i > 0 && k < count; ++k) {
+      const Mesh::Index next = start + (k + 1) % count;
+      body.mesh.AddFace(std::vector<Mesh::Index>{start + k, next, next - count, start + k - count});
+    }
+  }
+  for (Mesh::Index k = 0; k < count; ++k) {
+    first.push_back(k);
+    last.insert(last.begin(), static_cast<Mesh::Index>(chords) * count + k);
+  }
+  body.mesh.AddFace(first);
+  body.mesh.AddFace(last);
+  if (VolumeOf(body.mesh) < 0.0) body.mesh = Flip(body.mesh);
+  body.volume = VolumeOf(body.mesh);
+  body.isClosed = IsClosed(body.mesh);
+  body.solidCount = 1;
+  return body;
+}
+
+TEST(IdealiseMember, FindsTheArcOfABentBeamInItsBoundary) {
+  // A U section of 0.2 by 0.1 m, with its web towards the centre, 8 m from it.
+  const EvaluatedBody body = Turned({{8.0, 0.0},
+                                     {8.1, 0.0},
+                                     {8.1, 0.01},
+                                     {8.01, 0.01},
+                                     {8.01, 0.19},
+                                     {8.1, 0.19},
+                                     {8.1, 0.2},
+                                     {8.0, 0.2}},
+                                    1.0, 24);
+  ASSERT_TRUE(body.isClosed);
+  const Idealisation beam = Idealise({&body, nullptr, ElementRole::kMember});
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  EXPECT_EQ(beam.member->curve, CurveForm::kArc);
+  EXPECT_EQ(beam.profile->shape, ProfileShape::kU);
+  EXPECT_FALSE(beam.isApproximate);
+  const double centroid = 8.0 + (0.2 * 0.01 * 0.005 + 2 * 0.09 * 0.01 * 0.055) / 0.0038;
+  for (const Point3& p : beam.member->points) {
+    EXPECT_NEAR(std::hypot(p.x, p.y), centroid, 2e-3);
+    EXPECT_NEAR(p.z, 0.1, 1e-4);
+  }
+}
+
+TEST(IdealiseMember, ReadsFewChordsAsALineWithBends) {
+  const EvaluatedBody body = Turned({{4.9, 0.0}, {5.1, 0.0}, {5.1, 0.3}, {4.9, 0.3}}, 1.2, 4);
+  const Idealisation beam = Idealise({&body, nullptr, ElementRole::kMember});
+  ASSERT_EQ(beam.kind, ElementKind::kMember);
+  EXPECT_EQ(beam.member->curve, CurveForm::kPolyline);
+  EXPECT_EQ(beam.member->points.size(), 5U);
+  EXPECT_FALSE(beam.isApproximate);
+}
+
+TEST(IdealiseMember, FindsTheArcOfABentPipe) {
+  Outline ring;
+  for (int i = 0; i < 16; ++i) {
+    const double angle = std::numbers::pi * i / 8;
+    ring.emplace_back(2.0 + 0.05 * std::cos(angle), 0.05 * std::sin(angle));
+  }
+  const EvaluatedBody body = Turned(ring, 1.5, 24);
+  const Idealisation pipe = Idealise({&body, nullptr, ElementRole::kMember});
+  ASSERT_EQ(pipe.kind, ElementKind::kMember);
+  EXPECT_EQ(pipe.member->curve, CurveForm::kArc);
+  EXPECT_EQ(pipe.profile->shape, ProfileShape::kCircle);
+  EXPECT_FALSE(pipe.isApproximate);
+}
+
 }  // namespace
 }  // namespace KelIFC::building

@@ -59,6 +59,44 @@ inline SolidPointer PrismAlongX(ProfilePointer profile, double depth) {
   return Prism(std::move(profile), depth, position);
 }
 
+/// A body that was read as a boundary only.
+inline Sample SampleOf(Mesh mesh) {
+  Sample sample({});
+  sample.body.box = BoxOf(mesh);
+  sample.body.volume = VolumeOf(mesh);
+  sample.body.isClosed = IsClosed(mesh);
+  sample.body.solidCount = 1;
+  sample.body.mesh = std::move(mesh);
+  return sample;
+}
+
+/// The boundary between sections with the same number of points, of which the first looks back and
+/// the last looks forward. The sections are counter-clockwise seen from the end.
+inline Mesh LoftOf(const std::vector<std::vector<Point3>>& sections) {
+  Mesh mesh;
+  const auto count = static_cast<Mesh::Index>(sections[0].size());
+  for (const auto& section : sections) {
+    mesh.points.insert(mesh.points.end(), section.begin(), section.end());
+  }
+  const auto last = static_cast<Mesh::Index>(mesh.points.size()) - count;
+  std::vector<Mesh::Index> start;
+  std::vector<Mesh::Index> end;
+  for (Mesh::Index i = 0; i < count; ++i) {
+    start.push_back(count - 1 - i);
+    end.push_back(last + i);
+  }
+  mesh.AddFace(start);
+  mesh.AddFace(end);
+  for (Mesh::Index first = 0; first < last; first += count) {
+    for (Mesh::Index i = 0; i < count; ++i) {
+      const Mesh::Index next = (i + 1) % count;
+      mesh.AddFace(std::vector<Mesh::Index>{first + i, first + next, first + count + next,
+                                            first + count + i});
+    }
+  }
+  return mesh;
+}
+
 /// A profile of one contour.
 inline ProfilePointer PolygonProfile(std::vector<Point2> points) {
   return ProfileOf({{ContourOf(std::move(points)), {}}});

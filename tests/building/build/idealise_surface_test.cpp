@@ -229,5 +229,29 @@ TEST(IdealiseSurface, UnitesTheLayersOfAWall) {
   EXPECT_NEAR(*wall.volumeRatio, 1.0, kTiny);
 }
 
+TEST(IdealiseSurface, UnitesLayersOfDifferentSizes) {
+  // The outer layer begins lower and is longer than the inner one.
+  const Sample sample(
+      {Block({0.0, 0.0, 0.0}, {5.0, 0.2, 3.0}), Block({-0.1, 0.2, -0.1}, {5.1, 0.22, 3.0})});
+  const Idealisation wall = sample.BySlices(ElementRole::kWall);
+  ASSERT_EQ(wall.kind, ElementKind::kSurface);
+  EXPECT_NEAR(wall.surface->thickness, 0.22, kTiny);
+  EXPECT_FALSE(wall.isApproximate);
+}
+
+TEST(IdealiseSurface, ReadsAWallThatHasARebateAndASlopingTop) {
+  // The inner half ends 0.25 m above the lower edge, and the upper edge slopes across the wall.
+  const Sample sample(
+      {PrismAlongX(PolygonProfile(
+                       {{0.0, 0.25}, {0.1, 0.25}, {0.1, 0.0}, {0.2, 0.0}, {0.2, 2.7}, {0.0, 2.8}}),
+                   2.4),
+       Block({2.4, 0.0, 0.0}, {4.8, 0.2, 2.7})});
+  const Idealisation wall = sample.BySlices(ElementRole::kWall);
+  ASSERT_EQ(wall.kind, ElementKind::kSurface);
+  EXPECT_NEAR(wall.surface->thickness, 0.2, kTiny);
+  EXPECT_FALSE(wall.isApproximate);
+  EXPECT_GE(wall.cutouts, 1U);
+}
+
 }  // namespace
 }  // namespace KelIFC::building

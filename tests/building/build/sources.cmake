@@ -4,7 +4,10 @@ set(stage_tests
   openings_test.cpp
   first_use_test.cpp
   storeys_test.cpp
+  idealise_bent_member_test.cpp
+  idealise_cut_taper_test.cpp
   idealise_member_test.cpp
+  idealise_strip_test.cpp
   idealise_surface_test.cpp
   idealise_test.cpp
   point_match_test.cpp

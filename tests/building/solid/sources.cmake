@@ -3,7 +3,6 @@ set(stage_tests
   boolean_test.cpp
   box_tree_test.cpp
   distance_test.cpp
-  join_solids_test.cpp
   key_writer_test.cpp
   loops_test.cpp
   mesh_tools_test.cpp
@@ -11,4 +10,5 @@ set(stage_tests
   point_index_test.cpp
   slice_test.cpp
   triangulate_test.cpp
+  unite_regions_test.cpp
 )
