@@ -130,8 +130,8 @@ std::optional<Reading> AlongArc(const Bends& bends, const MiddleProfile& middle)
   reading.member.curve = CurveForm::kArc;
   reading.member.points = {towards(left.front()), towards(left[left.size() / 2]),
                            towards(left.back())};
-  reading.member.y = Turned(bends, middle.found.frame.x, bends.MiddleOfEdge() - centre,
-                            left.front() - centre);
+  reading.member.y =
+      Turned(bends, middle.found.frame.x, bends.MiddleOfEdge() - centre, left.front() - centre);
   return reading;
 }
 
@@ -162,8 +162,8 @@ std::optional<Reading> AlongPolyline(const Bends& bends, const MiddleProfile& mi
   reading.member.y = Turned(bends, middle.found.frame.x, edge, left[1] - left[0]);
   const std::size_t last = points.size() - 1;
   reading.member.ends[0] = EndOf(bends, points[0], right[0] - left[0], Unit(points[0] - points[1]));
-  reading.member.ends[1] = EndOf(bends, points[last], right[last] - left[last],
-                                 Unit(points[last] - points[last - 1]));
+  reading.member.ends[1] =
+      EndOf(bends, points[last], right[last] - left[last], Unit(points[last] - points[last - 1]));
   return reading;
 }
 

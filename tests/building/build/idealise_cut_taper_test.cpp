@@ -44,7 +44,8 @@ TEST(IdealiseCutTaper, IsExactForATaperedBarThatIsCutInTwoDirections) {
     return points;
   };
   // The lines between corresponding points are the edges of the bar, whatever its sides do.
-  const Sample sample = SampleOf(LoftOf({section(0.4, 0.0, 0.0, 0.5), section(0.2, 6.0, -1.0, 0.0)}));
+  const Sample sample =
+      SampleOf(LoftOf({section(0.4, 0.0, 0.0, 0.5), section(0.2, 6.0, -1.0, 0.0)}));
   ASSERT_TRUE(sample.body.isClosed);
   ASSERT_GT(sample.body.volume, 0.0);
   const Idealisation bar = sample.BySlices(ElementRole::kMember);

@@ -50,8 +50,8 @@ TEST(Strip, IsNoneForOtherOutlines) {
   EXPECT_FALSE(FindParallelStrip({}));
   EXPECT_FALSE(FindParallelStrip({{0.0, 0.0}, {4.0, 0.0}, {4.0, 1.0}, {0.0, 1.0}}));
   // The legs of this angle differ in width.
-  EXPECT_FALSE(FindParallelStrip(
-      {{0.0, 0.0}, {3.0, 0.0}, {3.0, 2.0}, {2.6, 2.0}, {2.6, 0.2}, {0.0, 0.2}}));
+  EXPECT_FALSE(
+      FindParallelStrip({{0.0, 0.0}, {3.0, 0.0}, {3.0, 2.0}, {2.6, 2.0}, {2.6, 0.2}, {0.0, 0.2}}));
   EXPECT_FALSE(FindStrip({{0.0, 0.0}, {4.0, 0.0}, {4.0, 1.0}, {0.0, 1.0}}));
   EXPECT_FALSE(FindStrip(QuarterRing(2, 2)));
 }
