@@ -4,17 +4,10 @@
 #include <tuple>
 
 #include "kelifc/building/build/point_match.h"
+#include "kelifc/building/solid/vector_math.h"
 
 namespace KelIFC::building::idealising {
 namespace {
-
-// Coordinates beyond this, in metres, are taken as faults of the file.
-constexpr double kLargestCoordinate = 1e9;
-
-bool IsReasonable(const Point3& p) {
-  return std::fabs(p.x) <= kLargestCoordinate && std::fabs(p.y) <= kLargestCoordinate &&
-         std::fabs(p.z) <= kLargestCoordinate;
-}
 
 // The points of the outer loop of a face as welded indices, turned so that the smallest is first.
 // Of the two faces of a pair, one has the same loop in the other direction.
@@ -103,7 +96,7 @@ Boundary::Boundary(const EvaluatedBody& evaluated) : body(evaluated) {
   for (std::size_t i = 0; i < isUsed.size(); ++i) {
     if (isUsed[i] == 0) continue;
     const Point3& p = body.mesh.points[i];
-    if (!IsReasonable(p)) return;
+    if (!building::IsUsable(p)) return;
     box.min = {std::min(box.min.x, p.x), std::min(box.min.y, p.y), std::min(box.min.z, p.z)};
     box.max = {std::max(box.max.x, p.x), std::max(box.max.y, p.y), std::max(box.max.z, p.z)};
   }

@@ -7,6 +7,7 @@
 #include "kelifc/building/profile/make_profile.h"
 #include "kelifc/building/profile/plane_arc.h"
 #include "kelifc/building/profile/simplify.h"
+#include "kelifc/building/solid/vector_math.h"
 
 namespace KelIFC::building {
 

@@ -9,9 +9,8 @@ namespace KelIFC::building {
 namespace {
 
 constexpr double kTurn = 2.0 * std::numbers::pi;
-constexpr double kSmallestSagitta = 1e-9;   // a flatter arc is straight, in metres
-constexpr double kLargestCoordinate = 1e9;  // coordinates beyond it are faults of the file
-constexpr double kChordsOfCircle = 38.0;    // the fewest chords of a full circle
+constexpr double kSmallestSagitta = 1e-9;  // a flatter arc is straight, in metres
+constexpr double kChordsOfCircle = 38.0;   // the fewest chords of a full circle
 
 // The most chords of one arc, and of all arcs of a contour.
 constexpr std::size_t kMostChords = 4096;
@@ -67,10 +66,6 @@ std::vector<Point2> ChordsOf(const Contour& contour, double error) {
     }
   });
   return chords;
-}
-
-bool IsUsable(const Point2& point) {
-  return std::abs(point.x) < kLargestCoordinate && std::abs(point.y) < kLargestCoordinate;
 }
 
 }  // namespace KelIFC::building

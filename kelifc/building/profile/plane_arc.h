@@ -47,9 +47,6 @@ void ForEachEdge(const Contour& contour, Visit&& visit) {
 /// arc has at most 4096 chords, and all arcs together have about a million.
 std::vector<Point2> ChordsOf(const Contour& contour, double error);
 
-/// True if all coordinates are finite and small enough that products of four of them are finite.
-bool IsUsable(const Point2& point);
-
 }  // namespace KelIFC::building
 
 #endif  // KELIFC_BUILDING_PROFILE_PLANE_ARC_H_

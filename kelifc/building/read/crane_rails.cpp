@@ -62,7 +62,7 @@ CraneRail ReadCraneRail(const Instance& profile, double metres) {
 
 bool IsFinite(const CraneRail& rail) {
   const auto isUsable = [&rail](const SizeRow& row) {
-    return std::abs(rail.*row.size) <= kLargestCoordinate;
+    return std::abs(rail.*row.size) <= kLargestReadable;
   };
   return std::all_of(std::begin(kSizes), std::end(kSizes), isUsable) &&
          std::all_of(std::begin(kBaseDepths), std::end(kBaseDepths), isUsable);

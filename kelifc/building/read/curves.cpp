@@ -296,7 +296,7 @@ std::optional<Path> CurveReader::TrimLine(const Instance& line, const Trim& firs
   path.AddPoint(at(first), 0.0);
   const bool hasParameters = first.parameter && last.parameter;
   path.AddPoint(at(last), hasParameters ? std::abs(*last.parameter - *first.parameter) : 1.0);
-  if (!IsUsable(path.points[0]) || !IsUsable(path.points[1])) {
+  if (!IsReadable(path.points[0]) || !IsReadable(path.points[1])) {
     return Fail(LossReason::kNotFinite, line);
   }
   return path;

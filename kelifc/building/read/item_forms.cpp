@@ -52,7 +52,7 @@ Instance BasisOf(Instance surface) {
 bool ItemReader::ReadLength(const Instance& item, Attribute attribute, double& metres,
                             Unreadable& why) const {
   metres = item.Get(attribute).Number(0.0) * context.units.length.metres;
-  if (std::abs(metres) <= kLargestCoordinate) return true;
+  if (std::abs(metres) <= kLargestReadable) return true;
   why = {LossReason::kNotFinite, item.Number()};
   return false;
 }

@@ -13,7 +13,7 @@ bool IsUsable(const Vector3& v) {
 }
 
 bool IsUsable(const Transform3& map) {
-  return IsUsable(map.x) && IsUsable(map.y) && IsUsable(map.z) && building::IsUsable(map.origin);
+  return IsUsable(map.x) && IsUsable(map.y) && IsUsable(map.z) && IsReadable(map.origin);
 }
 
 std::optional<Vector3> UnitVector(Vector3 v) {
@@ -30,9 +30,9 @@ std::optional<Vector3> SquareTo(const Vector3& z, const Vector3& v) {
 
 }  // namespace
 
-bool IsUsable(const Point3& p) {
-  return std::abs(p.x) <= kLargestCoordinate && std::abs(p.y) <= kLargestCoordinate &&
-         std::abs(p.z) <= kLargestCoordinate;
+bool IsReadable(const Point3& p) {
+  return std::abs(p.x) <= kLargestReadable && std::abs(p.y) <= kLargestReadable &&
+         std::abs(p.z) <= kLargestReadable;
 }
 
 std::optional<Point3> ReadPoint(ReadContext& context, const Instance& point, Unreadable& why) {
@@ -44,7 +44,7 @@ std::optional<Point3> ReadPoint(ReadContext& context, const Instance& point, Unr
   const double scale = context.units.length.metres;
   const Point3 result{coordinates[0].Number(0.0) * scale, coordinates[1].Number(0.0) * scale,
                       coordinates[2].Number(0.0) * scale};
-  if (IsUsable(result)) return result;
+  if (IsReadable(result)) return result;
   why = {LossReason::kNotFinite, point.Number()};
   return std::nullopt;
 }

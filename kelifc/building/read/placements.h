@@ -13,10 +13,10 @@ namespace KelIFC::building {
 
 /// A coordinate of more than this, in metres, counts as not finite: products of such numbers lose
 /// all meaning.
-constexpr double kLargestCoordinate = 1e12;
+constexpr double kLargestReadable = 1e12;
 
-/// True if all coordinates are numbers up to kLargestCoordinate.
-bool IsUsable(const Point3& point);
+/// True if all coordinates are numbers up to kLargestReadable.
+bool IsReadable(const Point3& point);
 
 /// A point in metres; z is 0 for a point of the plane. None, and `why`, if it cannot be read.
 std::optional<Point3> ReadPoint(ReadContext& context, const Instance& point, Unreadable& why);

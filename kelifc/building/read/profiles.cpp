@@ -188,7 +188,7 @@ bool ProfileReader::ReadShape(const Instance& profile, ProfileFacts& facts, Unre
     if (row.entity == entity && size == 0.0) size = At(facts, row.source);
   }
   for (const double size : facts.parameters) {
-    if (std::abs(size) <= kLargestCoordinate) continue;
+    if (std::abs(size) <= kLargestReadable) continue;
     why.reason = LossReason::kNotFinite;
     return false;
   }
@@ -254,7 +254,7 @@ bool ProfileReader::ReadCentreLine(const Instance& profile, ProfileFacts& facts,
   if (!path) return false;
   const double thickness = profile.Get(A::kThickness).Number(0.0) * context.units.length.metres;
   Region region = Thicken(PlanePoints(Flatten(*path)), thickness, IsClosed(*path));
-  if (region.outer.points.empty() || !(thickness <= kLargestCoordinate)) {
+  if (region.outer.points.empty() || !(thickness <= kLargestReadable)) {
     why = {LossReason::kDegenerate, profile.Number()};
     return false;
   }
