@@ -1,6 +1,9 @@
+#include <string>
+
 #include "kelifc/kelifc.h"
 
 #include "tools/kelifc/commands.h"
+#include "tools/kelifc/keep_until_exit.h"
 #include "tools/kelifc/model_file.h"
 #include "tools/kelifc/output.h"
 #include "tools/kelifc/structure_format.h"
@@ -23,13 +26,20 @@ void LoadConvertible(IfcServer& model, const std::string& path, const Reading& r
 void RunStructure(const StructureOptions& options) {
   const KelIFC::LocalClasses classes;  // the command needs no registered library
   KelIFC::ThrowIfFailed(classes.GetStatus());
-  const auto server = KelIFC::CreateServer();
+  const auto& server = KeepUntilExit(KelIFC::CreateServer());
   IfcServer& model = *KelIFC::GetModel(server.Get());
   LoadConvertible(model, options.model, options.reading);
-  Structure structure = ReadStructure(KelIFC::Get(server, &IIFCServer::get_Structure));
-  structure.release = ReleaseText(model.GetRelease());
-  WriteOutput(options.output,
-              options.json ? StructureJson(options.model, structure) : StructureTable(structure));
+  const auto structure = KelIFC::Get(server, &IIFCServer::get_Structure);
+  const std::string release = ReleaseText(model.GetRelease());
+  if (options.json) {
+    Output output(options.output);
+    WriteStructureJson(output, options.model, release, structure);
+    output.Close();
+  } else {
+    Structure values = ReadStructure(structure);
+    values.release = release;
+    WriteOutput(options.output, StructureTable(values));
+  }
 }
 
 }  // namespace command

@@ -12,6 +12,16 @@ namespace command {
 /// empty, because no interface reports it. Throws KelIFC::StatusError if an operation fails.
 Structure ReadStructure(const KelIFC::ComPtr<IGeoStructure>& structure);
 
+// These functions read one item of a collection. They throw KelIFC::StatusError, too.
+
+Storey ReadStorey(const KelIFC::ComPtr<IGeoStorey>& object);
+Element ReadColumn(const KelIFC::ComPtr<IGeoColumn>& object);
+Beam ReadBeam(const KelIFC::ComPtr<IGeoBeam>& object);
+Wall ReadWall(const KelIFC::ComPtr<IGeoWall>& object);
+Plate ReadPlate(const KelIFC::ComPtr<IGeoPlate>& object);
+Foot ReadFoot(const KelIFC::ComPtr<IGeoFoot>& object);
+Section ReadSection(const KelIFC::ComPtr<IGeoSection>& object);
+
 }  // namespace command
 
 #endif  // TOOLS_KELIFC_STRUCTURE_READER_H_
