@@ -12,7 +12,7 @@ namespace KelIFC {
 
 /// Whether an element of this class keeps the boundary of a faceted solid.
 template <class Element>
-inline constexpr bool kHasBoundary = requires(Element element) {
+inline constexpr bool kHasBoundary = requires(Element& element) {
   element.boundary;
 };
 
