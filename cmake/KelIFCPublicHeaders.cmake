@@ -86,6 +86,7 @@ set(kelifc_public_headers
   kelifc/schema/common.h
   kelifc/schema/dimensional_exponents.h
   kelifc/schema/write_attribute.h
+  kelifc/server/detail/guid_index.h
   kelifc/server/detail/instance_index.h
   kelifc/server/detail/number_index.h
   kelifc/server/detail/number_order.h

@@ -3,15 +3,12 @@
 
 #include "kelifc/geo/class_bases.h"
 #include "kelifc/geo/polyline_element.h"
-#include "kelifc/geometry/brep.h"
 
 namespace KelIFC {
 
-/// A column: an axis of two points and a section.
+/// A column: an axis of two points and a section. No operation shows the boundary of a faceted
+/// column, so it has none.
 class CoGeoColumn : public PolylineElement<CoGeoColumnBase> {
- public:
-  BRep boundary;  ///< of a faceted solid; no operation returns it
-
  protected:
   ~CoGeoColumn() override = default;
 };

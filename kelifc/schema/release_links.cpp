@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <typeinfo>
 
+#include "kelifc/core/other.h"
 #include "kelifc/core/references/cast_cache.h"
 #include "kelifc/schema/ifc151.h"
 #include "kelifc/schema/ifc20.h"
@@ -67,14 +68,20 @@ GuidReader FindGuidReader(const IfcUnknown* instance) {
   return nullptr;
 }
 
+ListedAs FindListedAs(const IfcUnknown* instance) {
+  const bool isProduct = IsA<KelIFC2x::IfcProduct>(instance) ||
+                         IsA<KelIFC2x2::IfcProduct>(instance) ||
+                         IsA<KelIFC2x3::IfcProduct>(instance);
+  if (isProduct) return ListedAs::kProduct;
+  const bool isRoot = FindGuidReader(instance) != nullptr || IsA<IfcOther>(instance);
+  return isRoot ? ListedAs::kRoot : ListedAs::kNothing;
+}
+
 }  // namespace
 
-bool IsProduct(const IfcUnknown* instance) {
-  thread_local AnswersByClass<bool> answers;
-  return instance != nullptr && answers.Get(*instance, [](const IfcUnknown* asked) {
-    return IsA<KelIFC2x::IfcProduct>(asked) || IsA<KelIFC2x2::IfcProduct>(asked) ||
-           IsA<KelIFC2x3::IfcProduct>(asked);
-  });
+ListedAs ListedAsOf(const IfcUnknown* instance) {
+  thread_local AnswersByClass<ListedAs> answers;
+  return instance == nullptr ? ListedAs::kNothing : answers.Get(*instance, FindListedAs);
 }
 
 bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid) {

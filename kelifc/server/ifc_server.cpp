@@ -5,6 +5,7 @@
 #include <new>
 #include <utility>
 
+#include "kelifc/core/detail/prefetch.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/core/text/write_tolerance.h"
 #include "kelifc/core/unknown.h"
@@ -23,6 +24,16 @@ template <class Project>
 Project FindProject(const Mvector<IfcUnknown*>& items, Project (*asProject)(const IfcUnknown*)) {
   for (const IfcUnknown* item : items) {
     if (Project project = asProject(item)) return project;
+  }
+  return nullptr;
+}
+
+// The same for a release whose projects are at `roots`, as all its instances of IfcRoot are.
+template <class Project>
+Project FindProject(const Mvector<IfcUnknown*>& items, const std::vector<std::uint32_t>& roots,
+                    Project (*asProject)(const IfcUnknown*)) {
+  for (const std::uint32_t position : roots) {
+    if (Project project = asProject(items[position])) return project;
   }
   return nullptr;
 }
@@ -65,7 +76,9 @@ void IfcServer::Reset() {
   instanceIndex.Clear();  // a destructor may have built it again
   productNumbers = {};
   guidIndex = {};
+  rootPositions = {};
   productPositions = {};
+  productIds = {};
   places = {};
   source.reset();
   slotsWithoutGuid = 0;
@@ -116,7 +129,7 @@ std::size_t IfcServer::MakeNumber() {
 void IfcServer::Append(std::size_t id, IfcUnknown* item) {
   const std::size_t position = items.size();
   try {
-    FillSlot(id, item, IsProduct(item));
+    FillSlot(id, item, ListedAsOf(item));
   } catch (const std::bad_alloc&) {
     DropSlot(position);
     if (item != nullptr && item->GetServer() == nullptr) delete item;
@@ -130,10 +143,10 @@ void IfcServer::Append(std::size_t id, IfcUnknown* item) {
 
 // The same for a new instance whose server is set already. Does not access the instance, which can
 // still be in the cache of another processor.
-void IfcServer::AppendNew(std::size_t id, std::unique_ptr<IfcUnknown> item, bool isProduct) {
+void IfcServer::AppendNew(std::size_t id, std::unique_ptr<IfcUnknown> item, ListedAs listed) {
   const std::size_t position = items.size();
   try {
-    FillSlot(id, item.get(), isProduct);
+    FillSlot(id, item.get(), listed);
   } catch (const std::bad_alloc&) {
     DropSlot(position);
     throw;
@@ -141,27 +154,32 @@ void IfcServer::AppendNew(std::size_t id, std::unique_ptr<IfcUnknown> item, bool
   static_cast<void>(item.release());
 }
 
-// Removes a slot that was filled in part.
-void IfcServer::DropSlot(std::size_t position) noexcept {
-  if (!productPositions.empty() && productPositions.back() == position) {
-    productPositions.pop_back();
-  }
-  items.resize(position);
-  instanceIndex.Clear();
-}
-
 // The number is set last: its earlier meaning must not be lost if there is no memory.
-void IfcServer::FillSlot(std::size_t id, IfcUnknown* item, bool isProduct) {
+void IfcServer::FillSlot(std::size_t id, IfcUnknown* item, ListedAs listed) {
   const auto position = static_cast<std::uint32_t>(items.size());
   productNumbers.Drop();
   items.push_back(item);
-  if (isProduct) productPositions.push_back(position);
+  if (listed != ListedAs::kNothing) rootPositions.push_back(position);
+  if (listed == ListedAs::kProduct) {
+    productIds.push_back(id);
+    productPositions.push_back(position);
+  }
   if (instanceIndex.IsBuilt()) {
     const std::uint32_t earlier = idToIndex.Find(id);
     if (earlier != detail::NumberIndex::kNone) instanceIndex.DropNumber(earlier);
     instanceIndex.Append(items.data(), id);
   }
   idToIndex.Set(id, position);
+}
+
+// Removes the last slot, which may be filled in part.
+void IfcServer::DropSlot(std::size_t position) noexcept {
+  for (std::vector<std::uint32_t>* list : {&rootPositions, &productPositions}) {
+    if (!list->empty() && list->back() == position) list->pop_back();
+  }
+  productIds.resize(productPositions.size());
+  items.resize(position);
+  instanceIndex.Clear();
 }
 
 void IfcServer::BuildInstanceIndex() const {
@@ -184,7 +202,7 @@ std::size_t IfcServer::Find(const IfcUnknown* item) const {
 std::uint64_t IfcServer::FindProductNumber(const IfcUnknown* item) const {
   if (instanceIndex.IsBuilt() || mayRepeat || item == nullptr) return 0;
   if (productNumbers.IsNew()) {
-    productNumbers.Build(items.data(), items.size(), productPositions, idToIndex);
+    productNumbers.Build(items.data(), productPositions, productIds, idToIndex);
   }
   return productNumbers.Find(item);
 }
@@ -216,38 +234,44 @@ const IfcUnknown* IfcServer::GetItem(std::size_t) const { return nullptr; }
 
 IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
   if (IsNullGuid(guid)) return nullptr;
-  if (guidIndex.empty()) BuildGuidIndex();
-  const auto found = std::lower_bound(
-      guidIndex.begin(), guidIndex.end(), guid,
-      [](const GuidPlace& place, const _GUID& wanted) { return GuidLess()(place.guid, wanted); });
-  const bool isFound = found != guidIndex.end() && !GuidLess()(guid, found->guid);
-  return isFound ? items[found->position] : nullptr;
+  if (guidIndex.IsEmpty()) BuildGuidIndex();
+  const std::uint32_t position = guidIndex.Find(guid);
+  return position == detail::GuidIndex::kNone ? nullptr : items[position];
 }
 
 // Of several instances with one identifier the first wins. A model without identifiers is searched
 // again only after it has grown.
 void IfcServer::BuildGuidIndex() {
   if (slotsWithoutGuid == items.size()) return;
-  std::vector<GuidPlace> made;  // assigned when it is complete: an allocation can fail
-  GuidPlace place = {};
-  for (; place.position < items.size(); ++place.position) {
-    if (ReadGlobalGuid(items[place.position], place.guid)) made.push_back(place);
+  constexpr std::size_t kAhead = 16;
+  detail::GuidIndex made(rootPositions.size());  // assigned when complete: an allocation can fail
+  for (std::size_t i = 0; i < rootPositions.size(); ++i) {
+    if (i + kAhead < rootPositions.size()) {
+      detail::PrefetchInstance(items[rootPositions[i + kAhead]]);
+    }
+    _GUID guid = {};
+    if (ReadGlobalGuid(items[rootPositions[i]], guid)) made.Add(guid, rootPositions[i]);
   }
-  std::sort(made.begin(), made.end(), [](const GuidPlace& a, const GuidPlace& b) {
-    if (GuidLess()(a.guid, b.guid)) return true;
-    return !GuidLess()(b.guid, a.guid) && a.position < b.position;
-  });
-  const auto last = std::unique(
-      made.begin(), made.end(),
-      [](const GuidPlace& a, const GuidPlace& b) { return !GuidLess()(a.guid, b.guid); });
-  made.erase(last, made.end());
-  guidIndex.swap(made);
-  if (guidIndex.empty()) slotsWithoutGuid = items.size();
+  guidIndex = std::move(made);
+  if (guidIndex.IsEmpty()) slotsWithoutGuid = items.size();
 }
 
 StatementPlace IfcServer::GetStatementPlace(std::size_t number) const {
   const std::uint32_t position = idToIndex.Find(number);  // kNone is beyond all places
   return position < places.size() ? places[position] : StatementPlace();
+}
+
+std::vector<std::uint64_t> IfcServer::GetNumbersByPosition() const {
+  std::vector<std::uint64_t> numbers(items.size());
+  if (mayRepeat) {
+    for (std::size_t i = 0; i < items.size(); ++i) {
+      if (items[i] != nullptr) numbers[i] = Find(items[i]);
+    }
+  } else {
+    idToIndex.ForEach(
+        [&](std::uint64_t number, std::uint32_t position) { numbers[position] = number; });
+  }
+  return numbers;
 }
 
 std::size_t IfcServer::GetNextNumber(std::size_t number) const { return idToIndex.GetNext(number); }
@@ -259,13 +283,13 @@ const KelIFC20::IfcProject* IfcServer::GetProject20() const {
   return FindProject(items, AsProject20);
 }
 const KelIFC2x::IfcProject* IfcServer::GetProject2x() const {
-  return FindProject(items, AsProject2x);
+  return FindProject(items, rootPositions, AsProject2x);
 }
 const KelIFC2x2::IfcProject* IfcServer::GetProject2x2() const {
-  return FindProject(items, AsProject2x2);
+  return FindProject(items, rootPositions, AsProject2x2);
 }
 const KelIFC2x3::IfcProject* IfcServer::GetProject2x3() const {
-  return FindProject(items, AsProject2x3);
+  return FindProject(items, rootPositions, AsProject2x3);
 }
 
 // The server owns the projects. A non-const server returns them as non-const.

@@ -14,6 +14,7 @@
 #include "kelifc/core/mvector.h"
 #include "kelifc/platform/export.h"
 #include "kelifc/platform/guid.h"
+#include "kelifc/server/detail/guid_index.h"
 #include "kelifc/server/detail/instance_index.h"
 #include "kelifc/server/detail/number_index.h"
 #include "kelifc/server/detail/number_order.h"
@@ -44,6 +45,7 @@ class ScanBuffer;
 class StepFileSchema;
 enum class StatedAs : std::uint8_t;
 struct MadeStatement;
+enum class ListedAs : std::uint8_t;
 
 /// The order of global identifiers: by the three numbers, then byte by byte.
 struct KELIFC_API GuidLess {
@@ -285,6 +287,16 @@ class KELIFC_API IfcServer {
   /// need not visit every instance. Slots of deleted instances are null.
   const std::vector<std::uint32_t>& GetProductPositions() const { return productPositions; }
 
+  /// Returns the positions in GetItems of all instances of IfcRoot (2x, 2x2 and 2x3), and of all
+  /// raw text, which can be the text of an IfcRoot. They are counted from 0 and in ascending order.
+  /// A loop over objects and relationships need not visit every instance. Slots of deleted
+  /// instances are null.
+  const std::vector<std::uint32_t>& GetRootPositions() const { return rootPositions; }
+
+  /// Returns for each position in GetItems the number of its instance, as Find does; 0 if there is
+  /// none. Takes linear time, and is much faster than a look-up for each instance.
+  std::vector<std::uint64_t> GetNumbersByPosition() const;
+
   /// Sets the handler that receives the progress of loads: the bytes read so far and the bytes to
   /// read, for both passes over the file together. An empty handler, as in a new server, receives
   /// nothing. SaveOptions::progress receives the progress of a save.
@@ -349,8 +361,8 @@ class KELIFC_API IfcServer {
   IfcUnknown* MakeByRelease(const char* name);
   std::size_t MakeNumber();
   void Append(std::size_t id, IfcUnknown* item);
-  void AppendNew(std::size_t id, std::unique_ptr<IfcUnknown> item, bool isProduct);
-  void FillSlot(std::size_t id, IfcUnknown* item, bool isProduct);
+  void AppendNew(std::size_t id, std::unique_ptr<IfcUnknown> item, ListedAs listed);
+  void FillSlot(std::size_t id, IfcUnknown* item, ListedAs listed);
   void DropSlot(std::size_t position) noexcept;
   void BuildInstanceIndex() const;
   std::uint64_t FindProductNumber(const IfcUnknown* item) const;
@@ -405,14 +417,10 @@ class KELIFC_API IfcServer {
   bool supportsFillings = false;
   std::shared_ptr<StepFileSchema> schemaRecord;  // shared by copies of the server
   bool headerSeen = false;
-  std::vector<std::uint32_t> productPositions;  // in `items`
-  // Global identifiers by rising order, each once. Positions, not pointers, so that a deleted
-  // instance is not found again.
-  struct GuidPlace {
-    _GUID guid;
-    std::uint32_t position;  // in `items`
-  };
-  std::vector<GuidPlace> guidIndex;
+  std::vector<std::uint32_t> rootPositions;     // in `items`; see GetRootPositions
+  std::vector<std::uint32_t> productPositions;  // in `items`; they are roots, too
+  std::vector<std::uint64_t> productIds;        // the numbers with which they were registered
+  detail::GuidIndex guidIndex;                  // of the roots, built at the first look-up
 
   mutable detail::InstanceIndex instanceIndex;
   mutable detail::ProductNumbers productNumbers;

@@ -18,7 +18,7 @@ struct MadeStatement {
   StatementPlace place;              ///< in the source
   std::uint32_t column = 0;          ///< of the place
   StatedAs kind = StatedAs::kNothing;
-  bool isProduct = false;  ///< the instance is an IfcProduct
+  ListedAs listed = ListedAs::kNothing;  ///< in which lists the registry has the instance
 };
 
 }  // namespace KelIFC

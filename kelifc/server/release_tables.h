@@ -1,6 +1,8 @@
 #ifndef KELIFC_SERVER_RELEASE_TABLES_H_
 #define KELIFC_SERVER_RELEASE_TABLES_H_
 
+#include <cstdint>
+
 #include "kelifc/platform/guid.h"
 #include "kelifc/server/detail/project_classes.h"
 
@@ -25,8 +27,15 @@ IfcUnknown* MakeInstance2x3(const char* name);
 /// false.
 bool ReadGlobalGuid(const IfcUnknown* instance, _GUID& guid);
 
-/// Returns true if the instance is an IfcProduct of 2x, 2x2 or 2x3. A null instance returns false.
-bool IsProduct(const IfcUnknown* instance);
+/// In which lists the registry has an instance.
+enum class ListedAs : std::uint8_t {
+  kNothing,
+  kRoot,     ///< an IfcRoot of 2x, 2x2 or 2x3, and raw text, which can be the text of an IfcRoot
+  kProduct,  ///< an IfcProduct of these releases, which is a root, too
+};
+
+/// Returns how an instance is listed. A null instance returns ListedAs::kNothing.
+ListedAs ListedAsOf(const IfcUnknown* instance);
 
 /// Returns the instance as the IfcProject of a release, or null. A null instance returns null.
 const KelIFC151::IfcProject* AsProject151(const IfcUnknown* instance);

@@ -114,7 +114,7 @@ MadeStatement IfcServer::MakeStatement(std::size_t id, const char* text,
   statement.number = id;
   statement.made.reset(MakeStated(text));
   statement.kind = KindOf(statement.made.get());
-  statement.isProduct = IsProduct(statement.made.get());
+  statement.listed = ListedAsOf(statement.made.get());
   statement.place = scanner.GetStatementPlace();
   statement.column = static_cast<std::uint32_t>(scanner.GetPlace().column);
   if (statement.made != nullptr) statement.made->SetServer(this);
@@ -133,7 +133,7 @@ void IfcServer::RegisterMade(MadeStatement statement, const char* text) {
   if (HasNumber(statement.number)) {
     NoteRepeat(statement.number, {statement.place.line, statement.column});
   }
-  AppendNew(statement.number, std::move(statement.made), statement.isProduct);
+  AppendNew(statement.number, std::move(statement.made), statement.listed);
   NotePlace(statement.number, statement.place);
 }
 

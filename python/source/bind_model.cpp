@@ -240,7 +240,9 @@ View<command::Structure> ReadStructure(const Shared& model, const py::object& pr
   const IFC_RELEASE release = model->Server().GetRelease();
   IIFCServer& object = model->Object();
   ConvertWithProgress(model, progress, [&](const ProgressHandler& handler) {
-    *structure = command::ReadStructure(Get(object, &IIFCServer::get_Structure), handler);
+    const ComPtr<IGeoStructure> collections = Get(object, &IIFCServer::get_Structure);
+    command::ConvertCollections(collections, handler);
+    *structure = command::ReadStructure(collections);
   });
   structure->release = command::ReleaseText(release);
   return {structure, structure.get()};

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <initializer_list>
+#include <memory>
 
 #include "kelifc/geo/collections.h"
 
@@ -176,12 +177,25 @@ class Beam : public HostTest {};
 
 TEST_F(Beam, ShowsACopyOfItsBoundary) {
   auto beam = CreateOwn<CoGeoBeam>();
-  ObjectOf<CoGeoBeam>(beam).boundary = Triangles();
+  ObjectOf<CoGeoBeam>(beam).boundary.shape = std::make_shared<const BRep>(Triangles());
   const auto boundary = GetObject(*beam, &IGeoBeam::get_BRep);
   EXPECT_EQ(GetObject(*beam, &IGeoBeam::get_BRep).Get(), boundary.Get());
   EXPECT_EQ(CountOf(*GetObject(*boundary, &IGeoBRep::get_Faces)), 2);
   beam.Reset();
   EXPECT_EQ(CountOf(*GetObject(*boundary, &IGeoBRep::get_Points)), 4);
+}
+
+TEST_F(Beam, ShowsItsBoundaryInTheWorld) {
+  const auto beam = CreateOwn<CoGeoBeam>();
+  const Isometry3 moved(Point3(100, 0, 0), Point3(101, 0, 0), Point3(100, 1, 0));
+  ObjectOf<CoGeoBeam>(beam).boundary = {std::make_shared<const BRep>(Triangles()), {moved}};
+  const auto boundary = GetObject(*beam, &IGeoBeam::get_BRep);
+  const auto points = GetObject(*boundary, &IGeoBRep::get_Points);
+  ComPtr<IGeoPoint> point;
+  double x = 0;
+  ASSERT_EQ(points->Item(4, point.Put()), S_OK);
+  EXPECT_EQ(point->get_X(&x), S_OK);
+  EXPECT_EQ(x, 103);
 }
 
 TEST_F(Beam, HasAnEmptyBoundaryAtFirst) {
@@ -209,7 +223,6 @@ TEST_F(Beam, ReservesTheOtherOperations) {
 
 TEST_F(Boundary, IsNotShownByAColumn) {
   const auto column = CreateOwn<CoGeoColumn>();
-  ObjectOf<CoGeoColumn>(column).boundary = Triangles();
   EXPECT_FALSE(column.As<IGeoBRep>());
   EXPECT_EQ(column->Reserved16(nullptr), E_NOTIMPL);
   EXPECT_EQ(column->Reserved17(0.0), E_NOTIMPL);

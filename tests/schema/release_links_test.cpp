@@ -28,6 +28,25 @@ TEST(ReadGlobalGuid, ReturnsFalseForAnInstanceThatIsNotARoot) {
   EXPECT_FALSE(ReadGlobalGuid(nullptr, read));
 }
 
+TEST(ListedAsOf, ListsProductsAndOtherRootsOfTheThreeNewestReleases) {
+  const KelIFC2x::IfcBuilding oldest;
+  const KelIFC2x2::IfcProject project;
+  const KelIFC2x3::IfcColumn newest;
+  const KelIFC2x3::IfcDirection direction;
+  const KelIFC20::IfcBeam older;
+  EXPECT_EQ(ListedAsOf(&oldest), ListedAs::kProduct);
+  EXPECT_EQ(ListedAsOf(&project), ListedAs::kRoot);
+  EXPECT_EQ(ListedAsOf(&newest), ListedAs::kProduct);
+  EXPECT_EQ(ListedAsOf(&direction), ListedAs::kNothing);
+  EXPECT_EQ(ListedAsOf(&older), ListedAs::kNothing);
+  EXPECT_EQ(ListedAsOf(nullptr), ListedAs::kNothing);
+}
+
+TEST(ListedAsOf, ListsRawTextWithTheRoots) {
+  const IfcOther raw;
+  EXPECT_EQ(ListedAsOf(&raw), ListedAs::kRoot);
+}
+
 TEST(AsProject, FindsTheProjectOfItsReleaseOnly) {
   const KelIFC2x2::IfcProject project;
   EXPECT_EQ(AsProject2x2(&project), &project);

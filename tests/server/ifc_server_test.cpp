@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <vector>
 
+#include "kelifc/core/other.h"
 #include "kelifc/core/text/write_tolerance.h"
 #include "kelifc/schema/ifc2x.h"
 #include "kelifc/schema/ifc2x2.h"
@@ -284,6 +285,40 @@ TEST(IfcServer, RecordsThePositionsOfProducts) {
   EXPECT_EQ(server.GetItems()[1], nullptr);
   server.Reset();
   EXPECT_TRUE(server.GetProductPositions().empty());
+}
+
+TEST(IfcServer, ListsRootsAndRawTextInTheOrderOfTheRegistry) {
+  IfcServer server;
+  server.AddItem(new KelIFC2x3::IfcDirection(1.0, 0.0));
+  server.AddItem(new KelIFC2x3::IfcProject);
+  auto* const raw = new IfcOther;
+  server.AddItem(raw);
+  server.AddItem(new KelIFC2x3::IfcColumn);
+  EXPECT_THAT(server.GetRootPositions(), ElementsAre(1u, 2u, 3u));
+  server.DeleteItem(raw);
+  EXPECT_THAT(server.GetRootPositions(), ElementsAre(1u, 2u, 3u));
+  server.Reset();
+  EXPECT_TRUE(server.GetRootPositions().empty());
+}
+
+TEST(IfcServer, ReturnsTheNumbersOfAllPositions) {
+  IfcServer server;
+  auto* const replaced = new KelIFC2x3::IfcColumn;
+  auto* const deleted = new KelIFC2x3::IfcColumn;
+  server.InsertItem(7, replaced);
+  server.InsertItem(3, deleted);
+  server.InsertItem(7, new KelIFC2x3::IfcColumn);
+  server.DeleteItem(deleted);
+  EXPECT_THAT(server.GetNumbersByPosition(), ElementsAre(0u, 0u, 7u));
+}
+
+TEST(IfcServer, ReturnsTheFirstNumberOfAnInstanceThatWasRegisteredTwice) {
+  IfcServer server;
+  auto* const twice = new KelIFC2x3::IfcColumn;
+  server.InsertItem(7, twice);
+  server.InsertItem(3, twice);
+  EXPECT_EQ(server.Find(twice), 7u);
+  EXPECT_THAT(server.GetNumbersByPosition(), ElementsAre(7u, 7u));
 }
 
 }  // namespace

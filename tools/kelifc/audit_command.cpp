@@ -9,7 +9,8 @@ namespace command {
 void RunAudit(const AuditOptions& options) {
   const KelIFC::Building building =
       LoadBuilding(options.model, options.reading,
-                   options.exports ? KelIFC::KeptBodies::kOfBodies : KelIFC::KeptBodies::kNone);
+                   options.exports ? KelIFC::KeptBodies::kOfBodies : KelIFC::KeptBodies::kNone,
+                   ReadModel::kKeptUntilExit);
   AuditedExports exports;
   if (options.exports) exports = CountExports(building, options.model);
   Output output(options.output);

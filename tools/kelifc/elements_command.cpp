@@ -8,9 +8,9 @@ namespace command {
 
 void RunElements(const ElementsOptions& options) {
   const bool hasBodies = options.json && options.bodies;
-  const KelIFC::Building building =
-      LoadBuilding(options.model, options.reading,
-                   hasBodies ? KelIFC::KeptBodies::kAll : KelIFC::KeptBodies::kNone);
+  const KelIFC::Building building = LoadBuilding(
+      options.model, options.reading,
+      hasBodies ? KelIFC::KeptBodies::kAll : KelIFC::KeptBodies::kNone, ReadModel::kKeptUntilExit);
   Output output(options.output);
   if (options.json) {
     WriteElementsJson(output, options.model, building, hasBodies);

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <optional>
 #include <string>
 #include <typeinfo>
@@ -9,6 +10,7 @@
 
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/json.h"
+#include "tools/kelifc/keep_until_exit.h"
 #include "tools/kelifc/model_file.h"
 #include "tools/kelifc/output.h"
 #include "tools/kelifc/text_table.h"
@@ -76,7 +78,7 @@ class EntityCounts {
 };
 
 Info ReadInfo(const InfoOptions& options) {
-  KelIFC::IfcServer server;
+  KelIFC::IfcServer& server = *KeepUntilExit(std::make_unique<KelIFC::IfcServer>());
   Load(server, options);
   Info info;
   if (options.report) info.report = server.GetLoadReport();

@@ -1,6 +1,5 @@
 #include "tools/kelifc/json.h"
 
-#include <array>
 #include <cmath>
 #include <utility>
 
@@ -51,11 +50,15 @@ std::string ToText(const Json& object) {
 
 std::string QuotedText(std::string_view text) { return OnOneLine(Json(text)); }
 
-std::string NumberText(double value) {
+std::string_view FormatNumber(double value, NumberBuffer& buffer) {
   if (!std::isfinite(value)) return "null";
-  std::array<char, 64> digits = {};
-  char* const end = nlohmann::detail::to_chars(digits.data(), digits.data() + digits.size(), value);
-  return {digits.data(), end};
+  char* const end = nlohmann::detail::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return {buffer.data(), static_cast<std::size_t>(end - buffer.data())};
+}
+
+std::string NumberText(double value) {
+  NumberBuffer buffer;
+  return std::string(FormatNumber(value, buffer));
 }
 
 }  // namespace command

@@ -1,6 +1,7 @@
 #ifndef TOOLS_KELIFC_JSON_H_
 #define TOOLS_KELIFC_JSON_H_
 
+#include <array>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
@@ -47,8 +48,11 @@ std::string ToText(const Json& object);
 /// A text as JSON, with its quotes.
 std::string QuotedText(std::string_view text);
 
+using NumberBuffer = std::array<char, 64>;
+
 /// A number as JSON: the shortest text that reads back as the same double; null for a number that
-/// is not finite.
+/// is not finite. The text is in `buffer` or constant.
+std::string_view FormatNumber(double value, NumberBuffer& buffer);
 std::string NumberText(double value);
 
 }  // namespace command

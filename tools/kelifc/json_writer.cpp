@@ -1,5 +1,8 @@
 #include "tools/kelifc/json_writer.h"
 
+#include <algorithm>
+#include <array>
+#include <charconv>
 #include <string>
 
 #include "tools/kelifc/json.h"
@@ -10,7 +13,24 @@ namespace {
 /// How many levels of containers have a line for each entry.
 constexpr std::size_t kLevelsOnLines = 2;
 
-std::string LineStart(std::size_t depth) { return "\n" + std::string(2 * depth, ' '); }
+using IntegerText = std::array<char, 24>;  // enough for 64 bits
+
+/// A line end and the blanks before an entry at a depth of at most kLevelsOnLines.
+std::string_view LineStart(std::size_t depth) {
+  constexpr std::string_view kDeepest = "\n    ";
+  return kDeepest.substr(0, 1 + 2 * depth);
+}
+
+template <class Number>
+std::string_view WriteInteger(Number value, IntegerText& text) {
+  return {text.data(), std::to_chars(text.data(), text.data() + text.size(), value).ptr};
+}
+
+/// Whether JSON needs no escape for the text, which is ASCII.
+bool IsPlain(std::string_view text) {
+  return std::all_of(text.begin(), text.end(),
+                     [](char c) { return c >= ' ' && c <= '~' && c != '"' && c != '\\'; });
+}
 
 }  // namespace
 
@@ -21,9 +41,13 @@ void JsonWriter::Separate() {
   if (isEmpty.size() <= kLevelsOnLines) output.Write(LineStart(isEmpty.size()));
 }
 
-void JsonWriter::Write(std::string_view value) {
+void JsonWriter::BeginValue() {
   if (!hasKey) Separate();
   hasKey = false;
+}
+
+void JsonWriter::Write(std::string_view value) {
+  BeginValue();
   output.Write(value);
 }
 
@@ -43,15 +67,36 @@ void JsonWriter::End(char bracket) {
 
 void JsonWriter::Key(std::string_view key) {
   Separate();
-  output.Write(QuotedText(key));
+  WriteText(key);
   output.Write(isEmpty.size() <= kLevelsOnLines ? ": " : ":");
   hasKey = true;
 }
 
-void JsonWriter::Value(std::size_t value) { Write(std::to_string(value)); }
+void JsonWriter::Value(std::size_t value) {
+  IntegerText text;
+  Write(WriteInteger(value, text));
+}
 
-void JsonWriter::Value(double value) { Write(NumberText(value)); }
+void JsonWriter::Value(long value) {
+  IntegerText text;
+  Write(WriteInteger(value, text));
+}
 
-void JsonWriter::Value(std::string_view text) { Write(QuotedText(text)); }
+void JsonWriter::Value(double value) {
+  NumberBuffer buffer;
+  Write(FormatNumber(value, buffer));
+}
+
+void JsonWriter::Value(std::string_view text) {
+  BeginValue();
+  WriteText(text);
+}
+
+void JsonWriter::WriteText(std::string_view text) {
+  if (!IsPlain(text)) return output.Write(QuotedText(text));
+  output.Write("\"");
+  output.Write(text);
+  output.Write("\"");
+}
 
 }  // namespace command

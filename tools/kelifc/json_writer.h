@@ -26,6 +26,8 @@ class JsonWriter {
   void Null() { Write("null"); }
   void Value(bool value) { Write(value ? "true" : "false"); }
   void Value(std::size_t value);
+  void Value(long value);
+  void Value(int value) { Value(long{value}); }
 
   /// The shortest text that reads back as the same double; null for one that is not finite.
   void Value(double value);
@@ -45,6 +47,8 @@ class JsonWriter {
   void Begin(char bracket);
   void End(char bracket);
   void Write(std::string_view value);
+  void BeginValue();
+  void WriteText(std::string_view text);
   void Separate();
 
   Output& output;

@@ -1,6 +1,10 @@
 #include "tools/kelifc/model_file.h"
 
+#include <memory>
+#include <utility>
+
 #include "tools/kelifc/failure.h"
+#include "tools/kelifc/keep_until_exit.h"
 #include "tools/kelifc/model_source.h"
 #include "tools/kelifc/progress.h"
 #include "tools/kelifc/text.h"
@@ -87,8 +91,10 @@ void RequireConvertible(KelIFC::IfcServer& server, const std::string& path) {
 }
 
 KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
-                              KelIFC::KeptBodies keptBodies) {
-  IfcServer server;
+                              KelIFC::KeptBodies keptBodies, ReadModel model) {
+  auto owner = std::make_unique<IfcServer>();
+  IfcServer& server = *owner;
+  if (model == ReadModel::kKeptUntilExit) KeepUntilExit(std::move(owner));
   const ModelSource source = LoadWithProgress(server, path, reading, [&](const char* file) {
     LoadOptions options = OptionsOf(reading);
     options.keepUnknown = true;  // the reading knows entities that have no class

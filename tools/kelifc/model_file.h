@@ -33,10 +33,14 @@ std::string CauseOf(int code, const std::string& schema);
 /// Throws Failure with Status::kNotConvertible if the release of a loaded model has no conversion.
 void RequireConvertible(KelIFC::IfcServer& server, const std::string& path);
 
+/// What becomes of a model from which a building was read. To free a large model takes a tenth of
+/// the time of a load, and a command that ends soon need not do it.
+enum class ReadModel { kFreed, kKeptUntilExit };
+
 /// Loads the model at `path`, as LoadModel does, and reads the building. Throws Failure, too, with
 /// Status::kNotConvertible if the release has none.
 KelIFC::Building LoadBuilding(const std::string& path, const Reading& reading,
-                              KelIFC::KeptBodies keptBodies);
+                              KelIFC::KeptBodies keptBodies, ReadModel model = ReadModel::kFreed);
 
 /// Converts a text that the server returns, such as a schema or a name, to UTF-8.
 std::string Utf8FromModel(const KelIFC::IfcServer& server, std::string_view text);

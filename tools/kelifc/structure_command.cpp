@@ -1,8 +1,10 @@
 #include <cstdint>
+#include <string>
 
 #include "kelifc/kelifc.h"
 
 #include "tools/kelifc/commands.h"
+#include "tools/kelifc/keep_until_exit.h"
 #include "tools/kelifc/model_file.h"
 #include "tools/kelifc/output.h"
 #include "tools/kelifc/progress.h"
@@ -22,10 +24,10 @@ ModelSource LoadConvertible(IfcServer& model, const std::string& path, const Rea
   return source;
 }
 
-Structure ConvertWithProgress(const KelIFC::ComPtr<IIFCServer>& server, std::uint64_t modelSize,
-                              const Reading& reading) {
+void Convert(const KelIFC::ComPtr<IGeoStructure>& structure, std::uint64_t modelSize,
+             const Reading& reading) {
   ProgressBar bar("converting", IsLargeFile(modelSize) && AllowsBar(reading));
-  return ReadStructure(KelIFC::Get(server, &IIFCServer::get_Structure), bar.GetHandler());
+  ConvertCollections(structure, bar.GetHandler());
 }
 
 }  // namespace
@@ -33,13 +35,21 @@ Structure ConvertWithProgress(const KelIFC::ComPtr<IIFCServer>& server, std::uin
 void RunStructure(const StructureOptions& options) {
   const KelIFC::LocalClasses classes;  // the command needs no registered library
   KelIFC::ThrowIfFailed(classes.GetStatus());
-  const auto server = KelIFC::CreateServer();
+  const auto& server = KeepUntilExit(KelIFC::CreateServer());
   IfcServer& model = *KelIFC::GetModel(server.Get());
   const ModelSource source = LoadConvertible(model, options.model, options.reading);
-  Structure structure = ConvertWithProgress(server, source.GetSize(), options.reading);
-  structure.release = ReleaseText(model.GetRelease());
-  WriteOutput(options.output,
-              options.json ? StructureJson(options.model, structure) : StructureTable(structure));
+  const auto structure = KelIFC::Get(server, &IIFCServer::get_Structure);
+  Convert(structure, source.GetSize(), options.reading);
+  const std::string release = ReleaseText(model.GetRelease());
+  if (options.json) {
+    Output output(options.output);
+    WriteStructureJson(output, options.model, release, structure);
+    output.Close();
+  } else {
+    Structure values = ReadStructure(structure);
+    values.release = release;
+    WriteOutput(options.output, StructureTable(values));
+  }
 }
 
 }  // namespace command

@@ -1,92 +1,157 @@
-#include "tools/kelifc/json.h"
+#include "kelifc/kelifc.h"
+
+#include "tools/kelifc/json_writer.h"
 #include "tools/kelifc/structure_format.h"
+#include "tools/kelifc/structure_reader.h"
 
 namespace command {
 namespace {
 
-Json StoreyOf(const Element& element) {
-  return element.storey ? Json(*element.storey) : Json(nullptr);
+void WriteItem(JsonWriter& json, const Point& point) {
+  json.BeginList();
+  for (const double coordinate : point) json.Value(coordinate);
+  json.EndList();
 }
 
-/// The members that come first in every element. `Object` adds the members of each kind.
-Json Identity(const Element& element) {
-  return {{"name", element.name},
-          {"guid", element.guid},
-          {"section", element.section},
-          {"storey", StoreyOf(element)}};
+/// A list, each item of which is the result of `read` for an item of `items`.
+template <class Items, class Read>
+void WriteListOf(JsonWriter& json, const char* key, const Items& items, Read read);
+
+template <class Item>
+void WriteList(JsonWriter& json, const char* key, const std::vector<Item>& items) {
+  WriteListOf(json, key, items, [](const Item& item) -> const Item& { return item; });
 }
 
-Json Object(const Storey& storey) {
-  return {{"number", storey.number},
-          {"name", storey.name},
-          {"level", storey.level},
-          {"height", storey.height}};
+/// The members that come first in every element. The functions below add those of each kind.
+void WriteIdentity(JsonWriter& json, const Element& element) {
+  json.Member("name", element.name);
+  json.Member("guid", element.guid);
+  json.Member("section", element.section);
+  json.Key("storey");
+  element.storey ? json.Value(*element.storey) : json.Null();
 }
 
-Json Object(const Element& element) {
-  Json object = Identity(element);
-  object["points"] = element.points;
-  return object;
+void WriteElement(JsonWriter& json, const Element& element) {
+  WriteIdentity(json, element);
+  WriteList(json, "points", element.points);
 }
 
-Json Parts(const std::vector<Element>& elements) {
-  Json list = Json::array();
-  for (const Element& element : elements) list.push_back(Object(element));
-  return list;
+void WriteItem(JsonWriter& json, const Storey& storey) {
+  json.BeginObject();
+  json.Member("number", storey.number);
+  json.Member("name", storey.name);
+  json.Member("level", storey.level);
+  json.Member("height", storey.height);
+  json.EndObject();
 }
 
-Json Object(const Beam& beam) {
-  Json object = Object(static_cast<const Element&>(beam));
-  Json& brep = object["brep"];
-  if (beam.boundary.points.empty()) return object;
-  brep["points"] = beam.boundary.points;
-  brep["faces"] = beam.boundary.faces;
-  return object;
+void WriteItem(JsonWriter& json, const Element& element) {
+  json.BeginObject();
+  WriteElement(json, element);
+  json.EndObject();
 }
 
-Json Object(const Wall& wall) {
-  Json object = Object(static_cast<const Element&>(wall));
-  object["closed"] = wall.closed;
-  object["windows"] = Parts(wall.windows);
-  object["doors"] = Parts(wall.doors);
-  return object;
+void WriteItem(JsonWriter& json, const std::vector<long>& face) {
+  json.BeginList();
+  for (const long number : face) json.Value(number);
+  json.EndList();
 }
 
-Json Object(const Plate& plate) {
-  Json object = Object(static_cast<const Element&>(plate));
-  object["holes"] = Parts(plate.holes);
-  return object;
+void WriteItem(JsonWriter& json, const Beam& beam) {
+  json.BeginObject();
+  WriteElement(json, beam);
+  json.Key("brep");
+  if (beam.boundary.points.empty()) {
+    json.Null();
+  } else {
+    json.BeginObject();
+    WriteList(json, "points", beam.boundary.points);
+    WriteList(json, "faces", beam.boundary.faces);
+    json.EndObject();
+  }
+  json.EndObject();
 }
 
-Json Object(const Foot& foot) {
-  Json object = Identity(foot);
-  object["location"] = foot.points.empty() ? Json(nullptr) : Json(foot.points.front());
-  return object;
+void WriteItem(JsonWriter& json, const Wall& wall) {
+  json.BeginObject();
+  WriteElement(json, wall);
+  json.Member("closed", wall.closed);
+  WriteList(json, "windows", wall.windows);
+  WriteList(json, "doors", wall.doors);
+  json.EndObject();
 }
 
-Json Object(const Section& section) {
-  Json object = {{"name", section.name}, {"kind", section.kind}};
-  for (const auto& [name, size] : section.sizes) object[name] = size;
-  return object;
+void WriteItem(JsonWriter& json, const Plate& plate) {
+  json.BeginObject();
+  WriteElement(json, plate);
+  WriteList(json, "holes", plate.holes);
+  json.EndObject();
+}
+
+void WriteItem(JsonWriter& json, const Foot& foot) {
+  json.BeginObject();
+  WriteIdentity(json, foot);
+  json.Key("location");
+  foot.points.empty() ? json.Null() : WriteItem(json, foot.points.front());
+  json.EndObject();
+}
+
+void WriteItem(JsonWriter& json, const Section& section) {
+  json.BeginObject();
+  json.Member("name", section.name);
+  json.Member("kind", section.kind);
+  for (const auto& [name, size] : section.sizes) json.Member(name, size);
+  json.EndObject();
+}
+
+template <class Items, class Read>
+void WriteListOf(JsonWriter& json, const char* key, const Items& items, Read read) {
+  json.Key(key);
+  json.BeginList();
+  for (const auto& item : items) WriteItem(json, read(item));
+  json.EndList();
+}
+
+void BeginStructure(JsonWriter& json, const std::string& file, const std::string& release) {
+  json.BeginObject();
+  json.Member("file", file);
+  json.Member("release", release);
 }
 
 }  // namespace
 
 std::string StructureJson(const std::string& file, const Structure& structure) {
-  JsonText text;
-  const auto list = [&text](const char* name, const auto& items) {
-    text.AddList(name, items, [](const auto& item) { return Object(item); });
+  std::string text;
+  Output output(text);
+  JsonWriter json(output);
+  BeginStructure(json, file, structure.release);
+  WriteList(json, "storeys", structure.storeys);
+  WriteList(json, "columns", structure.columns);
+  WriteList(json, "beams", structure.beams);
+  WriteList(json, "walls", structure.walls);
+  WriteList(json, "plates", structure.plates);
+  WriteList(json, "foots", structure.foots);
+  WriteList(json, "sections", structure.sections);
+  json.EndObject();
+  output.Close();
+  return text;
+}
+
+void WriteStructureJson(Output& output, const std::string& file, const std::string& release,
+                        const KelIFC::ComPtr<IGeoStructure>& structure) {
+  JsonWriter json(output);
+  BeginStructure(json, file, release);
+  const auto write = [&](const char* key, auto getter, auto read) {
+    WriteListOf(json, key, KelIFC::Items(structure, getter), read);
   };
-  text.Add("file", file);
-  text.Add("release", structure.release);
-  list("storeys", structure.storeys);
-  list("columns", structure.columns);
-  list("beams", structure.beams);
-  list("walls", structure.walls);
-  list("plates", structure.plates);
-  list("foots", structure.foots);
-  list("sections", structure.sections);
-  return text.Finish();
+  write("storeys", &IGeoStructure::get_Storeys, ReadStorey);
+  write("columns", &IGeoStructure::get_Columns, ReadColumn);
+  write("beams", &IGeoStructure::get_Beams, ReadBeam);
+  write("walls", &IGeoStructure::get_Walls, ReadWall);
+  write("plates", &IGeoStructure::get_Plates, ReadPlate);
+  write("foots", &IGeoStructure::get_Foots, ReadFoot);
+  write("sections", &IGeoStructure::get_Sections, ReadSection);
+  json.EndObject();
 }
 
 }  // namespace command

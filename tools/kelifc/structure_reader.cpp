@@ -23,11 +23,6 @@ auto ReadAll(const KelIFC::ItemRange<Collection>& items, Read read) {
   return all;
 }
 
-Storey ReadStorey(const ComPtr<IGeoStorey>& storey) {
-  return {Get(storey, &IGeoStorey::get_Number), Get(storey, &IGeoStorey::get_Name),
-          Get(storey, &IGeoStorey::get_Level), Get(storey, &IGeoStorey::get_Height)};
-}
-
 Point ReadPoint(const ComPtr<IGeoPoint>& point) { return KelIFC::GetXYZ(point); }
 
 std::optional<int> ReadStoreyNumber(const ComPtr<IGeoObject>& object) {
@@ -59,6 +54,29 @@ std::vector<long> ReadFace(const ComPtr<IGeoFace>& face) {
   return {numbers.begin(), numbers.end()};
 }
 
+/// A size of a section: its name in the output, and the operation that returns it.
+template <class Interface>
+struct Size {
+  const char* name;
+  HRESULT (Interface::*getter)(double*);
+};
+
+template <class Interface>
+void ReadSizes(const ComPtr<IGeoSection>& object, std::initializer_list<Size<Interface>> sizes,
+               Section& section) {
+  const auto own = Query<Interface>(object);
+  for (const auto& [name, getter] : sizes) section.sizes.emplace_back(name, Get(own, getter));
+}
+
+}  // namespace
+
+Storey ReadStorey(const ComPtr<IGeoStorey>& object) {
+  return {Get(object, &IGeoStorey::get_Number), Get(object, &IGeoStorey::get_Name),
+          Get(object, &IGeoStorey::get_Level), Get(object, &IGeoStorey::get_Height)};
+}
+
+Element ReadColumn(const ComPtr<IGeoColumn>& object) { return ReadElement(object); }
+
 Beam ReadBeam(const ComPtr<IGeoBeam>& object) {
   Beam beam{ReadElement(object), {}};
   const auto boundary = Get(object, &IGeoBeam::get_BRep);
@@ -85,20 +103,6 @@ Foot ReadFoot(const ComPtr<IGeoFoot>& object) {
   Foot foot{ReadIdentity(object)};
   foot.points.push_back(ReadPoint(Query<IGeoPoint>(object)));
   return foot;
-}
-
-/// A size of a section: its name in the output, and the operation that returns it.
-template <class Interface>
-struct Size {
-  const char* name;
-  HRESULT (Interface::*getter)(double*);
-};
-
-template <class Interface>
-void ReadSizes(const ComPtr<IGeoSection>& object, std::initializer_list<Size<Interface>> sizes,
-               Section& section) {
-  const auto own = Query<Interface>(object);
-  for (const auto& [name, getter] : sizes) section.sizes.emplace_back(name, Get(own, getter));
 }
 
 Section ReadSection(const ComPtr<IGeoSection>& object) {
@@ -130,25 +134,35 @@ Section ReadSection(const ComPtr<IGeoSection>& object) {
   return section;
 }
 
-}  // namespace
-
-Structure ReadStructure(const ComPtr<IGeoStructure>& structure,
+void ConvertCollections(const ComPtr<IGeoStructure>& structure,
                         const KelIFC::ProgressHandler& progress) {
   constexpr std::uint64_t kCollections = 7;
   std::uint64_t done = 0;
   const auto reach = [&] {
     if (progress && !progress(done, kCollections)) throw KelIFC::ReadingCancelled();
   };
-  const auto read = [&](auto getter, auto readItem) {
-    auto all = ReadAll(Items(structure, getter), readItem);
-    ++done;
+  const auto convert = [&](auto getter) {
     reach();
-    return all;
+    Get(structure, getter);
+    ++done;
   };
+  convert(&IGeoStructure::get_Storeys);
+  convert(&IGeoStructure::get_Columns);
+  convert(&IGeoStructure::get_Beams);
+  convert(&IGeoStructure::get_Walls);
+  convert(&IGeoStructure::get_Plates);
+  convert(&IGeoStructure::get_Foots);
+  convert(&IGeoStructure::get_Sections);
   reach();
+}
+
+Structure ReadStructure(const ComPtr<IGeoStructure>& structure) {
+  const auto read = [&structure](auto getter, auto readItem) {
+    return ReadAll(Items(structure, getter), readItem);
+  };
   Structure all;
   all.storeys = read(&IGeoStructure::get_Storeys, ReadStorey);
-  all.columns = read(&IGeoStructure::get_Columns, ReadElement<IGeoColumn>);
+  all.columns = read(&IGeoStructure::get_Columns, ReadColumn);
   all.beams = read(&IGeoStructure::get_Beams, ReadBeam);
   all.walls = read(&IGeoStructure::get_Walls, ReadWall);
   all.plates = read(&IGeoStructure::get_Plates, ReadPlate);

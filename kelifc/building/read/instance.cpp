@@ -1,8 +1,10 @@
 #include "kelifc/building/read/instance.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "kelifc/core/other.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/utf8.h"
 
@@ -107,6 +109,8 @@ Model::Model(IfcServer& owner)
 
 std::string Model::Decode(std::string_view text) const {
   if (isUtf8) return ToUtf8(text);
+  const auto isAscii = [](char c) { return static_cast<unsigned char>(c) < 0x80; };
+  if (std::all_of(text.begin(), text.end(), isAscii)) return std::string(text);
   std::string decoded;
   decoded.reserve(text.size());
   for (const char c : text) AppendUtf8(decoded, static_cast<unsigned char>(c));
@@ -130,10 +134,22 @@ const InstanceClass& Model::ClassOf(const IfcUnknown& instance) const {
     recentClass = &found->second;
     return found->second;
   }
-  if (const auto* other = dynamic_cast<const IfcOther*>(&instance)) {
-    return rawClasses[static_cast<std::size_t>(FindEntityByName(other->GetStepEntityName()))];
+  if (const auto* other = CachedCast<IfcOther>(&instance)) {
+    return rawClasses[static_cast<std::size_t>(EntityOfRaw(other->GetStepEntityName()))];
   }
   return classes.insert_or_assign(name, Describe(instance, name)).first->second;
+}
+
+// A model has few names of raw text, so most of them are among those that were found last.
+Entity Model::EntityOfRaw(std::string_view name) const {
+  if (name.empty()) return FindEntityByName(name);
+  auto& [recentName, entity] =
+      recentRaw[(name.size() + 7U * static_cast<unsigned char>(name.back())) % recentRaw.size()];
+  if (recentName != name) {
+    entity = FindEntityByName(name);
+    recentName = name;
+  }
+  return entity;
 }
 
 InstanceClass Model::Describe(const IfcUnknown& instance, std::string_view name) const {

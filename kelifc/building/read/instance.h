@@ -129,6 +129,7 @@ class Model {
   const InstanceClass& ClassOf(const IfcUnknown& instance) const;
 
  private:
+  Entity EntityOfRaw(std::string_view name) const;
   InstanceClass Describe(const IfcUnknown& instance, std::string_view name) const;
 
   IfcServer& server;
@@ -141,6 +142,8 @@ class Model {
   // Those of `classes` that were found last, at a place that depends on the address.
   mutable std::array<std::pair<const char*, const InstanceClass*>, 256> recent = {};
   mutable std::array<InstanceClass, kEntityCount> rawClasses;
+  // The names of raw text that were found last, at a place that depends on the text.
+  mutable std::array<std::pair<std::string, Entity>, 64> recentRaw = {};
 };
 
 }  // namespace KelIFC::building

@@ -20,27 +20,30 @@ void VisitNumbers(const Value& value, Visit visit) {
 Relations::Relations(const Model& owner) {
   constexpr std::size_t kAhead = 12;  // instances are all over the memory
   const auto& items = owner.Server().GetItems();
-  for (std::size_t i = 0; i < items.size(); ++i) {
-    if (i + kAhead < items.size()) detail::Prefetch(items[i + kAhead]);
-    if (items[i] != nullptr) Take(Instance(owner, items[i]));
+  const auto& roots = owner.Server().GetRootPositions();
+  const auto numbers = owner.Server().GetNumbersByPosition();
+  for (std::size_t i = 0; i < roots.size(); ++i) {
+    if (i + kAhead < roots.size()) detail::Prefetch(items[roots[i + kAhead]]);
+    const IfcUnknown* const item = items[roots[i]];
+    const auto number = static_cast<std::size_t>(numbers[roots[i]]);
+    // Without a number, it was deleted, or another instance has taken the number.
+    if (item != nullptr && number != 0) Take(Instance(owner, item, number));
   }
 }
 
 void Relations::Take(const Instance& instance) {
   if (instance.Is(kIsRelationship)) {
-    if (instance.Number() != 0) TakeRelationship(instance);
+    TakeRelationship(instance);
     return;
   }
   const bool isStorey = instance.GetEntity() == Entity::kBuildingStorey;
   const bool isProject = instance.GetEntity() == Entity::kProject;
   if (!isStorey && !isProject && !instance.Is(kIsElement)) return;
-  const std::size_t number = instance.Number();
-  if (number == 0) return;  // another instance has taken the number
   if (isProject) {
     if (!project) project = instance;
     return;
   }
-  if (isListed.try_emplace(number, true).second)
+  if (isListed.try_emplace(instance.Number(), true).second)
     (isStorey ? storeys : elements).push_back(instance);
 }
 

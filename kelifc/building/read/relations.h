@@ -9,7 +9,8 @@
 
 namespace KelIFC::building {
 
-/// The elements of a model and how they are related, from one pass over all instances. Instances
+/// The elements of a model and how they are related, from one pass over them and the
+/// relationships. Instances
 /// are named by their numbers; 0 is none. Of several relationships that say different things of the
 /// same object, the first in the file counts.
 class Relations {

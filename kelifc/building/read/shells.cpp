@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
+#include "kelifc/building/facts/number_map.h"
 #include "kelifc/building/read/curves.h"
 #include "kelifc/building/read/placements.h"
 
@@ -44,8 +44,8 @@ class ShellReader {
   ReadContext& context;
   Mesh& mesh;
   Unreadable& why;
-  std::unordered_map<std::size_t, Mesh::Index> indices;  // of points, by number
-  std::size_t used = 0;                                  // points and indices
+  NumberMap<Mesh::Index> indices;  // of points, by number
+  std::size_t used = 0;            // points and indices
 };
 
 bool ShellReader::Read(const Instance& shell) {

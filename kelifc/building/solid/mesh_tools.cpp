@@ -221,20 +221,49 @@ std::optional<bool> IsBalancedByTable(const Mesh& mesh) {
   return open == 0;
 }
 
+/// A use of an edge: its two ends in one number, and 1 if it leads to the higher end, otherwise -1.
+struct DirectedUse {
+  std::uint64_t ends = 0;
+  std::int32_t direction = 0;
+};
+
+/// True if each edge is used as often in one direction as in the other. Sorts the uses.
+bool AreBalanced(DirectedUse* begin, DirectedUse* end) {
+  std::sort(begin, end, [](const DirectedUse& a, const DirectedUse& b) { return a.ends < b.ends; });
+  while (begin != end) {
+    const std::uint64_t ends = begin->ends;
+    std::int32_t balance = 0;
+    for (; begin != end && begin->ends == ends; ++begin) balance += begin->direction;
+    if (balance != 0) return false;
+  }
+  return true;
+}
+
 }  // namespace
 
 bool IsBalanced(const Mesh& mesh) {
   if (mesh.points.size() <= kFewPoints) {
     if (const std::optional<bool> isBalanced = IsBalancedByTable(mesh)) return *isBalanced;
   }
-  const std::vector<EdgeUse> edges = SortedEdgesOf(mesh);
-  for (std::size_t i = 0; i < edges.size();) {
-    long balance = 0;
-    const auto ends = EndsOf(edges[i]);
-    for (; i < edges.size() && EndsOf(edges[i]) == ends; ++i) {
-      balance += edges[i].from < edges[i].to ? 1 : -1;
-    }
-    if (balance != 0) return false;
+  const std::vector<EdgeUse> edges = EdgesOf(mesh);
+  // By the lower end first, without comparisons: few edges share it. The last group is that of the
+  // ends that are no points.
+  const std::size_t count = mesh.points.size();
+  const auto groupOf = [count](const EdgeUse& edge) {
+    return std::min<std::size_t>(EndsOf(edge).first, count);
+  };
+  std::vector<std::size_t> starts(count + 2, 0);
+  for (const EdgeUse& edge : edges) ++starts[groupOf(edge)];
+  std::partial_sum(starts.begin(), starts.end(), starts.begin());
+  std::vector<DirectedUse> uses(edges.size());
+  for (const EdgeUse& edge : edges) {
+    const auto [lower, upper] = EndsOf(edge);
+    const std::int32_t direction = edge.from < edge.to ? 1 : -1;
+    uses[--starts[groupOf(edge)]] = {std::uint64_t{lower} << 32 | upper, direction};
+  }
+  for (std::size_t group = 0; group <= count; ++group) {
+    DirectedUse* const first = uses.data() + starts[group];
+    if (!AreBalanced(first, uses.data() + starts[group + 1])) return false;
   }
   return true;
 }

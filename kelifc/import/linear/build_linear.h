@@ -10,6 +10,12 @@
 
 namespace KelIFC {
 
+/// Whether an element of this class keeps the boundary of a faceted solid.
+template <class Element>
+inline constexpr bool kHasBoundary = requires(Element& element) {
+  element.boundary;
+};
+
 /// Makes the elements of linear products. `Maker` is an ElementMaker of columns or beams that was
 /// opened; it must outlive the builder.
 template <class Maker>
@@ -18,22 +24,23 @@ class LinearBuilder {
   explicit LinearBuilder(Maker& maker) : maker(maker) {}
 
   /// Makes one element for each item of the product, in the order of the items. An item is skipped
-  /// if its shape is not supported or its element cannot be created. The boundary of an item that
-  /// is not shared is moved into the element.
+  /// if its shape is not supported or its element cannot be created.
   void Convert(const LinearFacts& facts) {
     for (const LinearPartFacts& part : facts.parts) ConvertRepresentation(facts, part);
   }
 
  private:
   void ConvertRepresentation(const LinearFacts& facts, const LinearPartFacts& part) {
-    for (LinearItemFacts& item : part.representation->items) {
+    for (const LinearItemFacts& item : part.representation->items) {
       typename Maker::Made* element = nullptr;
       if (FAILED(maker.Make(facts.identity, &element, NameSuffix(part, item)))) continue;
       LinearShape shape;
       if (ConvertItem(item, part.isShared, part.outer, facts.chain, maker.Structure(), *element,
                       shape)) {
         element->points = std::move(shape.points);
-        element->boundary = std::move(shape.boundary);
+        if constexpr (kHasBoundary<typename Maker::Made>) {
+          element->boundary = std::move(shape.boundary);
+        }
       } else {
         maker.TakeBack();
       }

@@ -1,7 +1,6 @@
 #include "kelifc/import/linear/convert_item.h"
 
 #include <cmath>
-#include <utility>
 
 #include "kelifc/geometry/constants.h"
 #include "kelifc/geometry/regular_figure.h"
@@ -73,6 +72,16 @@ bool ConvertExtrusion(const ExtrusionFacts& solid, const Isometry3& outer,
   return true;
 }
 
+PlacedBoundary Place(const std::shared_ptr<const BRep>& shape, bool isShared,
+                     const Isometry3& outer, const PlacementChain& chain) {
+  PlacedBoundary placed;
+  placed.shape = shape;
+  placed.transforms.reserve(chain.size() + 1);
+  if (isShared) placed.transforms.push_back(outer);
+  placed.transforms.insert(placed.transforms.end(), chain.begin(), chain.end());
+  return placed;
+}
+
 }  // namespace
 
 Vector2 SectionSize(const ProfileFacts& rectangle) {
@@ -83,7 +92,7 @@ Vector2 SectionSize(const ProfileFacts& rectangle) {
                    : Vector2(rectangle.yDim, rectangle.xDim);
 }
 
-bool ConvertItem(LinearItemFacts& item, bool isShared, const Isometry3& outer,
+bool ConvertItem(const LinearItemFacts& item, bool isShared, const Isometry3& outer,
                  const PlacementChain& chain, CoGeoStructure& structure, CoGeoObject& element,
                  LinearShape& shape) {
   if (item.isExtrusion) {
@@ -91,13 +100,7 @@ bool ConvertItem(LinearItemFacts& item, bool isShared, const Isometry3& outer,
   }
   if (!item.hasShell) return true;
   shape.points.resize(2);
-  if (isShared) {
-    shape.boundary = item.boundary;
-    shape.boundary <<= outer;
-  } else {
-    shape.boundary = std::move(item.boundary);
-  }
-  ApplyPlacementChain(chain, shape.boundary);
+  if (item.boundary != nullptr) shape.boundary = Place(item.boundary, isShared, outer, chain);
   return true;
 }
 

@@ -14,16 +14,17 @@ struct LinearShape {
   /// and a faceted solid without a shell have no points.
   Mvector<Point3> points;
 
-  BRep boundary;  ///< of a faceted solid; empty for an extrusion and without a shell
+  /// Of a faceted solid. It has no shape for an extrusion, without a shell, and if it was not read.
+  PlacedBoundary boundary;
 };
 
 /// Computes the shape of an item and sets the section of the element. Returns false if the profile
 /// of the item is not supported, or if the section cannot be created.
 ///
 /// `outer` is the transform of the representation map that the item comes from. It is applied to
-/// the axis of an extrusion before the position of the solid is. If the item is not shared with
-/// other products, its boundary is moved into `shape`.
-bool ConvertItem(LinearItemFacts& item, bool isShared, const Isometry3& outer,
+/// the axis of an extrusion before the position of the solid is. `isShared` says whether there is
+/// such a map.
+bool ConvertItem(const LinearItemFacts& item, bool isShared, const Isometry3& outer,
                  const PlacementChain& chain, CoGeoStructure& structure, CoGeoObject& element,
                  LinearShape& shape);
 

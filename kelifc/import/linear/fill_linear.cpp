@@ -18,7 +18,8 @@ HRESULT ConvertLinear(Collection& collection, CoIFCServer& server,
   ElementMaker<Element, Collection> maker(collection, server);
   const HRESULT status = maker.Open();
   if (FAILED(status)) return status;
-  LinearReader<Release> reader(server.Model(), server.GetLengthScale());
+  LinearReader<Release> reader(server.Model(), server.GetLengthScale(),
+                               kHasBoundary<Element> ? Boundaries::kRead : Boundaries::kLeftOut);
   LinearBuilder builder(maker);
   for (const Product* product : products) builder.Convert(reader.Read(*product));
   return S_OK;

@@ -5,8 +5,8 @@
 #include <memory>
 #include <vector>
 
-#include "kelifc/geometry/brep.h"
 #include "kelifc/geometry/isometry3.h"
+#include "kelifc/geometry/placed_boundary.h"
 #include "kelifc/import/model/identity.h"
 #include "kelifc/import/shape/extrusion_facts.h"
 #include "kelifc/import/shape/placement_chain.h"
@@ -23,7 +23,10 @@ struct LinearItemFacts {
   bool isExtrusion = false;
   ExtrusionFacts extrusion;  ///< set only if isExtrusion
   bool hasShell = false;     ///< true if the outer shell of a faceted solid is found
-  BRep boundary;             ///< of a faceted solid, in metres; empty if isExtrusion
+
+  /// Of a faceted solid with a shell, in metres; null otherwise, and if the reader leaves
+  /// boundaries out.
+  std::shared_ptr<const BRep> boundary;
 };
 
 /// A representation and those of its items that can be converted.
@@ -35,7 +38,7 @@ struct RepresentationFacts {
 /// A representation as one product uses it.
 struct LinearPartFacts {
   /// Not null. Several products share the object if they use the same mapped representation.
-  std::shared_ptr<RepresentationFacts> representation;
+  std::shared_ptr<const RepresentationFacts> representation;
 
   bool isShared = false;  ///< it is a mapped representation, whether or not others use it
 

@@ -128,7 +128,9 @@ bool LinearReader<Release>::ReadItem(const IfcRepresentationItem* item, LinearIt
   if (const auto* brep = CachedCast<typename Release::IfcFacetedBrep>(item)) {
     const auto* outer = brep->GetOuter();
     facts.hasShell = outer != nullptr;
-    if (outer != nullptr) CaptureShell<Release>(*outer, facts.boundary, scale);
+    if (facts.hasShell && boundaries == Boundaries::kRead) {
+      facts.boundary = std::make_shared<const BRep>(CaptureShell<Release>(*outer, scale));
+    }
     return true;
   }
   const auto* solid = CachedCast<Extrusion>(item);

@@ -12,6 +12,9 @@
 
 namespace KelIFC {
 
+/// Whether the boundaries of faceted solids are read.
+enum class Boundaries { kRead, kLeftOut };
+
 /// Reads linear products. Placements, mapped representations and clippings that several products
 /// share are read once and kept, so the model must not change during the reader's life. The server
 /// must outlive the reader.
@@ -22,8 +25,8 @@ class LinearReader {
   using IfcRepresentation = typename Release::IfcRepresentation;
 
   /// `scale` is the factor from the length unit of the file to metres.
-  LinearReader(const IfcServer& server, double scale)
-      : server(server), scale(scale), placements(scale) {}
+  LinearReader(const IfcServer& server, double scale, Boundaries boundaries)
+      : server(server), scale(scale), boundaries(boundaries), placements(scale) {}
 
   /// Reads one product. Of its representations it takes one: the first that contains an extrusion,
   /// otherwise the first with a faceted solid, a mapped item, a clipping or a surface model, in
@@ -33,7 +36,7 @@ class LinearReader {
  private:
   using Extrusion = typename Release::IfcExtrudedAreaSolid;
   using Clipping = typename Release::IfcBooleanClippingResult;
-  using Shared = std::shared_ptr<RepresentationFacts>;
+  using Shared = std::shared_ptr<const RepresentationFacts>;
 
   std::vector<LinearPartFacts> ReadMapped(const IfcRepresentation& chosen);
   Shared SharedRepresentation(const IfcRepresentation* representation);
@@ -43,6 +46,7 @@ class LinearReader {
 
   const IfcServer& server;
   double scale;
+  Boundaries boundaries;
   PlacementReader<Release> placements;
   std::unordered_map<const IfcRepresentation*, Shared> mapped;
   std::unordered_map<const Clipping*, const Extrusion*> unclipped;

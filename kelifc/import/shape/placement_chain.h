@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <vector>
 
-#include "kelifc/geometry/brep.h"
 #include "kelifc/geometry/isometry3.h"
 #include "kelifc/geometry/point.h"
 
@@ -21,7 +20,6 @@ using PlacementChain = std::vector<Isometry3>;
 void ApplyPlacementChain(const PlacementChain& chain, Point3& target);
 void ApplyPlacementChain(const PlacementChain& chain, Vector3& target);
 void ApplyPlacementChain(const PlacementChain& chain, Mvector<Point3>& target);
-void ApplyPlacementChain(const PlacementChain& chain, BRep& target);
 
 }  // namespace KelIFC
 

@@ -52,8 +52,8 @@ void CaptureFace(const typename Release::IfcFace& face, bool isTurnedOver, doubl
 }  // namespace
 
 template <class Release>
-void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boundary,
-                  double scale) {
+BRep CaptureShell(const typename Release::IfcConnectedFaceSet& shell, double scale) {
+  BRep boundary;
   const auto faces = shell.GetCfsFaces();
   BoundaryBuilder builder(boundary, faces.GetSize());
   Mvector<Point3> points;
@@ -64,10 +64,11 @@ void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boun
     const bool isOnSurface = CachedCast<typename Release::IfcFaceSurface>(faces[i]) != nullptr;
     if (isOnSurface) CaptureFace<Release>(*faces[i], true, scale, points, builder);
   }
+  return boundary;
 }
 
-template void CaptureShell<Release2x>(const Release2x::IfcConnectedFaceSet&, BRep&, double);
-template void CaptureShell<Release2x2>(const Release2x2::IfcConnectedFaceSet&, BRep&, double);
-template void CaptureShell<Release2x3>(const Release2x3::IfcConnectedFaceSet&, BRep&, double);
+template BRep CaptureShell<Release2x>(const Release2x::IfcConnectedFaceSet&, double);
+template BRep CaptureShell<Release2x2>(const Release2x2::IfcConnectedFaceSet&, double);
+template BRep CaptureShell<Release2x3>(const Release2x3::IfcConnectedFaceSet&, double);
 
 }  // namespace KelIFC

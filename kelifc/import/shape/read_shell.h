@@ -5,11 +5,11 @@
 
 namespace KelIFC {
 
-/// Appends the faces of a shell to a boundary, in metres and in the coordinates of the solid. An
-/// IfcFaceSurface is appended twice, the second time turned over. `scale` is the factor from the
+/// Returns the faces of a shell as a boundary, in metres and in the coordinates of the solid. An
+/// IfcFaceSurface is added twice, the second time turned over. `scale` is the factor from the
 /// length unit of the file to metres.
 template <class Release>
-void CaptureShell(const typename Release::IfcConnectedFaceSet& shell, BRep& boundary, double scale);
+BRep CaptureShell(const typename Release::IfcConnectedFaceSet& shell, double scale);
 
 }  // namespace KelIFC
 

@@ -2,6 +2,7 @@
 #define KELIFC_IMPORT_SHAPE_READ_VALUES_H_
 
 #include "kelifc/core/cartesian_point.h"
+#include "kelifc/geometry/constants.h"
 #include "kelifc/geometry/isometry3.h"
 #include "kelifc/geometry/point.h"
 
@@ -43,21 +44,26 @@ void ReadVector2(const IfcVector* vector, double scale, Vector2& target) {
   target = target * vector->GetMagnitude() * scale;
 }
 
-/// Reads a placement in space as a transform and returns `frame`. The z axis is the cross product
-/// of the x and y axes. If these are parallel or zero, the transform is a mere translation. Leaves
-/// `frame` unchanged if the placement, its location or an axis is null.
+/// Reads a placement in space as a transform and returns `frame`. The axes are those of GetP of the
+/// placement: those of the world unless Axis and RefDirection are both set. If two axes are
+/// parallel or zero, the transform is a mere translation. Leaves `frame` unchanged if the placement
+/// or its location is null.
 template <class IfcAxis2Placement3D>
 Isometry3& ReadPlacement(const IfcAxis2Placement3D* placement, double scale, Isometry3& frame) {
   const IfcCartesianPoint* location = placement == nullptr ? nullptr : placement->GetLocation();
   if (location == nullptr) return frame;
-  const auto axes = placement->GetP();
-  if (axes[1] == nullptr || axes[2] == nullptr) return frame;
+  const auto* refDirection = placement->GetRefDirection();
+  const auto* axis = placement->GetAxis();
   Point3 origin;
-  Vector3 x;
-  Vector3 y;
   ReadPoint3(location, scale, origin);
-  ReadDirection3(axes[1], x);
-  ReadDirection3(axes[2], y);
+  Vector3 x = AxisX;
+  Vector3 y = AxisY;
+  if (refDirection != nullptr && axis != nullptr) {
+    Vector3 z;
+    ReadDirection3(refDirection, x);
+    ReadDirection3(axis, z);
+    y = Cross(z, x);
+  }
   frame.Set(origin, origin + x, origin + y);
   return frame;
 }

@@ -61,6 +61,16 @@ class NumberIndex {
   /// the loop.
   std::uint64_t GetNext(std::uint64_t number) const;
 
+  /// Calls visit(number, position) for all numbers in rising order. The map must not change during
+  /// the call.
+  template <class Visit>
+  void ForEach(Visit&& visit) const {
+    for (std::size_t number = 1; number < dense.size(); ++number) {
+      if (dense[number] != kNone) visit(std::uint64_t{number}, dense[number]);
+    }
+    for (const auto& [number, position] : outliers) visit(number, position);
+  }
+
   /// Returns the lowest number above 0 that is not in the map. It remembers the range without a
   /// gap, so that repeated use stays linear.
   std::uint64_t GetLowestFree();

@@ -7,20 +7,23 @@
 
 namespace KelIFC::detail {
 
-void ProductNumbers::Build(IfcUnknown* const* slots, std::size_t count,
-                           const std::vector<std::uint32_t>& positions,
-                           const NumberIndex& numbers) {
-  std::vector<bool> isProduct(count);
-  for (const std::uint32_t position : positions) isProduct[position] = true;
+void ProductNumbers::Build(IfcUnknown* const* slots, const std::vector<std::uint32_t>& positions,
+                           const std::vector<std::uint64_t>& ids, const NumberIndex& numbers) {
   std::vector<Row> made;
   made.reserve(positions.size());
-  for (std::uint64_t number = numbers.GetNext(0); number != 0; number = numbers.GetNext(number)) {
-    const std::uint32_t position = numbers.Find(number);
-    if (isProduct[position] && slots[position] != nullptr)
-      made.push_back({slots[position], number});
+  for (std::size_t i = 0; i < positions.size(); ++i) {
+    IfcUnknown* const product = slots[positions[i]];
+    if (product != nullptr && numbers.Find(ids[i]) == positions[i]) {
+      made.push_back({product, ids[i]});
+    }
   }
-  std::sort(made.begin(), made.end(),
-            [](const Row& a, const Row& b) { return std::less<>()(a.product, b.product); });
+  const auto isLower = [](const Row& a, const Row& b) {
+    return std::less<>()(a.product, b.product);
+  };
+  // A load allocates most instances at rising addresses.
+  if (!std::is_sorted(made.begin(), made.end(), isLower)) {
+    std::sort(made.begin(), made.end(), isLower);
+  }
   rows.swap(made);
   state = State::kBuilt;
 }

@@ -24,10 +24,11 @@ class ProductNumbers {
   /// True if Build makes sense: the table was never built.
   bool IsNew() const { return state == State::kNew; }
 
-  /// Builds the table of a registry with `count` slots. `positions` are the slots of products. No
-  /// instance may be in two slots.
-  void Build(IfcUnknown* const* slots, std::size_t count,
-             const std::vector<std::uint32_t>& positions, const NumberIndex& numbers);
+  /// Builds the table of a registry. `positions` are the slots of products, and `ids` the numbers
+  /// with which these were registered. `numbers` says which of these are still in use. No instance
+  /// may be in two slots.
+  void Build(IfcUnknown* const* slots, const std::vector<std::uint32_t>& positions,
+             const std::vector<std::uint64_t>& ids, const NumberIndex& numbers);
 
   /// Returns the number of an instance. Returns 0 if it is not in the table: then it can still have
   /// a number. The pointer is compared only and can be dangling.

@@ -41,10 +41,10 @@ class Beams : public ConversionTest<Release> {
   }
 
   /// Returns the boundary of the only beam; the fixture keeps the beam alive.
-  const BRep& Boundary() {
+  BRep Boundary() {
     beams = this->GetBeams();
     EXPECT_THAT(beams, SizeIs(1));
-    return static_cast<CoGeoBeam&>(*beams.at(0)).boundary;
+    return static_cast<CoGeoBeam&>(*beams.at(0)).boundary.ToWorld();
   }
 
   static std::vector<Coordinates> PositionsOf(const BRep& boundary) {
@@ -103,7 +103,7 @@ TYPED_TEST(Beams, OfAFacetedSolidHaveABoundaryInTheWorldAndAnAxisAtItsOrigin) {
   const auto solid = this->Faceted({this->Face({this->Outer(this->Square(0))})});
   m.Beam(m.Local(m.Turned({10, 0, 0}, {0, 1, 0})), m.Body({solid}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   EXPECT_THAT(this->PositionsOf(boundary),
               ElementsAre(IsAt(10, 0, 0), IsAt(10, 1, 0), IsAt(9, 1, 0), IsAt(9, 0, 0)));
   EXPECT_THAT(this->NormalOf(boundary, 0), IsAt(0, 0, 1));
@@ -127,14 +127,12 @@ TYPED_TEST(Beams, OfAFacetedSolidWithoutAShellHaveNeitherAxisNorBoundary) {
   EXPECT_THAT(this->beams, SizeIs(6));
   for (const auto& beam : this->beams) {
     EXPECT_THAT(PointsOf(*beam), IsEmpty());
-    EXPECT_TRUE(static_cast<CoGeoBeam&>(*beam).boundary.vertices.empty());
-    EXPECT_TRUE(static_cast<CoGeoBeam&>(*beam).boundary.faces.empty());
+    EXPECT_EQ(static_cast<CoGeoBeam&>(*beam).boundary.shape, nullptr);
   }
   const auto columns = this->GetColumns();
   EXPECT_THAT(columns, SizeIs(3));
   for (const auto& column : columns) {
     EXPECT_THAT(PointsOf(*column), IsEmpty());
-    EXPECT_TRUE(static_cast<CoGeoColumn&>(*column).boundary.vertices.empty());
   }
 }
 
@@ -172,7 +170,7 @@ TYPED_TEST(Beams, HaveTwentyFourVerticesForACube) {
        this->Face({this->Outer(this->Loop({{0, 1, 0}, {0, 0, 0}, {0, 0, 1}, {0, 1, 1}}))})});
   m.Beam("$", m.Body({cube}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   EXPECT_EQ(boundary.vertices.size(), 24u);
   EXPECT_EQ(boundary.faces.size(), 6u);
   EXPECT_THAT(this->NormalOf(boundary, 0), IsAt(0, 0, -1));
@@ -186,7 +184,7 @@ TYPED_TEST(Beams, KeepInnerLoopsApart) {
   const auto face = this->Face({this->Inner(hole), this->Outer(this->Square(0))});
   m.Beam("$", m.Body({this->Faceted({face})}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   ASSERT_EQ(boundary.faces.size(), 1u);
   EXPECT_EQ(boundary.vertices.size(), 8u);
   EXPECT_THAT(this->Loop(boundary.faces[0].outerLoop), ElementsAre(4, 5, 6, 7));
@@ -199,7 +197,7 @@ TYPED_TEST(Beams, DoNotTurnAnInnerBoundIntoAnOuterOne) {
   auto& m = this->model;
   m.Beam("$", m.Body({this->Faceted({this->Face({this->Inner(this->Square(0))})})}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   ASSERT_EQ(boundary.faces.size(), 1u);
   EXPECT_TRUE(boundary.faces[0].outerLoop.empty());
   EXPECT_EQ(boundary.faces[0].innerLoops.size(), 1u);
@@ -210,7 +208,7 @@ TYPED_TEST(Beams, TakeTheLastOfSeveralOuterBounds) {
   const auto face = this->Face({this->Outer(this->Square(0)), this->Outer(this->Square(1))});
   m.Beam("$", m.Body({this->Faceted({face})}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   ASSERT_EQ(boundary.faces.size(), 1u);
   EXPECT_THAT(this->Loop(boundary.faces[0].outerLoop), ElementsAre(4, 5, 6, 7));
   EXPECT_TRUE(boundary.faces[0].innerLoops.empty());
@@ -221,7 +219,7 @@ TYPED_TEST(Beams, TurnReversedBoundsByTheirIndices) {
   const auto face = this->Face({this->Outer(this->Square(0), ".F.")});
   m.Beam("$", m.Body({this->Faceted({face})}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   ASSERT_EQ(boundary.faces.size(), 1u);
   EXPECT_THAT(this->PositionsOf(boundary),
               ElementsAre(IsAt(0, 0, 0), IsAt(1, 0, 0), IsAt(1, 1, 0), IsAt(0, 1, 0)));
@@ -236,7 +234,7 @@ TYPED_TEST(Beams, HaveTwoFacesForAFaceOnASurface) {
       m.Add("IFCFACESURFACE((" + this->Outer(this->Square(0)) + ")," + plane + ",.F.)");
   m.Beam("$", m.Body({this->Faceted({face})}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   ASSERT_EQ(boundary.faces.size(), 2u);
   EXPECT_THAT(this->Loop(boundary.faces[1].outerLoop), ElementsAre(4, 5, 6, 7));
   EXPECT_THAT(this->NormalOf(boundary, 0), IsAt(0, 0, 1));
@@ -250,7 +248,7 @@ TYPED_TEST(Beams, HaveNoNormalForALoopOnALine) {
   const auto line = this->Loop({{0, 0, 0}, {1, 1, 1}, {2, 2, 2}});
   m.Beam("$", m.Body({this->Faceted({this->Face({this->Outer(line)})})}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   ASSERT_EQ(boundary.vertices.size(), 3u);
   for (std::size_t i = 0; i < 3; ++i) EXPECT_THAT(this->NormalOf(boundary, i), IsAt(0, 0, 0));
 }
@@ -261,7 +259,7 @@ TYPED_TEST(Beams, HaveNoFaceForAFaceWithoutLoops) {
   const auto solid = this->Faceted({this->Face({}), this->Face({this->Outer("$")}), "$", good});
   m.Beam("$", m.Body({solid}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   EXPECT_EQ(boundary.faces.size(), 1u);
   EXPECT_EQ(boundary.vertices.size(), 4u);
 }
@@ -270,7 +268,7 @@ TYPED_TEST(Beams, HaveAnEmptyBoundaryForASolidWithoutShell) {
   auto& m = this->model;
   m.Beam("$", m.Body({m.Add("IFCFACETEDBREP($)")}));
   this->Convert();
-  const BRep& boundary = this->Boundary();
+  const BRep boundary = this->Boundary();
   EXPECT_TRUE(boundary.vertices.empty());
   EXPECT_TRUE(boundary.faces.empty());
 }

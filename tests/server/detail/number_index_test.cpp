@@ -4,6 +4,8 @@
 
 #include <map>
 #include <random>
+#include <utility>
+#include <vector>
 
 namespace KelIFC::detail {
 namespace {
@@ -54,6 +56,20 @@ TEST(NumberIndex, VisitsAnyNumbersInAscendingOrder) {
   EXPECT_EQ(index.GetHighest(), kMinusOne);
   EXPECT_EQ(index.GetHighestBelow(kMinusOne), 2147483647u);
   EXPECT_EQ(index.GetHighestBelow(9), 5u);
+}
+
+TEST(NumberIndex, VisitsAllNumbersWithTheirPositions) {
+  NumberIndex index;
+  index.Set(kMinusOne, 4);
+  index.Set(5, 1);
+  index.Set(3, 2);
+  std::vector<std::pair<std::uint64_t, std::uint32_t>> visited;
+  index.ForEach([&](std::uint64_t number, std::uint32_t position) {
+    visited.emplace_back(number, position);
+  });
+  const std::vector<std::pair<std::uint64_t, std::uint32_t>> expected = {
+      {3, 2}, {5, 1}, {kMinusOne, 4}};
+  EXPECT_EQ(visited, expected);
 }
 
 TEST(NumberIndex, KeepsOutliersWhenTheArrayGrowsPastThem) {

@@ -18,14 +18,17 @@ class ProductNumbersTest : public testing::Test {
     for (std::size_t i = 0; i < points.size(); ++i) {
       slots.push_back(&points[points.size() - 1 - i]);
       numbers.Set(10 * (i + 1), static_cast<std::uint32_t>(i));
-      if (i % 2 == 0) products.push_back(static_cast<std::uint32_t>(i));
+      if (i % 2 != 0) continue;
+      products.push_back(static_cast<std::uint32_t>(i));
+      ids.push_back(10 * (i + 1));
     }
   }
-  void Build() { table.Build(slots.data(), slots.size(), products, numbers); }
+  void Build() { table.Build(slots.data(), products, ids, numbers); }
 
   std::vector<IfcCartesianPoint> points = std::vector<IfcCartesianPoint>(100);
   std::vector<IfcUnknown*> slots;
   std::vector<std::uint32_t> products;
+  std::vector<std::uint64_t> ids;
   NumberIndex numbers;
   ProductNumbers table;
 };
