@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "kelifc/core/unknown.h"
+#include "kelifc/server/release_tables.h"
 #include "kelifc/server/report_collector.h"
 #include "kelifc/server/statement_place.h"
 

@@ -16,11 +16,7 @@ void ConvertCollections(const KelIFC::ComPtr<IGeoStructure>& structure,
 /// Reads the whole structure through its interfaces. The order of the calls fixes the order of the
 /// sections: storeys, columns, beams, walls, plates, foots, and the sections last. `release` stays
 /// empty, because no interface reports it. Throws KelIFC::StatusError if an operation fails.
-///
-/// `progress` receives the collections that are read and their number. If it returns false,
-/// KelIFC::ReadingCancelled is thrown.
-Structure ReadStructure(const KelIFC::ComPtr<IGeoStructure>& structure,
-                        const KelIFC::ProgressHandler& progress = {});
+Structure ReadStructure(const KelIFC::ComPtr<IGeoStructure>& structure);
 
 // These functions read one item of a collection. They throw KelIFC::StatusError, too.
 
