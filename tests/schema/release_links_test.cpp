@@ -1,3 +1,4 @@
+#include "kelifc/core/other.h"
 #include "kelifc/server/release_tables.h"
 
 #include "tests/schema/model.h"
