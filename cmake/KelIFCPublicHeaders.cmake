@@ -17,6 +17,7 @@ set(kelifc_public_headers
   kelifc/core/binary.h
   kelifc/core/boolean.h
   kelifc/core/bounding_box.h
+  kelifc/core/cached_instance.h
   kelifc/core/cartesian_point.h
   kelifc/core/coordinates.h
   kelifc/core/detail/block_memory.h
@@ -31,6 +32,7 @@ set(kelifc_public_headers
   kelifc/core/global_id.h
   kelifc/core/integer.h
   kelifc/core/invalid_parameter.h
+  kelifc/core/inverse_set.h
   kelifc/core/length_measure.h
   kelifc/core/list_of_members.h
   kelifc/core/logical.h
@@ -45,6 +47,7 @@ set(kelifc_public_headers
   kelifc/core/statement_view.h
   kelifc/core/step_file_schema.h
   kelifc/core/string.h
+  kelifc/core/text_attribute.h
   kelifc/core/trimming_preference.h
   kelifc/core/unit_assignment.h
   kelifc/core/unknown.h

@@ -87,7 +87,8 @@ file(WRITE "${WORK_DIR}/asking/CMakeLists.txt" "cmake_minimum_required(VERSION 3
 project(asking LANGUAGES CXX)
 add_subdirectory([[${SOURCE_DIR}]] kelifc)
 ")
-configure(packed "${WORK_DIR}/asking" -DKELIFC_BUILD_COMMAND=ON -DKELIFC_BUILD_ARCHIVE=${ARCHIVE})
+configure(packed "${WORK_DIR}/asking" -DKELIFC_BUILD_COMMAND=ON -DKELIFC_BUILD_ARCHIVE=${ARCHIVE}
+  -DKELIFC_QUICK_BUILD=OFF)  # so that the rules name the sources
 expect_targets(packed YES kelifc_command)
 expect_expansion(packed ${ARCHIVE})
 configure(ignored "${WORK_DIR}/asking" -DKELIFC_BUILD_ARCHIVE=ON)
