@@ -16,6 +16,8 @@ namespace detail {
 struct InstanceNumber {
   std::size_t value = 0;
   bool operator==(const InstanceNumber& other) const { return value == other.value; }
+  /// Writes the number as a reference.
+  std::ostream& Write(std::ostream& out) const { return MEMBER(value).Write(out); }
 };
 inline std::size_t ElementKey(InstanceNumber number) { return number.value; }
 
