@@ -19,6 +19,7 @@ std::uint64_t Mix(std::uint64_t value) {
 }  // namespace
 
 void ContentHash::Add(const char* data, std::size_t count) {
+  if (count == 0) return;  // `data` can be null then
   const char* const end = data + count;
   const std::size_t held = length % kStripe;
   length += count;

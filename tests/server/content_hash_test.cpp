@@ -32,6 +32,13 @@ TEST(ContentHash, DoesNotDependOnHowTheBytesAreDivided) {
   }
 }
 
+TEST(ContentHash, IgnoresAnEmptyPieceWithoutMemory) {
+  ContentHash hash;
+  hash.Add("abc", 3);
+  hash.Add(nullptr, 0);
+  EXPECT_EQ(hash.GetValue(), HashOf("abc", 3));
+}
+
 TEST(ContentHash, ChangesWithEachByte) {
   const std::string text = MakeText(100);
   std::set<std::uint64_t> values = {HashOf(text, 100)};
