@@ -1,5 +1,7 @@
 #include "kelifc/core/value_member.h"
 
+#include <memory>
+
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/references/model.h"
 #include "kelifc/core/value.h"
@@ -10,13 +12,11 @@ const char* ParseValueMember(IfcServer* server, const char* text, MEMBER& target
   target.Parse(nullptr);
   if (text == nullptr) return nullptr;
   const char* behindName = nullptr;
-  IfcUnknown* instance = ParseInstance(server, text, &behindName);
-  auto* value = dynamic_cast<IfcValue*>(instance);
-  if (value == nullptr) {
-    delete instance;
-    return text;
-  }
+  std::unique_ptr<IfcUnknown> made(ParseInstance(server, text, &behindName));
+  auto* value = dynamic_cast<IfcValue*>(made.get());
+  if (value == nullptr) return text;
   target = value;
+  static_cast<void>(made.release());
   return value->ParseBody(behindName);
 }
 
