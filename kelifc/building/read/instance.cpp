@@ -143,8 +143,8 @@ const InstanceClass& Model::ClassOf(const IfcUnknown& instance) const {
 // A model has few names of raw text, so most of them are among those that were found last.
 Entity Model::EntityOfRaw(std::string_view name) const {
   if (name.empty()) return FindEntityByName(name);
-  auto& [recentName, entity] =
-      recentRaw[(name.size() + 7U * static_cast<unsigned char>(name.back())) % recentRaw.size()];
+  const std::size_t key = name.size() + std::size_t{7} * static_cast<unsigned char>(name.back());
+  auto& [recentName, entity] = recentRaw[key % recentRaw.size()];
   if (recentName != name) {
     entity = FindEntityByName(name);
     recentName = name;
