@@ -70,7 +70,8 @@ For Each element In complete.Elements
     Expect "axis", element.Axis.Count >= 2, True
     Expect "profile", element.Profile.Outline.Count >= 3, True
     Expect "height or diameter", element.Profile.Parameter("h") + element.Profile.Parameter("d") > 0, True
-    Expect "no end profile", element.EndProfile Is Nothing, True
+    ' Of the members of the examples, only one is tapered.
+    Expect "no end profile", element.EndProfile Is Nothing, element.Name <> "Pedestal"
   ElseIf element.Kind = "surface" Then
     Expect "thickness", element.Thickness > 0, True
     Expect "no profile", element.Profile Is Nothing, True
