@@ -5,7 +5,7 @@
 
 The project and all that it refers to (units, contexts) are written once. All other statements are
 written once for each copy, with other instance numbers and other global identifiers. The same
-arguments always give the same file. Copies stand at the same place, one inside the other.
+arguments always make the same file. All copies have the same coordinates, so they overlap.
 """
 
 import argparse

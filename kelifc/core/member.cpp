@@ -132,7 +132,8 @@ void MEMBER::MakeFarOwner(IfcUnknown* holder) { SetState({holder, nullptr, 0, fa
 // Replaces the number. Does not destroy the old inline value.
 void MEMBER::SetNumber(std::size_t number) { SetState({GetOwner(), nullptr, number, true}); }
 
-// Gives the inline value away. Needs no memory: without the value, the state fits where it was.
+// Removes the inline value without destroying it. This needs no memory: without the value, the
+// state fits into the same word or box.
 void MEMBER::DropValue() const noexcept {
   State rest = GetState();
   rest.value = nullptr;

@@ -1,8 +1,8 @@
 #include "kelifc/kelifc.h"
 
 #include "tools/kelifc/json_writer.h"
+#include "tools/kelifc/structure_collections.h"
 #include "tools/kelifc/structure_format.h"
-#include "tools/kelifc/structure_reader.h"
 
 namespace command {
 namespace {
@@ -125,13 +125,9 @@ std::string StructureJson(const std::string& file, const Structure& structure) {
   Output output(text);
   JsonWriter json(output);
   BeginStructure(json, file, structure.release);
-  WriteList(json, "storeys", structure.storeys);
-  WriteList(json, "columns", structure.columns);
-  WriteList(json, "beams", structure.beams);
-  WriteList(json, "walls", structure.walls);
-  WriteList(json, "plates", structure.plates);
-  WriteList(json, "foots", structure.foots);
-  WriteList(json, "sections", structure.sections);
+  VisitCollections([&](const char* key, auto&& /*getter*/, auto&& /*read*/, auto list) {
+    WriteList(json, key, structure.*list);
+  });
   json.EndObject();
   output.Close();
   return text;
@@ -141,16 +137,9 @@ void WriteStructureJson(Output& output, const std::string& file, const std::stri
                         const KelIFC::ComPtr<IGeoStructure>& structure) {
   JsonWriter json(output);
   BeginStructure(json, file, release);
-  const auto write = [&](const char* key, auto getter, auto read) {
+  VisitCollections([&](const char* key, auto getter, auto read, auto&& /*list*/) {
     WriteListOf(json, key, KelIFC::Items(structure, getter), read);
-  };
-  write("storeys", &IGeoStructure::get_Storeys, ReadStorey);
-  write("columns", &IGeoStructure::get_Columns, ReadColumn);
-  write("beams", &IGeoStructure::get_Beams, ReadBeam);
-  write("walls", &IGeoStructure::get_Walls, ReadWall);
-  write("plates", &IGeoStructure::get_Plates, ReadPlate);
-  write("foots", &IGeoStructure::get_Foots, ReadFoot);
-  write("sections", &IGeoStructure::get_Sections, ReadSection);
+  });
   json.EndObject();
 }
 

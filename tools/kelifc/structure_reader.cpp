@@ -6,6 +6,8 @@
 
 #include "kelifc/kelifc.h"
 
+#include "tools/kelifc/structure_collections.h"
+
 namespace command {
 namespace {
 
@@ -136,38 +138,25 @@ Section ReadSection(const ComPtr<IGeoSection>& object) {
 
 void ConvertCollections(const ComPtr<IGeoStructure>& structure,
                         const KelIFC::ProgressHandler& progress) {
-  constexpr std::uint64_t kCollections = 7;
+  std::uint64_t count = 0;
+  VisitCollections([&count](auto&&...) { ++count; });
   std::uint64_t done = 0;
   const auto reach = [&] {
-    if (progress && !progress(done, kCollections)) throw KelIFC::ReadingCancelled();
+    if (progress && !progress(done, count)) throw KelIFC::ReadingCancelled();
   };
-  const auto convert = [&](auto getter) {
+  VisitCollections([&](auto&& /*key*/, auto getter, auto&&...) {
     reach();
     Get(structure, getter);
     ++done;
-  };
-  convert(&IGeoStructure::get_Storeys);
-  convert(&IGeoStructure::get_Columns);
-  convert(&IGeoStructure::get_Beams);
-  convert(&IGeoStructure::get_Walls);
-  convert(&IGeoStructure::get_Plates);
-  convert(&IGeoStructure::get_Foots);
-  convert(&IGeoStructure::get_Sections);
+  });
   reach();
 }
 
 Structure ReadStructure(const ComPtr<IGeoStructure>& structure) {
-  const auto read = [&structure](auto getter, auto readItem) {
-    return ReadAll(Items(structure, getter), readItem);
-  };
   Structure all;
-  all.storeys = read(&IGeoStructure::get_Storeys, ReadStorey);
-  all.columns = read(&IGeoStructure::get_Columns, ReadColumn);
-  all.beams = read(&IGeoStructure::get_Beams, ReadBeam);
-  all.walls = read(&IGeoStructure::get_Walls, ReadWall);
-  all.plates = read(&IGeoStructure::get_Plates, ReadPlate);
-  all.foots = read(&IGeoStructure::get_Foots, ReadFoot);
-  all.sections = read(&IGeoStructure::get_Sections, ReadSection);
+  VisitCollections([&](auto&& /*key*/, auto getter, auto readItem, auto list) {
+    all.*list = ReadAll(Items(structure, getter), readItem);
+  });
   return all;
 }
 

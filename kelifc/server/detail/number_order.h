@@ -5,8 +5,8 @@
 
 namespace KelIFC::detail {
 
-/// Tells whether the statements of a file are in the order of their numbers. If they are not, each
-/// look-up of a number waits for memory unless the memory is prefetched.
+/// Finds out whether the statements of a file are in the order of their numbers. If they are not,
+/// each look-up of a number waits for memory unless the memory is prefetched.
 class NumberOrder {
  public:
   /// Takes the number of the next statement.

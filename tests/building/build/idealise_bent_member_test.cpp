@@ -69,7 +69,7 @@ TEST(IdealiseBentMember, FollowsTheChordsOfACoarseArch) {
 }
 
 TEST(IdealiseBentMember, RecognisesTheProfileOfABentIBeam) {
-  // An I of 300 by 150 mm whose web stands in the plane of the arch.
+  // An I of 300 by 150 mm whose web is in the plane of the arch.
   const double h = 0.15, b = 0.075, w = 0.005, t = 0.14;
   std::vector<Point2> section = {{b, -h}, {b, -t}, {w, -t}, {w, t},   {b, t},   {b, h},
                                  {-b, h}, {-b, t}, {-w, t}, {-w, -t}, {-b, -t}, {-b, -h}};
