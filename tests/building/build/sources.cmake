@@ -7,7 +7,9 @@ set(stage_tests
   storeys_test.cpp
   idealise_bent_member_test.cpp
   idealise_cut_taper_test.cpp
+  idealise_measure_test.cpp
   idealise_member_test.cpp
+  idealise_orient_test.cpp
   idealise_strip_test.cpp
   idealise_surface_test.cpp
   idealise_test.cpp
