@@ -56,14 +56,12 @@ TEST(MeasureFit, IsApproximateFromAVolumeOfTwoPercentOn) {
 
 TEST(MeasureFit, ACutOutExplainsADifferenceOfTheVolume) {
   // A notch of 0.5 by 0.5 m leaves three quarters of the body; three of its corners are inside.
-  const Mesh body = Sample({PrismAlongY(PolygonProfile({{0.0, 0.0},
-                                                        {1.0, 0.0},
-                                                        {1.0, 0.5},
-                                                        {0.5, 0.5},
-                                                        {0.5, 1.0},
-                                                        {0.0, 1.0}}),
-                                        0.2)})
-                        .body.mesh;
+  const Mesh body =
+      Sample({PrismAlongY(
+                 PolygonProfile(
+                     {{0.0, 0.0}, {1.0, 0.0}, {1.0, 0.5}, {0.5, 0.5}, {0.5, 1.0}, {0.0, 1.0}}),
+                 0.2)})
+          .body.mesh;
   const BuildingBox box = BoxOf(body);
   const Fit fit = FitOf(body, box.min, box.max);
   EXPECT_NEAR(*fit.ratio, 4.0 / 3.0, 1e-9);

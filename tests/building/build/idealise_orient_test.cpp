@@ -90,8 +90,7 @@ TEST(Orientation, OutlinesAreCounterClockwiseAgainstTheNormal) {
 
 /// The member that is found in the boundary of a prism along world x.
 Idealisation BeamOf(ProfilePointer profile) {
-  Idealisation beam =
-      Sample({PrismAlongX(std::move(profile), 5.0)}).BySlices(ElementRole::kMember);
+  Idealisation beam = Sample({PrismAlongX(std::move(profile), 5.0)}).BySlices(ElementRole::kMember);
   EXPECT_TRUE(beam.member && beam.profile);
   return beam;
 }
