@@ -162,12 +162,15 @@ class Model:
         return self.add(f"IFCFACE({refs([bound])})")
 
     def brep(self, width, depth, height):
-        """Adds a body of faces: a prism over a polygon with many corners."""
+        """Adds a body of faces: a prism over a polygon of 16 corners, which is not convex."""
         count = 16
-        rings = []
-        for level in (0.0, height):
-            rings.append([self.point(width * (0.5 + 0.5 * self.random.random()),
-                                     depth * i / count, level) for i in range(count)])
+        corners = []
+        for i in range(count):
+            angle = 2.0 * math.pi * i / count
+            radius = 0.25 + 0.25 * self.random.random()
+            corners.append((width * (0.5 + radius * math.cos(angle)),
+                            depth * (0.5 + radius * math.sin(angle))))
+        rings = [[self.point(x, y, level) for x, y in corners] for level in (0.0, height)]
         faces = [self.face(rings[0]), self.face(rings[1])]
         for i in range(count):
             j = (i + 1) % count
