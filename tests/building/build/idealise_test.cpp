@@ -55,6 +55,16 @@ TEST(Idealise, UnitesTheTreadsAndRisersOfAFlightOfManySteps) {
   EXPECT_LT(flight.deviation, 1e-6);
 }
 
+TEST(Idealise, UnitesAWallWithItsPilasters) {
+  const Sample sample({Block({0.0, 0.0, 0.0}, {6.0, 0.2, 3.0}),
+                       Block({1.0, 0.2, 0.0}, {1.4, 0.4, 3.0}),
+                       Block({4.0, 0.2, 0.0}, {4.4, 0.4, 3.0})});
+  const Idealisation wall = sample.BySlices(ElementRole::kWall);
+  EXPECT_NE(wall.kind, ElementKind::kBody);
+  EXPECT_FALSE(wall.isApproximate);
+  EXPECT_NEAR(wall.volume, 3.0 * (6.0 * 0.2 + 2 * 0.4 * 0.2), 1e-6);
+}
+
 TEST(Idealise, PrefersAnExactReadingToOneOfBetterProportions) {
   // A flight of twelve steps is nearly a sloping slab; seen from the side, it is a prism.
   std::vector<Point2> points{{0.1, 0.0}, {12 * 0.28, 12 * 0.17 - 0.2}};
