@@ -122,7 +122,7 @@ BulkFree::~BulkFree() {
 }
 
 void BulkFree::Settle(Pending& pending) noexcept {
-  if (pending.blocks != 0) pending.chunk->Drop(pending.blocks);
+  if (pending.chunk != nullptr) pending.chunk->Drop(pending.blocks);
   pending = {};
 }
 
