@@ -1,6 +1,8 @@
 #include "kelifc/server/ifc_server.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -243,14 +245,22 @@ IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
 // again only after it has grown.
 void IfcServer::BuildGuidIndex() {
   if (slotsWithoutGuid == items.size()) return;
-  constexpr std::size_t kAhead = 16;
-  detail::GuidIndex made(rootPositions.size());  // assigned when complete: an allocation can fail
-  for (std::size_t i = 0; i < rootPositions.size(); ++i) {
-    if (i + kAhead < rootPositions.size()) {
-      detail::PrefetchInstance(items[rootPositions[i + kAhead]]);
+  constexpr std::size_t kBatch = 16;
+  const std::size_t count = rootPositions.size();
+  detail::GuidIndex made(count);  // assigned when complete: an allocation can fail
+  for (std::size_t begin = 0; begin < count; begin += kBatch) {
+    const std::size_t end = std::min(begin + kBatch, count);
+    for (std::size_t i = end; i < std::min(end + kBatch, count); ++i) {
+      detail::PrefetchInstance(items[rootPositions[i]]);
     }
-    _GUID guid = {};
-    if (ReadGlobalGuid(items[rootPositions[i]], guid)) made.Add(guid, rootPositions[i]);
+    std::array<std::pair<_GUID, std::uint32_t>, kBatch> found;
+    auto last = found.begin();
+    for (std::size_t i = begin; i < end; ++i) {
+      if (!ReadGlobalGuid(items[rootPositions[i]], last->first)) continue;
+      made.Prefetch(last->first);
+      (last++)->second = rootPositions[i];
+    }
+    for (auto at = found.begin(); at != last; ++at) made.Add(at->first, at->second);
   }
   guidIndex = std::move(made);
   if (guidIndex.IsEmpty()) slotsWithoutGuid = items.size();

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
+#include "kelifc/core/detail/prefetch.h"
 #include "kelifc/platform/new_guid.h"
+#include "kelifc/server/reserve_huge.h"
 
 namespace KelIFC::detail {
 namespace {
@@ -13,7 +16,7 @@ constexpr std::size_t kSmallestTable = 16;
 }  // namespace
 
 GuidIndex::GuidIndex(std::size_t count) {
-  entries.reserve(count);
+  ReserveHuge(entries, count);
   std::size_t slotCount = kSmallestTable;
   while (slotCount < 2 * count) slotCount *= 2;
   Resize(slotCount);
@@ -35,13 +38,22 @@ std::uint32_t GuidIndex::Find(const _GUID& guid) const {
   return entry == kNone ? kNone : entries[entry].position;
 }
 
-// Returns the slot of an identifier, or the free slot for it.
-std::size_t GuidIndex::SlotOf(const _GUID& guid) const {
+void GuidIndex::Prefetch(const _GUID& guid) const {
+  if (!table.empty()) detail::Prefetch(&table[HomeOf(guid)]);
+}
+
+// Returns the slot where the search for an identifier begins.
+std::size_t GuidIndex::HomeOf(const _GUID& guid) const {
   std::uint64_t halves[2];
   std::memcpy(halves, &guid, sizeof halves);
   const std::uint64_t hash =
       (halves[0] ^ halves[0] >> 32) * factors[0] + (halves[1] ^ halves[1] >> 32) * factors[1];
-  auto slot = static_cast<std::size_t>(hash >> shift);
+  return static_cast<std::size_t>(hash >> shift);
+}
+
+// Returns the slot of an identifier, or the free slot for it.
+std::size_t GuidIndex::SlotOf(const _GUID& guid) const {
+  std::size_t slot = HomeOf(guid);
   while (table[slot] != kNone && entries[table[slot]].guid != guid) {
     slot = (slot + 1) & (table.size() - 1);
   }
@@ -55,7 +67,10 @@ void GuidIndex::Resize(std::size_t slotCount) {
     std::memcpy(factors, &random, sizeof factors);
     for (std::uint64_t& factor : factors) factor |= 1;
   }
-  table.assign(slotCount, kNone);
+  std::vector<std::uint32_t> made;
+  ReserveHuge(made, slotCount);
+  made.resize(slotCount, kNone);
+  table = std::move(made);
   shift = 64;
   for (std::size_t size = slotCount; size > 1; size /= 2) --shift;
   for (std::size_t i = 0; i < entries.size(); ++i) {

@@ -21,6 +21,9 @@ class GuidIndex {
   /// An empty index with memory for so many identifiers.
   explicit GuidIndex(std::size_t count);
 
+  /// Prefetches the memory that Add accesses for an identifier.
+  void Prefetch(const _GUID& guid) const;
+
   /// Adds an identifier. Of several positions with one identifier the first one stays.
   void Add(const _GUID& guid, std::uint32_t position);
 
@@ -35,6 +38,7 @@ class GuidIndex {
     std::uint32_t position;
   };
 
+  std::size_t HomeOf(const _GUID& guid) const;
   std::size_t SlotOf(const _GUID& guid) const;
   void Resize(std::size_t slotCount);
 
