@@ -246,21 +246,21 @@ IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
 void IfcServer::BuildGuidIndex() {
   if (slotsWithoutGuid == items.size()) return;
   constexpr std::size_t kBatch = 16;
+  constexpr std::size_t kWithText = 256;  // bytes of an instance and its identifier
   const std::size_t count = rootPositions.size();
+  std::array<detail::GuidIndex::Entry, kBatch> found = {};
   detail::GuidIndex made(count);  // assigned when complete: an allocation can fail
   for (std::size_t begin = 0; begin < count; begin += kBatch) {
     const std::size_t end = std::min(begin + kBatch, count);
     for (std::size_t i = end; i < std::min(end + kBatch, count); ++i) {
-      detail::PrefetchInstance(items[rootPositions[i]]);
+      detail::PrefetchInstance(items[rootPositions[i]], kWithText);
     }
-    std::array<std::pair<_GUID, std::uint32_t>, kBatch> found;
-    auto last = found.begin();
+    detail::GuidIndex::Entry* last = found.data();
     for (std::size_t i = begin; i < end; ++i) {
-      if (!ReadGlobalGuid(items[rootPositions[i]], last->first)) continue;
-      made.Prefetch(last->first);
-      (last++)->second = rootPositions[i];
+      last->position = rootPositions[i];
+      if (ReadGlobalGuid(items[last->position], last->guid)) ++last;
     }
-    for (auto at = found.begin(); at != last; ++at) made.Add(at->first, at->second);
+    made.AddBatch(found.data(), last);
   }
   guidIndex = std::move(made);
   if (guidIndex.IsEmpty()) slotsWithoutGuid = items.size();

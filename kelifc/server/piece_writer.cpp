@@ -52,8 +52,7 @@ bool PieceWriter::Merge(std::size_t slot) {
 }
 
 void PieceWriter::WriteNext(Piece& piece, std::ostream& target) {
-  const std::size_t count =
-      std::min(piece.numbers.size() - piece.written, InstanceWriter::kBatch);
+  const std::size_t count = std::min(piece.numbers.size() - piece.written, InstanceWriter::kBatch);
   const std::uint64_t* const first = piece.numbers.data() + piece.written;
   piece.writer.WriteBatch(first, first + count, target);
   piece.written += count;

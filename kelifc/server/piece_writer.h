@@ -55,7 +55,7 @@ class PieceWriter : public OrderedWork {
   unsigned threadCount;
   std::uint64_t last = 0;     // the highest number of all pieces so far
   std::uint64_t written = 0;  // instances
-  std::deque<Piece> pieces;  // by slot
+  std::deque<Piece> pieces;   // by slot
 };
 
 }  // namespace KelIFC

@@ -32,14 +32,21 @@ void GuidIndex::Add(const _GUID& guid, std::uint32_t position) {
   slot = static_cast<std::uint32_t>(entries.size() - 1);
 }
 
+void GuidIndex::AddBatch(const Entry* begin, const Entry* end) {
+  if (!table.empty()) {
+    for (const Entry* entry = begin; entry != end; ++entry) Prefetch(&table[HomeOf(entry->guid)]);
+    for (const Entry* entry = begin; entry != end; ++entry) {
+      const std::uint32_t other = table[HomeOf(entry->guid)];
+      if (other != kNone) Prefetch(&entries[other]);
+    }
+  }
+  for (const Entry* entry = begin; entry != end; ++entry) Add(entry->guid, entry->position);
+}
+
 std::uint32_t GuidIndex::Find(const _GUID& guid) const {
   if (table.empty()) return kNone;
   const std::uint32_t entry = table[SlotOf(guid)];
   return entry == kNone ? kNone : entries[entry].position;
-}
-
-void GuidIndex::Prefetch(const _GUID& guid) const {
-  if (!table.empty()) detail::Prefetch(&table[HomeOf(guid)]);
 }
 
 // Returns the slot where the search for an identifier begins.
