@@ -106,8 +106,8 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
   return 0;
 }
 
-// Makes what RegisterMade registers. Several threads can call it; the scanner of the thread has
-// returned the statement.
+// Makes what RegisterMade registers, without the server of the instance. The scanner has returned
+// the statement.
 MadeStatement IfcServer::MakeStatement(std::size_t id, const char* text,
                                        const ScanBuffer& scanner) {
   MadeStatement statement;
@@ -117,7 +117,6 @@ MadeStatement IfcServer::MakeStatement(std::size_t id, const char* text,
   statement.listed = ListedAsOf(statement.made.get());
   statement.place = scanner.GetStatementPlace();
   statement.column = static_cast<std::uint32_t>(scanner.GetPlace().column);
-  if (statement.made != nullptr) statement.made->SetServer(this);
   return statement;
 }
 
