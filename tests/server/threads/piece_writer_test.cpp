@@ -98,7 +98,7 @@ TEST(PieceWriter, LeavesOutDeletedInstances) {
 
 TEST(PieceWriter, WritesStatementsThatAreLongerThanThePieces) {
   const LoadedModel model = LoadModelOf(kMany);
-  for (std::size_t i = 1; i < 60; ++i) {
+  for (std::size_t i = 1; i < 25; ++i) {
     model.server->InsertItem(2000 * 3 + 3 * i, new Probe(std::string(100000, 'x')));
   }
   const std::string expected = SavedData(*model.server, false);
