@@ -53,6 +53,12 @@ std::size_t LongestEdge(const Outline& chain) {
   return longest;
 }
 
+std::optional<Strip> StripOf(const Outline& outline) {
+  if (std::optional<ArcStrip> arcs = FindArcStrip(outline)) return std::move(arcs->strip);
+  std::optional<Strip> strip = FindStrip(outline);
+  return strip ? strip : FindParallelStrip(outline);
+}
+
 std::optional<Bends> FindBends(Subject& subject, const Vector3& normal) {
   Bends bends;
   bends.plane = FrameAcross(normal, {});
@@ -61,8 +67,7 @@ std::optional<Bends> FindBends(Subject& subject, const Vector3& normal) {
   const std::optional<Section> section =
       SectionAt(subject.boundary, bends.plane, span.from + kCut * span.Length());
   if (!section || !section->region.holes.empty()) return std::nullopt;
-  std::optional<Strip> strip = FindStrip(section->region.outer);
-  if (!strip) strip = FindParallelStrip(section->region.outer);
+  std::optional<Strip> strip = StripOf(section->region.outer);
   if (!strip) return std::nullopt;
   bends.strip = std::move(*strip);
   const Vector3 chord = bends.InSpace(bends.strip.left.back() - bends.strip.left.front());
