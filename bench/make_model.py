@@ -214,8 +214,8 @@ class Shapes(Statements):
 
     def body(self, form, sizes):
         width, depth, height = sizes
-        if form == "faces":
-            return self.breps(self.random.choice(SHELLS), sizes)
+        if form in ("faces", "shell"):
+            return self.breps(1 if form == "shell" else self.random.choice(SHELLS), sizes)
         if form == "shared":
             to = self.add(f"IFCCARTESIANTRANSFORMATIONOPERATOR3D($,$,#{self.origin},1.,$)")
             item = self.add(f"IFCMAPPEDITEM(#{self.random.choice(self.bodies)},#{to})")
@@ -285,7 +285,7 @@ class Model(Shapes):
                                    self.coordinate(0, 30000), z)
         faceted = kind.entity in ("IFCCOLUMN", "IFCBEAM") and index % FACETED == 0
         sizes = (scale * kind.width, scale * kind.depth, kind.height)
-        shape = self.shape(kind, "faces" if faceted else kind.body, sizes)
+        shape = self.shape(kind, "shell" if faceted else kind.body, sizes)
         about = f"{kind.name}, {sizes[0]:.0f} x {sizes[1]:.0f} mm"
         number_ = self.add_root(kind.entity, f"{about}:{index:06d}",
                                 f"$,'{about}',#{own_place},#{shape},'{index:06d}'{kind.tail}")

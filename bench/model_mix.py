@@ -8,8 +8,8 @@ import collections
 
 # A kind of element. `tail` is the text of the attributes after those of all elements. `width`,
 # `depth` and `height` are in millimetres. `body` is the form of the body: an extruded rectangle, an
-# extruded outline in the shape of an L or an I, an extruded rectangle that a plane cuts, faces, or a
-# representation that several elements share. An element with an axis has a line as its second
+# extruded outline in the shape of an L or an I, an extruded rectangle that a plane cuts, shells of
+# faces, or a representation that several elements share. An element with an axis has a line as its second
 # representation. `layered` elements have layers as their material.
 Kind = collections.namedtuple("Kind", "entity name tail width depth height body axis layered")
 
@@ -36,7 +36,7 @@ DOOR = Kind("IFCDOOR", "Single door with frame", ",2135.,1010.",
             1010.0, 50.0, 2135.0, "shared", False, False)
 
 ELEMENTS_PER_STOREY = 400
-FACETED = 10  # one column or beam of so many has a body of faces, whatever its kind says
+FACETED = 10  # one column or beam of so many has a shell of faces, whatever its kind says
 SHARED_BODIES = 12  # in each storey
 SHELLS = (1, 3, 5)  # a body of faces has one of these numbers of shells
 SHELL_CORNERS = (4, 4, 8, 16)  # a shell is a prism over a polygon with so many corners
