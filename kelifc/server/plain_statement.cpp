@@ -47,14 +47,15 @@ std::uint64_t PrefixXor(std::uint64_t bits) {
   return bits;
 }
 
-// The search, by a function that compares the characters of a block.
-template <class Compare>
+// The search, by a function that compares the characters of a block, and one that does what
+// PrefixXor does.
+template <class Compare, class Prefix>
 [[gnu::always_inline]] inline const char* FindInBlocks(const char* at, const char* end,
-                                                       Compare compare) {
+                                                       Compare compare, Prefix prefix) {
   std::uint64_t inString = 0;  // all bits are set if the block begins in a string
   for (; end - at >= kBlock; at += kBlock) {
     const BlockBits bits = compare(at);
-    const std::uint64_t strings = PrefixXor(bits.quotes) ^ inString;
+    const std::uint64_t strings = prefix(bits.quotes) ^ inString;
     const std::uint64_t marks = bits.breaks | (bits.outside & ~strings) | (bits.escapes & strings);
     if (marks != 0) {
       at += std::countr_zero(marks);
@@ -110,10 +111,34 @@ BlockBits CompareSse2(const char* at) {
   return bits;
 }
 
-const char* FindSse2(const char* at, const char* end) { return FindInBlocks(at, end, CompareSse2); }
+[[gnu::target("avx512bw")]] BlockBits CompareAvx512(const char* at) {
+  const __m512i text = _mm512_loadu_si512(at);
+  BlockBits bits;
+  bits.quotes = _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8(kQuote));
+  bits.outside = _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8(';')) |
+                 _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8('/'));
+  bits.escapes = _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8(kEscape));
+  bits.breaks = _mm512_cmple_epu8_mask(text, _mm512_set1_epi8(kLastBreak));
+  return bits;
+}
 
-[[gnu::target("avx2")]] const char* FindAvx2(const char* at, const char* end) {
-  return FindInBlocks(at, end, CompareAvx2);
+// A product without carries by a number in which all bits are set.
+[[gnu::target("pclmul")]] std::uint64_t PrefixXorByProduct(std::uint64_t bits) {
+  const __m128i product = _mm_clmulepi64_si128(_mm_cvtsi64_si128(static_cast<std::int64_t>(bits)),
+                                               _mm_set1_epi8(-1), 0);
+  return static_cast<std::uint64_t>(_mm_cvtsi128_si64(product));
+}
+
+const char* FindSse2(const char* at, const char* end) {
+  return FindInBlocks(at, end, CompareSse2, PrefixXor);
+}
+
+[[gnu::target("avx2,pclmul")]] const char* FindAvx2(const char* at, const char* end) {
+  return FindInBlocks(at, end, CompareAvx2, PrefixXorByProduct);
+}
+
+[[gnu::target("avx512bw,pclmul")]] const char* FindAvx512(const char* at, const char* end) {
+  return FindInBlocks(at, end, CompareAvx512, PrefixXorByProduct);
 }
 
 #endif  // KELIFC_HAS_BLOCKS
@@ -124,13 +149,21 @@ const char* FindPlainEndBytewise(const char* at, const char* end) {
   return FindEndFrom(at, end, false);
 }
 
-const char* FindPlainEnd(const char* at, const char* end) {
+std::vector<PlainEndFinder> GetPlainEndFinders() {
+  std::vector<PlainEndFinder> finders;
 #ifdef KELIFC_HAS_BLOCKS
-  static const auto find = __builtin_cpu_supports("avx2") ? FindAvx2 : FindSse2;
-  return find(at, end);
-#else
-  return FindPlainEndBytewise(at, end);
+  const bool hasProduct = __builtin_cpu_supports("pclmul");
+  if (hasProduct && __builtin_cpu_supports("avx512bw")) finders.push_back(FindAvx512);
+  if (hasProduct && __builtin_cpu_supports("avx2")) finders.push_back(FindAvx2);
+  finders.push_back(FindSse2);
 #endif
+  finders.push_back(FindPlainEndBytewise);
+  return finders;
+}
+
+const char* FindPlainEnd(const char* at, const char* end) {
+  static const PlainEndFinder find = GetPlainEndFinders().front();
+  return find(at, end);
 }
 
 }  // namespace KelIFC

@@ -10,6 +10,7 @@
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/step_file_schema.h"
+#include "kelifc/core/text/reference_text.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
@@ -25,16 +26,23 @@ constexpr std::string_view kHead = "ISO-10303-21";
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
-// Reads the left side of a statement in its usual form: `#`, up to nine digits and the `=`, with
-// nothing between them. Returns the number 0 for any other form.
+// Reads the left side of a statement in its usual form: a plain reference and the `=`, with nothing
+// between them. Returns the number 0 for any other form.
 Assignment ReadPlainAssignment(char* statement) {
-  constexpr std::ptrdiff_t kMostDigits = 9;
-  if (*statement != '#') return {};
-  std::size_t number = 0;
-  char* at = statement + 1;
-  for (; *at >= '0' && *at <= '9'; ++at) number = 10 * number + static_cast<std::size_t>(*at - '0');
-  if (*at != '=' || at - statement > kMostDigits + 1) return {};
-  return {number, at + 1};
+  std::uint32_t number = 0;
+  const char* const end = ReadPlainReference(statement, number);
+  if (end == nullptr || *end != '=') return {};
+  return {number, statement + (end + 1 - statement)};
+}
+
+// Cuts a statement whose left side has any other form.
+Assignment CutUnusualAssignment(char* statement) {
+  char* const sign = std::strchr(statement, '=');
+  if (sign == nullptr) return {};
+  *sign = '\0';
+  MEMBER left;
+  left.Parse(statement);
+  return {left, sign + 1};
 }
 
 // True if the statement begins with the head of a STEP file, in any case.
@@ -47,16 +55,8 @@ bool BeginsWithHead(const char* statement) {
 }  // namespace
 
 Assignment CutAssignment(char* statement) {
-  Assignment assignment = ReadPlainAssignment(statement);
-  if (assignment.number != 0) return assignment;
-  char* sign = std::strchr(statement, '=');
-  if (sign == nullptr) return assignment;
-  *sign = '\0';
-  MEMBER left;
-  left.Parse(statement);
-  assignment.number = left;
-  assignment.text = sign + 1;
-  return assignment;
+  const Assignment plain = ReadPlainAssignment(statement);
+  return plain.number != 0 ? plain : CutUnusualAssignment(statement);
 }
 
 std::int16_t RegisterStatement(IfcServer* server, char* statement) {

@@ -1,6 +1,8 @@
 target_sources(kelifc_building PRIVATE
   build/assemble.cpp
   build/body_maker.cpp
+  build/element_key.cpp
+  build/element_maker.cpp
   build/finite.cpp
   build/openings.cpp
   build/storeys.cpp

@@ -6,6 +6,7 @@
 
 #include "kelifc/core/memory/chunk_map.h"
 #include "kelifc/platform/huge_pages.h"
+#include "kelifc/platform/static_tls.h"
 
 namespace KelIFC {
 
@@ -41,7 +42,7 @@ constexpr std::size_t kFirstPart = std::size_t{16} * 1024;
 
 constexpr std::size_t kLargestAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
-thread_local LoadArena* current = nullptr;
+KELIFC_STATIC_TLS thread_local LoadArena* current = nullptr;
 
 // `unit` is a power of two.
 constexpr std::size_t RoundUp(std::size_t size, std::size_t unit) {
@@ -55,6 +56,19 @@ constexpr std::size_t AlignmentOf(std::size_t size) {
 }
 
 }  // namespace
+
+// This is called for each block, so it is defined before the callers that shall contain its code.
+inline void* LoadArena::Carve(std::size_t size, std::size_t alignment) {
+  const std::size_t taken = std::max<std::size_t>(size, 1);
+  std::size_t begin = RoundUp(cursor, alignment);
+  while (begin + taken > end) {
+    Extend();
+    begin = RoundUp(cursor, alignment);
+  }
+  cursor = begin + taken;
+  ++carved;
+  return reinterpret_cast<char*>(chunk) + begin;
+}
 
 void* detail::AllocateBlock(std::size_t size) { return AllocateBlock(size, AlignmentOf(size)); }
 
@@ -80,18 +94,6 @@ LoadArena::LoadArena() : outer(current), nextPart(kFirstPart) { current = this; 
 LoadArena::~LoadArena() {
   CloseChunk();
   current = outer;
-}
-
-void* LoadArena::Carve(std::size_t size, std::size_t alignment) {
-  const std::size_t taken = std::max<std::size_t>(size, 1);
-  std::size_t begin = RoundUp(cursor, alignment);
-  while (begin + taken > end) {
-    Extend();
-    begin = RoundUp(cursor, alignment);
-  }
-  cursor = begin + taken;
-  ++carved;
-  return reinterpret_cast<char*>(chunk) + begin;
 }
 
 // Begins the next part of the chunk, or a new chunk.

@@ -1,6 +1,7 @@
 set(stage_tests
   assemble_test.cpp
   body_maker_test.cpp
+  element_maker_test.cpp
   openings_test.cpp
   first_use_test.cpp
   storeys_test.cpp
