@@ -51,7 +51,8 @@ class EntityName {
     if (!std::is_constant_evaluated() && std::endian::native == std::endian::little) {
       std::memcpy(&word, at, kWord);
     } else {
-      for (std::size_t i = kWord; i > 0; --i) word = word << 8 | static_cast<unsigned char>(at[i - 1]);
+      for (std::size_t i = kWord; i > 0; --i)
+        word = word << 8 | static_cast<unsigned char>(at[i - 1]);
     }
     return word;
   }

@@ -23,12 +23,11 @@ struct Bends {
     return direction;
   }
   Vector3 InSpace(const Vector2& v) const { return v.x * plane.x + v.y * plane.y; }
-  Point3 AtLevel(const Point2& p, double level) const {
-    return Lift(plane, p) + level * Normal();
-  }
+  Point3 AtLevel(const Point2& p, double level) const { return Lift(plane, p) + level * Normal(); }
 };
 
-/// The bends of a member in a plane square to a direction. None if the cut of the plane is no strip.
+/// The bends of a member in a plane square to a direction. None if the cut of the plane is no
+/// strip.
 std::optional<Bends> FindBends(Subject& subject, const Vector3& normal);
 
 /// The level along the normal at which the strip is cut.

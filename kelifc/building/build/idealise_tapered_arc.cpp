@@ -26,6 +26,10 @@ constexpr double kSameRadius = 2e-3;
 // A side with fewer points is a line with bends rather than an arc.
 constexpr std::size_t kLeastPointsOfArc = 6;
 
+// The chords of an arc turn by less, in radians. It is larger than the turn of arcs of a quarter
+// that have five chords.
+constexpr double kLargestTurn = 0.35;
+
 // The centroids of smaller sections have no meaning, in square metres.
 constexpr double kLeastArea = 1e-8;
 
@@ -38,6 +42,18 @@ struct RadialSection {
 
 double AngleBetween(const Vector2& from, const Vector2& to) {
   return std::atan2(Cross(from, to), Dot(from, to));
+}
+
+double TurnAt(const Outline& side, std::size_t i) {
+  return std::fabs(AngleBetween(side[i] - side[i - 1], side[i + 1] - side[i]));
+}
+
+bool HasChordsOfAnArc(const Outline& side) {
+  if (side.size() < kLeastPointsOfArc) return false;
+  for (std::size_t i = 1; i + 1 < side.size(); ++i) {
+    if (TurnAt(side, i) > kLargestTurn) return false;
+  }
+  return true;
 }
 
 // Where the lines of both ends meet: the centre of the arc, if the ends are square to it.
@@ -62,10 +78,7 @@ std::size_t PointAt(const Outline& side, double place) {
   const auto at = static_cast<std::size_t>(place * static_cast<double>(side.size() - 1));
   const std::size_t first = std::clamp<std::size_t>(at, 1, side.size() - 2);
   const std::size_t second = std::min(first + 1, side.size() - 2);
-  const auto turnAt = [&](std::size_t i) {
-    return std::fabs(AngleBetween(side[i] - side[i - 1], side[i + 1] - side[i]));
-  };
-  return turnAt(second) > turnAt(first) ? second : first;
+  return TurnAt(side, second) > TurnAt(side, first) ? second : first;
 }
 
 std::optional<RadialSection> SectionNear(Subject& subject, const Bends& bends, const Point2& centre,
@@ -117,7 +130,7 @@ FlatRegion RegionAt(const RadialSection& first, const RadialSection& second, dou
 
 std::optional<Reading> ReadTaperedArc(Subject& subject, const Bends& bends) {
   const Outline& left = bends.strip.left;
-  if (left.size() < kLeastPointsOfArc) return std::nullopt;
+  if (!HasChordsOfAnArc(left)) return std::nullopt;
   const std::optional<Point2> centre = CentreOf(bends.strip);
   if (!centre) return std::nullopt;
   const std::optional<RadialSection> first = SectionNear(subject, bends, *centre, kPlaces[0]);

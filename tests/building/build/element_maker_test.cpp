@@ -102,9 +102,9 @@ TEST(ElementMaker, CountsThePointsOfEachProductAgainstTheLimit) {
 
 TEST(ElementMaker, MovesASharedBodyToEachOfItsPlacesAlsoAfterAnEqualProduct) {
   const std::vector<SolidPointer> mapped = {Mapped({Block(1.0, 0.5, 3.0)})};
-  const auto columns = MakeElements({Product(1, "IfcColumn", mapped),
-                                     Product(2, "IfcColumn", mapped),
-                                     Product(3, "IfcColumn", mapped, MovedTo(7.0, 0.0, 0.0))});
+  const auto columns =
+      MakeElements({Product(1, "IfcColumn", mapped), Product(2, "IfcColumn", mapped),
+                    Product(3, "IfcColumn", mapped, MovedTo(7.0, 0.0, 0.0))});
   EXPECT_NEAR(columns[1].body.box.min.x, -0.5, 1e-12);
   EXPECT_NEAR(columns[2].body.box.min.x, 6.5, 1e-12);
   for (const BuildingElement& column : columns) EXPECT_EQ(column.mappedDepth, 1u);
