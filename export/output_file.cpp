@@ -12,6 +12,8 @@
 namespace KelIFC::exporting {
 namespace {
 
+namespace fs = std::filesystem;
+
 constexpr std::size_t kBufferSize = 1 << 20;
 
 [[noreturn]] void Fail(const std::string& path, const std::string& reason) {
@@ -81,11 +83,22 @@ void OutputFile::Commit() {
   state->target.Commit();
 }
 
-void MakeFolder(const std::string& path) {
+OutputFolder::OutputFolder(const std::string& path) {
   std::error_code error;
-  std::filesystem::create_directories(path, error);
+  for (fs::path folder = path; !folder.empty() && !fs::exists(folder, error);
+       folder = folder.parent_path()) {
+    created.push_back(folder);
+  }
+  fs::create_directories(path, error);
   if (error) Fail(path, error.message());
-  if (!std::filesystem::is_directory(path, error)) Fail(path, "it is not a folder");
+  if (!fs::is_directory(path, error)) Fail(path, "it is not a folder");
 }
+
+OutputFolder::~OutputFolder() {
+  std::error_code ignored;
+  for (const fs::path& folder : created) fs::remove(folder, ignored);  // only if it is empty
+}
+
+void OutputFolder::Commit() { created.clear(); }
 
 }  // namespace KelIFC::exporting

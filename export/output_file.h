@@ -2,9 +2,11 @@
 #define EXPORT_OUTPUT_FILE_H_
 
 #include <cstddef>
+#include <filesystem>
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace KelIFC::exporting {
 
@@ -56,9 +58,23 @@ class OutputPath {
   std::unique_ptr<State> state;
 };
 
-/// Creates a folder, with the folders above it, if it is missing. Throws ExportError with
-/// ExportFailure::kFile if it cannot be created or if `path` is not a folder.
-void MakeFolder(const std::string& path);
+/// A folder in which an export writes files. If Commit is not called, the folders that were created
+/// are removed, unless other files are in them meanwhile.
+class OutputFolder {
+ public:
+  /// Creates the folder, with the folders above it, if it is missing. Throws ExportError with
+  /// ExportFailure::kFile if it cannot be created or if `path` is not a folder.
+  explicit OutputFolder(const std::string& path);
+  ~OutputFolder();
+  OutputFolder(const OutputFolder&) = delete;
+  OutputFolder& operator=(const OutputFolder&) = delete;
+
+  /// Keeps the folder. It is called once, after the files are committed.
+  void Commit();
+
+ private:
+  std::vector<std::filesystem::path> created;  // inner folders first
+};
 
 }  // namespace KelIFC::exporting
 

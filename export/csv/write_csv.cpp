@@ -53,7 +53,7 @@ void WriteRow(OutputFile& file, const std::vector<TableCell>& cells, bool isRaw)
 }  // namespace
 
 ExportResult WriteCsv(const Building& building, const ExportOptions& options) {
-  MakeFolder(options.path);
+  OutputFolder folder(options.path);  // declared before the files, which are removed first
   const TableSource source = {building, options.source};
   TableProgress progress(source, options);
   std::vector<std::unique_ptr<OutputFile>> files;
@@ -67,6 +67,7 @@ ExportResult WriteCsv(const Building& building, const ExportOptions& options) {
     });
   }
   for (const std::unique_ptr<OutputFile>& file : files) file->Commit();
+  folder.Commit();
   return TableResult(building);
 }
 

@@ -62,7 +62,7 @@ class PlanWriter {
   ExportResult Write() {
     const std::size_t emptyPlans = DropEmptyPlans();
     for (const Plan& plan : set.plans) allItems += plan.items.size();
-    MakeFolder(options.path);
+    OutputFolder folder(options.path);
     const bool hasUnassigned = !set.plans.empty() && set.plans.front().storey == nullptr;
     const std::size_t digits = std::max<std::size_t>(2, std::to_string(set.plans.size()).size());
     for (std::size_t i = 0; i < set.plans.size(); ++i) {
@@ -72,6 +72,7 @@ class PlanWriter {
       const std::size_t number = hasUnassigned ? i : i + 1;
       WritePlan(i, options.path + "/" + PaddedNumber(number, digits) + "-" + name + ".svg");
     }
+    folder.Commit();
     return ResultWith(emptyPlans);
   }
 

@@ -1,6 +1,7 @@
 #include "kelifc/core/coordinates.h"
 
 #include <algorithm>
+#include <array>
 #include <cstring>
 #include <limits>
 #include <new>
@@ -9,6 +10,7 @@
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/lists/parenthesised.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/number_text.h"
 
 namespace KelIFC {
@@ -34,6 +36,30 @@ double StoredOf(const REAL& number) {
   if (!number.GetExists()) return MakeUnset();
   return IsUnset(number) ? std::numeric_limits<double>::quiet_NaN() : double{number};
 }
+
+// The numbers of a point or a direction.
+struct PlainNumbers {
+  static constexpr std::size_t kMost = 3;
+
+  // Parses numbers in their usual form: at most kMost decimal numbers in parentheses, with nothing
+  // but commas between them. Returns the position after the parenthesis, or null for any other
+  // text.
+  const char* Read(const char* text) {
+    if (*text != '(') return nullptr;
+    const char* at = text;
+    do {
+      ++at;
+      const char first = at[*at == '-' ? 1 : 0];
+      const bool isDecimal = ascii::IsDigit(first) || first == '.';
+      if (!isDecimal || count == kMost) return nullptr;
+      values[count++] = ReadReal(at, &at);
+    } while (*at == ',');
+    return *at == ')' ? at + 1 : nullptr;
+  }
+
+  std::array<double, kMost> values;
+  std::size_t count = 0;
+};
 
 REAL NumberOf(double stored) { return IsUnset(stored) ? REAL() : REAL(stored); }
 
@@ -117,6 +143,11 @@ const char* COORDINATES::Parse(const char* text) {
   size = 0;
   const char* next = nullptr;
   if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
+  PlainNumbers plain;
+  if (const char* const end = plain.Read(text)) {
+    for (std::size_t i = 0; i < plain.count; ++i) Append(plain.values[i]);
+    return detail::BehindNextComma(end);
+  }
   detail::Parenthesised inner;
   if (!detail::FindParenthesised(text, inner)) return text;
   if (inner.isNested) {

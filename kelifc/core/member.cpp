@@ -7,6 +7,7 @@
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/references/model.h"
 #include "kelifc/core/text/number_text.h"
+#include "kelifc/core/text/reference_text.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/core/value.h"
 #include "kelifc/platform/memory_watch.h"
@@ -228,9 +229,15 @@ const IfcUnknown* MEMBER::GetInlineValue() const {
 }
 
 const char* MEMBER::Parse(const char* text) {
-  Unset();
+  if (ValuePart(word) != 0) Unset();
+  if (text == nullptr) return nullptr;
+  std::uint32_t plain = 0;
+  if (const char* const end = ReadPlainReference(text, plain)) {
+    SetFirstNumber(plain);
+    return detail::BehindNextComma(end);
+  }
   const char* next = nullptr;
-  if (detail::SkipOmittedValue(next, text) || text == nullptr) return next;
+  if (detail::SkipOmittedValue(next, text)) return next;
   const char* first = detail::SkipBlanks(text);
   if (*first != '#') return ParseInline(text, first);
   const std::int64_t number = ReadInteger(first + 1, &next);

@@ -34,7 +34,7 @@ std::ostream& IfcUnknown::Write(std::ostream& out) const {
 const char* IfcUnknown::ParseDef(const char* text) {
   if (text == nullptr) return nullptr;
   text = detail::SkipBlanks(text);
-  return *text == '*' ? detail::BehindNextComma(text) : text;
+  return *text == '*' ? detail::BehindNextComma(text + 1) : text;
 }
 
 IfcServer* IfcUnknown::GetServer() { return server; }

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/core/references/model.h"
 #include "kelifc/core/value.h"
 
@@ -13,7 +14,8 @@ const char* ParseValueMember(IfcServer* server, const char* text, MEMBER& target
   if (text == nullptr) return nullptr;
   const char* behindName = nullptr;
   std::unique_ptr<IfcUnknown> made(ParseInstance(server, text, &behindName));
-  auto* value = dynamic_cast<IfcValue*>(made.get());
+  thread_local CastCache<IfcValue> values;
+  IfcValue* const value = values.Cast(made.get());
   if (value == nullptr) return text;
   target = value;
   static_cast<void>(made.release());

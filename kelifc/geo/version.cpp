@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <string>
 
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/number_text.h"
 #include "kelifc/server/reported_version.h"
 
@@ -43,10 +44,7 @@ double WholeOf(const std::string& text) {
 }
 
 bool IsDebugText(std::string_view text) {
-  std::string lower(text);
-  for (char& c : lower) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
+  const std::string lower = ascii::ToLowerCase(text);
   const std::size_t at = lower.find(kDebugMark);
   return at != std::string::npos && at > 0;
 }

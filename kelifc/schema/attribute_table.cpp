@@ -2,25 +2,12 @@
 
 #include <algorithm>
 
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/schema/entity_tables.h"
 
 namespace KelIFC {
 
 namespace {
-
-// The names of a schema are ASCII, so the comparison does not depend on the locale.
-char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
-bool IsBefore(std::string_view a, std::string_view b) {
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                      [](char x, char y) { return ToUpper(x) < ToUpper(y); });
-}
-
-bool IsSame(std::string_view a, std::string_view b) {
-  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
-           return ToUpper(x) == ToUpper(y);
-         });
-}
 
 /// Returns the attribute with a name among those that the class itself adds, or null if there is
 /// none.
@@ -28,7 +15,7 @@ const AttributeDescription* FindOwn(const EntityDescription& entity, std::string
   const AttributeDescription* derived = nullptr;
   for (std::size_t i = 0; i < entity.attributeCount; ++i) {
     const AttributeDescription& attribute = entity.attributes[i];
-    if (!IsSame(attribute.name, name)) continue;
+    if (!ascii::IsSameText(attribute.name, name)) continue;
     if (attribute.use != AttributeUse::kDerived) return &attribute;
     if (derived == nullptr) derived = &attribute;
   }
@@ -59,8 +46,9 @@ const AttributeDescription* EntityDescription::FindAttribute(std::string_view at
 
 const InverseAttribute* EntityDescription::FindInverse(std::string_view inverseName) const {
   const InverseAttribute* const end = inverses + inverseCount;
-  const InverseAttribute* const own = std::find_if(
-      inverses, end, [&](const InverseAttribute& row) { return IsSame(row.name, inverseName); });
+  const InverseAttribute* const own = std::find_if(inverses, end, [&](const InverseAttribute& row) {
+    return ascii::IsSameText(row.name, inverseName);
+  });
   if (own != end) return own;
   for (const EntityDescription* base : bases) {
     if (base == nullptr) continue;
@@ -98,9 +86,9 @@ const EntityDescription* FindEntity(IFC_RELEASE release, std::string_view name) 
   const EntityRange all = AllEntities(release);
   const auto* const at = std::lower_bound(
       all.begin(), all.end(), name, [](const EntityDescription* entity, std::string_view text) {
-        return IsBefore(entity->name, text);
+        return ascii::IsBefore(entity->name, text);
       });
-  return at != all.end() && IsSame((*at)->name, name) ? *at : nullptr;
+  return at != all.end() && ascii::IsSameText((*at)->name, name) ? *at : nullptr;
 }
 
 }  // namespace KelIFC

@@ -3,6 +3,7 @@
 #include <charconv>
 
 #include "kelifc/core/global_id.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/replaced_ids.h"
 
@@ -45,9 +46,7 @@ void Scientific::Write(std::ostream& out) const {
   const double number = value;
   const auto end =
       std::to_chars(text, text + sizeof text, number, std::chars_format::scientific, 1);
-  for (char* c = text; c != end.ptr; ++c) {
-    if (*c >= 'a' && *c <= 'z') *c = static_cast<char>(*c - 'a' + 'A');
-  }
+  for (char* c = text; c != end.ptr; ++c) *c = ascii::ToUpperCase(*c);
   detail::PutText(out, std::string_view(text, static_cast<std::size_t>(end.ptr - text)));
 }
 

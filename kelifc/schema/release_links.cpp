@@ -27,9 +27,13 @@ class AnswersByClass {
   template <class Find>
   Answer Get(const IfcUnknown& instance, Find find) {
     const std::type_info* const type = &typeid(instance);
-    Entry& entry = entries[(reinterpret_cast<std::uintptr_t>(type) / 16) % kEntries];
-    if (entry.type != type) entry = {type, find(&instance)};
-    return entry.answer;
+    const std::size_t slot = (reinterpret_cast<std::uintptr_t>(type) / 16) % kEntries;
+    // The copy needs the address of a thread-local object only once.
+    const Entry entry = entries[slot];
+    if (entry.type == type) return entry.answer;
+    const Answer answer = find(&instance);
+    entries[slot] = {type, answer};
+    return answer;
   }
 
  private:

@@ -1,6 +1,8 @@
 #include <cstring>
 #include <memory>
 #include <string>
+#include <string_view>
+#include <typeinfo>
 
 #include "kelifc/core/bounding_box.h"
 #include "kelifc/core/cartesian_point.h"
@@ -33,10 +35,10 @@ constexpr NameRow kCoreRows[] = {
 constexpr NameTable kCoreTable(kCoreRows);
 
 // Makes an IfcOther for an entity that the release does not know.
-IfcUnknown* MakeOther(const char* name) {
+IfcUnknown* MakeOther(std::string_view name) {
   try {
     auto other = std::make_unique<IfcOther>();
-    other->SetStepEntityName(name);
+    other->SetStepEntityName(std::string(name).c_str());
     return other.release();
   } catch (const std::bad_alloc&) {
     return nullptr;
@@ -53,26 +55,52 @@ std::size_t GetNameLength(const char* start) {
   return static_cast<std::size_t>(end - start);
 }
 
-// All entity names of the schema are shorter than this.
-constexpr std::size_t kUsualNameLength = 64;
+// The own names of a release.
+struct OwnNames {
+  IfcUnknown* (*make)(const EntityName& name) = nullptr;
+  bool keepsOther = false;  // an unknown name makes an IfcOther
+};
+
+OwnNames OwnNamesOf(IFC_RELEASE release) {
+  switch (release) {
+    case IFC_RELEASE_151:
+      return {MakeInstance151, false};
+    case IFC_RELEASE_20:
+      return {MakeInstance20, false};
+    case IFC_RELEASE_2X:
+      return {MakeInstance2x, false};
+    case IFC_RELEASE_2X2:
+      return {MakeInstance2x2, true};
+    case IFC_RELEASE_2X3:
+      return {MakeInstance2x3, true};
+    default:
+      return {};
+  }
+}
+
+// Returns the same as IfcServer::MakeByRelease, without calls of operations that a derived class
+// can override.
+IfcUnknown* MakeNamed(IFC_RELEASE release, const EntityName& name) {
+  if (IfcUnknown* const shared = kCoreTable.Make(name)) return shared;
+  const OwnNames own = OwnNamesOf(release);
+  IfcUnknown* const made = own.make == nullptr ? nullptr : own.make(name);
+  return made == nullptr && own.keepsOther ? MakeOther(name.GetText()) : made;
+}
 
 }  // namespace
 
 IfcUnknown* IfcServer::ParseClass(const char* text, const char** end) {
   if (text == nullptr) return nullptr;
   const char* start = detail::SkipBlanks(text);
-  const std::size_t length = GetNameLength(start);
-  if (end != nullptr) *end = start + length;
-  if (length >= kUsualNameLength) return MakeByRelease(std::string(start, length).c_str());
-  char name[kUsualNameLength];
-  std::memcpy(name, start, length);
-  name[length] = '\0';
-  return MakeByRelease(name);
+  const std::string_view name(start, GetNameLength(start));
+  if (end != nullptr) *end = start + name.size();
+  if (&typeid(*this) == &typeid(IfcServer)) return MakeNamed(release, name);
+  return MakeByRelease(std::string(name).c_str());
 }
 
 IfcUnknown* IfcServer::MakeRaw(const char* text) {
   const char* start = detail::SkipBlanks(text);
-  return MakeOther(std::string(start, GetNameLength(start)).c_str());
+  return MakeOther({start, GetNameLength(start)});
 }
 
 IfcUnknown* IfcServer::MakeByRelease(const char* name) {

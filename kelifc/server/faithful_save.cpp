@@ -8,6 +8,7 @@
 
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/iso_text.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/content_hash.h"
@@ -23,20 +24,12 @@ namespace {
 // The progress is reported once for so many bytes of the source.
 constexpr std::uint64_t kReportedBytes = std::uint64_t{256} * 1024;
 
-bool IsLetterOrDigit(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '_';
-}
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsNameCharacter(char c) { return ascii::IsLetter(c) || ascii::IsDigit(c) || c == '_'; }
 
 // True if a statement begins with a word, in any case.
 bool BeginsWith(std::string_view statement, std::string_view word) {
-  if (statement.size() < word.size()) return false;
-  const bool isSame =
-      std::equal(word.begin(), word.end(), statement.begin(), [](char wanted, char found) {
-        return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
-      });
-  return isSame && (statement.size() == word.size() || !IsLetterOrDigit(statement[word.size()]));
+  return ascii::IsSameText(statement.substr(0, word.size()), word) &&
+         (statement.size() == word.size() || !IsNameCharacter(statement[word.size()]));
 }
 
 // True for the statement that ends the header for a load: FILE_SCHEMA with its attributes.
@@ -287,7 +280,7 @@ std::vector<std::uint64_t> FaithfulSave::NoteReferences(std::string_view text) {
     if (text[at] == '\'') isInString = !isInString;
     if (isInString || text[at] != '#') continue;
     std::uint64_t number = 0;
-    for (; at + 1 < text.size() && IsDigit(text[at + 1]); ++at) {
+    for (; at + 1 < text.size() && ascii::IsDigit(text[at + 1]); ++at) {
       number = 10 * number + static_cast<std::uint64_t>(text[at + 1] - '0');
     }
     const std::uint32_t position = PositionOf(number);

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/iso8859.h"
 #include "kelifc/core/text/iso_text.h"
 #include "kelifc/server/block_search.h"
@@ -17,8 +18,6 @@ constexpr std::size_t kLongestBegin = 64;
 // The words that begin a statement at the begin of a line. A number does so, too.
 constexpr std::string_view kKeywords[] = {"FILE_DESCRIPTION", "FILE_NAME", "FILE_SCHEMA", "ENDSEC",
                                           "DATA"};
-
-constexpr bool IsDigit(int c) { return c >= '0' && c <= '9'; }
 
 }  // namespace
 
@@ -166,7 +165,7 @@ bool IsoRules::IsAtNewStatement() {
   const std::size_t begin = SkipBlanks(0);
   if (Peek(begin) == '#') {
     std::size_t end = begin + 1;
-    while (end < kLongestBegin && IsDigit(Peek(end))) ++end;
+    while (end < kLongestBegin && ascii::IsDigit(Peek(end))) ++end;
     return end > begin + 1 && Peek(SkipBlanks(end)) == '=';
   }
   for (const std::string_view keyword : kKeywords) {

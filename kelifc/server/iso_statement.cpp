@@ -5,6 +5,7 @@
 #include <ostream>
 
 #include "kelifc/core/detail/text_out.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/iso_binary.h"
 #include "kelifc/core/text/quoting.h"
 #include "kelifc/platform/utf8.h"
@@ -18,8 +19,6 @@ constexpr char kBinaryQuote = '"';
 // Matchers of the bytes above 127, and of control characters with them.
 using UpperByte = Below<'\0'>;
 using ControlOrUpperByte = Below<' '>;
-
-bool IsLowerCase(char c) { return c >= 'a' && c <= 'z'; }
 
 std::string_view Between(const char* begin, const char* end) {
   return {begin, static_cast<std::size_t>(end - begin)};
@@ -46,7 +45,7 @@ const char* IsoStatementReader::Read(const char* text, const char* end) {
 const char* IsoStatementReader::TakeToken(const char* at) {
   if (*at == kQuote) return TakeString(at);
   if (*at == kBinaryQuote) return TakeBinary(at);
-  if (IsLowerCase(*at)) return TakeLowerCase(at);
+  if (ascii::IsLowerCase(*at)) return TakeLowerCase(at);
   if (!IsIsoBlank(*at)) return at + 1;
   FlushTo(at);
   return kept = at + 1;
@@ -54,7 +53,7 @@ const char* IsoStatementReader::TakeToken(const char* at) {
 
 const char* IsoStatementReader::TakeLowerCase(const char* at) {
   FlushTo(at);
-  for (; at != limit && IsLowerCase(*at); ++at) out += static_cast<char>(*at - 'a' + 'A');
+  for (; at != limit && ascii::IsLowerCase(*at); ++at) out += static_cast<char>(*at - 'a' + 'A');
   return kept = at;
 }
 

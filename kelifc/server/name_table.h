@@ -5,8 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
-#include <string>
 #include <string_view>
+
+#include "kelifc/server/entity_name.h"
 
 namespace KelIFC {
 
@@ -33,8 +34,7 @@ struct NameRow {
 
 /// A hash table from entity names to functions that make an instance. The compiler builds it: it
 /// uses open addressing, at least three of four slots are free, and it allocates nothing at run
-/// time. Names are compared without the case of the ASCII letters, independent of the process
-/// locale.
+/// time.
 ///
 ///     constexpr NameRow kRows[] = {{"IFCWALL", MakeNew<IfcWall>}, ...};
 ///     constexpr NameTable kTable(kRows);
@@ -46,7 +46,6 @@ class NameTable {
   constexpr explicit NameTable(const NameRow (&source)[kRowCount]) {
     for (std::size_t row = 0; row < kRowCount; ++row) {
       rows[row] = source[row];
-      if (rows[row].name.size() > longest) longest = rows[row].name.size();
       lengths |= BitOf(rows[row].name.size());
       std::size_t slot = HomeOf(rows[row].name);
       while (slots[slot] != 0) slot = (slot + 1) % kSlotCount;
@@ -54,24 +53,18 @@ class NameTable {
     }
   }
 
-  /// Returns the row of a name, null if there is none. Reads at most one character more than the
-  /// longest name of the table has, so a name of any length is rejected in constant time.
-  constexpr const NameRow* Find(const char* text) const {
-    const char* end = std::char_traits<char>::find(text, longest + 1, '\0');
-    if (end == nullptr || end == text) return nullptr;
-    const std::string_view name(text, static_cast<std::size_t>(end - text));
-    if ((lengths & BitOf(name.size())) == 0) return nullptr;
+  /// Returns the row of a name, null if there is none.
+  constexpr const NameRow* Find(const EntityName& name) const {
+    if (name.GetText().empty() || (lengths & BitOf(name.GetText().size())) == 0) return nullptr;
     for (std::size_t slot = HomeOf(name); slots[slot] != 0; slot = (slot + 1) % kSlotCount) {
       const NameRow& row = rows[slots[slot] - 1u];
-      if (row.name.size() == name.size() && (row.name == name || IsSame(row.name, name))) {
-        return &row;
-      }
+      if (name.Is(row.name)) return &row;
     }
     return nullptr;
   }
 
   /// Returns a new instance of the class with a name; null for a name that is not in the table.
-  IfcUnknown* Make(const char* name) const {
+  IfcUnknown* Make(const EntityName& name) const {
     const NameRow* row = Find(name);
     return row == nullptr ? nullptr : row->make();
   }
@@ -90,31 +83,13 @@ class NameTable {
     return std::uint64_t{1} << (length % 64);
   }
 
-  static constexpr char ToUpper(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-  }
-
-  // Returns the first slot for a name. Four characters and the length are enough to distinguish the
-  // names of a schema, which have the same beginning and sometimes the same end.
-  static constexpr std::size_t HomeOf(std::string_view name) {
-    const std::size_t length = name.size();
-    std::uint32_t hash = static_cast<std::uint32_t>(length);
-    for (const std::size_t at : {length - 1, length / 2, length / 4, length * 3 / 4}) {
-      hash = (hash ^ static_cast<unsigned char>(ToUpper(name[at]))) * 0x01000193u;
-    }
-    return (hash ^ (hash >> 15)) % kSlotCount;
-  }
-
-  static constexpr bool IsSame(std::string_view upperCase, std::string_view name) {
-    for (std::size_t i = 0; i < name.size(); ++i) {
-      if (upperCase[i] != ToUpper(name[i])) return false;
-    }
-    return true;
+  // The first slot for a name.
+  static constexpr std::size_t HomeOf(const EntityName& name) {
+    return name.GetHash() % kSlotCount;
   }
 
   std::array<NameRow, kRowCount> rows = {};
   std::array<std::uint16_t, kSlotCount> slots = {};  // the row, counted from 1; 0 if free
-  std::size_t longest = 0;
   std::uint64_t lengths = 0;  // the bits of the lengths of all names; most other lengths have none
 };
 

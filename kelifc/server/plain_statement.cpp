@@ -1,5 +1,6 @@
 #include "kelifc/server/plain_statement.h"
 
+#include <atomic>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -47,14 +48,15 @@ std::uint64_t PrefixXor(std::uint64_t bits) {
   return bits;
 }
 
-// The search, by a function that compares the characters of a block.
-template <class Compare>
+// The search, by a function that compares the characters of a block, and one that does what
+// PrefixXor does.
+template <class Compare, class Prefix>
 [[gnu::always_inline]] inline const char* FindInBlocks(const char* at, const char* end,
-                                                       Compare compare) {
+                                                       Compare compare, Prefix prefix) {
   std::uint64_t inString = 0;  // all bits are set if the block begins in a string
   for (; end - at >= kBlock; at += kBlock) {
     const BlockBits bits = compare(at);
-    const std::uint64_t strings = PrefixXor(bits.quotes) ^ inString;
+    const std::uint64_t strings = prefix(bits.quotes) ^ inString;
     const std::uint64_t marks = bits.breaks | (bits.outside & ~strings) | (bits.escapes & strings);
     if (marks != 0) {
       at += std::countr_zero(marks);
@@ -110,10 +112,34 @@ BlockBits CompareSse2(const char* at) {
   return bits;
 }
 
-const char* FindSse2(const char* at, const char* end) { return FindInBlocks(at, end, CompareSse2); }
+[[gnu::target("avx512bw")]] BlockBits CompareAvx512(const char* at) {
+  const __m512i text = _mm512_loadu_si512(at);
+  BlockBits bits;
+  bits.quotes = _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8(kQuote));
+  bits.outside = _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8(';')) |
+                 _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8('/'));
+  bits.escapes = _mm512_cmpeq_epi8_mask(text, _mm512_set1_epi8(kEscape));
+  bits.breaks = _mm512_cmple_epu8_mask(text, _mm512_set1_epi8(kLastBreak));
+  return bits;
+}
 
-[[gnu::target("avx2")]] const char* FindAvx2(const char* at, const char* end) {
-  return FindInBlocks(at, end, CompareAvx2);
+// A product without carries by a number in which all bits are set.
+[[gnu::target("pclmul")]] std::uint64_t PrefixXorByProduct(std::uint64_t bits) {
+  const __m128i product = _mm_clmulepi64_si128(_mm_cvtsi64_si128(static_cast<std::int64_t>(bits)),
+                                               _mm_set1_epi8(-1), 0);
+  return static_cast<std::uint64_t>(_mm_cvtsi128_si64(product));
+}
+
+const char* FindSse2(const char* at, const char* end) {
+  return FindInBlocks(at, end, CompareSse2, PrefixXor);
+}
+
+[[gnu::target("avx2,pclmul")]] const char* FindAvx2(const char* at, const char* end) {
+  return FindInBlocks(at, end, CompareAvx2, PrefixXorByProduct);
+}
+
+[[gnu::target("avx512bw,pclmul")]] const char* FindAvx512(const char* at, const char* end) {
+  return FindInBlocks(at, end, CompareAvx512, PrefixXorByProduct);
 }
 
 #endif  // KELIFC_HAS_BLOCKS
@@ -124,13 +150,49 @@ const char* FindPlainEndBytewise(const char* at, const char* end) {
   return FindEndFrom(at, end, false);
 }
 
-const char* FindPlainEnd(const char* at, const char* end) {
+namespace {
+
+struct Candidate {
+  PlainEndFinder find;
+  bool (*isSupported)();
+};
+
+// The fastest one is the first.
+constexpr Candidate kCandidates[] = {
 #ifdef KELIFC_HAS_BLOCKS
-  static const auto find = __builtin_cpu_supports("avx2") ? FindAvx2 : FindSse2;
-  return find(at, end);
-#else
-  return FindPlainEndBytewise(at, end);
+    {FindAvx512,
+     [] { return __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("pclmul"); }},
+    {FindAvx2, [] { return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("pclmul"); }},
+    {FindSse2, [] { return true; }},
 #endif
+    {FindPlainEndBytewise, [] { return true; }},
+};
+
+const char* ChooseFinder(const char* at, const char* end);
+
+// The function that FindPlainEnd calls. No other memory depends on it.
+constinit std::atomic<PlainEndFinder> finder = ChooseFinder;
+
+// The first call chooses the fastest function. All threads choose the same one.
+const char* ChooseFinder(const char* at, const char* end) {
+  const Candidate* fastest = kCandidates;
+  while (!fastest->isSupported()) ++fastest;
+  finder.store(fastest->find, std::memory_order_relaxed);
+  return fastest->find(at, end);
+}
+
+}  // namespace
+
+std::vector<PlainEndFinder> GetPlainEndFinders() {
+  std::vector<PlainEndFinder> finders;
+  for (const Candidate& candidate : kCandidates) {
+    if (candidate.isSupported()) finders.push_back(candidate.find);
+  }
+  return finders;
+}
+
+const char* FindPlainEnd(const char* at, const char* end) {
+  return finder.load(std::memory_order_relaxed)(at, end);
 }
 
 }  // namespace KelIFC

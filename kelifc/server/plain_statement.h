@@ -1,6 +1,8 @@
 #ifndef KELIFC_SERVER_PLAIN_STATEMENT_H_
 #define KELIFC_SERVER_PLAIN_STATEMENT_H_
 
+#include <vector>
+
 namespace KelIFC {
 
 /// Returns the `;` that ends the statement at the begin of the text [at, end), if the statement is
@@ -14,6 +16,13 @@ const char* FindPlainEnd(const char* at, const char* end);
 
 /// Returns the same, one character at a time.
 const char* FindPlainEndBytewise(const char* at, const char* end);
+
+/// A function that does what FindPlainEnd does.
+using PlainEndFinder = const char* (*)(const char* at, const char* end);
+
+/// Returns all such functions that the processor can run, the fastest one first. The last one is
+/// FindPlainEndBytewise.
+std::vector<PlainEndFinder> GetPlainEndFinders();
 
 }  // namespace KelIFC
 

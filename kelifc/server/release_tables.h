@@ -5,6 +5,7 @@
 
 #include "kelifc/platform/guid.h"
 #include "kelifc/server/detail/project_classes.h"
+#include "kelifc/server/entity_name.h"
 
 namespace KelIFC {
 
@@ -16,11 +17,11 @@ class IfcUnknown;
 /// Returns a new instance of the class that a release has under a name, ignoring the case of
 /// letters. Returns null for every other name, including the names that all releases share, and if
 /// there is no memory. The caller owns the instance.
-IfcUnknown* MakeInstance151(const char* name);
-IfcUnknown* MakeInstance20(const char* name);
-IfcUnknown* MakeInstance2x(const char* name);
-IfcUnknown* MakeInstance2x2(const char* name);
-IfcUnknown* MakeInstance2x3(const char* name);
+IfcUnknown* MakeInstance151(const EntityName& name);
+IfcUnknown* MakeInstance20(const EntityName& name);
+IfcUnknown* MakeInstance2x(const EntityName& name);
+IfcUnknown* MakeInstance2x2(const EntityName& name);
+IfcUnknown* MakeInstance2x3(const EntityName& name);
 
 /// If the instance is an IfcRoot of 2x, 2x2 or 2x3, stores its global identifier and returns true.
 /// The identifier is null if the text of the instance is not an identifier. A null instance returns

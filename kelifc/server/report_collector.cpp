@@ -6,17 +6,11 @@
 
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/other.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {
 namespace {
-
-std::string UpperCase(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(), [](char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-  });
-  return text;
-}
 
 // Compares addresses, which is faster than comparing names. The library has one type_info of
 // IfcOther, and makes all instances that are asked about.
@@ -28,7 +22,7 @@ std::string EntityNameAt(const char* text) {
   const char* begin = detail::SkipBlanks(text);
   const char* end = begin;
   while (*end != '\0' && *end != '(' && !detail::IsBlank(*end)) ++end;
-  return UpperCase(std::string(begin, end));
+  return ascii::ToUpperCase(std::string(begin, end));
 }
 
 StatedAs KindOf(const IfcUnknown* made) {
@@ -69,7 +63,7 @@ void ReportCollector::EndLoad(IfcServer& server) {
   for (const std::size_t number : rawNumbers) {
     const auto* other = dynamic_cast<const IfcOther*>(server.GetItem(number));
     if (other == nullptr) continue;  // the last statement with the number is of another class
-    ++report.rawByEntity[UpperCase(other->GetStepEntityName())];
+    ++report.rawByEntity[ascii::ToUpperCase(other->GetStepEntityName())];
     ++report.raw;
   }
   report.made -= report.raw;

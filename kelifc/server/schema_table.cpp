@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "kelifc/core/text/ascii.h"
+
 namespace KelIFC {
 namespace {
 
@@ -25,7 +27,7 @@ std::string FirstWord(std::string_view text) {
   std::string word;
   for (const char c : text) {
     if (c != ' ') {
-      word += c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
+      word += ascii::ToUpperCase(c);
     } else if (!word.empty()) {
       break;
     }

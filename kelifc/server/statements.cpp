@@ -10,6 +10,7 @@
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/step_file_schema.h"
+#include "kelifc/core/text/reference_text.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
@@ -25,16 +26,23 @@ constexpr std::string_view kHead = "ISO-10303-21";
 
 constexpr std::uint64_t kFirstNegative = std::uint64_t{1} << 63;
 
-// Reads the left side of a statement in its usual form: `#`, up to nine digits and the `=`, with
-// nothing between them. Returns the number 0 for any other form.
+// Reads the left side of a statement in its usual form: a plain reference and the `=`, with nothing
+// between them. Returns the number 0 for any other form.
 Assignment ReadPlainAssignment(char* statement) {
-  constexpr std::ptrdiff_t kMostDigits = 9;
-  if (*statement != '#') return {};
-  std::size_t number = 0;
-  char* at = statement + 1;
-  for (; *at >= '0' && *at <= '9'; ++at) number = 10 * number + static_cast<std::size_t>(*at - '0');
-  if (*at != '=' || at - statement > kMostDigits + 1) return {};
-  return {number, at + 1};
+  std::uint32_t number = 0;
+  const char* const end = ReadPlainReference(statement, number);
+  if (end == nullptr || *end != '=') return {};
+  return {number, statement + (end + 1 - statement)};
+}
+
+// Cuts a statement whose left side has any other form.
+Assignment CutUnusualAssignment(char* statement) {
+  char* const sign = std::strchr(statement, '=');
+  if (sign == nullptr) return {};
+  *sign = '\0';
+  MEMBER left;
+  left.Parse(statement);
+  return {left, sign + 1};
 }
 
 // True if the statement begins with the head of a STEP file, in any case.
@@ -47,16 +55,8 @@ bool BeginsWithHead(const char* statement) {
 }  // namespace
 
 Assignment CutAssignment(char* statement) {
-  Assignment assignment = ReadPlainAssignment(statement);
-  if (assignment.number != 0) return assignment;
-  char* sign = std::strchr(statement, '=');
-  if (sign == nullptr) return assignment;
-  *sign = '\0';
-  MEMBER left;
-  left.Parse(statement);
-  assignment.number = left;
-  assignment.text = sign + 1;
-  return assignment;
+  const Assignment plain = ReadPlainAssignment(statement);
+  return plain.number != 0 ? plain : CutUnusualAssignment(statement);
 }
 
 std::int16_t RegisterStatement(IfcServer* server, char* statement) {
@@ -102,12 +102,12 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
     NoteStatement(assignment.number, KindOf(made.get()), assignment.text);
   }
   InsertItem(assignment.number, made.release());
-  if (isNoted) NotePlace(assignment.number, load.scanner->GetStatementPlace());
+  if (load.isReported && isNoted) NotePlace(assignment.number, load.scanner->GetStatementPlace());
   return 0;
 }
 
-// Makes what RegisterMade registers. Several threads can call it; the scanner of the thread has
-// returned the statement.
+// Makes what RegisterMade registers, without the server of the instance. The scanner has returned
+// the statement.
 MadeStatement IfcServer::MakeStatement(std::size_t id, const char* text,
                                        const ScanBuffer& scanner) {
   MadeStatement statement;
@@ -117,7 +117,6 @@ MadeStatement IfcServer::MakeStatement(std::size_t id, const char* text,
   statement.listed = ListedAsOf(statement.made.get());
   statement.place = scanner.GetStatementPlace();
   statement.column = static_cast<std::uint32_t>(scanner.GetPlace().column);
-  if (statement.made != nullptr) statement.made->SetServer(this);
   return statement;
 }
 
@@ -134,7 +133,7 @@ void IfcServer::RegisterMade(MadeStatement statement, const char* text) {
     NoteRepeat(statement.number, {statement.place.line, statement.column});
   }
   AppendNew(statement.number, std::move(statement.made), statement.listed);
-  NotePlace(statement.number, statement.place);
+  if (load.isReported) NotePlace(statement.number, statement.place);
 }
 
 void IfcServer::NotePlace(std::size_t id, const StatementPlace& place) {
@@ -192,9 +191,11 @@ void IfcServer::NoteNumber(std::size_t id) {
 }
 
 // Returns the instance that the statement at an offset made, or null. Only the last one of several
-// statements with the same number has an instance.
+// statements with the same number has an instance. A load without a report on several threads knows
+// no places, and has no such numbers.
 IfcUnknown* IfcServer::FindStated(std::size_t id, std::uint64_t offset) {
   const std::uint32_t position = idToIndex.Find(id);  // kNone is beyond all places
+  if (!load.isReported) return position == detail::NumberIndex::kNone ? nullptr : items[position];
   return position < places.size() && places[position].offset == offset ? items[position] : nullptr;
 }
 

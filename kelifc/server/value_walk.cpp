@@ -2,19 +2,18 @@
 
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/member.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/iso_text.h"
 #include "kelifc/core/text/quoting.h"
 
 namespace KelIFC {
 namespace {
 
-constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-constexpr bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
 constexpr bool IsMark(char c) { return c == '(' || c == ')' || c == ',' || c == kQuote; }
 
 ValueForm FormOfNumber(const char* text) {
   if (*text == '+' || *text == '-') ++text;
-  while (IsDigit(*text)) ++text;
+  while (ascii::IsDigit(*text)) ++text;
   return *text == '.' || *text == 'E' || *text == 'e' ? ValueForm::kReal : ValueForm::kInteger;
 }
 
@@ -30,15 +29,16 @@ ValueForm FormOf(const char* text) {
     case '(':
       return ValueForm::kList;
     case '#':
-      return IsDigit(text[1]) ? ValueForm::kReference : ValueForm::kNone;
+      return ascii::IsDigit(text[1]) ? ValueForm::kReference : ValueForm::kNone;
     case '.':
-      return IsDigit(text[1]) ? ValueForm::kReal : ValueForm::kEnumeration;
+      return ascii::IsDigit(text[1]) ? ValueForm::kReal : ValueForm::kEnumeration;
     default:
       break;
   }
-  if (IsLetter(*text) || *text == '!') return ValueForm::kTyped;
+  if (ascii::IsLetter(*text) || *text == '!') return ValueForm::kTyped;
   const bool hasSign = *text == '+' || *text == '-';
-  const bool isNumber = IsDigit(*text) || (hasSign && (IsDigit(text[1]) || text[1] == '.'));
+  const bool isNumber =
+      ascii::IsDigit(*text) || (hasSign && (ascii::IsDigit(text[1]) || text[1] == '.'));
   return isNumber ? FormOfNumber(text) : ValueForm::kNone;
 }
 

@@ -184,6 +184,22 @@ TEST(Coordinates, ReadRandomTextAsFromACopy) {
   }
 }
 
+TEST(Coordinates, ReadPlainNumbersAsFromACopy) {
+  std::mt19937 random(19);
+  for (int round = 0; round < 20000; ++round) {
+    std::string text = "(";
+    for (std::size_t count = random() % 6; count > 0; --count) {
+      if (random() % 2 == 0) text += "-";
+      text += std::to_string(random() >> random() % 32) + "." + std::to_string(random() % 1000);
+      text += count > 1 ? "," : "";
+    }
+    text += random() % 2 == 0 ? ")" : "),rest";
+    COORDINATES coordinates;
+    const std::string rest = RestOf(coordinates, text.c_str());
+    ASSERT_EQ(Text(coordinates) + " " + rest, ReadSlowly(text)) << text;
+  }
+}
+
 TEST(Coordinates, CopyUnsetNumbersAsZero) {
   COORDINATES coordinates;
   coordinates.Add(1.5);

@@ -89,15 +89,34 @@ TEST_F(Files, CanBeWrittenByOthersAtAPath) {
 }
 
 TEST_F(Files, AreInFoldersThatAreMade) {
-  MakeFolder(Path("a/b"));
-  MakeFolder(Path("a/b"));
+  for (int i = 0; i < 2; ++i) {
+    OutputFolder folder(Path("a/b"));
+    EXPECT_TRUE(fs::is_directory(Path("a/b")));
+    folder.Commit();
+  }
   EXPECT_TRUE(fs::is_directory(Path("a/b")));
+}
+
+TEST_F(Files, LeaveNoFolderThatWasMadeForThemWithoutCommit) {
+  fs::create_directory(Path("a"));
+  { const OutputFolder folder(Path("a/b/c")); }
+  EXPECT_FALSE(fs::exists(Path("a/b")));
+  EXPECT_TRUE(fs::exists(Path("a")));
+}
+
+TEST_F(Files, LeaveAFolderThatHasOtherFilesWithoutCommit) {
+  {
+    const OutputFolder folder(Path("a/b"));
+    std::ofstream(Path("a/other")) << "text";
+  }
+  EXPECT_FALSE(fs::exists(Path("a/b")));
+  EXPECT_EQ(ReadFile(Path("a/other")), "text");
 }
 
 TEST_F(Files, AreNotTakenForFolders) {
   std::ofstream(Path("a")) << "text";
-  EXPECT_THROW(MakeFolder(Path("a")), ExportError);
-  EXPECT_THROW(MakeFolder(Path("a/b")), ExportError);
+  EXPECT_THROW(OutputFolder(Path("a")), ExportError);
+  EXPECT_THROW(OutputFolder(Path("a/b")), ExportError);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include "kelifc/core/other.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/core/value.h"
+#include "kelifc/server/entity_name.h"
 #include "kelifc/server/ifc_server.h"
 
 #include "tests/server/probe.h"
@@ -161,6 +162,33 @@ TEST(ClassNames, CallTheOperationOfTheRelease) {
     server.CreateItem("X");
   }
   EXPECT_THAT(server.asked, ElementsAre("core", "151", "20", "2x", "2x2", "2x3", "core", "core"));
+}
+
+// A server that overrides an operation makes instances by these operations.
+class OwnServer : public IfcServer {
+ public:
+  IfcUnknown* InstantiateClass(const char* name) override {
+    return IfcServer::InstantiateClass(name);
+  }
+};
+
+TEST(ClassNames, AreTheSameInAServerThatOverridesOperations) {
+  const std::string longName(EntityName::kLongest + 1, 'A');
+  for (const IFC_RELEASE release : kReleases) {
+    OwnServer server;
+    server.SetRelease(release);
+    for (const std::string& name : {std::string("IFCWALL(1)"), std::string("IfcColumn (1)"),
+                                    std::string("ifccartesianpoint((1.))"), std::string("IFCFLOOR"),
+                                    std::string("IFCFOO(2)"), longName, std::string("")}) {
+      const Instance expected(server.ParseClass(name.c_str(), nullptr));
+      const Instance instance = Make(release, name.c_str());
+      EXPECT_EQ(NameOf(instance), NameOf(expected)) << name;
+      const auto* other = dynamic_cast<const IfcOther*>(instance.get());
+      if (other == nullptr) continue;
+      EXPECT_EQ(other->GetStepEntityName(),
+                dynamic_cast<const IfcOther&>(*expected).GetStepEntityName());
+    }
+  }
 }
 
 TEST(ClassNames, RegisterWhatIsCreated) {

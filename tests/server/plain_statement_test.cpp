@@ -4,6 +4,7 @@
 
 #include <random>
 #include <string>
+#include <vector>
 
 namespace KelIFC {
 namespace {
@@ -39,13 +40,17 @@ TEST(PlainStatement, IsFoundAtEachDistanceFromEachAlignment) {
       std::string text = std::string(start, ';') + std::string(length, 'x') + ";;";
       if (length > 10) text.replace(start + length - 9, 4, "';;'");
       const char* const begin = text.data() + start;
-      ASSERT_EQ(FindPlainEnd(begin, text.data() + text.size()), begin + length);
-      ASSERT_EQ(FindPlainEnd(begin, begin + length), nullptr);
+      for (const PlainEndFinder find : GetPlainEndFinders()) {
+        ASSERT_EQ(find(begin, text.data() + text.size()), begin + length);
+        ASSERT_EQ(find(begin, begin + length), nullptr);
+      }
     }
   }
 }
 
-TEST(PlainStatement, IsTheSameByteByByte) {
+TEST(PlainStatement, IsTheSameWithAllInstructionsOfTheProcessor) {
+  const std::vector<PlainEndFinder> finders = GetPlainEndFinders();
+  ASSERT_EQ(finders.back(), &FindPlainEndBytewise);
   constexpr char kCharacters[] = {'a', 'b', 'c', ' ', '(', ',', '\'', '\'', ';', '\xE4', '\xBB'};
   constexpr char kRare[] = {'/', '\\', '\n', '\r', '\0', '\t'};
   std::mt19937 random(4711);
@@ -59,7 +64,8 @@ TEST(PlainStatement, IsTheSameByteByByte) {
     }
     const char* const begin = text.data();
     const char* const end = begin + text.size();
-    ASSERT_EQ(FindPlainEnd(begin, end), FindPlainEndBytewise(begin, end)) << text;
+    const char* const expected = FindPlainEndBytewise(begin, end);
+    for (const PlainEndFinder find : finders) ASSERT_EQ(find(begin, end), expected) << text;
   }
 }
 

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <cstddef>
 #include <map>
 #include <memory>
@@ -7,6 +6,8 @@
 #include <typeinfo>
 #include <unordered_map>
 #include <utility>
+
+#include "kelifc/core/text/ascii.h"
 
 #include "tools/kelifc/commands.h"
 #include "tools/kelifc/json.h"
@@ -30,13 +31,6 @@ struct Info {
   CountsByName raw;                          ///< raw text, by the name of the entity in upper case
   std::optional<KelIFC::LoadReport> report;  ///< if the user asked for it
 };
-
-std::string UpperCase(std::string text) {
-  std::transform(text.begin(), text.end(), text.begin(), [](char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-  });
-  return text;
-}
 
 void Load(KelIFC::IfcServer& server, const InfoOptions& options) {
   if (options.report) {
@@ -68,7 +62,7 @@ class EntityCounts {
 
  private:
   void AddRaw(const KelIFC::IfcOther& other) {
-    ++raw[Utf8FromModel(server, UpperCase(other.GetStepEntityName()))];
+    ++raw[Utf8FromModel(server, KelIFC::ascii::ToUpperCase(other.GetStepEntityName()))];
   }
 
   const KelIFC::IfcServer& server;

@@ -17,7 +17,7 @@ namespace KelIFC {
 )";
 
 constexpr std::string_view kNoNames =
-    R"(IfcUnknown* MakeInstance@suffix@(const char*) { return nullptr; }
+    R"(IfcUnknown* MakeInstance@suffix@(const EntityName&) { return nullptr; }
 )";
 
 constexpr std::string_view kNamesTable = R"(namespace {
@@ -29,7 +29,7 @@ constexpr NameTable kNamesTable(kRows);
 
 }  // namespace
 
-IfcUnknown* MakeInstance@suffix@(const char* name) { return kNamesTable.Make(name); }
+IfcUnknown* MakeInstance@suffix@(const EntityName& name) { return kNamesTable.Make(name); }
 )";
 
 constexpr std::string_view kNamesRow = R"(    {"@upper@", MakeNew<@namespace@::@name@>},

@@ -7,14 +7,13 @@
 #include <vector>
 
 #include "kelifc/building/profile/parameter_table.h"
+#include "kelifc/core/text/ascii.h"
 
 namespace KelIFC::building {
 
 namespace {
 
 using enum ProfileParameter;
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 // Reads letters and numbers of a name from left to right. Blanks, hyphens and underscores between
 // them do not count.
@@ -27,17 +26,17 @@ class NameReader {
     std::string letters;
     for (;; rest.remove_prefix(1)) {
       SkipSeparators();
-      if (rest.empty() || !IsLetter(rest.front())) return letters;
-      letters += Upper(rest.front());
+      if (rest.empty() || !ascii::IsLetter(rest.front())) return letters;
+      letters += ascii::ToUpperCase(rest.front());
     }
   }
 
   // One letter that no other letter follows; 0 if there is none.
   char SingleLetter() {
     SkipSeparators();
-    if (rest.empty() || !IsLetter(rest.front())) return 0;
-    if (rest.size() > 1 && IsLetter(rest[1])) return 0;
-    const char letter = Upper(rest.front());
+    if (rest.empty() || !ascii::IsLetter(rest.front())) return 0;
+    if (rest.size() > 1 && ascii::IsLetter(rest[1])) return 0;
+    const char letter = ascii::ToUpperCase(rest.front());
     rest.remove_prefix(1);
     return letter;
   }
@@ -45,17 +44,18 @@ class NameReader {
   // A number, with a point or a comma before its fraction.
   std::optional<double> Number() {
     SkipSeparators();
-    if (rest.empty() || !IsDigit(rest.front())) return std::nullopt;
+    if (rest.empty() || !ascii::IsDigit(rest.front())) return std::nullopt;
     constexpr double kMost = 1e6;  // no size is larger
     double value = 0.0;
-    for (; !rest.empty() && IsDigit(rest.front()); rest.remove_prefix(1)) {
+    for (; !rest.empty() && ascii::IsDigit(rest.front()); rest.remove_prefix(1)) {
       value = std::min(kMost, value * 10.0 + (rest.front() - '0'));
     }
-    if (rest.size() < 2 || (rest[0] != '.' && rest[0] != ',') || !IsDigit(rest[1])) return value;
+    if (rest.size() < 2 || (rest[0] != '.' && rest[0] != ',') || !ascii::IsDigit(rest[1]))
+      return value;
     rest.remove_prefix(1);
     double numerator = 0.0;
     double divisor = 1.0;
-    for (; !rest.empty() && IsDigit(rest.front()); rest.remove_prefix(1)) {
+    for (; !rest.empty() && ascii::IsDigit(rest.front()); rest.remove_prefix(1)) {
       if (divisor >= 1e6) continue;
       numerator = numerator * 10.0 + (rest.front() - '0');
       divisor *= 10.0;
@@ -79,9 +79,6 @@ class NameReader {
   }
 
  private:
-  static bool IsLetter(char c) { return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z'); }
-  static char Upper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
   void SkipSeparators() {
     while (!rest.empty() && (rest.front() == ' ' || rest.front() == '-' || rest.front() == '_' ||
                              rest.front() == '\t')) {
@@ -97,7 +94,7 @@ class NameReader {
       if (rest.substr(0, sign.size()) != sign) continue;
       rest.remove_prefix(sign.size());
       SkipSeparators();
-      if (!rest.empty() && IsDigit(rest.front())) return true;
+      if (!rest.empty() && ascii::IsDigit(rest.front())) return true;
       break;
     }
     rest = before;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "kelifc/core/text/ascii.h"
+
 namespace KelIFC::building {
 namespace {
 
@@ -179,22 +181,13 @@ constexpr std::array<EntityRow, kEntityCount> kRows = {{
     {"IfcSubedge", 0},
 }};
 
-constexpr char Lower(char letter) {
-  return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
-}
-
-bool IsBefore(std::string_view a, std::string_view b) {
-  return std::lexicographical_compare(a.begin(), a.end(), b.begin(), b.end(),
-                                      [](char x, char y) { return Lower(x) < Lower(y); });
-}
-
 using Order = std::array<Entity, kEntityCount>;
 
 Order SortByName() {
   Order order;
   for (std::size_t i = 0; i < kEntityCount; ++i) order[i] = static_cast<Entity>(i);
   std::sort(order.begin(), order.end(),
-            [](Entity a, Entity b) { return IsBefore(RowOf(a).name, RowOf(b).name); });
+            [](Entity a, Entity b) { return ascii::IsBefore(RowOf(a).name, RowOf(b).name); });
   return order;
 }
 
@@ -204,10 +197,12 @@ const EntityRow& RowOf(Entity entity) { return kRows[static_cast<std::size_t>(en
 
 Entity FindEntityByName(std::string_view name) {
   static const Order order = SortByName();
-  const auto found = std::lower_bound(
-      order.begin(), order.end(), name,
-      [](Entity entity, std::string_view text) { return IsBefore(RowOf(entity).name, text); });
-  return found != order.end() && !IsBefore(name, RowOf(*found).name) ? *found : Entity::kOther;
+  const auto found =
+      std::lower_bound(order.begin(), order.end(), name, [](Entity entity, std::string_view text) {
+        return ascii::IsBefore(RowOf(entity).name, text);
+      });
+  return found != order.end() && !ascii::IsBefore(name, RowOf(*found).name) ? *found
+                                                                            : Entity::kOther;
 }
 
 }  // namespace KelIFC::building

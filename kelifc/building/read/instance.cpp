@@ -6,18 +6,13 @@
 #include "kelifc/core/global_id.h"
 #include "kelifc/core/other.h"
 #include "kelifc/core/references/cast_cache.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/utf8.h"
 
 namespace KelIFC::building {
 
 using Kind = AttributeValueKind;
-
-namespace {
-
-char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
-}  // namespace
 
 // A reference that neither names an instance nor holds one is unset.
 bool Value::IsSet() const {
@@ -98,7 +93,7 @@ std::string Instance::StatedEnumerator(Attribute attribute) const {
   const bool isKept = type->isRaw || type->readers[static_cast<std::size_t>(attribute)] != nullptr;
   if (isKept || !position) return Get(attribute).Enumerator();
   std::string entity(instance->GetStepName());
-  for (char& c : entity) c = ToUpper(c);
+  for (char& c : entity) c = ascii::ToUpperCase(c);
   const StatementView statement = model->Statements().Read(Number(), entity);
   const bool isEnumerator = statement.GetKind(*position + 1) == ATTRIBUTE_ENUMERATION;
   return isEnumerator ? statement.GetText(*position + 1) : std::string();

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <string>
 
+#include "kelifc/core/text/ascii.h"
+
 namespace KelIFC::building {
 namespace {
 
@@ -21,11 +23,7 @@ constexpr std::string_view kOthers[] = {
 };
 
 std::string NameOf(const Instance& representation) {
-  std::string name = representation.Get(Attribute::kIdentifier).Text();
-  for (char& c : name) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return name;
+  return ascii::ToUpperCase(representation.Get(Attribute::kIdentifier).Text());
 }
 
 Value RepresentationsOf(const Instance& product) {

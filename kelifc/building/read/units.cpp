@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "kelifc/core/text/ascii.h"
+
 namespace KelIFC::building {
 namespace {
 
@@ -47,17 +49,12 @@ std::optional<double> FactorOf(const NamedFactor (&table)[Count], std::string_vi
   return std::nullopt;
 }
 
-std::string UpperCase(std::string text) {
-  for (char& c : text) {
-    if (c >= 'a' && c <= 'z') c = static_cast<char>(c - 'a' + 'A');
-  }
-  return text;
-}
-
 bool IsFactor(double factor) { return std::isfinite(factor) && factor > 0.0; }
 
 std::string NameOf(const Instance& unit) {
-  if (unit.GetEntity() != Entity::kSiUnit) return UpperCase(unit.Get(Attribute::kName).Text());
+  if (unit.GetEntity() != Entity::kSiUnit) {
+    return ascii::ToUpperCase(unit.Get(Attribute::kName).Text());
+  }
   return unit.Get(Attribute::kPrefix).Enumerator() + unit.Get(Attribute::kName).Enumerator();
 }
 

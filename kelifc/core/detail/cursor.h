@@ -35,7 +35,7 @@ inline bool SkipOmittedValue(const char*& next, const char* text) {
   if (text == nullptr) return false;
   const char* first = SkipBlanks(text);
   if (*first != '$' && *first != '*') return false;
-  next = BehindNextComma(first);
+  next = BehindNextComma(first + 1);
   return true;
 }
 

@@ -4,6 +4,8 @@
 #include <bit>
 #include <charconv>
 
+#include "kelifc/core/text/ascii.h"
+
 namespace KelIFC::detail {
 
 namespace {
@@ -51,8 +53,6 @@ std::uint64_t ToUpper(std::uint64_t characters) {
   return characters - (isLower >> 2);
 }
 
-char ToUpper(char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; }
-
 // Copies a text in upper case and returns the end of the copy.
 char* CopyUpperCase(std::string_view text, char* out) {
   constexpr std::size_t kWord = sizeof(std::uint64_t);
@@ -62,7 +62,7 @@ char* CopyUpperCase(std::string_view text, char* out) {
     word = ToUpper(word);
     std::memcpy(out, &word, kWord);
   }
-  for (const char c : text) *out++ = ToUpper(c);
+  for (const char c : text) *out++ = ascii::ToUpperCase(c);
   return out;
 }
 

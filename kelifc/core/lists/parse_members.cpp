@@ -1,6 +1,8 @@
 #include "kelifc/core/lists/parse_members.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <string>
 
 #include "kelifc/core/detail/cursor.h"
@@ -8,11 +10,35 @@
 #include "kelifc/core/lists/parenthesised.h"
 #include "kelifc/core/parameter_value.h"
 #include "kelifc/core/text/number_text.h"
+#include "kelifc/core/text/reference_text.h"
 #include "kelifc/core/value.h"
 
 namespace KelIFC {
 
 namespace {
+
+// Parses a list in its usual form, which is short: references with a comma, and perhaps a blank,
+// between them. Returns the position after the parenthesis. Returns null for any other list, and
+// then `items` does not change.
+template <class Items>
+const char* ReadPlainList(const char* text, IfcUnknown* owner, Items& items) {
+  constexpr std::size_t kMostNumbers = 64;
+  std::array<std::uint32_t, kMostNumbers> numbers;
+  std::size_t count = 0;
+  if (*text != '(') return nullptr;
+  const char* at = text;
+  do {
+    ++at;
+    if (*at == ' ') ++at;
+    if (count == kMostNumbers) return nullptr;
+    at = ReadPlainReference(at, numbers[count++]);
+    if (at == nullptr) return nullptr;
+  } while (*at == ',');
+  if (*at != ')') return nullptr;
+  items.Reserve(count);
+  for (std::size_t i = 0; i < count; ++i) items.Append(owner, std::size_t{numbers[i]});
+  return at + 1;
+}
 
 // Parses `#n` and unset elements without a copy of the text. The text has no further parenthesis,
 // so no parser of numbers reads beyond its end. Returns the position of the first other element, or
@@ -56,12 +82,21 @@ void ReadElements(const std::string& text, IfcUnknown* owner, Items& items) {
   }
 }
 
+template <class Items>
+void DropUnusedSpace(Items& items) {
+  if (items.GetSize() < items.GetCapacity() / 2) items.ShrinkToFit();
+}
+
 }  // namespace
 
 template <class Header>
 const char* ParseMembers(const char* text, IfcUnknown* owner,
                          detail::Sequence<MEMBER, Header>& items) {
   items.Clear();
+  if (const char* const end = ReadPlainList(text, owner, items)) {
+    DropUnusedSpace(items);
+    return detail::BehindNextComma(end);
+  }
   detail::Parenthesised inner;
   if (!detail::FindParenthesised(text, inner)) return text;
   if (inner.begin != inner.end) {
@@ -70,7 +105,7 @@ const char* ParseMembers(const char* text, IfcUnknown* owner,
     items.Reserve(std::min(inner.CountCommas(inner.begin), length / 2) + 1);
     const char* rest = inner.isNested ? inner.begin : ReadNumbers(inner, owner, items);
     if (rest != nullptr) ReadElements(std::string(rest, inner.end), owner, items);
-    if (items.GetSize() < items.GetCapacity() / 2) items.ShrinkToFit();
+    DropUnusedSpace(items);
   }
   return inner.BehindNextComma();
 }

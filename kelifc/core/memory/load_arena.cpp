@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdint>
 #include <new>
 
 #include "kelifc/core/memory/chunk_map.h"
 #include "kelifc/platform/huge_pages.h"
+#include "kelifc/platform/static_tls.h"
 
 namespace KelIFC {
 
@@ -41,7 +43,8 @@ constexpr std::size_t kFirstPart = std::size_t{16} * 1024;
 
 constexpr std::size_t kLargestAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
-thread_local LoadArena* current = nullptr;
+KELIFC_STATIC_TLS thread_local LoadArena* current = nullptr;
+KELIFC_STATIC_TLS thread_local BulkFree* freeing = nullptr;
 
 // `unit` is a power of two.
 constexpr std::size_t RoundUp(std::size_t size, std::size_t unit) {
@@ -56,6 +59,19 @@ constexpr std::size_t AlignmentOf(std::size_t size) {
 
 }  // namespace
 
+// This is called for each block, so it is defined before the callers that shall contain its code.
+inline void* LoadArena::Carve(std::size_t size, std::size_t alignment) {
+  const std::size_t taken = std::max<std::size_t>(size, 1);
+  std::size_t begin = RoundUp(cursor, alignment);
+  while (begin + taken > end) {
+    Extend();
+    begin = RoundUp(cursor, alignment);
+  }
+  cursor = begin + taken;
+  ++carved;
+  return reinterpret_cast<char*>(chunk) + begin;
+}
+
 void* detail::AllocateBlock(std::size_t size) { return AllocateBlock(size, AlignmentOf(size)); }
 
 void* detail::AllocateBlock(std::size_t size, std::size_t alignment) {
@@ -66,8 +82,24 @@ void* detail::AllocateBlock(std::size_t size, std::size_t alignment) {
   return ::operator new(size);
 }
 
+// Returns false if no chunk contains the block.
+inline bool BulkFree::Count(void* block) noexcept {
+  const auto address = reinterpret_cast<std::uintptr_t>(block);
+  Pending& pending = chunks[address / ChunkMap::kChunkSize % kChunks];
+  const std::uintptr_t begin = address - address % ChunkMap::kChunkSize;
+  if (pending.chunk == nullptr || reinterpret_cast<std::uintptr_t>(pending.chunk) != begin) {
+    void* const chunk = ChunkMap::Find(block);
+    if (chunk == nullptr) return false;
+    Settle(pending);
+    pending.chunk = static_cast<LoadArena::Chunk*>(chunk);
+  }
+  ++pending.blocks;
+  return true;
+}
+
 void detail::FreeBlock(void* block) noexcept {
   if (block == nullptr) return;
+  if (freeing != nullptr && freeing->Count(block)) return;
   if (void* const chunk = ChunkMap::Find(block)) {
     static_cast<LoadArena::Chunk*>(chunk)->Drop(1);
   } else {
@@ -82,16 +114,16 @@ LoadArena::~LoadArena() {
   current = outer;
 }
 
-void* LoadArena::Carve(std::size_t size, std::size_t alignment) {
-  const std::size_t taken = std::max<std::size_t>(size, 1);
-  std::size_t begin = RoundUp(cursor, alignment);
-  while (begin + taken > end) {
-    Extend();
-    begin = RoundUp(cursor, alignment);
-  }
-  cursor = begin + taken;
-  ++carved;
-  return reinterpret_cast<char*>(chunk) + begin;
+BulkFree::BulkFree() : outer(freeing) { freeing = this; }
+
+BulkFree::~BulkFree() {
+  for (Pending& pending : chunks) Settle(pending);
+  freeing = outer;
+}
+
+void BulkFree::Settle(Pending& pending) noexcept {
+  if (pending.chunk != nullptr) pending.chunk->Drop(pending.blocks);
+  pending = {};
 }
 
 // Begins the next part of the chunk, or a new chunk.

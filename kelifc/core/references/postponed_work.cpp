@@ -1,9 +1,11 @@
 #include "kelifc/core/references/postponed_work.h"
 
+#include "kelifc/platform/static_tls.h"
+
 namespace KelIFC {
 namespace {
 
-thread_local PostponedWork* current = nullptr;
+KELIFC_STATIC_TLS thread_local PostponedWork* current = nullptr;
 
 }  // namespace
 

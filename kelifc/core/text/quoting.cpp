@@ -120,7 +120,7 @@ const char* DecodeQuoted(const char* text, std::string& out) {
 }
 
 bool FindPlainQuoted(const char* text, std::string_view& plain) {
-  const char* const opening = std::strchr(text, kQuote);
+  const char* const opening = *text == kQuote ? text : std::strchr(text, kQuote);
   if (opening == nullptr) return false;
   const char* const closing = std::strchr(opening + 1, kQuote);
   if (closing == nullptr) return false;

@@ -29,6 +29,11 @@ void NumberIndex::Set(std::uint64_t number, std::uint32_t position) {
     return;
   }
   if (number < kSlotsPerNumber * (count + 1) + kFreeSlots) {
+    if (number == dense.size() && outliers.empty()) {
+      dense.push_back(position);
+      ++count;
+      return;
+    }
     // The number may have been an outlier; when the array grows, the number moves into it.
     GrowDense(static_cast<std::size_t>(number) + 1);
     Set(number, position);

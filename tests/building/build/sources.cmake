@@ -6,6 +6,7 @@ set(stage_tests
   first_use_test.cpp
   storeys_test.cpp
   idealise_bent_member_test.cpp
+  idealise_curved_wall_test.cpp
   idealise_cut_taper_test.cpp
   idealise_measure_test.cpp
   idealise_member_test.cpp

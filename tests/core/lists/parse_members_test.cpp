@@ -111,6 +111,22 @@ TEST_P(ParseMembersTest, ReadsRandomTextInPlaceAsFromACopy) {
   }
 }
 
+TEST_P(ParseMembersTest, ReadsPlainReferencesOfAnyCount) {
+  std::mt19937 random(19);
+  for (std::size_t count = 1; count < 200; ++count) {
+    Read expected = {{}, "#1)"};
+    std::string text = "(";
+    for (std::size_t i = 0; i < count; ++i) {
+      expected.elements.push_back(
+          "#" + std::to_string(1 + random() % (random() % 2 == 0 ? 100U : 2147483647U)));
+      text += (i == 0 ? "" : random() % 4 == 0 ? ", " : ",") + expected.elements.back();
+    }
+    text += "),#1)";
+    ASSERT_EQ(ReadAs<LIST_OF_MEMBERS>(text, &owner), expected) << text;
+    ASSERT_EQ(ReadAs<SET_OF_MEMBERS>(text, &owner), expected) << text;
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Releases, ParseMembersTest,
                          testing::Values(IFC_RELEASE_NONE, IFC_RELEASE_2X, IFC_RELEASE_2X3));
 

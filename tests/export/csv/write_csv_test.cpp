@@ -98,6 +98,13 @@ TEST_F(Csv, ACancelledExportLeavesTheOldFiles) {
   EXPECT_EQ(std::distance(fs::directory_iterator(folder / "out"), fs::directory_iterator()), 10);
 }
 
+TEST_F(Csv, ACancelledExportLeavesNoNewFolder) {
+  ExportOptions options = Options();
+  options.progress = [](double) { return false; };
+  EXPECT_THROW(WriteCsv(TwoStoreys(), options), ExportError);
+  EXPECT_FALSE(fs::exists(folder / "out"));
+}
+
 TEST_F(Csv, ReportsProgressUpToTheEnd) {
   double last = 0.0;
   ExportOptions options = Options();
