@@ -1,6 +1,8 @@
 #include "kelifc/server/ifc_server.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstring>
 #include <new>
 #include <utility>
@@ -250,14 +252,22 @@ IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
 // again only after it has grown.
 void IfcServer::BuildGuidIndex() {
   if (slotsWithoutGuid == items.size()) return;
-  constexpr std::size_t kAhead = 16;
-  detail::GuidIndex made(rootPositions.size());  // assigned when complete: an allocation can fail
-  for (std::size_t i = 0; i < rootPositions.size(); ++i) {
-    if (i + kAhead < rootPositions.size()) {
-      detail::PrefetchInstance(items[rootPositions[i + kAhead]]);
+  constexpr std::size_t kBatch = 16;
+  constexpr std::size_t kWithText = 256;  // bytes of an instance and its identifier
+  const std::size_t count = rootPositions.size();
+  std::array<detail::GuidIndex::Entry, kBatch> found = {};
+  detail::GuidIndex made(count);  // assigned when complete: an allocation can fail
+  for (std::size_t begin = 0; begin < count; begin += kBatch) {
+    const std::size_t end = std::min(begin + kBatch, count);
+    for (std::size_t i = end; i < std::min(end + kBatch, count); ++i) {
+      detail::PrefetchInstance(items[rootPositions[i]], kWithText);
     }
-    _GUID guid = {};
-    if (ReadGlobalGuid(items[rootPositions[i]], guid)) made.Add(guid, rootPositions[i]);
+    detail::GuidIndex::Entry* last = found.data();
+    for (std::size_t i = begin; i < end; ++i) {
+      last->position = rootPositions[i];
+      if (ReadGlobalGuid(items[last->position], last->guid)) ++last;
+    }
+    made.AddBatch(found.data(), last);
   }
   guidIndex = std::move(made);
   if (guidIndex.IsEmpty()) slotsWithoutGuid = items.size();

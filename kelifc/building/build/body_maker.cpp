@@ -39,9 +39,16 @@ BodyResult Fault(LossReason reason, const std::vector<SolidPointer>& items) {
 
 }  // namespace
 
-BodyMaker::Shared* BodyMaker::FindShared(const std::vector<SolidPointer>& items) {
-  const auto found = shared.find(items.front().get());
-  return found == shared.end() || found->second.items != items ? nullptr : &found->second;
+BodyMaker::Use BodyMaker::FindUse(const std::vector<SolidPointer>& items,
+                                  const Transform3& placement) {
+  const MappedItems* const map = OnlyMap(items);
+  const auto found = map == nullptr ? shared.end() : shared.find(map->items.front().get());
+  if (found == shared.end() || found->second.items != map->items) return {};
+  Shared& entry = found->second;
+  const Transform3 motion = Combine(placement, map->transform);
+  // The only use that is left is made in its place, unless an earlier one was moved.
+  const bool isMoved = (entry.isMoved || entry.usesLeft > 1) && IsMotion(motion);
+  return {&entry, map->items.front().get(), motion, isMoved};
 }
 
 void BodyMaker::Announce(const std::vector<SolidPointer>& items) {
@@ -52,26 +59,38 @@ void BodyMaker::Announce(const std::vector<SolidPointer>& items) {
   if (entry.items == map->items) ++entry.usesLeft;
 }
 
+void BodyMaker::Finish(const Use& use) {
+  if (use.entry == nullptr) return;
+  use.entry->isMoved = use.entry->isMoved || use.isMoved;
+  if (--use.entry->usesLeft == 0) shared.erase(use.first);
+}
+
 BodyResult BodyMaker::Make(const std::vector<SolidPointer>& items, const Transform3& placement) {
   if (pointsLeft == 0) return Fault(LossReason::kLimit, items);
-  const MappedItems* map = OnlyMap(items);
-  Shared* const entry = map == nullptr ? nullptr : FindShared(map->items);
-  if (entry == nullptr) return Evaluate(items, placement);
-
-  const bool isLast = --entry->usesLeft == 0;
-  const Transform3 motion = Combine(placement, map->transform);
+  const Use use = FindUse(items, placement);
   BodyResult result;
-  if ((isLast && !entry->isMade) || !IsMotion(motion)) {
+  if (!use.isMoved) {
     result = Evaluate(items, placement);
   } else {
-    if (!entry->isMade) entry->result = Evaluate(map->items, Transform3());
-    entry->isMade = true;
-    result = entry->result;
-    if (!result.fault) Move(result.body, motion);
+    Shared& entry = *use.entry;
+    if (!entry.isMade) entry.result = Evaluate(entry.items, Transform3());
+    entry.isMade = true;
+    result = entry.result;
+    if (!result.fault) Move(result.body, use.motion);
     Charge(result.body.mesh.points.size());
   }
-  if (isLast) shared.erase(map->items.front().get());
+  Finish(use);
   return result;
+}
+
+bool BodyMaker::IsMoved(const std::vector<SolidPointer>& items, const Transform3& placement) {
+  return FindUse(items, placement).isMoved;
+}
+
+void BodyMaker::Skip(const std::vector<SolidPointer>& items, const Transform3& placement,
+                     std::size_t points) {
+  Finish(FindUse(items, placement));
+  Charge(points);
 }
 
 BodyResult BodyMaker::Evaluate(const std::vector<SolidPointer>& items,

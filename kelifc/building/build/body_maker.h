@@ -29,15 +29,37 @@ class BodyMaker {
   /// bodies of the model have too many points.
   BodyResult Make(const std::vector<SolidPointer>& items, const Transform3& placement);
 
+  /// True if Make would move a shared body to its place. Rounding makes it differ from a body that
+  /// is made in its place.
+  bool IsMoved(const std::vector<SolidPointer>& items, const Transform3& placement);
+
+  /// Replaces a call of Make, for a caller that has the body already. `points` is the number of its
+  /// points.
+  void Skip(const std::vector<SolidPointer>& items, const Transform3& placement,
+            std::size_t points);
+
+  /// True if the limit of the model does not restrict the next body.
+  bool HasRoom() const { return pointsLeft >= maxBodyPoints; }
+
  private:
   struct Shared {
     std::size_t usesLeft = 0;
     bool isMade = false;
+    bool isMoved = false;  // at least one use was moved, so the last one is, too
     std::vector<SolidPointer> items;
     BodyResult result;  // in the coordinates of the items
   };
 
-  Shared* FindShared(const std::vector<SolidPointer>& items);
+  /// What a call of Make uses of the shared bodies.
+  struct Use {
+    Shared* entry = nullptr;  // null if the items are not shared
+    const Solid* first = nullptr;
+    Transform3 motion;
+    bool isMoved = false;  // the shared body is moved by `motion`
+  };
+
+  Use FindUse(const std::vector<SolidPointer>& items, const Transform3& placement);
+  void Finish(const Use& use);
   BodyResult Evaluate(const std::vector<SolidPointer>& items, const Transform3& placement);
   void Charge(std::size_t points);
 

@@ -10,10 +10,6 @@ namespace {
 // Larger outlines are not aligned, since that takes the square of the number of points.
 constexpr std::size_t kMostAligned = 256;
 
-// The places of the sections at both faces and in the middle, where a rim may have its tip, as
-// parts of the thickness. A little beside, so that no section runs through points.
-constexpr double kPlaces[] = {1e-4, 0.4999, 0.5001, 0.9999};
-
 // Edges that move by less from face to face are square, in metres.
 constexpr double kSquareEdge = 1e-4;
 
@@ -32,6 +28,18 @@ bool AddShifts(const Outline& middle, const Outline& near, std::vector<double>& 
     const double second = Dot(near[next] - middle[next], outward);
     if (std::fabs(first - second) > kSquareEdge) return false;
     shifts[i] = std::max(shifts[i], first);
+  }
+  return true;
+}
+
+// How far each edge of the section in the middle has to move to contain those at the faces and
+// beside the middle, where a rim may have its tip.
+bool FindShifts(Boundary& boundary, const PlaneFrame& plane, const Outline& middle,
+                const Span& span, double beside, std::vector<double>& shifts) {
+  for (const double place : {beside, 0.5 - beside, 0.5 + beside, 1.0 - beside}) {
+    std::optional<Section> near = SectionAt(boundary, plane, span.from + place * span.Length());
+    if (!near || near->regionCount != 1 || !Align(middle, near->region.outer)) return false;
+    if (!AddShifts(middle, near->region.outer, shifts)) return false;
   }
   return true;
 }
@@ -89,18 +97,14 @@ bool Align(const FlatRegion& model, FlatRegion& region) {
 }
 
 std::optional<Outline> OutlineAroundBevels(Boundary& boundary, const PlaneFrame& plane,
-                                           const Section& section, const Span& span) {
-  const Outline& middle = section.region.outer;
-  std::vector<double> shifts(middle.size(), 0.0);
-  for (const double place : kPlaces) {
-    std::optional<Section> near = SectionAt(boundary, plane, span.from + place * span.Length());
-    if (!near || near->regionCount != 1 || !Align(middle, near->region.outer)) {
-      return std::nullopt;
-    }
-    if (!AddShifts(middle, near->region.outer, shifts)) return std::nullopt;
+                                           const Section& section, const Span& span,
+                                           double beside) {
+  std::vector<double> shifts(section.region.outer.size(), 0.0);
+  if (!FindShifts(boundary, plane, section.region.outer, span, beside, shifts) ||
+      *std::max_element(shifts.begin(), shifts.end()) < kSquareEdge) {
+    return std::nullopt;
   }
-  if (*std::max_element(shifts.begin(), shifts.end()) < kSquareEdge) return std::nullopt;
-  return MoveEdges(middle, shifts);
+  return MoveEdges(section.region.outer, shifts);
 }
 
 }  // namespace KelIFC::building::idealising

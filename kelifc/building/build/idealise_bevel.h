@@ -16,10 +16,16 @@ bool Align(const Outline& model, Outline& loop);
 bool Align(const FlatRegion& model, FlatRegion& region);
 
 /// The outline of a plate whose rim is not square to it, as at the mitre of a wall or at the eaves
-/// of a roof: around the sections at both faces. `section` is the one in the middle. None if the
+/// of a roof: around the sections at both faces. `section` is the one in the middle. `beside` is
+/// how far beside the faces the sections are taken, as a part of the thickness. None if the
 /// sections do not correspond, or if no edge is bevelled.
 std::optional<Outline> OutlineAroundBevels(Boundary& boundary, const PlaneFrame& plane,
-                                           const Section& section, const Span& span);
+                                           const Section& section, const Span& span, double beside);
+
+/// Values of `beside`. A section must not run through points: the second value is for faces whose
+/// points are rounded to 0.1 mm.
+constexpr double kBesideFace = 1e-4;
+constexpr double kBesideRoundedFace = 2e-3;
 
 }  // namespace KelIFC::building::idealising
 

@@ -8,6 +8,10 @@
 namespace KelIFC::building::idealising {
 namespace {
 
+// Walls that are lower or thinner than this are none, in metres.
+constexpr double kLeastHeight = 1e-6;
+constexpr double kLeastThickness = 1e-6;
+
 // The middle line of a strip.
 struct MiddleLine {
   CurveForm curve = CurveForm::kArc;
@@ -15,13 +19,12 @@ struct MiddleLine {
   double thickness = 0.0;
 };
 
-std::optional<MiddleLine> ArcOf(const Strip& strip) {
-  const std::optional<StripCircles> circles = FindCircles(strip);
-  if (!circles || circles->chordError > kLargestChordError) return std::nullopt;
+MiddleLine ArcOf(const ArcStrip& arcs) {
+  const auto& [strip, circles] = arcs;
   MiddleLine line;
-  line.thickness = std::fabs(circles->left.radius - circles->right.radius);
-  const Point2& centre = circles->right.centre;
-  const double radius = (circles->left.radius + circles->right.radius) / 2;
+  line.thickness = std::fabs(circles.left.radius - circles.right.radius);
+  const Point2& centre = circles.right.centre;
+  const double radius = (circles.left.radius + circles.right.radius) / 2;
   const auto onCircle = [&](const Point2& p) {
     return centre + (p - centre) * (radius / Distance(centre, p));
   };
@@ -47,41 +50,74 @@ std::optional<MiddleLine> BentLineOf(const Strip& strip) {
   return line;
 }
 
+std::optional<MiddleLine> MiddleOf(const Outline& outline) {
+  if (const std::optional<ArcStrip> arcs = FindArcStrip(outline)) return ArcOf(*arcs);
+  const std::optional<Strip> strip = FindStrip(outline);
+  return strip ? BentLineOf(*strip) : std::nullopt;
+}
+
+// The section of one region, without holes, that holds over the greatest height.
+const Section* PlanOf(const std::vector<Section>& sections) {
+  const auto plan = std::find_if(sections.begin(), sections.end(), [](const Section& section) {
+    return section.regionCount == 1 && section.region.holes.empty();
+  });
+  return plan != sections.end() ? &*plan : nullptr;
+}
+
+// True if a section is a bent wall that a door divides. The parts of a straight wall have four
+// points.
+bool IsDivided(const Section& section) {
+  return section.regionCount > 1 && section.region.outer.size() > 4;
+}
+
+// The middle line in the plan of a wall. If a door divides the section that holds over the greatest
+// height, the plan is above or below that section.
+std::optional<MiddleLine> LineInPlan(Boundary& boundary, const PlaneFrame& plane,
+                                     const Span& span) {
+  if (!(span.Length() > kLeastHeight)) return std::nullopt;
+  const std::vector<Section> sections = ScanSections(boundary, plane, span);
+  if (const Section* plan = PlanOf(sections)) return MiddleOf(plan->region.outer);
+  if (sections.empty() || !IsDivided(sections[0])) return std::nullopt;
+  const Span gap = LongestGap(boundary, NormalOf(plane), span);
+  for (const Span& rest : {Span{gap.to, span.to}, Span{span.from, gap.from}}) {
+    if (!(rest.Length() > kLeastHeight)) continue;
+    const std::vector<Section> others = ScanSections(boundary, plane, rest);
+    if (const Section* plan = PlanOf(others)) return MiddleOf(plan->region.outer);
+  }
+  return std::nullopt;
+}
+
+Reading MakeCurvedWall(const Subject& subject, const MiddleLine& line, const PlaneFrame& base,
+                       double height) {
+  Reading reading;
+  reading.kind = ElementKind::kSurface;
+  reading.surface.thickness = line.thickness;
+  WallSweep sweep;
+  sweep.curve = line.curve;
+  double length = 0.0;
+  for (std::size_t i = 0; i < line.points.size(); ++i) {
+    sweep.points.push_back(Lift(base, line.points[i]));
+    if (i > 0) length += Distance(line.points[i - 1], line.points[i]);
+  }
+  sweep.direction = NormalOf(base);
+  sweep.height = height;
+  reading.surface.sweep = std::move(sweep);
+  const double smaller = std::min(length, height);
+  reading.size = line.thickness;
+  reading.suitability = SuitabilityOfSurface(
+      subject.role, {std::max(length, height) / std::max(smaller, 1e-9), smaller / line.thickness});
+  return reading;
+}
+
 }  // namespace
 
 std::optional<Reading> ReadCurvedWall(Subject& subject, const Vector3& up) {
-  const PlaneFrame plane = FrameAcross(up, {});
+  PlaneFrame plane = FrameAcross(up, {});
   const Span span = subject.boundary.Along(up);
-  if (!(span.Length() > 1e-6)) return std::nullopt;
-  const std::vector<Section> sections = ScanSections(subject.boundary, plane, span);
-  if (sections.empty() || sections[0].regionCount != 1 || !sections[0].region.holes.empty()) {
-    return std::nullopt;
-  }
-  const std::optional<Strip> strip = FindStrip(sections[0].region.outer);
-  if (!strip) return std::nullopt;
-  std::optional<MiddleLine> line = ArcOf(*strip);
-  if (!line) line = BentLineOf(*strip);
-  if (!line || !(line->thickness > 1e-6)) return std::nullopt;
-  Reading reading;
-  reading.kind = ElementKind::kSurface;
-  reading.surface.thickness = line->thickness;
-  WallSweep sweep;
-  sweep.curve = line->curve;
-  PlaneFrame base = plane;
-  base.origin += (span.from - At(plane.origin, up)) * up;
-  double length = 0.0;
-  for (std::size_t i = 0; i < line->points.size(); ++i) {
-    sweep.points.push_back(Lift(base, line->points[i]));
-    if (i > 0) length += Distance(line->points[i - 1], line->points[i]);
-  }
-  sweep.direction = up;
-  sweep.height = span.Length();
-  reading.surface.sweep = std::move(sweep);
-  const double smaller = std::min(length, span.Length());
-  reading.size = line->thickness;
-  reading.suitability = SuitabilityOfSurface(
-      subject.role,
-      {std::max(length, span.Length()) / std::max(smaller, 1e-9), smaller / line->thickness});
+  const std::optional<MiddleLine> line = LineInPlan(subject.boundary, plane, span);
+  if (!line || !(line->thickness > kLeastThickness)) return std::nullopt;
+  plane.origin += (span.from - At(plane.origin, up)) * up;
+  Reading reading = MakeCurvedWall(subject, *line, plane, span.Length());
   if (!Measure(subject, reading)) return std::nullopt;
   return reading;
 }

@@ -12,9 +12,6 @@ namespace {
 // Points nearer than this, in metres, are the same point.
 constexpr double kSamePoint = 1e-5;
 
-// A face of the body whose points are nearer than this to the surface of the solid lies on it.
-constexpr double kOnSurface = 1e-3;
-
 // Cut-outs explain a difference only where most of the surface of the solid is left.
 constexpr double kSmallestSharedSurface = 0.6;
 constexpr double kLargestCutVolume = 1.35;
@@ -106,8 +103,9 @@ class FaceInterior {
 // The faces of a body that lie inside of a solid, and how they are connected.
 class InnerFaces {
  public:
-  InnerFaces(Boundary& source, const SurfaceDistance& solid, const PointMatch& solidPoints)
-      : boundary(source), mesh(source.Mesh()), surface(solid) {
+  InnerFaces(Boundary& source, const SurfaceDistance& solid, const PointMatch& solidPoints,
+             double distance)
+      : boundary(source), mesh(source.Mesh()), surface(solid), onSurface(distance) {
     isOn.resize(mesh.points.size(), kUnknown);
     for (std::size_t i = 0; i < mesh.points.size(); ++i) {
       if (solidPoints.Find(mesh.points[i], kSamePoint) != PointMatch::kNone) isOn[i] = kYes;
@@ -156,7 +154,7 @@ class InnerFaces {
   }
 
   bool IsPointOn(Mesh::Index i) {
-    if (isOn[i] == kUnknown) isOn[i] = surface.To(mesh.points[i]) <= kOnSurface ? kYes : kNo;
+    if (isOn[i] == kUnknown) isOn[i] = surface.To(mesh.points[i]) <= onSurface ? kYes : kNo;
     return isOn[i] == kYes;
   }
 
@@ -168,12 +166,13 @@ class InnerFaces {
         if (!IsPointOn(i)) return false;
       }
     }
-    return surface.To(FaceInterior(mesh, facts.normal).Find(face)) <= kOnSurface;
+    return surface.To(FaceInterior(mesh, facts.normal).Find(face)) <= onSurface;
   }
 
   Boundary& boundary;
   const Mesh& mesh;
   const SurfaceDistance& surface;
+  double onSurface;
   std::vector<char> isOn;
   std::vector<std::size_t> inner;
   double sharedArea = 0.0;
@@ -223,7 +222,7 @@ double SurfaceOf(const Mesh& mesh) {
 }
 
 void MeasureDifference(Boundary& boundary, const Mesh& solid, const PointMatch& solidPoints,
-                       const Matches& ofBody, const Matches& ofSolid, Fit& fit) {
+                       const Matches& ofBody, const Matches& ofSolid, double onSurface, Fit& fit) {
   const SurfaceDistance surface(solid);
   const double outside = LargestOutside(boundary, ofBody, surface);
   const SolidDistances distances = DistancesOfSolid(boundary, solid.points, ofSolid);
@@ -233,7 +232,7 @@ void MeasureDifference(Boundary& boundary, const Mesh& solid, const PointMatch& 
   const bool isEqual =
       distances.all <= kExactDeviation && IsVolumeExact(fit) && std::fabs(*fit.ratio - 1.0) < 1e-4;
   if (!isContained || isEqual) return;
-  const InnerFaces inner(boundary, surface, solidPoints);
+  const InnerFaces inner(boundary, surface, solidPoints, onSurface);
   // Solids side by side have faces between them, which the idealised solid lacks.
   const double area = boundary.SolidCount() > 1 ? SurfaceOf(solid) : boundary.Area();
   if (inner.SharedArea() < kSmallestSharedSurface * area) return;
@@ -257,7 +256,7 @@ bool AreInSameOrder(const std::vector<Point3>& a, const std::vector<Point3>& b, 
 
 bool IsSameVolume(const Fit& fit) { return !fit.ratio || std::fabs(*fit.ratio - 1.0) < 1e-4; }
 
-void MeasurePoints(Boundary& boundary, const Mesh& solid, Fit& fit) {
+void MeasurePoints(Boundary& boundary, const Mesh& solid, double onSurface, Fit& fit) {
   if (AreInSameOrder(boundary.Points(), solid.points, fit.deviation) && IsSameVolume(fit)) return;
   const PointMatch solidPoints(solid.points);
   const PointMatch bodyPoints(boundary.Points());
@@ -265,16 +264,16 @@ void MeasurePoints(Boundary& boundary, const Mesh& solid, Fit& fit) {
   const Matches ofSolid = MatchPoints(solid.points, boundary.Points(), bodyPoints);
   fit.deviation = std::max(ofBody.largest, ofSolid.largest);
   if (ofBody.unmatched == 0 && ofSolid.unmatched == 0 && IsSameVolume(fit)) return;
-  MeasureDifference(boundary, solid, solidPoints, ofBody, ofSolid, fit);
+  MeasureDifference(boundary, solid, solidPoints, ofBody, ofSolid, onSurface, fit);
 }
 
 }  // namespace
 
-Fit MeasureFit(Boundary& boundary, const Mesh& solid) {
+Fit MeasureFit(Boundary& boundary, const Mesh& solid, double onSurface) {
   Fit fit;
   fit.volume = VolumeOf(solid);
   if (const std::optional<double> volume = boundary.Volume()) fit.ratio = fit.volume / *volume;
-  MeasurePoints(boundary, solid, fit);
+  MeasurePoints(boundary, solid, onSurface, fit);
   const bool isExplained = IsVolumeExact(fit) || (fit.ratio && fit.cutouts > 0);
   fit.isApproximate = fit.deviation > kExactDeviation || !isExplained;
   return fit;

@@ -22,10 +22,16 @@ struct Fit {
   bool isApproximate = true;
 };
 
+/// A face of the body whose points are nearer than this to the surface of the solid lies on it, in
+/// metres. The chords of a curved body lie farther from the arcs of the solid than plane faces do.
+constexpr double kOnPlaneSurface = 1e-3;
+constexpr double kOnCurvedSurface = kExactDeviation;
+
 /// Compares a solid with a body. All points that lie on each other count as no deviation; for the
 /// others distances are computed. A part that is cut out of the solid is recognised by the faces of
-/// the body inside of the solid: connected ones are one cut-out.
-Fit MeasureFit(Boundary& boundary, const Mesh& solid);
+/// the body inside of the solid: connected ones are one cut-out. `onSurface` is the distance within
+/// which a face of the body lies on the solid.
+Fit MeasureFit(Boundary& boundary, const Mesh& solid, double onSurface = kOnPlaneSurface);
 
 }  // namespace KelIFC::building::idealising
 

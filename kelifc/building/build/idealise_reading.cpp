@@ -47,6 +47,11 @@ Rank RankOf(const Reading& reading) {
   return reading.fit.isApproximate ? kApproximate : kExact;
 }
 
+bool FollowsAnArc(const Reading& reading) {
+  if (reading.kind == ElementKind::kMember) return reading.member.curve == CurveForm::kArc;
+  return reading.surface.sweep && reading.surface.sweep->curve == CurveForm::kArc;
+}
+
 // The factor if the element is flat rather than slender, or the other way round.
 constexpr double kOtherKindIsNearer = 0.6;
 
@@ -118,7 +123,8 @@ bool Measure(Subject& subject, Reading& reading) {
     const double ratio = VolumeOf(reading.solid) / *volume;
     if (!(ratio > kLeastVolume && ratio < kMostVolume)) return false;
   }
-  reading.fit = MeasureFit(subject.boundary, reading.solid);
+  reading.fit = MeasureFit(subject.boundary, reading.solid,
+                           FollowsAnArc(reading) ? kOnCurvedSurface : kOnPlaneSurface);
   return reading.fit.volume > 0.0;
 }
 

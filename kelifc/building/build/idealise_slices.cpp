@@ -11,9 +11,11 @@
 namespace KelIFC::building::idealising {
 namespace {
 
-// Each trial slices the boundary several times, so only the most promising ones are made.
+// Each trial slices the boundary several times, so only the most promising ones are made. Of a body
+// of several parts that has more faces than kFewFaces, fewer are made.
 constexpr std::size_t kMostTrials = 8;
 constexpr std::size_t kMostTrialsOfSeveral = 3;
+constexpr std::size_t kFewFaces = 500;
 constexpr double kLeastPromise = 0.03;
 
 struct Trial {
@@ -143,7 +145,8 @@ std::optional<Reading> ReadBySlices(Subject& subject, const std::vector<Vector3>
   }
   const std::vector<Direction> directions = FindDirections(subject.boundary, hints);
   std::vector<Trial> trials = MakeTrials(subject, directions);
-  const std::size_t most = isSeveral ? kMostTrialsOfSeveral : kMostTrials;
+  const bool isLarge = isSeveral && subject.boundary.Faces().size() > kFewFaces;
+  const std::size_t most = isLarge ? kMostTrialsOfSeveral : kMostTrials;
   if (trials.size() > most) trials.resize(most);
   for (const Trial& trial : trials) {
     if (trial.promise < kLeastPromise) break;

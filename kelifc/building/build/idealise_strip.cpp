@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "kelifc/building/build/idealise_solid.h"
@@ -24,6 +25,10 @@ constexpr std::size_t kMostPoints = 512;
 // changes by less than kSameWidth, in metres.
 constexpr double kParallel = 2e-3;
 constexpr double kSameWidth = 1e-3;
+
+// The points of a chord that is broken in two lie within this distance of a line, in metres. It is
+// larger than the rounding of coordinates to 0.1 mm.
+constexpr double kBrokenChord = 1e-4;
 
 double TurnAt(const Outline& outline, std::size_t i) {
   const std::size_t count = outline.size();
@@ -71,6 +76,22 @@ bool IsParallel(const Strip& strip) {
   return true;
 }
 
+// The outline without points on the line between their neighbours. Of two such points side by side
+// one stays, so that fine chords keep their form.
+Outline WithoutBrokenChords(const Outline& outline) {
+  Outline result;
+  bool isDropped = false;
+  for (std::size_t i = 0; i < outline.size(); ++i) {
+    const Point2& before = outline[(i + outline.size() - 1) % outline.size()];
+    Vector2 along = outline[(i + 1) % outline.size()] - before;
+    Normalise(along);
+    isDropped = !isDropped && std::fabs(Cross(along, outline[i] - before)) < kBrokenChord &&
+                Dot(along, outline[i] - before) > 0.0;
+    if (!isDropped) result.push_back(outline[i]);
+  }
+  return result;
+}
+
 Point3 InSpace(const Point2& p) { return {p.x, p.y, 0.0}; }
 
 std::optional<PlaneCircle> CircleThrough(const Outline& chain) {
@@ -96,6 +117,14 @@ double ChordError(const PlaneCircle& circle, const Outline& chain) {
     error = std::max(error, circle.radius - Distance(circle.centre, middle));
   }
   return error;
+}
+
+std::optional<ArcStrip> ArcsOf(const Outline& outline) {
+  std::optional<Strip> strip = FindStrip(outline);
+  if (!strip) return std::nullopt;
+  const std::optional<StripCircles> circles = FindCircles(*strip);
+  if (!circles || circles->chordError > kLargestChordError) return std::nullopt;
+  return ArcStrip{std::move(*strip), *circles};
 }
 
 }  // namespace
@@ -141,6 +170,12 @@ std::optional<StripCircles> FindCircles(const Strip& strip) {
   StripCircles circles{*left, *right, 0.0};
   circles.chordError = std::max(ChordError(*left, strip.left), ChordError(*right, strip.right));
   return circles;
+}
+
+std::optional<ArcStrip> FindArcStrip(const Outline& outline) {
+  if (outline.size() < 2 * kLeastPoints) return std::nullopt;
+  std::optional<ArcStrip> found = ArcsOf(outline);
+  return found ? found : ArcsOf(WithoutBrokenChords(outline));
 }
 
 }  // namespace KelIFC::building::idealising

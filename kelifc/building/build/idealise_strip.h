@@ -27,7 +27,7 @@ struct PlaneCircle {
   double radius = 0.0;
 };
 
-/// The circles of the two sides of a strip, which have one centre.
+/// The circles of the two sides of a strip, which have the same centre.
 struct StripCircles {
   PlaneCircle left;
   PlaneCircle right;
@@ -43,6 +43,14 @@ std::optional<StripCircles> FindCircles(const Strip& strip);
 /// Chords with a larger chord error are no arc, in metres. It is smaller than the deviation that
 /// makes an element approximate.
 constexpr double kLargestChordError = 3e-3;
+
+/// The strip of an outline whose sides are arcs, with their circles. Chords that are broken in two
+/// nearly straight edges count as one. None if the sides are no arcs, or their chords are too long.
+struct ArcStrip {
+  Strip strip;
+  StripCircles circles;
+};
+std::optional<ArcStrip> FindArcStrip(const Outline& outline);
 
 /// The distance within which points lie on a circle, in metres.
 constexpr double kOnCircle = 1e-3;

@@ -131,11 +131,18 @@ std::optional<Reading> ReadWithSection(Subject& subject, const PlaneFrame& plane
   std::optional<Reading> best =
       ReadWithOutline(subject, plane, section.region.outer, section.region.holes, span);
   if (best && !best->fit.isApproximate) return best;
-  std::optional<Outline> around = OutlineAroundBevels(subject.boundary, plane, section, faces.span);
-  if (!around) around = LargerFace(subject.boundary, plane, faces.span);
-  if (!around) return best;
-  KeepBetter(best,
-             ReadWithOutline(subject, plane, std::move(*around), section.region.holes, faces.span));
+  const auto read = [&](std::optional<Outline> around) {
+    if (!around) return;
+    KeepBetter(best, ReadWithOutline(subject, plane, std::move(*around), section.region.holes,
+                                     faces.span));
+  };
+  Boundary& boundary = subject.boundary;
+  std::optional<Outline> around =
+      OutlineAroundBevels(boundary, plane, section, faces.span, kBesideFace);
+  const bool isBevelled = around.has_value();
+  read(isBevelled ? std::move(around) : LargerFace(boundary, plane, faces.span));
+  if (isBevelled || !best || !best->fit.isApproximate) return best;
+  read(OutlineAroundBevels(boundary, plane, section, faces.span, kBesideRoundedFace));
   return best;
 }
 

@@ -14,10 +14,6 @@ namespace {
 // use the map, so that many uses of a large map do not multiply its items.
 constexpr std::size_t kMostCopiedItems = 64;
 
-SolidPointer MakeUnreadable(LossReason reason, std::size_t at, std::size_t id) {
-  return std::make_shared<const Solid>(Solid{id, Unreadable{reason, at}});
-}
-
 void AddTargets(const Value& list, std::vector<Instance>& targets) {
   for (std::size_t i = 0; i < list.Size(); ++i) {
     if (const Instance target = list[i].Target()) targets.push_back(target);
@@ -43,10 +39,10 @@ const std::vector<SolidPointer>& ItemReader::ReadItems(const Instance& represent
 }
 
 SolidPointer ItemReader::ReadShared(const Instance& representation) {
-  return Complete(representation).solid;
+  return Share(Complete(representation), representation.Number());
 }
 
-const ItemReader::Node& ItemReader::Complete(const Instance& instance) {
+ItemReader::Node& ItemReader::Complete(const Instance& instance) {
   const std::size_t number = instance.Number();
   const auto known = nodes.find(number);
   if (known != nodes.end()) return known->second;
@@ -66,7 +62,12 @@ const ItemReader::Node& ItemReader::Complete(const Instance& instance) {
 
 void ItemReader::Push(const Instance& instance) {
   nodes.try_emplace(instance.Number());
-  stack.push_back({instance, ChildrenOf(instance), 0});
+  Frame frame{instance, ChildrenOf(instance), 0};
+  if (frame.children.empty()) {
+    Finish(frame);
+  } else {
+    stack.push_back(std::move(frame));
+  }
 }
 
 std::vector<Instance> ItemReader::ChildrenOf(const Instance& instance) const {
@@ -109,23 +110,23 @@ void ItemReader::Finish(const Frame& frame) {
   if (isGroup) {
     FinishGroup(frame, node);
   } else if (node.height > context.options.maxDepth) {
-    node.solid = MakeUnreadable(LossReason::kLimit, number, number);
+    node.solid = Refuse(LossReason::kLimit, number, number);
   } else if (frame.instance.GetEntity() == Entity::kCsgSolid && !frame.children.empty()) {
     node.solid = SolidOf(frame.instance, frame.children.front());
   } else {
-    node.solid = std::make_shared<const Solid>(Make(frame.instance));
+    node.solid = context.memory.Share(Make(frame.instance));
   }
   node.isComplete = true;
 }
 
 // Items that are no bodies count only if there are no others.
-void ItemReader::FinishGroup(const Frame& frame, Node& node) const {
+void ItemReader::FinishGroup(const Frame& frame, Node& node) {
   const Value list = frame.instance.Get(Attribute::kItems);
   std::vector<SolidPointer> others;
   for (std::size_t i = 0; i < list.Size(); ++i) {
     if (list[i].IsDangling()) {
       node.group.push_back(
-          MakeUnreadable(LossReason::kDangling, frame.instance.Number(), list[i].TargetNumber()));
+          Refuse(LossReason::kDangling, frame.instance.Number(), list[i].TargetNumber()));
       continue;
     }
     const Instance item = list[i].Target();
@@ -133,15 +134,25 @@ void ItemReader::FinishGroup(const Frame& frame, Node& node) const {
     (item.Is(kIsNeverBody) ? others : node.group).push_back(SolidOf(frame.instance, item));
   }
   if (node.group.empty()) node.group = std::move(others);
-  node.solid = std::make_shared<const Solid>(
-      Solid{frame.instance.Number(), MappedItems{Transform3(), node.group}});
+}
+
+SolidPointer ItemReader::Refuse(LossReason reason, std::size_t at, std::size_t id) const {
+  return context.memory.Share(Solid{id, Unreadable{reason, at}});
+}
+
+// The solid of a node. That of a representation is made at its first use: most are never used.
+SolidPointer ItemReader::Share(Node& node, std::size_t number) const {
+  if (!node.solid) {
+    node.solid = context.memory.Share(Solid{number, MappedItems{Transform3(), node.group}});
+  }
+  return node.solid;
 }
 
 // The solid of an item that has been read. One that is being read contains its user.
-SolidPointer ItemReader::SolidOf(const Instance& user, const Instance& item) const {
+SolidPointer ItemReader::SolidOf(const Instance& user, const Instance& item) {
   const auto found = nodes.find(item.Number());
-  if (found != nodes.end() && found->second.isComplete) return found->second.solid;
-  return MakeUnreadable(LossReason::kCycle, user.Number(), item.Number());
+  if (found != nodes.end() && found->second.isComplete) return Share(found->second, item.Number());
+  return Refuse(LossReason::kCycle, user.Number(), item.Number());
 }
 
 Solid ItemReader::Make(const Instance& item) {
@@ -227,14 +238,14 @@ void ItemReader::ReadMapped(const Instance& item, Solid& solid, Unreadable& why)
     why = {LossReason::kCycle, item.Number()};
     return;
   }
-  const Node& node = found->second;
+  Node& node = found->second;
   if (node.group.empty()) {
     why = {LossReason::kNoItems, representation.Number()};
     return;
   }
   MappedItems mapped{Combine(target, InverseOfAxes(*origin)), {}};
   if (node.group.size() > kMostCopiedItems) {
-    mapped.items = {node.solid};
+    mapped.items = {Share(node, representation.Number())};
   } else {
     mapped.items = node.group;
   }

@@ -40,12 +40,14 @@ class ItemReader {
     std::size_t next = 0;
   };
 
-  const Node& Complete(const Instance& instance);
+  Node& Complete(const Instance& instance);
   void Push(const Instance& instance);
   void Finish(const Frame& frame);
   std::vector<Instance> ChildrenOf(const Instance& instance) const;
-  SolidPointer SolidOf(const Instance& user, const Instance& item) const;
-  void FinishGroup(const Frame& frame, Node& node) const;
+  SolidPointer Refuse(LossReason reason, std::size_t at, std::size_t id) const;
+  SolidPointer Share(Node& node, std::size_t number) const;
+  SolidPointer SolidOf(const Instance& user, const Instance& item);
+  void FinishGroup(const Frame& frame, Node& node);
   Solid Make(const Instance& item);
 
   void ReadExtrusion(const Instance& item, Solid& solid, Unreadable& why);

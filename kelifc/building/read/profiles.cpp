@@ -167,7 +167,7 @@ ProfileReader::Entry ProfileReader::Make(const Instance& profile, std::size_t de
     default:
       isRead = ReadShape(profile, facts, entry.why);
   }
-  if (isRead) entry.profile = std::make_shared<const ProfileFacts>(std::move(facts));
+  if (isRead) entry.profile = context.memory.Share(std::move(facts));
   return entry;
 }
 

@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <optional>
 
+#include "kelifc/building/facts/shared_memory.h"
 #include "kelifc/building/facts/solid_facts.h"
 #include "kelifc/building/read/instance.h"
 #include "kelifc/building/read/units.h"
@@ -20,6 +21,8 @@ struct ReadContext {
   /// How many points and steps the curves and shells of the model may still take. Shapes that use
   /// each other many times cannot take more.
   std::size_t budget = 0;
+
+  SharedMemory memory = {};  ///< of solids and profiles
 
   /// Takes some of the budget; false if there is not enough left.
   bool Spend(std::size_t count) {

@@ -3,8 +3,10 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <limits>
 #include <utility>
 
+#include "kelifc/building/solid/box_tree.h"
 #include "kelifc/building/solid/loops.h"
 #include "kelifc/building/solid/point_index.h"
 #include "kelifc/building/solid/vector_math.h"
@@ -13,9 +15,20 @@ namespace KelIFC::building {
 
 namespace {
 
-// The time grows with the square of the number of points.
-constexpr std::size_t kMostPoints = 400;
-constexpr std::size_t kMostPieces = 1500;
+// Regions with more points stay as they are, and so do those whose edges cross more often.
+constexpr std::size_t kMostPoints = 4000;
+constexpr std::size_t kMostPieces = 8000;
+
+// The most pairs of edges that are compared. Only edges that overlap in a direction are, so that
+// outlines need few; edges that are made to overlap need the square of their number.
+constexpr std::size_t kMostPairs = 500'000;
+
+BuildingBox BoxOf(const Point2& a, const Point2& b) {
+  BuildingBox box;
+  Extend(box, Point3(a.x, a.y, 0.0));
+  Extend(box, Point3(b.x, b.y, 0.0));
+  return box;
+}
 
 /// The edges of all loops, cut where they touch or cross each other.
 class EdgeSplitter {
@@ -28,15 +41,12 @@ class EdgeSplitter {
     }
   }
 
-  /// The pieces of the edges, in the direction of the edges.
+  /// The pieces of the edges, in the direction of the edges; none if there are too many.
   std::vector<DirectedEdge> Split() {
-    for (std::size_t i = 0; i < edges.size(); ++i) {
-      for (std::size_t k = 0; k < i; ++k) {
-        if (AreNear(edges[i], edges[k])) Cut(edges[i], edges[k]);
-      }
-    }
+    if (!CutAll()) return {};
     std::vector<DirectedEdge> pieces;
     for (Edge& edge : edges) AddPieces(edge, pieces);
+    if (pieces.size() > kMostPieces) return {};
     return pieces;
   }
 
@@ -66,15 +76,25 @@ class EdgeSplitter {
     }
   }
 
-  bool AreNear(const Edge& a, const Edge& b) const {
-    const Point2 p = At(a.from);
-    const Point2 q = At(a.to);
-    const Point2 r = At(b.from);
-    const Point2 s = At(b.to);
-    return std::max(p.x, q.x) + tolerance >= std::min(r.x, s.x) &&
-           std::max(r.x, s.x) + tolerance >= std::min(p.x, q.x) &&
-           std::max(p.y, q.y) + tolerance >= std::min(r.y, s.y) &&
-           std::max(r.y, s.y) + tolerance >= std::min(p.y, q.y);
+  /// Cuts the edges where they meet. False if they meet too often.
+  bool CutAll() {
+    std::vector<BuildingBox> boxes;
+    boxes.reserve(edges.size());
+    for (const Edge& edge : edges) boxes.push_back(BoxOf(At(edge.from), At(edge.to)));
+    const BoxTree tree(boxes);
+    std::size_t pairs = 0;
+    std::vector<std::uint32_t> near;
+    for (std::uint32_t i = 0; i < edges.size(); ++i) {
+      near.clear();
+      tree.ForEachNear(boxes[i], tolerance, [&](std::uint32_t k) {
+        if (k < i) near.push_back(k);
+      });
+      pairs += near.size();
+      if (pairs > kMostPairs || index.Points().size() > kMostPieces) return false;
+      std::sort(near.begin(), near.end());
+      for (const std::uint32_t k : near) Cut(edges[i], edges[k]);
+    }
+    return true;
   }
 
   /// Attaches a point to an edge if it lies on it. True if it is a point of the edge then.
@@ -154,58 +174,82 @@ std::vector<Piece> Balanced(const std::vector<DirectedEdge>& edges) {
   return sums;
 }
 
-Point2 Turned(const Point2& p) { return {p.y, -p.x}; }
-
-/// How often the pieces other than one wind around the middle of that one.
-class Winding {
+/// Pieces, and which of them a ray to the right can cross.
+class Rays {
  public:
-  Winding(const std::vector<Point2>& somePoints, const std::vector<Piece>& somePieces)
-      : pieces(somePieces), points(somePoints) {
-    turned.reserve(points.size());
-    for (const Point2& p : points) turned.push_back(Turned(p));
+  Rays(std::vector<Point2> somePoints, const std::vector<Piece>& somePieces)
+      : points(std::move(somePoints)), pieces(somePieces) {
+    std::vector<BuildingBox> boxes;
+    boxes.reserve(pieces.size());
+    for (const Piece& piece : pieces) {
+      boxes.push_back(BoxOf(points[piece.ends.first], points[piece.ends.second]));
+    }
+    tree = BoxTree(boxes);
   }
 
-  /// The winding number on the left of a piece.
-  int LeftOf(std::size_t piece) const {
-    const auto& [a, b] = pieces[piece].ends;
-    const Vector2 along = points[b] - points[a];
-    // The ray crosses the piece as steeply as possible.
-    const std::vector<Point2>& own = std::abs(along.y) >= std::abs(along.x) ? points : turned;
-    const Point2 middle = Between(own[a], own[b], 0.5);
-    int sum = 0;
-    for (std::size_t i = 0; i < pieces.size(); ++i) {
-      if (i != piece)
-        sum += Crossing(middle, own[pieces[i].ends.first], own[pieces[i].ends.second],
-                        pieces[i].balance);
-    }
-    // The ray from the left of a piece that rises crosses it.
-    return own[b].y > own[a].y ? sum + pieces[piece].balance : sum;
+  /// The winding number of the pieces on the left of one of them. `visits` counts the others that
+  /// are looked at.
+  int LeftOf(std::size_t own, std::size_t& visits) const {
+    const Point2& a = points[pieces[own].ends.first];
+    const Point2& b = points[pieces[own].ends.second];
+    const Point2 middle = Between(a, b, 0.5);
+    // A ray from the left of a piece that rises crosses it.
+    int sum = b.y > a.y ? pieces[own].balance : 0;
+    constexpr double kNever = std::numeric_limits<double>::infinity();
+    tree.Search(
+        [&](const BuildingBox& box) {
+          const bool isBeside =
+              box.min.y > middle.y || box.max.y < middle.y || box.max.x < middle.x;
+          return isBeside ? kNever : 0.0;
+        },
+        [&](std::uint32_t i) {
+          ++visits;
+          if (i != own) sum += Crossing(middle, pieces[i]);
+          return kNever;
+        });
+    return sum;
   }
 
  private:
   /// What a piece adds to the winding number: upwards to the right of the point it turns around it.
-  static int Crossing(const Point2& p, const Point2& a, const Point2& b, int balance) {
+  int Crossing(const Point2& p, const Piece& piece) const {
+    const Point2& a = points[piece.ends.first];
+    const Point2& b = points[piece.ends.second];
     if ((a.y <= p.y) == (b.y <= p.y)) return 0;
     const double side = Turn(a, b, p);
-    if (b.y > a.y) return side > 0.0 ? balance : 0;
-    return side < 0.0 ? -balance : 0;
+    if (b.y > a.y) return side > 0.0 ? piece.balance : 0;
+    return side < 0.0 ? -piece.balance : 0;
   }
 
+  std::vector<Point2> points;
   const std::vector<Piece>& pieces;
-  const std::vector<Point2>& points;
-  std::vector<Point2> turned;
+  BoxTree tree;
 };
 
-/// The pieces with the union on one side only, such that it is on their left.
+std::vector<Point2> Turned(const std::vector<Point2>& points) {
+  std::vector<Point2> turned;
+  turned.reserve(points.size());
+  for (const Point2& p : points) turned.emplace_back(p.y, -p.x);
+  return turned;
+}
+
+/// The pieces with the union on one side only, such that it is on their left. None if that takes
+/// too many comparisons.
 std::vector<DirectedEdge> BoundaryOf(const std::vector<Point2>& points,
                                      const std::vector<Piece>& pieces) {
-  const Winding winding(points, pieces);
+  const Rays level(points, pieces);
+  const Rays upright(Turned(points), pieces);
+  std::size_t visits = 0;
   std::vector<DirectedEdge> boundary;
   for (std::size_t i = 0; i < pieces.size(); ++i) {
-    const int left = winding.LeftOf(i);
+    const auto& [a, b] = pieces[i].ends;
+    // The ray crosses the piece as steeply as possible.
+    const Vector2 along = points[b] - points[a];
+    const bool isUpright = std::abs(along.y) < std::abs(along.x);
+    const int left = (isUpright ? upright : level).LeftOf(i, visits);
+    if (visits > kMostPairs) return {};
     const int right = left - pieces[i].balance;
     if ((left > 0) == (right > 0)) continue;
-    const auto& [a, b] = pieces[i].ends;
     boundary.push_back(left > 0 ? DirectedEdge(a, b) : DirectedEdge(b, a));
   }
   return boundary;
@@ -222,7 +266,6 @@ std::vector<FlatRegion> UniteRegions(std::vector<FlatRegion> regions, double tol
   if (regions.size() < 2 || count > kMostPoints) return regions;
   EdgeSplitter splitter(regions, tolerance);
   const std::vector<Piece> pieces = Balanced(splitter.Split());
-  if (pieces.size() > kMostPieces) return regions;
   const std::vector<Point2> points = splitter.Points();
   const TracedLoops traced = TraceLoops(points, BoundaryOf(points, pieces));
   if (!traced.isComplete) return regions;

@@ -125,6 +125,27 @@ TEST(Assemble, TheMaterialOfLayersIsThatOfTheThickest) {
   EXPECT_EQ(layers[3].thickness, 0.0);
 }
 
+// The normal of a slab points upwards, so the layers of one that is built downwards are reversed.
+TEST(Assemble, TheLayersOfASlabFollowItsNormal) {
+  for (const bool isUpwards : {true, false}) {
+    ProductFacts slab = Product(1, "IfcSlab", {Block(5.0, 4.0, 0.3)});
+    slab.material.layers = {{"screed", true, 0.1}, {"concrete", true, 0.2}};
+    slab.material.usage = {3, isUpwards, 0.0, true};
+    const Building building = Assembled({slab});
+    ASSERT_EQ(building.totals.surfaces, 1u);
+    ASSERT_EQ(building.materials.size(), 2u);
+    EXPECT_EQ(building.materials[0].name, "screed");
+    const SurfaceRegion& surface = *building.elements[0].surface;
+    EXPECT_NEAR(surface.normal.z, 1.0, 1e-12);
+    ASSERT_EQ(surface.layers.size(), 2u);
+    const std::size_t screed = isUpwards ? 0 : 1;
+    EXPECT_EQ(surface.layers[screed].material, 0u);
+    EXPECT_EQ(surface.layers[screed].thickness, 0.1);
+    EXPECT_EQ(surface.layers[1 - screed].material, 1u);
+    EXPECT_EQ(surface.layers[1 - screed].thickness, 0.2);
+  }
+}
+
 TEST(Assemble, AProductWithoutItemsIsALoss) {
   ProductFacts nothing = Product(4, "IfcSlab", {});
   ProductFacts empty = Product(5, "IfcSlab", {});

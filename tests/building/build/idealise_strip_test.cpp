@@ -46,6 +46,36 @@ TEST(Strip, WithParallelSidesMayTurnSharply) {
   EXPECT_FALSE(FindCircles(*strip));
 }
 
+// The same with a point in the middle of each chord, 0.03 mm off it on alternating sides.
+Outline WithBrokenChords(const Outline& outline) {
+  Outline broken;
+  double off = 3e-5;
+  for (std::size_t i = 0; i < outline.size(); ++i) {
+    const Point2& next = outline[(i + 1) % outline.size()];
+    Vector2 along = next - outline[i];
+    Normalise(along);
+    broken.push_back(outline[i]);
+    broken.push_back(Between(outline[i], next) + Vector2{along.y, -along.x} * off);
+    off = -off;
+  }
+  return broken;
+}
+
+TEST(Strip, OfAnArcMayHaveBrokenChords) {
+  // In the middle of a chord of the outer side, the circle is 1.5 mm away.
+  const Outline ring = QuarterRing(32, 32);
+  ASSERT_TRUE(FindArcStrip(ring));
+  const auto arcs = FindArcStrip(WithBrokenChords(ring));
+  ASSERT_TRUE(arcs);
+  EXPECT_NEAR(arcs->circles.left.radius + arcs->circles.right.radius, 9.0, 1e-6);
+  EXPECT_EQ(arcs->strip.left.size(), 33u);
+}
+
+TEST(Strip, OfAnArcHasShortChords) {
+  EXPECT_TRUE(FindStrip(QuarterRing(8, 8)));
+  EXPECT_FALSE(FindArcStrip(QuarterRing(8, 8)));
+}
+
 TEST(Strip, IsNoneForOtherOutlines) {
   EXPECT_FALSE(FindParallelStrip({}));
   EXPECT_FALSE(FindParallelStrip({{0.0, 0.0}, {4.0, 0.0}, {4.0, 1.0}, {0.0, 1.0}}));

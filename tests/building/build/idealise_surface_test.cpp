@@ -207,6 +207,19 @@ TEST(IdealiseSurface, ContainsTheMitredAndPointedEndsOfAWall) {
   EXPECT_NEAR(*wall.volumeRatio, 5.08 * 0.24 / plan, 1e-4);
 }
 
+TEST(IdealiseSurface, FollowsASlopeAcrossAWallWhosePointsAreRounded) {
+  // The upper edge falls by 0.1 m across the wall, whose faces are up to 0.05 mm from plane.
+  const double e = 5e-5;
+  const Sample sample = SampleOf(
+      LoftOf({{{0.0, e, 0.0}, {0.0, 0.2, -e}, {0.0, 0.2 - e, 3.0}, {0.0, 0.0, 3.1}},
+              {{5.0, -e, 0.0}, {5.0, 0.2 + e, 0.0}, {5.0, 0.2, 3.0}, {5.0, 0.0, 3.1 + e}}}));
+  const Idealisation wall = sample.BySlices(ElementRole::kWall);
+  ASSERT_EQ(wall.kind, ElementKind::kSurface);
+  EXPECT_NEAR(wall.surface->thickness, 0.2, 2e-4);
+  EXPECT_NEAR(AreaOf(*wall.surface), 5.0 * 3.1, 0.01);
+  EXPECT_FALSE(wall.isApproximate);
+}
+
 TEST(IdealiseSurface, TakesTheMeanThicknessOfAWedge) {
   // 0.20 m thick at one side, 0.21 m at the other.
   const Sample sample(

@@ -4,6 +4,7 @@
 
 #include <cmath>
 #include <limits>
+#include <numbers>
 
 #include "kelifc/building/solid/mesh_tools.h"
 
@@ -26,6 +27,42 @@ TEST(Idealise, ReadsAStairAsThePrismThatItIs) {
     EXPECT_FALSE(stair.isApproximate);
     EXPECT_NEAR(stair.volume, 1.2 * 0.3 * 0.2 * 10, 1e-9);
   }
+}
+
+// The outline of a tread of 260 by 40 mm whose front is rounded by 24 chords.
+std::vector<Point2> TreadWithRoundFront(double x, double z) {
+  std::vector<Point2> tread = {{x + 0.26, z}, {x + 0.26, z + 0.04}};
+  for (int i = 0; i <= 24; ++i) {
+    const double angle = std::numbers::pi * (0.5 + i / 24.0);
+    tread.push_back({x + 0.02 * std::cos(angle), z + 0.02 + 0.02 * std::sin(angle)});
+  }
+  return tread;
+}
+
+TEST(Idealise, UnitesTheTreadsAndRisersOfAFlightOfManySteps) {
+  std::vector<SolidPointer> items;
+  for (int i = 0; i < 20; ++i) {
+    const double x = 0.25 * i;
+    const double z = 0.17 * i;
+    items.push_back(PrismAlongY(PolygonProfile(TreadWithRoundFront(x, z + 0.13)), 1.2));
+    items.push_back(PrismAlongY(
+        PolygonProfile({{x, z}, {x + 0.01, z}, {x + 0.01, z + 0.13}, {x, z + 0.13}}), 1.2));
+  }
+  const Idealisation flight = Sample(items).BySlices(ElementRole::kOther);
+  ASSERT_EQ(flight.kind, ElementKind::kSurface);
+  EXPECT_NEAR(flight.surface->thickness, 1.2, 1e-9);
+  EXPECT_FALSE(flight.isApproximate);
+  EXPECT_LT(flight.deviation, 1e-6);
+}
+
+TEST(Idealise, UnitesAWallWithItsPilasters) {
+  const Sample sample({Block({0.0, 0.0, 0.0}, {6.0, 0.2, 3.0}),
+                       Block({1.0, 0.2, 0.0}, {1.4, 0.4, 3.0}),
+                       Block({4.0, 0.2, 0.0}, {4.4, 0.4, 3.0})});
+  const Idealisation wall = sample.BySlices(ElementRole::kWall);
+  EXPECT_NE(wall.kind, ElementKind::kBody);
+  EXPECT_FALSE(wall.isApproximate);
+  EXPECT_NEAR(wall.volume, 3.0 * (6.0 * 0.2 + 2 * 0.4 * 0.2), 1e-6);
 }
 
 TEST(Idealise, PrefersAnExactReadingToOneOfBetterProportions) {
@@ -114,6 +151,24 @@ TEST(Idealise, FallsBackToTheBoundaryWhereTheFactsDiffer) {
   ASSERT_EQ(column.kind, ElementKind::kMember);
   EXPECT_NEAR(column.member->points[1].z, 4.0, 1e-9);
   EXPECT_NEAR(column.deviation, 0.0, 1e-9);
+}
+
+TEST(MadeProfiles, MakesEqualProfilesOnce) {
+  MadeProfiles profiles;
+  const ProfilePointer first = RectangleProfile(0.0, 0.0, 0.25, 0.5);
+  const auto& made = profiles.Get(first, 1.0);
+  EXPECT_EQ(&profiles.Get(RectangleProfile(0.0, 0.0, 0.25, 0.5), 1.0), &made);
+  ASSERT_TRUE(made);
+  EXPECT_NEAR(made->profile.area, 0.125, 1e-12);
+  const auto& doubled = profiles.Get(first, 2.0);
+  ASSERT_TRUE(doubled);
+  EXPECT_NEAR(doubled->profile.area, 0.5, 1e-12);
+  auto named = std::make_shared<ProfileFacts>(*first);
+  named->name = "R";
+  const auto& other = profiles.Get(named, 1.0);
+  ASSERT_TRUE(other);
+  EXPECT_EQ(other->profile.name, "R");
+  EXPECT_EQ(made->profile.name, "");
 }
 
 TEST(Idealise, SharesTheProfilesOfElements) {

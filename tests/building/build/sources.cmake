@@ -1,12 +1,16 @@
 set(stage_tests
   assemble_test.cpp
   body_maker_test.cpp
+  element_maker_test.cpp
   openings_test.cpp
   first_use_test.cpp
   storeys_test.cpp
   idealise_bent_member_test.cpp
+  idealise_curved_wall_test.cpp
   idealise_cut_taper_test.cpp
+  idealise_measure_test.cpp
   idealise_member_test.cpp
+  idealise_orient_test.cpp
   idealise_strip_test.cpp
   idealise_surface_test.cpp
   idealise_test.cpp

@@ -102,11 +102,38 @@ TEST(UniteRegions, UnitesEqualRegionsAtAnyAngle) {
   }
 }
 
+TEST(UniteRegions, UnitesOutlinesOfManyPoints) {
+  // Discs of 100 chords in a row, each of which overlaps the next one.
+  std::vector<FlatRegion> discs;
+  for (int i = 0; i < 20; ++i) {
+    FlatRegion& disc = discs.emplace_back();
+    for (int k = 0; k < 100; ++k) {
+      const double angle = (k + 0.5) * std::numbers::pi / 50;
+      disc.outer.push_back({1.5 * i + std::cos(angle), std::sin(angle)});
+    }
+  }
+  const std::vector<FlatRegion> united = UniteRegions(discs, kTolerance);
+  ASSERT_EQ(united.size(), 1U);
+  // Two discs at a distance of 1.5 radii share a lens.
+  const double half = std::acos(0.75);
+  const double lens = 2.0 * half - std::sin(2.0 * half);
+  EXPECT_NEAR(AreaOf(united), 20 * std::numbers::pi - 19 * lens, 0.1);
+}
+
 TEST(UniteRegions, LeavesOneRegionAndVeryManyPointsAsTheyAre) {
   EXPECT_TRUE(UniteRegions({}, kTolerance).empty());
   EXPECT_EQ(UniteRegions({Box(0.0, 0.0, 1.0, 1.0)}, kTolerance).size(), 1U);
-  const std::vector<FlatRegion> many(300, Box(0.0, 0.0, 1.0, 1.0));
-  EXPECT_EQ(UniteRegions(many, kTolerance).size(), 300U);
+  const std::vector<FlatRegion> many(1100, Box(0.0, 0.0, 1.0, 1.0));
+  EXPECT_EQ(UniteRegions(many, kTolerance).size(), 1100U);
+}
+
+TEST(UniteRegions, LeavesRegionsAsTheyAreThatCrossEachOtherVeryOften) {
+  std::vector<FlatRegion> grid;
+  for (int i = 0; i < 400; ++i) {
+    grid.push_back(Box(i, 0.0, i + 0.5, 400.0));
+    grid.push_back(Box(0.0, i, 400.0, i + 0.5));
+  }
+  EXPECT_EQ(UniteRegions(grid, kTolerance).size(), 800U);
 }
 
 }  // namespace
