@@ -8,6 +8,7 @@
 #include <utility>
 
 #include "kelifc/core/detail/prefetch.h"
+#include "kelifc/core/memory/load_arena.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/core/text/write_tolerance.h"
 #include "kelifc/core/unknown.h"
@@ -38,6 +39,12 @@ Project FindProject(const Mvector<IfcUnknown*>& items, const std::vector<std::ui
     if (Project project = asProject(items[position])) return project;
   }
   return nullptr;
+}
+
+// The last item is destroyed first.
+void DestroyItems(Mvector<IfcUnknown*>& items) {
+  const BulkFree scope;
+  for (std::size_t i = items.size(); i > 0; --i) delete std::exchange(items[i - 1], nullptr);
 }
 
 }  // namespace
@@ -72,7 +79,7 @@ void IfcServer::Reset() {
   instanceIndex.Clear();
   productNumbers.Drop();
   if (mayRepeat) DropRepeatedSlots();
-  for (std::size_t i = items.size(); i > 0; --i) delete std::exchange(items[i - 1], nullptr);
+  DestroyItems(items);
   items = Mvector<IfcUnknown*>();  // frees the memory
   idToIndex.Clear();
   instanceIndex.Clear();  // a destructor may have built it again
