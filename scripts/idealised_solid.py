@@ -116,8 +116,8 @@ class LineMember:
         self.loops = [profile["outline"]] + profile["holes"]
         end = element["profileEnd"]
         last = profile if end is None else profiles[end]
-        self.end_loops = [last["outline"]] + last["holes"]
         self.is_tapered = end is not None
+        self.end_loops = [last["outline"]] + last["holes"] if self.is_tapered else self.loops
         start, stop = element["axis"]
         self.x = unit(sub(stop, start))
         self.y = element["y"]
@@ -152,12 +152,7 @@ class LineMember:
         return span * (first + 4 * (middle[0] - sum(middle[1:])) + last) / 6
 
     def loops_at(self, along):
-        if not self.is_tapered or any(len(a) != len(b)
-                                      for a, b in zip(self.loops, self.end_loops)):
-            return self.loops
-        t = min(1.0, max(0.0, along / self.span))
-        return [[[(1 - t) * p[i] + t * q[i] for i in (0, 1)] for p, q in zip(a, b)]
-                for a, b in zip(self.loops, self.end_loops)]
+        return blended(self.loops, self.end_loops, min(1.0, max(0.0, along / self.span)))
 
     def outside(self, p):
         d = sub(p, self.start)
@@ -168,45 +163,184 @@ class LineMember:
         return math.hypot(across, along)
 
 
+def blended(loops, end_loops, part):
+    """The loops of a tapered member at a part of its length."""
+    if loops is end_loops or any(len(a) != len(b) for a, b in zip(loops, end_loops)):
+        return loops
+    return [[[(1 - part) * p[i] + part * q[i] for i in (0, 1)] for p, q in zip(a, b)]
+            for a, b in zip(loops, end_loops)]
+
+
+def lofted_volume(sections):
+    """The volume between sections, which are lists of loops of as many points."""
+    origin, total = sections[0][0][0], 0.0
+
+    def add_fan(loop, sign):
+        nonlocal total
+        first = sub(loop[0], origin)
+        for a, b in zip(loop[1:], loop[2:]):
+            total += sign * dot(first, cross(sub(a, origin), sub(b, origin)))
+    for before, after in zip(sections, sections[1:]):
+        for near, far in zip(before, after):
+            for i, p in enumerate(near):
+                k = (i + 1) % len(near)
+                add_fan([p, near[k], far[k]], 1)
+                add_fan([p, far[k], far[i]], 1)
+    for loop in sections[0]:
+        add_fan(loop[::-1], 1)
+    for loop in sections[-1]:
+        add_fan(loop, 1)
+    return total / 6
+
+
 class ArcMember:
-    """A profile along an arc; its y axis turns with the tangent."""
+    """A profile along an arc, cut square or by planes; its y axis turns with the tangent."""
 
     def __init__(self, element, profiles):
         self.profile = profiles[element["profile"]]
         self.loops = [self.profile["outline"]] + self.profile["holes"]
+        self.end_loops = self.loops
+        if element["profileEnd"] is not None:
+            last = profiles[element["profileEnd"]]
+            self.end_loops = [last["outline"]] + last["holes"]
+        self.planes = element["ends"]
+        self.is_plain = self.end_loops is self.loops and self.planes == [None, None]
         self.arc = Arc(*element["axis"])
         self.y = element["y"]
         self.offset = element["offset"]
         tangent = cross(self.arc.normal, self.arc.x)
         self.z = cross(tangent, self.y)
 
+    def loops_at(self, angle):
+        return blended(self.loops, self.end_loops, angle / self.arc.angle)
+
     def place(self, angle, y, z):
         return add(self.arc.at(angle),
                    add(scale(self.arc.turned(self.y, angle), y - self.offset[0]),
                        scale(self.arc.turned(self.z, angle), z - self.offset[1])))
 
-    def vertices(self):
+    def end_angle(self, k, loop, i):
+        """Where the line of a point of the profile meets an end, by halving an interval."""
+        whole = self.arc.angle
+        square, plane = (0.0, whole)[k], self.planes[k]
+        if plane is None:
+            return square
+
+        def beyond(angle):
+            p = self.place(angle, *self.loops_at(angle)[loop][i])
+            return dot(sub(p, plane["point"]), plane["normal"]) * (1, -1)[k]
+        low, high = square - whole / 2, square + whole / 2
+        for _ in range(60):
+            middle = (low + high) / 2
+            low, high = (middle, high) if beyond(middle) > 0 else (low, middle)
+        return (low + high) / 2
+
+    def sections(self):
         count = len(self.arc.points()) - 1
-        return [self.place(self.arc.angle * i / count, y, z)
-                for i in range(count + 1) for loop in self.loops for y, z in loop]
+        ends = [[[self.end_angle(k, loop, i) for i in range(len(points))]
+                 for loop, points in enumerate(self.loops)] for k in (0, 1)]
+        sections = []
+        for step in range(count + 1):
+            sections.append([])
+            for loop, points in enumerate(self.loops):
+                angles = [a + (b - a) * step / count for a, b in zip(ends[0][loop], ends[1][loop])]
+                sections[-1].append([self.place(angle, *self.loops_at(angle)[loop][i])
+                                     for i, angle in enumerate(angles)])
+        return sections
+
+    def vertices(self):
+        return [p for section in self.sections() for loop in section for p in loop]
 
     def volume(self):
-        """The area times the way of the centroid."""
+        """The area times the way of the centroid, unless the member is tapered or cut."""
+        if not self.is_plain:
+            return abs(lofted_volume(self.sections()))
         outwards = [dot(self.arc.x, self.y), dot(self.arc.x, self.z)]
         radius = self.arc.radius - dot(outwards, self.offset)
         return self.profile["area"] * self.arc.angle * radius
 
     def outside(self, p):
+        whole = self.arc.angle
         angle = self.arc.angle_of(p)
-        past = angle - self.arc.angle
-        if past > 0:
-            angle = 0.0 if 2 * math.pi - angle < past else self.arc.angle
-        d = sub(p, self.arc.at(angle))
-        y, z = self.arc.turned(self.y, angle), self.arc.turned(self.z, angle)
+        if angle > math.pi + whole / 2:  # nearer to the start than to the end
+            angle -= 2 * math.pi
+        square = [-angle, angle - whole]
+        beyond = [dot(sub(p, plane["point"]), plane["normal"]) if plane else None
+                  for plane in self.planes]
+        at = angle
+        for k, end in ((0, 0.0), (1, whole)):
+            if beyond[k] is None and square[k] > 0:
+                at = end
+                beyond[k] = abs(dot(sub(p, self.arc.at(end)), self.tangent(end)))
+        d = sub(p, self.arc.at(at))
+        y, z = self.arc.turned(self.y, at), self.arc.turned(self.z, at)
         across = outside_of_loops([dot(d, y) + self.offset[0], dot(d, z) + self.offset[1]],
-                                  self.loops)
-        along = abs(dot(d, cross(y, z))) if past > 0 else 0.0
-        return math.hypot(across, along)
+                                  self.loops_at(at))
+        return math.hypot(across, max(0.0, beyond[0] or 0.0, beyond[1] or 0.0))
+
+    def tangent(self, angle):
+        return cross(self.arc.turned(self.y, angle), self.arc.turned(self.z, angle))
+
+
+class PolylineMember:
+    """A profile along a line with bends; the pieces meet in the planes that halve the angles."""
+
+    def __init__(self, element, profiles):
+        profile = profiles[element["profile"]]
+        self.loops = [profile["outline"]] + profile["holes"]
+        self.area = profile["area"]
+        points = element["axis"]
+        edges = [unit(sub(b, a)) for a, b in zip(points, points[1:])]
+        normals = [unit(add(a, b)) for a, b in zip(edges, edges[1:])]
+        ends = element["ends"]
+        first = scale(ends[0]["normal"], -1) if ends[0] else edges[0]
+        last = ends[1]["normal"] if ends[1] else edges[-1]
+        cuts = list(zip(points, [first, *normals, last]))
+        self.pieces = []  # (a point of the centroid line, x, y, z, the planes at both ends)
+        y = element["y"]
+        for i, x in enumerate(edges):
+            if i > 0:
+                y = self.turned(y, edges[i - 1], x)
+            z = cross(x, y)
+            offset = add(scale(y, element["offset"][0]), scale(z, element["offset"][1]))
+            self.pieces.append((sub(points[i], offset), x, y, z, cuts[i:i + 2]))
+
+    @staticmethod
+    def turned(v, before, after):
+        """A vector after the smallest turn that takes one direction to another."""
+        axis = cross(before, after)
+        sine = length(axis)
+        if sine < 1e-12:
+            return v
+        axis, cosine = scale(axis, 1 / sine), dot(before, after)
+        return add(add(scale(v, cosine), scale(cross(axis, v), sine)),
+                   scale(axis, dot(axis, v) * (1 - cosine)))
+
+    @staticmethod
+    def along(p, x, plane):
+        """How far a point is from a plane along a direction."""
+        return dot(sub(plane[0], p), plane[1]) / dot(x, plane[1])
+
+    def vertices(self):
+        found = []
+        for origin, x, y, z, planes in self.pieces:
+            for u, v in (q for loop in self.loops for q in loop):
+                p = add(origin, add(scale(y, u), scale(z, v)))
+                found += [add(p, scale(x, self.along(p, x, plane))) for plane in planes]
+        return found
+
+    def volume(self):
+        return self.area * sum(self.along(origin, x, planes[1]) - self.along(origin, x, planes[0])
+                               for origin, x, y, z, planes in self.pieces)
+
+    def outside(self, p):
+        best = math.inf
+        for origin, x, y, z, planes in self.pieces:
+            d = sub(p, origin)
+            across = outside_of_loops([dot(d, y), dot(d, z)], self.loops)
+            beyond = [dot(sub(p, point), normal) for point, normal in planes]
+            best = min(best, math.hypot(across, max(0.0, -beyond[0], beyond[1])))
+        return best
 
 
 class Plate:
@@ -247,14 +381,29 @@ class Plate:
         return math.hypot(across, along)
 
 
+def curved_wall(element):
+    """A curved wall is a rectangle along the curve of its lower edge."""
+    sweep, half = element["sweep"], element["thickness"] / 2
+    height, points = sweep["height"], sweep["points"]
+    if sweep["curve"] == "arc":
+        arc = Arc(*points)
+        along = cross(arc.normal, arc.x)
+    else:
+        along = unit(sub(points[1], points[0]))
+    outline = [[-half, 0], [half, 0], [half, height], [-half, height]]
+    member = {"axis": points, "y": cross(sweep["direction"], along), "offset": [0, 0],
+              "ends": [None, None], "profile": 0, "profileEnd": None}
+    form = ArcMember if sweep["curve"] == "arc" else PolylineMember
+    return form(member, [{"outline": outline, "holes": [], "area": 2 * half * height}])
+
+
 def idealised(element, profiles):
-    """The idealised solid; None for a body and for a curve that this file does not compute."""
-    if element["kind"] == "member" and element["curve"] == "line":
-        return LineMember(element, profiles)
-    if element["kind"] == "member" and element["curve"] == "arc":
-        return ArcMember(element, profiles)
-    if element["kind"] == "surface" and "outline" in element:
-        return Plate(element)
+    """The idealised solid; None for a body."""
+    if element["kind"] == "member":
+        forms = {"line": LineMember, "arc": ArcMember, "polyline": PolylineMember}
+        return forms[element["curve"]](element, profiles)
+    if element["kind"] == "surface":
+        return Plate(element) if "outline" in element else curved_wall(element)
     return None
 
 

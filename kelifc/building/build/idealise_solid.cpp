@@ -5,85 +5,12 @@
 #include <numbers>
 
 #include "kelifc/building/build/idealise_frame.h"
+#include "kelifc/building/build/idealise_loft.h"
 #include "kelifc/building/facts/contour.h"
 #include "kelifc/building/profile/make_profile.h"
 
 namespace KelIFC::building::idealising {
 namespace {
-
-// The loops of a section one after the other, the outer one first, as points in space.
-using Station = std::vector<Point3>;
-
-std::vector<std::size_t> LoopSizesOf(const BuildingProfile& profile) {
-  std::vector<std::size_t> sizes{profile.outline.size()};
-  for (const Outline& hole : profile.holes) sizes.push_back(hole.size());
-  return sizes;
-}
-
-void AddCap(Mesh& mesh, const std::vector<std::size_t>& sizes, std::size_t first, bool isReversed) {
-  mesh.BeginFace();
-  std::vector<Mesh::Index> loop;
-  for (const std::size_t size : sizes) {
-    loop.resize(size);
-    for (std::size_t i = 0; i < size; ++i) {
-      const std::size_t at = isReversed ? size - 1 - i : i;
-      loop[i] = static_cast<Mesh::Index>(first + at);
-    }
-    mesh.AddLoop(loop);
-    first += size;
-  }
-}
-
-// The faces between two stations. Where sides are not plane they are cut into triangles.
-void AddSides(Mesh& mesh, const std::vector<std::size_t>& sizes, std::size_t from, std::size_t to,
-              bool inTriangles) {
-  for (const std::size_t size : sizes) {
-    for (std::size_t i = 0; i < size; ++i) {
-      const std::size_t next = (i + 1) % size;
-      const auto a = static_cast<Mesh::Index>(from + i);
-      const auto b = static_cast<Mesh::Index>(from + next);
-      const auto c = static_cast<Mesh::Index>(to + next);
-      const auto d = static_cast<Mesh::Index>(to + i);
-      const Mesh::Index corners[] = {a, b, c, d, a};
-      mesh.BeginFace();
-      mesh.AddLoop(corners, inTriangles ? 3 : 4);
-      if (!inTriangles) continue;
-      mesh.BeginFace();
-      mesh.AddLoop(corners + 2, 3);
-    }
-    from += size;
-    to += size;
-  }
-}
-
-Mesh Loft(const std::vector<std::size_t>& sizes, const std::vector<Station>& stations,
-          bool inTriangles) {
-  Mesh mesh;
-  if (stations.size() < 2 || stations[0].size() < 3) return mesh;
-  const std::size_t count = stations[0].size();
-  for (const Station& station : stations) {
-    mesh.points.insert(mesh.points.end(), station.begin(), station.end());
-  }
-  AddCap(mesh, sizes, 0, true);
-  for (std::size_t k = 0; k + 1 < stations.size(); ++k) {
-    AddSides(mesh, sizes, k * count, (k + 1) * count, inTriangles);
-  }
-  AddCap(mesh, sizes, (stations.size() - 1) * count, false);
-  return mesh;
-}
-
-Station PlaceSection(const BuildingProfile& profile, const Vector2& offset,
-                     const PlaneFrame& frame) {
-  Station station;
-  const auto add = [&](const Outline& loop) {
-    for (const Point2& p : loop) {
-      station.push_back(Lift(frame, {p.x - offset.x, p.y - offset.y}));
-    }
-  };
-  add(profile.outline);
-  for (const Outline& hole : profile.holes) add(hole);
-  return station;
-}
 
 // Moves the points of a section along a direction into a plane; false if that is not possible.
 bool MoveToPlane(Station& station, const Vector3& along, const Point3& point,
@@ -129,29 +56,6 @@ Mesh MakeStraight(const MemberAxis& axis, const BuildingProfile& profile,
   if (!EndStation(stations[1], x, b, axis.ends[1])) return {};
   if (!PutInOrder(stations, x, slack)) return {};
   return Loft(LoopSizesOf(profile), stations, end != nullptr);
-}
-
-Mesh MakeAlongArc(const MemberAxis& axis, const BuildingProfile& profile) {
-  ArcInSpace arc;
-  if (axis.points.size() != 3 || !MakeArc(axis.points[0], axis.points[1], axis.points[2], arc)) {
-    return {};
-  }
-  const Vector3 x = Unit(Cross(arc.normal, axis.points[0] - arc.centre));
-  const Station start =
-      PlaceSection(profile, axis.offset, {axis.points[0], axis.y, Cross(x, axis.y)});
-  double radius = kChordError;
-  for (const Point3& p : start) {
-    const Vector3 v = p - arc.centre;
-    radius = std::max(radius, Length(v - Dot(v, arc.normal) * arc.normal));
-  }
-  const double step = 2.0 * std::acos(1.0 - kChordError / std::max(radius, 2 * kChordError));
-  const auto steps = static_cast<std::size_t>(std::clamp(std::ceil(arc.angle / step), 2.0, 2000.0));
-  std::vector<Station> stations(steps + 1, start);
-  for (std::size_t k = 1; k <= steps; ++k) {
-    const double by = arc.angle * static_cast<double>(k) / static_cast<double>(steps);
-    for (Point3& p : stations[k]) p = arc.Turn(p, by);
-  }
-  return Loft(LoopSizesOf(profile), stations, false);
 }
 
 Mesh MakeAlongPolyline(const MemberAxis& axis, const BuildingProfile& profile) {
@@ -209,7 +113,7 @@ Mesh MakeMemberSolid(const MemberAxis& axis, const BuildingProfile& profile,
   if (axis.points.size() < 2 || profile.outline.size() < 3) return {};
   switch (axis.curve) {
     case CurveForm::kArc:
-      return MakeAlongArc(axis, profile);
+      return MakeAlongArc(axis, profile, end);
     case CurveForm::kPolyline:
       return MakeAlongPolyline(axis, profile);
     case CurveForm::kLine:

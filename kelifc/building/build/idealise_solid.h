@@ -8,7 +8,7 @@
 namespace KelIFC::building::idealising {
 
 /// The solid that a member stands for: its profile swept along its axis, cut by the planes of its
-/// ends (along an arc the ends are always square). `end` is the profile at the end of a tapered
+/// ends. `end` is the profile at the end of a tapered
 /// member, null for others; it must have as many points as the first. Empty if a cut runs along the
 /// axis or the ends overlap by at least `slack`, in metres. Where they overlap by less, they touch.
 Mesh MakeMemberSolid(const MemberAxis& axis, const BuildingProfile& profile,

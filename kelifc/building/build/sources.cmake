@@ -7,6 +7,8 @@ target_sources(kelifc_building PRIVATE
   build/openings.cpp
   build/storeys.cpp
   build/idealise.cpp
+  build/idealise_arc_solid.cpp
+  build/idealise_bends.cpp
   build/idealise_bent_member.cpp
   build/idealise_bevel.cpp
   build/idealise_boundary.cpp
@@ -18,6 +20,7 @@ target_sources(kelifc_building PRIVATE
   build/idealise_directions.cpp
   build/idealise_ends.cpp
   build/idealise_envelope.cpp
+  build/idealise_loft.cpp
   build/idealise_measure.cpp
   build/idealise_member.cpp
   build/idealise_orient.cpp
@@ -31,6 +34,7 @@ target_sources(kelifc_building PRIVATE
   build/idealise_strip.cpp
   build/idealise_surface.cpp
   build/idealise_taper.cpp
+  build/idealise_tapered_arc.cpp
   build/made_profiles.cpp
   build/point_match.cpp
   build/reading_key.cpp

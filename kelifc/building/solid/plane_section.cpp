@@ -161,6 +161,16 @@ void PlaneSection::LinkChains(std::vector<PointLoop>& loops) {
   }
 }
 
+bool PlaneSection::Crosses(std::size_t face) const {
+  bool isAbove = false;
+  bool isBelow = false;
+  for (const Mesh::Index p : mesh.LoopOf(face, 0)) {
+    isAbove = isAbove || sides[p] > 0;
+    isBelow = isBelow || sides[p] < 0;
+  }
+  return isAbove && isBelow;
+}
+
 void PlaneSection::AddFace(std::size_t face, std::vector<PointLoop>& loops,
                            std::vector<DirectedEdge>& cap) {
   chains.clear();

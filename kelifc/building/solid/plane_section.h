@@ -23,6 +23,9 @@ class PlaneSection {
   bool HasAbove() const { return hasAbove; }
   bool HasBelow() const { return hasBelow; }
 
+  /// True if a face has points on both sides of the plane.
+  bool Crosses(std::size_t face) const;
+
   /// The part of a face below the plane, as loops of Points(); the loops are in no order. Adds to
   /// `cap` the edges along the plane, directed such that what the plane closes is to the left of
   /// them, seen against the normal.

@@ -24,6 +24,7 @@ SectionLoops LoopsOf(const Mesh& mesh, const PlaneFrame& plane) {
   std::vector<PointLoop> parts;
   std::vector<DirectedEdge> edges;
   for (std::size_t face = 0; face < mesh.FaceCount(); ++face) {
+    if (!section.Crosses(face)) continue;
     section.AddFace(face, parts, edges);
     parts.clear();
   }

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -22,6 +23,13 @@ Mesh ArchOf(const std::vector<Point2>& section, double angle, int steps) {
     }
   }
   return LoftOf(sections);
+}
+
+// An I of 300 by 150 mm as (y, z), counter-clockwise, whose web is in the plane of the arch.
+std::vector<Point2> SmallI() {
+  const double h = 0.15, b = 0.075, w = 0.005, t = 0.14;
+  return {{b, -h}, {b, -t}, {w, -t}, {w, t},   {b, t},   {b, h},
+          {-b, h}, {-b, t}, {-w, t}, {-w, -t}, {-b, -t}, {-b, -h}};
 }
 
 // The area of a section (by the shoelace formula) and the distance of its centroid from the axis.
@@ -69,10 +77,7 @@ TEST(IdealiseBentMember, FollowsTheChordsOfACoarseArch) {
 }
 
 TEST(IdealiseBentMember, RecognisesTheProfileOfABentIBeam) {
-  // An I of 300 by 150 mm whose web is in the plane of the arch.
-  const double h = 0.15, b = 0.075, w = 0.005, t = 0.14;
-  std::vector<Point2> section = {{b, -h}, {b, -t}, {w, -t}, {w, t},   {b, t},   {b, h},
-                                 {-b, h}, {-b, t}, {-w, t}, {-w, -t}, {-b, -t}, {-b, -h}};
+  std::vector<Point2> section = SmallI();
   for (Point2& p : section) p.y += 10.0;
   const Sample sample = SampleOf(ArchOf(section, 1.0, 60));
   ASSERT_GT(sample.body.volume, 0.0);
@@ -122,6 +127,66 @@ TEST(IdealiseBentMember, FollowsAKneeWithItsMitre) {
   EXPECT_FALSE(knee.member->ends[1]);
   EXPECT_NEAR(knee.deviation, 0.0, kTiny);
   EXPECT_FALSE(knee.isApproximate);
+}
+
+TEST(IdealiseBentMember, CutsAnArchAtLevelSpringings) {
+  // Each point of the section runs between the planes z = 6 cos 0.8 on both sides.
+  const double level = 6.0 * std::cos(0.8);
+  std::vector<std::vector<Point3>> sections(61);
+  for (int i = 0; i <= 60; ++i) {
+    for (const Point2& p : SmallI()) {
+      const double radius = 6.0 + p.y;
+      const double at = std::acos(level / radius) * (i / 30.0 - 1.0);
+      sections[i].emplace_back(radius * std::sin(at), p.x, radius * std::cos(at));
+    }
+  }
+  const Idealisation arch = SampleOf(LoftOf(sections)).BySlices(ElementRole::kMember);
+  ASSERT_EQ(arch.kind, ElementKind::kMember);
+  EXPECT_EQ(arch.member->curve, CurveForm::kArc);
+  EXPECT_EQ(arch.profile->shape, ProfileShape::kI);
+  for (const std::size_t k : {0u, 1u}) {
+    ASSERT_TRUE(arch.member->ends[k]);
+    EXPECT_NEAR(arch.member->ends[k]->normal.z, -1.0, 1e-6);
+    EXPECT_NEAR(arch.member->ends[k]->point.z, level, 1e-6);
+    EXPECT_NEAR(arch.member->points[2 * k].z, level, 1e-6);
+  }
+  EXPECT_NEAR(std::abs(arch.member->points[0].x), 6.0 * std::sin(0.8), 1e-3);
+  EXPECT_FALSE(arch.isApproximate);
+  EXPECT_EQ(arch.cutouts, 0u);
+}
+
+// An arch whose section grows evenly from its size at the start to twice that at the end.
+Mesh GrowingArch(const std::vector<Point2>& section, bool isClockwise) {
+  std::vector<std::vector<Point3>> sections(49);
+  for (int i = 0; i <= 48; ++i) {
+    const double at = (isClockwise ? -1.2 : 1.2) * i / 48;
+    const double size = 1.0 + i / 48.0;
+    for (const Point2& p : section) {
+      const double radius = 8.0 + p.y * size;
+      sections[i].emplace_back(radius * std::cos(at), radius * std::sin(at), p.x);
+    }
+  }
+  return LoftOf(sections);
+}
+
+TEST(IdealiseBentMember, GivesATaperedArchAProfileAtItsEnd) {
+  for (const bool isClockwise : {false, true}) {
+    std::vector<Point2> section = SmallI();
+    if (isClockwise) std::reverse(section.begin(), section.end());
+    const Sample sample = SampleOf(GrowingArch(section, isClockwise));
+    ASSERT_GT(sample.body.volume, 0.0);
+    const Idealisation arch = sample.BySlices(ElementRole::kMember);
+    ASSERT_EQ(arch.kind, ElementKind::kMember);
+    EXPECT_EQ(arch.member->curve, CurveForm::kArc);
+    ASSERT_TRUE(arch.endProfile);
+    const double first = (*arch.profile)[ProfileParameter::kH];
+    const double last = (*arch.endProfile)[ProfileParameter::kH];
+    EXPECT_NEAR(std::min(first, last), 0.3, 1e-3);
+    EXPECT_NEAR(std::max(first, last), 0.6, 1e-3);
+    for (const Point3& p : arch.member->points) EXPECT_NEAR(std::hypot(p.x, p.y), 8.0, 1e-3);
+    EXPECT_FALSE(arch.isApproximate);
+    EXPECT_LT(arch.deviation, 1e-3);
+  }
 }
 
 TEST(IdealiseBentMember, LeavesAWallInTheFormOfAnArchASurface) {

@@ -10,8 +10,10 @@ namespace {
 // A wall on an arc of 1.5 radians and 5 m, 0.2 m thick and 2.8 m high, of 24 chords.
 SolidPointer WallOnAnArc() {
   std::vector<Point2> plan;
-  for (int i = 0; i <= 24; ++i) plan.emplace_back(5.1 * std::cos(i / 16.0), 5.1 * std::sin(i / 16.0));
-  for (int i = 24; i >= 0; --i) plan.emplace_back(4.9 * std::cos(i / 16.0), 4.9 * std::sin(i / 16.0));
+  for (int i = 0; i <= 24; ++i)
+    plan.emplace_back(5.1 * std::cos(i / 16.0), 5.1 * std::sin(i / 16.0));
+  for (int i = 24; i >= 0; --i)
+    plan.emplace_back(4.9 * std::cos(i / 16.0), 4.9 * std::sin(i / 16.0));
   return Prism(PolygonProfile(plan), 2.8);
 }
 
