@@ -12,9 +12,9 @@ Times are processor time, the median of five runs. Memory is the peak of `kelifc
 save` and `kelifc structure`, each in a process of its own. Nothing else should run meanwhile.
 
 The second table has the processor times in byte loops: a byte loop counts the `;` outside of quotes
-in the same file in memory. It takes the shortest of five runs, and has the page faults, too. Unlike the first table, it
-measures in new processes, where the system has to provide all memory. Its first row has the
-targets, which hold for the copies of real models.
+in the same file in memory. It takes the shortest of five runs, and has the page faults, too. Unlike
+the first table, it measures in new processes, where the system has to provide all memory. Its first
+row has the targets, which hold for the copies of real models.
 """
 
 import argparse
