@@ -10,6 +10,7 @@
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/lists/parenthesised.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/number_text.h"
 
 namespace KelIFC {
@@ -49,7 +50,7 @@ struct PlainNumbers {
     do {
       ++at;
       const char first = at[*at == '-' ? 1 : 0];
-      const bool isDecimal = (first >= '0' && first <= '9') || first == '.';
+      const bool isDecimal = ascii::IsDigit(first) || first == '.';
       if (!isDecimal || count == kMost) return nullptr;
       values[count++] = ReadReal(at, &at);
     } while (*at == ',');

@@ -115,15 +115,18 @@ bool IsGlobalId64(const char* text) {
   return text[kLength64] == '\0';
 }
 
+// The NUL is not in the alphabet here, either.
 bool DecodeGlobalId64(const char* text, _GUID& guid) {
-  if (!IsGlobalId64(text)) return false;
+  if (text == nullptr) return false;
   Pieces pieces = {};
   for (std::size_t piece = 0; piece < kPieces; ++piece) {
     for (std::size_t i = 0; i < DigitsOfPiece(piece); ++i) {
-      const auto digit = static_cast<std::uint32_t>(DigitOf(kValues64, *text++));
-      pieces[piece] = (pieces[piece] << 6) | digit;
+      const int digit = DigitOf(kValues64, *text++);
+      if (digit < 0) return false;
+      pieces[piece] = (pieces[piece] << 6) | static_cast<std::uint32_t>(digit);
     }
   }
+  if (*text != '\0') return false;
   guid = FromPieces(pieces);
   return true;
 }

@@ -1,5 +1,6 @@
 #include <cstddef>
 
+#include "kelifc/core/references/cast_cache.h"
 #include "kelifc/geo/fill.h"
 #include "kelifc/import/model/all_releases.h"
 
@@ -11,7 +12,7 @@ namespace {
 /// instance is not an IfcElement of the release.
 template <class Release>
 bool AddContainers(const IfcUnknown& instance, std::vector<_GUID>& containers) {
-  const auto* element = dynamic_cast<const typename Release::IfcElement*>(&instance);
+  const auto* element = CachedCast<typename Release::IfcElement>(&instance);
   if (element == nullptr) return false;
   const auto relations = element->GetContainedInStructure();
   for (std::size_t i = 1; i <= relations.GetSize(); ++i) {

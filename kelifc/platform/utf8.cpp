@@ -1,5 +1,6 @@
 #include "kelifc/platform/utf8.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <type_traits>
 
@@ -99,9 +100,13 @@ std::wstring WideFromUtf8(std::string_view text) {
 }
 
 std::string Utf8FromWide(std::wstring_view text) {
-  std::string out;
-  out.reserve(text.size());
-  for (std::size_t i = 0; i < text.size(); ++i) {
+  const auto other =
+      std::find_if(text.begin(), text.end(), [](wchar_t c) { return CodeOf(c) >= 0x80; });
+  std::string out(text.size(), '\0');
+  std::transform(text.begin(), other, out.begin(), [](wchar_t c) { return static_cast<char>(c); });
+  const auto plain = static_cast<std::size_t>(other - text.begin());
+  out.resize(plain);
+  for (std::size_t i = plain; i < text.size(); ++i) {
     char32_t code = CodeOf(text[i]);
     const bool isPair =
         IsHighSurrogate(code) && i + 1 < text.size() && IsLowSurrogate(CodeOf(text[i + 1]));

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <type_traits>
 
+#include "kelifc/core/text/ascii.h"
+
 namespace KelIFC {
 
 /// The name of an entity as a part of a text, with the hash by which a NameTable finds it. So
@@ -30,10 +32,10 @@ class EntityName {
   /// Returns the same number for names that differ in the case of letters only.
   constexpr std::uint32_t GetHash() const { return hash; }
 
-  /// Returns true if the name is `upperCase`, which has no small letters.
-  constexpr bool Is(std::string_view upperCase) const {
-    return text.size() == upperCase.size() &&
-           (HasSameBytes(text, upperCase) || IsFolded(upperCase, text));
+  /// Returns true if the names are the same apart from their case.
+  constexpr bool Is(std::string_view other) const {
+    return text.size() == other.size() &&
+           (HasSameBytes(text, other) || ascii::IsSameText(text, other));
   }
 
  private:
@@ -85,18 +87,6 @@ class EntityName {
       if (WordAt(a.data() + at) != WordAt(b.data() + at)) return false;
     }
     return WordAt(a.data() + last) == WordAt(b.data() + last);
-  }
-
-  static constexpr char ToUpper(char c) {
-    return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c;
-  }
-
-  // The same, without the case of letters.
-  static constexpr bool IsFolded(std::string_view upperCase, std::string_view name) {
-    for (std::size_t i = 0; i < name.size(); ++i) {
-      if (upperCase[i] != ToUpper(name[i])) return false;
-    }
-    return true;
   }
 
   std::string_view text;

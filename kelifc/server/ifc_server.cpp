@@ -1,11 +1,14 @@
 #include "kelifc/server/ifc_server.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <cstring>
 #include <new>
 #include <utility>
 
 #include "kelifc/core/detail/prefetch.h"
+#include "kelifc/core/memory/load_arena.h"
 #include "kelifc/core/step_file_schema.h"
 #include "kelifc/core/text/write_tolerance.h"
 #include "kelifc/core/unknown.h"
@@ -36,6 +39,12 @@ Project FindProject(const Mvector<IfcUnknown*>& items, const std::vector<std::ui
     if (Project project = asProject(items[position])) return project;
   }
   return nullptr;
+}
+
+// The last item is destroyed first.
+void DestroyItems(Mvector<IfcUnknown*>& items) {
+  const BulkFree scope;
+  for (std::size_t i = items.size(); i > 0; --i) delete std::exchange(items[i - 1], nullptr);
 }
 
 }  // namespace
@@ -70,7 +79,7 @@ void IfcServer::Reset() {
   instanceIndex.Clear();
   productNumbers.Drop();
   if (mayRepeat) DropRepeatedSlots();
-  for (std::size_t i = items.size(); i > 0; --i) delete std::exchange(items[i - 1], nullptr);
+  DestroyItems(items);
   items = Mvector<IfcUnknown*>();  // frees the memory
   idToIndex.Clear();
   instanceIndex.Clear();  // a destructor may have built it again
@@ -243,14 +252,22 @@ IfcUnknown* IfcServer::GetItem(const _GUID& guid) {
 // again only after it has grown.
 void IfcServer::BuildGuidIndex() {
   if (slotsWithoutGuid == items.size()) return;
-  constexpr std::size_t kAhead = 16;
-  detail::GuidIndex made(rootPositions.size());  // assigned when complete: an allocation can fail
-  for (std::size_t i = 0; i < rootPositions.size(); ++i) {
-    if (i + kAhead < rootPositions.size()) {
-      detail::PrefetchInstance(items[rootPositions[i + kAhead]]);
+  constexpr std::size_t kBatch = 16;
+  constexpr std::size_t kWithText = 256;  // bytes of an instance and its identifier
+  const std::size_t count = rootPositions.size();
+  std::array<detail::GuidIndex::Entry, kBatch> found = {};
+  detail::GuidIndex made(count);  // assigned when complete: an allocation can fail
+  for (std::size_t begin = 0; begin < count; begin += kBatch) {
+    const std::size_t end = std::min(begin + kBatch, count);
+    for (std::size_t i = end; i < std::min(end + kBatch, count); ++i) {
+      detail::PrefetchInstance(items[rootPositions[i]], kWithText);
     }
-    _GUID guid = {};
-    if (ReadGlobalGuid(items[rootPositions[i]], guid)) made.Add(guid, rootPositions[i]);
+    detail::GuidIndex::Entry* last = found.data();
+    for (std::size_t i = begin; i < end; ++i) {
+      last->position = rootPositions[i];
+      if (ReadGlobalGuid(items[last->position], last->guid)) ++last;
+    }
+    made.AddBatch(found.data(), last);
   }
   guidIndex = std::move(made);
   if (guidIndex.IsEmpty()) slotsWithoutGuid = items.size();

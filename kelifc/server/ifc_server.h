@@ -256,7 +256,7 @@ class KELIFC_API IfcServer {
   /// time, and allocates 4 bytes of memory for each number.
   /// Returns true if the report is complete; a second call for the same model does nothing.
   ///
-  /// Returns false if no model was loaded with options, if the source cannot be read, or if it is
+  /// Returns false if no model was loaded with a report, if the source cannot be read, or if it is
   /// not the source that was loaded. In the last case LoadReport::hasSourceChanged is true. The
   /// rest of the report does not change. The same holds if it throws std::bad_alloc.
   bool CheckModel();
@@ -308,6 +308,7 @@ class KELIFC_API IfcServer {
 
  private:
   friend class FaithfulSave;
+  friend class InstanceWriter;
   friend class PieceMaker;
   friend class PieceParser;
   friend class SourceStatements;
@@ -327,6 +328,7 @@ class KELIFC_API IfcServer {
     ReportCollector* collector = nullptr;  // null if nothing is counted
     ModelOrigin* origin = nullptr;         // receives what a faithful save needs; null for none
     std::uint64_t* hash = nullptr;         // receives the hash of the source; null for none
+    bool isReported = false;               // the places of statements are kept for the host
     bool keepsUnknown = false;             // as IfcOther, where the release has no class
     unsigned threads = 1;                  // which the load uses, that of the caller included
 
@@ -344,6 +346,7 @@ class KELIFC_API IfcServer {
     const IfcUnknown* parsed = nullptr;  // the instance whose statement is being read,
     std::size_t parsedNumber = 0;        // and its number
     std::size_t statementNumber = 0;     // of the statement that is being read, for the report
+    std::size_t statedEnd = 0;  // of the positions of instances that statements made; second pass
     bool isPostponed = false;   // after all statements: instances that classes add are registered
     detail::NumberOrder order;  // of the statements of the pass that runs
     std::uint64_t highestNumber = 0;    // of all statements so far, including those left out
@@ -372,10 +375,13 @@ class KELIFC_API IfcServer {
   int LoadWithOptions(std::shared_ptr<const ModelSource> model, const LoadOptions& options);
   void KeepSource(std::shared_ptr<const ModelSource> kept);
   unsigned CountThreads(const LoadOptions& options, std::uint64_t size) const;
+  LoadState MakeLoadState(const LoadOptions& options, std::uint64_t size);
   void MakeInstances(std::istream& in);
   void MakeOnThreads(std::istream& in);
   bool CanParseOnThreads() const;
   void ScanSource(std::istream& in);
+  void ScanInstances(std::istream& in);
+  void EndReport(ReportCollector& collector, std::shared_ptr<const ModelSource> model);
   int LoadFrom(const ModelSource& model, const LoadState& initial);
   int LoadPasses(const ModelSource& model);
   void ForgetLoad();
@@ -405,7 +411,8 @@ class KELIFC_API IfcServer {
   int SaveModel(const char* path, std::string_view schema, const SaveOptions& options,
                 std::string& reason);
   void WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema,
-                  ProgressSteps& progress);
+                  ProgressSteps& progress, unsigned threads);
+  unsigned CountThreads(const SaveOptions& options) const;
   void WriteInstances(std::ostream& out, ProgressSteps& progress);
   void WriteInstance(std::ostream& out, std::uint64_t number);
   int TellError(const std::string& message) const;  // returns the code of a failed save

@@ -2,7 +2,6 @@
 #include <cstdint>
 #include <memory>
 #include <optional>
-#include <thread>
 #include <typeinfo>
 #include <utility>
 
@@ -16,6 +15,7 @@
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/model_origin.h"
 #include "kelifc/server/model_source.h"
+#include "kelifc/server/ordered_work.h"
 #include "kelifc/server/piece_maker.h"
 #include "kelifc/server/piece_parser.h"
 #include "kelifc/server/report_collector.h"
@@ -45,7 +45,8 @@ int IfcServer::LoadIfcFile(const char* path) {
   ForgetLoad();
   if (path == nullptr || !IsRegularFile(path)) return LOAD_RESULT_CANNOT_OPEN;
   const int result = LoadFrom(FileSource(path), LoadState());
-  return result == LOAD_RESULT_CANCELLED ? LOAD_RESULT_CANNOT_OPEN : result;
+  if (result == LOAD_RESULT_CANCELLED) return LOAD_RESULT_CANNOT_OPEN;
+  return result == LOAD_RESULT_UNSUPPORTED_RELEASE ? LOAD_RESULT_UNKNOWN_SCHEMA : result;
 }
 
 int IfcServer::LoadIfc(const char* path, const LoadOptions& options) {
@@ -92,37 +93,53 @@ void IfcServer::KeepSource(std::shared_ptr<const ModelSource> kept) {
   source = std::move(kept);
 }
 
+IfcServer::LoadState IfcServer::MakeLoadState(const LoadOptions& options, std::uint64_t size) {
+  LoadState initial;
+  initial.dialect = options.dialect;
+  initial.limits = options.limits;
+  initial.isReported = options.report || options.dialect == STEP_DIALECT_ISO;
+  initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
+  initial.hash = initial.isReported ? &sourceHash : nullptr;
+  initial.threads = CountThreads(options, size);
+  return initial;
+}
+
 int IfcServer::LoadWithOptions(std::shared_ptr<const ModelSource> model,
                                const LoadOptions& options) {
   SetRelease(IFC_RELEASE_NONE);
   if (Exceeds(model->GetSize(), options.limits.maxBytes)) return LOAD_RESULT_LIMIT_REACHED;
-  LoadState initial;
-  initial.dialect = options.dialect;
-  initial.limits = options.limits;
-  ReportCollector collector(report);
-  initial.findings = &report.findings;
-  initial.collector = &collector;
-  initial.keepsUnknown = options.keepUnknown.value_or(options.dialect == STEP_DIALECT_ISO);
+  LoadState initial = MakeLoadState(options, model->GetSize());
+  LoadReport unused;
+  LoadReport& noted = initial.isReported ? report : unused;
+  ReportCollector collector(noted);
+  // Whether threads can parse the model depends on what is found in it.
+  if (initial.isReported || initial.threads > 1) {
+    initial.findings = &noted.findings;
+    initial.collector = &collector;
+  }
   std::shared_ptr<ModelOrigin> made;
   if (options.dialect == STEP_DIALECT_ISO) made = std::make_shared<ModelOrigin>();
   initial.origin = made.get();
-  initial.hash = &sourceHash;
-  initial.threads = CountThreads(options, model->GetSize());
   const int result = LoadFrom(*model, initial);
   if (result != LOAD_RESULT_LOADED) return result;
+  if (initial.isReported) EndReport(collector, std::move(model));
+  dialect = options.dialect;
+  if (made == nullptr) return result;
+  made->source = source;
+  made->keepsUnknown = initial.keepsUnknown;
+  origin = std::move(made);
+  return result;
+}
+
+// Completes the report of a load, and keeps what a check of the model needs.
+void IfcServer::EndReport(ReportCollector& collector, std::shared_ptr<const ModelSource> model) {
   try {
     collector.EndLoad(*this);
   } catch (...) {
     Reset();
     throw;
   }
-  dialect = options.dialect;
   source = std::move(model);
-  if (made == nullptr) return result;
-  made->source = source;
-  made->keepsUnknown = initial.keepsUnknown;
-  origin = std::move(made);
-  return result;
 }
 
 int IfcServer::LoadFrom(const ModelSource& model, const LoadState& initial) {
@@ -157,8 +174,7 @@ int IfcServer::LoadPasses(const ModelSource& model) {
   if (load.isStopped || load.isBeyondLimit) return LOAD_RESULT_CANNOT_OPEN;
   if (!headerSeen) return LOAD_RESULT_NO_STEP_FILE;
   if (GetRelease() == IFC_RELEASE_NONE) {
-    return load.isLaterSchema && load.findings != nullptr ? LOAD_RESULT_UNSUPPORTED_RELEASE
-                                                          : LOAD_RESULT_UNKNOWN_SCHEMA;
+    return load.isLaterSchema ? LOAD_RESULT_UNSUPPORTED_RELEASE : LOAD_RESULT_UNKNOWN_SCHEMA;
   }
   if (load.collector != nullptr) load.collector->EndFirstPass(*this);
   load.bytesBefore = load.bytesTotal / 2;
@@ -167,11 +183,7 @@ int IfcServer::LoadPasses(const ModelSource& model) {
   load.threadBytesBefore = load.threadBytes;
   in = model.Open();
   if (!in) return LOAD_RESULT_CANNOT_OPEN;
-  if (load.hash == nullptr) {
-    ScanFile(*in, this, false);
-  } else {
-    ScanSource(*in);
-  }
+  ScanSource(*in);
   return LOAD_RESULT_LOADED;
 }
 
@@ -180,16 +192,13 @@ int IfcServer::LoadPasses(const ModelSource& model) {
 unsigned IfcServer::CountThreads(const LoadOptions& options, std::uint64_t size) const {
   constexpr std::uint64_t kLeastBlocks = 4;
   constexpr std::uint64_t kMemoryOfByte = 16;  // a model takes less for each byte of its source
-  constexpr unsigned kMostThreads = 64;
   const LoadLimits& limits = options.limits;
   const std::uint64_t longest = PieceMaker::kMostBlocks * GetBlockSize();
   const bool isNarrow = Exceeds(longest, limits.maxStatementBytes) ||
                         Exceeds(kMemoryOfByte * size, limits.maxMemoryBytes);
   const bool isDerived = typeid(*this) != typeid(IfcServer);
   if (isDerived || isNarrow || size < kLeastBlocks * GetBlockSize()) return 1;
-  const unsigned wanted =
-      options.threads == 0 ? std::thread::hardware_concurrency() : options.threads;
-  return std::clamp(wanted, 1U, kMostThreads);
+  return OrderedWork::ChooseThreads(options.threads);
 }
 
 // The first pass. With several threads, one thread reads the header.
@@ -216,24 +225,32 @@ void IfcServer::MakeOnThreads(std::istream& in) {
   ScanFile(in, this, true, *rest);
 }
 
-// The second pass of a load with options. It also notes what the server needs to read the source
-// again.
+// The second pass. It also notes what the server needs to read the source again.
 void IfcServer::ScanSource(std::istream& in) {
   ModelOrigin* const target = load.origin;
+  load.statedEnd = items.size();
   std::optional<IdRecorder> recorder;
   if (target != nullptr) {
-    target->statedEnd = items.size();
+    target->statedEnd = load.statedEnd;
     target->repeats = load.repeats;
     recorder.emplace(target->replacedIds, load.statementNumber);
   }
-  HashedInput hashed(in);
-  if (CanParseOnThreads()) {
-    PieceParser(*this, hashed).Parse();
+  if (load.hash == nullptr) {
+    ScanInstances(in);
   } else {
-    ScanFile(hashed, this, false);
+    HashedInput hashed(in);
+    ScanInstances(hashed);
+    *load.hash = hashed.GetHash().GetValue();
   }
-  *load.hash = hashed.GetHash().GetValue();
   if (target != nullptr) target->addedEnd = items.size();
+}
+
+void IfcServer::ScanInstances(std::istream& in) {
+  if (CanParseOnThreads()) {
+    PieceParser(*this, in).Parse();
+  } else {
+    ScanFile(in, this, false);
+  }
 }
 
 // One thread parses
@@ -259,13 +276,13 @@ void IfcServer::MakeRoom(std::uint64_t fileSize) {
   const auto expected =
       static_cast<std::size_t>(std::min(fileSize / kBytesPerStatement, kMostExpected));
   ReserveHuge(items, expected);
-  if (load.findings != nullptr) ReserveHuge(places, expected);
+  if (load.isReported) ReserveHuge(places, expected);
   idToIndex.Reserve(expected);
 }
 
 // Notes where a load with a report stops. A load that is cancelled stops at no fault of the file.
 void IfcServer::NoteFailure(const SourcePlace& place) {
-  if (load.findings != nullptr && !load.isStopped) report.failure = place;
+  if (load.isReported && !load.isStopped) report.failure = place;
 }
 
 // Called once for each block of the file. Checks the memory and reports the progress.

@@ -1,5 +1,7 @@
 #include "kelifc/core/references/model.h"
 
+#include <cstdint>
+
 #include "kelifc/server/ifc_server.h"
 
 namespace KelIFC {
@@ -20,10 +22,12 @@ std::size_t AddInstance(IfcServer* server, IfcUnknown* instance) {
   return server == nullptr ? 0 : server->AddItem(instance);
 }
 
+// The instances of statements are registered in the order of the file.
 bool IsReadLater(const IfcServer* server, std::size_t number) {
   if (server == nullptr || !server->load.isPostponed) return false;
-  const StatementPlace current = server->GetStatementPlace(server->load.parsedNumber);
-  return server->GetStatementPlace(number).offset > current.offset;
+  const std::uint32_t position = server->idToIndex.Find(number);  // kNone is not below the end
+  const std::uint32_t current = server->idToIndex.Find(server->load.parsedNumber);
+  return position < server->load.statedEnd && position > current;
 }
 
 }  // namespace KelIFC

@@ -1,5 +1,6 @@
 #include "kelifc/server/ordered_work.h"
 
+#include <algorithm>
 #include <optional>
 #include <system_error>
 #include <utility>
@@ -10,6 +11,11 @@
 namespace KelIFC {
 
 OrderedWork::~OrderedWork() = default;
+
+unsigned OrderedWork::ChooseThreads(unsigned allowed) {
+  constexpr unsigned kMostThreads = 64;
+  return std::clamp(allowed == 0 ? std::thread::hardware_concurrency() : allowed, 1U, kMostThreads);
+}
 
 bool OrderedWork::Run(unsigned count) {
   slots = std::vector<Slot>(kSlotsPerThread * count);

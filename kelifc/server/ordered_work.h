@@ -22,6 +22,10 @@ class OrderedWork {
   OrderedWork(const OrderedWork&) = delete;
   OrderedWork& operator=(const OrderedWork&) = delete;
 
+  /// Returns the number of threads for an operation that can use `allowed` threads; 0 means one for
+  /// each processor. There is a limit of 64.
+  static unsigned ChooseThreads(unsigned allowed);
+
   /// Does the work on `threads` threads, of which one is that of the caller. If the system starts
   /// fewer threads, these do all the work. Returns after the other threads have ended: true after
   /// the last piece, false if Merge returned false. Throws what a stage throws, when the piece is

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <utility>
 
+#include "kelifc/core/unknown.h"
 #include "kelifc/server/block_size.h"
 #include "kelifc/server/ifc_server.h"
 #include "kelifc/server/iso_statement.h"
@@ -36,7 +37,13 @@ PieceMaker::PieceMaker(IfcServer& model, std::istream& in, const SourcePosition&
       blockSize(GetBlockSize()),
       nextOffset(from.offset),
       position(from),
-      pieces(kSlotsPerThread * model.load.threads) {}
+      pieces(kSlotsPerThread * model.load.threads) {
+  for (Piece& piece : pieces) {
+    piece.maker.release = model.release;
+    piece.maker.load.dialect = model.load.dialect;
+    piece.maker.load.keepsUnknown = model.load.keepsUnknown;
+  }
+}
 
 std::optional<SourcePosition> PieceMaker::Make() {
   const bool isWhole = Run(server.load.threads);
@@ -110,9 +117,14 @@ template <class AnyScanner>
 void PieceMaker::MakeStatement(Piece& piece, const AnyScanner& scanner, char* text) {
   const Assignment assignment = CutAssignment(text);
   if (assignment.number == 0) return;
-  piece.statements.push_back(server.MakeStatement(assignment.number, assignment.text, scanner));
-  if (piece.statements.back().made == nullptr)
+  piece.statements.push_back(
+      piece.maker.MakeStatement(assignment.number, assignment.text, scanner));
+  IfcUnknown* const made = piece.statements.back().made.get();
+  if (made == nullptr) {
     piece.dropped.push_back(EntityNameAt(assignment.text));
+  } else {
+    made->SetServer(&server);
+  }
 }
 
 bool PieceMaker::Merge(std::size_t slot) {

@@ -8,14 +8,13 @@
 #include <vector>
 
 #include "kelifc/server/block_ends.h"
+#include "kelifc/server/ifc_server.h"
 #include "kelifc/server/load_findings.h"
 #include "kelifc/server/made_statement.h"
 #include "kelifc/server/ordered_work.h"
 #include "kelifc/server/source_piece.h"
 
 namespace KelIFC {
-
-class IfcServer;
 
 /// The first pass of a load on several threads, after the header. Each thread makes the instances
 /// of a piece of the source; the thread of the caller registers them in the order of the file.
@@ -41,6 +40,10 @@ class PieceMaker : private OrderedWork {
 
  private:
   struct Piece {
+    // Makes the instances. It has the release and the options of the model, but no instances. The
+    // threads do not use the model for this: each registration of the thread of the caller would
+    // take the memory of the model out of their caches.
+    IfcServer maker;
     SourcePiece source;  // its first line counts as line 1, and begins with the piece
     bool isLast = false;
     bool isCut = false;  // false if no end of a statement was found

@@ -1,5 +1,6 @@
 #include "kelifc/server/plain_statement.h"
 
+#include <atomic>
 #include <bit>
 #include <cstddef>
 #include <cstdint>
@@ -149,21 +150,49 @@ const char* FindPlainEndBytewise(const char* at, const char* end) {
   return FindEndFrom(at, end, false);
 }
 
+namespace {
+
+struct Candidate {
+  PlainEndFinder find;
+  bool (*isSupported)();
+};
+
+// The fastest one is the first.
+constexpr Candidate kCandidates[] = {
+#ifdef KELIFC_HAS_BLOCKS
+    {FindAvx512,
+     [] { return __builtin_cpu_supports("avx512bw") && __builtin_cpu_supports("pclmul"); }},
+    {FindAvx2, [] { return __builtin_cpu_supports("avx2") && __builtin_cpu_supports("pclmul"); }},
+    {FindSse2, [] { return true; }},
+#endif
+    {FindPlainEndBytewise, [] { return true; }},
+};
+
+const char* ChooseFinder(const char* at, const char* end);
+
+// The function that FindPlainEnd calls. No other memory depends on it.
+constinit std::atomic<PlainEndFinder> finder = ChooseFinder;
+
+// The first call chooses the fastest function. All threads choose the same one.
+const char* ChooseFinder(const char* at, const char* end) {
+  const Candidate* fastest = kCandidates;
+  while (!fastest->isSupported()) ++fastest;
+  finder.store(fastest->find, std::memory_order_relaxed);
+  return fastest->find(at, end);
+}
+
+}  // namespace
+
 std::vector<PlainEndFinder> GetPlainEndFinders() {
   std::vector<PlainEndFinder> finders;
-#ifdef KELIFC_HAS_BLOCKS
-  const bool hasProduct = __builtin_cpu_supports("pclmul");
-  if (hasProduct && __builtin_cpu_supports("avx512bw")) finders.push_back(FindAvx512);
-  if (hasProduct && __builtin_cpu_supports("avx2")) finders.push_back(FindAvx2);
-  finders.push_back(FindSse2);
-#endif
-  finders.push_back(FindPlainEndBytewise);
+  for (const Candidate& candidate : kCandidates) {
+    if (candidate.isSupported()) finders.push_back(candidate.find);
+  }
   return finders;
 }
 
 const char* FindPlainEnd(const char* at, const char* end) {
-  static const PlainEndFinder find = GetPlainEndFinders().front();
-  return find(at, end);
+  return finder.load(std::memory_order_relaxed)(at, end);
 }
 
 }  // namespace KelIFC

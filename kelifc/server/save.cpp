@@ -5,8 +5,8 @@
 #include <ostream>
 #include <string>
 #include <string_view>
+#include <typeinfo>
 
-#include "kelifc/core/detail/prefetch.h"
 #include "kelifc/core/detail/text_out.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/platform/file_replacement.h"
@@ -15,10 +15,11 @@
 #include "kelifc/server/file_header.h"
 #include "kelifc/server/file_output.h"
 #include "kelifc/server/ifc_server.h"
+#include "kelifc/server/instance_writer.h"
 #include "kelifc/server/iso_statement.h"
+#include "kelifc/server/piece_writer.h"
 #include "kelifc/server/progress_steps.h"
 #include "kelifc/server/schema_table.h"
-#include "kelifc/server/text_stream.h"
 
 namespace KelIFC {
 namespace {
@@ -71,7 +72,7 @@ int IfcServer::SaveIfcFile(const char* path) {
   FileOutput file(path);
   if (!file.IsOpen()) return TellError(place + GetLastSystemError());
   ProgressSteps unreported;
-  WriteModel(file.GetStream(), GetFileName(path), schema, unreported);
+  WriteModel(file.GetStream(), GetFileName(path), schema, unreported, 1);
   if (!file.Close()) {
     TellError(place + DescribeFailure(file));
   } else if (!FileExists(path)) {
@@ -117,7 +118,7 @@ int IfcServer::SaveModel(const char* path, std::string_view schema, const SaveOp
     if (result != SAVE_RESULT_SAVED) return result;
   } else {
     ProgressSteps progress(options.progress, GetNumberCount(), kReportedInstances);
-    WriteModel(file.GetStream(), GetFileName(path), schema, progress);
+    WriteModel(file.GetStream(), GetFileName(path), schema, progress, CountThreads(options));
     reason = "the save was cancelled";
     if (progress.IsStopped()) return SAVE_RESULT_CANCELLED;
   }
@@ -130,42 +131,35 @@ int IfcServer::SaveModel(const char* path, std::string_view schema, const SaveOp
   return SAVE_RESULT_CANNOT_WRITE;
 }
 
+// Returns the number of threads for a save. A derived server can replace operations that a save
+// calls.
+unsigned IfcServer::CountThreads(const SaveOptions& options) const {
+  constexpr std::size_t kLeastPieces = 4;
+  const bool isSmall = GetNumberCount() < kLeastPieces * PieceWriter::kInstances;
+  if (isSmall || typeid(*this) != typeid(IfcServer)) return 1;
+  return OrderedWork::ChooseThreads(options.threads);
+}
+
 void IfcServer::WriteModel(std::ostream& out, std::string_view fileName, std::string_view schema,
-                           ProgressSteps& progress) {
+                           ProgressSteps& progress, unsigned threads) {
   WriteHeader(out, GetHeaderText(fileName, dialect), schema);
-  WriteInstances(out, progress);
+  if (threads > 1) {
+    PieceWriter(*this, out, progress, threads).Write();
+  } else {
+    WriteInstances(out, progress);
+  }
   detail::PutText(out, "ENDSEC;\nEND-ISO-10303-21;\n");
 }
 
-// Writes the instances in batches. If the numbers of a file are not in order, each step from a
-// number to its instance waits for memory. The memory for a whole batch is prefetched, so that
-// these times overlap.
 void IfcServer::WriteInstances(std::ostream& out, ProgressSteps& progress) {
-  constexpr std::size_t kBatch = 32;
-  constexpr std::size_t kWritten = 256;  // bytes of an instance that are prefetched
-  std::array<std::uint64_t, kBatch> batch = {};
-  TextStream statement;
+  std::array<std::uint64_t, InstanceWriter::kBatch> batch = {};
+  InstanceWriter writer(*this);
   std::uint64_t last = 0;
   std::uint64_t written = 0;
-  for (std::size_t count = kBatch; count == kBatch && progress.Reach(written);) {
+  for (std::size_t count = batch.size(); count == batch.size() && progress.Reach(written);) {
     count = 0;
-    while (count < kBatch && (last = idToIndex.GetNext(last)) != 0) {
-      detail::Prefetch(&items[idToIndex.Find(last)]);
-      batch[count++] = last;
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-      detail::PrefetchInstance(items[idToIndex.Find(batch[i])], kWritten);
-    }
-    for (std::size_t i = 0; i < count; ++i) {
-      if (dialect == STEP_DIALECT_CLASSIC) {
-        WriteInstance(out, batch[i]);
-      } else {
-        statement.Clear();
-        WriteInstance(statement, batch[i]);
-        if (!statement) out.setstate(std::ios::badbit);
-        WriteIsoStatement(out, statement.GetText());
-      }
-    }
+    while (count < batch.size() && (last = idToIndex.GetNext(last)) != 0) batch[count++] = last;
+    writer.WriteBatch(batch.data(), batch.data() + count, out);
     written += count;
   }
   progress.Reach(written);

@@ -37,6 +37,13 @@ struct SaveOptions {
   /// bytes of the source that were read in two passes. If it returns false, the result is
   /// SAVE_RESULT_CANCELLED.
   ProgressHandler progress = {};
+
+  /// The number of threads that the save can use, the thread of the caller included; 0 means one
+  /// for each processor. The file does not depend on it. Handlers run on the thread of the caller.
+  /// If it is not 1, IfcUnknown::Write of different instances can run at the same time, and must
+  /// not change the model. A faithful save, a save of a small model, and a save by a class that is
+  /// derived from IfcServer use one thread.
+  unsigned threads = 1;
 };
 
 }  // namespace KelIFC

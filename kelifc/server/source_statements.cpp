@@ -1,5 +1,6 @@
 #include "kelifc/server/source_statements.h"
 
+#include <algorithm>
 #include <cstdint>
 
 #include "kelifc/server/ifc_server.h"
@@ -44,6 +45,13 @@ bool SourceStatements::ReadText(std::size_t number) {
   stream->read(text.data(), static_cast<std::streamsize>(text.size()));
   text.resize(static_cast<std::size_t>(stream->gcount()));
   return text.size() == place.length;
+}
+
+bool SourceStatements::IsMadeId(std::size_t number, std::string_view id) const {
+  if (model.origin == nullptr) return false;
+  const auto made = model.origin->replacedIds.find(number);
+  return made != model.origin->replacedIds.end() &&
+         std::find(made->second.begin(), made->second.end(), id) != made->second.end();
 }
 
 StatementView SourceStatements::Read(std::size_t number, std::string_view entity) {

@@ -25,6 +25,10 @@ class SourceStatements {
   /// the statement is not `entity` (in upper case), and if the statement is longer than 64 KiB.
   StatementView Read(std::size_t number, std::string_view entity);
 
+  /// Returns true if the load made this global identifier for an instance whose statement has none
+  /// that can be decoded. Returns false if the model has no source.
+  bool IsMadeId(std::size_t number, std::string_view id) const;
+
  private:
   bool ReadText(std::size_t number);
 

@@ -102,12 +102,12 @@ std::int16_t IfcServer::RegisterInstance(char* statement) {
     NoteStatement(assignment.number, KindOf(made.get()), assignment.text);
   }
   InsertItem(assignment.number, made.release());
-  if (isNoted) NotePlace(assignment.number, load.scanner->GetStatementPlace());
+  if (load.isReported && isNoted) NotePlace(assignment.number, load.scanner->GetStatementPlace());
   return 0;
 }
 
-// Makes what RegisterMade registers. Several threads can call it; the scanner of the thread has
-// returned the statement.
+// Makes what RegisterMade registers, without the server of the instance. The scanner has returned
+// the statement.
 MadeStatement IfcServer::MakeStatement(std::size_t id, const char* text,
                                        const ScanBuffer& scanner) {
   MadeStatement statement;
@@ -117,7 +117,6 @@ MadeStatement IfcServer::MakeStatement(std::size_t id, const char* text,
   statement.listed = ListedAsOf(statement.made.get());
   statement.place = scanner.GetStatementPlace();
   statement.column = static_cast<std::uint32_t>(scanner.GetPlace().column);
-  if (statement.made != nullptr) statement.made->SetServer(this);
   return statement;
 }
 
@@ -134,7 +133,7 @@ void IfcServer::RegisterMade(MadeStatement statement, const char* text) {
     NoteRepeat(statement.number, {statement.place.line, statement.column});
   }
   AppendNew(statement.number, std::move(statement.made), statement.listed);
-  NotePlace(statement.number, statement.place);
+  if (load.isReported) NotePlace(statement.number, statement.place);
 }
 
 void IfcServer::NotePlace(std::size_t id, const StatementPlace& place) {
@@ -192,9 +191,11 @@ void IfcServer::NoteNumber(std::size_t id) {
 }
 
 // Returns the instance that the statement at an offset made, or null. Only the last one of several
-// statements with the same number has an instance.
+// statements with the same number has an instance. A load without a report on several threads knows
+// no places, and has no such numbers.
 IfcUnknown* IfcServer::FindStated(std::size_t id, std::uint64_t offset) {
   const std::uint32_t position = idToIndex.Find(id);  // kNone is beyond all places
+  if (!load.isReported) return position == detail::NumberIndex::kNone ? nullptr : items[position];
   return position < places.size() && places[position].offset == offset ? items[position] : nullptr;
 }
 

@@ -57,6 +57,33 @@ TEST(LoadOptions, LimitALoadByDefault) {
   EXPECT_EQ(options.limits.maxMemoryBytes, 17179869184U);
 }
 
+TEST(LoadOptions, CanLeaveOutTheReportInTheClassicDialect) {
+  const std::string text = ModelOf(3) + "#3=IFCDIRECTION((1.,0.));";
+  for (const STEP_DIALECT dialect : kDialects) {
+    LoadOptions options = OptionsFor(dialect);
+    options.report = false;
+    IfcServer server;
+    ASSERT_EQ(server.LoadIfcMemory(text.data(), text.size(), options), 0);
+    const bool isReported = dialect == STEP_DIALECT_ISO;
+    EXPECT_EQ(server.GetNumberCount(), 3U);
+    EXPECT_EQ(server.GetLoadReport().statements, isReported ? 4U : 0U);
+    EXPECT_EQ(server.GetLoadFindings().IsEmpty(), !isReported);
+    EXPECT_EQ(server.GetSourceLine(2), isReported ? 3U : 0U);
+    EXPECT_EQ(server.CheckModel(), isReported);
+  }
+}
+
+TEST(LoadOptions, NameALaterReleaseWithoutAReport) {
+  const std::string text = HeadOf("IFC4");
+  LoadOptions options;
+  options.report = false;
+  IfcServer server;
+  EXPECT_EQ(server.LoadIfcMemory(text.data(), text.size(), options),
+            LOAD_RESULT_UNSUPPORTED_RELEASE);
+  EXPECT_EQ(server.GetFileSchema(), "IFC4");
+  EXPECT_FALSE(server.GetLoadReport().failure);
+}
+
 TEST(LoadOptions, LimitTheLengthOfTheFile) {
   const std::string text = ModelOf(10);
   for (const STEP_DIALECT dialect : kDialects) {

@@ -5,6 +5,7 @@
 #include <fstream>
 #include <string>
 
+#include "kelifc/schema/attribute_value.h"
 #include "kelifc/server/ifc_server.h"
 
 #include "tests/server/temp_file.h"
@@ -84,6 +85,16 @@ TEST_F(SourceStatement, OfASourceThatChangedAreNotTakenForOthers) {
   std::ofstream(file.GetPath(), std::ios::binary) << ModelOf("#3=IFCBEAM('g');");
   EXPECT_EQ(statements.Read(1, "IFCPILE").GetCount(), 0U);
   EXPECT_EQ(statements.Read(2, "IFCPILE").GetCount(), 0U);
+}
+
+TEST_F(SourceStatement, KnowTheIdentifiersThatTheLoadHasMade) {
+  Load("#1=IFCBEAM('1xS3BCk291UvhgP2dvNMKI',$,$,$,$,$,$,$);#2=IFCBEAM('short',$,$,$,$,$,$,$);");
+  const auto idOf = [&](std::size_t number) {
+    return std::string(InstanceView(*server.GetItem(number))[0].AsText());
+  };
+  EXPECT_FALSE(statements.IsMadeId(1, idOf(1)));
+  EXPECT_TRUE(statements.IsMadeId(2, idOf(2)));
+  EXPECT_FALSE(statements.IsMadeId(2, idOf(1)));  // a host has set it since
 }
 
 }  // namespace

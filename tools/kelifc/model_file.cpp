@@ -66,9 +66,13 @@ ModelSource LoadWithProgress(IfcServer& server, const std::string& path, const R
 
 ModelSource LoadModel(IfcServer& server, const std::string& path, const Reading& reading) {
   return LoadWithProgress(server, path, reading, [&](const char* file) {
-    const LoadOptions options = OptionsOf(reading);
-    const bool isClassic = options.dialect == KelIFC::STEP_DIALECT_CLASSIC;
-    return isClassic ? server.LoadIfcFile(file) : server.LoadIfc(file, options);
+    LoadOptions options = OptionsOf(reading);
+    if (options.dialect == KelIFC::STEP_DIALECT_ISO) return server.LoadIfc(file, options);
+    options.limits = {0, 0, 0, 0};
+    options.report = false;
+    const int code = server.LoadIfc(file, options);
+    const bool isLater = code == KelIFC::LOAD_RESULT_UNSUPPORTED_RELEASE;
+    return isLater ? static_cast<int>(KelIFC::LOAD_RESULT_UNKNOWN_SCHEMA) : code;
   });
 }
 

@@ -24,23 +24,28 @@ Output::~Output() {
   if (file != nullptr && !isStandard) std::fclose(file);
 }
 
-void Output::Write(std::string_view text) {
-  constexpr std::size_t kBlock = std::size_t{1} << 16;
-  buffer += text;
-  if (buffer.size() >= kBlock) Flush();
+// Writes a text that does not fit into the rest of the block.
+void Output::WriteBlocks(std::string_view text) {
+  Flush();
+  if (text.size() > kBlockSize) return Put(text);
+  text.copy(block.get(), text.size());
+  used = text.size();
 }
 
 void Output::Flush() {
+  Put({block.get(), used});
+  used = 0;
+}
+
+void Output::Put(std::string_view text) {
   if (target != nullptr) {
-    *target += buffer;
-    buffer.clear();
+    *target += text;
     return;
   }
   ThrowIfInterrupted();
-  if (std::fwrite(buffer.data(), 1, buffer.size(), file) != buffer.size()) {
+  if (std::fwrite(text.data(), 1, text.size(), file) != text.size()) {
     throw Failure(Status::kFile, name, std::strerror(errno));
   }
-  buffer.clear();
 }
 
 void Output::Close() {

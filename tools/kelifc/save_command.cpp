@@ -16,6 +16,7 @@ void RunSave(const SaveOptions& options) {
   server.SetErrorHandler([&failure](const std::string& message) { failure = message; });
   KelIFC::SaveOptions saving;
   saving.faithful = options.faithful;
+  saving.threads = options.reading.threads;
   ProgressBar bar("writing", IsLargeFile(source.GetSize()) && AllowsBar(options.reading));
   saving.progress = bar.GetHandler();
   if (server.SaveIfc(options.output.c_str(), saving) != KelIFC::SAVE_RESULT_SAVED) {

@@ -26,7 +26,7 @@ BuildingStorey ReadStorey(ReadContext& context, const Instance& storey,
                           PlacementReader& placements) {
   BuildingStorey result;
   result.id = storey.Number();
-  result.guid = storey.Get(Attribute::kGlobalId).Text();
+  result.guid = storey.StatedGlobalId();
   result.name = storey.Get(Attribute::kName).Text();
   Unreadable why;
   const Instance placement = storey.Get(Attribute::kObjectPlacement).Target();
@@ -57,7 +57,7 @@ Building ReadHead(ReadContext& context, const Relations& relations, PlacementRea
                          .Target()
                          .Get(Attribute::kApplicationFullName)
                          .Text();
-  head.projectGuid = project.Get(Attribute::kGlobalId).Text();
+  head.projectGuid = project.StatedGlobalId();
   head.trueNorth = TrueNorthOf(project);
   head.lengthUnit = context.units.length;
   for (const Instance& storey : relations.Storeys()) {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "kelifc/core/global_id.h"
 #include "kelifc/core/other.h"
 #include "kelifc/core/references/cast_cache.h"
 #include "kelifc/core/text/ascii.h"
@@ -77,6 +78,13 @@ Value Instance::Get(Attribute attribute) const {
   }
   const auto position = PositionOf(model->Release(), type->entity, attribute);
   return position ? Value(*model, ReadAttribute(*instance, *position)) : Value();
+}
+
+std::string Instance::StatedGlobalId() const {
+  std::string id = Get(Attribute::kGlobalId).Text();
+  const bool isMade = model != nullptr && model->Statements().IsMadeId(Number(), id);
+  if (isMade || !IsGlobalId64(id.c_str())) id.clear();
+  return id;
 }
 
 std::string Instance::StatedEnumerator(Attribute attribute) const {

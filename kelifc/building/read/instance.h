@@ -99,6 +99,10 @@ class Instance {
   /// the instance does not keep it.
   Value Get(Attribute attribute) const;
 
+  /// The GlobalId, as the file states it. Empty if the file has none that can be decoded; an
+  /// identifier that the load made instead does not count.
+  std::string StatedGlobalId() const;
+
   /// The name of an enumerator without its dots. If the class does not keep the attribute, it is
   /// read from the statement in the source of the model. Empty if that is not possible.
   std::string StatedEnumerator(Attribute attribute) const;

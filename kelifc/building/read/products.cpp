@@ -47,7 +47,7 @@ void ProductReader::ReadIdentity(const Instance& product, ProductFacts& facts) {
   facts.id = product.Number();
   facts.line = context.model.Server().GetSourceLine(facts.id);
   facts.className = RowOf(product.GetEntity()).name;
-  facts.guid = product.Get(Attribute::kGlobalId).Text();
+  facts.guid = product.StatedGlobalId();
   facts.name = product.Get(Attribute::kName).Text();
   facts.tag = product.Get(Attribute::kTag).Text();
   facts.type = product.StatedEnumerator(Attribute::kPredefinedType);
@@ -108,7 +108,7 @@ void ProductReader::ReadOpenings(ProductFacts& facts) {
     Unreadable why;
     if (!ReadPlacement(opening, read.placement, why)) continue;
     read.id = number;
-    read.guid = opening.Get(Attribute::kGlobalId).Text();
+    read.guid = opening.StatedGlobalId();
     read.items = ReadBody(opening, why);
     const Instance fill = context.model.Find(relations.FillOf(number));
     read.fill = fill.Number();

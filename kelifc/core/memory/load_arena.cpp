@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <atomic>
+#include <cstdint>
 #include <new>
 
 #include "kelifc/core/memory/chunk_map.h"
@@ -43,6 +44,7 @@ constexpr std::size_t kFirstPart = std::size_t{16} * 1024;
 constexpr std::size_t kLargestAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
 KELIFC_STATIC_TLS thread_local LoadArena* current = nullptr;
+KELIFC_STATIC_TLS thread_local BulkFree* freeing = nullptr;
 
 // `unit` is a power of two.
 constexpr std::size_t RoundUp(std::size_t size, std::size_t unit) {
@@ -80,8 +82,24 @@ void* detail::AllocateBlock(std::size_t size, std::size_t alignment) {
   return ::operator new(size);
 }
 
+// Returns false if no chunk contains the block.
+inline bool BulkFree::Count(void* block) noexcept {
+  const auto address = reinterpret_cast<std::uintptr_t>(block);
+  Pending& pending = chunks[address / ChunkMap::kChunkSize % kChunks];
+  const std::uintptr_t begin = address - address % ChunkMap::kChunkSize;
+  if (pending.chunk == nullptr || reinterpret_cast<std::uintptr_t>(pending.chunk) != begin) {
+    void* const chunk = ChunkMap::Find(block);
+    if (chunk == nullptr) return false;
+    Settle(pending);
+    pending.chunk = static_cast<LoadArena::Chunk*>(chunk);
+  }
+  ++pending.blocks;
+  return true;
+}
+
 void detail::FreeBlock(void* block) noexcept {
   if (block == nullptr) return;
+  if (freeing != nullptr && freeing->Count(block)) return;
   if (void* const chunk = ChunkMap::Find(block)) {
     static_cast<LoadArena::Chunk*>(chunk)->Drop(1);
   } else {
@@ -94,6 +112,18 @@ LoadArena::LoadArena() : outer(current), nextPart(kFirstPart) { current = this; 
 LoadArena::~LoadArena() {
   CloseChunk();
   current = outer;
+}
+
+BulkFree::BulkFree() : outer(freeing) { freeing = this; }
+
+BulkFree::~BulkFree() {
+  for (Pending& pending : chunks) Settle(pending);
+  freeing = outer;
+}
+
+void BulkFree::Settle(Pending& pending) noexcept {
+  if (pending.chunk != nullptr) pending.chunk->Drop(pending.blocks);
+  pending = {};
 }
 
 // Begins the next part of the chunk, or a new chunk.

@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <cstring>
+#include <utility>
 
+#include "kelifc/core/detail/prefetch.h"
 #include "kelifc/platform/new_guid.h"
+#include "kelifc/server/reserve_huge.h"
 
 namespace KelIFC::detail {
 namespace {
@@ -13,7 +16,7 @@ constexpr std::size_t kSmallestTable = 16;
 }  // namespace
 
 GuidIndex::GuidIndex(std::size_t count) {
-  entries.reserve(count);
+  ReserveHuge(entries, count);
   std::size_t slotCount = kSmallestTable;
   while (slotCount < 2 * count) slotCount *= 2;
   Resize(slotCount);
@@ -29,19 +32,35 @@ void GuidIndex::Add(const _GUID& guid, std::uint32_t position) {
   slot = static_cast<std::uint32_t>(entries.size() - 1);
 }
 
+void GuidIndex::AddBatch(const Entry* begin, const Entry* end) {
+  if (!table.empty()) {
+    for (const Entry* entry = begin; entry != end; ++entry) Prefetch(&table[HomeOf(entry->guid)]);
+    for (const Entry* entry = begin; entry != end; ++entry) {
+      const std::uint32_t other = table[HomeOf(entry->guid)];
+      if (other != kNone) Prefetch(&entries[other]);
+    }
+  }
+  for (const Entry* entry = begin; entry != end; ++entry) Add(entry->guid, entry->position);
+}
+
 std::uint32_t GuidIndex::Find(const _GUID& guid) const {
   if (table.empty()) return kNone;
   const std::uint32_t entry = table[SlotOf(guid)];
   return entry == kNone ? kNone : entries[entry].position;
 }
 
-// Returns the slot of an identifier, or the free slot for it.
-std::size_t GuidIndex::SlotOf(const _GUID& guid) const {
+// Returns the slot where the search for an identifier begins.
+std::size_t GuidIndex::HomeOf(const _GUID& guid) const {
   std::uint64_t halves[2];
   std::memcpy(halves, &guid, sizeof halves);
   const std::uint64_t hash =
       (halves[0] ^ halves[0] >> 32) * factors[0] + (halves[1] ^ halves[1] >> 32) * factors[1];
-  auto slot = static_cast<std::size_t>(hash >> shift);
+  return static_cast<std::size_t>(hash >> shift);
+}
+
+// Returns the slot of an identifier, or the free slot for it.
+std::size_t GuidIndex::SlotOf(const _GUID& guid) const {
+  std::size_t slot = HomeOf(guid);
   while (table[slot] != kNone && entries[table[slot]].guid != guid) {
     slot = (slot + 1) & (table.size() - 1);
   }
@@ -55,7 +74,10 @@ void GuidIndex::Resize(std::size_t slotCount) {
     std::memcpy(factors, &random, sizeof factors);
     for (std::uint64_t& factor : factors) factor |= 1;
   }
-  table.assign(slotCount, kNone);
+  std::vector<std::uint32_t> made;
+  ReserveHuge(made, slotCount);
+  made.resize(slotCount, kNone);
+  table = std::move(made);
   shift = 64;
   for (std::size_t size = slotCount; size > 1; size /= 2) --shift;
   for (std::size_t i = 0; i < entries.size(); ++i) {

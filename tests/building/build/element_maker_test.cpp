@@ -100,6 +100,44 @@ TEST(ElementMaker, CountsThePointsOfEachProductAgainstTheLimit) {
   EXPECT_EQ(fault->at, 3u);
 }
 
+// A face of a surface model, 4 by 3 m, in a plane that slopes.
+SolidPointer Sheet() {
+  Shells shells;
+  shells.isSurface = true;
+  shells.shells.resize(1);
+  shells.shells[0].points = {{0.0, 0.0, 0.0}, {4.0, 0.0, 3.0}, {4.0, 3.0, 3.0}, {0.0, 3.0, 0.0}};
+  shells.shells[0].AddFace({0, 1, 2, 3});
+  return Share({55, shells});
+}
+
+TEST(ElementMaker, ABoundaryInOnePlaneIsOpen) {
+  const ReadingOptions options;
+  ElementMaker maker(options);
+  BuildingElement element;
+  const auto fault = maker.Make(Product(1, "IfcPlate", {Sheet()}), element);
+  ASSERT_TRUE(fault);
+  EXPECT_EQ(fault->reason, LossReason::kOpen);
+  EXPECT_EQ(fault->at, 55u);
+}
+
+TEST(ElementMaker, ABoundaryWithAGapThatEnclosesAVolumeIsAnElement) {
+  Shells shells;
+  shells.shells.resize(1);
+  Mesh& box = shells.shells[0];
+  box.points = {{0.0, 0.0, 0.0}, {4.0, 0.0, 0.0}, {4.0, 3.0, 0.0}, {0.0, 3.0, 0.0},
+                {0.0, 0.0, 0.2}, {4.0, 0.0, 0.2}, {4.0, 3.0, 0.2}, {0.0, 3.0, 0.2}};
+  box.AddFace({0, 3, 2, 1});
+  for (Mesh::Index i = 0; i < 4; ++i) {
+    const Mesh::Index next = (i + 1) % 4;
+    box.AddFace({i, next, next + 4, i + 4});
+  }
+  const auto slabs = MakeElements({Product(1, "IfcSlab", {Share({56, shells})})});
+  EXPECT_FALSE(slabs[0].body.isClosed);
+  EXPECT_TRUE(slabs[0].isApproximate);
+  ASSERT_TRUE(slabs[0].surface);
+  EXPECT_NEAR(slabs[0].surface->thickness, 0.2, 1e-9);
+}
+
 TEST(ElementMaker, MovesASharedBodyToEachOfItsPlacesAlsoAfterAnEqualProduct) {
   const std::vector<SolidPointer> mapped = {Mapped({Block(1.0, 0.5, 3.0)})};
   const auto columns =

@@ -153,6 +153,24 @@ TEST(Idealise, FallsBackToTheBoundaryWhereTheFactsDiffer) {
   EXPECT_NEAR(column.deviation, 0.0, 1e-9);
 }
 
+TEST(MadeProfiles, MakesEqualProfilesOnce) {
+  MadeProfiles profiles;
+  const ProfilePointer first = RectangleProfile(0.0, 0.0, 0.25, 0.5);
+  const auto& made = profiles.Get(first, 1.0);
+  EXPECT_EQ(&profiles.Get(RectangleProfile(0.0, 0.0, 0.25, 0.5), 1.0), &made);
+  ASSERT_TRUE(made);
+  EXPECT_NEAR(made->profile.area, 0.125, 1e-12);
+  const auto& doubled = profiles.Get(first, 2.0);
+  ASSERT_TRUE(doubled);
+  EXPECT_NEAR(doubled->profile.area, 0.5, 1e-12);
+  auto named = std::make_shared<ProfileFacts>(*first);
+  named->name = "R";
+  const auto& other = profiles.Get(named, 1.0);
+  ASSERT_TRUE(other);
+  EXPECT_EQ(other->profile.name, "R");
+  EXPECT_EQ(made->profile.name, "");
+}
+
 TEST(Idealise, SharesTheProfilesOfElements) {
   const Sample sample({Prism(RectangleProfile(-0.1, -0.1, 0.1, 0.1), 3.0)});
   MadeProfiles profiles;

@@ -8,7 +8,9 @@ set(stage_tests
   idealise_bent_member_test.cpp
   idealise_curved_wall_test.cpp
   idealise_cut_taper_test.cpp
+  idealise_measure_test.cpp
   idealise_member_test.cpp
+  idealise_orient_test.cpp
   idealise_strip_test.cpp
   idealise_surface_test.cpp
   idealise_test.cpp

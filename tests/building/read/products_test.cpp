@@ -26,6 +26,16 @@ TEST(Product, HasItsIdentity) {
   }
 }
 
+TEST(Product, HasNoGlobalIdIfTheFileHasNoneThatCanBeDecoded) {
+  for (const std::string& schema : kSchemas) {
+    for (const std::string id : {"$", "''", "'too short'", "'1xS3BCk291UvhgP2dvNM?I'"}) {
+      const ReadText read = ReadData("#20=IFCBEAM(" + id + ",$,'B',$,$,$,$,$);", schema);
+      EXPECT_EQ(read.Only().guid, "") << id;
+      EXPECT_EQ(read.Only().name, "B");
+    }
+  }
+}
+
 TEST(Product, HasThePredefinedTypeThatItsClassDoesNotKeep) {
   for (const std::string& schema : {std::string("IFC2X2_FINAL"), std::string("IFC2X3")}) {
     EXPECT_EQ(ReadData("#20=IFCPILE('p',$,$,$,$,$,$,$,.FRICTION.,.BORED.);", schema).Only().type,

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "kelifc/core/list_of_members.h"
+#include "kelifc/core/memory/chunk_map.h"
 #include "kelifc/core/other.h"
 
 namespace KelIFC {
@@ -163,6 +164,77 @@ TEST(LoadArena, HoldsInstancesAndTheirAggregates) {
   for (std::size_t i = 1; i < instances.size(); i += 2) {
     EXPECT_STREQ(instances[i]->GetStepName(), instances[1]->GetStepName());
   }
+}
+
+// The blocks fill several chunks.
+std::vector<void*> AllocateMany() {
+  constexpr std::size_t kCount = 40000;
+  const LoadArena arena;
+  std::vector<void*> blocks;
+  for (std::size_t i = 0; i < kCount; ++i) blocks.push_back(AllocateBlock(100 + i % 1000));
+  return blocks;
+}
+
+std::vector<const void*> ChunksOf(const std::vector<void*>& blocks) {
+  std::vector<const void*> chunks;
+  for (void* const block : blocks) chunks.push_back(ChunkMap::Find(block));
+  return chunks;
+}
+
+// True if each of the blocks was in a chunk, and no chunk exists any more.
+bool AreFreed(const std::vector<void*>& blocks, const std::vector<const void*>& chunks) {
+  for (std::size_t i = 0; i < blocks.size(); ++i) {
+    if (chunks[i] == nullptr || ChunkMap::Find(blocks[i]) != nullptr) return false;
+  }
+  return true;
+}
+
+TEST(BulkFree, FreesTheChunksOfAllBlocksWhenItEnds) {
+  std::vector<void*> blocks = AllocateMany();
+  const std::vector<const void*> chunks = ChunksOf(blocks);
+  {
+    const BulkFree scope;
+    for (std::size_t i = 0; i < blocks.size(); ++i) FreeBlock(blocks[i * 7919 % blocks.size()]);
+  }
+  EXPECT_TRUE(AreFreed(blocks, chunks));
+}
+
+TEST(BulkFree, LeavesOtherBlocksAsTheyAre) {
+  std::unique_ptr<Blocks> kept;
+  std::vector<void*> freed;
+  {
+    const LoadArena arena;
+    freed.push_back(AllocateBlock(8));
+    kept = std::make_unique<Blocks>();
+    freed.push_back(AllocateBlock(8));
+  }
+  {
+    const BulkFree scope;
+    for (void* const block : freed) FreeBlock(block);
+    FreeBlock(AllocateBlock(8));
+    FreeBlock(nullptr);
+  }
+  kept->ExpectWhole();
+  EXPECT_NE(ChunkMap::Find(freed[0]), nullptr);
+  kept.reset();
+  EXPECT_EQ(ChunkMap::Find(freed[0]), nullptr);
+}
+
+TEST(BulkFree, CountsTheBlocksOfItsThreadOnly) {
+  std::vector<void*> blocks = AllocateMany();
+  const std::vector<const void*> chunks = ChunksOf(blocks);
+  const std::size_t half = blocks.size() / 2;
+  {
+    const BulkFree outer;
+    for (std::size_t i = 0; i < half; i += 2) FreeBlock(blocks[i]);
+    std::thread([&] {
+      const BulkFree scope;
+      for (std::size_t i = half; i < blocks.size(); ++i) FreeBlock(blocks[i]);
+    }).join();
+    const BulkFree inner;
+    for (std::size_t i = 1; i < half; i += 2) FreeBlock(blocks[i]);
+  }
+  EXPECT_TRUE(AreFreed(blocks, chunks));
 }
 
 }  // namespace

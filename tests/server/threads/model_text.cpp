@@ -141,10 +141,11 @@ std::string FirstDifference(const std::string& a, const std::string& b) {
   return lineOfLeft + "\n" + lineOfRight;
 }
 
-std::string SavedData(IfcServer& server, bool faithful) {
+std::string SavedData(IfcServer& server, bool faithful, unsigned threads) {
   const TempFile file;
   SaveOptions options;
   options.faithful = faithful;
+  options.threads = threads;
   server.SetErrorHandler([](const std::string&) {});
   if (server.SaveIfc(file.GetPath(), options) != 0) return "cannot be saved";
   const std::string text = file.Read();

@@ -28,7 +28,7 @@ std::string Describe(const LoadedModel& model);
 std::string FirstDifference(const std::string& a, const std::string& b);
 
 /// The model as it is saved, from the begin of the data. "cannot be saved" if a save fails.
-std::string SavedData(IfcServer& server, bool faithful);
+std::string SavedData(IfcServer& server, bool faithful, unsigned threads = 1);
 
 }  // namespace KelIFC
 

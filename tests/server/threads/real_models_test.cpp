@@ -28,10 +28,14 @@ void ExpectSame(const std::string& text, STEP_DIALECT dialect) {
   options.threads = 3;
   const LoadedModel model = LoadText(text, options);
   EXPECT_EQ(FirstDifference(Describe(model), Describe(expected)), "");
-  EXPECT_EQ(FirstDifference(SavedData(*model.server, true), SavedData(*expected.server, true)), "");
+  for (const bool faithful : {false, true}) {
+    EXPECT_EQ(FirstDifference(SavedData(*model.server, faithful, 3),
+                              SavedData(*expected.server, faithful)),
+              "");
+  }
 }
 
-TEST(ThreadsOnRealModels, LoadTheSame) {
+TEST(ThreadsOnRealModels, LoadAndSaveTheSame) {
   const std::vector<fs::path> models = RealModels();
   if (models.empty()) GTEST_SKIP() << kNoRealModels;
   const BlockSizeScope scope(std::size_t{16} * 1024);
