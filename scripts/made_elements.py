@@ -172,15 +172,43 @@ def cut_prisms():
                thickness=.2)
     yield Made("curved beam", "IFCBEAM", swept(rectangle(.2, .4), 6.0, 1.2, 24), "any", exact=None)
     yield Made("curved pipe", "IFCMEMBER", swept(circle(.05, 16), 2.0, 1.5, 24), "any", exact=None)
+    yield Made("arch tapered I", "IFCBEAM", swept(sideways(ish), 8.0, 1.2, 48, growth=1.0), "member")
+    yield Made("arch tapered tube", "IFCBEAM", swept(circle(.1, 16), 8.0, 1.2, 48, growth=1.0),
+               "member")
+    yield Made("arch level ends", "IFCBEAM", level_arch(sideways(ish), 6.0, .8, 60), "member")
 
 
-def swept(outline, radius, angle, chords):
+def sideways(outline):
+    """An outline whose depth lies in the plane of an arch."""
+    return [(y, x) for x, y in outline]
+
+
+def swept(outline, radius, angle, chords, growth=0.0):
+    """An outline along an arc. Its size grows by a part of it from the start to the end."""
     sections = []
     for i in range(chords + 1):
         a = angle * i / chords
+        size = 1.0 + growth * i / chords
         x = (math.cos(a), math.sin(a), 0.0)
-        sections.append([[add(scale(x, radius + px), (0, 0, py)) for px, py in outline]])
-    solid = loft(sections)
+        sections.append([[add(scale(x, radius + px * size), (0, 0, py * size))
+                          for px, py in outline]])
+    return outwards(loft(sections))
+
+
+def level_arch(outline, radius, half, chords):
+    """An arch between two springings at the same level, which cut it horizontally."""
+    sections = []
+    for i in range(chords + 1):
+        section = []
+        for px, py in outline:
+            r = radius + px
+            a = math.acos(radius * math.cos(half) / r) * (2 * i / chords - 1)
+            section.append((r * math.sin(a), py, r * math.cos(a)))
+        sections.append([section])
+    return outwards(loft(sections))
+
+
+def outwards(solid):
     return solid if solid.volume() > 0 else solid.reversed()
 
 

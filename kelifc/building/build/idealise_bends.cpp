@@ -20,7 +20,11 @@ constexpr double kSquareEnd = 1e-3;
 // Members that are thinner or shorter than this are none, in metres.
 constexpr double kLeastExtent = 1e-6;
 
-std::size_t LongestEdge(const Outline& chain) {
+// The edge beside which a member has its whole section. Of an arc that is the middle one: beside
+// the first and the last one, a skew end may cut the section.
+std::size_t EdgeOfWholeSection(const Strip& strip) {
+  const Outline& chain = strip.left;
+  if (FindCircles(strip)) return (chain.size() - 1) / 2;
   std::size_t longest = 0;
   for (std::size_t i = 1; i + 1 < chain.size(); ++i) {
     if (Distance(chain[i], chain[i + 1]) > Distance(chain[longest], chain[longest + 1]) + 1e-9) {
@@ -55,7 +59,7 @@ std::optional<Bends> FindBends(Subject& subject, const Vector3& normal) {
     std::reverse(bends.strip.left.begin(), bends.strip.left.end());
     std::reverse(bends.strip.right.begin(), bends.strip.right.end());
   }
-  bends.edge = LongestEdge(bends.strip.left);
+  bends.edge = EdgeOfWholeSection(bends.strip);
   return bends;
 }
 

@@ -13,7 +13,7 @@ namespace KelIFC::building::idealising {
 struct Bends {
   PlaneFrame plane;
   Strip strip;
-  std::size_t edge = 0;  ///< the longest one of the left side
+  std::size_t edge = 0;  ///< of the left side: the middle one of an arc, else the longest
 
   Vector3 Normal() const { return NormalOf(plane); }
   Point2 MiddleOfEdge() const { return Between(strip.left[edge], strip.left[edge + 1]); }

@@ -180,4 +180,13 @@ std::vector<Vector3> LargestNormals(Boundary& boundary, std::size_t most) {
   return normals;
 }
 
+std::optional<Vector3> MainEdgeDirection(Boundary& boundary) {
+  const std::vector<Weighted> merged = Merge(EdgesOf(boundary));
+  const auto longest =
+      std::max_element(merged.begin(), merged.end(),
+                       [](const Weighted& a, const Weighted& b) { return a.weight < b.weight; });
+  if (longest == merged.end()) return std::nullopt;
+  return longest->vector;
+}
+
 }  // namespace KelIFC::building::idealising

@@ -2,6 +2,7 @@
 #define KELIFC_BUILDING_BUILD_IDEALISE_DIRECTIONS_H_
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "kelifc/building/build/idealise_boundary.h"
@@ -27,6 +28,9 @@ constexpr std::size_t kMostDirections = 10;
 /// The normals in which the largest part of the surface looks, at most so many, the largest first.
 /// Opposite normals are one.
 std::vector<Vector3> LargestNormals(Boundary& boundary, std::size_t most);
+
+/// The direction in which the edges have the greatest length together; none if there are no edges.
+std::optional<Vector3> MainEdgeDirection(Boundary& boundary);
 
 }  // namespace KelIFC::building::idealising
 

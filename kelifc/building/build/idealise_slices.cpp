@@ -86,23 +86,26 @@ bool MayBeCurvedWall(Subject& subject) {
          subject.boundary.Faces().size() >= 8;
 }
 
-// The directions that may be square to the plane of a bend: those that were found, and those that
-// are parallel to two of the largest planes, such as both ends of a pipe.
+// The directions that may be square to the plane of a bend: those that were found, those that are
+// parallel to two of the largest planes, such as both ends of a pipe, and that of most edges, such
+// as those between the chords.
 std::vector<Vector3> NormalsOfBends(Subject& subject, const std::vector<Direction>& directions) {
   constexpr std::size_t kMostPlanes = 4;
+  constexpr double kSameNormal = 1e-4;  // the sine of the angle between equal normals
   std::vector<Vector3> normals;
   normals.reserve(directions.size() + kMostPlanes * kMostPlanes);
   for (const Direction& direction : directions) normals.push_back(direction.vector);
+  const auto add = [&](const Vector3& normal) {
+    const bool isKnown = std::any_of(normals.begin(), normals.end(), [&](const Vector3& known) {
+      return Length(Cross(known, normal)) < kSameNormal;
+    });
+    if (!isKnown) normals.push_back(normal);
+  };
   const std::vector<Vector3> planes = LargestNormals(subject.boundary, kMostPlanes);
   for (std::size_t i = 0; i < planes.size(); ++i) {
-    for (std::size_t k = 0; k < i; ++k) {
-      const Vector3 normal = Unit(Cross(planes[i], planes[k]));
-      const bool isKnown = std::any_of(normals.begin(), normals.end(), [&](const Vector3& known) {
-        return Length(Cross(known, normal)) < 1e-4;
-      });
-      if (!isKnown) normals.push_back(normal);
-    }
+    for (std::size_t k = 0; k < i; ++k) add(Unit(Cross(planes[i], planes[k])));
   }
+  if (const std::optional<Vector3> edges = MainEdgeDirection(subject.boundary)) add(*edges);
   return normals;
 }
 

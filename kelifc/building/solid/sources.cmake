@@ -1,5 +1,7 @@
 target_sources(kelifc_building PRIVATE
   solid/arrangement.cpp
+  solid/arrangement_contacts.cpp
+  solid/arrangement_planes.cpp
   solid/body.cpp
   solid/box_tree.cpp
   solid/combine.cpp
