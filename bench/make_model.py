@@ -203,8 +203,8 @@ class Shapes(Statements):
     def breps(self, count, sizes):
         """Adds a representation of several bodies of faces beside each other."""
         width, depth, height = sizes
-        items = [self.brep(self.random.choice(SHELL_CORNERS), 1.25 * i * width, width, depth, height)
-                 for i in range(count)]
+        items = [self.brep(self.random.choice(SHELL_CORNERS), 1.25 * i * width,
+                           width, depth, height) for i in range(count)]
         return self.representation("Body", "Brep", items)
 
     def share_bodies(self, sizes):
@@ -304,22 +304,26 @@ class Model(Shapes):
         self.add_root("IFCRELFILLSELEMENT", "", f"$,#{opening},#{door}")
         return door
 
+    def connect(self, before, wall):
+        """Connects a wall with the one before it, if there is one. Returns the wall."""
+        if before:
+            self.add_root("IFCRELCONNECTSPATHELEMENTS", "",
+                          f"$,$,#{before},#{wall},(),(),.ATSTART.,.ATEND.")
+        return wall
+
     def elements(self, place, first):
-        """Adds the elements of a storey, and returns the numbers of all and of those without layers."""
+        """Adds the elements of a storey. Returns the numbers of all, and of those without layers."""
         found, plain, last_wall = [], [], 0
         for index in range(first, first + ELEMENTS_PER_STOREY):
             kind = KINDS[index % len(KINDS)]
             element, own_place = self.element(kind, place, self.random.choice(SCALES), index)
             found.append(element)
-            if kind.layered:
-                if kind.axis and last_wall:
-                    self.add_root("IFCRELCONNECTSPATHELEMENTS", "", f"$,$,#{last_wall},#{element},"
-                                  "(),(),.ATSTART.,.ATEND.")
-                last_wall = element if kind.axis else last_wall
-            else:
+            if not kind.layered:
                 plain.append(element)
-            if kind.entity == "IFCWALLSTANDARDCASE" and index % 3 == 0:
-                found.append(self.door(element, own_place, index))
+            if kind.entity == "IFCWALLSTANDARDCASE":
+                last_wall = self.connect(last_wall, element)
+                if index % 3 == 0:
+                    found.append(self.door(element, own_place, index))
             self.flush()
             if self.is_full():
                 break

@@ -9,8 +9,8 @@ import collections
 # A kind of element. `tail` is the text of the attributes after those of all elements. `width`,
 # `depth` and `height` are in millimetres. `body` is the form of the body: an extruded rectangle, an
 # extruded outline in the shape of an L or an I, an extruded rectangle that a plane cuts, shells of
-# faces, or a representation that several elements share. An element with an axis has a line as its second
-# representation. `layered` elements have layers as their material.
+# faces, or a representation that several elements share. An element with an axis has a line as its
+# second representation. `layered` elements have layers as their material.
 Kind = collections.namedtuple("Kind", "entity name tail width depth height body axis layered")
 
 KINDS = (

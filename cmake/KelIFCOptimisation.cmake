@@ -4,7 +4,7 @@
 # scripts/train-profile runs the command.
 option(KELIFC_LTO "Optimise across sources when the shared library is linked; needs g++" OFF)
 set(KELIFC_PROFILE "" CACHE STRING
-  "generate: programs write a profile to the folder `profile` of the build; use: it optimises the code")
+  "generate: programs write a profile to the folder `profile` of the build; use: compile with it")
 set_property(CACHE KELIFC_PROFILE PROPERTY STRINGS "" generate use)
 mark_as_advanced(KELIFC_LTO KELIFC_PROFILE)
 
@@ -19,8 +19,6 @@ if(KELIFC_LTO AND NOT KELIFC_BUILD_SHARED)
   message(FATAL_ERROR "KELIFC_LTO needs KELIFC_BUILD_SHARED")
 elseif(KELIFC_LTO)
   set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
-  # No program replaces functions of the library, so calls of exported functions can be inlined too.
-  add_compile_options(-fno-semantic-interposition)
 endif()
 
 # The profile does not contain all code. Functions without a profile are optimised as usual, instead

@@ -115,18 +115,19 @@ bool IsGlobalId64(const char* text) {
   return text[kLength64] == '\0';
 }
 
-// The NUL is not in the alphabet here, either.
+// A character outside the alphabet has a negative value, and so has the union of all values then.
 bool DecodeGlobalId64(const char* text, _GUID& guid) {
-  if (text == nullptr) return false;
+  if (text == nullptr || std::memchr(text, '\0', kLength64 + 1) != text + kLength64) return false;
   Pieces pieces = {};
+  int all = 0;
   for (std::size_t piece = 0; piece < kPieces; ++piece) {
     for (std::size_t i = 0; i < DigitsOfPiece(piece); ++i) {
       const int digit = DigitOf(kValues64, *text++);
-      if (digit < 0) return false;
+      all |= digit;
       pieces[piece] = (pieces[piece] << 6) | static_cast<std::uint32_t>(digit);
     }
   }
-  if (*text != '\0') return false;
+  if (all < 0) return false;
   guid = FromPieces(pieces);
   return true;
 }

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/number_text.h"
 #include "kelifc/core/text/quoting.h"
 
@@ -30,12 +31,9 @@ struct StatementView::Statement {
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool BeginsName(char c) {
-  return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || c == '_' || c == '!';
-}
+bool BeginsName(char c) { return ascii::IsLetter(c) || c == '_' || c == '!'; }
 bool IsNumberCharacter(char c) {
-  return IsDigit(c) || c == '.' || c == '+' || c == '-' || c == 'E' || c == 'e';
+  return ascii::IsDigit(c) || c == '.' || c == '+' || c == '-' || c == 'E' || c == 'e';
 }
 
 std::string_view TrimEnd(std::string_view text) {
@@ -169,7 +167,7 @@ class StatementView::Reader {
 
   ATTRIBUTE_KIND SkipDigits() {
     const char* const digits = at;
-    while (IsDigit(*at)) ++at;
+    while (ascii::IsDigit(*at)) ++at;
     return at == digits ? ATTRIBUTE_NONE : ATTRIBUTE_REFERENCE;
   }
 
@@ -201,7 +199,7 @@ class StatementView::Reader {
     for (const char c : word) {
       if (detail::IsBlank(c)) continue;
       if (!IsNumberCharacter(c)) return ATTRIBUTE_NONE;
-      hasDigit = hasDigit || IsDigit(c);
+      hasDigit = hasDigit || ascii::IsDigit(c);
       isReal = isReal || c == '.' || c == 'E' || c == 'e';
     }
     return !hasDigit ? ATTRIBUTE_NONE : isReal ? ATTRIBUTE_REAL : ATTRIBUTE_INTEGER;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "kelifc/core/text/ascii.h"
+
 namespace KelIFC {
 namespace {
 
@@ -16,7 +18,7 @@ std::uint64_t ScanBuffer::PeekNumber() const {
   while (at < last && (*at == '\n' || *at == '\r')) ++at;
   if (at == last || *at != '#') return 0;
   std::uint64_t number = 0;
-  for (++at; at < last && *at >= '0' && *at <= '9'; ++at) {
+  for (++at; at < last && ascii::IsDigit(*at); ++at) {
     number = 10 * number + static_cast<std::uint64_t>(*at - '0');
   }
   return number;

@@ -10,6 +10,7 @@
 #include "kelifc/core/detail/cursor.h"
 #include "kelifc/core/member.h"
 #include "kelifc/core/step_file_schema.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/reference_text.h"
 #include "kelifc/core/unknown.h"
 #include "kelifc/server/ifc_server.h"
@@ -47,9 +48,8 @@ Assignment CutUnusualAssignment(char* statement) {
 
 // True if the statement begins with the head of a STEP file, in any case.
 bool BeginsWithHead(const char* statement) {
-  return std::equal(kHead.begin(), kHead.end(), statement, [](char wanted, char found) {
-    return wanted == (found >= 'a' && found <= 'z' ? found - 'a' + 'A' : found);
-  });
+  return std::equal(kHead.begin(), kHead.end(), statement,
+                    [](char wanted, char found) { return wanted == ascii::ToUpperCase(found); });
 }
 
 }  // namespace

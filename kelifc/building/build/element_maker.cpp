@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -12,7 +11,6 @@
 #include "kelifc/building/build/finite.h"
 #include "kelifc/building/profile/make_profile.h"
 #include "kelifc/building/solid/key_writer.h"
-#include "kelifc/building/solid/vector_math.h"
 
 namespace KelIFC::building {
 namespace {
@@ -62,35 +60,6 @@ void AddPoints(const BuildingProfile& profile, std::string& key) {
   }
 }
 
-/// True if all points lie in one plane, within 0.01 mm, or on one line.
-bool IsFlat(const std::vector<Point3>& points) {
-  constexpr double kFlat = 1e-5;
-  if (points.empty()) return true;
-  const Point3& origin = points.front();
-  Vector3 along;
-  for (const Point3& p : points) {
-    if (Length(p - origin) > Length(along)) along = p - origin;
-  }
-  Vector3 normal;
-  for (const Point3& p : points) {
-    const Vector3 across = Cross(along, p - origin);
-    if (Length(across) > Length(normal)) normal = across;
-  }
-  if (!(Length(normal) > kFlat * Length(along))) return true;
-  normal = Unit(normal);
-  return std::all_of(points.begin(), points.end(),
-                     [&](const Point3& p) { return std::abs(Dot(p - origin, normal)) <= kFlat; });
-}
-
-/// Why a body has no volume, if so.
-std::optional<Unreadable> FaultOf(const EvaluatedBody& body, const ProductFacts& product) {
-  if (!IsFinite(body.mesh)) return Unreadable{LossReason::kNotFinite, product.id};
-  if (body.mesh.IsEmpty()) return Unreadable{LossReason::kDegenerate, product.id};
-  if (body.isClosed || !IsFlat(body.mesh.points)) return std::nullopt;
-  const SolidPointer& first = product.items.front();
-  return Unreadable{LossReason::kOpen, first == nullptr ? product.id : first->id};
-}
-
 }  // namespace
 
 void ElementMaker::Announce(const ProductFacts& product) {
@@ -124,7 +93,8 @@ std::optional<Unreadable> ElementMaker::MakeNew(const ProductFacts& product, Ele
                                                 Made& made) {
   BodyResult result = bodies.Make(product.items, product.placement);
   if (result.fault) return result.fault;
-  if (std::optional<Unreadable> fault = FaultOf(result.body, product)) return fault;
+  if (!IsFinite(result.body.mesh)) return Unreadable{LossReason::kNotFinite, product.id};
+  if (result.body.mesh.IsEmpty()) return Unreadable{LossReason::kDegenerate, product.id};
   Idealisation ideal = Idealise({&result.body, &product, role, &madeProfiles, &madeReadings});
   if (!IsFinite(ideal)) return Unreadable{LossReason::kNotFinite, product.id};
   made.points = result.body.mesh.points.size();

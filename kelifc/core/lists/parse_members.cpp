@@ -9,6 +9,7 @@
 #include "kelifc/core/detail/position_index.h"
 #include "kelifc/core/lists/parenthesised.h"
 #include "kelifc/core/parameter_value.h"
+#include "kelifc/core/text/ascii.h"
 #include "kelifc/core/text/number_text.h"
 #include "kelifc/core/text/reference_text.h"
 #include "kelifc/core/value.h"
@@ -48,7 +49,7 @@ const char* ReadNumbers(const detail::Parenthesised& inner, IfcUnknown* owner, I
   const char* cursor = inner.begin;
   while (cursor != nullptr) {
     const char* first = detail::SkipBlanks(cursor);
-    if (*first == '#' && first[1] >= '0' && first[1] <= '9') {
+    if (*first == '#' && ascii::IsDigit(first[1])) {
       const std::int64_t number = ReadInteger(first + 1, &first);
       items.Append(owner, static_cast<std::size_t>(number));
     } else if (*first != '$' && *first != '*') {

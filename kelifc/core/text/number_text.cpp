@@ -8,16 +8,17 @@
 #include <string_view>
 
 #include "kelifc/core/detail/cursor.h"
+#include "kelifc/core/text/ascii.h"
+#include "kelifc/core/text/hex.h"
 
 namespace KelIFC {
 
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsHexDigit(char c) { return IsDigit(c) || (c >= 'a' && c <= 'f') || (c >= 'A' && c <= 'F'); }
-bool IsWordCharacter(char c) {
-  return IsDigit(c) || (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
-}
+using ascii::IsDigit;
+
+bool IsHexDigit(char c) { return HexDigit(c) >= 0; }
+bool IsWordCharacter(char c) { return IsDigit(c) || ascii::IsLetter(c) || c == '_'; }
 
 // `word` is in lower case.
 bool StartsWith(const char* text, std::string_view word) {

@@ -110,14 +110,13 @@ SolidPointer Sheet() {
   return Share({55, shells});
 }
 
-TEST(ElementMaker, ABoundaryInOnePlaneIsOpen) {
-  const ReadingOptions options;
-  ElementMaker maker(options);
-  BuildingElement element;
-  const auto fault = maker.Make(Product(1, "IfcPlate", {Sheet()}), element);
-  ASSERT_TRUE(fault);
-  EXPECT_EQ(fault->reason, LossReason::kOpen);
-  EXPECT_EQ(fault->at, 55u);
+TEST(ElementMaker, ABoundaryInOnePlaneIsABodyWithoutVolume) {
+  const BuildingElement plate = MakeElements({Product(1, "IfcPlate", {Sheet()})})[0];
+  EXPECT_EQ(plate.kind, ElementKind::kBody);
+  EXPECT_FALSE(plate.body.isClosed);
+  EXPECT_TRUE(plate.isApproximate);
+  EXPECT_FALSE(plate.volumeRatio);
+  EXPECT_EQ(plate.body.box.max.z, 3.0);
 }
 
 TEST(ElementMaker, ABoundaryWithAGapThatEnclosesAVolumeIsAnElement) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <vector>
+
 namespace KelIFC::detail {
 namespace {
 
@@ -35,6 +38,18 @@ TEST(GuidIndex, ReturnsTheFirstOfSeveralPositionsWithOneIdentifier) {
   index.Add(Guid(1), 7);
   index.Add(Guid(1), 5);
   EXPECT_EQ(index.Find(Guid(1)), 7u);
+}
+
+TEST(GuidIndex, AddsABatchInItsOrder) {
+  std::vector<GuidIndex::Entry> entries;
+  for (std::uint32_t i = 0; i < 100; ++i) entries.push_back({Guid(i % 60), i});
+  GuidIndex index(3);
+  index.AddBatch(entries.data(), entries.data());
+  EXPECT_TRUE(index.IsEmpty());
+  index.AddBatch(entries.data(), entries.data() + 90);
+  index.AddBatch(entries.data() + 90, entries.data() + entries.size());
+  for (std::uint32_t i = 0; i < 60; ++i) ASSERT_EQ(index.Find(Guid(i)), i);
+  EXPECT_EQ(index.Find(Guid(60)), GuidIndex::kNone);
 }
 
 TEST(GuidIndex, TakesTheNullIdentifierForAnyOther) {

@@ -99,7 +99,7 @@ TEST(PieceWriter, LeavesOutDeletedInstances) {
 TEST(PieceWriter, WritesStatementsThatAreLongerThanThePieces) {
   const LoadedModel model = LoadModelOf(kMany);
   for (std::size_t i = 1; i < 25; ++i) {
-    model.server->InsertItem(2000 * 3 + 3 * i, new Probe(std::string(100000, 'x')));
+    model.server->InsertItem(std::size_t{6000} + 3 * i, new Probe(std::string(100000, 'x')));
   }
   const std::string expected = SavedData(*model.server, false);
   EXPECT_EQ(FirstDifference(SavedData(*model.server, false, 3), expected), "");
