@@ -7,7 +7,6 @@
 
 #include "kelifc/core/memory/chunk_map.h"
 #include "kelifc/platform/huge_pages.h"
-#include "kelifc/platform/static_tls.h"
 
 namespace KelIFC {
 
@@ -43,8 +42,8 @@ constexpr std::size_t kFirstPart = std::size_t{16} * 1024;
 
 constexpr std::size_t kLargestAlignment = __STDCPP_DEFAULT_NEW_ALIGNMENT__;
 
-KELIFC_STATIC_TLS thread_local LoadArena* current = nullptr;
-KELIFC_STATIC_TLS thread_local BulkFree* freeing = nullptr;
+thread_local LoadArena* current = nullptr;
+thread_local BulkFree* freeing = nullptr;
 
 // `unit` is a power of two.
 constexpr std::size_t RoundUp(std::size_t size, std::size_t unit) {

@@ -1,11 +1,9 @@
 #include "kelifc/core/references/postponed_work.h"
 
-#include "kelifc/platform/static_tls.h"
-
 namespace KelIFC {
 namespace {
 
-KELIFC_STATIC_TLS thread_local PostponedWork* current = nullptr;
+thread_local PostponedWork* current = nullptr;
 
 }  // namespace
 
