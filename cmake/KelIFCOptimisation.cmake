@@ -19,6 +19,10 @@ if(KELIFC_LTO AND NOT KELIFC_BUILD_SHARED)
   message(FATAL_ERROR "KELIFC_LTO needs KELIFC_BUILD_SHARED")
 elseif(KELIFC_LTO)
   set(CMAKE_INTERPROCEDURAL_OPTIMIZATION ON)
+  # No program replaces functions of the library, so its calls of them can be inlined.
+  add_compile_options(-fno-semantic-interposition)
+  # g++ 12 sees an overflow in operator+ of std::string when it inlines across sources.
+  add_link_options(-Wno-stringop-overflow)
 endif()
 
 # The profile does not contain all code. Functions without a profile are optimised as usual, instead
