@@ -23,14 +23,12 @@ struct SaveOptions {
   /// name, the time and the preprocessor version of FILE_NAME, the statements of unchanged
   /// instances, and everything between the statements.
   ///  - The class of a changed instance writes its statement. The statement of a deleted instance
-  ///  is
-  ///    left out. New instances follow at the end of the last data section, in ascending order of
-  ///    their numbers.
+  ///    is left out. New instances follow at the end of the last data section, in ascending order
+  ///    of their numbers.
   ///  - Instances that a class added during the load are written if the host changed them, or if a
   ///    statement that a class wrote refers to them.
   ///  - The model must have been loaded by LoadIfc, LoadIfcStream or LoadIfcMemory in the dialect
-  ///  of
-  ///    ISO 10303-21. The source is read again, and must still have the same bytes.
+  ///    of ISO 10303-21. The source is read again, and must still have the same bytes.
   bool faithful = false;
 
   /// Receives the progress of the save: the instances that are written, or in a faithful save the
