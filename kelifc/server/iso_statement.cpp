@@ -53,7 +53,7 @@ const char* IsoStatementReader::TakeToken(const char* at) {
 
 const char* IsoStatementReader::TakeLowerCase(const char* at) {
   FlushTo(at);
-  for (; at != limit && ascii::IsLowerCase(*at); ++at) out += static_cast<char>(*at - 'a' + 'A');
+  for (; at != limit && ascii::IsLowerCase(*at); ++at) out += ascii::ToUpperCase(*at);
   return kept = at;
 }
 

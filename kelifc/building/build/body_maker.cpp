@@ -46,7 +46,7 @@ BodyMaker::Use BodyMaker::FindUse(const std::vector<SolidPointer>& items,
   if (found == shared.end() || found->second.items != map->items) return {};
   Shared& entry = found->second;
   const Transform3 motion = Combine(placement, map->transform);
-  // The only use that is left is made in its place, unless an earlier one was moved.
+  // A body with only one use left is made where it is used, unless an earlier use was moved.
   const bool isMoved = (entry.isMoved || entry.usesLeft > 1) && IsMotion(motion);
   return {&entry, map->items.front().get(), motion, isMoved};
 }

@@ -30,7 +30,7 @@ class BodyMaker {
   BodyResult Make(const std::vector<SolidPointer>& items, const Transform3& placement);
 
   /// True if Make would move a shared body to its place. Rounding makes it differ from a body that
-  /// is made in its place.
+  /// is made where it is used.
   bool IsMoved(const std::vector<SolidPointer>& items, const Transform3& placement);
 
   /// Replaces a call of Make, for a caller that has the body already. `points` is the number of its
